@@ -54,7 +54,33 @@ struct XYZPlot {
 
 extern "C" {
 
+// ---------------------------------------------------------------------------------------------------------------------
+// Frame
+// ---------------------------------------------------------------------------------------------------------------------
+
+/// Binomial coefficient C(n, k); 1 when `k` is 0 or `n`.
+///
+/// For fractional arguments: the product of the whole numbers from n - m + 1, truncated, to n, divided by that of the
+/// whole numbers up to m, where m is the smaller of k and n - k. So it is 1 for k < 0 or k > n.
+/// \param n number of things, any double
+/// \param k number chosen, any double
+/// \return the coefficient, plus infinity where it is not representable; NaN when an argument is (but k = 0 gives 1)
 KELPOWER_API double Combination(double n, double k);
+
+/// Inverse hyperbolic tangent, Fisher's z of a correlation.
+/// \param x any double; a correlation
+/// \return atanh(x), with plus and minus infinity at 1 and -1; `x` itself when |x| < 1e-12; -1 when |x| > 1
+KELPOWER_API double InvTanh(double x);
+
+/// Releases the arrays of a curve. `x` becomes null; `y` and `count` stay as they were, so a record must be released
+/// only once.
+/// \param record a record that this library returned
+KELPOWER_API void FreeMemXYPlot(XYPlot* record);
+
+/// Releases the arrays of a surface. `x` and `y` become null; `z` and the counts stay as they were, so a record must be
+/// released only once.
+/// \param record a record that this library returned
+KELPOWER_API void FreeMemXYZPlot(XYZPlot* record);
 
 }  // extern "C"
 

@@ -1,0 +1,48 @@
+#include "frame/rejection.h"
+
+#include "kelcommon/kel_dist_fun.h"
+#include "kelcommon/kel_mv.h"
+
+namespace kelpower {
+
+using KelCommon::KelMV;
+using KelMath::KelDistFun;
+
+namespace {
+
+constexpr double kTuning = 1e-12;
+
+double ZeroIfMissing(double probability) { return KelMV::IsMissing(probability) ? 0.0 : probability; }
+
+double LowerTailT(double x, double df, double noncentrality) {
+  return ZeroIfMissing(KelDistFun::NonCentralCdfT(x, df, noncentrality, kTuning));
+}
+
+}  // namespace
+
+FTest FTest::AtLevel(double alpha, double df1, double df2, double eps) {
+  return {df1, df2, KelDistFun::IdfF(1 - alpha, df1, df2), eps};
+}
+
+double FTest::Power(double noncentrality) const {
+  return 1 - ZeroIfMissing(KelDistFun::NonCentralCdfF(critical, df1, df2, noncentrality, eps));
+}
+
+TTest TTest::OneSided(double alpha, double df, QuantileTuning tuning) {
+  return {df, KelDistFun::IdfT(1 - alpha, df, tuning.a, tuning.b)};
+}
+
+TTest TTest::TwoSided(double alpha, double df, QuantileTuning tuning) { return OneSided(alpha * 0.5, df, tuning); }
+
+double TTest::PowerUpperTail(double noncentrality) const { return 1 - LowerTailT(critical, df, noncentrality); }
+
+double TTest::PowerBothTails(double noncentrality) const {
+  return 1 - LowerTailT(critical, df, noncentrality) + LowerTailT(-critical, df, noncentrality);
+}
+
+double IntervalQuantileT(double alpha, double df) {
+  const QuantileTuning tuning;
+  return KelDistFun::IdfT(1 - alpha * 0.5, df, tuning.a, tuning.b);
+}
+
+}  // namespace kelpower
