@@ -82,6 +82,178 @@ KELPOWER_API void FreeMemXYPlot(XYPlot* record);
 /// \param record a record that this library returned
 KELPOWER_API void FreeMemXYZPlot(XYZPlot* record);
 
+// ---------------------------------------------------------------------------------------------------------------------
+// One-way analysis of variance
+// ---------------------------------------------------------------------------------------------------------------------
+//
+// Arguments shared by this section:
+/// \param numGroups number of groups k, at least 2
+/// \param groupMeans array of numGroups means
+/// \param pooledSD within-group standard deviation, above 0, in the unit of the means
+/// \param groupSizes array of numGroups sizes, in subjects; whole numbers are not required. Their sum is the total size
+/// \param groupRatios array of numGroups allocation weights of any positive scale; only their ratios matter
+/// \param groupSizesOut receives numGroups group sizes; earlier content is discarded, left alone on invalid input
+/// \param sampleSize total size over all groups, in subjects
+/// \param effectSize of the overall test: f, or a proportion of variance; of a contrast: L / pooledSD
+/// \param isEtaSquared flag: the effect size is a proportion of variance explained (eta squared), not f
+/// \param contrastCoefficients array of numGroups coefficients, which should sum to 0
+/// \param isDirectional flag: one-sided t test in the direction of the effect, instead of the two-sided F test
+/// \param firstGroup,secondGroup numbers of the two groups compared, 1 <= first < second <= numGroups
+/// \param adjustment for all k (k - 1) / 2 comparisons: 0 Bonferroni, 1 Sidak, 2 none; any other value gives missing
+/// \param alpha significance level, above 0 and below 1; of a half-width: 1 minus the confidence level
+/// \param power wanted power; not checked
+/// \param halfWidth wanted half-width of the confidence interval, in the unit of the means; not checked
+/// \param from,to ends of the sample-size axis; 0 in either asks for a range around the design, 1 is invalid
+/// \param esFrom,esTo ends of the effect-size axis; esTo = 0 asks for 0 to 1 (proportion of variance) or 0 to 2 (f)
+/// \param sdFrom,sdTo ends of the standard-deviation axis; 0 in either asks for a range made from the means
+/// \param stepFraction step of an axis as a fraction of its range, above 0
+//
+// Invalid input gives missing, an empty chart. Power values at which a test is not defined are missing.
+// Method: Cohen, J. (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., ch. 8, with exact
+// noncentral distributions; docs/anova.md has the formulas.
+
+/// Total sample size: the sum of the group sizes, 0 when numGroups <= 0. Nothing is checked.
+KELPOWER_API double SampleSizeTotal(int numGroups, const double* groupSizes);
+
+/// Effect size f of a set of means: the root mean square of their deviations from the size-weighted grand mean, divided
+/// by numGroups - 1, in units of pooledSD. Missing for invalid input, alpha included.
+KELPOWER_API double RMSSEOverallTest(int numGroups, const double* groupMeans, double pooledSD, const double* groupSizes,
+                                     double alpha);
+
+/// Power of the overall F test for given means.
+KELPOWER_API double PowerOverallTest(int numGroups, const double* groupMeans, double pooledSD, const double* groupSizes,
+                                     double alpha);
+
+/// Power of the overall F test for a given effect size, which is not checked.
+KELPOWER_API double PowerOverallTestwES(int numGroups, double effectSize, int isEtaSquared, const double* groupSizes,
+                                        double alpha);
+
+/// Total size at which the overall F test of given means reaches a power: the sum of the group sizes, each rounded up
+/// and at least 2. An unreachable power gives 2 in every group.
+KELPOWER_API double PowerReverseOverallTest(int numGroups, const double* groupMeans, double pooledSD,
+                                            const double* groupRatios, double power, DoubleVector& groupSizesOut,
+                                            double alpha);
+
+/// The same for a given effect size.
+KELPOWER_API double PowerReverseOverallTestwES(int numGroups, double effectSize, int isEtaSquared,
+                                               const double* groupRatios, double power, DoubleVector& groupSizesOut,
+                                               double alpha);
+
+/// Total size at which the confidence interval of the grand mean has a half-width, spread over the groups as above.
+KELPOWER_API double PowerReversebyHalfCIOverallTest(double halfWidth, int numGroups, const double* groupRatios,
+                                                    double pooledSD, DoubleVector& groupSizesOut, double alpha);
+
+/// Half-width t pooledSD / sqrt(sampleSize) of that interval. Nothing is checked.
+KELPOWER_API double HalfCIOverallTest(double sampleSize, int numGroups, double pooledSD, double alpha);
+
+/// Standardised contrast sum(c_i m_i) / pooledSD.
+///
+/// Coefficients that do not sum to 0 are repaired in the caller's array: the last becomes minus the sum of the others,
+/// also when the result is missing because it then lies outside [-1, 1] or because pooledSD is not above 0.
+KELPOWER_API double EffectSizeSC(int numGroups, const double* groupMeans, double pooledSD,
+                                 double* contrastCoefficients);
+
+/// Power of the test of a contrast of given means. Repairs the coefficients as `EffectSizeSC` does.
+KELPOWER_API double PowerSC(int numGroups, const double* groupMeans, double pooledSD, const double* groupSizes,
+                            double* contrastCoefficients, int isDirectional, double alpha);
+
+/// Power of the test of a contrast of given standardised effect. The coefficients are taken as they are.
+KELPOWER_API double PowerSCwES(int numGroups, double effectSize, const double* groupSizes,
+                               const double* contrastCoefficients, int isDirectional, double alpha);
+
+/// Total size at which the test of a contrast reaches a power, spread over the groups as for the overall test. The
+/// caller's coefficients are not repaired: the search works on a repaired copy.
+KELPOWER_API double PowerReverseSC(int numGroups, const double* groupMeans, double pooledSD, const double* groupRatios,
+                                   double* contrastCoefficients, double power, DoubleVector& groupSizesOut,
+                                   int isDirectional, double alpha);
+
+/// The same for a given standardised effect.
+KELPOWER_API double PowerReverseSCwES(int numGroups, double effectSize, const double* groupRatios,
+                                      const double* contrastCoefficients, double power, DoubleVector& groupSizesOut,
+                                      int isDirectional, double alpha);
+
+/// Total size at which the confidence interval of a contrast has a half-width, spread over the groups as above.
+KELPOWER_API double PowerReversebyHalfCISCTest(double halfWidth, int numGroups, const double* groupRatios,
+                                               const double* contrastCoefficients, double pooledSD,
+                                               DoubleVector& groupSizesOut, double alpha);
+
+/// Half-width of the confidence interval of a contrast. Nothing is checked. `groupSizes` are relative weights.
+KELPOWER_API double HalfCISCTest(double sampleSize, int numGroups, const double* groupSizes,
+                                 const double* contrastCoefficients, double pooledSD, double alpha);
+
+/// Standardised difference (m_first - m_second) / pooledSD.
+/// \param unused not used; may be null
+KELPOWER_API double EffectSizePairwiseDiff(int numGroups, const double* groupMeans, double pooledSD, const void* unused,
+                                           int firstGroup, int secondGroup);
+
+/// Power of the two-sided test of the difference between two groups, at the adjusted level.
+KELPOWER_API double PowerPairwiseDiff(int numGroups, const double* groupMeans, double pooledSD,
+                                      const double* groupSizes, int firstGroup, int secondGroup, int adjustment,
+                                      double alpha);
+
+/// Total size at which that test reaches a power, spread over the groups as for the overall test. With an unknown
+/// adjustment `groupSizesOut` holds missing values.
+KELPOWER_API double PowerReversePairwiseDiff(int numGroups, const double* groupMeans, double pooledSD,
+                                             const double* groupRatios, int firstGroup, int secondGroup, double power,
+                                             DoubleVector& groupSizesOut, int adjustment, double alpha);
+
+/// Total size at which the interval of the difference has a half-width. The group numbers are not checked.
+KELPOWER_API double PowerReversebyHalfCIPairwiseDiff(double halfWidth, int numGroups, const double* groupRatios,
+                                                     int firstGroup, int secondGroup, double pooledSD,
+                                                     DoubleVector& groupSizesOut, int adjustment, double alpha);
+
+/// Half-width of the interval of the difference. Only the adjustment is checked.
+KELPOWER_API double HalfCIPairwiseDiff(double sampleSize, int numGroups, const double* groupSizes, int firstGroup,
+                                       int secondGroup, double pooledSD, int adjustment, double alpha);
+
+/// Power of the overall test against total size; `groupSizes` are relative weights away from their own sum.
+KELPOWER_API XYPlot PlotNOverallTest(int numGroups, const double* groupMeans, double pooledSD, const double* groupSizes,
+                                     int from, int to, double alpha);
+
+/// The same for a given effect size.
+KELPOWER_API XYPlot PlotNOverallTestFES(int numGroups, double effectSize, int isEtaSquared, const double* groupSizes,
+                                        int from, int to, double alpha);
+
+/// Power of the overall test against effect size. Values in single precision.
+KELPOWER_API XYPlot PlotESOverallTest(int numGroups, int isEtaSquared, const double* groupSizes, double esFrom,
+                                      double esTo, double alpha, double stepFraction);
+
+/// Power of the overall test against the standard deviation; pooledSD is only checked. Values in single precision.
+KELPOWER_API XYPlot PlotSDOverallTest(int numGroups, const double* groupMeans, double pooledSD,
+                                      const double* groupSizes, double sdFrom, double sdTo, double alpha,
+                                      double stepFraction);
+
+/// Power of the overall test over total size (x) and standard deviation (y). A level of 1 and above is not invalid
+/// here: every value is then missing.
+KELPOWER_API XYZPlot PlotNaSDOverallTest(int numGroups, const double* groupMeans, double pooledSD,
+                                         const double* groupSizes, int from, int to, double sdFrom, double sdTo,
+                                         double alpha, double stepFraction);
+
+/// Power of the overall test over total size (x) and effect size (y); levels as above. `effectSize` is that of the
+/// design and serves the automatic range of sizes.
+KELPOWER_API XYZPlot PlotNaESOverallTest(int numGroups, double effectSize, int isEtaSquared, const double* groupSizes,
+                                         int from, int to, double esFrom, double esTo, double alpha,
+                                         double stepFraction);
+
+/// Power of the test of a contrast against total size. Repairs the coefficients at the first point that is computed.
+KELPOWER_API XYPlot PlotNSC(int numGroups, const double* groupMeans, double pooledSD, const double* groupSizes,
+                            double* contrastCoefficients, int from, int to, int isDirectional, double alpha);
+
+/// The same for a given standardised effect. There is no automatic range: 0 is a total size of 0.
+KELPOWER_API XYPlot PlotNSCFES(int numGroups, double effectSize, const double* groupSizes,
+                               const double* contrastCoefficients, int from, int to, int isDirectional, double alpha);
+
+/// Power of the test of a contrast against the standard deviation. Values in single precision. Repairs the
+/// coefficients.
+KELPOWER_API XYPlot PlotSDSC(int numGroups, const double* groupMeans, double pooledSD, const double* groupSizes,
+                             double* contrastCoefficients, double sdFrom, double sdTo, int isDirectional, double alpha,
+                             double stepFraction);
+
+/// Power of the test of a contrast over total size (x) and standard deviation (y). Repairs the coefficients.
+KELPOWER_API XYZPlot PlotNaSDSC(int numGroups, const double* groupMeans, double pooledSD, const double* groupSizes,
+                                double* contrastCoefficients, int from, int to, double sdFrom, double sdTo,
+                                int isDirectional, double alpha, double stepFraction);
+
 }  // extern "C"
 
 #endif

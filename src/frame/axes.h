@@ -18,9 +18,9 @@ struct Axis {
 
 /// Which positions an axis between two ends has besides the whole steps below its end.
 enum class AxisEnd {
-  Open,     ///< none: stops one step short of the end
-  OnGrid,   ///< one more step, which may pass the end by a fraction of it
-  Exact     ///< the end itself; the last step is shorter where the range is no whole number of steps
+  Open,    ///< none: stops one step short of the end
+  OnGrid,  ///< one more step, which may pass the end by a fraction of it
+  Exact    ///< the end itself; the last step is shorter where the range is no whole number of steps
 };
 
 // Makers of axes. No axis (nullopt) is the answer to a count that is not a number, negative or above 2,147,483,647;
