@@ -19,13 +19,18 @@ double WeightedGrandMean(int numGroups, const double* groupMeans, const double* 
   return groupMeans[0] + offset;
 }
 
+double LargestDistance(int numGroups, const double* groupMeans, double center) {
+  double largest = 0;
+  for (int i = 0; i < numGroups; ++i) {
+    const double distance = std::fabs(groupMeans[i] - center);
+    if (!(distance <= largest)) largest = distance;
+  }
+  return largest;
+}
+
 GroupSpread GroupSpread::Of(int numGroups, const double* groupMeans, const double* groupSizes) {
   const double grandMean = WeightedGrandMean(numGroups, groupMeans, groupSizes);
-  double scale = 0;
-  for (int i = 0; i < numGroups; ++i) {
-    const double distance = std::fabs(groupMeans[i] - grandMean);
-    if (!(distance <= scale)) scale = distance;
-  }
+  const double scale = LargestDistance(numGroups, groupMeans, grandMean);
   if (scale == 0) return {0, 0};
 
   const double totalSize = SampleSizeTotal(numGroups, groupSizes);

@@ -11,11 +11,14 @@ namespace kelpower {
 /// close to each other keep the digits of their differences. NaN without groups.
 double WeightedGrandMean(int numGroups, const double* groupMeans, const double* groupSizes);
 
+/// The largest |m_i - center|, in whose units squares of deviations neither overflow nor underflow.
+double LargestDistance(int numGroups, const double* groupMeans, double center);
+
 /// How far the group means lie apart, weighted by the group sizes: S = sum (n_i / W) (m_i - G)^2.
 /// S is kept as scale^2 * scaledVariance, because neither the square of a deviation nor its product with a total size
 /// may overflow where the noncentrality does not.
 struct GroupSpread {
-  double scale;           ///< the largest |m_i - G|
+  double scale;           ///< LargestDistance from the grand mean G
   double scaledVariance;  ///< S / scale^2
 
   static GroupSpread Of(int numGroups, const double* groupMeans, const double* groupSizes);

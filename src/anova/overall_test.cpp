@@ -25,12 +25,14 @@ extern "C" double RMSSEOverallTest(int numGroups, const double* groupMeans, doub
   if (RejectsAlpha(alpha)) return KelMV::Missing();
 
   const double grandMean = WeightedGrandMean(numGroups, groupMeans, groupSizes);
+  const double scale = LargestDistance(numGroups, groupMeans, grandMean);
+  if (scale == 0) return 0;
   double sumOfSquares = 0;
   for (int i = 0; i < numGroups; ++i) {
-    const double deviation = (groupMeans[i] - grandMean) / pooledSD;
+    const double deviation = (groupMeans[i] - grandMean) / scale;
     sumOfSquares += deviation * deviation;
   }
-  return std::sqrt(sumOfSquares / (numGroups - 1));
+  return std::sqrt(sumOfSquares / (numGroups - 1)) * (scale / pooledSD);
 }
 
 extern "C" double PowerOverallTest(int numGroups, const double* groupMeans, double pooledSD, const double* groupSizes,

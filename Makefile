@@ -1,0 +1,56 @@
+# One command per wish. Each installs the Debian packages that it needs and finds missing.
+
+PRESET ?= release
+BUILD := build/$(PRESET)
+PREFIX ?= /usr/local
+FUZZ_SECONDS ?= 60
+JOBS := $(shell nproc)
+
+.PHONY: run test build bench lint format install accuracy fuzz asan tsan coverage valgrind clean
+
+run: build ## build and plan a real study
+	@sh tools/run_example.sh $(BUILD)/cli/kelpower
+
+build: configure-$(PRESET)
+	@cmake --build $(BUILD) -j $(JOBS)
+
+configure-%:
+	@sh tools/install_packages.sh build
+	@cmake --preset $* -Wno-dev --log-level=WARNING
+
+test: build ## build and pass all tests
+	@ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
+
+bench: build ## measure speed
+	$(BUILD)/bench/kelpower_bench
+
+accuracy: build ## measure accuracy and write docs/accuracy.md
+	$(BUILD)/tools/accuracy/kelpower_accuracy docs/accuracy.md
+
+lint: configure-dev ## check format and common mistakes
+	@sh tools/install_packages.sh lint
+	@sh tools/lint.sh build/dev
+
+format: ## format all sources in place
+	@sh tools/install_packages.sh lint
+	@git ls-files '*.h' '*.cpp' | xargs clang-format -i
+
+asan tsan coverage: ## all tests under sanitizers, or with coverage
+	@$(MAKE) --no-print-directory test PRESET=$@
+
+fuzz: ## fuzz kelcommon for FUZZ_SECONDS
+	@sh tools/install_packages.sh build fuzz
+	@cmake --preset fuzz -Wno-dev --log-level=WARNING
+	@cmake --build build/fuzz -j $(JOBS)
+	@mkdir -p build/fuzz/corpus
+	build/fuzz/fuzz/fuzz_kelcommon -max_total_time=$(FUZZ_SECONDS) -print_final_stats=1 build/fuzz/corpus
+
+valgrind: build ## look for leaks and stray reads in the vector tests
+	@sh tools/install_packages.sh valgrind
+	@sh tools/valgrind.sh $(BUILD)
+
+install: build ## install under PREFIX
+	cmake --install $(BUILD) --prefix $(PREFIX)
+
+clean:
+	rm -rf build

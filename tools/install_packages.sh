@@ -1,0 +1,33 @@
+#!/bin/sh
+# Installs the Debian packages of the named groups that are missing: build, lint, fuzz, valgrind.
+# Says what it does, and is silent and quick when nothing is missing.
+set -eu
+
+packages=""
+for group in "$@"; do
+  case $group in
+    build) packages="$packages g++ cmake ninja-build pkg-config python3 libboost1.81-dev libcli11-dev libfmt-dev
+                     nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev gnuplot-nox" ;;
+    lint) packages="$packages clang-format clang-tidy" ;;
+    fuzz) packages="$packages clang libclang-rt-14-dev" ;;
+    valgrind) packages="$packages valgrind" ;;
+    *) echo "$0: unknown group '$group'" >&2; exit 2 ;;
+  esac
+done
+
+missing=""
+for package in $packages; do
+  dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing="$missing $package"
+done
+[ -n "$missing" ] || exit 0
+
+asRoot=""
+if [ "$(id -u)" -ne 0 ]; then
+  command -v sudo >/dev/null || { echo "These packages are missing and need root to install:$missing" >&2; exit 1; }
+  asRoot=sudo
+fi
+echo "Installing missing Debian packages:$missing"
+export DEBIAN_FRONTEND=noninteractive
+$asRoot apt-get update -qq
+# shellcheck disable=SC2086 # a list of names
+$asRoot apt-get install -y -qq --no-install-recommends $missing >/dev/null
