@@ -19,7 +19,7 @@ const std::set<std::string> kDoublePrecisionCharts = {
     "PlotNaSDOverallTest", "PlotNaESOverallTest", "PlotNaSDSC",
 };
 
-// Compares the outcome of one call. `Find...` names what is compared in the messages.
+// Compares the outcome of one call. `what` names in the messages what is compared.
 class Comparison {
 public:
   Comparison(const VectorCase& vectorCase, Findings& findings) : case_(vectorCase), findings_(findings) {}
