@@ -43,12 +43,9 @@ double SinglePrecisionDifference(double actual, double expected) {
 
 double Bound(Metric metric) {
   switch (metric) {
-    case Metric::kValue:
-      return 1e-10;
-    case Metric::kGrid:
-      return 1e-13;
-    case Metric::kSingle:
-      return 1;
+    case Metric::kValue: return 1e-10;
+    case Metric::kGrid: return 1e-13;
+    case Metric::kSingle: return 1;
   }
   return 0;
 }

@@ -181,9 +181,10 @@ TEST(Engine, ReportsWrongCharts) {
   EXPECT_FAILS(
       R"({"fn": "PlotNSC", "kind": "edge", "args": [1, 0.10000000149011612], "ret": {"count": 1, "x": [0], "y": [0.1]}})",
       "y[0] = 0.1");
-  EXPECT_EQ(RunText(R"({"fn": "PlotLine", "kind": "edge", "args": [0, 0.5], "ret": {"count": 0, "x": null, "y": null}})")
-                .findings.failures.size(),
-            2u);
+  EXPECT_EQ(
+      RunText(R"({"fn": "PlotLine", "kind": "edge", "args": [0, 0.5], "ret": {"count": 0, "x": null, "y": null}})")
+          .findings.failures.size(),
+      2u);
   EXPECT_EQ(RunText(R"({"fn": "PlotLine", "kind": "edge", "args": [-1, 0.5], "ret": {"count": 0, "x": [], "y": []}})")
                 .findings.failures.size(),
             2u);

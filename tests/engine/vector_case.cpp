@@ -67,18 +67,10 @@ std::int32_t ToInt(const json& value, std::int64_t min, std::int64_t max) {
 Argument MakeArgument(const json& value, char type) {
   Argument argument;
   switch (type) {
-    case 'd':
-      argument.number = ToDouble(value);
-      break;
-    case 'i':
-      argument.integer = ToInt(value, INT32_MIN, INT32_MAX);
-      break;
-    case 'b':
-      argument.integer = ToInt(value, 0, UINT8_MAX);
-      break;
-    case 'v':
-      argument.array = ToArray(value);
-      break;
+    case 'd': argument.number = ToDouble(value); break;
+    case 'i': argument.integer = ToInt(value, INT32_MIN, INT32_MAX); break;
+    case 'b': argument.integer = ToInt(value, 0, UINT8_MAX); break;
+    case 'v': argument.array = ToArray(value); break;
     case 'p':
     case 'P':
       argument.isNull = value.is_null();
@@ -91,8 +83,7 @@ Argument MakeArgument(const json& value, char type) {
     case 'n':
       if (!value.is_null()) throw std::runtime_error("an unused pointer is null");
       break;
-    default:
-      throw std::runtime_error(std::string("cases cannot hold arguments of the type ") + type);
+    default: throw std::runtime_error(std::string("cases cannot hold arguments of the type ") + type);
   }
   return argument;
 }

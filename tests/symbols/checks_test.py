@@ -7,9 +7,11 @@ from check_symbols import compare_complete, compare_names, compare_order, compar
 from header import read_declarations
 
 HEADER = r"""
-/// \name Means
+// ----------------------------------------
+// Means
+// ----------------------------------------
+//
 /// \param alpha level of the test
-/// @{
 
 /// Power of the test.
 /// \param mean1, mean2 the means
@@ -18,7 +20,10 @@ KELPOWER_API double Power(double mean1, double mean2,
 
 /// Spread of `sizes`.
 KELPOWER_API double Spread(const double* sizes);
-/// @}
+
+// ----------------------------------------
+// Other
+// ----------------------------------------
 
 /// A level outside its section.
 KELPOWER_API void Level(double alpha);

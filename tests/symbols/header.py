@@ -4,6 +4,7 @@ import re
 from dataclasses import dataclass, field
 
 DECLARATION = re.compile(r"^KELPOWER_API\s+(?P<result>\w+)\s+(?P<name>\w+)\((?P<parameters>[^)]*)\);", re.S)
+RULER = "// ----------"
 
 
 @dataclass
@@ -21,23 +22,21 @@ def parameter_names(text):
 def read_declarations(text):
     """The declarations in order.
 
-    A comment that contains \\name opens a section: what it says about parameters holds for every declaration up to
-    the comment that closes it with @} or opens the next one.
+    A comment that begins with a ruler opens a section: what it says about parameters holds for every declaration up to
+    the next ruler.
     """
     declarations = []
     comment, section = [], ""
     lines = text.split("\n")
     for number, line in enumerate(lines):
-        if line.lstrip().startswith("///"):
-            comment.append(line.lstrip()[3:])
+        if line.startswith("//"):
+            comment.append(line)
             continue
-        block = "\n".join(comment)
-        if r"\name" in block:
-            section, block = block, ""
-        elif "@}" in block:
-            section = ""
-        comment = []
+        if comment and comment[0].startswith(RULER):
+            section, comment = "\n".join(comment), []
         match = DECLARATION.match("\n".join(lines[number:])) if line.startswith("KELPOWER_API") else None
         if match:
+            block = "\n".join(each for each in comment if each.startswith("///"))
             declarations.append(Declaration(match["name"], parameter_names(match["parameters"]), block, section))
+        comment = []
     return declarations
