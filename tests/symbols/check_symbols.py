@@ -1,0 +1,78 @@
+"""Compares the list of exported names with the header and with the built library.
+
+The list is what the linker's version script is made from, and the linker accepts names that nothing defines.
+"""
+
+import argparse
+import json
+import subprocess
+import sys
+from pathlib import Path
+
+from header import read_declarations
+
+
+def read_list(path):
+    lines = (line.strip() for line in Path(path).read_text().splitlines())
+    return [line for line in lines if line and not line.startswith("#")]
+
+
+def defined_symbols(nm, library):
+    """The visible names that the library defines, C++ names demangled."""
+    output = subprocess.run([nm, "-DC", "--defined-only", library], check=True, capture_output=True, text=True).stdout
+    return [line.split(maxsplit=2)[2] for line in output.splitlines()]
+
+
+def compare_names(what, listed, found):
+    problems = [f"{name}: listed twice" for name in sorted({name for name in listed if listed.count(name) > 1})]
+    problems += [f"{name}: listed, but not in the {what}" for name in sorted(set(listed) - set(found))]
+    problems += [f"{name}: in the {what}, but not listed" for name in sorted(set(found) - set(listed))]
+    return problems
+
+
+def compare_order(listed, declared):
+    return [] if listed == declared else ["the list and the header have the names in different order"]
+
+
+def compare_parameters(signatures, declarations):
+    problems = []
+    for declaration in declarations:
+        if declaration.name not in signatures:
+            problems.append(f"{declaration.name}: not part of the interface")
+            continue
+        expected = [name for name, _ in signatures[declaration.name][1]]
+        if declaration.parameters != expected:
+            problems.append(f"{declaration.name}: parameters are {declaration.parameters}, expected {expected}")
+    return problems
+
+
+def compare_complete(signatures, listed):
+    return [f"{name}: part of the interface, but not listed" for name in sorted(set(signatures) - set(listed))]
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--list", required=True, help="file of exported names")
+    parser.add_argument("--library", required=True)
+    parser.add_argument("--nm", default="nm")
+    parser.add_argument("--header", help="header that declares the listed names with KELPOWER_API")
+    parser.add_argument("--signatures", help="JSON file of all functions of the interface with their parameters")
+    parser.add_argument("--complete", action="store_true", help="demand that every function of --signatures is listed")
+    arguments = parser.parse_args()
+
+    listed = read_list(arguments.list)
+    problems = compare_names("library", listed, defined_symbols(arguments.nm, arguments.library))
+    if arguments.header:
+        declarations = read_declarations(Path(arguments.header).read_text())
+        declared = [declaration.name for declaration in declarations]
+        problems += compare_names("header", listed, declared) or compare_order(listed, declared)
+        if arguments.signatures:
+            signatures = json.loads(Path(arguments.signatures).read_text())
+            problems += compare_parameters(signatures, declarations)
+            problems += compare_complete(signatures, listed) if arguments.complete else []
+    print("\n".join(problems) or f"{len(listed)} names agree")
+    sys.exit(1 if problems or not listed else 0)
+
+
+if __name__ == "__main__":
+    main()
