@@ -1,4 +1,5 @@
 #include <cmath>
+#include <limits>
 
 #include "kelpower.h"
 
@@ -8,8 +9,8 @@
 // factors, because the coefficient is at least C(2m, m). So no argument needs more steps than that.
 extern "C" double Combination(double n, double k) {
   if (k == 0 || k == n) return 1.0;
+  if (std::isnan(n) || std::isnan(k)) return std::numeric_limits<double>::quiet_NaN();
   const double m = n - k < k ? n - k : k;
-  if (!(m == m)) return m;
 
   const double first = std::trunc(n - m + 1);
   const double last = std::floor(n);
