@@ -1,0 +1,96 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "planner/catalogue.h"
+#include "planner/render.h"
+
+namespace planner {
+namespace {
+
+/// "--n, --group-sizes LIST"
+std::string OptionText(const Parameter& parameter) {
+  std::string text = "--" + parameter.name;
+  for (const std::string& alias : parameter.aliases) text += ", --" + alias;
+  switch (parameter.kind) {
+    case Kind::Flag: return text;
+    case Kind::Number: return text + " NUMBER";
+    case Kind::Choice: return text + " WORD";
+    case Kind::List:
+    case Kind::PerGroup: return text + " LIST";
+  }
+  return text;
+}
+
+std::string Details(const Parameter& parameter) {
+  if (parameter.kind == Kind::Flag) return "";
+  std::string text = "  (" + Allowed(parameter);
+  if (parameter.fallback) text += "; default " + Shown(*parameter.fallback);
+  return text + ")";
+}
+
+/// "--means --sd --n", with what may be given besides in brackets.
+std::string Usage(const Test& test, const Route& route) {
+  std::string text = "kelpower " + test.name;
+  for (const std::string& need : route.needs) text += " --" + need;
+  const std::string asker = AskedBy(route.question);
+  if (!asker.empty()) text += " --" + asker;
+  for (const std::string& option : route.accepts) text += " [--" + option + "]";
+  return text;
+}
+
+std::string UsageSection(const Test& test, const Paint& paint) {
+  std::string text;
+  for (Question question : {Question::Power, Question::SampleSize, Question::HalfWidth,
+                            Question::SampleSizeForHalfWidth}) {
+    if (!Answers(test, question)) continue;
+    text += fmt::format("{}To be told {}{}\n", paint.heading, Wording(question), paint.end);
+    for (const Route& route : test.routes) {
+      if (route.question == question) text += "  " + Usage(test, route) + '\n';
+    }
+    text += '\n';
+  }
+  return text;
+}
+
+std::string OptionLines(const Test& test) {
+  std::size_t width = 0;
+  for (const Parameter& parameter : test.parameters) width = std::max(width, OptionText(parameter).size());
+  std::string text;
+  for (const Parameter& parameter : test.parameters) {
+    const std::string unit = parameter.unit.empty() ? "" : ", in " + parameter.unit;
+    text += fmt::format("  {:<{}}  {}{}\n", OptionText(parameter), width, parameter.meaning, unit);
+    if (const std::string details = Details(parameter); !details.empty()) {
+      text += fmt::format("  {:<{}}{}\n", "", width, details);
+    }
+  }
+  text += fmt::format("  {:<{}}  text (default), json, csv or markdown\n", "--format WORD", width);
+  text += fmt::format("  {:<{}}  this help\n", "--help", width);
+  return text;
+}
+
+}  // namespace
+
+std::string RenderHelp(const Test& test, const Paint& paint) {
+  std::string text = fmt::format("{}{}{}\n{}\nWhat you leave out is what is solved for.\n\n", paint.heading, test.title,
+                                 paint.end, test.about);
+  text += UsageSection(test, paint);
+  text += fmt::format("{}Options{}\n{}", paint.heading, paint.end, OptionLines(test));
+  for (const Example& example : test.examples) {
+    text += fmt::format("\n{}Example{}: kelpower {}\n  {}\n", paint.heading, paint.end, example.arguments,
+                        example.sentence);
+  }
+  return text;
+}
+
+std::string RenderList(const Paint& paint) {
+  std::size_t width = 0;
+  for (const Test& test : Tests()) width = std::max(width, test.name.size());
+  std::string text;
+  for (const Test& test : Tests()) {
+    text += fmt::format("{}{:<{}}{}  {}\n", paint.heading, test.name, width, paint.end, test.title);
+  }
+  return text;
+}
+
+}  // namespace planner

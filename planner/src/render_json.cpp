@@ -1,0 +1,115 @@
+#include <nlohmann/json.hpp>
+
+#include "planner/catalogue.h"
+#include "planner/render.h"
+
+namespace planner {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json ToJson(const Value& value) {
+  return std::visit([](const auto& held) { return Json(held); }, value);
+}
+
+Json ToJson(const std::vector<Entry>& entries) {
+  Json object = Json::object();
+  for (const Entry& entry : entries) object[entry.name] = ToJson(entry.value);
+  return object;
+}
+
+const char* Name(Kind kind) {
+  switch (kind) {
+    case Kind::Number: return "number";
+    case Kind::Flag: return "flag";
+    case Kind::Choice: return "choice";
+    case Kind::List: return "list";
+    case Kind::PerGroup: return "per-group";
+  }
+  return "";
+}
+
+const char* Name(Question question) {
+  switch (question) {
+    case Question::Power: return "power";
+    case Question::SampleSize: return "sample-size";
+    case Question::HalfWidth: return "half-width";
+    case Question::SampleSizeForHalfWidth: return "sample-size-for-half-width";
+  }
+  return "";
+}
+
+Json ToJson(const Limits& limits) {
+  Json object = Json::object();
+  if (limits.low > -std::numeric_limits<double>::infinity()) {
+    object[limits.lowAllowed ? "minimum" : "exclusive-minimum"] = limits.low;
+  }
+  if (limits.high < std::numeric_limits<double>::infinity()) {
+    object[limits.highAllowed ? "maximum" : "exclusive-maximum"] = limits.high;
+  }
+  if (limits.whole) object["whole"] = true;
+  return object;
+}
+
+Json ToJson(const Parameter& parameter) {
+  Json object;
+  object["name"] = parameter.name;
+  object["aliases"] = parameter.aliases;
+  object["kind"] = Name(parameter.kind);
+  object["label"] = parameter.label;
+  object["meaning"] = parameter.meaning;
+  if (!parameter.unit.empty()) object["unit"] = parameter.unit;
+  object["limits"] = ToJson(parameter.limits);
+  if (parameter.length != 0) object["length"] = parameter.length;
+  if (parameter.kind == Kind::PerGroup) object["spreads"] = parameter.spreads;
+  for (const Choice& choice : parameter.choices) object["choices"].push_back(choice.word);
+  if (parameter.fallback) object["default"] = ToJson(*parameter.fallback);
+  return object;
+}
+
+Json ToJson(const Route& route) {
+  return {{"question", Name(route.question)},
+          {"needs", route.needs},
+          {"accepts", route.accepts},
+          {"export", route.exportName}};
+}
+
+Json ToJson(const Test& test) {
+  Json object;
+  object["name"] = test.name;
+  object["title"] = test.title;
+  object["about"] = test.about;
+  object["counted"] = test.counted;
+  for (const Parameter& parameter : test.parameters) object["parameters"].push_back(ToJson(parameter));
+  for (const Route& route : test.routes) object["routes"].push_back(ToJson(route));
+  for (const Example& example : test.examples) {
+    object["examples"].push_back({{"arguments", example.arguments}, {"sentence", example.sentence}});
+  }
+  return object;
+}
+
+std::string Text(const Json& json) {
+  return json.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+}
+
+}  // namespace
+
+std::string RenderJson(const Report& report) {
+  Json object;
+  object["test"] = report.test->name;
+  object["question"] = Name(report.question);
+  object["inputs"] = ToJson(report.inputs);
+  object["results"] = ToJson(report.results);
+  object["sentence"] = report.sentence;
+  if (!report.note.empty()) object["note"] = report.note;
+  object["export"] = report.exportName;
+  return Text(object);
+}
+
+std::string RenderListJson() {
+  Json tests = Json::array();
+  for (const Test& test : Tests()) tests.push_back(ToJson(test));
+  return Text(tests);
+}
+
+}  // namespace planner

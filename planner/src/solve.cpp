@@ -1,0 +1,122 @@
+#include "planner/solve.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "choose_route.h"
+#include "planner/error.h"
+#include "report.h"
+
+namespace planner {
+namespace {
+
+// The searches end within 1e-6 of the size that reaches the target exactly, so rounding up may miss it by a hair.
+constexpr double targetSlack = 1e-6;
+
+// The library gives every group at least two, and just that when its search finds nothing.
+constexpr double smallestGroup = 2;
+
+bool AsksForSizes(Question question) {
+  return question == Question::SampleSize || question == Question::SampleSizeForHalfWidth;
+}
+
+bool IsPower(double value) { return value >= 0 && value <= 1; }
+
+bool IsHalfWidth(double value) { return value >= 0 && std::isfinite(value); }
+
+bool AreSizes(const Numbers& sizes) {
+  return std::all_of(sizes.begin(), sizes.end(), [](double size) { return size > 0 && std::isfinite(size); });
+}
+
+void CheckValues(const Test& test, const Given& given) {
+  for (const auto& [name, value] : given) {
+    const Parameter* parameter = FindParameter(test, name);
+    if (!parameter) throw InputError(fmt::format("--{} is not an option of {}.", name, test.name));
+    Check(*parameter, value);
+  }
+}
+
+const Condition* FirstFailing(const std::vector<Condition>& conditions, const Inputs& inputs) {
+  for (const Condition& condition : conditions) {
+    const auto has = [&](const std::string& name) { return inputs.Has(name); };
+    if (!std::all_of(condition.about.begin(), condition.about.end(), has)) continue;
+    if (!condition.holds(inputs)) return &condition;
+  }
+  return nullptr;
+}
+
+/// A power of at most alpha is reached without any effect.
+bool NeedsEffect(Question question, const Inputs& inputs) {
+  return question == Question::SampleSize && inputs.Number("power") > inputs.Alpha();
+}
+
+double ValueOf(const Route& route, const Inputs& inputs) {
+  const double value = route.call(inputs).front();
+  const bool good = route.question == Question::Power ? IsPower(value) : IsHalfWidth(value);
+  if (!good) throw NoSolution("These inputs have no answer: " + Wording(route.question) + " cannot be computed.");
+  return value;
+}
+
+/// The power or half-width at the sizes found, by the route that answers that question from the same inputs.
+double ValueAtSizes(const Test& test, Question question, const Inputs& inputs, const Names& given,
+                    const Numbers& sizes) {
+  Inputs atSizes = inputs;
+  atSizes.Erase("ratios");
+  atSizes.Set("n", test.groups == 1 ? Value(sizes.front()) : Value(sizes));
+  Names names{"n"};
+  for (const std::string& name : given) {
+    const auto takes = [&](const Route& route) { return route.question == question && Takes(route, name); };
+    if (std::any_of(test.routes.begin(), test.routes.end(), takes)) names.push_back(name);
+  }
+  return ValueOf(ChooseRoute(test, question, names), atSizes);
+}
+
+/// How far the value stays behind the target; not positive when it reaches it.
+double Shortfall(Question question, double value, const Inputs& inputs) {
+  if (question == Question::SampleSize) return inputs.Number("power") - value - targetSlack;
+  return value - inputs.Number("half-width") * (1 + targetSlack);
+}
+
+std::string Target(Question question, const Inputs& inputs) {
+  const std::string name = AskedBy(question);
+  return fmt::format("a {} of {}", name, Shown(inputs.At(name)));
+}
+
+Report SolveSizes(const Test& test, const Route& route, const Inputs& inputs, const Names& given) {
+  const Numbers sizes = route.call(inputs);
+  const std::string unreachable =
+      fmt::format("No sample size was found that reaches {}.", Target(route.question, inputs));
+  if (!AreSizes(sizes)) throw NoSolution(unreachable);
+  const Question valueQuestion = route.question == Question::SampleSize ? Question::Power : Question::HalfWidth;
+  const double value = ValueAtSizes(test, valueQuestion, inputs, given, sizes);
+  const bool fallsShort = Shortfall(route.question, value, inputs) > 0;
+  const bool smallest = std::all_of(sizes.begin(), sizes.end(), [](double size) { return size <= smallestGroup; });
+  if (fallsShort && smallest) throw NoSolution(unreachable);
+  Report report = MakeReport(test, route, inputs, {sizes, true, value});
+  if (fallsShort) report.note = "At the sizes rounded to whole numbers the target is missed slightly.";
+  return report;
+}
+
+Numbers GivenSizes(const Test& test, const Inputs& inputs) {
+  return test.groups == 1 ? Numbers{inputs.Number("n")} : inputs.List("n");
+}
+
+}  // namespace
+
+Report Solve(const Test& test, const Given& given, StopRequest* stop) {
+  CheckValues(test, given);
+  const Names names = GivenNames(given);
+  const Route& route = ChooseRoute(test, AskedQuestion(names), names);
+  const Inputs inputs(test, given, stop);
+  if (const Condition* failing = FirstFailing(test.conditions, inputs)) throw InputError(failing->sentence);
+  if (NeedsEffect(route.question, inputs)) {
+    if (const Condition* failing = FirstFailing(test.solvable, inputs)) throw NoSolution(failing->sentence);
+  }
+  if (AsksForSizes(route.question)) return SolveSizes(test, route, inputs, names);
+  const double value = ValueOf(route, inputs);
+  return MakeReport(test, route, inputs, {GivenSizes(test, inputs), false, value});
+}
+
+}  // namespace planner

@@ -1,0 +1,55 @@
+#include "planner/value.h"
+
+#include <fmt/format.h>
+
+#include <charconv>
+#include <cmath>
+
+namespace planner {
+namespace {
+
+std::string Joined(const Numbers& numbers, const std::string& lastSeparator) {
+  std::string text;
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    if (i > 0) text += i + 1 == numbers.size() ? lastSeparator : ", ";
+    text += Shortest(numbers[i]);
+  }
+  return text;
+}
+
+}  // namespace
+
+bool ParseNumber(std::string_view text, double& number) {
+  // from_chars takes no plus sign, and takes words such as "nan" and "inf".
+  if (!text.empty() && text.front() == '+') {
+    text.remove_prefix(1);
+    if (!text.empty() && text.front() == '-') return false;
+  }
+  double parsed = 0;
+  const char* end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, parsed);
+  if (error != std::errc{}) return false;
+  if (stop != end) return false;
+  if (!std::isfinite(parsed)) return false;
+  number = parsed;
+  return true;
+}
+
+std::string Shortest(double number) {
+  constexpr double largestPlainWhole = 1e15;
+  if (number == std::trunc(number) && std::abs(number) < largestPlainWhole) return fmt::format("{:.0f}", number);
+  return fmt::format("{}", number);
+}
+
+std::string Listed(const Numbers& numbers) { return Joined(numbers, ", "); }
+
+std::string ListedInSentence(const Numbers& numbers) { return Joined(numbers, " and "); }
+
+std::string Shown(const Value& value) {
+  if (const auto* flag = std::get_if<bool>(&value)) return *flag ? "yes" : "no";
+  if (const auto* number = std::get_if<double>(&value)) return Shortest(*number);
+  if (const auto* numbers = std::get_if<Numbers>(&value)) return Listed(*numbers);
+  return std::get<std::string>(value);
+}
+
+}  // namespace planner

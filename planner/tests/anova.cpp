@@ -1,0 +1,146 @@
+#include "catalogue.h"
+#include "kelpower.h"
+
+namespace planner {
+namespace {
+
+bool LeavesErrorDegrees(const Inputs& in) { return SampleSizeTotal(in.Groups(), in.List("n").data()) > in.Groups(); }
+
+bool MeansDiffer(const Inputs& in) {
+  for (double mean : in.List("means")) {
+    if (mean != in.List("means").front()) return true;
+  }
+  return false;
+}
+
+Test Describe() {
+  Test test;
+  test.name = "anova";
+  test.title = "One-way analysis of variance: overall F test";
+  test.about = "Tests whether the means of several independent groups are all equal.";
+  test.groups = groupsFromInputs;
+
+  test.parameters = {
+      PerGroup("means", "group means", "mean expected in each group"),
+      Number("sd", "standard deviation", "standard deviation within the groups").Above(0),
+      Number("effect-f", "effect size f", "standard deviation of the group means over that within the groups")
+          .AtLeast(0)
+          .AtMost(1e6),
+      Number("eta-squared", "eta squared", "proportion of variance explained by the groups").AtLeast(0).Below(1),
+      PerGroup("n", "group sizes", "observations in each group").AtLeast(1).AtMost(1e9).Whole().Spreads().Alias(
+          "group-sizes"),
+      PerGroup("ratios", "allocation ratios", "shares of the groups in the sizes to find, on any scale")
+          .AtLeast(1e-6)
+          .AtMost(1e6)
+          .Spreads(),
+      Number("groups", "number of groups", "number of groups, where no list of means, sizes or ratios tells it")
+          .AtLeast(2)
+          .AtMost(10000)
+          .Whole(),
+  };
+
+  test.routes = {
+      {Question::Power, {"means", "sd", "n"}, {"groups"}, "PowerOverallTest",
+       [](const Inputs& in) -> Numbers {
+         return {PowerOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(),
+                                  in.Alpha())};
+       }},
+      {Question::Power, {"effect-f", "n"}, {"groups"}, "PowerOverallTestwES",
+       [](const Inputs& in) -> Numbers {
+         return {PowerOverallTestwES(in.Groups(), in.Number("effect-f"), 0, in.List("n").data(), in.Alpha())};
+       }},
+      {Question::Power, {"eta-squared", "n"}, {"groups"}, "PowerOverallTestwES",
+       [](const Inputs& in) -> Numbers {
+         return {PowerOverallTestwES(in.Groups(), in.Number("eta-squared"), 1, in.List("n").data(), in.Alpha())};
+       }},
+      {Question::SampleSize, {"means", "sd"}, {"ratios", "groups"}, "PowerReverseOverallTest",
+       [](const Inputs& in) {
+         Numbers sizes;
+         PowerReverseOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.Weights().data(),
+                                 in.Number("power"), sizes, in.Alpha());
+         return sizes;
+       }},
+      {Question::SampleSize, {"effect-f"}, {"ratios", "groups"}, "PowerReverseOverallTestwES",
+       [](const Inputs& in) {
+         Numbers sizes;
+         PowerReverseOverallTestwES(in.Groups(), in.Number("effect-f"), 0, in.Weights().data(), in.Number("power"),
+                                    sizes, in.Alpha());
+         return sizes;
+       }},
+      {Question::SampleSize, {"eta-squared"}, {"ratios", "groups"}, "PowerReverseOverallTestwES",
+       [](const Inputs& in) {
+         Numbers sizes;
+         PowerReverseOverallTestwES(in.Groups(), in.Number("eta-squared"), 1, in.Weights().data(), in.Number("power"),
+                                    sizes, in.Alpha());
+         return sizes;
+       }},
+      {Question::HalfWidth, {"sd", "n"}, {"groups"}, "HalfCIOverallTest",
+       [](const Inputs& in) -> Numbers {
+         const double total = SampleSizeTotal(in.Groups(), in.List("n").data());
+         return {HalfCIOverallTest(total, in.Groups(), in.Number("sd"), in.Alpha())};
+       }},
+      {Question::SampleSizeForHalfWidth, {"sd"}, {"ratios", "groups"}, "PowerReversebyHalfCIOverallTest",
+       [](const Inputs& in) {
+         Numbers sizes;
+         PowerReversebyHalfCIOverallTest(in.Number("half-width"), in.Groups(), in.Weights().data(), in.Number("sd"),
+                                         sizes, in.Alpha());
+         return sizes;
+       }},
+  };
+
+  test.conditions = {
+      {{"n"}, LeavesErrorDegrees,
+       "--n leaves nothing to estimate the standard deviation from: at least one group needs 2 or more."},
+  };
+  test.solvable = {
+      {{"means"}, MeansDiffer, "The means are all equal: without an effect, no sample size reaches the power."},
+      {{"effect-f"}, [](const Inputs& in) { return in.Number("effect-f") > 0; },
+       "The effect size is zero: without an effect, no sample size reaches the power."},
+      {{"eta-squared"}, [](const Inputs& in) { return in.Number("eta-squared") > 0; },
+       "The effect size is zero: without an effect, no sample size reaches the power."},
+  };
+
+  test.derived = {
+      {"rmsse", "root-mean-square standardized effect", {"means", "sd"},
+       [](const Inputs& in) {
+         return RMSSEOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.Weights().data(),
+                                 in.Alpha());
+       }},
+  };
+
+  test.phrases = {
+      {"effect",
+       {{"means", "group means of {means} with a standard deviation of {sd} within the groups"},
+        {"effect-f", "an effect size f of {effect-f}"},
+        {"eta-squared", "an eta squared of {eta-squared}"}}},
+  };
+  test.sentences = {
+      {Question::Power,
+       "With {sizes}, the overall F test of a one-way analysis of variance at a significance level of {alpha} has a "
+       "power of {power} to detect {effect}."},
+      {Question::SampleSize,
+       "To detect {effect} with a power of {target-power}, the overall F test of a one-way analysis of variance at a "
+       "significance level of {alpha} needs {sizes}; its power is then {power}."},
+      {Question::HalfWidth,
+       "With {sizes} and a standard deviation of {sd} within the groups, the {confidence} confidence interval of the "
+       "grand mean has a half-width of {half-width}."},
+      {Question::SampleSizeForHalfWidth,
+       "For a {confidence} confidence interval of the grand mean with a half-width of at most {target-half-width}, at a "
+       "standard deviation of {sd} within the groups, the study needs {sizes}; the half-width is then {half-width}."},
+  };
+
+  test.examples = {
+      {"anova --means 10,12,15 --sd 6 --n 20,20,20", ""},
+      {"anova --means 10,12,15 --sd 6 --power 0.9", ""},
+      {"anova --effect-f 0.25 --power 0.8 --ratios 2,1,1", ""},
+      {"anova --sd 6 --n 20 --groups 3 --interval", ""},
+      {"anova --sd 6 --half-width 1.5 --groups 3", ""},
+  };
+  return test;
+}
+
+}  // namespace
+
+Test AnovaTest() { return WithCommonParameters(Describe()); }
+
+}  // namespace planner

@@ -1,0 +1,21 @@
+#include "catalogue.h"
+
+#include "planner/catalogue.h"
+
+namespace planner {
+
+const std::vector<Test>& Tests() {
+  static const std::vector<Test> tests = {
+      AnovaTest(),
+  };
+  return tests;
+}
+
+const Test* FindTest(const std::string& name) {
+  for (const Test& test : Tests()) {
+    if (test.name == name) return &test;
+  }
+  return nullptr;
+}
+
+}  // namespace planner

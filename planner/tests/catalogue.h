@@ -1,0 +1,10 @@
+#pragma once
+
+#include "planner/test.h"
+
+// The descriptions, one file each; catalogue.cpp lists them.
+namespace planner {
+
+Test AnovaTest();
+
+}  // namespace planner
