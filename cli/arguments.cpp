@@ -97,8 +97,8 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
   const std::string nearest = Nearest(option, OptionNames(command));
   const std::string hint = nearest.empty() ? fmt::format("\"kelpower {} --help\" names them", command.get_name())
                                            : fmt::format("did you mean {}?", nearest);
-  throw InputError(fmt::format("\"{}\" is not an option of {}; {}{}", option, command.get_name(), hint,
-                               nearest.empty() ? "." : ""));
+  throw InputError(
+      fmt::format("\"{}\" is not an option of {}; {}{}", option, command.get_name(), hint, nearest.empty() ? "." : ""));
 }
 
 [[noreturn]] void RejectCommand(const std::string& word) {
@@ -125,10 +125,10 @@ Request RequestOf(const CLI::App& app) {
     request.command = request.test ? Command::TestHelp : Command::Overview;
     return request;
   }
-  if (const auto extras = app.remaining(true); !extras.empty()) RejectExtra(command, extras.front());
   request.format = FormatOf(command);
   request.command = request.test ? Command::Solve : Command::List;
   if (request.test) request.given = GivenOf(command, *request.test);
+  if (const auto extras = app.remaining(true); !extras.empty()) RejectExtra(command, extras.front());
   return request;
 }
 

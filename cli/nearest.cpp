@@ -30,7 +30,7 @@ std::string Nearest(const std::string& typed, const std::vector<std::string>& wo
   std::size_t least = 3;  // more letters off than two is another word
   for (const std::string& word : words) {
     const std::size_t distance = Distance(typed, word);
-    if (distance >= least || distance >= word.size()) continue;
+    if (distance >= least || 2 * distance >= word.size()) continue;
     least = distance;
     nearest = word;
   }

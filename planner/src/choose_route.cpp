@@ -58,10 +58,11 @@ void RejectUnused(const Test& test, Question question, const std::vector<const R
   for (const std::string& name : given) {
     if (AnyTakesAll(routes, {name})) continue;
     if (question == Question::Power) {
-      throw InputError(fmt::format("--{} has a use only together with {}.", name, Options(AskersOf(test, name), " or ")));
+      throw InputError(
+          fmt::format("--{} has a use only together with {}.", name, Options(AskersOf(test, name), " or ")));
     }
-    throw InputError(fmt::format("--{} asks for {}, so --{} cannot be given as well.", AskedBy(question),
-                                 Wording(question), name));
+    throw InputError(
+        fmt::format("--{} asks for {}, so --{} cannot be given as well.", AskedBy(question), Wording(question), name));
   }
 }
 

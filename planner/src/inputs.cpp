@@ -43,8 +43,8 @@ int CountGroups(const Test& test, const Given& values) {
   if (groups.count == 0) throw InputError("The number of groups is not known: give --groups.");
   if (groups.count < 2) throw InputError(fmt::format("--{} tells 1 group, but must tell at least 2.", groups.option));
   if (groups.count > maxGroups) {
-    throw InputError(fmt::format("--{} tells {} groups, but at most {} are allowed.", groups.option, groups.count,
-                                 maxGroups));
+    throw InputError(
+        fmt::format("--{} tells {} groups, but at most {} are allowed.", groups.option, groups.count, maxGroups));
   }
   return static_cast<int>(groups.count);
 }

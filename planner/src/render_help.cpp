@@ -41,8 +41,8 @@ std::string Usage(const Test& test, const Route& route) {
 
 std::string UsageSection(const Test& test, const Paint& paint) {
   std::string text;
-  for (Question question : {Question::Power, Question::SampleSize, Question::HalfWidth,
-                            Question::SampleSizeForHalfWidth}) {
+  for (Question question :
+       {Question::Power, Question::SampleSize, Question::HalfWidth, Question::SampleSizeForHalfWidth}) {
     if (!Answers(test, question)) continue;
     text += fmt::format("{}To be told {}{}\n", paint.heading, Wording(question), paint.end);
     for (const Route& route : test.routes) {

@@ -1,3 +1,6 @@
+#include <cmath>
+#include <cstdint>
+#include <limits>
 #include <nlohmann/json.hpp>
 
 #include "planner/catalogue.h"
@@ -8,8 +11,20 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+/// Whole numbers are written without a decimal point.
+Json ToJson(double number) {
+  constexpr double largestExactWhole = 9007199254740992;  // 2^53
+  if (number == std::trunc(number) && std::abs(number) <= largestExactWhole) return static_cast<std::int64_t>(number);
+  return number;
+}
+
 Json ToJson(const Value& value) {
-  return std::visit([](const auto& held) { return Json(held); }, value);
+  if (const auto* flag = std::get_if<bool>(&value)) return *flag;
+  if (const auto* number = std::get_if<double>(&value)) return ToJson(*number);
+  if (const auto* word = std::get_if<std::string>(&value)) return *word;
+  Json list = Json::array();
+  for (double number : std::get<Numbers>(value)) list.push_back(ToJson(number));
+  return list;
 }
 
 Json ToJson(const std::vector<Entry>& entries) {
@@ -42,10 +57,10 @@ const char* Name(Question question) {
 Json ToJson(const Limits& limits) {
   Json object = Json::object();
   if (limits.low > -std::numeric_limits<double>::infinity()) {
-    object[limits.lowAllowed ? "minimum" : "exclusive-minimum"] = limits.low;
+    object[limits.lowAllowed ? "minimum" : "exclusive-minimum"] = ToJson(limits.low);
   }
   if (limits.high < std::numeric_limits<double>::infinity()) {
-    object[limits.highAllowed ? "maximum" : "exclusive-maximum"] = limits.high;
+    object[limits.highAllowed ? "maximum" : "exclusive-maximum"] = ToJson(limits.high);
   }
   if (limits.whole) object["whole"] = true;
   return object;
@@ -88,9 +103,7 @@ Json ToJson(const Test& test) {
   return object;
 }
 
-std::string Text(const Json& json) {
-  return json.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
-}
+std::string Text(const Json& json) { return json.dump(2, ' ', false, Json::error_handler_t::replace) + '\n'; }
 
 }  // namespace
 

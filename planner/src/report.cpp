@@ -104,8 +104,7 @@ std::vector<Entry> InputEntries(const Test& test, const Route& route, const Inpu
   return entries;
 }
 
-std::vector<Entry> ResultEntries(const Test& test, const Route& route, const Inputs& inputs,
-                                 const Findings& findings) {
+std::vector<Entry> ResultEntries(const Test& test, const Route& route, const Inputs& inputs, const Findings& findings) {
   std::vector<Entry> entries;
   const bool grouped = test.groups != 1;
   for (const Derived& derived : test.derived) {

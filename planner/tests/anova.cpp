@@ -1,10 +1,9 @@
 #include "catalogue.h"
+#include "group_parameters.h"
 #include "kelpower.h"
 
 namespace planner {
 namespace {
-
-bool LeavesErrorDegrees(const Inputs& in) { return SampleSizeTotal(in.Groups(), in.List("n").data()) > in.Groups(); }
 
 bool MeansDiffer(const Inputs& in) {
   for (double mean : in.List("means")) {
@@ -21,65 +20,82 @@ Test Describe() {
   test.groups = groupsFromInputs;
 
   test.parameters = {
-      PerGroup("means", "group means", "mean expected in each group"),
-      Number("sd", "standard deviation", "standard deviation within the groups").Above(0),
+      GroupMeans(),
+      WithinSd(),
       Number("effect-f", "effect size f", "standard deviation of the group means over that within the groups")
           .AtLeast(0)
           .AtMost(1e6),
       Number("eta-squared", "eta squared", "proportion of variance explained by the groups").AtLeast(0).Below(1),
-      PerGroup("n", "group sizes", "observations in each group").AtLeast(1).AtMost(1e9).Whole().Spreads().Alias(
-          "group-sizes"),
-      PerGroup("ratios", "allocation ratios", "shares of the groups in the sizes to find, on any scale")
-          .AtLeast(1e-6)
-          .AtMost(1e6)
-          .Spreads(),
-      Number("groups", "number of groups", "number of groups, where no list of means, sizes or ratios tells it")
-          .AtLeast(2)
-          .AtMost(10000)
-          .Whole(),
+      GroupSizes(),
+      AllocationRatios(),
+      GroupCount(),
   };
 
   test.routes = {
-      {Question::Power, {"means", "sd", "n"}, {"groups"}, "PowerOverallTest",
+      {Question::Power,
+       {"means", "sd", "n"},
+       {"groups"},
+       "PowerOverallTest",
        [](const Inputs& in) -> Numbers {
-         return {PowerOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(),
-                                  in.Alpha())};
+         return {
+             PowerOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(), in.Alpha())};
        }},
-      {Question::Power, {"effect-f", "n"}, {"groups"}, "PowerOverallTestwES",
+      {Question::Power,
+       {"effect-f", "n"},
+       {"groups"},
+       "PowerOverallTestwES",
        [](const Inputs& in) -> Numbers {
          return {PowerOverallTestwES(in.Groups(), in.Number("effect-f"), 0, in.List("n").data(), in.Alpha())};
        }},
-      {Question::Power, {"eta-squared", "n"}, {"groups"}, "PowerOverallTestwES",
+      {Question::Power,
+       {"eta-squared", "n"},
+       {"groups"},
+       "PowerOverallTestwES",
        [](const Inputs& in) -> Numbers {
          return {PowerOverallTestwES(in.Groups(), in.Number("eta-squared"), 1, in.List("n").data(), in.Alpha())};
        }},
-      {Question::SampleSize, {"means", "sd"}, {"ratios", "groups"}, "PowerReverseOverallTest",
+      {Question::SampleSize,
+       {"means", "sd"},
+       {"ratios", "groups"},
+       "PowerReverseOverallTest",
        [](const Inputs& in) {
          Numbers sizes;
          PowerReverseOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.Weights().data(),
                                  in.Number("power"), sizes, in.Alpha());
          return sizes;
        }},
-      {Question::SampleSize, {"effect-f"}, {"ratios", "groups"}, "PowerReverseOverallTestwES",
+      {Question::SampleSize,
+       {"effect-f"},
+       {"ratios", "groups"},
+       "PowerReverseOverallTestwES",
        [](const Inputs& in) {
          Numbers sizes;
          PowerReverseOverallTestwES(in.Groups(), in.Number("effect-f"), 0, in.Weights().data(), in.Number("power"),
                                     sizes, in.Alpha());
          return sizes;
        }},
-      {Question::SampleSize, {"eta-squared"}, {"ratios", "groups"}, "PowerReverseOverallTestwES",
+      {Question::SampleSize,
+       {"eta-squared"},
+       {"ratios", "groups"},
+       "PowerReverseOverallTestwES",
        [](const Inputs& in) {
          Numbers sizes;
          PowerReverseOverallTestwES(in.Groups(), in.Number("eta-squared"), 1, in.Weights().data(), in.Number("power"),
                                     sizes, in.Alpha());
          return sizes;
        }},
-      {Question::HalfWidth, {"sd", "n"}, {"groups"}, "HalfCIOverallTest",
+      {Question::HalfWidth,
+       {"sd", "n"},
+       {"groups"},
+       "HalfCIOverallTest",
        [](const Inputs& in) -> Numbers {
          const double total = SampleSizeTotal(in.Groups(), in.List("n").data());
          return {HalfCIOverallTest(total, in.Groups(), in.Number("sd"), in.Alpha())};
        }},
-      {Question::SampleSizeForHalfWidth, {"sd"}, {"ratios", "groups"}, "PowerReversebyHalfCIOverallTest",
+      {Question::SampleSizeForHalfWidth,
+       {"sd"},
+       {"ratios", "groups"},
+       "PowerReversebyHalfCIOverallTest",
        [](const Inputs& in) {
          Numbers sizes;
          PowerReversebyHalfCIOverallTest(in.Number("half-width"), in.Groups(), in.Weights().data(), in.Number("sd"),
@@ -88,20 +104,21 @@ Test Describe() {
        }},
   };
 
-  test.conditions = {
-      {{"n"}, LeavesErrorDegrees,
-       "--n leaves nothing to estimate the standard deviation from: at least one group needs 2 or more."},
-  };
+  test.conditions = {{{"n"}, LeavesErrorDegrees, noErrorDegrees}};
   test.solvable = {
       {{"means"}, MeansDiffer, "The means are all equal: without an effect, no sample size reaches the power."},
-      {{"effect-f"}, [](const Inputs& in) { return in.Number("effect-f") > 0; },
+      {{"effect-f"},
+       [](const Inputs& in) { return in.Number("effect-f") > 0; },
        "The effect size is zero: without an effect, no sample size reaches the power."},
-      {{"eta-squared"}, [](const Inputs& in) { return in.Number("eta-squared") > 0; },
+      {{"eta-squared"},
+       [](const Inputs& in) { return in.Number("eta-squared") > 0; },
        "The effect size is zero: without an effect, no sample size reaches the power."},
   };
 
   test.derived = {
-      {"rmsse", "root-mean-square standardized effect", {"means", "sd"},
+      {"rmsse",
+       "root-mean-square standardized effect",
+       {"means", "sd"},
        [](const Inputs& in) {
          return RMSSEOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.Weights().data(),
                                  in.Alpha());
@@ -125,16 +142,31 @@ Test Describe() {
        "With {sizes} and a standard deviation of {sd} within the groups, the {confidence} confidence interval of the "
        "grand mean has a half-width of {half-width}."},
       {Question::SampleSizeForHalfWidth,
-       "For a {confidence} confidence interval of the grand mean with a half-width of at most {target-half-width}, at a "
+       "For a {confidence} confidence interval of the grand mean with a half-width of at most {target-half-width}, at "
+       "a "
        "standard deviation of {sd} within the groups, the study needs {sizes}; the half-width is then {half-width}."},
   };
 
   test.examples = {
-      {"anova --means 10,12,15 --sd 6 --n 20,20,20", ""},
-      {"anova --means 10,12,15 --sd 6 --power 0.9", ""},
-      {"anova --effect-f 0.25 --power 0.8 --ratios 2,1,1", ""},
-      {"anova --sd 6 --n 20 --groups 3 --interval", ""},
-      {"anova --sd 6 --half-width 1.5 --groups 3", ""},
+      {"anova --means 10,12,15 --sd 6 --n 20,20,20",
+       "With 20 observations in each of 3 groups (60 in total), the overall F test of a one-way analysis of variance "
+       "at a significance level of 0.05 has a power of 0.6332 to detect group means of 10, 12 and 15 with a standard "
+       "deviation of 6 within the groups."},
+      {"anova --means 10,12,15 --sd 6 --power 0.9",
+       "To detect group means of 10, 12 and 15 with a standard deviation of 6 within the groups with a power of 0.9, "
+       "the overall F test of a one-way analysis of variance at a significance level of 0.05 needs 37 observations in "
+       "each of 3 groups (111 in total); its power is then 0.9001."},
+      {"anova --effect-f 0.25 --power 0.8 --ratios 2,1,1",
+       "To detect an effect size f of 0.25 with a power of 0.8, the overall F test of a one-way analysis of variance "
+       "at a significance level of 0.05 needs 79, 40 and 40 observations in 3 groups (159 in total); its power is then "
+       "0.8049."},
+      {"anova --sd 6 --n 20 --groups 3 --interval",
+       "With 20 observations in each of 3 groups (60 in total) and a standard deviation of 6 within the groups, the "
+       "95% confidence interval of the grand mean has a half-width of 1.551."},
+      {"anova --sd 6 --half-width 1.5 --groups 3",
+       "For a 95% confidence interval of the grand mean with a half-width of at most 1.5, at a standard deviation of 6 "
+       "within the groups, the study needs 22 observations in each of 3 groups (66 in total); the half-width is then "
+       "1.476."},
   };
   return test;
 }

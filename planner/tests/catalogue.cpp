@@ -7,6 +7,8 @@ namespace planner {
 const std::vector<Test>& Tests() {
   static const std::vector<Test> tests = {
       AnovaTest(),
+      ContrastTest(),
+      PairwiseTest(),
   };
   return tests;
 }

@@ -6,5 +6,7 @@
 namespace planner {
 
 Test AnovaTest();
+Test ContrastTest();
+Test PairwiseTest();
 
 }  // namespace planner
