@@ -143,8 +143,7 @@ Test Describe() {
        "grand mean has a half-width of {half-width}."},
       {Question::SampleSizeForHalfWidth,
        "For a {confidence} confidence interval of the grand mean with a half-width of at most {target-half-width}, at "
-       "a "
-       "standard deviation of {sd} within the groups, the study needs {sizes}; the half-width is then {half-width}."},
+       "a standard deviation of {sd} within the groups, the study needs {sizes}; the half-width is then {half-width}."},
   };
 
   test.examples = {

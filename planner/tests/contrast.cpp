@@ -141,15 +141,13 @@ Test Describe() {
        "significance level of {alpha} has a power of {power} to detect {effect}."},
       {Question::SampleSize,
        "To detect {effect} with a power of {target-power}, the {one-sided?one-sided:two-sided} test of the contrast "
-       "with "
-       "coefficients {coefficients} at a significance level of {alpha} needs {sizes}; its power is then {power}."},
+       "with coefficients {coefficients} at a significance level of {alpha} needs {sizes}; its power is then {power}."},
       {Question::HalfWidth,
        "With {sizes} and a standard deviation of {sd} within the groups, the {confidence} confidence interval of the "
        "contrast with coefficients {coefficients} has a half-width of {half-width}."},
       {Question::SampleSizeForHalfWidth,
        "For a {confidence} confidence interval of the contrast with coefficients {coefficients} with a half-width of "
-       "at "
-       "most {target-half-width}, at a standard deviation of {sd} within the groups, the study needs {sizes}; the "
+       "at most {target-half-width}, at a standard deviation of {sd} within the groups, the study needs {sizes}; the "
        "half-width is then {half-width}."},
   };
 

@@ -109,8 +109,7 @@ Test Describe() {
        "difference between groups {pair} {adjust} has a half-width of {half-width}."},
       {Question::SampleSizeForHalfWidth,
        "For a {confidence} confidence interval of the difference between groups {pair} {adjust} with a half-width of "
-       "at "
-       "most {target-half-width}, at a standard deviation of {sd} within the groups, the study needs {sizes}; the "
+       "at most {target-half-width}, at a standard deviation of {sd} within the groups, the study needs {sizes}; the "
        "half-width is then {half-width}."},
   };
 

@@ -1,0 +1,80 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <vector>
+
+#include "planner/catalogue.h"
+#include "run.h"
+
+// Every example that the help and the documents show is run, and must give what they say.
+namespace {
+
+struct ShownRun {
+  std::string where;
+  std::string command;
+  std::string output;
+};
+
+/// The runs shown in a document: in a block that starts with ```console, a line "$ kelpower ..." and what follows it up
+/// to the next such line or the end of the block.
+std::vector<ShownRun> ShownRuns(const std::filesystem::path& document) {
+  const std::string prompt = "$ kelpower";
+  std::vector<ShownRun> runs;
+  std::ifstream file(document);
+  bool inside = false;
+  for (std::string line; std::getline(file, line);) {
+    if (line.rfind("```", 0) == 0) {
+      inside = line == "```console";
+    } else if (inside && line.rfind(prompt, 0) == 0) {
+      runs.push_back({document.filename().string(), line.substr(prompt.size()), ""});
+    } else if (inside && !runs.empty()) {
+      runs.back().output += line + '\n';
+    }
+  }
+  return runs;
+}
+
+std::vector<std::filesystem::path> Documents() {
+  const std::filesystem::path source = KELPOWER_SOURCE;
+  std::vector<std::filesystem::path> documents{source / "README.md", source / "planner" / "README.md"};
+  for (const auto& folder : {source / "docs", source / "tests" / "cli" / "golden"}) {
+    if (!std::filesystem::is_directory(folder)) continue;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+      if (entry.path().extension() == ".md") documents.push_back(entry.path());
+    }
+  }
+  return documents;
+}
+
+/// Blank lines at the end are not compared, so that a document may separate its runs by them.
+std::string WithoutTrailingBlanks(std::string text) {
+  while (!text.empty() && text.back() == '\n') text.pop_back();
+  return text;
+}
+
+TEST(Examples, OfTheHelpGiveTheirSentence) {
+  for (const planner::Test& test : planner::Tests()) {
+    for (const planner::Example& example : test.examples) {
+      const Outcome run = RunProgram(Words(example.arguments));
+      EXPECT_EQ(run.status, 0) << example.arguments << '\n' << run.err;
+      EXPECT_NE(run.out.find("\n\n" + example.sentence + '\n'), std::string::npos) << example.arguments << '\n'
+                                                                                   << run.out;
+    }
+  }
+}
+
+TEST(Examples, OfTheDocumentsGiveTheirOutput) {
+  int count = 0;
+  for (const auto& document : Documents()) {
+    for (const ShownRun& shown : ShownRuns(document)) {
+      const Outcome run = RunProgram(Words(shown.command));
+      EXPECT_EQ(WithoutTrailingBlanks(run.out + run.err), WithoutTrailingBlanks(shown.output))
+          << shown.where << ": kelpower" << shown.command;
+      ++count;
+    }
+  }
+  EXPECT_GE(count, 10) << "the documents are not found";
+}
+
+}  // namespace

@@ -1,0 +1,166 @@
+#include "planner/solve.h"
+
+#include <gtest/gtest.h>
+
+#include "kelpower.h"
+#include "planner/catalogue.h"
+#include "planner/error.h"
+
+namespace planner {
+namespace {
+
+Value ResultOf(const Report& report, const std::string& name) {
+  for (const Entry& entry : report.results) {
+    if (entry.name == name) return entry.value;
+  }
+  ADD_FAILURE() << "no result " << name;
+  return 0.0;
+}
+
+double NumberOf(const Report& report, const std::string& name) { return std::get<double>(ResultOf(report, name)); }
+
+Report Anova(const Given& given) { return Solve(*FindTest("anova"), given); }
+
+template <class Error>
+std::string Complaint(const std::string& test, const Given& given) {
+  try {
+    Solve(*FindTest(test), given);
+  } catch (const Error& error) {
+    return error.what();
+  }
+  ADD_FAILURE() << "nothing thrown";
+  return "";
+}
+
+const Numbers means{10, 12, 15};
+
+TEST(Solve, AnswersThePowerFromTheLibrary) {
+  const Numbers sizes{20, 25, 30};
+  const Report report = Anova({{"means", means}, {"sd", 6.0}, {"n", sizes}});
+  EXPECT_EQ(report.question, Question::Power);
+  EXPECT_EQ(NumberOf(report, "power"), PowerOverallTest(3, means.data(), 6, sizes.data(), 0.05));
+  EXPECT_EQ(NumberOf(report, "total"), 75);
+  EXPECT_EQ(NumberOf(report, "rmsse"), RMSSEOverallTest(3, means.data(), 6, sizes.data(), 0.05));
+}
+
+TEST(Solve, ReportsThePowerAtTheRoundedSizes) {
+  const Report report = Anova({{"means", means}, {"sd", 6.0}, {"power", 0.9}, {"ratios", Numbers{2, 1, 1}}});
+  const auto sizes = std::get<Numbers>(ResultOf(report, "sizes"));
+  EXPECT_EQ(NumberOf(report, "power"), PowerOverallTest(3, means.data(), 6, sizes.data(), 0.05));
+  EXPECT_GE(NumberOf(report, "power"), 0.9);
+  EXPECT_EQ(NumberOf(report, "total"), SampleSizeTotal(3, sizes.data()));
+  EXPECT_NEAR(sizes[0], 2 * sizes[1], 1);
+}
+
+TEST(Solve, AnswersBothSidesOfTheHalfWidth) {
+  const Report found = Anova({{"sd", 6.0}, {"half-width", 1.5}, {"groups", 3.0}});
+  const auto sizes = std::get<Numbers>(ResultOf(found, "sizes"));
+  const Report back = Anova({{"sd", 6.0}, {"n", sizes}, {"interval", true}});
+  EXPECT_EQ(NumberOf(found, "half-width"), NumberOf(back, "half-width"));
+  EXPECT_LE(NumberOf(back, "half-width"), 1.5);
+  Numbers fewer = sizes;
+  for (double& size : fewer) size -= 1;
+  EXPECT_GT(NumberOf(Anova({{"sd", 6.0}, {"n", fewer}, {"interval", true}}), "half-width"), 1.5);
+}
+
+TEST(Solve, SpreadsOneSizeOverTheGroups) {
+  const Report one = Anova({{"means", means}, {"sd", 6.0}, {"n", Numbers{20}}});
+  const Report each = Anova({{"means", means}, {"sd", 6.0}, {"n", Numbers{20, 20, 20}}});
+  EXPECT_EQ(NumberOf(one, "power"), NumberOf(each, "power"));
+  EXPECT_EQ(one.sentence, each.sentence);
+}
+
+TEST(Solve, FlagsThatAreNotSetAskNothing) {
+  const Report report = Anova({{"means", means}, {"sd", 6.0}, {"n", Numbers{20}}, {"interval", false}});
+  EXPECT_EQ(report.question, Question::Power);
+}
+
+TEST(Solve, RefusesInputsThatDisagree) {
+  EXPECT_EQ(Complaint<InputError>("anova", {{"means", means}, {"sd", 6.0}, {"n", Numbers{20, 20}}}),
+            "--n tells 2 groups, but --means tells 3.");
+  EXPECT_EQ(Complaint<InputError>("anova", {{"effect-f", 0.2}, {"n", Numbers{20}}}),
+            "The number of groups is not known: give --groups.");
+  EXPECT_EQ(Complaint<InputError>("anova", {{"means", Numbers{1}}, {"sd", 6.0}, {"n", Numbers{20}}}),
+            "--means tells 1 group, but must tell at least 2.");
+  EXPECT_EQ(Complaint<InputError>("anova", {{"mean", 1.0}}), "--mean is not an option of anova.");
+}
+
+TEST(Solve, RefusesADesignWithoutErrorDegreesOfFreedom) {
+  EXPECT_THROW(Anova({{"means", means}, {"sd", 6.0}, {"n", Numbers{1}}}), InputError);
+  EXPECT_NO_THROW(Anova({{"means", means}, {"sd", 6.0}, {"n", Numbers{1, 1, 2}}}));
+}
+
+TEST(Solve, SaysWhyThereIsNoSampleSize) {
+  EXPECT_EQ(Complaint<NoSolution>("anova", {{"means", Numbers{5, 5}}, {"sd", 6.0}, {"power", 0.8}}),
+            "The means are all equal: without an effect, no sample size reaches the power.");
+  EXPECT_EQ(Complaint<NoSolution>("anova", {{"effect-f", 1e-300}, {"groups", 3.0}, {"power", 0.8}}),
+            "No sample size was found that reaches a power of 0.8.");
+  EXPECT_EQ(Complaint<NoSolution>("anova", {{"sd", 1e300}, {"half-width", 1e-300}, {"groups", 3.0}}),
+            "No sample size was found that reaches a half-width of 1e-300.");
+}
+
+TEST(Solve, NeedsNoEffectForAPowerOfAlpha) {
+  const Report report = Anova({{"means", Numbers{5, 5}}, {"sd", 6.0}, {"power", 0.05}});
+  EXPECT_EQ(std::get<Numbers>(ResultOf(report, "sizes")), (Numbers{2, 2}));
+}
+
+TEST(Solve, ContrastTakesRoundedThirds) {
+  const Given design{{"means", means}, {"sd", 6.0}, {"n", Numbers{20}}};
+  Given typed = design;
+  typed["coefficients"] = Numbers{0.3333333, 0.6666667, -0.9999999};
+  Given exact = design;
+  exact["coefficients"] = Numbers{1.0 / 3, 2.0 / 3, -1};
+  const planner::Test& contrast = *FindTest("contrast");
+  EXPECT_NEAR(NumberOf(Solve(contrast, typed), "power"), NumberOf(Solve(contrast, exact), "power"), 1e-6);
+}
+
+TEST(Solve, ContrastPowerDoesNotDependOnTheScaleOfTheCoefficients) {
+  const Given design{{"means", means}, {"sd", 6.0}, {"n", Numbers{20}}};
+  Given small = design;
+  small["coefficients"] = Numbers{-0.5, -0.5, 1};
+  Given large = design;
+  large["coefficients"] = Numbers{-3.3, -3.3, 6.6};
+  const planner::Test& contrast = *FindTest("contrast");
+  EXPECT_NEAR(NumberOf(Solve(contrast, small), "power"), NumberOf(Solve(contrast, large), "power"), 1e-12);
+}
+
+TEST(Solve, ContrastRefusesCoefficientsThatDoNotSumToZero) {
+  for (const Numbers& coefficients : {Numbers{1, 0, 0}, Numbers{0, 0, 0}, Numbers{1, 1, 5}}) {
+    EXPECT_EQ(Complaint<InputError>("contrast", {{"coefficients", coefficients}, {"sd", 1.0}, {"half-width", 1.0}}),
+              "--coefficients must sum to zero, and must not all be zero.");
+  }
+}
+
+TEST(Solve, PairwiseDoesNotDependOnTheOrderOfThePair) {
+  const Given design{{"means", means}, {"sd", 6.0}, {"n", Numbers{20}}};
+  Given forward = design;
+  forward["pair"] = Numbers{1, 3};
+  Given backward = design;
+  backward["pair"] = Numbers{3, 1};
+  const planner::Test& pairwise = *FindTest("pairwise");
+  EXPECT_EQ(NumberOf(Solve(pairwise, forward), "power"), NumberOf(Solve(pairwise, backward), "power"));
+}
+
+TEST(Solve, PairwiseWithoutAdjustmentIsTheContrastOfThePair) {
+  const Given design{{"means", means}, {"sd", 6.0}, {"n", Numbers{20}}};
+  Given pair = design;
+  pair["pair"] = Numbers{1, 3};
+  pair["adjust"] = std::string("none");
+  Given contrast = design;
+  contrast["coefficients"] = Numbers{1, 0, -1};
+  EXPECT_EQ(NumberOf(Solve(*FindTest("pairwise"), pair), "power"),
+            NumberOf(Solve(*FindTest("contrast"), contrast), "power"));
+}
+
+TEST(Solve, PairwiseRefusesGroupsThatAreNotThere) {
+  const Given design{{"sd", 6.0}, {"n", Numbers{20}}, {"groups", 3.0}, {"interval", true}};
+  Given beyond = design;
+  beyond["pair"] = Numbers{1, 4};
+  EXPECT_EQ(Complaint<InputError>("pairwise", beyond), "--pair names a group beyond the number of groups.");
+  Given same = design;
+  same["pair"] = Numbers{2, 2};
+  EXPECT_EQ(Complaint<InputError>("pairwise", same), "--pair must name two different groups.");
+}
+
+}  // namespace
+}  // namespace planner
