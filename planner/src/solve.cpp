@@ -47,9 +47,9 @@ const Condition* FirstFailing(const std::vector<Condition>& conditions, const In
   return nullptr;
 }
 
-/// A power of at most alpha is reached without any effect.
+/// A power below alpha is reached without any effect; at alpha itself rounding would decide.
 bool NeedsEffect(Question question, const Inputs& inputs) {
-  return question == Question::SampleSize && inputs.Number("power") > inputs.Alpha();
+  return question == Question::SampleSize && inputs.Number("power") >= inputs.Alpha();
 }
 
 double ValueOf(const Route& route, const Inputs& inputs) {

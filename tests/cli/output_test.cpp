@@ -25,7 +25,7 @@ TEST(Output, EveryTestHasHelpAndIsListed) {
 }
 
 TEST(Output, HelpIsGivenWhateverElseIsWrong) {
-  for (const std::string& argument : {"--sd=-1", "--nonsense", "--power=2"}) {
+  for (const char* argument : {"--sd=-1", "--nonsense", "--power=2"}) {
     EXPECT_EQ(RunProgram({"anova", argument, "--help"}).status, 0) << argument;
   }
 }
@@ -33,13 +33,13 @@ TEST(Output, HelpIsGivenWhateverElseIsWrong) {
 TEST(Output, EveryFormatOfEveryExample) {
   for (const planner::Test& test : planner::Tests()) {
     for (const planner::Example& example : test.examples) {
-      for (const std::string& format : {"text", "json", "csv", "markdown"}) {
+      for (const char* format : {"text", "json", "csv", "markdown"}) {
         std::vector<std::string> arguments = Words(example.arguments);
         arguments.insert(arguments.end(), {"--format", format});
         const Outcome run = RunProgram(arguments);
         EXPECT_EQ(run.status, 0) << example.arguments << ' ' << format;
         EXPECT_EQ(run.out.find('\033'), std::string::npos);
-        if (format == "json") {
+        if (std::string(format) == "json") {
           EXPECT_TRUE(nlohmann::json::accept(run.out)) << run.out;
         }
       }
@@ -54,8 +54,8 @@ TEST(Output, AliasesMeanTheSame) {
 }
 
 TEST(Output, NumbersMayStartWithAMinus) {
-  for (const std::string& arguments : {"anova --means -.5,1 --sd 3 --n 5", "anova --means=-.5,1 --sd=3 --n=5",
-                                       "anova --means -0.5,+1 --sd 3e0 --n 5"}) {
+  for (const char* arguments : {"anova --means -.5,1 --sd 3 --n 5", "anova --means=-.5,1 --sd=3 --n=5",
+                                "anova --means -0.5,+1 --sd 3e0 --n 5"}) {
     EXPECT_NE(RunProgram(Words(arguments)).out.find("-0.5, 1\n"), std::string::npos) << arguments;
   }
 }

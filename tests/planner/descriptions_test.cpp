@@ -11,6 +11,10 @@
 
 // What every description must keep to, whichever test it describes.
 namespace planner {
+
+/// How the test framework shows a description.
+void PrintTo(const Test& test, std::ostream* stream) { *stream << test.name; }
+
 namespace {
 
 class Descriptions : public testing::TestWithParam<Test> {};

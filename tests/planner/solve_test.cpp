@@ -99,8 +99,8 @@ TEST(Solve, SaysWhyThereIsNoSampleSize) {
             "No sample size was found that reaches a half-width of 1e-300.");
 }
 
-TEST(Solve, NeedsNoEffectForAPowerOfAlpha) {
-  const Report report = Anova({{"means", Numbers{5, 5}}, {"sd", 6.0}, {"power", 0.05}});
+TEST(Solve, NeedsNoEffectForAPowerBelowAlpha) {
+  const Report report = Anova({{"means", Numbers{5, 5}}, {"sd", 6.0}, {"power", 0.04}});
   EXPECT_EQ(std::get<Numbers>(ResultOf(report, "sizes")), (Numbers{2, 2}));
 }
 
