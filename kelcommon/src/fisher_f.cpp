@@ -3,12 +3,11 @@
 
 #include <boost/math/distributions/chi_squared.hpp>
 #include <boost/math/distributions/fisher_f.hpp>
-#include <boost/math/distributions/non_central_chi_squared.hpp>
-#include <boost/math/distributions/non_central_f.hpp>
 
 #include "boost_policy.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
+#include "noncentral_f.h"
 
 namespace KelMath {
 
@@ -30,12 +29,11 @@ double KelDistFun::NonCentralCdfF(double x, double df1, double df2, double nonce
   if (x <= 0) return 0;
   if (std::isinf(noncentrality)) return 0;
   if (std::isinf(x)) return 1;
-  if (noncentrality > 1e9) return 0;
-  double probability = 0;
-  if (df2 > 1e16)
-    probability = cdf(boost::math::non_central_chi_squared_distribution<double, QuietPolicy>(df1, noncentrality), x * df1);
-  else
-    probability = cdf(boost::math::non_central_f_distribution<double, QuietPolicy>(df1, df2, noncentrality), x);
+  const double largest = std::numeric_limits<double>::max();
+  df1 = std::fmin(df1, largest);
+  df2 = std::fmin(df2, largest);
+  const long double odds = static_cast<long double>(df1) * x / df2;
+  const double probability = NoncentralBetaTails(df1 / 2, df2 / 2, noncentrality / 2, odds).lower;
   return std::fmin(std::fmax(probability, 0.0), 1.0);
 }
 

@@ -1,12 +1,12 @@
 #include <cmath>
 #include <limits>
 
-#include <boost/math/distributions/non_central_t.hpp>
 #include <boost/math/distributions/students_t.hpp>
 
 #include "boost_policy.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
+#include "noncentral_t.h"
 
 namespace KelMath {
 
@@ -17,6 +17,7 @@ double KelDistFun::IdfT(double p, double df, double, double) noexcept {
   if (p < 0 || p > 1 || df <= 0) return KelMV::Missing();
   if (p == 0) return -std::numeric_limits<double>::infinity();
   if (p == 1) return std::numeric_limits<double>::infinity();
+  if (p == 0.5) return 0;
   if (df > 1e16) return IdfStdNorm(p);
   return quantile(boost::math::students_t_distribution<double, QuietPolicy>(df), p);
 }
@@ -26,10 +27,8 @@ double KelDistFun::NonCentralCdfT(double x, double df, double noncentrality, dou
   if (df <= 0) return KelMV::Missing();
   if (std::isinf(noncentrality)) return noncentrality > 0 ? 0 : 1;
   if (std::isinf(x) || KelMV::IsMissing(x)) return x > 0 ? 1 : 0;
-  if (df > 1e16 || std::fabs(noncentrality) > 1e6) return CdfStdNorm(x - noncentrality);
-  const double probability =
-      cdf(boost::math::non_central_t_distribution<double, QuietPolicy>(df, noncentrality), x);
-  return std::fmin(std::fmax(probability, 0.0), 1.0);
+  if (std::isinf(df)) return CdfStdNorm(x - noncentrality);
+  return std::fmin(std::fmax(NoncentralTLowerTail(x, df, noncentrality), 0.0), 1.0);
 }
 
 }  // namespace KelMath
