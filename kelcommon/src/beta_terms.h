@@ -10,9 +10,6 @@ namespace KelMath {
 /// log(1 + u) - u for u > -1.
 long double Log1pMinusArg(long double u);
 
-/// atan(u) - u.
-long double AtanMinusArg(long double u);
-
 /// exp(u) - 1 - u.
 double ExpMinusTangent(double u);
 
@@ -39,6 +36,9 @@ struct Tails {
 
 /// I_y(a, b) and 1 - I_y(a, b).
 Tails BetaTails(double a, double b, long double c);
+
+/// The logarithm of the odds y / (1 - y) at which I_y(a, b) = p, 0 < p < 1; the smaller p, the better.
+long double BetaQuantileLogOdds(double a, double b, double p);
 
 }  // namespace KelMath
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <complex>
 
 // With p_j the Poisson probabilities at mean m and I_j = I_y(a + j, b), y = c / (1 + c), the distribution function is
 //   P = sum_j p_j I_j                                                                    (1)
@@ -24,6 +25,9 @@ constexpr double deviations = 9.3;
 
 // Above this many terms (some 20 microseconds) the contour integral is faster, and rounds less.
 constexpr double mostTerms = 4000;
+
+// With both shapes below, the integrand decays too slowly for the contour integral.
+constexpr double leastContourShape = 5;
 
 struct Shape {
   double a;
@@ -103,8 +107,6 @@ double UpperTailSum(const Shape& s) {
   double upper = BetaTails(s.a + j, s.b, s.c).upper;
   double mass = 1;
   double sum = upper;
-  // The first steps may underflow while later ones do not; then the sum has nothing to start from.
-  if (step < 1e-280) return NoncentralBetaTailsByContour(s.a, s.b, s.m, s.c).upper;
   double term = upper;
   while (term > negligible * sum || j < s.m) {
     upper += step;
@@ -134,6 +136,19 @@ double UpperTailTerms(const Shape& s) { return s.m - FirstTerm(s.m) + 9 * std::s
 // exp(K(t)) / (2 pi i t) with t0 > 0 (Lugannani and Rice (1980), Saddle point approximation for the distribution of the
 // sum of independent random variables, eq. 3 to 6). Along the line through the saddle point the integrand does not
 // oscillate near its peak, and t = t0 + i s sinh(u) makes the trapezoidal rule converge geometrically.
+// The line is bent into a hyperbola, towards the side on which the larger of the two shapes makes the integrand decay:
+// straight, it would oscillate long after the other shape's slow algebraic decay has begun.
+using Complex = std::complex<long double>;
+
+// log(1 + z) - z
+Complex ComplexLog1pMinusArg(Complex z) {
+  const long double x = z.real();
+  const long double y = z.imag();
+  if (std::fabs(x) + std::fabs(y) < 1e-3L)
+    return z * z * (-1 / 2.0L + z * (1 / 3.0L + z * (-1 / 4.0L + z * (1 / 5.0L + z * (-1 / 6.0L + z / 7.0L)))));
+  return Complex(std::log1p(x * (2 + x) + y * y) / 2 - x, std::atan2(y, 1 + x) - y);
+}
+
 class Contour {
 public:
   Contour(double aIn, double bIn, double mIn, long double cIn)
@@ -149,30 +164,30 @@ public:
         -a * Log1pMinusArg(-t0) + m * t0 * t0 / r - b * Log1pMinusArg(c * t0) + mean * t0;
     const long double scale = 1 / std::sqrt(Curvature(t0));
     const long double slope = Slope(t0);
-    const long double height = m / r;
+    const long double smallerShape = std::min(a + m, b);
+    const long double towardsLarger = b > a + m ? 1.0L : -1.0L;
+    const long double bend = smallerShape < 20 ? towardsLarger : 0;
+    const long double stepWidth = smallerShape < 1000 ? 1 / 16.0L : 1 / 8.0L;
     long double sum = 0.5L;
     for (int i = 1; i < mostNodes; ++i) {
       const long double up = std::exp(stepWidth * i);
-      const long double tau = scale * (up - 1 / up) / 2;
-      const long double theta = tau / r;
-      const long double psi = c * tau / q;
-      const long double omega = tau / t0;
-      const long double theta2 = theta * theta;
-      const long double damping = a / 2 * std::log1p(theta2) + height * theta2 / (1 + theta2) +
-                                  b / 2 * std::log1p(psi * psi) + std::log1p(omega * omega) / 2;
-      const long double size = std::exp(-damping) * (up + 1 / up) / 2;
-      if (size < 1e-18L) break;
-      const long double phase = a * AtanMinusArg(theta) - height * theta * theta2 / (1 + theta2) -
-                                b * AtanMinusArg(psi) - AtanMinusArg(omega) + slope * tau;
-      sum += size * std::cos(phase);
+      const long double sinh = (up - 1 / up) / 2;
+      const long double cosh = (up + 1 / up) / 2;
+      const Complex delta(scale * bend * (cosh - 1), scale * sinh);
+      const Complex theta = delta / r;
+      const Complex exponent = -a * ComplexLog1pMinusArg(-theta) + m / r * theta * theta / (1.0L - theta) -
+                               b * ComplexLog1pMinusArg(c / q * delta) - ComplexLog1pMinusArg(delta / t0) + slope * delta;
+      const long double size = std::exp(exponent.real());
+      const Complex direction(cosh, -bend * sinh);
+      sum += size * (direction.real() * std::cos(exponent.imag()) - direction.imag() * std::sin(exponent.imag()));
+      if (size * cosh < 1e-18L) break;
     }
     const long double pi = 3.14159265358979323846L;
     return static_cast<double>(std::exp(peak) * sum * stepWidth * scale / (std::fabs(t0) * pi));
   }
 
 private:
-  static constexpr long double stepWidth = 0.125L;
-  static constexpr int mostNodes = 400;
+  static constexpr int mostNodes = 2000;
 
   // d/dt (K(t) - log|t|), with the parts that cancel at t = 0 taken together in the mean.
   long double Slope(long double t) const {
@@ -231,19 +246,20 @@ Tails NoncentralBetaTailsByContour(double a, double b, double m, long double c) 
 
 Tails NoncentralBetaTails(double a, double b, double m, long double c) {
   if (m == 0) return BetaTails(a, b, c);
+  // The number of terms grows with the root of m; a beyond 1e12 would overflow in its estimate, later.
+  if (m > 1e6 || a > 1e12) return NoncentralBetaTailsByContour(a, b, m, c);
   const Shape s = MakeShape(a, b, m, c);
+  const bool isLower = a + m - b * c > 0;
   const double lowerTerms = LowerTailTerms(s);
   const double upperTerms = UpperTailTerms(s);
-  const double mean = static_cast<double>(a + m - b * c);
-  if (std::min(lowerTerms, upperTerms) < mostTerms) {
-    if (lowerTerms < mostTerms && mean > 0) {
-      const double lower = LowerTailSum(s);
-      return {lower, 1 - lower};
-    }
-    if (upperTerms < mostTerms && mean <= 0) {
-      const double upper = UpperTailSum(s);
-      return {1 - upper, upper};
-    }
+  if (lowerTerms < mostTerms && (isLower || upperTerms >= mostTerms)) {
+    const double lower = LowerTailSum(s);
+    return {lower, 1 - lower};
+  }
+  if (upperTerms < mostTerms) {
+    const double upper = UpperTailSum(s);
+    // The complement of an upper tail near 1 has lost digits.
+    if (upper < 0.95 || a + m < leastContourShape) return {1 - upper, upper};
   }
   return NoncentralBetaTailsByContour(a, b, m, c);
 }
