@@ -115,41 +115,92 @@ double BetaSeries(double a, double y, double yTimesAPlusB) {
   return sum;
 }
 
+struct Tail {
+  double value;
+  double density;  // of log(y / (1 - y)): y^a (1-y)^b / B(a, b)
+};
+
 // The tail I_y(a, b); negative where the fraction has not converged.
-double BetaTail(double a, double b, long double c) {
-  const double y = static_cast<double>(c / (1 + c));
-  const double yTimesAPlusB = static_cast<double>(c / (1 + c) * (static_cast<long double>(a) + b));
+Tail BetaTail(double a, double b, long double c) {
+  const long double exactY = c / (1 + c);
+  const double y = static_cast<double>(exactY);
+  const double yTimesAPlusB = static_cast<double>(exactY * (static_cast<long double>(a) + b));
   const bool shortSeries = y < 0.5 && yTimesAPlusB < 20;
   const double quotient = shortSeries ? BetaSeries(a, y, yTimesAPlusB) : BetaFraction(a, b, c);
-  if (!(quotient > 0)) return -1;
+  if (!(quotient > 0)) return {-1, -1};
   const ScaledValue step = BetaStep(a, b, c);
-  return static_cast<double>(std::exp(step.exponent) * step.factor * quotient);
+  const double stepValue = static_cast<double>(std::exp(step.exponent) * step.factor);
+  return {stepValue * quotient, a * stepValue};
+}
+
+struct TailsAndDensity {
+  Tails tails;
+  double density;
+};
+
+TailsAndDensity EvaluateBeta(double a, double b, long double c) {
+  const bool bothLarge = a > largestFractionShape && b > largestFractionShape;
+  const long double sum = static_cast<long double>(a) + b;
+  const bool lowerFirst = (c < 1 && c * sum < 20 * (1 + c)) || (c * (b + 1.0L) <= a + 1.0L && c * 20 < sum);
+  Tail lower = {-1, -1};
+  Tail upper = {-1, -1};
+  if (!bothLarge) {
+    (lowerFirst ? lower : upper) = lowerFirst ? BetaTail(a, b, c) : BetaTail(b, a, 1 / c);
+    // One minus a tail of up to 0.9 loses a digit; beyond, the other one is worth its own evaluation.
+    if (lower.value > 0.9) upper = BetaTail(b, a, 1 / c);
+    if (upper.value > 0.9) lower = BetaTail(a, b, c);
+  }
+  if (upper.value >= 0 && (lower.value < 0 || upper.value < lower.value))
+    return {{1 - upper.value, upper.value}, upper.density};
+  if (lower.value >= 0) return {{lower.value, 1 - lower.value}, lower.density};
+  const ScaledValue step = BetaStep(a, b, c);
+  return {NoncentralBetaTailsByContour(a, b, 0, c), a * static_cast<double>(std::exp(step.exponent) * step.factor)};
 }
 
 }  // namespace
 
-Tails BetaTails(double a, double b, long double c) {
-  if (a > largestFractionShape && b > largestFractionShape) return NoncentralBetaTailsByContour(a, b, 0, c);
-  const long double sum = static_cast<long double>(a) + b;
-  const bool lowerFirst = (c < 1 && c * sum < 20 * (1 + c)) || (c * (b + 1.0L) <= a + 1.0L && c * 20 < sum);
-  double lower = -1;
-  double upper = -1;
-  (lowerFirst ? lower : upper) = lowerFirst ? BetaTail(a, b, c) : BetaTail(b, a, 1 / c);
-  // One minus a tail of up to 0.9 loses a digit; beyond, the other one is worth its own evaluation.
-  if (lower > 0.9) upper = BetaTail(b, a, 1 / c);
-  if (upper > 0.9) lower = BetaTail(a, b, c);
-  if (lower < 0 && upper < 0) return NoncentralBetaTailsByContour(a, b, 0, c);
-  if (upper >= 0 && (lower < 0 || upper < lower)) return {1 - upper, upper};
-  return {lower, 1 - lower};
-}
+Tails BetaTails(double a, double b, long double c) { return EvaluateBeta(a, b, c).tails; }
 
 namespace {
 
-// The odds' logarithm at which the tail I_y(a, b) = p, near enough for Newton's method; p below one half or so.
+double NormalUpperQuantile(double p) { return 1.41421356237309504880 * boost::math::erfc_inv(2 * p, QuietPolicy()); }
+
+// Student's quantile |t| with P(|T| > |t|) = p to about four digits: Hill (1970), Algorithm 396: Student's t-quantiles.
+double HillQuantile(double df, double p) {
+  const double a = 1 / (df - 0.5);
+  const double b = 48 / (a * a);
+  double c = ((20700 * a / b - 98) * a - 16) * a + 96.36;
+  const double d = ((94.5 / (b + c) - 3) / b + 1) * std::sqrt(a * pi / 2) * df;
+  double y = std::pow(d * p, 2 / df);
+  if (y > 0.05 + a) {
+    const double x = NormalUpperQuantile(p / 2);
+    y = x * x;
+    if (df < 5) c += 0.3 * (df - 4.5) * (x + 0.6);
+    c = (((0.05 * d * x - 5) * x - 7) * x - 2) * x + b + c;
+    y = (((((0.4 * y + 6.3) * y + 36) * y + 94.5) / c - y - 3) / b + 1) * x;
+    y = std::expm1(a * y * y);
+  } else {
+    y = ((1 / (((df + 6) / (df * y) - 0.089 * d - 0.822) * (df + 2) * 3) + 0.5 / (df + 4)) * y - 1) * (df + 1) /
+            (df + 2) +
+        1 / y;
+  }
+  return std::sqrt(df * y);
+}
+
+// The odds' logarithm at which the tail I_y(a, b) = p, near enough for the inverse series.
 long double QuantileStart(double a, double b, double p) {
+  // The square of Student's t is its degrees of freedom times such odds.
+  if (a == 0.5 && b > 1 && b < 1e15 && p > 1e-12) {
+    const double t = HillQuantile(2 * b, 1 - p);
+    if (t > 0) return std::log(t * t / (2 * b));
+  }
+  if (b == 0.5 && a > 1 && a < 1e15) {
+    const double t = HillQuantile(2 * a, p);
+    if (t > 0) return -std::log(t * t / (2 * a));
+  }
   if (a > 0.9 && b > 0.9) {
     // Carter (1947), Approximation to percentage points of the z-distribution; Abramowitz and Stegun, 26.5.22.
-    const double z = -1.41421356237309504880 * boost::math::erfc_inv(2 * p, QuietPolicy());
+    const double z = -NormalUpperQuantile(p);
     const double lambda = (z * z - 3) / 6;
     const double ra = 1 / (2 * a - 1);
     const double rb = 1 / (2 * b - 1);
@@ -170,34 +221,40 @@ long double QuantileStart(double a, double b, double p) {
 }  // namespace
 
 long double BetaQuantileLogOdds(double a, double b, double p) {
-  const long double goal = std::log(static_cast<long double>(p));
+  // The spread is below the last digit.
+  if (a > 1e37 && b > 1e37) return std::log(static_cast<long double>(a) / b);
   // Beyond, the odds are outside the range even of their products with any two doubles.
   constexpr long double farthest = 4000;
   long double low = -farthest;
   long double high = farthest;
   long double v = std::fmin(std::fmax(QuantileStart(a, b, p), low + 1), high - 1);
-  for (int i = 0; i < 60; ++i) {
+  for (int i = 0; i < 100; ++i) {
     const long double c = std::exp(v);
-    const double tail = BetaTails(a, b, c).lower;
-    const ScaledValue step = BetaStep(a, b, c);
-    const long double slope = a * std::exp(step.exponent) * step.factor / tail;
-    long double next = 0;
-    bool finished = false;
-    if (tail > 0 && slope > 0) {
-      const long double error = std::log(static_cast<long double>(tail)) - goal;
-      (error > 0 ? high : low) = v;
-      const long double newton = error / slope;
-      const long double bending = (a - b * c) / (1 + c) - slope;
-      const long double halley = newton / (1 - std::fmin(std::fmax(newton * bending / 2, -1.0L), 0.5L));
-      next = v - halley;
-      finished = std::fabs(halley) * std::fmax(1.0L, std::fabs(bending)) < 1e-5L;
-    } else {
-      (tail > p ? high : low) = v;
-      next = low + (high - low) / 2;
+    const TailsAndDensity at = EvaluateBeta(a, b, c);
+    const double tail = at.tails.lower;
+    (tail > p ? high : low) = v;
+    long double next = low + (high - low) / 2;
+    const double slope = at.density / tail;
+    if (slope > 0 && std::isfinite(slope)) {
+      // The inverse series of F(v) = log(I / p) to its third term. With F1 = s = density / I and the density's
+      // logarithmic derivative k = (a - b c) / (1 + c), the derivatives are F2 = s (k - s) and
+      // F3 = s ((k - s)^2 + dk/dv - F2).
+      const double k = static_cast<double>((a - b * c) / (1 + c));
+      const double kSlope = -static_cast<double>((static_cast<long double>(a) + b) * (c / (1 + c)) / (1 + c));
+      const double newton = -std::log(tail / p) / slope;
+      const double second = (k - slope) / 2 * newton;
+      const double third = ((k - slope) * (k - slope) + kSlope - slope * (k - slope)) / 6 * newton * newton;
+      const double cubic = 2 * second * second - third;
+      if (std::fabs(second) < 0.3 && std::fabs(cubic) < 0.3) {
+        next = v + newton * (1 - second + cubic);
+        const double order = std::fmax(std::fabs(second), std::sqrt(std::fabs(third)));
+        if (std::fabs(newton) * order * order * order < 1e-15) return next;
+      } else {
+        next = v + newton / (1 + std::fmin(std::fmax(second, -0.5), 1.0));
+      }
     }
-    if (finished) return next;
     v = next > low && next < high ? next : low + (high - low) / 2;
-    if (high - low < 1e-17L * std::fabs(v)) break;
+    if (high - low < 1e-18L * std::fabs(v)) break;
   }
   return v;
 }

@@ -87,7 +87,8 @@ double LowerTailSum(const Shape& s) {
   double term = cumulative;
   double sum = term;
   const double enough = negligible * s.oneMinusY;
-  while (term > enough * sum) {
+  const double last = k + 10 * mostTerms;
+  while (term > enough * sum && k < last) {
     step *= StepRatio(s, k);
     k += 1;
     mass *= s.m / k;
@@ -125,7 +126,9 @@ double LowerTailTerms(const Shape& s) {
   const double stepPeak = std::max(0.0, (s.yTimesAPlusB - s.a - 1) / s.oneMinusY);
   const double peak = std::max(productPeak, stepPeak);
   const double spread = std::sqrt((s.a + s.b + peak) / (s.b + 1) * (s.a + peak + 1));
-  return peak - FirstTerm(productPeak) + std::min(9 * spread, 40 / s.oneMinusY) + 10;
+  // Below two degrees of freedom or so the steps end like a geometric series of ratio y.
+  const double geometric = 40 / s.oneMinusY;
+  return peak - FirstTerm(productPeak) + (s.b < 4 ? geometric : std::min(9 * spread, geometric)) + 10;
 }
 
 double UpperTailTerms(const Shape& s) { return s.m - FirstTerm(s.m) + 9 * std::sqrt(s.m) + 10; }

@@ -87,7 +87,7 @@ double LowerSum(const Design& d) {
   double term = s.stepA * cumulativeA + s.stepB * cumulativeB;
   double sum = term;
   const double enough = negligible * d.oneMinusY;
-  while (term > enough * sum) {
+  while (term > enough * sum && s.j < 10 * mostTerms) {
     s.Next();
     cumulativeA += s.weightA;
     cumulativeB += s.weightB;
@@ -128,7 +128,8 @@ Halves UpperHalves(const Design& d) {
 double LowerTerms(const Design& d) {
   const double peak = std::max(0.0, (d.yTimesB - 1) / d.oneMinusY);
   const double spread = std::sqrt((1 + d.b + peak) / (d.b + 1) * (peak + 1.5));
-  return peak + std::min(9 * spread, 40 / d.oneMinusY) + 10;
+  const double geometric = 40 / d.oneMinusY;
+  return peak + (d.b < 4 ? geometric : std::min(9 * spread, geometric)) + 10;
 }
 
 // P(T <= -x) as the mean of Phi(-(x s + delta)) over s, df s^2 being chi-square. With s = e^v the integrand is
