@@ -151,8 +151,8 @@ TailsAndDensity EvaluateBeta(double a, double b, long double c) {
     if (upper.value > 0.9) lower = BetaTail(a, b, c);
   }
   if (upper.value >= 0 && (lower.value < 0 || upper.value < lower.value))
-    return {{1 - upper.value, upper.value}, upper.density};
-  if (lower.value >= 0) return {{lower.value, 1 - lower.value}, lower.density};
+    return {{std::fmax(1 - upper.value, 0.0), upper.value}, upper.density};
+  if (lower.value >= 0) return {{lower.value, std::fmax(1 - lower.value, 0.0)}, lower.density};
   const ScaledValue step = BetaStep(a, b, c);
   return {NoncentralBetaTailsByContour(a, b, 0, c), a * static_cast<double>(std::exp(step.exponent) * step.factor)};
 }
@@ -223,6 +223,9 @@ long double QuantileStart(double a, double b, double p) {
 long double BetaQuantileLogOdds(double a, double b, double p) {
   // The spread is below the last digit.
   if (a > 1e37 && b > 1e37) return std::log(static_cast<long double>(a) / b);
+  // I_y(a, 1) = y^a and I_y(1, b) = 1 - (1-y)^b.
+  if (b == 1) return -std::log(std::expm1(-std::log(static_cast<long double>(p)) / a));
+  if (a == 1) return std::log(std::expm1(-std::log1p(-static_cast<long double>(p)) / b));
   // Beyond, the odds are outside the range even of their products with any two doubles.
   constexpr long double farthest = 4000;
   long double low = -farthest;

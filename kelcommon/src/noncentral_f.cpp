@@ -109,7 +109,8 @@ double UpperTailSum(const Shape& s) {
   double mass = 1;
   double sum = upper;
   double term = upper;
-  while (term > negligible * sum || j < s.m) {
+  const double last = j + 10 * mostTerms;
+  while ((term > negligible * sum || j < s.m) && j < last) {
     upper += step;
     step *= StepRatio(s, j);
     j += 1;
@@ -154,7 +155,7 @@ Complex ComplexLog1pMinusArg(Complex z) {
 
 class Contour {
 public:
-  Contour(double aIn, double bIn, double mIn, long double cIn)
+  Contour(long double aIn, long double bIn, long double mIn, long double cIn)
       : a(aIn), b(bIn), m(mIn), c(cIn), mean(a + m - b * c) {}
 
   long double Mean() const { return mean; }
@@ -237,7 +238,7 @@ private:
 
 }  // namespace
 
-Tails NoncentralBetaTailsByContour(double a, double b, double m, long double c) {
+Tails NoncentralBetaTailsByContour(double a, double b, long double m, long double c) {
   const Contour contour(a, b, m, c);
   if (contour.Mean() > 0) {
     const double lower = contour.Tail(true);
@@ -247,11 +248,11 @@ Tails NoncentralBetaTailsByContour(double a, double b, double m, long double c) 
   return {1 - upper, upper};
 }
 
-Tails NoncentralBetaTails(double a, double b, double m, long double c) {
+Tails NoncentralBetaTails(double a, double b, long double m, long double c) {
   if (m == 0) return BetaTails(a, b, c);
   // The number of terms grows with the root of m; a beyond 1e12 would overflow in its estimate, later.
   if (m > 1e6 || a > 1e12) return NoncentralBetaTailsByContour(a, b, m, c);
-  const Shape s = MakeShape(a, b, m, c);
+  const Shape s = MakeShape(a, b, static_cast<double>(m), c);
   const bool isLower = a + m - b * c > 0;
   const double lowerTerms = LowerTailTerms(s);
   const double upperTerms = UpperTailTerms(s);

@@ -27,6 +27,9 @@ constexpr double negligible = 1e-18;
 // Beyond, Phi(-delta) < 1e-23 bounds P(T <= -x), so that the t distribution is that of its square to the last digit.
 constexpr double largestSeriesDelta = 10;
 
+// Beyond, Phi(-delta) underflows.
+constexpr double largestDelta = 39;
+
 // From about this number of terms on the contour integral of the F distribution is faster.
 constexpr double mostTerms = 1500;
 
@@ -110,7 +113,7 @@ Halves UpperHalves(const Design& d) {
   double even = s.weightA * tailA;
   double odd = s.weightB * tailB;
   double term = even + odd;
-  while (term > negligible * even || s.j < d.m) {
+  while ((term > negligible * even || s.j < d.m) && s.j < 10 * mostTerms) {
     tailA += s.stepA;
     tailB += s.stepB;
     s.Next();
@@ -170,6 +173,7 @@ double WrongSideIntegral(const Design& d) {
 
 // P(T <= -x), x > 0, delta > 0.
 double WrongSideTail(const Design& d) {
+  if (d.delta > largestDelta) return 0;
   // (3) loses at most the three digits that the result can spare while it is not far out.
   const double z = (d.x + d.delta) / std::sqrt(1 + d.x * static_cast<double>(d.x / (2 * d.df)));
   if (z < 2.7) {
@@ -180,7 +184,7 @@ double WrongSideTail(const Design& d) {
   return WrongSideIntegral(d);
 }
 
-Tails SquareTails(const Design& d) { return NoncentralBetaTails(0.5, d.b, d.m, d.c); }
+Tails SquareTails(const Design& d) { return NoncentralBetaTails(0.5, d.b, static_cast<long double>(d.delta) * d.delta / 2, d.c); }
 
 // P(T <= x), x > 0, delta > 0.
 double RightSideLowerTail(const Design& d) {

@@ -2,7 +2,7 @@
 """Reference values of the t and F functions of kelcommon, in multiple precision.
 
 Writes one file a function into the folder given as argument (tests/kelcommon/references): arguments and value as
-shortest round-trip doubles. Everything is summed from series of positive terms at 50 digits, or solved by Newton's
+shortest round-trip doubles. Everything is summed from series of positive terms at 45 digits, or solved by Newton's
 method on those sums, so that nothing is shared with the library's own algorithms but the definitions.
 """
 import random
@@ -12,17 +12,23 @@ from mpmath import mp, mpf
 
 mp.dps = 45
 EPS = mpf(10) ** -42
-GUARD = mpf(10) ** -38
 
 
 def beta_odds(a, b, c):
     """Lower and upper tail of the incomplete beta function at odds c = y / (1 - y)."""
     y = c / (1 + c)
-    if y * (a + b + 2) > a + 1:
+    if terms(a, b, y) > terms(b, a, 1 - y):
         upper = beta_series(b, a, 1 / c)
         return 1 - upper, upper
     lower = beta_series(a, b, c)
     return lower, 1 - lower
+
+
+def terms(a, b, y):
+    """About the number of terms of beta_series; its sum and one minus it both have digits to spare."""
+    a, b, y = float(a), float(b), float(y)
+    peak = max(0.0, (y * (a + b) - a) / (1 - y))
+    return peak + min(100 / (1 - y), 15 * ((a + peak + 1) * (1 + (a + peak) / (b + 1))) ** 0.5 + 100)
 
 
 def first_step(a, b, c):
@@ -132,35 +138,31 @@ def idf_t(p, df):
 
 
 def solve_beta(p, q, a, b):
-    """Odds c at which the lower tail is p and the upper is q = 1 - p: safeguarded Newton in log c."""
+    """Odds c at which the lower tail is p and the upper is q = 1 - p: safeguarded Newton in log c, for the smaller."""
     low, high = mpf(-4000), mpf(4000)
     v = mp.log(a / b)
-    if p < q:
-        goal = mp.log(p)
-    else:
-        goal = mp.log(q)
+    goal = mp.log(min(p, q))
     for _ in range(400):
         c = mp.exp(v)
-        lo, up = beta_odds(a, b, c)
-        if (p < q and lo < mpf(10) ** -2000) or lo == 0:
-            low, v = v, (v + high) / 2
+        lower, upper = beta_odds(a, b, c)
+        if lower < mpf(10) ** -25 or upper < mpf(10) ** -25:
+            if lower < upper:
+                low = v
+            else:
+                high = v
+            v = (v + (mp.log(a / b) if abs(v - mp.log(a / b)) > 1e-9 else (low + high) / 2)) / 2
             continue
-        if up <= 0:
-            high, v = v, (v + low) / 2
-            continue
-        value = lo if p < q else up
+        value = lower if p < q else upper
         density = a * first_step(a, b, c)
         error = mp.log(value) - goal
-        slope = density / value if p < q else -density / value
-        step = error / slope
+        step = error * value / density * (1 if p < q else -1)
         if (p < q) == (error > 0):
             high = v
         else:
             low = v
-        if abs(step) < mpf(10) ** -30:
-            return mp.exp(v - step)
-        new = v - step
-        v = new if low < new < high else (low + high) / 2
+        if abs(step) < mpf(10) ** -12:
+            return mp.exp(v - step)  # the next step would be of the order of 1e-24
+        v = v - step if low < v - step < high else (low + high) / 2
     raise ArithmeticError((p, a, b))
 
 
@@ -234,11 +236,11 @@ def probability(rng):
 def main(folder):
     rng = random.Random(20240611)
     write(folder, "IdfT", [((p, df, 1e-40, 1e-30), idf_t(p, df))
-                           for p, df in ((probability(rng), some_df(rng)) for _ in range(600))])
+                           for p, df in ((probability(rng), some_df(rng)) for _ in range(300))])
     write(folder, "IdfF", [((p, df1, df2), idf_f(p, df1, df2)) for p, df1, df2 in
-                           ((probability(rng), some_df(rng, 1e4), some_df(rng, 1e6)) for _ in range(600))])
-    write(folder, "NonCentralCdfT", t_rows(rng, 1200))
-    write(folder, "NonCentralCdfF", f_rows(rng, 1000))
+                           ((probability(rng), some_df(rng, 500), some_df(rng, 1e6)) for _ in range(300))])
+    write(folder, "NonCentralCdfT", t_rows(rng, 500))
+    write(folder, "NonCentralCdfF", f_rows(rng, 400))
 
 
 if __name__ == "__main__":
