@@ -1,26 +1,35 @@
 #include <cmath>
 #include <limits>
 
-#include <boost/math/distributions/chi_squared.hpp>
-#include <boost/math/distributions/fisher_f.hpp>
-#include <boost/math/distributions/non_central_chi_squared.hpp>
-#include <boost/math/distributions/non_central_f.hpp>
-
-#include "boost_policy.h"
+#include "beta_terms.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
+#include "noncentral_f.h"
 
 namespace KelMath {
 
 using KelCommon::KelMV;
+
+namespace {
+
+// Half the degrees of freedom, the shape of the gamma distribution. The largest double stands for infinity.
+double HalfDegrees(double df) {
+  constexpr double least = std::numeric_limits<double>::min();
+  constexpr double largest = std::numeric_limits<double>::max() / 4;
+  return std::fmin(std::fmax(df / 2, least), largest);
+}
+
+}  // namespace
 
 double KelDistFun::IdfF(double p, double df1, double df2) noexcept {
   if (std::isnan(p) || std::isnan(df1) || std::isnan(df2)) return std::numeric_limits<double>::quiet_NaN();
   if (p < 0 || p > 1 || df1 <= 0 || df2 <= 0) return KelMV::Missing();
   if (p == 0) return 0;
   if (p == 1) return std::numeric_limits<double>::infinity();
-  if (df2 > 1e16) return quantile(boost::math::chi_squared_distribution<double, QuietPolicy>(df1), p) / df1;
-  return quantile(boost::math::fisher_f_distribution<double, QuietPolicy>(df1, df2), p);
+  const double a = HalfDegrees(df1);
+  const double b = HalfDegrees(df2);
+  const long double logOdds = p <= 0.5 ? BetaQuantileLogOdds(a, b, p) : -BetaQuantileLogOdds(b, a, 1 - p);
+  return static_cast<double>(std::exp(logOdds) * (static_cast<long double>(b) / a));
 }
 
 double KelDistFun::NonCentralCdfF(double x, double df1, double df2, double noncentrality, double) noexcept {
@@ -30,12 +39,10 @@ double KelDistFun::NonCentralCdfF(double x, double df1, double df2, double nonce
   if (x <= 0) return 0;
   if (std::isinf(noncentrality)) return 0;
   if (std::isinf(x)) return 1;
-  if (noncentrality > 1e9) return 0;
-  double probability = 0;
-  if (df2 > 1e16)
-    probability = cdf(boost::math::non_central_chi_squared_distribution<double, QuietPolicy>(df1, noncentrality), x * df1);
-  else
-    probability = cdf(boost::math::non_central_f_distribution<double, QuietPolicy>(df1, df2, noncentrality), x);
+  const double a = HalfDegrees(df1);
+  const double b = HalfDegrees(df2);
+  const long double odds = static_cast<long double>(a) / b * x;
+  const double probability = NoncentralBetaTails(a, b, noncentrality / 2, odds).lower;
   return std::fmin(std::fmax(probability, 0.0), 1.0);
 }
 

@@ -1,24 +1,44 @@
 #include <cmath>
 #include <limits>
 
-#include <boost/math/distributions/non_central_t.hpp>
-#include <boost/math/distributions/students_t.hpp>
-
-#include "boost_policy.h"
+#include "beta_terms.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
+#include "noncentral_t.h"
 
 namespace KelMath {
 
 using KelCommon::KelMV;
+
+namespace {
+
+constexpr double pi = 3.141592653589793238;
+
+// |t| with P(T <= -|t|) = min(p, 1 - p), 0 < p < 1.
+double PositiveQuantile(double p, double df) {
+  const double tail = p < 0.5 ? p : 1 - p;
+  const double fromMiddle = std::fabs(p - 0.5);
+  if (df == 1) return fromMiddle < 0.25 ? std::tan(pi * fromMiddle) : 1 / std::tan(pi * tail);
+  if (df == 2) return fromMiddle * std::sqrt(2 / (tail * (1 - tail)));
+  // t^2 / df is the odds of a beta(1/2, df/2) variable. Near the middle its lower tail 2p - 1 is exact, outside its
+  // upper tail.
+  const double b = std::fmax(df / 2, std::numeric_limits<double>::min());
+  const long double logOdds = fromMiddle < 0.25 ? BetaQuantileLogOdds(0.5, b, 2 * fromMiddle)
+                                                : -BetaQuantileLogOdds(b, 0.5, 2 * tail);
+  return static_cast<double>(std::exp(logOdds / 2) * std::sqrt(static_cast<long double>(df)));
+}
+
+}  // namespace
 
 double KelDistFun::IdfT(double p, double df, double, double) noexcept {
   if (std::isnan(p) || std::isnan(df)) return std::numeric_limits<double>::quiet_NaN();
   if (p < 0 || p > 1 || df <= 0) return KelMV::Missing();
   if (p == 0) return -std::numeric_limits<double>::infinity();
   if (p == 1) return std::numeric_limits<double>::infinity();
+  if (p == 0.5) return 0;
   if (df > 1e16) return IdfStdNorm(p);
-  return quantile(boost::math::students_t_distribution<double, QuietPolicy>(df), p);
+  const double magnitude = PositiveQuantile(p, df);
+  return p < 0.5 ? -magnitude : magnitude;
 }
 
 double KelDistFun::NonCentralCdfT(double x, double df, double noncentrality, double) noexcept {
@@ -26,10 +46,8 @@ double KelDistFun::NonCentralCdfT(double x, double df, double noncentrality, dou
   if (df <= 0) return KelMV::Missing();
   if (std::isinf(noncentrality)) return noncentrality > 0 ? 0 : 1;
   if (std::isinf(x) || KelMV::IsMissing(x)) return x > 0 ? 1 : 0;
-  if (df > 1e16 || std::fabs(noncentrality) > 1e6) return CdfStdNorm(x - noncentrality);
-  const double probability =
-      cdf(boost::math::non_central_t_distribution<double, QuietPolicy>(df, noncentrality), x);
-  return std::fmin(std::fmax(probability, 0.0), 1.0);
+  if (std::isinf(df)) return CdfStdNorm(x - noncentrality);
+  return std::fmin(std::fmax(NoncentralTLowerTail(x, df, noncentrality), 0.0), 1.0);
 }
 
 }  // namespace KelMath

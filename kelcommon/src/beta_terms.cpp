@@ -1,0 +1,265 @@
+#include "beta_terms.h"
+
+#include <cmath>
+
+#include <boost/math/special_functions/erf.hpp>
+
+#include "boost_policy.h"
+#include "noncentral_f.h"
+
+namespace KelMath {
+
+namespace {
+constexpr double pi = 3.141592653589793238;
+
+// L(u) below, from u and from 1 + u: u loses the digits of 1 + u where that is small.
+long double RatioDeviation(long double u, long double onePlusU) {
+  return u < -0.5L ? std::log(onePlusU) - u : Log1pMinusArg(u);
+}
+
+}  // namespace
+
+long double Log1pMinusArg(long double u) {
+  // Below, the difference of the two would lose more than five of the nineteen digits.
+  if (std::fabs(u) < 1e-5L) return u * u * (-1 / 2.0L + u * (1 / 3.0L + u * (-1 / 4.0L + u / 5)));
+  return std::log1p(u) - u;
+}
+
+double ExpMinusTangent(double u) {
+  if (std::fabs(u) > 0.5) return std::expm1(u) - u;
+  // Taylor series; the first term left out is below 1e-17 of the sum.
+  double sum = 0;
+  for (int i = 15; i >= 3; --i) sum = (1 + sum) * u / i;
+  return u * u * (1 + sum) / 2;
+}
+
+double ScaledGamma(double x) {
+  if (x < 10) return std::tgamma(x) * std::sqrt(x / (2 * pi)) * std::exp(x - x * std::log(x));
+  // Stirling's series, Abramowitz and Stegun (1964), 6.1.41; the next term is below 3e-17 at x = 10.
+  const double r = 1 / x;
+  const double r2 = r * r;
+  const double logarithm =
+      r * (1.0 / 12 -
+           r2 * (1.0 / 360 -
+                 r2 * (1.0 / 1260 - r2 * (1.0 / 1680 - r2 * (1.0 / 1188 - r2 * (691.0 / 360360 - r2 / 156))))));
+  return std::exp(logarithm);
+}
+
+// With d = (c b - a) / (1 + c) the ratios of y to a / (a + b) and of 1 - y to b / (a + b) are 1 + d / a and 1 - d / b,
+// and the terms linear in d cancel:
+//   y^a (1-y)^b / B(a,b) = sqrt(a b / (2 pi (a+b))) G(a+b) / (G(a) G(b)) exp(a L(d/a) + b L(-d/b)),
+//   L(u) = log(1+u) - u, G the scaled gamma function.
+// Didonato and Morris (1992), Significant digit computation of the incomplete beta function ratios, ACM TOMS 18, sec. 4
+// (BRCOMP). No term is larger than the result's own logarithm, so large a and b cost no digits.
+ScaledValue BetaStep(double a, double b, long double c) {
+  const long double la = a;
+  const long double lb = b;
+  const long double d = (c * lb - la) / (1 + c);
+  const long double logRatioA = RatioDeviation(d / la, c / (1 + c) * ((la + lb) / la));
+  const long double logRatioB = RatioDeviation(-d / lb, 1 / (1 + c) * ((la + lb) / lb));
+  const double root = static_cast<double>(std::sqrt(lb / (la * (la + lb))) * 0.3989422804014326779L);
+  const double sum = static_cast<double>(la + lb);
+  const double gammas = (std::isinf(sum) ? 1.0 : ScaledGamma(sum)) / (ScaledGamma(a) * ScaledGamma(b));
+  return {root * gammas, la * logRatioA + lb * logRatioB};
+}
+
+// Loader (2000), Fast and accurate computation of binomial probabilities: the same cancellation of the linear terms.
+ScaledValue PoissonMass(double k, double m) {
+  if (k == 0) return {1, -static_cast<long double>(m)};
+  const long double lk = k;
+  return {1 / (std::sqrt(2 * pi * k) * ScaledGamma(k)), lk * Log1pMinusArg((m - lk) / lk)};
+}
+
+namespace {
+
+// Where the continued fraction needs more terms than this, the contour integral is faster.
+constexpr int mostFractionTerms = 200;
+
+// And with both shapes above this, the fraction rounds more: 1e-14 at 5e5, the integral 2e-15.
+constexpr double largestFractionShape = 3e4;
+
+// I_y(a, b) divided by y^a (1-y)^b / (a B(a, b)), by the even part of the continued fraction NIST Handbook (2010),
+// 8.17.22: Didonato and Morris (1992), eq. 9 (BFRAC), evaluated by Lentz's method. It converges fast for y below
+// (a + 1) / (a + b + 2). Negative where it has not converged.
+double BetaFraction(double a, double b, long double c) {
+  const long double exactY = c / (1 + c);
+  const double y = static_cast<double>(exactY);
+  const double by = static_cast<double>(exactY * b);
+  const double excess = static_cast<double>((a - static_cast<long double>(b) * c) / (1 + c)) + 1;
+  double f = a / (a + 1) * excess;
+  double numeratorRatio = f;
+  double denominatorRatio = 0;
+  for (int n = 1; n <= mostFractionTerms; ++n) {
+    const double below = a + 2 * n - 1;
+    const double reduced = n * (by - n * y) / below;
+    const double numerator = ((a + n - 1) / below) * (a * y + by + (n - 1) * y) * reduced;
+    const double denominator = n + reduced + (a + n) / (below + 2) * (excess + n * (2 - y));
+    denominatorRatio = 1 / (denominator + numerator * denominatorRatio);
+    numeratorRatio = denominator + numerator / numeratorRatio;
+    const double change = numeratorRatio * denominatorRatio;
+    f *= change;
+    if (std::fabs(change - 1) < 4e-16) return a / f;
+  }
+  return -1;
+}
+
+// The same divided value as the sum 1 + y (a+b)/(a+1) (1 + y (a+b+1)/(a+2) (1 + ...)), Didonato and Morris (1992), eq. 4.
+// All terms are positive; a term costs a fifth of one of the fraction.
+double BetaSeries(double a, double y, double yTimesAPlusB) {
+  double term = 1;
+  double sum = 1;
+  for (double k = 0; term > 1e-17 * sum; ++k) {
+    term *= (yTimesAPlusB + y * k) / (a + k + 1);
+    sum += term;
+  }
+  return sum;
+}
+
+struct Tail {
+  double value;
+  double density;  // of log(y / (1 - y)): y^a (1-y)^b / B(a, b)
+};
+
+// The tail I_y(a, b); negative where the fraction has not converged.
+Tail BetaTail(double a, double b, long double c) {
+  const long double exactY = c / (1 + c);
+  const double y = static_cast<double>(exactY);
+  const double yTimesAPlusB = static_cast<double>(exactY * (static_cast<long double>(a) + b));
+  const bool shortSeries = y < 0.5 && yTimesAPlusB < 20;
+  const double quotient = shortSeries ? BetaSeries(a, y, yTimesAPlusB) : BetaFraction(a, b, c);
+  if (!(quotient > 0)) return {-1, -1};
+  const ScaledValue step = BetaStep(a, b, c);
+  const double stepValue = static_cast<double>(std::exp(step.exponent) * step.factor);
+  return {stepValue * quotient, a * stepValue};
+}
+
+struct TailsAndDensity {
+  Tails tails;
+  double density;
+};
+
+TailsAndDensity EvaluateBeta(double a, double b, long double c) {
+  const bool bothLarge = a > largestFractionShape && b > largestFractionShape;
+  const long double sum = static_cast<long double>(a) + b;
+  const bool lowerFirst = (c < 1 && c * sum < 20 * (1 + c)) || (c * (b + 1.0L) <= a + 1.0L && c * 20 < sum);
+  Tail lower = {-1, -1};
+  Tail upper = {-1, -1};
+  if (!bothLarge) {
+    (lowerFirst ? lower : upper) = lowerFirst ? BetaTail(a, b, c) : BetaTail(b, a, 1 / c);
+    // One minus a tail of up to 0.9 loses a digit; beyond, the other one is worth its own evaluation.
+    if (lower.value > 0.9) upper = BetaTail(b, a, 1 / c);
+    if (upper.value > 0.9) lower = BetaTail(a, b, c);
+  }
+  if (upper.value >= 0 && (lower.value < 0 || upper.value < lower.value))
+    return {{std::fmax(1 - upper.value, 0.0), upper.value}, upper.density};
+  if (lower.value >= 0) return {{lower.value, std::fmax(1 - lower.value, 0.0)}, lower.density};
+  const ScaledValue step = BetaStep(a, b, c);
+  return {NoncentralBetaTailsByContour(a, b, 0, c), a * static_cast<double>(std::exp(step.exponent) * step.factor)};
+}
+
+}  // namespace
+
+Tails BetaTails(double a, double b, long double c) { return EvaluateBeta(a, b, c).tails; }
+
+namespace {
+
+double NormalUpperQuantile(double p) { return 1.41421356237309504880 * boost::math::erfc_inv(2 * p, QuietPolicy()); }
+
+// Student's quantile |t| with P(|T| > |t|) = p to about four digits: Hill (1970), Algorithm 396: Student's t-quantiles.
+double HillQuantile(double df, double p) {
+  const double a = 1 / (df - 0.5);
+  const double b = 48 / (a * a);
+  double c = ((20700 * a / b - 98) * a - 16) * a + 96.36;
+  const double d = ((94.5 / (b + c) - 3) / b + 1) * std::sqrt(a * pi / 2) * df;
+  double y = std::pow(d * p, 2 / df);
+  if (y > 0.05 + a) {
+    const double x = NormalUpperQuantile(p / 2);
+    y = x * x;
+    if (df < 5) c += 0.3 * (df - 4.5) * (x + 0.6);
+    c = (((0.05 * d * x - 5) * x - 7) * x - 2) * x + b + c;
+    y = (((((0.4 * y + 6.3) * y + 36) * y + 94.5) / c - y - 3) / b + 1) * x;
+    y = std::expm1(a * y * y);
+  } else {
+    y = ((1 / (((df + 6) / (df * y) - 0.089 * d - 0.822) * (df + 2) * 3) + 0.5 / (df + 4)) * y - 1) * (df + 1) /
+            (df + 2) +
+        1 / y;
+  }
+  return std::sqrt(df * y);
+}
+
+// The odds' logarithm at which the tail I_y(a, b) = p, near enough for the inverse series.
+long double QuantileStart(double a, double b, double p) {
+  // The square of Student's t is its degrees of freedom times such odds.
+  if (a == 0.5 && b > 1 && b < 1e15 && p > 1e-12) {
+    const double t = HillQuantile(2 * b, 1 - p);
+    if (t > 0) return std::log(t * t / (2 * b));
+  }
+  if (b == 0.5 && a > 1 && a < 1e15) {
+    const double t = HillQuantile(2 * a, p);
+    if (t > 0) return -std::log(t * t / (2 * a));
+  }
+  if (a > 0.9 && b > 0.9) {
+    // Carter (1947), Approximation to percentage points of the z-distribution; Abramowitz and Stegun, 26.5.22.
+    const double z = -NormalUpperQuantile(p);
+    const double lambda = (z * z - 3) / 6;
+    const double ra = 1 / (2 * a - 1);
+    const double rb = 1 / (2 * b - 1);
+    const double h = 2 / (ra + rb);
+    if (h + lambda > 0)
+      return std::log(static_cast<long double>(a) / b) +
+             2 * (z * std::sqrt(h + lambda) / h + (rb - ra) * (lambda + 5.0 / 6 - 2 / (3 * h)));
+  }
+  // The leading term of the series at y = 0, y^a / (a B(a, b)), where it holds, and else that at y = 1.
+  const ScaledValue one = BetaStep(a, b, 1);
+  const long double logStep = std::log(static_cast<long double>(one.factor)) + one.exponent +
+                              (static_cast<long double>(a) + b) * 0.69314718055994530942L;
+  const long double logY = (std::log(static_cast<long double>(p)) - logStep) / a;
+  if (logY < -0.7L) return logY;
+  return -(std::log1p(-static_cast<long double>(p)) - (logStep + std::log(a / static_cast<long double>(b)))) / b;
+}
+
+}  // namespace
+
+long double BetaQuantileLogOdds(double a, double b, double p) {
+  // The spread is below the last digit.
+  if (a > 1e37 && b > 1e37) return std::log(static_cast<long double>(a) / b);
+  // I_y(a, 1) = y^a and I_y(1, b) = 1 - (1-y)^b.
+  if (b == 1) return -std::log(std::expm1(-std::log(static_cast<long double>(p)) / a));
+  if (a == 1) return std::log(std::expm1(-std::log1p(-static_cast<long double>(p)) / b));
+  // Beyond, the odds are outside the range even of their products with any two doubles.
+  constexpr long double farthest = 4000;
+  long double low = -farthest;
+  long double high = farthest;
+  long double v = std::fmin(std::fmax(QuantileStart(a, b, p), low + 1), high - 1);
+  for (int i = 0; i < 100; ++i) {
+    const long double c = std::exp(v);
+    const TailsAndDensity at = EvaluateBeta(a, b, c);
+    const double tail = at.tails.lower;
+    (tail > p ? high : low) = v;
+    long double next = low + (high - low) / 2;
+    const double slope = at.density / tail;
+    if (slope > 0 && std::isfinite(slope)) {
+      // The inverse series of F(v) = log(I / p) to its third term. With F1 = s = density / I and the density's
+      // logarithmic derivative k = (a - b c) / (1 + c), the derivatives are F2 = s (k - s) and
+      // F3 = s ((k - s)^2 + dk/dv - F2).
+      const double k = static_cast<double>((a - b * c) / (1 + c));
+      const double kSlope = -static_cast<double>((static_cast<long double>(a) + b) * (c / (1 + c)) / (1 + c));
+      const double newton = -std::log(tail / p) / slope;
+      const double second = (k - slope) / 2 * newton;
+      const double third = ((k - slope) * (k - slope) + kSlope - slope * (k - slope)) / 6 * newton * newton;
+      const double cubic = 2 * second * second - third;
+      if (std::fabs(second) < 0.3 && std::fabs(cubic) < 0.3) {
+        next = v + newton * (1 - second + cubic);
+        const double order = std::fmax(std::fabs(second), std::sqrt(std::fabs(third)));
+        if (std::fabs(newton) * order * order * order < 1e-15) return next;
+      } else {
+        next = v + newton / (1 + std::fmin(std::fmax(second, -0.5), 1.0));
+      }
+    }
+    v = next > low && next < high ? next : low + (high - low) / 2;
+    if (high - low < 1e-18L * std::fabs(v)) break;
+  }
+  return v;
+}
+
+}  // namespace KelMath
