@@ -209,7 +209,7 @@ constexpr double smallMiss = 1e-5;
 
 double LogTailStep(const BetaTails& tails, double miss) {
   const double inverseSlope = tails.lower / tails.slope;
-  const double bend = 1 - miss * (tails.slopeGrowth * inverseSlope - 1) / 2;
+  const double bend = 1 + miss * (tails.slopeGrowth * inverseSlope - 1) / 2;
   return miss * inverseSlope / std::max(bend, 0.5);
 }
 

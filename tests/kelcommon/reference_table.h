@@ -47,17 +47,19 @@ std::vector<ReferenceRow> ReadReferences(const std::string& folder);
 /// The distance of a result from its reference.
 struct Error {
   double absolute;
-  double relative;  ///< 0 for probabilities up to 1e-10, of which only the absolute error is bounded
+  double relative;         ///< of probabilities above 1e-10 and of every other result
+  double relativeOfSmall;  ///< of probabilities from 1e-290 to 1e-10, which are held to what has been achieved only
 };
 
-/// NaN, the infinities, the missing value and error codes must agree exactly; where they do not the error is infinite.
+/// The median of a symmetric distribution is compared with 0 itself, where the independent set has the noise of its
+/// forty digits. NaN, the infinities, the missing value and error codes must agree exactly; where they do not the error is infinite.
 /// So must counts. A logarithm of the gamma function below 1 is compared by its absolute error, its relative error being
 /// that of the gamma function.
 Error MeasureError(const Function& function, const ReferenceRow& row, const Outcome& outcome);
 
 struct Worst {
   int cases = 0;
-  Error largest = {0, 0};
+  Error largest = {0, 0, 0};
   const ReferenceRow* byAbsolute = nullptr;
   const ReferenceRow* byRelative = nullptr;
 };

@@ -39,7 +39,10 @@ void ExpectHardBounds(const Function& function, const Error& largest) {
 
 void ExpectNoGrowth(const Function& function, const Error& largest, const Error& achieved) {
   // The absolute error of a quantile has no scale of its own: it is measured and shown, and bounded by the relative one.
-  if (function.kind == Kind::probability) EXPECT_LE(largest.absolute, achieved.absolute * allowedGrowth + allowedIncrease);
+  if (function.kind == Kind::probability) {
+    EXPECT_LE(largest.absolute, achieved.absolute * allowedGrowth + allowedIncrease);
+    EXPECT_LE(largest.relativeOfSmall, achieved.relativeOfSmall * allowedGrowth + allowedIncrease);
+  }
   EXPECT_LE(largest.relative, achieved.relative * allowedGrowth + allowedIncrease);
 }
 
@@ -60,7 +63,8 @@ TEST_P(References, ErrorsStayWithinBoundsAndDoNotGrow) {
     if (key.first != function.name) continue;
     cases += worst.cases;
     const std::string text = key.second + ": " + std::to_string(worst.cases) + " cases, absolute " +
-                             Shortest(worst.largest.absolute) + ", relative " + Shortest(worst.largest.relative) +
+                             Shortest(worst.largest.absolute) + ", relative " + Shortest(worst.largest.relative) + ", of values up to 1e-10 " +
+                             Shortest(worst.largest.relativeOfSmall) +
                              "\n  worst absolute " + DescribeResult(*worst.byAbsolute) + "\n  worst relative " +
                              DescribeResult(*worst.byRelative);
     std::printf("%s\n", text.c_str());
@@ -82,7 +86,7 @@ std::vector<std::string> Names() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Kelcommon, References, testing::ValuesIn(Names()),
-                         [](const auto& info) { return info.param; });
+                         [](const auto& test) { return test.param; });
 
 TEST(Achieved, StoresOnlyWhatIsMeasured) {
   const std::vector<ReferenceRow> rows = ReadReferences(folder);

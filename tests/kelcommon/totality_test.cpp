@@ -114,6 +114,6 @@ std::vector<std::string> Names() {
   return names;
 }
 
-INSTANTIATE_TEST_SUITE_P(Kelcommon, Totality, testing::ValuesIn(Names()), [](const auto& info) { return info.param; });
+INSTANTIATE_TEST_SUITE_P(Kelcommon, Totality, testing::ValuesIn(Names()), [](const auto& test) { return test.param; });
 
 }  // namespace
