@@ -22,7 +22,7 @@ constexpr double negligibleShape = 1e-20;
 // an end, and intermediate products stay finite.
 constexpr double largestShape = 1e290;
 // From this smaller shape on, thirty quadrature points are faster than the continued fraction.
-constexpr double quadratureShape = 3000;
+constexpr double quadratureShape = 1500;
 // A tail is cut where its integrand has fallen to exp(-tailCut).
 constexpr double tailCut = 38;
 
@@ -76,6 +76,7 @@ Place MakePlace(double a, double b, UnitPoint point) {
 
 // a (log(ratio) - relativeExcess), where ratio = (a + b) x / a = 1 + relativeExcess.
 double HalfDeviance(double a, double total, double x, double excess) {
+  if (a < negligibleShape) return -excess;
   const double relativeExcess = excess / a;
   if (std::fabs(relativeExcess) <= 0.3) return a * Log1pMinusArgument(relativeExcess);
   if (relativeExcess > 1e100) return -1e100;
@@ -112,7 +113,7 @@ double TailOverSlopeBySeries(const Place& place) {
 double TailOverSlopeByFraction(const Place& place) {
   const auto& [a, b, point, excess] = place;
   const double x = point.x;
-  double value = a * (1 - excess) / (a + 1);
+  double value = a / (a + 1) * (1 - excess);
   double c = value;
   double d = 0;
   for (int m = 1; m < 20000; ++m) {
@@ -204,11 +205,14 @@ UnitPoint Shift(UnitPoint point, double step) {
 }
 
 // A step of Halley's method for log(lower probability) as a function of log(x / y), a concave function; `miss` is the
-// logarithm of the sought probability over the present one. Cubic convergence leaves nothing after a small miss.
+// logarithm of the sought probability over the present one. Cubic convergence leaves nothing after a small miss. Far
+// above the quantile, where the function is flat, Newton's step is taken: it passes the quantile and comes back.
 constexpr double smallMiss = 1e-5;
+constexpr double farAbove = -1;
 
 double LogTailStep(const BetaTails& tails, double miss) {
   const double inverseSlope = tails.lower / tails.slope;
+  if (miss < farAbove) return miss * inverseSlope;
   const double bend = 1 + miss * (tails.slopeGrowth * inverseSlope - 1) / 2;
   return miss * inverseSlope / std::max(bend, 0.5);
 }
@@ -228,8 +232,12 @@ double StartingLogit(double probability, double a, double b) {
   const double massNear0 = std::pow(a / (a + b), a) / a;
   const double massNear1 = std::pow(b / (a + b), b) / b;
   const double mass = massNear0 + massNear1;
-  if (probability < massNear0 / mass) return std::log(a * mass * probability) / a;
-  return -std::log(b * mass * (1 - probability)) / b;
+  if (probability < massNear0 / mass) {
+    const double logX = std::log(a * mass * probability) / a;
+    return logX - std::log(-std::expm1(logX));
+  }
+  const double logY = std::log(b * mass * (1 - probability)) / b;
+  return std::log(-std::expm1(logY)) - logY;
 }
 
 }  // namespace
@@ -243,7 +251,7 @@ BetaTails IncompleteBeta(double a, double b, UnitPoint point) {
   // The switch of Numerical Recipes: a little above the mean, so that small shapes converge too.
   const bool lowerIsTail = place.excess + 2 * point.x <= 1;
   if (!lowerIsTail) place = {place.b, place.a, {point.y, point.x}, -place.excess};
-  const double tail = Clamp(slope * TailOverSlope(place));
+  const double tail = slope > 0 ? Clamp(slope * TailOverSlope(place)) : 0;
   if (lowerIsTail) return {tail, 1 - tail, slope, -place.excess};
   return {1 - tail, tail, slope, place.excess};
 }

@@ -21,7 +21,7 @@ const Method methods[] = {
      "The inverse of erfc by rational approximations.", "J. Maddock and others, Boost.Math 1.81, `erfc_inv`."},
     {"CdfBeta", "Lower probability of the beta distribution: `CdfBeta(x, a, b)`.",
      "x^a (1 - x)^b / B(a, b) in saddle-point form with a compensated distance from the mean, times a power series, a "
-     "continued fraction, or above shapes of 3000 a Gauss-Legendre quadrature of the tail.",
+     "continued fraction, or above shapes of 1500 a Gauss-Legendre quadrature of the tail.",
      "C. Loader, Fast and Accurate Computation of Binomial Probabilities (2000); A. DiDonato and A. Morris, Significant "
      "Digit Computation of the Incomplete Beta Function Ratios, ACM TOMS 18 (1992), equation 9."},
     {"IdfBeta", "Quantile of the beta distribution: `IdfBeta(p, a, b)`.",

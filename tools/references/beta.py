@@ -39,14 +39,16 @@ def shapes(rng):
         yield log_uniform(rng, 1000, 1e6), log_uniform(rng, 1000, 1e6), "large shapes"
     for _ in range(30):
         yield log_uniform(rng, 0.5, 100), log_uniform(rng, 1e5, 1e15), "one huge shape"
-    for _ in range(50):
-        yield log_uniform(rng, 1e-4, 1), log_uniform(rng, 1e-4, 5), "shapes below 1"
+    for _ in range(40):
+        yield log_uniform(rng, 0.3, 1), log_uniform(rng, 0.3, 5), "shapes from 0.3 to 1"
+    for _ in range(40):
+        yield log_uniform(rng, 1e-4, 0.3), log_uniform(rng, 1e-4, 5), "beyond planning: shapes from 1e-4 to 0.3"
 
 
 def cdf_rows(rng):
     for a, b, region in shapes(rng):
         yield near_mean(rng, a, b, 4), a, b, region
-        if region in ("small shapes", "shapes below 1", "few numerator degrees of freedom"):
+        if region not in ("moderate shapes", "large shapes", "one huge shape"):
             yield rng.random(), a, b, region
             yield log_uniform(rng, 1e-12, 0.5), a, b, region
         if region == "moderate shapes":
