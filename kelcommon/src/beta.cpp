@@ -1,9 +1,8 @@
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
-#include <boost/math/special_functions/beta.hpp>
-
-#include "boost_policy.h"
+#include "incomplete_beta.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 
@@ -11,24 +10,42 @@ namespace KelMath {
 
 using KelCommon::KelMV;
 
+namespace {
+
+constexpr double largest = std::numeric_limits<double>::max();
+
+bool RejectsShapes(double a, double b) { return a < 0 || b < 0 || (a == 0 && b == 0); }
+
+// An infinite shape acts as a zero one at the other end; two of them put the mass at 1/2.
+bool AllMassAt0(double a, double b) { return a == 0 || (std::isinf(b) && !std::isinf(a)); }
+bool AllMassAt1(double a, double b) { return b == 0 || (std::isinf(a) && !std::isinf(b)); }
+
+}  // namespace
+
 double KelDistFun::CdfBeta(double x, double a, double b) noexcept {
   if (std::isnan(x) || std::isnan(a) || std::isnan(b)) return std::numeric_limits<double>::quiet_NaN();
-  if (a < 0 || b < 0 || (a == 0 && b == 0)) return KelMV::Missing();
-  if (a == 0) return x >= 0 ? 1 : 0;
-  if (b == 0) return x >= 1 ? 1 : 0;
+  if (RejectsShapes(a, b)) return KelMV::Missing();
+  if (AllMassAt0(a, b)) return x >= 0 ? 1 : 0;
+  if (AllMassAt1(a, b)) return x >= 1 ? 1 : 0;
   if (x <= 0) return 0;
   if (x >= 1) return 1;
-  return boost::math::ibeta(a, b, x, QuietPolicy());
+  return IncompleteBeta(std::min(a, largest), std::min(b, largest), UnitPoint::FromX(x)).lower;
 }
 
 double KelDistFun::IdfBeta(const double& p, const double& a, const double& b) noexcept {
   if (std::isnan(p) || std::isnan(a) || std::isnan(b)) return std::numeric_limits<double>::quiet_NaN();
-  if (p < 0 || p > 1 || a < 0 || b < 0 || (a == 0 && b == 0)) return KelMV::Missing();
-  if (a == 0) return 0;
-  if (b == 0) return 1;
+  if (p < 0) return KelMV::Missing();
+  if (p > 1) return KelMV::Missing();
+  if (RejectsShapes(a, b)) return KelMV::Missing();
+  if (AllMassAt0(a, b)) return 0;
+  if (AllMassAt1(a, b)) return 1;
   if (p == 0) return 0;
   if (p == 1) return 1;
-  return boost::math::ibeta_inv(a, b, p, QuietPolicy());
+  const double finiteA = std::min(a, largest);
+  const double finiteB = std::min(b, largest);
+  // The smaller probability is the one that has its digits.
+  if (p <= 0.5) return BetaLowerQuantile(p, finiteA, finiteB).x;
+  return BetaLowerQuantile(1 - p, finiteB, finiteA).y;
 }
 
 }  // namespace KelMath

@@ -1,3 +1,6 @@
+#include <cmath>
+#include <limits>
+
 #include <boost/math/special_functions/gamma.hpp>
 
 #include "boost_policy.h"
@@ -5,6 +8,11 @@
 
 namespace KelMath {
 
-double KelDistFun::orvadnlgam(const double& x) noexcept { return boost::math::lgamma(x, QuietPolicy()); }
+double KelDistFun::orvadnlgam(const double& x) noexcept {
+  if (std::isnan(x)) return x;
+  // The poles, and every double that is too large to have a fraction.
+  if (x <= 0 && std::floor(x) == x) return std::numeric_limits<double>::infinity();
+  return boost::math::lgamma(x, QuietPolicy());
+}
 
 }  // namespace KelMath

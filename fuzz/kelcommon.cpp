@@ -1,0 +1,156 @@
+// Any doubles to any function of kelcommon: the answer must be in range, NaN exactly for a NaN argument, the same twice,
+// with an error code written, and within a time that no ordinary delay of the machine explains.
+//
+// Run: fuzz_kelcommon fuzz/corpus/kelcommon -max_len=64
+
+#include <array>
+#include <chrono>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+
+#include "kelcommon/kel_dist_fun.h"
+#include "kelcommon/kel_mv.h"
+
+using KelCommon::KelMV;
+using KelMath::KelDistFun;
+
+namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+// An error code that no function gives.
+constexpr long unwritten = -77;
+
+// Long enough for sanitizers on a busy machine, far too short for a method that does not end.
+constexpr std::chrono::seconds longestCall{1};
+
+struct Answer {
+  double value;
+  long err;
+};
+
+using Arguments = std::array<double, 4>;
+
+struct Function {
+  const char* name;
+  std::size_t arity;
+  double low;   // of an answer that is neither NaN nor missing
+  double high;
+  Answer (*call)(const Arguments&);
+};
+
+using Binomial = double (*)(double, double, double, long&);
+
+template <Binomial function>
+Answer CallBinomial(const Arguments& a) {
+  Answer answer{0, unwritten};
+  answer.value = function(a[0], a[1], a[2], answer.err);
+  return answer;
+}
+
+const Function functions[] = {
+    {"IdfF", 3, 0, infinity, [](const Arguments& a) { return Answer{KelDistFun::IdfF(a[0], a[1], a[2]), 0}; }},
+    {"NonCentralCdfF", 4, 0, 1,
+     [](const Arguments& a) { return Answer{KelDistFun::NonCentralCdfF(a[0], a[1], a[2], a[3], 1e-12), 0}; }},
+    {"IdfT", 2, -infinity, infinity, [](const Arguments& a) { return Answer{KelDistFun::IdfT(a[0], a[1], 1e-40, 1e-30), 0}; }},
+    {"NonCentralCdfT", 3, 0, 1,
+     [](const Arguments& a) { return Answer{KelDistFun::NonCentralCdfT(a[0], a[1], a[2], 1e-12), 0}; }},
+    {"CdfStdNorm", 1, 0, 1, [](const Arguments& a) { return Answer{KelDistFun::CdfStdNorm(a[0]), 0}; }},
+    {"IdfStdNorm", 1, -infinity, infinity, [](const Arguments& a) { return Answer{KelDistFun::IdfStdNorm(a[0]), 0}; }},
+    {"CdfBeta", 3, 0, 1, [](const Arguments& a) { return Answer{KelDistFun::CdfBeta(a[0], a[1], a[2]), 0}; }},
+    {"IdfBeta", 3, 0, 1, [](const Arguments& a) { return Answer{KelDistFun::IdfBeta(a[0], a[1], a[2]), 0}; }},
+    {"CdfBin", 3, 0, 1, CallBinomial<KelDistFun::CdfBin>},
+    {"IdfBin", 3, -1, std::numeric_limits<double>::max(), CallBinomial<KelDistFun::IdfBin>},
+    {"PdfBin", 3, 0, infinity, CallBinomial<KelDistFun::PdfBin>},
+    {"PdfNegBin", 3, 0, infinity, CallBinomial<KelDistFun::PdfNegBin>},
+    {"orvadnlgam", 1, -1, infinity, [](const Arguments& a) { return Answer{KelDistFun::orvadnlgam(a[0]), 0}; }},
+};
+constexpr std::size_t functionCount = sizeof functions / sizeof functions[0];
+
+// Reads the input from its start; beyond its end it continues with zeros.
+class Reader {
+public:
+  Reader(const std::uint8_t* data, std::size_t size) : data_(data), size_(size) {}
+
+  std::uint8_t Byte() { return position_ < size_ ? data_[position_++] : std::uint8_t{0}; }
+
+  std::uint64_t Bits(int bytes) {
+    std::uint64_t bits = 0;
+    for (int i = 0; i < bytes; ++i) bits = bits << 8 | Byte();
+    return bits;
+  }
+
+  // Half of all arguments are plain numbers, where the methods differ; the others are any bit pattern.
+  double Number() {
+    const std::uint8_t kind = Byte();
+    if (kind % 8 == 0) return static_cast<double>(Bits(2));
+    if (kind % 8 == 1) return static_cast<double>(Bits(2)) / 65536;
+    if (kind % 8 == 2) return static_cast<double>(Bits(4)) / 1024;
+    if (kind % 8 == 3) return -static_cast<double>(Bits(2)) / 256;
+    const std::uint64_t bits = Bits(8);
+    double value = 0;
+    std::memcpy(&value, &bits, sizeof value);
+    return value;
+  }
+
+private:
+  const std::uint8_t* data_;
+  std::size_t size_;
+  std::size_t position_ = 0;
+};
+
+[[noreturn]] void Fail(const char* what, const Function& function, const Arguments& arguments, const Answer& answer) {
+  std::fprintf(stderr, "%s: %s(", what, function.name);
+  for (std::size_t i = 0; i < function.arity; ++i) std::fprintf(stderr, i == 0 ? "%.17g" : ", %.17g", arguments[i]);
+  std::fprintf(stderr, ") = %.17g, error code %ld\n", answer.value, answer.err);
+  std::abort();
+}
+
+void Check(const Function& function, const Arguments& arguments) {
+  const auto start = std::chrono::steady_clock::now();
+  const Answer answer = function.call(arguments);
+  const auto duration = std::chrono::steady_clock::now() - start;
+  const Answer again = function.call(arguments);
+
+  bool hasNan = false;
+  for (std::size_t i = 0; i < function.arity; ++i) hasNan = hasNan || std::isnan(arguments[i]);
+  if (std::isnan(answer.value) != hasNan) Fail("NaN", function, arguments, answer);
+  if (std::memcmp(&answer.value, &again.value, sizeof answer.value) != 0) Fail("not the same twice", function, arguments, answer);
+  if (answer.err != again.err) Fail("error code not the same twice", function, arguments, answer);
+  if (answer.err != 0 && answer.err != 1) Fail("error code", function, arguments, answer);
+  if (duration > longestCall) Fail("too slow", function, arguments, answer);
+  if (hasNan || KelMV::IsMissing(answer.value)) return;
+  if (answer.err != 0) Fail("error code of an answer", function, arguments, answer);
+  if (answer.value < function.low) Fail("too small", function, arguments, answer);
+  if (answer.value > function.high) Fail("too large", function, arguments, answer);
+}
+
+// The quantile of the binomial is defined by its probabilities, bit for bit.
+void CheckBinomialQuantile(const Arguments& arguments) {
+  long err = unwritten;
+  const double k = KelDistFun::IdfBin(arguments[0], arguments[1], arguments[2], err);
+  if (err != 0 || arguments[0] == 1 || k > 0x1p52) return;
+  const double at = KelDistFun::CdfBin(k, arguments[1], arguments[2], err);
+  const double above = KelDistFun::CdfBin(k + 1, arguments[1], arguments[2], err);
+  if (!(at <= arguments[0]) || !(above > arguments[0])) Fail("not the quantile", functions[9], arguments, {k, err});
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  Reader reader(data, size);
+  // With FUZZ_SKIP set to letters of distributions, such as TF, the functions whose names end in them are left out.
+  static const char* const skipped = std::getenv("FUZZ_SKIP");
+  const Function& function = functions[reader.Byte() % functionCount];
+  if (skipped && std::strchr(skipped, function.name[std::strlen(function.name) - 1])) return -1;
+  Arguments arguments{};
+  for (std::size_t i = 0; i < function.arity; ++i) arguments[i] = reader.Number();
+  Check(function, arguments);
+  if (std::strcmp(function.name, "IdfBin") == 0) CheckBinomialQuantile(arguments);
+  return 0;
+}

@@ -1,0 +1,198 @@
+#include <cmath>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "kelcommon/kel_dist_fun.h"
+#include "kelcommon/kel_mv.h"
+#include "reference_table.h"
+
+using KelCommon::KelMV;
+using KelMath::KelDistFun;
+
+namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+
+struct ContractRow {
+  const char* function;
+  Arguments arguments;
+  double value;
+  long err;
+};
+
+const double missing = KelMV::Missing();
+
+// One answer of the contract a line.
+const ContractRow contractRows[] = {
+    {"IdfF", {-0.1, 3, 20}, missing, 0},
+    {"IdfF", {1.1, 3, 20}, missing, 0},
+    {"IdfF", {0.5, 0, 20}, missing, 0},
+    {"IdfF", {0.5, 3, 0}, missing, 0},
+    {"IdfF", {0.5, 3, -1}, missing, 0},
+    {"IdfF", {0, 3, 20}, 0, 0},
+    {"IdfF", {1, 3, 20}, infinity, 0},
+    {"NonCentralCdfF", {1, 0, 20, 1, 0}, missing, 0},
+    {"NonCentralCdfF", {1, 3, 0, 1, 0}, missing, 0},
+    {"NonCentralCdfF", {1, 3, 20, -1, 0}, missing, 0},
+    {"NonCentralCdfF", {0, 3, 20, 1, 0}, 0, 0},
+    {"NonCentralCdfF", {-2, 3, 20, 1, 0}, 0, 0},
+    {"NonCentralCdfF", {-infinity, 3, 20, 1, 0}, 0, 0},
+    {"NonCentralCdfF", {missing, 3, 20, 1, 0}, 0, 0},
+    {"NonCentralCdfF", {infinity, 3, 20, 1, 0}, 1, 0},
+    {"NonCentralCdfF", {5, 3, 20, infinity, 0}, 0, 0},
+    {"IdfT", {-0.1, 10, 0, 0}, missing, 0},
+    {"IdfT", {1.1, 10, 0, 0}, missing, 0},
+    {"IdfT", {0.5, 0, 0, 0}, missing, 0},
+    {"IdfT", {0.5, -3, 0, 0}, missing, 0},
+    {"IdfT", {0, 10, 0, 0}, -infinity, 0},
+    {"IdfT", {1, 10, 0, 0}, infinity, 0},
+    {"IdfT", {0.5, 10, 0, 0}, 0, 0},
+    {"NonCentralCdfT", {1, 0, 1, 0}, missing, 0},
+    {"NonCentralCdfT", {1, -1, 1, 0}, missing, 0},
+    {"NonCentralCdfT", {-infinity, 10, 1, 0}, 0, 0},
+    {"NonCentralCdfT", {missing, 10, 1, 0}, 0, 0},
+    {"NonCentralCdfT", {infinity, 10, 1, 0}, 1, 0},
+    {"NonCentralCdfT", {1, 10, infinity, 0}, 0, 0},
+    {"NonCentralCdfT", {1, 10, -infinity, 0}, 1, 0},
+    {"CdfStdNorm", {-infinity}, 0, 0},
+    {"CdfStdNorm", {missing}, 0, 0},
+    {"CdfStdNorm", {infinity}, 1, 0},
+    {"CdfStdNorm", {0}, 0.5, 0},
+    {"IdfStdNorm", {-0.1}, missing, 0},
+    {"IdfStdNorm", {1.1}, missing, 0},
+    {"IdfStdNorm", {0}, -infinity, 0},
+    {"IdfStdNorm", {1}, infinity, 0},
+    {"IdfStdNorm", {0.5}, 0, 0},
+    {"CdfBeta", {0.5, -1, 2}, missing, 0},
+    {"CdfBeta", {0.5, 2, -1}, missing, 0},
+    {"CdfBeta", {0.5, 0, 0}, missing, 0},
+    {"CdfBeta", {-0.5, 2, 3}, 0, 0},
+    {"CdfBeta", {0, 2, 3}, 0, 0},
+    {"CdfBeta", {1, 2, 3}, 1, 0},
+    {"CdfBeta", {1.5, 2, 3}, 1, 0},
+    {"CdfBeta", {-infinity, 2, 3}, 0, 0},
+    {"CdfBeta", {infinity, 2, 3}, 1, 0},
+    {"CdfBeta", {-0.5, 0, 3}, 0, 0},
+    {"CdfBeta", {0, 0, 3}, 1, 0},
+    {"CdfBeta", {0.5, 0, 3}, 1, 0},
+    {"CdfBeta", {0.999, 3, 0}, 0, 0},
+    {"CdfBeta", {1, 3, 0}, 1, 0},
+    {"CdfBeta", {0.5, infinity, 3}, 0, 0},
+    {"CdfBeta", {0.5, 3, infinity}, 1, 0},
+    {"IdfBeta", {-0.1, 2, 3}, missing, 0},
+    {"IdfBeta", {1.1, 2, 3}, missing, 0},
+    {"IdfBeta", {0.5, -2, 3}, missing, 0},
+    {"IdfBeta", {0.5, 2, -3}, missing, 0},
+    {"IdfBeta", {0.5, 0, 0}, missing, 0},
+    {"IdfBeta", {0.3, 0, 3}, 0, 0},
+    {"IdfBeta", {0.3, 3, 0}, 1, 0},
+    {"IdfBeta", {0, 2, 3}, 0, 0},
+    {"IdfBeta", {1, 2, 3}, 1, 0},
+    {"CdfBin", {3, -1, 0.3}, missing, 1},
+    {"CdfBin", {3, infinity, 0.3}, missing, 1},
+    {"CdfBin", {3, 10, -0.1}, missing, 1},
+    {"CdfBin", {3, 10, 1.1}, missing, 1},
+    {"CdfBin", {nan, 10, 0.3}, nan, 1},
+    {"CdfBin", {-1, 10, 0.3}, 0, 0},
+    {"CdfBin", {-infinity, 10, 0.3}, 0, 0},
+    {"CdfBin", {10, 10, 0.3}, 1, 0},
+    {"CdfBin", {infinity, 10, 0.3}, 1, 0},
+    {"CdfBin", {10.5, 10.5, 0.3}, 1, 0},
+    {"CdfBin", {3, 10, 0}, 1, 0},
+    {"CdfBin", {3, 10, 1}, 0, 0},
+    {"CdfBin", {0, 0, 0.3}, 1, 0},
+    {"CdfBin", {0, 5, 0.5}, 0.03125, 0},
+    {"CdfBin", {26, 53, 0.5}, 0.5, 0},
+    {"IdfBin", {-0.1, 10, 0.3}, missing, 1},
+    {"IdfBin", {1.1, 10, 0.3}, missing, 1},
+    {"IdfBin", {0.5, -1, 0.3}, missing, 1},
+    {"IdfBin", {0.5, infinity, 0.3}, missing, 1},
+    {"IdfBin", {0.5, 10, 1.1}, missing, 1},
+    {"IdfBin", {0.5, 10, nan}, nan, 1},
+    {"IdfBin", {1, 10, 0.3}, 10, 0},
+    {"IdfBin", {1, 10.5, 0.3}, 10.5, 0},
+    {"IdfBin", {0, 10, 0.3}, -1, 0},
+    {"IdfBin", {0.001, 5, 0.5}, -1, 0},
+    {"IdfBin", {0.03125, 5, 0.5}, 0, 0},
+    {"IdfBin", {0.5, 0, 0.3}, -1, 0},
+    {"IdfBin", {0.5, 10, 0}, -1, 0},
+    {"IdfBin", {0.5, 10, 1}, 9, 0},
+    {"PdfBin", {3, -1, 0.3}, missing, 1},
+    {"PdfBin", {3, infinity, 0.3}, missing, 1},
+    {"PdfBin", {3, 10, 1.1}, missing, 1},
+    {"PdfBin", {3, nan, 0.3}, nan, 1},
+    {"PdfBin", {-1, 10, 0.3}, 0, 0},
+    {"PdfBin", {11, 10, 0.3}, 0, 0},
+    {"PdfBin", {0, 10, 0}, 1, 0},
+    {"PdfBin", {3, 10, 0}, 0, 0},
+    {"PdfBin", {10, 10, 1}, 1, 0},
+    {"PdfBin", {9, 10, 1}, 0, 0},
+    {"PdfBin", {0, 0, 0.3}, 1, 0},
+    {"PdfNegBin", {3, 0, 0.3}, missing, 1},
+    {"PdfNegBin", {3, -2, 0.3}, missing, 1},
+    {"PdfNegBin", {3, 2, 0}, missing, 1},
+    {"PdfNegBin", {3, 2, 1.1}, missing, 1},
+    {"PdfNegBin", {nan, 2, 0.3}, nan, 1},
+    {"PdfNegBin", {-1, 2, 0.3}, 0, 0},
+    {"PdfNegBin", {0, 2, 1}, 1, 0},
+    {"PdfNegBin", {3, 2, 1}, 0, 0},
+    {"PdfNegBin", {0, 2, 0.25}, 0.0625, 0},
+    {"orvadnlgam", {1}, 0, 0},
+    {"orvadnlgam", {2}, 0, 0},
+    {"orvadnlgam", {0}, infinity, 0},
+    {"orvadnlgam", {-3}, infinity, 0},
+    {"orvadnlgam", {infinity}, infinity, 0},
+    {"orvadnlgam", {-infinity}, infinity, 0},
+    {"orvadnlgam", {nan}, nan, 0},
+};
+
+TEST(Contract, GivesTheStatedAnswers) {
+  for (const ContractRow& row : contractRows) {
+    const Outcome outcome = FindFunction(row.function).call(row.arguments);
+    const ReferenceRow described{row.function, "", row.arguments, row.value, row.err, ""};
+    SCOPED_TRACE(described.function + "(" + Describe(described) + ")");
+    if (std::isnan(row.value))
+      EXPECT_TRUE(std::isnan(outcome.value));
+    else
+      EXPECT_EQ(outcome.value, row.value);
+    EXPECT_EQ(outcome.err, row.err);
+  }
+}
+
+// The trailing arguments of these functions are tuning arguments, which are not looked at.
+int ArgumentsThatCount(const Function& function) {
+  if (function.name == "IdfT") return 2;
+  if (function.name == "NonCentralCdfT") return 3;
+  if (function.name == "NonCentralCdfF") return 4;
+  return function.arity;
+}
+
+TEST(Contract, NanInAnyArgumentGivesNan) {
+  for (const Function& function : Functions())
+    for (int i = 0; i < ArgumentsThatCount(function); ++i)
+      for (const double others : {0.5, 3.0, -1.0, 0.0, 1.0, infinity}) {
+        Arguments arguments;
+        arguments.fill(others);
+        arguments[static_cast<std::size_t>(i)] = nan;
+        EXPECT_TRUE(std::isnan(function.call(arguments).value)) << function.name << ", argument " << i << ", " << others;
+      }
+}
+
+TEST(Contract, TuningArgumentsChangeNothing) {
+  EXPECT_EQ(KelDistFun::IdfT(0.975, 17, 1e-40, 1e-30), KelDistFun::IdfT(0.975, 17, 1e-20, 1e-12));
+  EXPECT_EQ(KelDistFun::NonCentralCdfT(2, 17, 1.5, 1e-12), KelDistFun::NonCentralCdfT(2, 17, 1.5, 0));
+  EXPECT_EQ(KelDistFun::NonCentralCdfF(2, 3, 17, 1.5, 1e-12), KelDistFun::NonCentralCdfF(2, 3, 17, 1.5, 1e-10));
+}
+
+TEST(Missing, IsTheMostNegativeDoubleAndNothingElse) {
+  EXPECT_EQ(KelMV::Missing(), -1.7976931348623157e308);
+  EXPECT_TRUE(KelMV::IsMissing(KelMV::Missing()));
+  EXPECT_FALSE(KelMV::IsMissing(std::nextafter(KelMV::Missing(), 0)));
+  EXPECT_FALSE(KelMV::IsMissing(-infinity));
+  EXPECT_FALSE(KelMV::IsMissing(nan));
+  EXPECT_FALSE(KelMV::IsMissing(-1));
+}
+
+}  // namespace

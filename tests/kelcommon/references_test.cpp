@@ -1,0 +1,98 @@
+#include <cstdio>
+
+#include <gtest/gtest.h>
+
+#include "reference_table.h"
+
+// What is promised over the domain of planning, whatever has been achieved. Regions whose name starts with "beyond"
+// lie outside it and are held to what has been achieved.
+namespace {
+
+constexpr double probabilityAbsolute = 1e-14;
+constexpr double probabilityRelative = 1e-12;
+constexpr double quantileRelative = 1e-13;
+constexpr double logarithmRelative = 1e-14;
+
+// Another mathematics library may round differently: two units in the last place of 1, and a tenth.
+constexpr double allowedGrowth = 1.1;
+constexpr double allowedIncrease = 4.5e-16;
+
+const std::string folder = KELCOMMON_REFERENCES;
+
+void ExpectHardBounds(const Function& function, const Error& largest) {
+  switch (function.kind) {
+    case Kind::probability:
+      EXPECT_LE(largest.absolute, probabilityAbsolute);
+      EXPECT_LE(largest.relative, probabilityRelative);
+      break;
+    case Kind::quantile:
+      EXPECT_LE(largest.relative, quantileRelative);
+      break;
+    case Kind::count:
+      EXPECT_EQ(largest.absolute, 0);
+      break;
+    case Kind::logarithm:
+      EXPECT_LE(largest.relative, logarithmRelative);
+      break;
+  }
+}
+
+void ExpectNoGrowth(const Function& function, const Error& largest, const Error& achieved) {
+  // The absolute error of a quantile has no scale of its own: it is measured and shown, and bounded by the relative one.
+  if (function.kind == Kind::probability) {
+    EXPECT_LE(largest.absolute, achieved.absolute * allowedGrowth + allowedIncrease);
+    EXPECT_LE(largest.relativeOfSmall, achieved.relativeOfSmall * allowedGrowth + allowedIncrease);
+  }
+  EXPECT_LE(largest.relative, achieved.relative * allowedGrowth + allowedIncrease);
+}
+
+std::string DescribeResult(const ReferenceRow& row) {
+  const Outcome outcome = FindFunction(row.function).call(row.arguments);
+  return row.function + "(" + Describe(row) + ") = " + Shortest(outcome.value) + ", reference " + Shortest(row.value) + ", " +
+         row.place;
+}
+
+class References : public testing::TestWithParam<std::string> {};
+
+TEST_P(References, ErrorsStayWithinBoundsAndDoNotGrow) {
+  const Function& function = FindFunction(GetParam());
+  const std::vector<ReferenceRow> rows = ReadReferences(folder);
+  const auto achieved = ReadAchieved(folder + "/achieved.csv");
+  int cases = 0;
+  for (const auto& [key, worst] : MeasureErrors(rows)) {
+    if (key.first != function.name) continue;
+    cases += worst.cases;
+    const std::string text = key.second + ": " + std::to_string(worst.cases) + " cases, absolute " +
+                             Shortest(worst.largest.absolute) + ", relative " + Shortest(worst.largest.relative) + ", of values up to 1e-10 " +
+                             Shortest(worst.largest.relativeOfSmall) +
+                             "\n  worst absolute " + DescribeResult(*worst.byAbsolute) + "\n  worst relative " +
+                             DescribeResult(*worst.byRelative);
+    std::printf("%s\n", text.c_str());
+    SCOPED_TRACE(text);
+    if (key.second.rfind("beyond", 0) != 0) ExpectHardBounds(function, worst.largest);
+    const auto stored = achieved.find(key);
+    if (stored == achieved.end())
+      ADD_FAILURE() << "no achieved error is stored; measure it with kelpower_accuracy --achieved";
+    else
+      ExpectNoGrowth(function, worst.largest, stored->second);
+  }
+  EXPECT_GE(cases, 100) << "too few references of " << function.name;
+}
+
+std::vector<std::string> Names() {
+  std::vector<std::string> names;
+  for (const Function& function : Functions()) names.push_back(function.name);
+  return names;
+}
+
+INSTANTIATE_TEST_SUITE_P(Kelcommon, References, testing::ValuesIn(Names()),
+                         [](const auto& test) { return test.param; });
+
+TEST(Achieved, StoresOnlyWhatIsMeasured) {
+  const std::vector<ReferenceRow> rows = ReadReferences(folder);
+  const auto measured = MeasureErrors(rows);
+  for (const auto& [key, error] : ReadAchieved(folder + "/achieved.csv"))
+    EXPECT_EQ(measured.count(key), 1u) << key.first << ", " << key.second;
+}
+
+}  // namespace

@@ -1,0 +1,119 @@
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "kelcommon/kel_mv.h"
+#include "reference_table.h"
+
+using KelCommon::KelMV;
+
+namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+// Doubles at which something changes, or once did. Every combination of them is an argument list.
+const double specials[] = {std::numeric_limits<double>::quiet_NaN(),
+                           -infinity,
+                           -std::numeric_limits<double>::max(),
+                           -1e16,
+                           -37.5,
+                           -1,
+                           -1e-300,
+                           -5e-324,
+                           -0.0,
+                           0,
+                           5e-324,
+                           1e-310,
+                           1e-20,
+                           1e-5,
+                           0.3,
+                           0.5,
+                           1 - 0x1p-53,
+                           1,
+                           1 + 0x1p-52,
+                           2.5,
+                           10,
+                           53,
+                           1000,
+                           123456.75,
+                           1e9,
+                           0x1p53,
+                           1e17,
+                           1e150,
+                           1e300,
+                           std::numeric_limits<double>::max(),
+                           infinity};
+
+bool IsSameBits(double a, double b) { return std::memcmp(&a, &b, sizeof a) == 0; }
+
+bool IsInRange(const Function& function, double value) {
+  if (std::isnan(value) || KelMV::IsMissing(value)) return true;
+  if (function.kind == Kind::probability && function.name != "PdfBin" && function.name != "PdfNegBin")
+    return value >= 0 && value <= 1;
+  if (function.kind == Kind::probability) return value >= 0;  // a mass at a real point may exceed 1
+  if (function.name == "IdfBeta") return value >= 0 && value <= 1;
+  if (function.name == "IdfF") return value >= 0;
+  if (function.kind == Kind::count) return value >= -1;
+  return true;
+}
+
+// The trailing tuning arguments are not varied: they are not looked at.
+int VariedArguments(const Function& function) { return function.name == "NonCentralCdfF" ? 4 : std::min(function.arity, 3); }
+
+class Totality : public testing::TestWithParam<std::string> {
+protected:
+  void CheckAll(int position) {
+    if (position == VariedArguments(function_)) return CheckOne();
+    for (const double special : specials) {
+      arguments_[static_cast<std::size_t>(position)] = special;
+      CheckAll(position + 1);
+    }
+  }
+
+  void CheckOne() {
+    ++calls_;
+    const auto start = std::chrono::steady_clock::now();
+    const Outcome first = function_.call(arguments_);
+    const auto duration = std::chrono::steady_clock::now() - start;
+    const Outcome second = function_.call(arguments_);
+    if (duration > std::chrono::milliseconds(20)) ++slowCalls_;
+    bool hasNan = false;
+    for (const double argument : arguments_) hasNan = hasNan || std::isnan(argument);
+    const bool isRight = IsSameBits(first.value, second.value) && first.err == second.err &&
+                         IsInRange(function_, first.value) && std::isnan(first.value) == hasNan &&
+                         (first.err == 0 || first.err == 1);
+    if (!isRight && ++failures_ <= 10) {
+      const ReferenceRow row{function_.name, "", arguments_, 0, 0, ""};
+      ADD_FAILURE() << function_.name << "(" << Describe(row) << ") = " << Shortest(first.value) << ", error code " << first.err
+                    << ", again " << Shortest(second.value);
+    }
+  }
+
+  const Function& function_ = FindFunction(GetParam());
+  Arguments arguments_{};
+  long calls_ = 0;
+  long slowCalls_ = 0;
+  long failures_ = 0;
+};
+
+// NaN exactly when an argument is NaN; otherwise the missing value or a value in range; the same bits twice.
+TEST_P(Totality, AnswersEverySpecialArgument) {
+  CheckAll(0);
+  EXPECT_EQ(failures_, 0) << "of " << calls_ << " calls";
+  // A busy machine may halt a few calls; a slow method is slow for many.
+  EXPECT_LE(slowCalls_, 10 + calls_ / 1000) << "calls above 20 ms, of " << calls_;
+}
+
+std::vector<std::string> Names() {
+  std::vector<std::string> names;
+  for (const Function& function : Functions()) names.push_back(function.name);
+  return names;
+}
+
+INSTANTIATE_TEST_SUITE_P(Kelcommon, Totality, testing::ValuesIn(Names()), [](const auto& test) { return test.param; });
+
+}  // namespace
