@@ -30,7 +30,7 @@ double ContrastVariance(int numGroups, const double* contrastCoefficients, const
 
 double ContrastNoncentrality(double effectSize, double relativeSize, double variance) {
   const double effect = KelMV::IsMissing(effectSize) ? std::numeric_limits<double>::infinity() : effectSize;
-  return effect * (relativeSize / variance) * effect;
+  return relativeSize * effect * effect / variance;
 }
 
 ContrastTest::ContrastTest(int numGroups, double sampleSize, bool isDirectional, double alpha) {
