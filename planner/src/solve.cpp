@@ -15,6 +15,9 @@ namespace {
 // The searches end within 1e-6 of the size that reaches the target exactly, so rounding up may miss it by a hair.
 constexpr double targetSlack = 1e-6;
 
+// Exact tests are not smooth in the size, so that rounding may miss the target by more; beyond this the search failed.
+constexpr double largestMiss = 0.05;
+
 // The library gives every group at least two, and just that when its search finds nothing.
 constexpr double smallestGroup = 2;
 
@@ -73,10 +76,10 @@ double ValueAtSizes(const Test& test, Question question, const Inputs& inputs, c
   return ValueOf(ChooseRoute(test, question, names), atSizes);
 }
 
-/// How far the value stays behind the target; not positive when it reaches it.
-double Shortfall(Question question, double value, const Inputs& inputs) {
-  if (question == Question::SampleSize) return inputs.Number("power") - value - targetSlack;
-  return value - inputs.Number("half-width") * (1 + targetSlack);
+/// How far the value stays behind the target, of a half-width relative to it; not positive when it is reached.
+double Miss(Question question, double value, const Inputs& inputs) {
+  if (question == Question::SampleSize) return inputs.Number("power") - value;
+  return value / inputs.Number("half-width") - 1;
 }
 
 std::string Target(Question question, const Inputs& inputs) {
@@ -91,11 +94,11 @@ Report SolveSizes(const Test& test, const Route& route, const Inputs& inputs, co
   if (!AreSizes(sizes)) throw NoSolution(unreachable);
   const Question valueQuestion = route.question == Question::SampleSize ? Question::Power : Question::HalfWidth;
   const double value = ValueAtSizes(test, valueQuestion, inputs, given, sizes);
-  const bool fallsShort = Shortfall(route.question, value, inputs) > 0;
+  const double miss = Miss(route.question, value, inputs);
   const bool smallest = std::all_of(sizes.begin(), sizes.end(), [](double size) { return size <= smallestGroup; });
-  if (fallsShort && smallest) throw NoSolution(unreachable);
+  if (miss > largestMiss || (miss > targetSlack && smallest)) throw NoSolution(unreachable);
   Report report = MakeReport(test, route, inputs, {sizes, true, value});
-  if (fallsShort) report.note = "At the sizes rounded to whole numbers the target is missed slightly.";
+  if (miss > targetSlack) report.note = "At the sizes rounded to whole numbers the target is missed slightly.";
   return report;
 }
 

@@ -99,6 +99,13 @@ TEST(Solve, SaysWhyThereIsNoSampleSize) {
             "No sample size was found that reaches a half-width of 1e-300.");
 }
 
+TEST(Solve, DoesNotReportSizesThatMissTheTargetByFar) {
+  EXPECT_EQ(Complaint<NoSolution>(
+                "contrast",
+                {{"coefficients", Numbers{1, -1, 0}}, {"sd", 1.0}, {"half-width", 1e-16}, {"alpha", 0.999999999}}),
+            "No sample size was found that reaches a half-width of 1e-16.");
+}
+
 TEST(Solve, NeedsNoEffectForAPowerBelowAlpha) {
   const Report report = Anova({{"means", Numbers{5, 5}}, {"sd", 6.0}, {"power", 0.04}});
   EXPECT_EQ(std::get<Numbers>(ResultOf(report, "sizes")), (Numbers{2, 2}));
