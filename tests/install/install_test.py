@@ -1,0 +1,114 @@
+"""Installs the build and uses it as a stranger would: from another folder, by CMake and by pkg-config, without Boost."""
+
+import argparse
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+CONSUMER = Path(__file__).resolve().parent / "consumer"
+
+
+def run(*command, **options):
+    """The output of a command, which must succeed."""
+    done = subprocess.run([str(part) for part in command], stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                          **options)
+    if done.returncode != 0:
+        sys.exit(f"{' '.join(map(str, command))}\n{done.stdout}failed with status {done.returncode}")
+    return done.stdout
+
+
+def expect(what, actual, expected):
+    if actual != expected:
+        sys.exit(f"{what} is\n{actual}\nexpected\n{expected}")
+
+
+def install(options):
+    shutil.rmtree(options.prefix, ignore_errors=True)
+    run(options.cmake, "--install", options.build, "--prefix", options.prefix)
+    libraries = options.prefix / options.libdir
+    for name in ("kelcommon", "kelpower"):
+        real = f"lib{name}.so.{options.release}"
+        expect(f"the link of {name} for linking", (libraries / f"lib{name}.so").resolve().name, real)
+        expect(f"the link of {name} for loading", (libraries / f"lib{name}.so.{options.soversion}").resolve().name, real)
+
+
+def check_that_nothing_names(words, prefix):
+    """No text file of the installation names Boost, nor a folder of the build."""
+    for path in sorted(prefix.rglob("*")):
+        if not path.is_file() or path.suffix not in (".h", ".cmake", ".pc"):
+            continue
+        for word in words:
+            if word.lower() in path.read_text().lower():
+                sys.exit(f"{path} names {word}")
+
+
+def check_included_files(options, folder, flags):
+    """The consumer includes no file of Boost, also where Boost lies on the compiler's own path."""
+    rule = run(options.compiler, "-std=c++17", "-M", *flags, "consumer.cpp", cwd=folder)
+    boost = [path for path in rule.split() if "boost" in Path(path).parts]
+    expect("the list of included files of Boost", boost, [])
+
+
+def with_cmake(options, folder):
+    run(options.cmake, "-S", folder, "-B", folder / "build", f"-DCMAKE_CXX_COMPILER={options.compiler}",
+        f"-DCMAKE_CXX_FLAGS={options.flags}", f"-DCMAKE_PREFIX_PATH={options.prefix}", "-DCMAKE_BUILD_TYPE=Release")
+    run(options.cmake, "--build", folder / "build")
+    return folder / "build" / "consumer"
+
+
+def with_pkg_config(options, folder):
+    search = {**os.environ, "PKG_CONFIG_LIBDIR": str(options.prefix / options.libdir / "pkgconfig")}
+    expect("the version of kelpower.pc", run(options.pkg_config, "--modversion", "kelpower", env=search).strip(),
+           options.release)
+    flags = run(options.pkg_config, "--cflags", "--libs", "kelpower", env=search).split()
+    check_included_files(options, folder, flags)
+    program = folder / "consumer_by_pkg_config"
+    run(options.compiler, "-std=c++17", *options.flags.split(), "consumer.cpp", *flags,
+        f"-Wl,-rpath,{options.prefix / options.libdir}", "-o", program, cwd=folder)
+    return program
+
+
+def check_program(options):
+    """The installed program finds the installed libraries without help, wherever the installation is moved."""
+    moved = options.prefix.with_name("moved")
+    shutil.rmtree(moved, ignore_errors=True)
+    shutil.copytree(options.prefix, moved, symlinks=True)
+    environment = {name: value for name, value in os.environ.items() if name != "LD_LIBRARY_PATH"}
+    program = moved / "bin" / options.program
+    run(program, "--version", env=environment)
+    loaded = run("ldd", program, env=environment)
+    for name in ("kelcommon", "kelpower"):
+        if f"{moved}/" not in next(line for line in loaded.splitlines() if f"lib{name}.so" in line):
+            sys.exit(f"{program} does not load the library {name} beside it:\n{loaded}")
+
+
+def parse():
+    parser = argparse.ArgumentParser(description=__doc__)
+    for name in ("cmake", "pkg-config", "compiler", "flags", "libdir", "soversion", "release"):
+        parser.add_argument(f"--{name}", required=True)
+    parser.add_argument("--build", required=True, type=Path)
+    parser.add_argument("--prefix", required=True, type=Path)
+    parser.add_argument("--program")
+    return parser.parse_args()
+
+
+def main():
+    options = parse()
+    install(options)
+    check_that_nothing_names(("boost", str(options.build)), options.prefix)
+    expected = (CONSUMER / "consumer.out").read_text()
+    with tempfile.TemporaryDirectory() as temporary:
+        folder = Path(temporary) / "consumer"
+        shutil.copytree(CONSUMER, folder)
+        for build in (with_cmake, with_pkg_config):
+            expect(f"the output of the consumer built {build.__name__}", run(build(options, folder)), expected)
+    if options.program:
+        check_program(options)
+    print("an installation can be used by CMake and by pkg-config")
+
+
+if __name__ == "__main__":
+    main()
