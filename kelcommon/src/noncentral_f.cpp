@@ -93,6 +93,12 @@ double LowerTailSum(const Shape& s) {
     k += 1;
     mass *= s.m / k;
     cumulative += mass;
+    if (cumulative > 1e200) {
+      // Only the product of the two is of moderate size.
+      cumulative *= 1e-200;
+      mass *= 1e-200;
+      step *= 1e200;
+    }
     term = step * cumulative;
     sum += term;
   }

@@ -26,7 +26,7 @@ def beta_odds(a, b, c):
 
 def terms(a, b, y):
     """About the number of terms of beta_series; its sum and one minus it both have digits to spare."""
-    a, b, y = float(a), float(b), float(y)
+    a, b, y = float(a), float(b), min(float(y), 1 - 1e-15)
     peak = max(0.0, (y * (a + b) - a) / (1 - y))
     return peak + min(100 / (1 - y), 15 * ((a + peak + 1) * (1 + (a + peak) / (b + 1))) ** 0.5 + 100)
 
