@@ -93,6 +93,12 @@ double LowerTailSum(const Shape& s) {
     k += 1;
     mass *= s.m / k;
     cumulative += mass;
+    if (cumulative > 1e200) {
+      // Only the product of the two is of moderate size.
+      cumulative *= 1e-200;
+      mass *= 1e-200;
+      step *= 1e200;
+    }
     term = step * cumulative;
     sum += term;
   }
@@ -187,7 +193,9 @@ public:
       if (size * cosh < 1e-18L) break;
     }
     const long double pi = 3.14159265358979323846L;
-    return static_cast<double>(std::exp(peak) * sum * stepWidth * scale / (std::fabs(t0) * pi));
+    const long double tail = std::exp(peak) * sum * stepWidth * scale / (std::fabs(t0) * pi);
+    // So far out that even extended precision overflows on the way, the tail is 0.
+    return tail > 0 ? static_cast<double>(std::fmin(tail, 1.0L)) : 0;
   }
 
 private:

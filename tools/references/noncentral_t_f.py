@@ -26,7 +26,7 @@ def beta_odds(a, b, c):
 
 def terms(a, b, y):
     """About the number of terms of beta_series; its sum and one minus it both have digits to spare."""
-    a, b, y = float(a), float(b), float(y)
+    a, b, y = float(a), float(b), min(float(y), 1 - 1e-15)
     peak = max(0.0, (y * (a + b) - a) / (1 - y))
     return peak + min(100 / (1 - y), 15 * ((a + peak + 1) * (1 + (a + peak) / (b + 1))) ** 0.5 + 100)
 
@@ -63,7 +63,7 @@ def mixture(a, b, m, c, weight, ratio, offset=0):
     """Sum of weight(j) I_y(a + j, b) and of weight(j) (1 - I_y(a + j, b)); ratio(j) = weight(j) / weight(j - 1)."""
     y = c / (1 + c)
     top = int(m + 22 * mp.sqrt(m) + 120)
-    bottom = max(0, int(m - 22 * mp.sqrt(m) - 40))
+    bottom = 0 if m < 1000 else max(0, int(m - 30 * mp.sqrt(m)))
     lower_j, _ = beta_odds(a + top, b, c)
     _, upper_j = beta_odds(a + bottom, b, c)
     w = weight(mpf(top))

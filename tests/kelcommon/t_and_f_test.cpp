@@ -1,0 +1,248 @@
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <random>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "kelcommon/kel_dist_fun.h"
+#include "kelcommon/kel_mv.h"
+
+namespace {
+
+using KelCommon::KelMV;
+using Dist = KelMath::KelDistFun;
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+const double nan = std::numeric_limits<double>::quiet_NaN();
+
+double IdfT(double p, double df) { return Dist::IdfT(p, df, 1e-40, 1e-30); }
+double CdfT(double x, double df, double delta) { return Dist::NonCentralCdfT(x, df, delta, 1e-12); }
+double CdfF(double x, double df1, double df2, double lambda) {
+  return Dist::NonCentralCdfF(x, df1, df2, lambda, 1e-12);
+}
+
+void ExpectRelative(double actual, double expected, double tolerance) {
+  EXPECT_LE(std::fabs(actual - expected), tolerance * std::fabs(expected)) << actual << " is not " << expected;
+}
+
+const std::vector<double> someDf = {0.5, 1, 2, 3, 4.7, 10, 30, 123.4, 1000, 1e5, 1e7};
+const std::vector<double> someDelta = {1e-6, 0.3, 1, 2.8, 5, 9.9, 10.1, 20, 60, 100};
+
+TEST(TAndF, NanInAnyArgumentGivesNan) {
+  EXPECT_TRUE(std::isnan(IdfT(nan, 5)));
+  EXPECT_TRUE(std::isnan(IdfT(0.5, nan)));
+  EXPECT_TRUE(std::isnan(IdfT(2, nan)));
+  EXPECT_TRUE(std::isnan(Dist::IdfF(nan, 5, 6)));
+  EXPECT_TRUE(std::isnan(Dist::IdfF(0, nan, 6)));
+  EXPECT_TRUE(std::isnan(Dist::IdfF(1, 5, nan)));
+  EXPECT_TRUE(std::isnan(CdfT(nan, -1, 1)));
+  EXPECT_TRUE(std::isnan(CdfT(infinity, nan, 1)));
+  EXPECT_TRUE(std::isnan(CdfT(1, 5, nan)));
+  EXPECT_TRUE(std::isnan(CdfF(nan, 5, 6, 1)));
+  EXPECT_TRUE(std::isnan(CdfF(-1, nan, 6, 1)));
+  EXPECT_TRUE(std::isnan(CdfF(1, 5, nan, -1)));
+  EXPECT_TRUE(std::isnan(CdfF(1, 5, 6, nan)));
+}
+
+TEST(TAndF, OutsideTheDomainTheResultIsMissing) {
+  EXPECT_TRUE(KelMV::IsMissing(IdfT(-1e-300, 5)));
+  EXPECT_TRUE(KelMV::IsMissing(IdfT(1.0000000000000002, 5)));
+  EXPECT_TRUE(KelMV::IsMissing(IdfT(0.5, 0)));
+  EXPECT_TRUE(KelMV::IsMissing(IdfT(0, -infinity)));
+  EXPECT_TRUE(KelMV::IsMissing(Dist::IdfF(-1, 5, 6)));
+  EXPECT_TRUE(KelMV::IsMissing(Dist::IdfF(2, 5, 6)));
+  EXPECT_TRUE(KelMV::IsMissing(Dist::IdfF(0, 0, 6)));
+  EXPECT_TRUE(KelMV::IsMissing(Dist::IdfF(1, 5, -1)));
+  EXPECT_TRUE(KelMV::IsMissing(CdfT(infinity, 0, 1)));
+  EXPECT_TRUE(KelMV::IsMissing(CdfT(1, -2, infinity)));
+  EXPECT_TRUE(KelMV::IsMissing(CdfF(-1, 0, 6, 1)));
+  EXPECT_TRUE(KelMV::IsMissing(CdfF(1, 5, 0, 1)));
+  EXPECT_TRUE(KelMV::IsMissing(CdfF(1, 5, 6, -1e-300)));
+}
+
+TEST(TAndF, EndsOfTheSupport) {
+  for (double df : someDf) {
+    EXPECT_EQ(IdfT(0, df), -infinity);
+    EXPECT_EQ(IdfT(1, df), infinity);
+    EXPECT_EQ(IdfT(0.5, df), 0);
+    EXPECT_EQ(Dist::IdfF(0, 3, df), 0);
+    EXPECT_EQ(Dist::IdfF(1, 3, df), infinity);
+    EXPECT_EQ(CdfT(-infinity, df, 1), 0);
+    EXPECT_EQ(CdfT(KelMV::Missing(), df, -1), 0);
+    EXPECT_EQ(CdfT(infinity, df, 1), 1);
+    EXPECT_EQ(CdfT(1, df, infinity), 0);
+    EXPECT_EQ(CdfT(1, df, -infinity), 1);
+    EXPECT_EQ(CdfF(0, 3, df, 1), 0);
+    EXPECT_EQ(CdfF(-1, 3, df, 1), 0);
+    EXPECT_EQ(CdfF(-infinity, 3, df, 1), 0);
+    EXPECT_EQ(CdfF(KelMV::Missing(), 3, df, 1), 0);
+    EXPECT_EQ(CdfF(infinity, 3, df, 1), 1);
+    EXPECT_EQ(CdfF(5, 3, df, infinity), 0);
+  }
+}
+
+TEST(TAndF, TuningArgumentsChangeNothing) {
+  EXPECT_EQ(Dist::IdfT(0.9, 7, 1e-40, 1e-30), Dist::IdfT(0.9, 7, nan, -1));
+  EXPECT_EQ(Dist::NonCentralCdfT(1, 7, 2, 1e-12), Dist::NonCentralCdfT(1, 7, 2, nan));
+  EXPECT_EQ(Dist::NonCentralCdfF(1, 7, 2, 3, 1e-12), Dist::NonCentralCdfF(1, 7, 2, 3, nan));
+}
+
+// Rows of the t and F tables to more digits, and closed forms.
+TEST(TAndF, TextbookValues) {
+  ExpectRelative(IdfT(0.975, 10), 2.2281388519862742, 1e-14);
+  ExpectRelative(IdfT(0.975, infinity), 1.9599639845400545, 1e-14);
+  ExpectRelative(Dist::IdfF(0.95, 3, 20), 3.0983912121407795, 1e-14);
+  const double pi = std::acos(-1.0);
+  for (double p : {1e-12, 0.001, 0.2, 0.49, 0.7, 0.975}) {
+    ExpectRelative(IdfT(p, 1), -1 / std::tan(pi * p), 1e-13);
+    ExpectRelative(IdfT(p, 2), (2 * p - 1) / std::sqrt(2 * p * (1 - p)), 1e-13);
+    for (double df : {1.0, 7.0, 400.0})
+      ExpectRelative(Dist::IdfF(p, 2, df), df / 2 * std::expm1(-2 / df * std::log1p(-p)), 1e-13);
+  }
+}
+
+TEST(TAndF, QuantilesInvertTheDistribution) {
+  for (double df : someDf) {
+    for (double p : {1e-12, 1e-5, 0.025, 0.3, 0.6, 0.95, 0.999}) {
+      ExpectRelative(CdfT(IdfT(p, df), df, 0), p, 1e-12);
+      for (double df1 : {0.5, 1.0, 2.0, 5.0, 40.0}) ExpectRelative(CdfF(Dist::IdfF(p, df1, df), df1, df, 0), p, 2e-12);
+    }
+  }
+}
+
+TEST(TAndF, SquareOfTheTQuantileIsAnFQuantile) {
+  for (double df : someDf)
+    for (double p : {0.5, 0.8, 0.95, 0.9375, 1 - 0x1p-30}) {
+      const double t = IdfT(1 - (1 - p) / 2, df);
+      ExpectRelative(Dist::IdfF(p, 1, df), t * t, 1e-13);
+    }
+}
+
+TEST(TAndF, TailsOfTSumToF) {
+  for (double df : someDf)
+    for (double delta : someDelta)
+      for (double x : {0.1, 1.0, 2.0, 7.5, 30.0, 99.0}) {
+        const double fromT = CdfT(x, df, delta) - CdfT(-x, df, delta);
+        EXPECT_NEAR(CdfF(x * x, 1, df, delta * delta), fromT, 1e-13) << x << " " << df << " " << delta;
+      }
+}
+
+TEST(TAndF, ReflectionOfT) {
+  for (double df : someDf)
+    for (double delta : someDelta)
+      for (double x : {0.1, 1.0, 2.0, 7.5, 30.0, 99.0})
+        EXPECT_NEAR(CdfT(x, df, delta) + CdfT(-x, df, -delta), 1, 1e-14) << x << " " << df << " " << delta;
+}
+
+// With two degrees of freedom s = sqrt(chi-square / 2) has P(s > u) = exp(-u^2), and the integral of Phi over it is
+// elementary: P(T <= x) = Phi(-delta) + r exp(-delta^2 / (x^2 + 2)) Phi(delta r), r = x / sqrt(x^2 + 2).
+TEST(TAndF, ClosedFormOfTAtTwoDegreesOfFreedom) {
+  const auto Phi = [](double z) { return 0.5 * std::erfc(-z * std::sqrt(0.5)); };
+  for (double delta : {-3.0, -0.7, 0.0, 0.4, 1.0, 2.8, 6.0, 12.0})
+    for (double x : {-1.5, -0.2, 0.3, 1.0, 4.0, 40.0}) {
+      const double r = x / std::sqrt(x * x + 2);
+      EXPECT_NEAR(CdfT(x, 2, delta), Phi(-delta) + r * std::exp(-delta * delta / (x * x + 2)) * Phi(delta * r), 1e-14);
+    }
+}
+
+TEST(TAndF, ProbabilityFallsWithTheNoncentralityAndGrowsWithX) {
+  for (double df : someDf) {
+    double previous = 1;
+    for (double delta = -12; delta <= 60; delta += 0.37) {
+      const double now = CdfT(3, df, delta);
+      EXPECT_LE(now, previous * (1 + 1e-12)) << df << " " << delta;
+      previous = now;
+    }
+    previous = 0;
+    for (double x = -30; x <= 60; x += 0.37) {
+      const double now = CdfT(x, df, 4.2);
+      EXPECT_GE(now, previous * (1 - 1e-12)) << df << " " << x;
+      previous = now;
+    }
+    previous = 1;
+    for (double lambda = 0; lambda < 3e3; lambda += 1 + lambda / 8) {
+      const double now = CdfF(2.5, 4, df, lambda);
+      EXPECT_LE(now, previous * (1 + 1e-12)) << df << " " << lambda;
+      previous = now;
+    }
+  }
+}
+
+TEST(TAndF, LargeDegreesOfFreedomReachTheNormal) {
+  const auto Phi = [](double z) { return 0.5 * std::erfc(-z * std::sqrt(0.5)); };
+  for (double df : {1e17, 1e60, 1e300, infinity})
+    for (double x : {-3.0, 0.5, 1.96})
+      for (double delta : {-2.0, 0.0, 0.1, 3.0}) {
+        EXPECT_NEAR(CdfT(x, df, delta), Phi(x - delta), 1e-14) << df << " " << x << " " << delta;
+        EXPECT_NEAR(CdfF(x * x, 1, df, delta * delta), Phi(std::fabs(x) - delta) - Phi(-std::fabs(x) - delta), 1e-14);
+      }
+  // Two and four degrees of freedom: chi-square is elementary.
+  for (double df2 : {1e17, 1e130, 1e307, infinity}) {
+    ExpectRelative(CdfF(1.5, 2, df2, 0), -std::expm1(-1.5), 1e-14);
+    ExpectRelative(CdfF(1.5, 4, df2, 0), 1 - 4 * std::exp(-3.0), 1e-14);
+    ExpectRelative(Dist::IdfF(0.95, 2, df2), -std::log1p(-0.95), 1e-14);
+  }
+}
+
+// A size, a noncentrality that grows with it, and a critical value of its own size: as searches without an answer ask.
+TEST(TAndF, SizesUpTo1e307) {
+  for (double size = 1; size < 1e307; size *= 1e3) {
+    EXPECT_LE(CdfT(1.96, size, 50 * std::sqrt(size)), 1e-100) << size;
+    EXPECT_EQ(CdfT(1.96, size, -50 * std::sqrt(size)), 1) << size;
+    EXPECT_LE(CdfF(3, 2, size, 4000 * std::fmax(size, 1)), 1e-15) << size;
+    // Beyond, the rounding of the critical value is more than the distribution's spread.
+    if (size < 1e25) {
+      const double balanced = CdfF(1 + 1e-3 * size / 4, 4, size, 1e-3 * size);
+      EXPECT_GT(balanced, 0.35) << size;
+      EXPECT_LT(balanced, 0.65) << size;
+    }
+    const double quantile = Dist::IdfF(0.95, 3, size);
+    EXPECT_GT(quantile, 2.6) << size;
+    EXPECT_NEAR(CdfF(quantile, 3, size, 0), 0.95, 1e-14) << size;
+  }
+}
+
+TEST(TAndF, PlacesWherePlainSeriesFail) {
+  EXPECT_GE(CdfT(-1, 1000, 23), 0);
+  EXPECT_NEAR(CdfT(1.9600281895946416, 36949.546033616614, 38.560852472445234), 0, 1e-200);
+  EXPECT_EQ(CdfT(1.96, 30, 2e7), 0);
+  EXPECT_EQ(CdfF(3, 3, 30, 3e10), 0);
+  EXPECT_EQ(CdfF(38.031728181019439, 2.8020860870648868e-200, 1e10, 9.96e-258), 1);
+}
+
+TEST(TAndF, EveryBitPatternHasAnAnswer) {
+  std::mt19937_64 generator(20240611);
+  const std::vector<double> special = {0,     -0.0, 1,    -1,    0.5,      5e-324,   1e-300,    1e308,
+                                       -1e308, nan,  1e17, 1e130, infinity, -infinity, 0x1p-1022, KelMV::Missing()};
+  const auto Draw = [&] {
+    const std::uint64_t bits = generator();
+    if (bits % 4 == 0) return special[(bits >> 8) % special.size()];
+    if (bits % 4 == 1) return std::pow(10.0, static_cast<double>(bits >> 11) * 0x1p-53 * 30 - 15);
+    const std::uint64_t pattern = generator();
+    double value = 0;
+    std::memcpy(&value, &pattern, sizeof value);
+    return value;
+  };
+  for (int i = 0; i < 20000; ++i) {
+    const double a = Draw();
+    const double b = Draw();
+    const double c = Draw();
+    const double d = Draw();
+    const double t = CdfT(a, b, c);
+    const double f = CdfF(a, b, c, d);
+    const double p = a >= 0 && a <= 1 ? a : static_cast<double>(generator() >> 11) * 0x1p-53;
+    const double qt = IdfT(p, b);
+    const double qf = Dist::IdfF(p, b, c);
+    if (std::isnan(a) || std::isnan(b) || std::isnan(c) || std::isnan(d)) continue;
+    EXPECT_TRUE(b <= 0 ? KelMV::IsMissing(t) : t >= 0 && t <= 1) << a << " " << b << " " << c;
+    EXPECT_TRUE(b <= 0 || c <= 0 || d < 0 ? KelMV::IsMissing(f) : f >= 0 && f <= 1)
+        << a << " " << b << " " << c << " " << d;
+    EXPECT_TRUE(b <= 0 ? KelMV::IsMissing(qt) : (qt > 0) == (p > 0.5)) << p << " " << b;
+    EXPECT_TRUE(b <= 0 || c <= 0 ? KelMV::IsMissing(qf) : qf >= 0) << p << " " << b << " " << c;
+  }
+}
+
+}  // namespace
