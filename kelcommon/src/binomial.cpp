@@ -48,9 +48,7 @@ double GuessQuantile(double prob, double n, double p) {
 }
 
 // 1, or where the counts are so large that they are further apart, their distance.
-double CountSpacing(double k) {
-  return std::max(1.0, std::nextafter(k, std::numeric_limits<double>::infinity()) - k);
-}
+double CountSpacing(double k) { return std::max(1.0, std::nextafter(k, std::numeric_limits<double>::infinity()) - k); }
 
 }  // namespace
 
