@@ -39,7 +39,9 @@ const Method methods[] = {
     {"PdfNegBin", "Mass of the negative binomial distribution: `PdfNegBin(x, r, p, err)`.", "The saddle-point form.",
      "C. Loader (2000), as `CdfBeta`."},
     {"orvadnlgam", "Logarithm of the absolute value of the gamma function: `orvadnlgam(x)`.",
-     "Rational approximations and the Lanczos sum; for negative arguments the reflection formula (Abramowitz and Stegun 6.1.17).", "J. Maddock and others, Boost.Math 1.81, `lgamma`."},
+     "Rational approximations and the Lanczos sum; for negative arguments the reflection formula (Abramowitz and "
+     "Stegun 6.1.17).",
+     "J. Maddock and others, Boost.Math 1.81, `lgamma`."},
 };
 
 }  // namespace
