@@ -24,7 +24,7 @@ double SignTestProbability(double k, double n) {
   if (2 * k >= n) return k >= n ? 1 : 1 - SignTestProbability(n - k - 1, n);
   double coefficient = 1;
   double sum = 1;
-  for (double i = 1; i <= k; ++i) {
+  for (int i = 1; i <= static_cast<int>(k); ++i) {
     coefficient *= n - i + 1;
     coefficient /= i;
     sum += coefficient;

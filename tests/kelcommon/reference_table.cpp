@@ -46,7 +46,7 @@ ReferenceRow ParseRow(const std::string& line, const std::string& fileName, int 
     row.arguments[i] = std::strtod(CellOr(cells, i + 1, "0").c_str(), nullptr);
   row.value = std::strtod(cells.at(6).c_str(), nullptr);
   row.err = std::strtol(CellOr(cells, 7, "0").c_str(), nullptr, 10);
-  row.region = CellOr(cells, 8, "independent set");
+  row.region = CellOr(cells, 8, fileName.substr(0, fileName.find('.')));
   row.place = fileName + ":" + std::to_string(lineNumber);
   return row;
 }
