@@ -40,8 +40,11 @@ function(kel_shared_library name)
   kel_compile_options(${name})
   target_link_libraries(${name} PRIVATE ${name}_objects)
   target_link_options(${name} PRIVATE
-    -Wl,--version-script=${CMAKE_CURRENT_BINARY_DIR}/${name}.map
-    $<$<NOT:$<BOOL:${KELPOWER_SANITIZE}>>:-Wl,--no-undefined>)
+    -Wl,--version-script=${CMAKE_CURRENT_BINARY_DIR}/${name}.map)
+  # The sanitizers' runtime is in the program and not in its libraries.
+  if(NOT KELPOWER_SANITIZE)
+    target_link_options(${name} PRIVATE -Wl,--no-undefined)
+  endif()
   set_target_properties(${name} PROPERTIES
     VERSION ${PROJECT_VERSION}
     SOVERSION ${KELPOWER_ABI_VERSION}

@@ -1,5 +1,5 @@
-// Any doubles to any function of kelcommon: the answer must be in range, NaN exactly for a NaN argument, the same twice,
-// with an error code written, and within a time that no ordinary delay of the machine explains.
+// Any doubles to any function of kelcommon: the answer must be in range, NaN exactly for a NaN argument, the same
+// twice, with an error code written, and within a time that no ordinary delay of the machine explains.
 //
 // Run: fuzz_kelcommon fuzz/corpus/kelcommon -max_len=64
 
@@ -39,7 +39,7 @@ using Arguments = std::array<double, 4>;
 struct Function {
   const char* name;
   std::size_t arity;
-  double low;   // of an answer that is neither NaN nor missing
+  double low;  // of an answer that is neither NaN nor missing
   double high;
   Answer (*call)(const Arguments&);
 };
@@ -54,21 +54,46 @@ Answer CallBinomial(const Arguments& a) {
 }
 
 const Function functions[] = {
-    {"IdfF", 3, 0, infinity, [](const Arguments& a) { return Answer{KelDistFun::IdfF(a[0], a[1], a[2]), 0}; }},
+    {"IdfF", 3, 0, infinity,
+     [](const Arguments& a) {
+       return Answer{KelDistFun::IdfF(a[0], a[1], a[2]), 0};
+     }},
     {"NonCentralCdfF", 4, 0, 1,
-     [](const Arguments& a) { return Answer{KelDistFun::NonCentralCdfF(a[0], a[1], a[2], a[3], 1e-12), 0}; }},
-    {"IdfT", 2, -infinity, infinity, [](const Arguments& a) { return Answer{KelDistFun::IdfT(a[0], a[1], 1e-40, 1e-30), 0}; }},
+     [](const Arguments& a) {
+       return Answer{KelDistFun::NonCentralCdfF(a[0], a[1], a[2], a[3], 1e-12), 0};
+     }},
+    {"IdfT", 2, -infinity, infinity,
+     [](const Arguments& a) {
+       return Answer{KelDistFun::IdfT(a[0], a[1], 1e-40, 1e-30), 0};
+     }},
     {"NonCentralCdfT", 3, 0, 1,
-     [](const Arguments& a) { return Answer{KelDistFun::NonCentralCdfT(a[0], a[1], a[2], 1e-12), 0}; }},
-    {"CdfStdNorm", 1, 0, 1, [](const Arguments& a) { return Answer{KelDistFun::CdfStdNorm(a[0]), 0}; }},
-    {"IdfStdNorm", 1, -infinity, infinity, [](const Arguments& a) { return Answer{KelDistFun::IdfStdNorm(a[0]), 0}; }},
-    {"CdfBeta", 3, 0, 1, [](const Arguments& a) { return Answer{KelDistFun::CdfBeta(a[0], a[1], a[2]), 0}; }},
-    {"IdfBeta", 3, 0, 1, [](const Arguments& a) { return Answer{KelDistFun::IdfBeta(a[0], a[1], a[2]), 0}; }},
+     [](const Arguments& a) {
+       return Answer{KelDistFun::NonCentralCdfT(a[0], a[1], a[2], 1e-12), 0};
+     }},
+    {"CdfStdNorm", 1, 0, 1,
+     [](const Arguments& a) {
+       return Answer{KelDistFun::CdfStdNorm(a[0]), 0};
+     }},
+    {"IdfStdNorm", 1, -infinity, infinity,
+     [](const Arguments& a) {
+       return Answer{KelDistFun::IdfStdNorm(a[0]), 0};
+     }},
+    {"CdfBeta", 3, 0, 1,
+     [](const Arguments& a) {
+       return Answer{KelDistFun::CdfBeta(a[0], a[1], a[2]), 0};
+     }},
+    {"IdfBeta", 3, 0, 1,
+     [](const Arguments& a) {
+       return Answer{KelDistFun::IdfBeta(a[0], a[1], a[2]), 0};
+     }},
     {"CdfBin", 3, 0, 1, CallBinomial<KelDistFun::CdfBin>},
     {"IdfBin", 3, -1, std::numeric_limits<double>::max(), CallBinomial<KelDistFun::IdfBin>},
     {"PdfBin", 3, 0, infinity, CallBinomial<KelDistFun::PdfBin>},
     {"PdfNegBin", 3, 0, infinity, CallBinomial<KelDistFun::PdfNegBin>},
-    {"orvadnlgam", 1, -1, infinity, [](const Arguments& a) { return Answer{KelDistFun::orvadnlgam(a[0]), 0}; }},
+    {"orvadnlgam", 1, -infinity, infinity,
+     [](const Arguments& a) {
+       return Answer{KelDistFun::orvadnlgam(a[0]), 0};
+     }},
 };
 constexpr std::size_t functionCount = sizeof functions / sizeof functions[0];
 
@@ -120,7 +145,8 @@ void Check(const Function& function, const Arguments& arguments) {
   bool hasNan = false;
   for (std::size_t i = 0; i < function.arity; ++i) hasNan = hasNan || std::isnan(arguments[i]);
   if (std::isnan(answer.value) != hasNan) Fail("NaN", function, arguments, answer);
-  if (std::memcmp(&answer.value, &again.value, sizeof answer.value) != 0) Fail("not the same twice", function, arguments, answer);
+  if (std::memcmp(&answer.value, &again.value, sizeof answer.value) != 0)
+    Fail("not the same twice", function, arguments, answer);
   if (answer.err != again.err) Fail("error code not the same twice", function, arguments, answer);
   if (answer.err != 0 && answer.err != 1) Fail("error code", function, arguments, answer);
   if (duration > longestCall) Fail("too slow", function, arguments, answer);

@@ -24,7 +24,7 @@ double SignTestProbability(double k, double n) {
   if (2 * k >= n) return k >= n ? 1 : 1 - SignTestProbability(n - k - 1, n);
   double coefficient = 1;
   double sum = 1;
-  for (double i = 1; i <= k; ++i) {
+  for (int i = 1; i <= static_cast<int>(k); ++i) {
     coefficient *= n - i + 1;
     coefficient /= i;
     sum += coefficient;
@@ -48,9 +48,7 @@ double GuessQuantile(double prob, double n, double p) {
 }
 
 // 1, or where the counts are so large that they are further apart, their distance.
-double CountSpacing(double k) {
-  return std::max(1.0, std::nextafter(k, std::numeric_limits<double>::infinity()) - k);
-}
+double CountSpacing(double k) { return std::max(1.0, std::nextafter(k, std::numeric_limits<double>::infinity()) - k); }
 
 }  // namespace
 

@@ -1,11 +1,10 @@
 #include "incomplete_beta.h"
 
 #include <algorithm>
+#include <boost/math/quadrature/gauss.hpp>
 #include <cmath>
 #include <limits>
 #include <utility>
-
-#include <boost/math/quadrature/gauss.hpp>
 
 #include "kelcommon/kel_dist_fun.h"
 #include "series.h"
@@ -48,8 +47,8 @@ double Excess(double a, double b, double x) {
   return difference + (differenceError + sumError + std::fma(a, x, -ax) + std::fma(b, x, -bx));
 }
 
-// Brings `large` down to the largest shape. A small other shape makes this a gamma distribution of large * x, with x the
-// distance to the near end; two large ones a step at a / (a + b).
+// Brings `large` down to the largest shape. A small other shape makes this a gamma distribution of large * x, with x
+// the distance to the near end; two large ones a step at a / (a + b).
 void ScaleDown(double& large, double& other, double& x) {
   if (large <= largestShape) return;
   const double factor = large / largestShape;
@@ -119,8 +118,7 @@ double TailOverSlopeByFraction(const Place& place) {
   for (int m = 1; m < 20000; ++m) {
     const double scale = x / (a + 2 * m - 1);
     const double numerator = ((a + m - 1) * scale) * ((a + b + m - 1) * scale) * (m * (b - m));
-    const double denominator =
-        m + m * (b - m) * scale + (a + m) / (a + 2 * m + 1) * (1 - excess + m * (2 - x));
+    const double denominator = m + m * (b - m) * scale + (a + m) / (a + 2 * m + 1) * (1 - excess + m * (2 - x));
     d = 1 / (denominator + numerator * d);
     c = denominator + numerator / c;
     const double change = c * d;
@@ -141,8 +139,8 @@ double TailExponent(const Place& place, double s) {
   return -excess * s + (a + b) * (Log1pMinusArgument(share * (shift + curvature)) + share * curvature);
 }
 
-// Lower probability over slope, by Gauss-Legendre quadrature of the tail in log(x / y), where the integrand lies between
-// an exponential and a normal density.
+// Lower probability over slope, by Gauss-Legendre quadrature of the tail in log(x / y), where the integrand lies
+// between an exponential and a normal density.
 double TailOverSlopeByQuadrature(const Place& place) {
   using Rule = boost::math::quadrature::gauss<double, 30>;
   const double information = (place.a + place.b) * place.point.x * place.point.y;
@@ -153,7 +151,8 @@ double TailOverSlopeByQuadrature(const Place& place) {
   double sum = 0;
   for (std::size_t i = 0; i < Rule::abscissa().size(); ++i) {
     const double offset = half * Rule::abscissa()[i];
-    sum += Rule::weights()[i] * (std::exp(-TailExponent(place, half - offset)) + std::exp(-TailExponent(place, half + offset)));
+    sum += Rule::weights()[i] *
+           (std::exp(-TailExponent(place, half - offset)) + std::exp(-TailExponent(place, half + offset)));
   }
   return half * sum;
 }
@@ -225,8 +224,7 @@ double StartingLogit(double probability, double a, double b) {
     const double inverseA = 1 / (2 * a - 1);
     const double inverseB = 1 / (2 * b - 1);
     const double h = 2 / (inverseA + inverseB);
-    const double w =
-        upperNormal * std::sqrt(h + lambda) / h - (inverseB - inverseA) * (lambda + 5.0 / 6 - 2 / (3 * h));
+    const double w = upperNormal * std::sqrt(h + lambda) / h - (inverseB - inverseA) * (lambda + 5.0 / 6 - 2 / (3 * h));
     return std::log(a / b) - 2 * w;
   }
   const double massNear0 = std::pow(a / (a + b), a) / a;

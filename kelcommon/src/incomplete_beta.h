@@ -23,12 +23,12 @@ struct BetaTails {
 /// binomial distribution are this over the count, up to a factor.
 double BetaSlope(double a, double b, UnitPoint point);
 
-/// Both probabilities of Beta(a, b), each with its relative accuracy when it is the smaller one; positive finite a and b
-/// and 0 < x < 1.
+/// Both probabilities of Beta(a, b), each with its relative accuracy when it is the smaller one; positive finite a and
+/// b and 0 < x < 1.
 BetaTails IncompleteBeta(double a, double b, UnitPoint point);
 
-/// The point with lower probability `probability`, at most 1/2 and above 0, for positive finite a and b. Its x is 0 when
-/// the quantile is smaller than the least positive double.
+/// The point with lower probability `probability`, at most 1/2 and above 0, for positive finite a and b. Its x is 0
+/// when the quantile is smaller than the least positive double.
 UnitPoint BetaLowerQuantile(double probability, double a, double b);
 
 }  // namespace KelMath

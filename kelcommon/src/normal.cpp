@@ -1,7 +1,6 @@
+#include <boost/math/special_functions/erf.hpp>
 #include <cmath>
 #include <limits>
-
-#include <boost/math/special_functions/erf.hpp>
 
 #include "boost_policy.h"
 #include "kelcommon/kel_dist_fun.h"

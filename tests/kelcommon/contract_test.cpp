@@ -1,7 +1,7 @@
+#include <gtest/gtest.h>
+
 #include <cmath>
 #include <limits>
-
-#include <gtest/gtest.h>
 
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
@@ -176,7 +176,8 @@ TEST(Contract, NanInAnyArgumentGivesNan) {
         Arguments arguments;
         arguments.fill(others);
         arguments[static_cast<std::size_t>(i)] = nan;
-        EXPECT_TRUE(std::isnan(function.call(arguments).value)) << function.name << ", argument " << i << ", " << others;
+        EXPECT_TRUE(std::isnan(function.call(arguments).value))
+            << function.name << ", argument " << i << ", " << others;
       }
 }
 

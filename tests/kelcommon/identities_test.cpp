@@ -1,8 +1,8 @@
+#include <gtest/gtest.h>
+
 #include <cmath>
 #include <limits>
 #include <random>
-
-#include <gtest/gtest.h>
 
 #include "kelcommon/kel_dist_fun.h"
 
@@ -94,7 +94,8 @@ TEST(Beta, TailsOfMirroredShapesAddToOne) {
     const double b = draw.LogUniform(0.01, 1e7);
     // Sixty-fourths are mirrored without rounding.
     const double x = draw.Whole(1, 63) / 64;
-    EXPECT_NEAR(KelDistFun::CdfBeta(x, a, b) + KelDistFun::CdfBeta(1 - x, b, a), 1, 4e-16) << x << ", " << a << ", " << b;
+    EXPECT_NEAR(KelDistFun::CdfBeta(x, a, b) + KelDistFun::CdfBeta(1 - x, b, a), 1, 4e-16)
+        << x << ", " << a << ", " << b;
   }
 }
 
@@ -112,7 +113,8 @@ TEST(Beta, HasTheClosedFormsOfAShapeOne) {
     const double a = draw.LogUniform(0.1, 1e4);
     const double x = draw.Uniform(0.001, 1);
     const double power = std::pow(x, a);
-    EXPECT_NEAR(KelDistFun::CdfBeta(x, a, 1), power, 4e-15 * std::fmax(1, -std::log(std::fmax(power, 1e-300))) * power) << x << ", " << a;
+    EXPECT_NEAR(KelDistFun::CdfBeta(x, a, 1), power, 4e-15 * std::fmax(1, -std::log(std::fmax(power, 1e-300))) * power)
+        << x << ", " << a;
     EXPECT_NEAR(KelDistFun::CdfBeta(x, 1, a), -std::expm1(a * std::log1p(-x)), 1e-15) << x << ", " << a;
   }
 }
@@ -126,7 +128,8 @@ TEST(Beta, QuantileUndoesTheProbability) {
     const double x = KelDistFun::IdfBeta(p, a, b);
     ASSERT_GE(x, 0);
     ASSERT_LE(x, 1);
-    // A quantile has an error of half a unit in the last place at best: the probabilities of its neighbours tell its own.
+    // A quantile has an error of half a unit in the last place at best: the probabilities of its neighbours tell its
+    // own.
     const double low = KelDistFun::CdfBeta(x * (1 - 4e-15), a, b);
     const double high = KelDistFun::CdfBeta(std::fmin(1, x * (1 + 4e-15)), a, b);
     EXPECT_LE(low, p * (1 + 1e-13)) << p << ", " << a << ", " << b;

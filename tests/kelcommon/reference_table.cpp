@@ -42,10 +42,11 @@ ReferenceRow ParseRow(const std::string& line, const std::string& fileName, int 
   const std::vector<std::string> cells = SplitLine(line);
   ReferenceRow row{};
   row.function = cells.at(0);
-  for (std::size_t i = 0; i < row.arguments.size(); ++i) row.arguments[i] = std::strtod(CellOr(cells, i + 1, "0").c_str(), nullptr);
+  for (std::size_t i = 0; i < row.arguments.size(); ++i)
+    row.arguments[i] = std::strtod(CellOr(cells, i + 1, "0").c_str(), nullptr);
   row.value = std::strtod(cells.at(6).c_str(), nullptr);
   row.err = std::strtol(CellOr(cells, 7, "0").c_str(), nullptr, 10);
-  row.region = CellOr(cells, 8, "independent set");
+  row.region = CellOr(cells, 8, fileName.substr(0, fileName.find('.')));
   row.place = fileName + ":" + std::to_string(lineNumber);
   return row;
 }
@@ -55,13 +56,15 @@ void ReadFile(const std::filesystem::path& path, std::vector<ReferenceRow>& rows
   std::string line;
   std::getline(file, line);
   if (line.rfind("function,a1", 0) != 0) return;
-  for (int number = 2; std::getline(file, line); ++number) rows.push_back(ParseRow(line, path.filename().string(), number));
+  for (int number = 2; std::getline(file, line); ++number)
+    rows.push_back(ParseRow(line, path.filename().string(), number));
 }
 
 bool IsSpecial(double value) { return !std::isfinite(value) || KelMV::IsMissing(value); }
 
 bool IsMedianOfSymmetric(const Function& function, const ReferenceRow& row) {
-  return (function.name == "IdfStdNorm" || function.name == "IdfT") && row.arguments[0] == 0.5 && std::fabs(row.value) < 1e-30;
+  return (function.name == "IdfStdNorm" || function.name == "IdfT") && row.arguments[0] == 0.5 &&
+         std::fabs(row.value) < 1e-30;
 }
 
 bool AreSame(double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); }
@@ -70,19 +73,38 @@ bool AreSame(double a, double b) { return a == b || (std::isnan(a) && std::isnan
 
 const std::vector<Function>& Functions() {
   static const std::vector<Function> functions = {
-      {"IdfF", 3, Kind::quantile, [](const Arguments& a) { return Outcome{KelDistFun::IdfF(a[0], a[1], a[2]), 0}; }},
+      {"IdfF", 3, Kind::quantile,
+       [](const Arguments& a) {
+         return Outcome{KelDistFun::IdfF(a[0], a[1], a[2]), 0};
+       }},
       {"NonCentralCdfF", 5, Kind::probability,
-       [](const Arguments& a) { return Outcome{KelDistFun::NonCentralCdfF(a[0], a[1], a[2], a[3], a[4]), 0}; }},
+       [](const Arguments& a) {
+         return Outcome{KelDistFun::NonCentralCdfF(a[0], a[1], a[2], a[3], a[4]), 0};
+       }},
       {"IdfT", 4, Kind::quantile,
-       [](const Arguments& a) { return Outcome{KelDistFun::IdfT(a[0], a[1], a[2], a[3]), 0}; }},
+       [](const Arguments& a) {
+         return Outcome{KelDistFun::IdfT(a[0], a[1], a[2], a[3]), 0};
+       }},
       {"NonCentralCdfT", 4, Kind::probability,
-       [](const Arguments& a) { return Outcome{KelDistFun::NonCentralCdfT(a[0], a[1], a[2], a[3]), 0}; }},
-      {"CdfStdNorm", 1, Kind::probability, [](const Arguments& a) { return Outcome{KelDistFun::CdfStdNorm(a[0]), 0}; }},
-      {"IdfStdNorm", 1, Kind::quantile, [](const Arguments& a) { return Outcome{KelDistFun::IdfStdNorm(a[0]), 0}; }},
+       [](const Arguments& a) {
+         return Outcome{KelDistFun::NonCentralCdfT(a[0], a[1], a[2], a[3]), 0};
+       }},
+      {"CdfStdNorm", 1, Kind::probability,
+       [](const Arguments& a) {
+         return Outcome{KelDistFun::CdfStdNorm(a[0]), 0};
+       }},
+      {"IdfStdNorm", 1, Kind::quantile,
+       [](const Arguments& a) {
+         return Outcome{KelDistFun::IdfStdNorm(a[0]), 0};
+       }},
       {"CdfBeta", 3, Kind::probability,
-       [](const Arguments& a) { return Outcome{KelDistFun::CdfBeta(a[0], a[1], a[2]), 0}; }},
+       [](const Arguments& a) {
+         return Outcome{KelDistFun::CdfBeta(a[0], a[1], a[2]), 0};
+       }},
       {"IdfBeta", 3, Kind::quantile,
-       [](const Arguments& a) { return Outcome{KelDistFun::IdfBeta(a[0], a[1], a[2]), 0}; }},
+       [](const Arguments& a) {
+         return Outcome{KelDistFun::IdfBeta(a[0], a[1], a[2]), 0};
+       }},
       {"CdfBin", 3, Kind::probability,
        [](const Arguments& a) {
          Outcome outcome{0, unwritten};
@@ -107,7 +129,9 @@ const std::vector<Function>& Functions() {
          outcome.value = KelDistFun::PdfNegBin(a[0], a[1], a[2], outcome.err);
          return outcome;
        }},
-      {"orvadnlgam", 1, Kind::logarithm, [](const Arguments& a) { return Outcome{KelDistFun::orvadnlgam(a[0]), 0}; }}};
+      {"orvadnlgam", 1, Kind::logarithm, [](const Arguments& a) {
+         return Outcome{KelDistFun::orvadnlgam(a[0]), 0};
+       }}};
   return functions;
 }
 
@@ -171,7 +195,8 @@ std::map<FunctionRegion, Error> ReadAchieved(const std::string& path) {
   std::getline(file, line);
   while (std::getline(file, line)) {
     const std::vector<std::string> cells = SplitLine(line);
-    achieved[{cells.at(0), cells.at(1)}] = {std::strtod(cells.at(2).c_str(), nullptr), std::strtod(cells.at(3).c_str(), nullptr),
+    achieved[{cells.at(0), cells.at(1)}] = {std::strtod(cells.at(2).c_str(), nullptr),
+                                            std::strtod(cells.at(3).c_str(), nullptr),
                                             std::strtod(cells.at(4).c_str(), nullptr)};
   }
   return achieved;

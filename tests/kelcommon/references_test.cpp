@@ -1,6 +1,6 @@
-#include <cstdio>
-
 #include <gtest/gtest.h>
+
+#include <cstdio>
 
 #include "reference_table.h"
 
@@ -25,20 +25,15 @@ void ExpectHardBounds(const Function& function, const Error& largest) {
       EXPECT_LE(largest.absolute, probabilityAbsolute);
       EXPECT_LE(largest.relative, probabilityRelative);
       break;
-    case Kind::quantile:
-      EXPECT_LE(largest.relative, quantileRelative);
-      break;
-    case Kind::count:
-      EXPECT_EQ(largest.absolute, 0);
-      break;
-    case Kind::logarithm:
-      EXPECT_LE(largest.relative, logarithmRelative);
-      break;
+    case Kind::quantile: EXPECT_LE(largest.relative, quantileRelative); break;
+    case Kind::count: EXPECT_EQ(largest.absolute, 0); break;
+    case Kind::logarithm: EXPECT_LE(largest.relative, logarithmRelative); break;
   }
 }
 
 void ExpectNoGrowth(const Function& function, const Error& largest, const Error& achieved) {
-  // The absolute error of a quantile has no scale of its own: it is measured and shown, and bounded by the relative one.
+  // The absolute error of a quantile has no scale of its own: it is measured and shown, and bounded by the relative
+  // one.
   if (function.kind == Kind::probability) {
     EXPECT_LE(largest.absolute, achieved.absolute * allowedGrowth + allowedIncrease);
     EXPECT_LE(largest.relativeOfSmall, achieved.relativeOfSmall * allowedGrowth + allowedIncrease);
@@ -48,8 +43,8 @@ void ExpectNoGrowth(const Function& function, const Error& largest, const Error&
 
 std::string DescribeResult(const ReferenceRow& row) {
   const Outcome outcome = FindFunction(row.function).call(row.arguments);
-  return row.function + "(" + Describe(row) + ") = " + Shortest(outcome.value) + ", reference " + Shortest(row.value) + ", " +
-         row.place;
+  return row.function + "(" + Describe(row) + ") = " + Shortest(outcome.value) + ", reference " + Shortest(row.value) +
+         ", " + row.place;
 }
 
 class References : public testing::TestWithParam<std::string> {};
@@ -63,8 +58,8 @@ TEST_P(References, ErrorsStayWithinBoundsAndDoNotGrow) {
     if (key.first != function.name) continue;
     cases += worst.cases;
     const std::string text = key.second + ": " + std::to_string(worst.cases) + " cases, absolute " +
-                             Shortest(worst.largest.absolute) + ", relative " + Shortest(worst.largest.relative) + ", of values up to 1e-10 " +
-                             Shortest(worst.largest.relativeOfSmall) +
+                             Shortest(worst.largest.absolute) + ", relative " + Shortest(worst.largest.relative) +
+                             ", of values up to 1e-10 " + Shortest(worst.largest.relativeOfSmall) +
                              "\n  worst absolute " + DescribeResult(*worst.byAbsolute) + "\n  worst relative " +
                              DescribeResult(*worst.byRelative);
     std::printf("%s\n", text.c_str());

@@ -1,10 +1,10 @@
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <cstring>
 #include <limits>
-
-#include <gtest/gtest.h>
 
 #include "kelcommon/kel_mv.h"
 #include "reference_table.h"
@@ -62,7 +62,9 @@ bool IsInRange(const Function& function, double value) {
 }
 
 // The trailing tuning arguments are not varied: they are not looked at.
-int VariedArguments(const Function& function) { return function.name == "NonCentralCdfF" ? 4 : std::min(function.arity, 3); }
+int VariedArguments(const Function& function) {
+  return function.name == "NonCentralCdfF" ? 4 : std::min(function.arity, 3);
+}
 
 class Totality : public testing::TestWithParam<std::string> {
 protected:
@@ -88,8 +90,8 @@ protected:
                          (first.err == 0 || first.err == 1);
     if (!isRight && ++failures_ <= 10) {
       const ReferenceRow row{function_.name, "", arguments_, 0, 0, ""};
-      ADD_FAILURE() << function_.name << "(" << Describe(row) << ") = " << Shortest(first.value) << ", error code " << first.err
-                    << ", again " << Shortest(second.value);
+      ADD_FAILURE() << function_.name << "(" << Describe(row) << ") = " << Shortest(first.value) << ", error code "
+                    << first.err << ", again " << Shortest(second.value);
     }
   }
 

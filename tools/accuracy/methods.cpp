@@ -22,13 +22,15 @@ const Method methods[] = {
     {"CdfBeta", "Lower probability of the beta distribution: `CdfBeta(x, a, b)`.",
      "x^a (1 - x)^b / B(a, b) in saddle-point form with a compensated distance from the mean, times a power series, a "
      "continued fraction, or above shapes of 1500 a Gauss-Legendre quadrature of the tail.",
-     "C. Loader, Fast and Accurate Computation of Binomial Probabilities (2000); A. DiDonato and A. Morris, Significant "
+     "C. Loader, Fast and Accurate Computation of Binomial Probabilities (2000); A. DiDonato and A. Morris, "
+     "Significant "
      "Digit Computation of the Incomplete Beta Function Ratios, ACM TOMS 18 (1992), equation 9."},
     {"IdfBeta", "Quantile of the beta distribution: `IdfBeta(p, a, b)`.",
      "Halley's method on the logarithm of the smaller tail as a function of log(x / (1 - x)), within a bracket.",
      "Start: Abramowitz and Stegun 26.5.22; W. Press and others, Numerical Recipes (3rd ed. 2007), 6.4."},
     {"CdfBin", "Lower probability of the binomial distribution: `CdfBin(x, n, p, err)`.",
-     "The upper probability of the beta distribution; with p = 1/2 and up to 53 trials the exact sum.", "As `CdfBeta`."},
+     "The upper probability of the beta distribution; with p = 1/2 and up to 53 trials the exact sum.",
+     "As `CdfBeta`."},
     {"IdfBin", "Largest count whose lower probability is at most prob: `IdfBin(prob, n, p, err)`.",
      "Doubling steps from a Cornish-Fisher guess, then bisection, both by `CdfBin`.",
      "E. Cornish and R. Fisher, Moments and Cumulants in the Specification of Distributions (1938)."},
@@ -37,7 +39,9 @@ const Method methods[] = {
     {"PdfNegBin", "Mass of the negative binomial distribution: `PdfNegBin(x, r, p, err)`.", "The saddle-point form.",
      "C. Loader (2000), as `CdfBeta`."},
     {"orvadnlgam", "Logarithm of the absolute value of the gamma function: `orvadnlgam(x)`.",
-     "Rational approximations below 15 and Lanczos' above.", "J. Maddock and others, Boost.Math 1.81, `lgamma`."},
+     "Rational approximations and the Lanczos sum; for negative arguments the reflection formula (Abramowitz and "
+     "Stegun 6.1.17).",
+     "J. Maddock and others, Boost.Math 1.81, `lgamma`."},
 };
 
 }  // namespace
