@@ -1,8 +1,7 @@
 #include "beta_terms.h"
 
-#include <cmath>
-
 #include <boost/math/special_functions/erf.hpp>
+#include <cmath>
 
 #include "boost_policy.h"
 #include "noncentral_f.h"
@@ -39,9 +38,9 @@ double ScaledGamma(double x) {
   const double r = 1 / x;
   const double r2 = r * r;
   const double logarithm =
-      r * (1.0 / 12 -
-           r2 * (1.0 / 360 -
-                 r2 * (1.0 / 1260 - r2 * (1.0 / 1680 - r2 * (1.0 / 1188 - r2 * (691.0 / 360360 - r2 / 156))))));
+      r *
+      (1.0 / 12 -
+       r2 * (1.0 / 360 - r2 * (1.0 / 1260 - r2 * (1.0 / 1680 - r2 * (1.0 / 1188 - r2 * (691.0 / 360360 - r2 / 156))))));
   return std::exp(logarithm);
 }
 
@@ -103,8 +102,8 @@ double BetaFraction(double a, double b, long double c) {
   return -1;
 }
 
-// The same divided value as the sum 1 + y (a+b)/(a+1) (1 + y (a+b+1)/(a+2) (1 + ...)), Didonato and Morris (1992), eq. 4.
-// All terms are positive; a term costs a fifth of one of the fraction.
+// The same divided value as the sum 1 + y (a+b)/(a+1) (1 + y (a+b+1)/(a+2) (1 + ...)), Didonato and Morris (1992),
+// eq. 4. All terms are positive; a term costs a fifth of one of the fraction.
 double BetaSeries(double a, double y, double yTimesAPlusB) {
   double term = 1;
   double sum = 1;
@@ -133,6 +132,9 @@ Tail BetaTail(double a, double b, long double c) {
   return {stepValue * quotient, a * stepValue};
 }
 
+// One minus a tail of 0.99 loses two digits of sixteen; beyond, the other one is worth its own evaluation.
+constexpr double largestComplement = 0.99;
+
 struct TailsAndDensity {
   Tails tails;
   double density;
@@ -146,9 +148,8 @@ TailsAndDensity EvaluateBeta(double a, double b, long double c) {
   Tail upper = {-1, -1};
   if (!bothLarge) {
     (lowerFirst ? lower : upper) = lowerFirst ? BetaTail(a, b, c) : BetaTail(b, a, 1 / c);
-    // One minus a tail of up to 0.9 loses a digit; beyond, the other one is worth its own evaluation.
-    if (lower.value > 0.9) upper = BetaTail(b, a, 1 / c);
-    if (upper.value > 0.9) lower = BetaTail(a, b, c);
+    if (lower.value > largestComplement) upper = BetaTail(b, a, 1 / c);
+    if (upper.value > largestComplement) lower = BetaTail(a, b, c);
   }
   if (upper.value >= 0 && (lower.value < 0 || upper.value < lower.value))
     return {{std::fmax(1 - upper.value, 0.0), upper.value}, upper.density};

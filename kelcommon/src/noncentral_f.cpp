@@ -41,7 +41,12 @@ struct Shape {
 
 Shape MakeShape(double a, double b, double m, long double c) {
   const long double y = c / (1 + c);
-  return {a, b, m, c, static_cast<double>(y), static_cast<double>(1 / (1 + c)),
+  return {a,
+          b,
+          m,
+          c,
+          static_cast<double>(y),
+          static_cast<double>(1 / (1 + c)),
           static_cast<double>(y * (static_cast<long double>(a) + b))};
 }
 
@@ -140,7 +145,8 @@ double LowerTailTerms(const Shape& s) {
 
 double UpperTailTerms(const Shape& s) { return s.m - FirstTerm(s.m) + 9 * std::sqrt(s.m) + 10; }
 
-// The distribution function is the probability that X1 - c X2 <= 0. With the logarithm of the moment generating function
+// The distribution function is the probability that X1 - c X2 <= 0. With the logarithm of the moment generating
+// function
 //   K(t) = -a log(1 - t) + m t / (1 - t) - b log(1 + c t),  -1/c < t < 1,
 // the lower tail is the integral of exp(K(t)) / (-2 pi i t) along Re t = t0 with t0 < 0, the upper tail that of
 // exp(K(t)) / (2 pi i t) with t0 > 0 (Lugannani and Rice (1980), Saddle point approximation for the distribution of the
@@ -170,8 +176,7 @@ public:
     const long double t0 = Saddle(lower);
     const long double r = 1 - t0;
     const long double q = 1 + c * t0;
-    const long double peak =
-        -a * Log1pMinusArg(-t0) + m * t0 * t0 / r - b * Log1pMinusArg(c * t0) + mean * t0;
+    const long double peak = -a * Log1pMinusArg(-t0) + m * t0 * t0 / r - b * Log1pMinusArg(c * t0) + mean * t0;
     const long double scale = 1 / std::sqrt(Curvature(t0));
     const long double slope = Slope(t0);
     const long double smallerShape = std::min(a + m, b);
@@ -186,7 +191,8 @@ public:
       const Complex delta(scale * bend * (cosh - 1), scale * sinh);
       const Complex theta = delta / r;
       const Complex exponent = -a * ComplexLog1pMinusArg(-theta) + m / r * theta * theta / (1.0L - theta) -
-                               b * ComplexLog1pMinusArg(c / q * delta) - ComplexLog1pMinusArg(delta / t0) + slope * delta;
+                               b * ComplexLog1pMinusArg(c / q * delta) - ComplexLog1pMinusArg(delta / t0) +
+                               slope * delta;
       const long double size = std::exp(exponent.real());
       const Complex direction(cosh, -bend * sinh);
       sum += size * (direction.real() * std::cos(exponent.imag()) - direction.imag() * std::sin(exponent.imag()));

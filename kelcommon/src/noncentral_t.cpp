@@ -50,15 +50,21 @@ struct Design {
 Design MakeDesign(double x, double df, double delta) {
   const long double c = static_cast<long double>(x) * x / df;
   const long double y = c / (1 + c);
-  return {x, df, delta, df / 2, delta * delta / 2, c, static_cast<double>(y), static_cast<double>(1 / (1 + c)),
+  return {x,
+          df,
+          delta,
+          df / 2,
+          delta * delta / 2,
+          c,
+          static_cast<double>(y),
+          static_cast<double>(1 / (1 + c)),
           static_cast<double>(y * df / 2)};
 }
 
 // The pair of sequences A_j and B_j by their steps A_j - A_{j+1} and B_j - B_{j+1}, and of the weights p_j and q_j.
 // Weights are relative to e^-m.
 struct Sequences {
-  explicit Sequences(const Design& d)
-      : design(d), weightA(1), weightB(d.delta * 0.79788456080286535588) {
+  explicit Sequences(const Design& d) : design(d), weightA(1), weightB(d.delta * 0.79788456080286535588) {
     const ScaledValue first = BetaStep(0.5, d.b, d.c);
     stepA = first.factor * static_cast<double>(std::exp(first.exponent));
     onlyTail = static_cast<double>(std::exp(-d.b * std::log1p(d.c)));
@@ -144,10 +150,9 @@ double WrongSideIntegral(const Design& d) {
   const double b = d.b;
   double s = 1;
   double hazard = 0;
-  // The peak, by bisection of the derivative of the logarithm; the normal hazard to a few per cent (its bound by
-  // Birnbaum, 1942).
+  // The peak solves 2 b (s^2 - 1) + x s hazard(x s + delta) = 0, a quadratic equation while the hazard is held. That of
+  // the normal distribution to a few per cent: its bound by Birnbaum (1942), An inequality for Mill's ratio.
   const auto Hazard = [](double z) { return (z + std::sqrt(z * z + 4)) / 2; };
-  // 2 b (s^2 - 1) + x s hazard(x s + delta) = 0 with the hazard fixed is a quadratic equation.
   for (int i = 0; i < 6; ++i) {
     hazard = Hazard(x * s + d.delta);
     const double half = x * hazard / (4 * b);
@@ -155,7 +160,8 @@ double WrongSideIntegral(const Design& d) {
   }
   const double center = std::log(s);
   const double curvature = 4 * b * s * s + x * s * hazard + x * x * s * s;
-  const double step = std::min(0.5 / std::sqrt(curvature), 0.12);
+  // Half a standard deviation of the peak; the nearer it is to a normal density, the wider.
+  const double step = std::min((b > 50 ? 0.62 : 0.5) / std::sqrt(curvature), 0.12);
   const auto Integrand = [&](double v) {
     return NormalUpperTail(x * std::exp(v) + d.delta) * std::exp(-b * ExpMinusTangent(2 * v));
   };
@@ -165,7 +171,7 @@ double WrongSideIntegral(const Design& d) {
     for (int i = 1; i < 2000; ++i) {
       const double value = Integrand(center + direction * step * i);
       sum += value;
-      if (value < 1e-17 * sum) break;
+      if (value < 1e-16 * sum) break;
     }
   }
   return sum * step * 2 * std::sqrt(b / 6.2831853071795864769) / ScaledGamma(b);
@@ -184,7 +190,9 @@ double WrongSideTail(const Design& d) {
   return WrongSideIntegral(d);
 }
 
-Tails SquareTails(const Design& d) { return NoncentralBetaTails(0.5, d.b, static_cast<long double>(d.delta) * d.delta / 2, d.c); }
+Tails SquareTails(const Design& d) {
+  return NoncentralBetaTails(0.5, d.b, static_cast<long double>(d.delta) * d.delta / 2, d.c);
+}
 
 // P(T <= x), x > 0, delta > 0.
 double RightSideLowerTail(const Design& d) {

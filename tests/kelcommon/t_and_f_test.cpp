@@ -1,11 +1,11 @@
+#include <gtest/gtest.h>
+
 #include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <limits>
 #include <random>
 #include <vector>
-
-#include <gtest/gtest.h>
 
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
@@ -215,7 +215,7 @@ TEST(TAndF, PlacesWherePlainSeriesFail) {
 
 TEST(TAndF, EveryBitPatternHasAnAnswer) {
   std::mt19937_64 generator(20240611);
-  const std::vector<double> special = {0,     -0.0, 1,    -1,    0.5,      5e-324,   1e-300,    1e308,
+  const std::vector<double> special = {0,      -0.0, 1,    -1,    0.5,      5e-324,    1e-300,    1e308,
                                        -1e308, nan,  1e17, 1e130, infinity, -infinity, 0x1p-1022, KelMV::Missing()};
   const auto Draw = [&] {
     const std::uint64_t bits = generator();
