@@ -52,11 +52,12 @@ double ContrastTest::Power(double noncentrality) const {
 
 double SolveContrastTotal(int numGroups, double effectSize, const double* groupRatios,
                           const double* contrastCoefficients, double power, bool isDirectional, double alpha) {
-  const double ratioSum = SampleSizeTotal(numGroups, groupRatios);
-  const double variance = ContrastVariance(numGroups, contrastCoefficients, groupRatios);
+  const DoubleVector shares = SharesOf(numGroups, groupRatios);
+  const double sumOfShares = SampleSizeTotal(numGroups, shares.data());
+  const double variance = ContrastVariance(numGroups, contrastCoefficients, shares.data());
   return SolveTotalForPower(numGroups, [&](double size) {
     const ContrastTest test(numGroups, size, isDirectional, alpha);
-    return test.Power(ContrastNoncentrality(effectSize, size / ratioSum, variance)) - power;
+    return test.Power(ContrastNoncentrality(effectSize, size / sumOfShares, variance)) - power;
   });
 }
 

@@ -31,6 +31,13 @@ void ResizeToMissing(DoubleVector& groupSizes, int numGroups) {
   groupSizes.assign(static_cast<std::size_t>(numGroups), KelCommon::KelMV::Missing());
 }
 
+DoubleVector SharesOf(int numGroups, const double* groupRatios) {
+  const double sum = SampleSizeTotal(numGroups, groupRatios);
+  DoubleVector shares(groupRatios, groupRatios + numGroups);
+  for (double& share : shares) share /= sum;
+  return shares;
+}
+
 double SolveTotalForPower(int numGroups, RootObjective objective) {
   return SolveTotal(numGroups, kPowerTolerance, objective);
 }
@@ -40,8 +47,8 @@ double SolveTotalForHalfWidth(int numGroups, RootObjective objective) {
 }
 
 double StoreByShares(double total, int numGroups, const double* groupRatios, DoubleVector& groupSizes) {
-  const double sum = SampleSizeTotal(numGroups, groupRatios);
-  return StoreRoundedUp(numGroups, groupSizes, [&](int i) { return total * (groupRatios[i] / sum); });
+  const DoubleVector shares = SharesOf(numGroups, groupRatios);
+  return StoreRoundedUp(numGroups, groupSizes, [&](int i) { return total * shares[static_cast<std::size_t>(i)]; });
 }
 
 double StoreByRatios(double total, int numGroups, const double* groupRatios, DoubleVector& groupSizes) {

@@ -9,6 +9,9 @@ namespace kelpower {
 /// Makes room for the sizes of all groups, each missing until it is stored.
 void ResizeToMissing(DoubleVector& groupSizes, int numGroups);
 
+/// The allocation ratios scaled to a sum of 1.
+DoubleVector SharesOf(int numGroups, const double* groupRatios);
+
 /// The total size at which `objective` is zero, searched from two subjects a group, below which a group has no
 /// estimate of its variance. Missing when there is none.
 double SolveTotalForPower(int numGroups, RootObjective objective);

@@ -264,7 +264,9 @@ Outcome CallOnce(const Target& target, const Arguments& arguments) {
     Append(before, arguments[i].array);
     Outcome after;
     Append(after, copy[i].array);
-    if (target.function->arguments[i] == 'p') EXPECT_TRUE(before == after) << target.names[i] << " was changed";
+    if (target.function->arguments[i] == 'p') {
+      EXPECT_TRUE(before == after) << target.names[i] << " was changed";
+    }
     outcome.insert(outcome.end(), after.begin(), after.end());
     outcome.push_back(static_cast<std::uint64_t>(copy[i].stopRequest.asked));
   }
@@ -333,6 +335,6 @@ std::vector<const Function*> SweptFunctions() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Exports, Sweep, testing::ValuesIn(SweptFunctions()),
-                         [](const auto& info) { return info.param->name; });
+                         [](const auto& swept) { return swept.param->name; });
 
 }  // namespace
