@@ -37,8 +37,8 @@ double KelDistFun::NonCentralCdfF(double x, double df1, double df2, double nonce
     return std::numeric_limits<double>::quiet_NaN();
   if (df1 <= 0 || df2 <= 0 || noncentrality < 0) return KelMV::Missing();
   if (x <= 0) return 0;
-  if (std::isinf(noncentrality)) return 0;
   if (std::isinf(x)) return 1;
+  if (std::isinf(noncentrality)) return 0;
   const double a = HalfDegrees(df1);
   const double b = HalfDegrees(df2);
   const long double odds = static_cast<long double>(a) / b * x;

@@ -45,8 +45,8 @@ double KelDistFun::IdfT(double p, double df, double, double) noexcept {
 double KelDistFun::NonCentralCdfT(double x, double df, double noncentrality, double) noexcept {
   if (std::isnan(x) || std::isnan(df) || std::isnan(noncentrality)) return std::numeric_limits<double>::quiet_NaN();
   if (df <= 0) return KelMV::Missing();
-  if (std::isinf(noncentrality)) return noncentrality > 0 ? 0 : 1;
   if (std::isinf(x) || KelMV::IsMissing(x)) return x > 0 ? 1 : 0;
+  if (std::isinf(noncentrality)) return noncentrality > 0 ? 0 : 1;
   if (std::isinf(df)) return CdfStdNorm(x - noncentrality);
   return std::fmin(std::fmax(NoncentralTLowerTail(x, df, noncentrality), 0.0), 1.0);
 }
