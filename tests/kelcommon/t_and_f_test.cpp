@@ -226,7 +226,7 @@ TEST(TAndF, EveryBitPatternHasAnAnswer) {
     std::memcpy(&value, &pattern, sizeof value);
     return value;
   };
-  for (int i = 0; i < 20000; ++i) {
+  for (int i = 0; i < 5000; ++i) {
     const double a = Draw();
     const double b = Draw();
     const double c = Draw();
