@@ -86,8 +86,8 @@ TEST(PlotRatioIndependent, RepeatsTheLeftNeighbourOfABadPoint) {
   FreeMemXYPlot(&bad);
 
   // The greatest leaves the first group no more than 1.
-  const double greatest = std::nextafter(6.0, 0);
-  XYPlot last = PlotRatioIndependentFES(7, 0.5, 1, greatest, 0, 0.05, 0.5);
+  const double greatest = std::nextafter(8.0, 0);
+  XYPlot last = PlotRatioIndependentFES(9, 0.5, 1, greatest, 0, 0.05, 0.5);
   ASSERT_EQ(last.count, 3);
   EXPECT_GT(last.y[1], 0.05);
   EXPECT_EQ(last.y[2], last.y[1]);
