@@ -254,6 +254,237 @@ KELPOWER_API XYZPlot PlotNaSDSC(int numGroups, const double* groupMeans, double 
                                 double* contrastCoefficients, int from, int to, double sdFrom, double sdTo,
                                 int isDirectional, double alpha, double stepFraction);
 
+// ---------------------------------------------------------------------------------------------------------------------
+// Tests of means: one sample, paired samples, independent samples
+// ---------------------------------------------------------------------------------------------------------------------
+//
+// Arguments shared by this section. All means, differences, standard deviations and half-widths of a call are in one
+// unit.
+/// \param sampleSize number of observations, or of pairs, above 1; whole numbers are not required
+/// \param sampleSize1,sampleSize2 sizes of the two groups, each above 1; whole numbers are not required
+/// \param totalSize both sizes together, above 1
+/// \param ratio size of the second group divided by that of the first, above 0
+/// \param mean,sd mean and standard deviation of the population under the alternative; sd above 0
+/// \param testValue mean under the null hypothesis
+/// \param mean1,sd1,mean2,sd2 mean and standard deviation of each group, or of each of the paired measurements
+/// \param correlation between the paired measurements: from -1 to 1, not 0, and below 1 for the one-sided test
+/// \param effectSize standardised effect d, a difference of means in standard deviations; any sign; not checked
+/// \param alpha significance level, above 0 and below 1; of a half-width: 1 minus the confidence level
+/// \param power wanted power; not checked. One that no size reaches (no effect, 1 or above) gives missing
+/// \param halfWidth wanted half-width of the two-sided confidence interval; not checked
+/// \param results receives both group sizes at its end, the size of group 1 first; two missing values where no size
+///   is found. n1 is rounded up, n2 is the ratio times the unrounded n1, rounded up and at least 2
+/// \param directional flag: one-sided, not two-sided
+/// \param minSampleSize,maxSampleSize ends of the sample-size axis: 2 or above, and ascending
+/// \param minEffectSize,maxEffectSize ends of the effect-size axis. Of a two-sided chart: 0 or above, where a
+///   minEffectSize of -5 stands for 0
+/// \param minRatio,maxRatio ends of the axis of ratios; a 0 in either asks for m = 0.8 (totalSize - 2) and 1 / m
+/// \param minMeanDifference,maxMeanDifference ends of the axis of raw differences mean1 - mean2; two zeros, or ends that
+///   do not ascend, ask for 5 times the difference of the means to either side of 0 (without a difference for 100)
+/// \param stepFraction step of an axis as a fraction of its range, above 0
+/// \param ignored not used
+//
+// "Nondirectional" is the two-sided test with both tails counted. "Directional" is the one-sided test in the direction
+// in which the effect lies: the sign of the effect is dropped. Functions that end in ES take a standardised effect size.
+// Invalid input gives missing, two missing values in `results`, or an empty chart. A point of a chart at which the test
+// is not defined is missing. Values of charts are rounded to single precision.
+// Method: Cohen, J. (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., ch. 2, with the exact
+// noncentral t distribution; docs/means.md has the formulas.
+
+/// Effect size (mean - testValue) / sd. Missing when sd is 0; a negative sd is accepted.
+KELPOWER_API double EffectSizeOneSample(double mean, double sd, double testValue);
+
+/// Power of the two-sided one-sample test. Only sampleSize is checked, alpha is not.
+KELPOWER_API double PowerOneSampleNondirectionalES(double sampleSize, double effectSize, double alpha);
+
+/// The same for a given mean.
+KELPOWER_API double PowerOneSampleNondirectional(double sampleSize, double mean, double sd, double testValue,
+                                                 double alpha);
+
+/// Power of the one-sided one-sample test.
+KELPOWER_API double PowerOneSampleDirectionalES(double sampleSize, double effectSize, double alpha);
+
+/// The same for a given mean.
+KELPOWER_API double PowerOneSampleDirectional(double sampleSize, double mean, double sd, double testValue,
+                                              double alpha);
+
+/// Size, not rounded, at which the two-sided one-sample test reaches a power; at least 2. Nothing is checked.
+KELPOWER_API double PowerReverseOneSampleNondirectionalES(double power, double effectSize, double alpha);
+
+/// The same for a given mean; sd and alpha are checked.
+KELPOWER_API double PowerReverseOneSampleNondirectional(double power, double mean, double sd, double testValue,
+                                                        double alpha);
+
+/// Size, not rounded, at which the one-sided one-sample test reaches a power; at least 2.
+KELPOWER_API double PowerReverseOneSampleDirectionalES(double power, double effectSize, double alpha);
+
+/// The same for a given mean.
+KELPOWER_API double PowerReverseOneSampleDirectional(double power, double mean, double sd, double testValue,
+                                                     double alpha);
+
+/// Half-width t sd / sqrt(sampleSize) of the confidence interval of the mean. Nothing is checked.
+KELPOWER_API double HalfCIOneSampleMeans(double sampleSize, double sd, double alpha);
+
+/// Size, rounded up, at which the confidence interval of the mean has a half-width. Nothing is checked.
+KELPOWER_API double PowerReversebyHalfCIOneSampleMeans(double halfWidth, double sd, double alpha);
+
+/// Power of the one-sample test against size.
+KELPOWER_API XYPlot PlotNOneSample(double ignored, double mean, double sd, int minSampleSize, int maxSampleSize,
+                                   int directional, double testValue, double alpha);
+
+/// The same for a given effect size.
+KELPOWER_API XYPlot PlotNOneSampleFES(double effectSize, int minSampleSize, int maxSampleSize, int directional,
+                                      double alpha);
+
+/// Power of the one-sample test against effect size. Equal ends give one point.
+KELPOWER_API XYPlot PlotESOneSample(double sampleSize, double minEffectSize, double maxEffectSize, int directional,
+                                    double alpha, double stepFraction);
+
+/// Power of the one-sample test over effect size (x) and size (y). From a span of 1,000 sizes on every second size is
+/// taken, and the last one may lie one above maxSampleSize. Equal ends of the effect size are invalid.
+KELPOWER_API XYZPlot PlotNaESOneSample(int minSampleSize, int maxSampleSize, double minEffectSize,
+                                       double maxEffectSize, int directional, double alpha, double stepFraction);
+
+/// Effect size (mean1 - mean2) / s of paired samples, where s is the standard deviation of the differences,
+/// sqrt(sd1^2 + sd2^2 - 2 correlation sd1 sd2). A sd2 of 0 says that sd1 is s itself. Nothing is checked.
+KELPOWER_API double EffectSizeRelated(double mean1, double sd1, double mean2, double sd2, double correlation);
+
+/// Power of the two-sided paired test.
+KELPOWER_API double PowerRelatedNondirectionalES(double sampleSize, double effectSize, double alpha);
+
+/// The same for given means. sd1 must be above 0, sd2 not below 0. A correlation of 0 is refused, and so are equal
+/// standard deviations with a correlation of 1 or -1.
+KELPOWER_API double PowerRelatedNondirectional(double sampleSize, double mean1, double sd1, double mean2, double sd2,
+                                               double correlation, double alpha);
+
+/// Power of the one-sided paired test; the same function as `PowerOneSampleDirectionalES`.
+KELPOWER_API double PowerRelatedDirectionalES(double sampleSize, double effectSize, double alpha);
+
+/// The same for given means, checked as in `PowerRelatedNondirectional`; a correlation of 1 is refused too.
+KELPOWER_API double PowerRelatedDirectional(double sampleSize, double mean1, double sd1, double mean2, double sd2,
+                                            double correlation, double alpha);
+
+/// Number of pairs, not rounded, at which the two-sided paired test reaches a power; at least 2.
+KELPOWER_API double PowerReverseRelatedNondirectionalES(double power, double effectSize, double alpha);
+
+/// The same for given means, checked as in `PowerRelatedNondirectional`.
+KELPOWER_API double PowerReverseRelatedNondirectional(double power, double mean1, double sd1, double mean2, double sd2,
+                                                      double correlation, double alpha);
+
+/// Number of pairs, not rounded, at which the one-sided paired test reaches a power; the same function as
+/// `PowerReverseOneSampleDirectionalES`.
+KELPOWER_API double PowerReverseRelatedDirectionalES(double power, double effectSize, double alpha);
+
+/// The same for given means, checked as in `PowerRelatedDirectional`.
+KELPOWER_API double PowerReverseRelatedDirectional(double power, double mean1, double sd1, double mean2, double sd2,
+                                                   double correlation, double alpha);
+
+/// Half-width t s / sqrt(sampleSize) of the confidence interval of the mean difference, with s as in
+/// `EffectSizeRelated`. Nothing is checked.
+KELPOWER_API double HalfCIRelatedMeans(double sampleSize, double sd1, double sd2, double correlation, double alpha);
+
+/// Number of pairs, rounded up, at which that interval has a half-width. Nothing is checked.
+KELPOWER_API double PowerReversebyHalfCIRelatedMeans(double halfWidth, double sd1, double sd2, double correlation,
+                                                     double alpha);
+
+/// Power of the paired test against the number of pairs. With a correlation above 1 (one-sided: of 1 and above) every
+/// value is missing.
+KELPOWER_API XYPlot PlotNRelated(double ignored, double mean1, double sd1, double mean2, double sd2, int minSampleSize,
+                                 int maxSampleSize, double correlation, int directional, double alpha);
+
+/// The same for a given effect size.
+KELPOWER_API XYPlot PlotNRelatedFES(double effectSize, int minSampleSize, int maxSampleSize, int directional,
+                                    double alpha);
+
+/// Power of the paired test against effect size, as `PlotESOneSample`.
+KELPOWER_API XYPlot PlotESRelated(double sampleSize, double minEffectSize, double maxEffectSize, int directional,
+                                  double alpha, double stepFraction);
+
+/// Power of the paired test over effect size (x) and number of pairs (y), as `PlotNaESOneSample`.
+KELPOWER_API XYZPlot PlotNaESRelated(int minSampleSize, int maxSampleSize, double minEffectSize, double maxEffectSize,
+                                     int directional, double alpha, double stepFraction);
+
+/// Effect size (mean1 - mean2) / sd of two groups. Missing when sd is 0; a negative sd is accepted.
+KELPOWER_API double EffectSizeIndependent(double mean1, double mean2, double sd);
+
+/// Power of the two-sided test of two groups: pooled when sd1 and sd2 are equal, else in the form of Welch.
+KELPOWER_API double PowerIndependentNondirectional(double sampleSize1, double mean1, double sd1, double sampleSize2,
+                                                   double mean2, double sd2, double alpha);
+
+/// Power of the two-sided pooled test for a given effect size.
+KELPOWER_API double PowerIndependentNondirectionalES(double sampleSize1, double sampleSize2, double effectSize,
+                                                     double alpha);
+
+/// Power of the one-sided test of two groups: pooled when sd1 and sd2 are equal, else in the form of Welch.
+KELPOWER_API double PowerIndependentDirectional(double sampleSize1, double mean1, double sd1, double sampleSize2,
+                                                double mean2, double sd2, double alpha);
+
+/// Power of the one-sided pooled test for a given effect size.
+KELPOWER_API double PowerIndependentDirectionalES(double sampleSize1, double sampleSize2, double effectSize,
+                                                  double alpha);
+
+/// Sizes at which the two-sided test of two groups reaches a power. Does nothing when `results` is not empty.
+KELPOWER_API void PowerReverseIndependentNondirectional(double power, double ratio, double mean1, double sd1,
+                                                        double mean2, double sd2, DoubleVector& results, double alpha);
+
+/// The same for the one-sided test.
+KELPOWER_API void PowerReverseIndependentDirectional(double power, double ratio, double mean1, double sd1,
+                                                     double mean2, double sd2, DoubleVector& results, double alpha);
+
+/// Sizes at which the two-sided pooled test reaches a power at a given effect size. Appends to what is in `results`.
+KELPOWER_API void PowerReverseIndependentNondirectionalES(double power, double ratio, double effectSize,
+                                                          DoubleVector& results, double alpha);
+
+/// The same for the one-sided test.
+KELPOWER_API void PowerReverseIndependentDirectionalES(double power, double ratio, double effectSize,
+                                                       DoubleVector& results, double alpha);
+
+/// Half-width t sqrt(sd1^2 / n1 + sd2^2 / n2) of the confidence interval of the difference of means. Nothing is
+/// checked.
+KELPOWER_API double HalfCIIndependentMeans(double sampleSize1, double sd1, double sampleSize2, double sd2,
+                                           double alpha);
+
+/// Sizes at which that interval has a half-width. Nothing is checked. Appends to what is in `results`.
+KELPOWER_API void PowerReversebyHalfCIIndependentMeans(double halfWidth, double ratio, double sd1, double sd2,
+                                                       DoubleVector& results, double alpha);
+
+/// Power of the test of two groups against the ratio of their sizes: pooled when sd1 and sd2 are equal, else in the
+/// form of Welch. The ratios must leave more than one observation in either group, as nearly as their ends tell:
+/// 1 / (totalSize - 1) < minRatio and maxRatio < totalSize - 1. A value outside [0, 1] repeats its left neighbour; the
+/// first point keeps its own.
+KELPOWER_API XYPlot PlotRatioIndependent(double totalSize, double mean1, double sd1, double mean2, double sd2,
+                                         double minRatio, double maxRatio, int directional, double alpha,
+                                         double stepFraction);
+
+/// The same for a given effect size, with the pooled test.
+KELPOWER_API XYPlot PlotRatioIndependentFES(double totalSize, double effectSize, double minRatio, double maxRatio,
+                                            int directional, double alpha, double stepFraction);
+
+/// Power of the pooled test of two groups against effect size. Equal ends are invalid.
+KELPOWER_API XYPlot PlotESIndepended(double sampleSize1, double sampleSize2, double minEffectSize,
+                                     double maxEffectSize, int directional, double alpha, double stepFraction);
+
+/// Power of the test of two groups against the raw difference of means; always in the form of Welch. The means only
+/// serve the automatic range.
+/// \param step distance of the points, in the unit of the means, above 0
+KELPOWER_API XYPlot PlotMeanDiffIndepended(double sampleSize1, double mean1, double sd1, double sampleSize2,
+                                           double mean2, double sd2, double minMeanDifference,
+                                           double maxMeanDifference, int directional, double alpha, double step);
+
+/// Power of the pooled test over the ratio of sizes (x) and effect size (y). A value outside [0, 1], such as the missing
+/// value at a ratio that leaves a group one observation, is replaced beyond the first column: in the first row by the
+/// effect size before it, in the others by the missing value, unrounded.
+KELPOWER_API XYZPlot PlotRatioaESIndependent(double totalSize, double minRatio, double maxRatio, double minEffectSize,
+                                             double maxEffectSize, int directional, double alpha, double stepFraction);
+
+/// Power of the test in the form of Welch over the ratio of sizes (x) and the raw difference of means (y), whose step
+/// is twice stepFraction of its range. Values outside [0, 1] as in `PlotRatioaESIndependent`. The means only serve the
+/// automatic range.
+KELPOWER_API XYZPlot PlotRatioaMeanDiffIndependent(double totalSize, double mean1, double sd1, double mean2,
+                                                   double sd2, double minRatio, double maxRatio,
+                                                   double minMeanDifference, double maxMeanDifference,
+                                                   int directional, double alpha, double stepFraction);
+
 }  // extern "C"
 
 #endif
