@@ -78,7 +78,7 @@ double CumulativeOverMass(double k, double m) {
 }
 
 double Combine(double sum, const ScaledValue& first, const ScaledValue& second) {
-  return sum * static_cast<double>(std::exp(first.exponent + second.exponent) * first.factor * second.factor);
+  return static_cast<double>(sum * std::exp(first.exponent + second.exponent) * first.factor * second.factor);
 }
 
 // Form (2), upwards from the first k that matters.
