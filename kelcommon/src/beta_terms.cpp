@@ -140,10 +140,14 @@ struct TailsAndDensity {
   double density;
 };
 
-TailsAndDensity EvaluateBeta(double a, double b, long double c) {
+// Which tail is to keep its digits at less cost.
+enum class Wanted { either, lower };
+
+TailsAndDensity EvaluateBeta(double a, double b, long double c, Wanted wanted) {
   const bool bothLarge = a > largestFractionShape && b > largestFractionShape;
   const long double sum = static_cast<long double>(a) + b;
-  const bool lowerFirst = (c < 1 && c * sum < 20 * (1 + c)) || (c * (b + 1.0L) <= a + 1.0L && c * 20 < sum);
+  const bool lowerFirst = wanted == Wanted::lower || (c < 1 && c * sum < 20 * (1 + c)) ||
+                          (c * (b + 1.0L) <= a + 1.0L && c * 20 < sum);
   Tail lower = {-1, -1};
   Tail upper = {-1, -1};
   if (!bothLarge) {
@@ -160,7 +164,7 @@ TailsAndDensity EvaluateBeta(double a, double b, long double c) {
 
 }  // namespace
 
-Tails BetaTails(double a, double b, long double c) { return EvaluateBeta(a, b, c).tails; }
+Tails BetaTails(double a, double b, long double c) { return EvaluateBeta(a, b, c, Wanted::either).tails; }
 
 namespace {
 
@@ -219,6 +223,9 @@ long double QuantileStart(double a, double b, double p) {
   return -(std::log1p(-static_cast<long double>(p)) - (logStep + std::log(a / static_cast<long double>(b)))) / b;
 }
 
+// As largestComplement, for quantiles: here every digit of the tail is one of the answer.
+constexpr double largestQuantileComplement = 0.4;
+
 }  // namespace
 
 long double BetaQuantileLogOdds(double a, double b, double p) {
@@ -231,10 +238,11 @@ long double BetaQuantileLogOdds(double a, double b, double p) {
   constexpr long double farthest = 4000;
   long double low = -farthest;
   long double high = farthest;
+  const Wanted wanted = p < largestQuantileComplement ? Wanted::lower : Wanted::either;
   long double v = std::fmin(std::fmax(QuantileStart(a, b, p), low + 1), high - 1);
   for (int i = 0; i < 100; ++i) {
     const long double c = std::exp(v);
-    const TailsAndDensity at = EvaluateBeta(a, b, c);
+    const TailsAndDensity at = EvaluateBeta(a, b, c, wanted);
     const double tail = at.tails.lower;
     (tail > p ? high : low) = v;
     long double next = low + (high - low) / 2;
@@ -251,8 +259,10 @@ long double BetaQuantileLogOdds(double a, double b, double p) {
       const double cubic = 2 * second * second - third;
       if (std::fabs(second) < 0.3 && std::fabs(cubic) < 0.3) {
         next = v + newton * (1 - second + cubic);
-        const double order = std::fmax(std::fabs(second), std::sqrt(std::fabs(third)));
-        if (std::fabs(newton) * order * order * order < 1e-15) return next;
+        // The fourth term is of the order of these to the third power. The odds themselves bend over a step of 1, which
+        // the first two may hide: far out in a tail its logarithm is all but straight.
+        const double order = std::fmax(std::fmax(std::fabs(second), std::sqrt(std::fabs(third))), std::fabs(newton));
+        if (std::fabs(newton) * order * order * order < 1e-16) return next;
       } else {
         next = v + newton / (1 + std::fmin(std::fmax(second, -0.5), 1.0));
       }
