@@ -9,7 +9,7 @@
 namespace KelMath {
 
 namespace {
-constexpr double pi = 3.141592653589793238;
+constexpr long double pi = 3.14159265358979323846L;
 
 // L(u) below, from u and from 1 + u: u loses the digits of 1 + u where that is small.
 long double RatioDeviation(long double u, long double onePlusU) {
@@ -32,17 +32,33 @@ double ExpMinusTangent(double u) {
   return u * u * (1 + sum) / 2;
 }
 
-double ScaledGamma(double x) {
-  if (x < 10) return std::tgamma(x) * std::sqrt(x / (2 * pi)) * std::exp(x - x * std::log(x));
-  // Stirling's series, Abramowitz and Stegun (1964), 6.1.41; the next term is below 3e-17 at x = 10.
-  const double r = 1 / x;
-  const double r2 = r * r;
-  const double logarithm =
-      r *
-      (1.0 / 12 -
-       r2 * (1.0 / 360 - r2 * (1.0 / 1260 - r2 * (1.0 / 1680 - r2 * (1.0 / 1188 - r2 * (691.0 / 360360 - r2 / 156))))));
-  return std::exp(logarithm);
+namespace {
+
+// Stirling's series, Abramowitz and Stegun (1964), 6.1.41; the next term is below 3e-20 at x = 16.
+long double StirlingCorrection(long double x) {
+  const long double r = 1 / x;
+  const long double r2 = r * r;
+  return r *
+         (1 / 12.0L -
+          r2 * (1 / 360.0L -
+                r2 * (1 / 1260.0L - r2 * (1 / 1680.0L - r2 * (1 / 1188.0L - r2 * (691 / 360360.0L - r2 / 156))))));
 }
+
+}  // namespace
+
+long double LogScaledGamma(double x) {
+  if (x >= 16) return StirlingCorrection(x);
+  if (x == 0.5) return 0.15342640972002734529L;  // (1 - log 2) / 2
+  // Gamma(x) = Gamma(x + 16) / (x (x + 1) ... (x + 15)), with no more factors than needed.
+  const long double start = x;
+  long double end = start;
+  long double product = 1;
+  for (; end < 16; ++end) product *= end;
+  return StirlingCorrection(end) + (end - 0.5L) * std::log(end) - (start - 0.5L) * std::log(start) - (end - start) -
+         std::log(product);
+}
+
+double ScaledGamma(double x) { return std::exp(static_cast<double>(LogScaledGamma(x))); }
 
 // With d = (c b - a) / (1 + c) the ratios of y to a / (a + b) and of 1 - y to b / (a + b) are 1 + d / a and 1 - d / b,
 // and the terms linear in d cancel:
@@ -56,17 +72,17 @@ ScaledValue BetaStep(double a, double b, long double c) {
   const long double d = (c * lb - la) / (1 + c);
   const long double logRatioA = RatioDeviation(d / la, c / (1 + c) * ((la + lb) / la));
   const long double logRatioB = RatioDeviation(-d / lb, 1 / (1 + c) * ((la + lb) / lb));
-  const double root = static_cast<double>(std::sqrt(lb / (la * (la + lb))) * 0.3989422804014326779L);
+  const long double root = std::sqrt(lb / (la * (la + lb))) * 0.3989422804014326779L;
   const double sum = static_cast<double>(la + lb);
-  const double gammas = (std::isinf(sum) ? 1.0 : ScaledGamma(sum)) / (ScaledGamma(a) * ScaledGamma(b));
-  return {root * gammas, la * logRatioA + lb * logRatioB};
+  const long double logGammas = (std::isinf(sum) ? 0 : LogScaledGamma(sum)) - LogScaledGamma(a) - LogScaledGamma(b);
+  return {root, la * logRatioA + lb * logRatioB + logGammas};
 }
 
 // Loader (2000), Fast and accurate computation of binomial probabilities: the same cancellation of the linear terms.
 ScaledValue PoissonMass(double k, double m) {
   if (k == 0) return {1, -static_cast<long double>(m)};
   const long double lk = k;
-  return {1 / (std::sqrt(2 * pi * k) * ScaledGamma(k)), lk * Log1pMinusArg((m - lk) / lk)};
+  return {1 / std::sqrt(2 * pi * lk), lk * Log1pMinusArg((m - lk) / lk) - LogScaledGamma(k)};
 }
 
 namespace {
@@ -104,67 +120,71 @@ double BetaFraction(double a, double b, long double c) {
 
 // The same divided value as the sum 1 + y (a+b)/(a+1) (1 + y (a+b+1)/(a+2) (1 + ...)), Didonato and Morris (1992),
 // eq. 4. All terms are positive; a term costs a fifth of one of the fraction.
-double BetaSeries(double a, double y, double yTimesAPlusB) {
-  double term = 1;
-  double sum = 1;
-  for (double k = 0; term > 1e-17 * sum; ++k) {
+long double BetaSeries(long double a, long double y, long double yTimesAPlusB) {
+  long double term = 1;
+  long double sum = 1;
+  for (int k = 0; term > 1e-19L * sum; ++k) {
     term *= (yTimesAPlusB + y * k) / (a + k + 1);
     sum += term;
   }
   return sum;
 }
 
-struct Tail {
-  double value;
-  double density;  // of log(y / (1 - y)): y^a (1-y)^b / B(a, b)
-};
-
-// The tail I_y(a, b); negative where the fraction has not converged.
-Tail BetaTail(double a, double b, long double c) {
-  const long double exactY = c / (1 + c);
-  const double y = static_cast<double>(exactY);
-  const double yTimesAPlusB = static_cast<double>(exactY * (static_cast<long double>(a) + b));
-  const bool shortSeries = y < 0.5 && yTimesAPlusB < 20;
-  const double quotient = shortSeries ? BetaSeries(a, y, yTimesAPlusB) : BetaFraction(a, b, c);
-  if (!(quotient > 0)) return {-1, -1};
-  const ScaledValue step = BetaStep(a, b, c);
-  const double stepValue = static_cast<double>(std::exp(step.exponent) * step.factor);
-  return {stepValue * quotient, a * stepValue};
+bool IsSeriesShort(double a, double b, long double c) {
+  return c < 1 && c * (static_cast<long double>(a) + b) < 20 * (1 + c);
 }
 
-// One minus a tail of 0.99 loses two digits of sixteen; beyond, the other one is worth its own evaluation.
-constexpr double largestComplement = 0.99;
+struct Tail {
+  long double value;
+  double density;        // of log(y / (1 - y)): y^a (1-y)^b / B(a, b)
+  double largestToTake;  // one minus a larger value loses too many digits
+};
+
+// The tail I_y(a, b); negative where the fraction has not converged. The series in extended precision has digits to
+// spare for the other tail.
+Tail BetaTail(double a, double b, long double c) {
+  const bool isSeriesShort = IsSeriesShort(a, b, c);
+  const long double y = c / (1 + c);
+  const long double quotient =
+      isSeriesShort ? BetaSeries(a, y, y * (static_cast<long double>(a) + b)) : BetaFraction(a, b, c);
+  if (!(quotient > 0)) return {-1, -1, 1};
+  const ScaledValue step = BetaStep(a, b, c);
+  const long double stepValue = std::exp(step.exponent) * step.factor;
+  return {stepValue * quotient, static_cast<double>(a * stepValue), isSeriesShort ? 0.999 : 0.9};
+}
 
 struct TailsAndDensity {
   Tails tails;
   double density;
 };
 
-// Which tail is to keep its digits at less cost.
-enum class Wanted { either, lower };
+Tails FromUpper(long double upper) {
+  return {static_cast<double>(std::fmax(1 - upper, 0.0L)), static_cast<double>(upper)};
+}
 
-TailsAndDensity EvaluateBeta(double a, double b, long double c, Wanted wanted) {
-  const bool bothLarge = a > largestFractionShape && b > largestFractionShape;
-  const long double sum = static_cast<long double>(a) + b;
-  const bool lowerFirst = wanted == Wanted::lower || (c < 1 && c * sum < 20 * (1 + c)) ||
-                          (c * (b + 1.0L) <= a + 1.0L && c * 20 < sum);
-  Tail lower = {-1, -1};
-  Tail upper = {-1, -1};
-  if (!bothLarge) {
+Tails FromLower(long double lower) {
+  return {static_cast<double>(lower), static_cast<double>(std::fmax(1 - lower, 0.0L))};
+}
+
+TailsAndDensity EvaluateBeta(double a, double b, long double c) {
+  Tail lower = {-1, -1, 1};
+  Tail upper = {-1, -1, 1};
+  if (!(a > largestFractionShape && b > largestFractionShape)) {
+    const bool lowerFirst =
+        IsSeriesShort(a, b, c) || (!IsSeriesShort(b, a, 1 / c) && c * (b + 1.0L) <= a + 1.0L);
     (lowerFirst ? lower : upper) = lowerFirst ? BetaTail(a, b, c) : BetaTail(b, a, 1 / c);
-    if (lower.value > largestComplement) upper = BetaTail(b, a, 1 / c);
-    if (upper.value > largestComplement) lower = BetaTail(a, b, c);
+    if (lower.value > lower.largestToTake) upper = BetaTail(b, a, 1 / c);
+    if (upper.value > upper.largestToTake) lower = BetaTail(a, b, c);
   }
-  if (upper.value >= 0 && (lower.value < 0 || upper.value < lower.value))
-    return {{std::fmax(1 - upper.value, 0.0), upper.value}, upper.density};
-  if (lower.value >= 0) return {{lower.value, std::fmax(1 - lower.value, 0.0)}, lower.density};
+  if (upper.value >= 0 && (lower.value < 0 || upper.value < lower.value)) return {FromUpper(upper.value), upper.density};
+  if (lower.value >= 0) return {FromLower(lower.value), lower.density};
   const ScaledValue step = BetaStep(a, b, c);
-  return {NoncentralBetaTailsByContour(a, b, 0, c), a * static_cast<double>(std::exp(step.exponent) * step.factor)};
+  return {NoncentralBetaTailsByContour(a, b, 0, c), static_cast<double>(a * std::exp(step.exponent) * step.factor)};
 }
 
 }  // namespace
 
-Tails BetaTails(double a, double b, long double c) { return EvaluateBeta(a, b, c, Wanted::either).tails; }
+Tails BetaTails(double a, double b, long double c) { return EvaluateBeta(a, b, c).tails; }
 
 namespace {
 
@@ -175,7 +195,7 @@ double HillQuantile(double df, double p) {
   const double a = 1 / (df - 0.5);
   const double b = 48 / (a * a);
   double c = ((20700 * a / b - 98) * a - 16) * a + 96.36;
-  const double d = ((94.5 / (b + c) - 3) / b + 1) * std::sqrt(a * pi / 2) * df;
+  const double d = ((94.5 / (b + c) - 3) / b + 1) * std::sqrt(a * 1.5707963267948966) * df;
   double y = std::pow(d * p, 2 / df);
   if (y > 0.05 + a) {
     const double x = NormalUpperQuantile(p / 2);
@@ -216,15 +236,12 @@ long double QuantileStart(double a, double b, double p) {
   }
   // The leading term of the series at y = 0, y^a / (a B(a, b)), where it holds, and else that at y = 1.
   const ScaledValue one = BetaStep(a, b, 1);
-  const long double logStep = std::log(static_cast<long double>(one.factor)) + one.exponent +
+  const long double logStep = std::log(one.factor) + one.exponent +
                               (static_cast<long double>(a) + b) * 0.69314718055994530942L;
   const long double logY = (std::log(static_cast<long double>(p)) - logStep) / a;
   if (logY < -0.7L) return logY;
   return -(std::log1p(-static_cast<long double>(p)) - (logStep + std::log(a / static_cast<long double>(b)))) / b;
 }
-
-// As largestComplement, for quantiles: here every digit of the tail is one of the answer.
-constexpr double largestQuantileComplement = 0.4;
 
 }  // namespace
 
@@ -238,11 +255,10 @@ long double BetaQuantileLogOdds(double a, double b, double p) {
   constexpr long double farthest = 4000;
   long double low = -farthest;
   long double high = farthest;
-  const Wanted wanted = p < largestQuantileComplement ? Wanted::lower : Wanted::either;
   long double v = std::fmin(std::fmax(QuantileStart(a, b, p), low + 1), high - 1);
   for (int i = 0; i < 100; ++i) {
     const long double c = std::exp(v);
-    const TailsAndDensity at = EvaluateBeta(a, b, c, wanted);
+    const TailsAndDensity at = EvaluateBeta(a, b, c);
     const double tail = at.tails.lower;
     (tail > p ? high : low) = v;
     long double next = low + (high - low) / 2;

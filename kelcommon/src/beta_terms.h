@@ -13,12 +13,13 @@ long double Log1pMinusArg(long double u);
 /// exp(u) - 1 - u.
 double ExpMinusTangent(double u);
 
-/// The scaled gamma function Gamma(x) / (sqrt(2 pi / x) (x / e)^x), x > 0; tends to 1 for large x.
+/// The scaled gamma function and its logarithm: Gamma(x) / (sqrt(2 pi / x) (x / e)^x), x > 0; tends to 1 for large x.
 double ScaledGamma(double x);
+long double LogScaledGamma(double x);
 
 /// A positive number factor * exp(exponent), kept apart because the exponential alone may underflow.
 struct ScaledValue {
-  double factor;
+  long double factor;
   long double exponent;
 };
 

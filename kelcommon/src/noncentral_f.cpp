@@ -115,7 +115,7 @@ double UpperTailSum(const Shape& s) {
   double j = FirstTerm(s.m);
   const ScaledValue firstStep = BetaStep(s.a + j, s.b, s.c);
   const ScaledValue firstMass = PoissonMass(j, s.m);
-  double step = firstStep.factor * static_cast<double>(std::exp(firstStep.exponent));
+  double step = static_cast<double>(firstStep.factor * std::exp(firstStep.exponent));
   double upper = BetaTails(s.a + j, s.b, s.c).upper;
   double mass = 1;
   double sum = upper;
@@ -129,7 +129,7 @@ double UpperTailSum(const Shape& s) {
     term = mass * upper;
     sum += term;
   }
-  return sum * firstMass.factor * static_cast<double>(std::exp(firstMass.exponent));
+  return static_cast<double>(sum * firstMass.factor * std::exp(firstMass.exponent));
 }
 
 // About the number of terms of (2).

@@ -66,7 +66,7 @@ Design MakeDesign(double x, double df, double delta) {
 struct Sequences {
   explicit Sequences(const Design& d) : design(d), weightA(1), weightB(d.delta * 0.79788456080286535588) {
     const ScaledValue first = BetaStep(0.5, d.b, d.c);
-    stepA = first.factor * static_cast<double>(std::exp(first.exponent));
+    stepA = static_cast<double>(first.factor * std::exp(first.exponent));
     onlyTail = static_cast<double>(std::exp(-d.b * std::log1p(d.c)));
     stepB = d.yTimesB * onlyTail;
   }
