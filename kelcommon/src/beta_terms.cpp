@@ -38,10 +38,9 @@ namespace {
 long double StirlingCorrection(long double x) {
   const long double r = 1 / x;
   const long double r2 = r * r;
-  return r *
-         (1 / 12.0L -
-          r2 * (1 / 360.0L -
-                r2 * (1 / 1260.0L - r2 * (1 / 1680.0L - r2 * (1 / 1188.0L - r2 * (691 / 360360.0L - r2 / 156))))));
+  return r * (1 / 12.0L -
+              r2 * (1 / 360.0L -
+                    r2 * (1 / 1260.0L - r2 * (1 / 1680.0L - r2 * (1 / 1188.0L - r2 * (691 / 360360.0L - r2 / 156))))));
 }
 
 }  // namespace
@@ -60,22 +59,39 @@ long double LogScaledGamma(double x) {
 
 double ScaledGamma(double x) { return std::exp(static_cast<double>(LogScaledGamma(x))); }
 
+namespace {
+
 // With d = (c b - a) / (1 + c) the ratios of y to a / (a + b) and of 1 - y to b / (a + b) are 1 + d / a and 1 - d / b,
 // and the terms linear in d cancel:
 //   y^a (1-y)^b / B(a,b) = sqrt(a b / (2 pi (a+b))) G(a+b) / (G(a) G(b)) exp(a L(d/a) + b L(-d/b)),
 //   L(u) = log(1+u) - u, G the scaled gamma function.
 // Didonato and Morris (1992), Significant digit computation of the incomplete beta function ratios, ACM TOMS 18, sec. 4
 // (BRCOMP). No term is larger than the result's own logarithm, so large a and b cost no digits.
+struct BetaDensity {
+  BetaDensity(double aIn, double bIn) : a(aIn), b(bIn) {
+    root = std::sqrt(a / (a + b) * b / (2 * pi));
+    const double sum = static_cast<double>(a + b);
+    logGammas = (std::isinf(sum) ? 0 : LogScaledGamma(sum)) - LogScaledGamma(aIn) - LogScaledGamma(bIn);
+  }
+
+  // The logarithm of y^a (1-y)^b / B(a, b) over the root.
+  long double LogAt(long double c) const {
+    const long double d = (c * b - a) / (1 + c);
+    return a * RatioDeviation(d / a, c / (1 + c) * ((a + b) / a)) +
+           b * RatioDeviation(-d / b, 1 / (1 + c) * ((a + b) / b)) + logGammas;
+  }
+
+  long double a;
+  long double b;
+  long double root;
+  long double logGammas;
+};
+
+}  // namespace
+
 ScaledValue BetaStep(double a, double b, long double c) {
-  const long double la = a;
-  const long double lb = b;
-  const long double d = (c * lb - la) / (1 + c);
-  const long double logRatioA = RatioDeviation(d / la, c / (1 + c) * ((la + lb) / la));
-  const long double logRatioB = RatioDeviation(-d / lb, 1 / (1 + c) * ((la + lb) / lb));
-  const long double root = std::sqrt(lb / (la * (la + lb))) * 0.3989422804014326779L;
-  const double sum = static_cast<double>(la + lb);
-  const long double logGammas = (std::isinf(sum) ? 0 : LogScaledGamma(sum)) - LogScaledGamma(a) - LogScaledGamma(b);
-  return {root, la * logRatioA + lb * logRatioB + logGammas};
+  const BetaDensity density(a, b);
+  return {density.root / a, density.LogAt(c)};
 }
 
 // Loader (2000), Fast and accurate computation of binomial probabilities: the same cancellation of the linear terms.
@@ -134,57 +150,52 @@ bool IsSeriesShort(double a, double b, long double c) {
   return c < 1 && c * (static_cast<long double>(a) + b) < 20 * (1 + c);
 }
 
-struct Tail {
-  long double value;
-  double density;        // of log(y / (1 - y)): y^a (1-y)^b / B(a, b)
-  double largestToTake;  // one minus a larger value loses too many digits
-};
+// I_y(a, b) over the density of log(y / (1 - y)); negative where the fraction has not converged. The series in extended
+// precision has digits to spare for the other tail.
+struct Quotient {
+  Quotient() = default;
+  Quotient(double a, double b, long double c) {
+    if (IsSeriesShort(a, b, c)) {
+      const long double y = c / (1 + c);
+      value = BetaSeries(a, y, y * (static_cast<long double>(a) + b)) / a;
+      largestTail = 0.999;
+    } else {
+      value = BetaFraction(a, b, c) / static_cast<long double>(a);
+    }
+  }
 
-// The tail I_y(a, b); negative where the fraction has not converged. The series in extended precision has digits to
-// spare for the other tail.
-Tail BetaTail(double a, double b, long double c) {
-  const bool isSeriesShort = IsSeriesShort(a, b, c);
-  const long double y = c / (1 + c);
-  const long double quotient =
-      isSeriesShort ? BetaSeries(a, y, y * (static_cast<long double>(a) + b)) : BetaFraction(a, b, c);
-  if (!(quotient > 0)) return {-1, -1, 1};
-  const ScaledValue step = BetaStep(a, b, c);
-  const long double stepValue = std::exp(step.exponent) * step.factor;
-  return {stepValue * quotient, static_cast<double>(a * stepValue), isSeriesShort ? 0.999 : 0.9};
-}
+  long double value = -1;
+  double largestTail = 0.9;  // one minus a larger tail loses too many digits
+};
 
 struct TailsAndDensity {
   Tails tails;
-  double density;
+  double density;  // of log(y / (1 - y))
 };
 
-Tails FromUpper(long double upper) {
-  return {static_cast<double>(std::fmax(1 - upper, 0.0L)), static_cast<double>(upper)};
-}
-
-Tails FromLower(long double lower) {
-  return {static_cast<double>(lower), static_cast<double>(std::fmax(1 - lower, 0.0L))};
-}
-
-TailsAndDensity EvaluateBeta(double a, double b, long double c) {
-  Tail lower = {-1, -1, 1};
-  Tail upper = {-1, -1, 1};
+TailsAndDensity EvaluateBeta(const BetaDensity& densityOfLogOdds, double a, double b, long double c) {
+  const long double density = densityOfLogOdds.root * std::exp(densityOfLogOdds.LogAt(c));
+  Quotient lower;
+  Quotient upper;
   if (!(a > largestFractionShape && b > largestFractionShape)) {
-    const bool lowerFirst =
-        IsSeriesShort(a, b, c) || (!IsSeriesShort(b, a, 1 / c) && c * (b + 1.0L) <= a + 1.0L);
-    (lowerFirst ? lower : upper) = lowerFirst ? BetaTail(a, b, c) : BetaTail(b, a, 1 / c);
-    if (lower.value > lower.largestToTake) upper = BetaTail(b, a, 1 / c);
-    if (upper.value > upper.largestToTake) lower = BetaTail(a, b, c);
+    const bool lowerFirst = IsSeriesShort(a, b, c) || (!IsSeriesShort(b, a, 1 / c) && c * (b + 1.0L) <= a + 1.0L);
+    (lowerFirst ? lower : upper) = lowerFirst ? Quotient(a, b, c) : Quotient(b, a, 1 / c);
+    if (lower.value * density > lower.largestTail) upper = Quotient(b, a, 1 / c);
+    if (upper.value * density > upper.largestTail) lower = Quotient(a, b, c);
   }
-  if (upper.value >= 0 && (lower.value < 0 || upper.value < lower.value)) return {FromUpper(upper.value), upper.density};
-  if (lower.value >= 0) return {FromLower(lower.value), lower.density};
-  const ScaledValue step = BetaStep(a, b, c);
-  return {NoncentralBetaTailsByContour(a, b, 0, c), static_cast<double>(a * std::exp(step.exponent) * step.factor)};
+  const double roundedDensity = static_cast<double>(density);
+  const long double lowerTail = lower.value * density;
+  const long double upperTail = upper.value * density;
+  if (upper.value >= 0 && (lower.value < 0 || upperTail < lowerTail))
+    return {{static_cast<double>(std::fmax(1 - upperTail, 0.0L)), static_cast<double>(upperTail)}, roundedDensity};
+  if (lower.value >= 0)
+    return {{static_cast<double>(lowerTail), static_cast<double>(std::fmax(1 - lowerTail, 0.0L))}, roundedDensity};
+  return {NoncentralBetaTailsByContour(a, b, 0, c), roundedDensity};
 }
 
 }  // namespace
 
-Tails BetaTails(double a, double b, long double c) { return EvaluateBeta(a, b, c).tails; }
+Tails BetaTails(double a, double b, long double c) { return EvaluateBeta(BetaDensity(a, b), a, b, c).tails; }
 
 namespace {
 
@@ -236,8 +247,8 @@ long double QuantileStart(double a, double b, double p) {
   }
   // The leading term of the series at y = 0, y^a / (a B(a, b)), where it holds, and else that at y = 1.
   const ScaledValue one = BetaStep(a, b, 1);
-  const long double logStep = std::log(one.factor) + one.exponent +
-                              (static_cast<long double>(a) + b) * 0.69314718055994530942L;
+  const long double logStep =
+      std::log(one.factor) + one.exponent + (static_cast<long double>(a) + b) * 0.69314718055994530942L;
   const long double logY = (std::log(static_cast<long double>(p)) - logStep) / a;
   if (logY < -0.7L) return logY;
   return -(std::log1p(-static_cast<long double>(p)) - (logStep + std::log(a / static_cast<long double>(b)))) / b;
@@ -255,10 +266,11 @@ long double BetaQuantileLogOdds(double a, double b, double p) {
   constexpr long double farthest = 4000;
   long double low = -farthest;
   long double high = farthest;
+  const BetaDensity density(a, b);
   long double v = std::fmin(std::fmax(QuantileStart(a, b, p), low + 1), high - 1);
   for (int i = 0; i < 100; ++i) {
     const long double c = std::exp(v);
-    const TailsAndDensity at = EvaluateBeta(a, b, c);
+    const TailsAndDensity at = EvaluateBeta(density, a, b, c);
     const double tail = at.tails.lower;
     (tail > p ? high : low) = v;
     long double next = low + (high - low) / 2;
