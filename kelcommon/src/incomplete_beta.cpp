@@ -47,28 +47,25 @@ double Excess(double a, double b, double x) {
   return difference + (differenceError + sumError + std::fma(a, x, -ax) + std::fma(b, x, -bx));
 }
 
-// Brings `large` down to the largest shape. A small other shape makes this a gamma distribution of large * x, with x
-// the distance to the near end; two large ones a step at a / (a + b).
-void ScaleDown(double& large, double& other, double& x) {
+// Brings `large` down to the largest shape. A small other shape makes this a gamma distribution of large * near, with
+// `near` the distance to the near end; two large ones a step at a / (a + b).
+void ScaleDown(double& large, double& other, double& near, double& far) {
   if (large <= largestShape) return;
   const double factor = large / largestShape;
   large = largestShape;
-  if (other > 1e100)
+  if (other > 1e100) {
     other /= factor;
-  else
-    x = std::min(x * factor, 0.5);
+  } else {
+    near = std::min(near * factor, 0.5);
+    far = 1 - near;
+  }
 }
 
 Place MakePlace(double a, double b, UnitPoint point) {
-  if (std::max(a, b) > largestShape) {
-    if (b >= a) {
-      ScaleDown(b, a, point.x);
-      point.y = point.x == 0.5 ? 0.5 : point.y;
-    } else {
-      ScaleDown(a, b, point.y);
-      point.x = point.y == 0.5 ? 0.5 : point.x;
-    }
-  }
+  if (b >= a)
+    ScaleDown(b, a, point.x, point.y);
+  else
+    ScaleDown(a, b, point.y, point.x);
   const double excess = point.x <= point.y ? Excess(a, b, point.x) : -Excess(b, a, point.y);
   return {a, b, point, excess};
 }

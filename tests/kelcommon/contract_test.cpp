@@ -196,4 +196,12 @@ TEST(Missing, IsTheMostNegativeDoubleAndNothingElse) {
   EXPECT_FALSE(KelMV::IsMissing(-1));
 }
 
+// A shape beyond 1e290 puts all mass at its own end, at moderate points too.
+TEST(Contract, HugeShapesGiveSteps) {
+  for (double x : {0.081865809296115172, 0.2, 0.45, 0.8}) {
+    EXPECT_EQ(KelDistFun::CdfBeta(x, 17048.885118005728, 4.9166453185029568e290), 1) << x;
+    EXPECT_EQ(KelDistFun::CdfBeta(x, 4.9166453185029568e290, 17048.885118005728), 0) << x;
+  }
+}
+
 }  // namespace
