@@ -43,7 +43,8 @@ fuzz: ## fuzz kelcommon for FUZZ_SECONDS
 	@cmake --preset fuzz -Wno-dev --log-level=WARNING
 	@cmake --build build/fuzz -j $(JOBS)
 	@mkdir -p build/fuzz/corpus
-	build/fuzz/fuzz/fuzz_kelcommon -max_total_time=$(FUZZ_SECONDS) -print_final_stats=1 build/fuzz/corpus
+	build/fuzz/fuzz/fuzz_kelcommon -max_total_time=$(FUZZ_SECONDS) -max_len=64 -print_final_stats=1 \
+		build/fuzz/corpus fuzz/corpus/kelcommon
 
 valgrind: build ## look for leaks and stray reads in the vector tests
 	@sh tools/install_packages.sh valgrind
