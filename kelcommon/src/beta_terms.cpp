@@ -26,10 +26,13 @@ long double Log1pMinusArg(long double u) {
 
 double ExpMinusTangent(double u) {
   if (std::fabs(u) > 0.5) return std::expm1(u) - u;
-  // Taylor series; the first term left out is below 1e-17 of the sum.
-  double sum = 0;
-  for (int i = 15; i >= 3; --i) sum = (1 + sum) * u / i;
-  return u * u * (1 + sum) / 2;
+  // Taylor series 2 (e^u - 1 - u) / u^2 - 1; the first term left out is below 1e-17 of the sum. Even and odd terms are
+  // summed side by side.
+  const double u2 = u * u;
+  const double odd =
+      1.0 / 3 + u2 * (1.0 / 60 + u2 * (1.0 / 2520 + u2 * (1.0 / 181440 + u2 * (1.0 / 19958400 + u2 / 3113510400))));
+  const double even = 1.0 / 12 + u2 * (1.0 / 360 + u2 * (1.0 / 20160 + u2 * (1.0 / 1814400 + u2 * (1.0 / 239500800))));
+  return u2 * (1 + (u * odd + u2 * even)) / 2;
 }
 
 namespace {

@@ -160,10 +160,21 @@ double WrongSideIntegral(const Design& d) {
   }
   const double center = std::log(s);
   const double curvature = 4 * b * s * s + x * s * hazard + x * x * s * s;
-  // Half a standard deviation of the peak; the nearer it is to a normal density, the wider.
-  const double step = std::min((b > 50 ? 0.62 : 0.5) / std::sqrt(curvature), 0.12);
+  // Somewhat above half a standard deviation of the peak; the nearer it is to a normal density, the wider.
+  const double step = std::min((b > 50 ? 0.68 : 0.5) / std::sqrt(curvature), 0.12);
   const auto Integrand = [&](double v) {
-    return NormalUpperTail(x * std::exp(v) + d.delta) * std::exp(-b * ExpMinusTangent(2 * v));
+    double growth = 0;
+    double exponent = 0;
+    if (std::fabs(v) < 0.5) {
+      // With e^v = 1 + v + w the exponent is v^2 + 2 (1 + v) w + w^2, free of cancellation near v = 0.
+      const double w = ExpMinusTangent(v);
+      growth = 1 + (v + w);
+      exponent = v * v + w * (2 * (1 + v) + w);
+    } else {
+      growth = std::exp(v);
+      exponent = growth * growth - 1 - 2 * v;
+    }
+    return NormalUpperTail(x * growth + d.delta) * std::exp(-b * exponent);
   };
   const double middle = Integrand(center);
   double sum = middle;
@@ -171,7 +182,7 @@ double WrongSideIntegral(const Design& d) {
     for (int i = 1; i < 2000; ++i) {
       const double value = Integrand(center + direction * step * i);
       sum += value;
-      if (value < 1e-16 * sum) break;
+      if (value < 1e-15 * sum) break;
     }
   }
   return sum * step * 2 * std::sqrt(b / 6.2831853071795864769) / ScaledGamma(b);
