@@ -30,6 +30,9 @@ constexpr double largestSeriesDelta = 10;
 // Beyond, Phi(-delta) underflows.
 constexpr double largestDelta = 39;
 
+// Half the degrees of freedom below which the chi distribution is all at 0.
+constexpr double leastShape = 1e-20;
+
 // From about this number of terms on the contour integral of the F distribution is faster.
 constexpr double mostTerms = 1500;
 
@@ -158,10 +161,15 @@ double WrongSideIntegral(const Design& d) {
     const double half = x * hazard / (4 * b);
     s = 1 / (half + std::sqrt(half * half + 1));
   }
-  const double center = std::log(s);
   const double curvature = 4 * b * s * s + x * s * hazard + x * x * s * s;
+  // Few degrees of freedom leave the integrand to decay like e^{2 b v} on the left: there v - center = sinh(u) reaches
+  // far in few steps, which must be finer.
+  const bool isLeftLong = b < 1.8;
+  // The nodes are to be dense where the integrand falls, which may be far right of its flat peak.
+  const double fall = std::min(1.0, 1 / (x * Hazard(d.delta)));
+  const double center = std::log(isLeftLong ? std::max(s, fall) : s);
   // Somewhat above half a standard deviation of the peak; the nearer it is to a normal density, the wider.
-  const double step = std::min((b > 50 ? 0.68 : 0.5) / std::sqrt(curvature), 0.12);
+  const double step = std::min((b > 50 ? 0.68 : 0.5) / std::sqrt(curvature), isLeftLong ? 0.06 : 0.12);
   const auto Integrand = [&](double v) {
     double growth = 0;
     double exponent = 0;
@@ -176,11 +184,15 @@ double WrongSideIntegral(const Design& d) {
     }
     return NormalUpperTail(x * growth + d.delta) * std::exp(-b * exponent);
   };
-  const double middle = Integrand(center);
-  double sum = middle;
+  const auto Term = [&](double u) {
+    if (!isLeftLong) return Integrand(center + u);
+    const double up = std::exp(u);
+    return Integrand(center + (up - 1 / up) / 2) * (up + 1 / up) / 2;
+  };
+  double sum = Term(0);
   for (double direction : {1.0, -1.0}) {
     for (int i = 1; i < 2000; ++i) {
-      const double value = Integrand(center + direction * step * i);
+      const double value = Term(direction * step * i);
       sum += value;
       if (value < 1e-15 * sum) break;
     }
@@ -191,6 +203,8 @@ double WrongSideIntegral(const Design& d) {
 // P(T <= -x), x > 0, delta > 0.
 double WrongSideTail(const Design& d) {
   if (d.delta > largestDelta) return 0;
+  // The chi variable is then below every 1 / x but for a part of 1e-17.
+  if (d.b < leastShape) return NormalUpperTail(d.delta);
   // (3) loses at most the three digits that the result can spare while it is not far out.
   const double z = (d.x + d.delta) / std::sqrt(1 + d.x * static_cast<double>(d.x / (2 * d.df)));
   if (z < 2.7) {

@@ -54,7 +54,8 @@ struct Error {
 /// The median of a symmetric distribution is compared with 0 itself, where the independent set has the noise of its
 /// forty digits. NaN, the infinities, the missing value and error codes must agree exactly; where they do not the error
 /// is infinite. So must counts. A logarithm of the gamma function below 1 is compared by its absolute error, its
-/// relative error being that of the gamma function.
+/// relative error being that of the gamma function. Tails of noncentral distributions below 1e-25 in the independent
+/// set are compared by their absolute error: their relative one would be that set's noise.
 Error MeasureError(const Function& function, const ReferenceRow& row, const Outcome& outcome);
 
 struct Worst {

@@ -121,6 +121,26 @@ TEST(TAndF, SquareOfTheTQuantileIsAnFQuantile) {
     }
 }
 
+// The integral over the chi distribution to 20 digits, where its left end is long.
+TEST(TAndF, WrongSideTailOfFewDegreesOfFreedom) {
+  ExpectRelative(CdfT(-2, 0.001, 5), 2.8481010039069573e-7, 1e-12);
+  ExpectRelative(CdfT(-2, 0.25, 5), 1.1787817042055102e-7, 1e-12);
+  ExpectRelative(CdfT(-12.706, 1, 4), 4.4856784612844776e-7, 1e-12);
+  ExpectRelative(CdfT(-1, 0.5, 3.5), 8.0360670826081700e-5, 1e-12);
+  for (double df : {1e-18, 1e-30, 1e-300}) ExpectRelative(CdfT(-2, df, 5), 2.8665157187919391e-7, 1e-12);
+}
+
+// To 40 digits. Quantiles far out, where the logarithm of the tail is all but straight, and those whose tail is the
+// complement of a larger one.
+TEST(TAndF, QuantilesKeepTheirLastDigits) {
+  ExpectRelative(Dist::IdfF(0.9999999905635342, 186.62660350311359, 1.8680982750524289), 375274278.09699947, 1e-15);
+  ExpectRelative(Dist::IdfF(0.9480080309079868, 1.0, 17.93128993448286), 4.332691459921354, 1e-15);
+  ExpectRelative(Dist::IdfF(0.6056932543924695, 1.0, 2452.0), 0.7258749859597944, 1e-15);
+  ExpectRelative(IdfT(0.0062427569241741265, 18.322474467884547), -2.769718921052122, 1e-15);
+  ExpectRelative(IdfT(0.975, 24.0), 2.0638985616280254, 1e-15);
+  ExpectRelative(IdfT(0.8043239093063572, 36110.0), 0.857178047515988, 1e-15);
+}
+
 TEST(TAndF, TailsOfTSumToF) {
   for (double df : someDf)
     for (double delta : someDelta)
