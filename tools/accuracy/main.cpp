@@ -82,6 +82,36 @@ void WriteFunction(std::ostream& out, const Function& function, const std::map<F
   }
 }
 
+// The processor by its own name, where the system tells it.
+std::string Machine() {
+  std::ifstream file("/proc/cpuinfo");
+  for (std::string line; std::getline(file, line);)
+    if (line.rfind("model name", 0) == 0) return line.substr(line.find(':') + 2);
+  return "unnamed processor";
+}
+
+std::string Compiler() {
+#ifdef __clang__
+  return "clang " __clang_version__;
+#else
+  return "g++ " __VERSION__;
+#endif
+}
+
+// Measured once, with the references at hand, on Boost.Math 1.81.
+void WriteWhyNotBoost(std::ostream& out) {
+  out << "\n## Where plain Boost.Math 1.81 falls short\n\n"
+         "The methods above replace those of Boost.Math where these were measured to lose digits or to fail:\n\n"
+         "- Incomplete beta function in double precision: relative error 5.9e-11 at shapes near 1e6. `CdfBin` built on "
+         "it "
+         "is off by\n  2e-10 at ten million trials, `PdfBin` by 5e-10.\n"
+         "- Noncentral t: relative error 1.2e-7 at T(-3.37; 35, 2.99); promoted to extended precision still 9e-11.\n"
+         "- Noncentral F: absolute error 5.5e-13 at 4 and 1e5 degrees of freedom and noncentrality 0.\n"
+         "- Quantile of t: relative error 4.5e-12 near p = 0.5; promoted 1.4e-13.\n"
+         "- The quantiles throw `evaluation_error` in spite of a policy that ignores errors.\n"
+         "- `lgamma` at its poles gives NaN under such a policy; here it is infinite.\n";
+}
+
 void WritePage(std::ostream& out, const std::vector<ReferenceRow>& rows) {
   const std::map<FunctionRegion, Worst> measured = MeasureErrors(rows);
   const std::map<FunctionRegion, Times> times = MeasureTimes(rows);
@@ -98,11 +128,14 @@ void WritePage(std::ostream& out, const std::vector<ReferenceRow>& rows) {
          "exceeds 1.\nArguments are in the order of the call. An error of `inf` is a wrong count, error code or "
          "special "
          "value.\n\n"
-         "Times are of one machine, compiler and mathematics library, and differ on others: the median and the longest "
+         "Times are of one machine ("
+      << Machine() << "), compiler (" << Compiler()
+      << ") and mathematics library,\nand differ on others: the median and the longest "
          "over "
          "the\nrows of a region, each row the fastest mean of "
       << runs << " runs of " << callsPerRun << " calls.\n";
   for (const Function& function : Functions()) WriteFunction(out, function, measured, times);
+  WriteWhyNotBoost(out);
 }
 
 int Usage() {

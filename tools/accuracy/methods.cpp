@@ -6,14 +6,35 @@
 namespace {
 
 const Method methods[] = {
-    {"IdfF", "Quantile of F: `IdfF(p, df1, df2)`.", "See the comments in `kelcommon/src/fisher_f.cpp`.",
-     "Named in `kelcommon/src/fisher_f.cpp`."},
+    {"IdfF", "Quantile of F: `IdfF(p, df1, df2)`.",
+     "The inverse series of the logarithm of the smaller beta tail in the log-odds, to its third term, within a "
+     "bracket. "
+     "The tail is its density, by saddle-point form in extended precision, times a power series or a continued "
+     "fraction; "
+     "with both shapes above 30000 a contour integral.",
+     "A. DiDonato and A. Morris, Significant Digit Computation of the Incomplete Beta Function Ratios, ACM TOMS 18 "
+     "(1992), equations 4 and 9. Start: Abramowitz and Stegun 26.5.22."},
     {"NonCentralCdfF", "Lower probability of noncentral F: `NonCentralCdfF(x, df1, df2, noncentrality, eps)`.",
-     "See the comments in `kelcommon/src/fisher_f.cpp`.", "Named in `kelcommon/src/fisher_f.cpp`."},
-    {"IdfT", "Quantile of Student's t: `IdfT(p, df, a, b)`.", "See the comments in `kelcommon/src/students_t.cpp`.",
-     "Named in `kelcommon/src/students_t.cpp`."},
+     "The Poisson mixture of beta tails, the lower tail summed by parts and the upper by the forward recurrence, all "
+     "terms positive; above 4000 terms, or a noncentrality above 2e6, the integral of the moment generating function "
+     "along a contour through its saddle point, by the trapezoidal rule.",
+     "N. Johnson, S. Kotz and N. Balakrishnan, Continuous Univariate Distributions 2 (1995), equation 30.10; R. "
+     "Lugannani and S. Rice, Saddle Point Approximation for the Distribution of the Sum of Independent Random "
+     "Variables "
+     "(1980)."},
+    {"IdfT", "Quantile of Student's t: `IdfT(p, df, a, b)`.",
+     "From the log-odds of a beta distribution, as `IdfF`: near the median from its lower tail, outside from its "
+     "upper. "
+     "With 1 and 2 degrees of freedom in closed form; above 1e18 the normal quantile.",
+     "As `IdfF`. Start: G. Hill, Algorithm 396: Student's t-Quantiles (1970)."},
     {"NonCentralCdfT", "Lower probability of noncentral t: `NonCentralCdfT(x, df, noncentrality, tuning)`.",
-     "See the comments in `kelcommon/src/students_t.cpp`.", "Named in `kelcommon/src/students_t.cpp`."},
+     "Poisson mixtures of beta tails with shapes 1/2 and 1, summed by parts in the lower tail; beyond a noncentrality "
+     "of "
+     "10 the noncentral F distribution of the square. On the side away from the noncentrality, where the sum cancels, "
+     "the mean of the normal distribution over the chi distribution, by the trapezoidal rule in the logarithm.",
+     "W. Guenther, Evaluation of Probabilities for the Noncentral Distributions and the Difference of Two T Variables "
+     "with a Desk Calculator (1978); D. Benton and K. Krishnamoorthy, Computing Discrete Mixtures of Continuous "
+     "Distributions (2003), equation 3.2."},
     {"CdfStdNorm", "Lower probability of the standard normal distribution: `CdfStdNorm(z)`.",
      "erfc(-z / sqrt 2) / 2, with the rounding of its argument undone by the derivative in the lower tail.",
      "Abramowitz and Stegun, Handbook of Mathematical Functions (1964), 7.1.13 and 26.2.29."},
