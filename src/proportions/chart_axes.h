@@ -8,7 +8,8 @@
 
 namespace kelpower {
 
-/// The positions origin + step, origin + 2 step, ...; the origin itself is none of them. No axis unless step is above 0.
+/// The positions origin + step, origin + 2 step, ...; the origin itself is none of them. No axis unless step is above
+/// 0.
 inline std::optional<Axis> GridAxis(double count, double origin, double step) {
   if (!(step > 0)) return std::nullopt;
   std::optional<Axis> axis = CountedAxis(count, origin, step);

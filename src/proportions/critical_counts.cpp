@@ -19,8 +19,8 @@ double QuantileGuess(double size, double p, double z) {
   return std::ceil(size * p + z * sd + (z * z - 1) * (1 - 2 * p) / 6 - 0.5);
 }
 
-/// The smallest whole number in [0, top] that `reaches`, which holds from some number on and at `top`. Gallops away from
-/// the guess until it is enclosed, then bisects: two evaluations when the guess is right.
+/// The smallest whole number in [0, top] that `reaches`, which holds from some number on and at `top`. Gallops away
+/// from the guess until it is enclosed, then bisects: two evaluations when the guess is right.
 double SmallestReaching(double guess, double top, FunctionView<bool(double count)> reaches) {
   double below = -1;
   double above = top;
@@ -49,9 +49,9 @@ CriticalCount LowerCritical(double size, double nullProportion, const TailLevel&
   const double top = std::ceil(size);
   if (std::isnan(tail.level) || std::isnan(nullProportion)) return {top, top + 1};
   long error = 0;
-  const double first = SmallestReaching(
-      QuantileGuess(size, nullProportion, -tail.z), top,
-      [&](double count) { return KelDistFun::CdfBin(count, size, nullProportion, error) > tail.level; });
+  const double first = SmallestReaching(QuantileGuess(size, nullProportion, -tail.z), top, [&](double count) {
+    return KelDistFun::CdfBin(count, size, nullProportion, error) > tail.level;
+  });
   return {first - 1, first + 1};
 }
 
@@ -61,9 +61,9 @@ CriticalCount UpperCritical(double size, double nullProportion, const TailLevel&
   const double top = wholeSize + 1;
   const double level = 1 - tail.level;
   long error = 0;
-  const double count = SmallestReaching(
-      QuantileGuess(size, nullProportion, tail.z), top,
-      [&](double k) { return KelDistFun::CdfBin(k, size, nullProportion, error) >= level; });
+  const double count = SmallestReaching(QuantileGuess(size, nullProportion, tail.z), top, [&](double k) {
+    return KelDistFun::CdfBin(k, size, nullProportion, error) >= level;
+  });
   return {count, std::min(top - count, wholeSize) + 1};
 }
 

@@ -23,8 +23,8 @@ struct TailLevel {
 /// satisfies the comparisons (a NaN level or proportion) it is the first whole number not below `size`.
 CriticalCount LowerCritical(double size, double nullProportion, const TailLevel& tail);
 
-/// The smallest count k with P(X <= k) at least 1 minus the level, so that P(X > k) is at most the level. Stepping starts
-/// above `size`, and ends at 0 at the latest.
+/// The smallest count k with P(X <= k) at least 1 minus the level, so that P(X > k) is at most the level. Stepping
+/// starts above `size`, and ends at 0 at the latest.
 CriticalCount UpperCritical(double size, double nullProportion, const TailLevel& tail);
 
 }  // namespace kelpower

@@ -28,5 +28,6 @@ extern "C" double PowerReverseOneSampBinom(double power, double altProportion, d
     return test.Power(size, altProportion, nullProportion, stop);
   };
   if (method != 0) return SolveExactSize(power, powerAt, cancel);
-  return SolveContinuous(1, 400, 1e-9, [&](double size) { return powerAt(size, nullptr) - power; }, nullptr);
+  return SolveContinuous(
+      1, 400, 1e-9, [&](double size) { return powerAt(size, nullptr) - power; }, nullptr);
 }

@@ -104,24 +104,22 @@ extern "C" XYPlot PlotRiskDiffOneSampBionm(double sampleSize, double nullProport
   if (step > kLargestStep) return EmptyCurve();
 
   OneSampleTest test(method, oneSided, alpha, continuityCorrection);
-  return Curve(DifferenceGrid(nullProportion, step), Precision::Single, [&](double difference) {
-    return test.Power(sampleSize, difference + nullProportion, nullProportion);
-  });
+  return Curve(DifferenceGrid(nullProportion, step), Precision::Single,
+               [&](double difference) { return test.Power(sampleSize, difference + nullProportion, nullProportion); });
 }
 
-extern "C" XYZPlot PlotNRiskDiffOneSampBinom(double sampleSize, double altProportion, double nullProportion,
-                                             int method, int oneSided, double alpha, int minSampleSize,
-                                             int maxSampleSize, std::uint8_t continuityCorrection, double step) {
+extern "C" XYZPlot PlotNRiskDiffOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
+                                             int oneSided, double alpha, int minSampleSize, int maxSampleSize,
+                                             std::uint8_t continuityCorrection, double step) {
   const SizeSurface design{sampleSize, altProportion, nullProportion, alpha, minSampleSize, maxSampleSize, step};
   if (design.IsInvalid()) return EmptySurface();
 
   OneSampleTest test(method, oneSided, alpha, continuityCorrection);
-  return SurfaceByRows(design.Sizes(test), DifferenceGrid(nullProportion, step), Precision::Single,
-                       [&](double size, const SurfaceLine& row) {
-                         row.Fill([&](double difference) {
-                           return test.Power(size, difference + nullProportion, nullProportion);
-                         });
-                       });
+  return SurfaceByRows(
+      design.Sizes(test), DifferenceGrid(nullProportion, step), Precision::Single,
+      [&](double size, const SurfaceLine& row) {
+        row.Fill([&](double difference) { return test.Power(size, difference + nullProportion, nullProportion); });
+      });
 }
 
 extern "C" XYZPlot PlotNNullOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
@@ -156,10 +154,9 @@ extern "C" XYZPlot PlotNullAlterOneSampBinom(double sampleSize, int method, int 
   if (step > kLargestStep) return EmptySurface();
 
   OneSampleTest test(method, oneSided, alpha, continuityCorrection);
-  return SurfaceByRows(ProportionGrid(step), ProportionGrid(step), Precision::Single,
-                       [&](double nullProportion, const SurfaceLine& row) {
-                         row.Fill([&](double alternative) {
-                           return test.Power(sampleSize, alternative, nullProportion);
-                         });
-                       });
+  return SurfaceByRows(
+      ProportionGrid(step), ProportionGrid(step), Precision::Single,
+      [&](double nullProportion, const SurfaceLine& row) {
+        row.Fill([&](double alternative) { return test.Power(sampleSize, alternative, nullProportion); });
+      });
 }

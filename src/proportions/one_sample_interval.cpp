@@ -17,8 +17,8 @@ enum IntervalMethod { kWald, kLogitAdjusted, kLogit, kClopperPearson, kJeffreys,
 /// taken out so that neither a wide nor a narrow interval loses digits.
 double LogitHalfWidth(double logit, double w) {
   const double width = std::fabs(w);
-  const double halfWidth = -std::expm1(-2 * width) /
-                           (2 * (1 + std::exp(-2 * width) + std::exp(logit - width) + std::exp(-logit - width)));
+  const double halfWidth =
+      -std::expm1(-2 * width) / (2 * (1 + std::exp(-2 * width) + std::exp(logit - width) + std::exp(-logit - width)));
   return std::copysign(halfWidth, w);
 }
 
@@ -103,8 +103,6 @@ extern "C" double PowerReversebyHalfCIOneSampBinom(double halfWidth, double prop
   if (ciMethod == kWald) return WaldSize(halfWidth, proportion, interval.z, continuityCorrection != 0);
 
   // An unknown method counts as having the wanted half-width at every size.
-  const auto objective = [&](double size) {
-    return interval.HasMethod() ? halfWidth - interval.HalfWidth(size) : 0;
-  };
+  const auto objective = [&](double size) { return interval.HasMethod() ? halfWidth - interval.HalfWidth(size) : 0; };
   return SolveContinuous(1, 400, 1e-9, objective, cancel);
 }

@@ -37,8 +37,8 @@ double OneSampleTest::Power(double size, double altProportion, double nullPropor
                   : NormalPower(size, altProportion, nullProportion);
 }
 
-// P(|Z0| > z) for Z0 = sqrt(N) (X/N - p0) / s0, with X/N normal of mean p1 and standard deviation s1 / sqrt(N). At p1 = 0
-// or 1 the quotients are infinite and the power is 0 or 1.
+// P(|Z0| > z) for Z0 = sqrt(N) (X/N - p0) / s0, with X/N normal of mean p1 and standard deviation s1 / sqrt(N). At p1 =
+// 0 or 1 the quotients are infinite and the power is 0 or 1.
 double OneSampleTest::NormalPower(double size, double altProportion, double nullProportion) const {
   const double shift = std::sqrt(size) * (nullProportion - altProportion);
   const double s0 = std::sqrt((1 - nullProportion) * nullProportion);
@@ -62,8 +62,7 @@ double OneSampleTest::ExactPower(double size, double altProportion, double nullP
 
   long upperError = 0;
   long lowerError = 0;
-  const double above =
-      usesUpper ? 1 - KelDistFun::CdfBin(Upper().count, size, altProportion, upperError) : 0;
+  const double above = usesUpper ? 1 - KelDistFun::CdfBin(Upper().count, size, altProportion, upperError) : 0;
   const double below = usesLower ? KelDistFun::CdfBin(Lower().count, size, altProportion, lowerError) : 0;
   if (upperError != 0 || lowerError != 0) return kNoProbability;
   return above + below;

@@ -39,7 +39,8 @@ extern "C" double PowerReversebyPRelSampBionm(double power, double discordant12,
     return test.Power(size, {discordant12, discordant21}, stop);
   };
   if (exact != 0) return SolveExactSize(power, powerAt, cancel);
-  return SolveContinuous(1, 400, 1e-9, [&](double size) { return powerAt(size, nullptr) - power; }, nullptr);
+  return SolveContinuous(
+      1, 400, 1e-9, [&](double size) { return powerAt(size, nullptr) - power; }, nullptr);
 }
 
 extern "C" double PowerReversebyMargPRelSampBionm(double power, double marginal1, double marginal2, double correlation,

@@ -54,8 +54,9 @@ extern "C" XYPlot PlotNRelSampBionm(double sampleSize, double discordant12, doub
   if (maxSampleSize > kLargestChartSize) return EmptyCurve();
 
   RelatedTest test(oneSided, exact, alpha);
-  return Curve(SizeAxis(minSampleSize, maxSampleSize), Precision::Single,
-               [&](double size) { return test.Power(size, {discordant12, discordant21}); });
+  return Curve(SizeAxis(minSampleSize, maxSampleSize), Precision::Single, [&](double size) {
+    return test.Power(size, {discordant12, discordant21});
+  });
 }
 
 extern "C" XYPlot PlotRiskDiffRelSampBionm(double sampleSize, double discordant12, int oneSided, int exact,
@@ -72,8 +73,8 @@ extern "C" XYPlot PlotRiskDiffRelSampBionm(double sampleSize, double discordant1
   });
 }
 
-// The ratio moves the probability that leaves room for it: p21 below p12 = a up to 0.5, and p12 above p21 = b beyond. The
-// last point may lie a little beyond the range, so p12 is kept there from making the sum exceed 1.
+// The ratio moves the probability that leaves room for it: p21 below p12 = a up to 0.5, and p12 above p21 = b beyond.
+// The last point may lie a little beyond the range, so p12 is kept there from making the sum exceed 1.
 extern "C" XYPlot PlotRiskRatioRelSampBionm(double sampleSize, double discordant12, double discordant21,
                                             double minRatio, double maxRatio, int oneSided, int exact, double alpha,
                                             double step) {
@@ -119,8 +120,9 @@ extern "C" XYPlot PlotCorrRelSampBionm(double sampleSize, double marginal1, doub
   if (RejectsMarginals(marginal1, marginal2)) return EmptyCurve();
 
   RelatedTest test(oneSided, exact, alpha);
-  return Curve(StepAxis(-1, LargestCorrelation(marginal1, marginal2), step), Precision::Single,
-               [&](double correlation) { return test.PowerOfMarginals(sampleSize, marginal1, marginal2, correlation); });
+  return Curve(
+      StepAxis(-1, LargestCorrelation(marginal1, marginal2), step), Precision::Single,
+      [&](double correlation) { return test.PowerOfMarginals(sampleSize, marginal1, marginal2, correlation); });
 }
 
 extern "C" XYZPlot PlotPropRelSampBionm(double sampleSize, int oneSided, int exact, double alpha, double step) {

@@ -12,8 +12,8 @@ namespace {
 enum IntervalMethod { kWald, kAgrestiMin, kBonettPrice };
 
 /// The confidence interval of the difference p12 - p21. The adjusted methods add 1 and 2 discordant pairs in all:
-/// Agresti, A. and Min, Y. (2005), Statistics in Medicine 24, 729-740; Bonett, D. G. and Price, R. M. (2012), Journal of
-/// Educational and Behavioral Statistics 37, 479-488.
+/// Agresti, A. and Min, Y. (2005), Statistics in Medicine 24, 729-740; Bonett, D. G. and Price, R. M. (2012), Journal
+/// of Educational and Behavioral Statistics 37, 479-488.
 struct DifferenceInterval {
   double discordant;
   double difference;

@@ -57,8 +57,8 @@ public:
   }
 
 private:
-  static constexpr int kCountsPerEvaluation = 64;    // the recurrence then stays within 1e-14
-  static constexpr double kNearUnderflow = 1e-290;   // from there on the recurrence could not rise again
+  static constexpr int kCountsPerEvaluation = 64;   // the recurrence then stays within 1e-14
+  static constexpr double kNearUnderflow = 1e-290;  // from there on the recurrence could not rise again
 
   void Evaluate() {
     long error = 0;
@@ -123,7 +123,8 @@ double RelatedTest::PowerOfMarginals(double size, double marginal1, double margi
 }
 
 // Connor, R. J. (1987), Sample size for testing differences in proportions for the paired-sample design, Biometrics 43,
-// 207-211: the standard deviation is sqrt(pd) under the null hypothesis, sqrt(pd - (p12 - p21)^2) under the alternative.
+// 207-211: the standard deviation is sqrt(pd) under the null hypothesis, sqrt(pd - (p12 - p21)^2) under the
+// alternative.
 double RelatedTest::NormalPower(double size, const DiscordantPairs& pairs) const {
   const double discordant = pairs.p12 + pairs.p21;
   const double difference = pairs.p12 - pairs.p21;

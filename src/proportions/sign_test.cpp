@@ -28,8 +28,8 @@ double LowerRegion(double level, double discordant) {
   return KelDistFun::IdfBin(level, discordant, 0.5, error);
 }
 
-/// The upper critical value is one above the quantile c of 1 - level, so that X > c + 1 rejects: at most m - c - 2 pairs
-/// are of the first kind.
+/// The upper critical value is one above the quantile c of 1 - level, so that X > c + 1 rejects: at most m - c - 2
+/// pairs are of the first kind.
 double UpperRegion(double level, double discordant) {
   long error = 0;
   return discordant - KelDistFun::IdfBin(1 - level, discordant, 0.5, error) - 2;
