@@ -511,8 +511,8 @@ KELPOWER_API XYZPlot PlotRatioaMeanDiffIndependent(double totalSize, double mean
 // Invalid input gives -1, an empty chart. The exact power is -2 where a binomial probability has no value (a NaN
 // proportion), and missing for sizes above 2,147,483,647. Chart values are in single precision; a chart point with
 // invalid input is -1.
-// Method: Fleiss, J. L., Levin, B. and Paik, M. C. (2003), Statistical Methods for Rates and Proportions, 3rd ed., ch. 2,
-// and exact binomial tails; docs/proportions.md has the formulas and the sources of the intervals.
+// Method: Fleiss, J. L., Levin, B. and Paik, M. C. (2003), Statistical Methods for Rates and Proportions, 3rd ed.,
+// ch. 2, and exact binomial tails; docs/proportions.md has the formulas and the sources of the intervals.
 
 /// Power of the test of one proportion.
 KELPOWER_API double PowerOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
@@ -598,8 +598,8 @@ KELPOWER_API XYZPlot PlotNullAlterOneSampBinom(double sampleSize, int method, in
 ///        true gives missing. May be null
 //
 // Invalid input gives -1, an empty chart. The exact power is -2 where a binomial probability has no value (no
-// discordant pairs, a NaN probability), and missing for sizes above 2,147,483,647. Chart values are in single precision;
-// a chart point with invalid input is -1.
+// discordant pairs, a NaN probability), and missing for sizes above 2,147,483,647. Chart values are in single
+// precision; a chart point with invalid input is -1.
 // Method: Connor, R. J. (1987), Sample size for testing differences in proportions for the paired-sample design,
 // Biometrics 43, 207-211; docs/proportions.md has the formulas and the exact test.
 
@@ -620,8 +620,8 @@ KELPOWER_API double PowerbyMargPRelSampBionm(double sampleSize, double marginal1
 KELPOWER_API double PowerbyMargCRelSampBionm(double sampleSize, double marginalCount1, double marginalCount2,
                                              double correlation, int oneSided, int exact, double alpha);
 
-/// Number of pairs at which the test reaches a power: not rounded for the large-sample test, the smallest whole one that
-/// the search finds for the exact test. Nothing is checked; missing when no size has the power.
+/// Number of pairs at which the test reaches a power: not rounded for the large-sample test, the smallest whole one
+/// that the search finds for the exact test. Nothing is checked; missing when no size has the power.
 KELPOWER_API double PowerReversebyPRelSampBionm(double power, double discordant12, double discordant21, int oneSided,
                                                 int exact, double alpha, StopRequest* cancel);
 
