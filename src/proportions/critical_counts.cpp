@@ -46,6 +46,7 @@ double SmallestReaching(double guess, double top, FunctionView<bool(double count
 TailLevel::TailLevel(double tailLevel) : level(tailLevel), z(KelDistFun::IdfStdNorm(1 - tailLevel)) {}
 
 CriticalCount LowerCritical(double size, double nullProportion, const TailLevel& tail) {
+  if (std::isnan(size)) return {0, 1};
   const double top = std::ceil(size);
   if (std::isnan(tail.level) || std::isnan(nullProportion)) return {top, top + 1};
   long error = 0;
@@ -56,6 +57,7 @@ CriticalCount LowerCritical(double size, double nullProportion, const TailLevel&
 }
 
 CriticalCount UpperCritical(double size, double nullProportion, const TailLevel& tail) {
+  if (std::isnan(size)) return {0, 1};
   const double wholeSize = std::trunc(size);
   if (std::isnan(tail.level) || std::isnan(nullProportion)) return {0, wholeSize + 1};
   const double top = wholeSize + 1;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <vector>
 
 #include "frame/checks.h"
 #include "kelcommon/kel_dist_fun.h"
@@ -40,11 +42,10 @@ PairRange LikelyPairs(double size, double discordant) {
   return {std::max(1.0, std::floor(mean - reach)), std::min(std::floor(size), std::ceil(mean + reach))};
 }
 
-/// The probabilities of m = from, from + 1, ... discordant pairs among `size` pairs.
+/// P(count) of a binomial count, kept up to date by recurrence while the count moves away from the mode.
 class RunningMass {
 public:
-  RunningMass(double size, double discordant, double from)
-      : size_(size), discordant_(discordant), odds_(discordant / (1 - discordant)), count_(from) {
+  RunningMass(double size, double p, double count) : size_(size), p_(p), odds_(p / (1 - p)), count_(count) {
     Evaluate();
   }
 
@@ -53,34 +54,63 @@ public:
   void RaiseCount() {
     mass_ *= (size_ - count_) / (count_ + 1) * odds_;
     count_ += 1;
-    if (++countsSinceEvaluation_ == kCountsPerEvaluation || mass_ < kNearUnderflow) Evaluate();
+    CountStep();
+  }
+
+  void LowerCount() {
+    mass_ *= count_ / (size_ - count_ + 1) / odds_;
+    count_ -= 1;
+    CountStep();
   }
 
 private:
-  static constexpr int kCountsPerEvaluation = 64;   // the recurrence then stays within 1e-14
-  static constexpr double kNearUnderflow = 1e-290;  // from there on the recurrence could not rise again
+  static constexpr int kStepsPerEvaluation = 64;  // the recurrence then stays within 1e-14
+
+  void CountStep() {
+    if (++stepsSinceEvaluation_ == kStepsPerEvaluation) Evaluate();
+  }
 
   void Evaluate() {
     long error = 0;
-    mass_ = KelDistFun::PdfBin(count_, size_, discordant_, error);
-    countsSinceEvaluation_ = 0;
+    mass_ = KelDistFun::PdfBin(count_, size_, p_, error);
+    stepsSinceEvaluation_ = 0;
   }
 
   double size_;
-  double discordant_;
+  double p_;
   double odds_;
   double count_;
   double mass_ = 0;
-  int countsSinceEvaluation_ = 0;
+  int stepsSinceEvaluation_ = 0;
 };
+
+/// The probabilities of from, ..., to discordant pairs. Starts at the mode, where they are most accurate, and because
+/// from a mass that has underflowed the recurrence could not rise again.
+std::vector<double> PairProbabilities(double size, double discordant, const PairRange& range) {
+  const double mode = std::clamp(std::floor((size + 1) * discordant), range.from, range.to);
+  std::vector<double> masses(static_cast<std::size_t>(range.to - range.from) + 1);
+  const auto store = [&](double m, double mass) { masses[static_cast<std::size_t>(m - range.from)] = mass; };
+  RunningMass up(size, discordant, mode);
+  RunningMass down = up;
+  store(mode, up.Value());
+  for (double m = mode + 1; m <= range.to; ++m) {
+    up.RaiseCount();
+    store(m, up.Value());
+  }
+  for (double m = mode - 1; m >= range.from; --m) {
+    down.LowerCount();
+    store(m, down.Value());
+  }
+  return masses;
+}
 
 /// The mean of the powers given m discordant pairs, m ~ Binomial(size, discordant).
 double MeanPower(double size, double discordant, const PairRange& range, SignTestPowers& powers) {
   if (discordant == 1) return std::floor(size) == size ? powers.At(size) : 0;
-  RunningMass mass(size, discordant, range.from);
   double power = 0;
-  for (double m = range.from; m <= range.to; ++m, mass.RaiseCount()) power += mass.Value() * powers.At(m);
-  return power;
+  double m = range.from;
+  for (const double mass : PairProbabilities(size, discordant, range)) power += mass * powers.At(m++);
+  return std::min(power, 1.0);
 }
 
 }  // namespace

@@ -92,7 +92,7 @@ private:
 
 // The library and the definition add the same terms in another way, and binomial masses as evaluated are good to about
 // 1e-14.
-constexpr double kRounding = 3e-14;
+constexpr double kRounding = 1e-14;
 
 TEST(PowerbyPRelSampBionm, OfTheExactTestIsThatOfItsDefinition) {
   RandomDesigns designs(20240612);
@@ -165,8 +165,8 @@ TEST(PowerbyPRelSampBionm, DoesNotDependOnWhichMeasureComesFirst) {
   RandomDesigns designs(13);
   for (int i = 0; i < 500; ++i) {
     const Design d = designs.Next();
-    if (d.p12 + d.p21 > 1 || d.alpha > 0.5) continue;
-    // Away from ties, which fall to one side.
+    if (d.p12 + d.p21 > 1 || d.alpha >= 0.5 || d.alpha < 1e-9) continue;
+    // Away from ties, which fall to one side, and from levels that 1 - alpha rounds.
     const double alpha = d.alpha * 1.000001;
     EXPECT_NEAR(Exact(d.size, d.p12, d.p21, d.oneSided, alpha), Exact(d.size, d.p21, d.p12, d.oneSided, alpha),
                 kRounding)
