@@ -9,6 +9,8 @@ const std::vector<Test>& Tests() {
       AnovaTest(),
       ContrastTest(),
       PairwiseTest(),
+      ProportionTest(),
+      PairedProportionsTest(),
   };
   return tests;
 }

@@ -8,5 +8,7 @@ namespace planner {
 Test AnovaTest();
 Test ContrastTest();
 Test PairwiseTest();
+Test ProportionTest();
+Test PairedProportionsTest();
 
 }  // namespace planner
