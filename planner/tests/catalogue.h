@@ -8,5 +8,8 @@ namespace planner {
 Test AnovaTest();
 Test ContrastTest();
 Test PairwiseTest();
+Test MeanTest();
+Test PairedMeansTest();
+Test TwoMeansTest();
 
 }  // namespace planner
