@@ -19,8 +19,7 @@ Numbers PowerOfEffect(const Inputs& in) {
 
 template <auto size>
 Numbers SizeOfMean(const Inputs& in) {
-  return {std::ceil(
-      size(in.Number("power"), in.Number("mean"), in.Number("sd"), in.Number("test-value"), in.Alpha()))};
+  return {std::ceil(size(in.Number("power"), in.Number("mean"), in.Number("sd"), in.Number("test-value"), in.Alpha()))};
 }
 
 template <auto size>
@@ -88,9 +87,7 @@ Test Describe() {
        {"sd", "n"},
        {},
        "HalfCIOneSampleMeans",
-       [](const Inputs& in) -> Numbers {
-         return {HalfCIOneSampleMeans(in.Number("n"), in.Number("sd"), in.Alpha())};
-       }},
+       [](const Inputs& in) -> Numbers { return {HalfCIOneSampleMeans(in.Number("n"), in.Number("sd"), in.Alpha())}; }},
       {Question::SampleSizeForHalfWidth,
        {"sd"},
        {},
@@ -145,7 +142,7 @@ Test Describe() {
        "one-sample t test at a significance level of 0.05 needs 52 observations; its power is then 0.8078."},
       {"mean --effect-d 0.4 --power 0.8 --one-sided",
        "To detect an effect size d of 0.4 with a power of 0.8, the one-sided one-sample t test at a significance level "
-       "of 0.05 needs 41 observations; its power is then 0.8085."},
+       "of 0.05 needs 41 observations; its power is then 0.8086."},
       {"mean --sd 10 --n 40 --interval",
        "With 40 observations and a standard deviation of 10, the 95% confidence interval of the mean has a half-width "
        "of 3.198."},

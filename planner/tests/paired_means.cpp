@@ -41,8 +41,8 @@ Numbers PowerOfEffect(const Inputs& in) {
 template <auto size>
 Numbers SizeOfMeans(const Inputs& in) {
   const Pair pair = PairOf(in);
-  return {std::ceil(
-      size(in.Number("power"), pair.mean1, pair.sd1, pair.mean2, pair.sd2, pair.correlation, in.Alpha()))};
+  return {
+      std::ceil(size(in.Number("power"), pair.mean1, pair.sd1, pair.mean2, pair.sd2, pair.correlation, in.Alpha()))};
 }
 
 template <auto size>
@@ -133,7 +133,7 @@ Test Describe() {
        IsCorrelated,
        "--correlation is 0: measurements that do not correlate are not pairs; two-means tests them."},
       {{"means", "correlation"}, IsOneSidedBelowOne, "--correlation of a one-sided test must be below 1."},
-      {{"sds", "correlation"},
+      {{"means", "correlation"},
        DifferencesSpread,
        "--sds are equal and --correlation is 1 or -1, which the test refuses: give --sd-difference instead."},
   };
@@ -173,7 +173,8 @@ Test Describe() {
        "half-width of {half-width}."},
       {Question::SampleSizeForHalfWidth,
        "For a {confidence} confidence interval of the mean difference with a half-width of at most "
-       "{target-half-width}, from measurements {spread}, the study needs {sizes}; the half-width is then {half-width}."},
+       "{target-half-width}, from measurements {spread}, the study needs {sizes}; the half-width is then "
+       "{half-width}."},
   };
 
   test.examples = {
@@ -182,7 +183,7 @@ Test Describe() {
        "detect means of 25 and 21 with standard deviations of 8 and 7 and a correlation of 0.6."},
       {"paired-means --means 25,21 --sds 8,7 --correlation 0.6 --power 0.9 --one-sided",
        "To detect means of 25 and 21 with standard deviations of 8 and 7 and a correlation of 0.6 with a power of 0.9, "
-       "the one-sided paired-samples t test at a significance level of 0.05 needs 26 pairs; its power is then 0.9008."},
+       "the one-sided paired-samples t test at a significance level of 0.05 needs 26 pairs; its power is then 0.9007."},
       {"paired-means --mean-difference 4 --sd-difference 8 --power 0.9",
        "To detect a mean difference of 4 with a standard deviation of 8 of the differences with a power of 0.9, the "
        "two-sided paired-samples t test at a significance level of 0.05 needs 44 pairs; its power is then 0.9000."},

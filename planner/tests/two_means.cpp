@@ -68,7 +68,8 @@ Test Describe() {
   test.name = "two-means";
   test.title = "Independent-samples t test of two means";
   test.about =
-      "Tests whether two independent groups have the same mean: pooled when their standard deviations are equal, and in "
+      "Tests whether two independent groups have the same mean: pooled when their standard deviations are equal, and "
+      "in "
       "the form of Welch when they differ.";
   test.groups = 2;
 
@@ -126,11 +127,7 @@ Test Describe() {
        "PowerReverseIndependentDirectionalES",
        SizesOfEffect<PowerReverseIndependentDirectionalES>},
       {Question::HalfWidth, {"sd", "n"}, {}, "HalfCIIndependentMeans", HalfWidth},
-      {Question::SampleSizeForHalfWidth,
-       {"sd"},
-       {"ratio"},
-       "PowerReversebyHalfCIIndependentMeans",
-       SizesForHalfWidth},
+      {Question::SampleSizeForHalfWidth, {"sd"}, {"ratio"}, "PowerReversebyHalfCIIndependentMeans", SizesForHalfWidth},
   };
 
   test.solvable = {
@@ -179,14 +176,17 @@ Test Describe() {
        "total); its power is then 0.8006."},
       {"two-means --effect-d 0.5 --power 0.8",
        "To detect an effect size d of 0.5 with a power of 0.8, the two-sided independent-samples t test at a "
-       "significance level of 0.05 needs 64 observations in each of 2 groups (128 in total); its power is then 0.8015."},
+       "significance level of 0.05 needs 64 observations in each of 2 groups (128 in total); its power is then "
+       "0.8015."},
       {"two-means --sd 10,14 --n 40 --interval",
-       "With 40 observations in each of 2 groups (80 in total) and standard deviations of 10 and 14, the 95% confidence "
+       "With 40 observations in each of 2 groups (80 in total) and standard deviations of 10 and 14, the 95% "
+       "confidence "
        "interval of the difference of means has a half-width of 5.425."},
       {"two-means --sd 10,14 --half-width 4",
-       "For a 95% confidence interval of the difference of means with a half-width of at most 4, at standard deviations "
+       "For a 95% confidence interval of the difference of means with a half-width of at most 4, at standard "
+       "deviations "
        "of 10 and 14, the study needs 73 observations in each of 2 groups (146 in total); the half-width is then "
-       "3.992."},
+       "3.984."},
   };
   return test;
 }
