@@ -9,6 +9,9 @@ const std::vector<Test>& Tests() {
       AnovaTest(),
       ContrastTest(),
       PairwiseTest(),
+      MeanTest(),
+      PairedMeansTest(),
+      TwoMeansTest(),
       ProportionTest(),
       PairedProportionsTest(),
   };

@@ -8,6 +8,9 @@ namespace planner {
 Test AnovaTest();
 Test ContrastTest();
 Test PairwiseTest();
+Test MeanTest();
+Test PairedMeansTest();
+Test TwoMeansTest();
 Test ProportionTest();
 Test PairedProportionsTest();
 
