@@ -485,6 +485,86 @@ KELPOWER_API XYZPlot PlotRatioaMeanDiffIndependent(double totalSize, double mean
                                                    double minMeanDifference, double maxMeanDifference,
                                                    int directional, double alpha, double stepFraction);
 
+// ---------------------------------------------------------------------------------------------------------------------
+// Multiple linear regression
+// ---------------------------------------------------------------------------------------------------------------------
+//
+// The F test that some predictors add nothing: all of them, or those beyond a reduced model. Arguments shared by this
+// section:
+/// \param sampleSize N, number of cases, at least p + 1, or p + 2 with an intercept; whole numbers are not required.
+///        On surfaces it serves the automatic range, and is checked in any case
+/// \param predictors p, number of predictors of the full model, at least 1
+/// \param testedPredictors q, number of predictors tested, from 1 to p
+/// \param fullModelFit,reducedRSquared where `reducedRSquared` is 0, there is no reduced model and `fullModelFit` is the
+///        multiple correlation R, in (-1, 1); otherwise both are R squared, in (0, 1), the reduced one not the larger
+/// \param effectSize f^2, the variance explained by the tested predictors over the unexplained one; not checked. One
+///        below 0 gives power 1 with fixed predictors and NaN with random ones
+/// \param randomPredictors 0: predictors fixed by design, noncentral F with noncentrality N f^2; otherwise: multivariate
+///        normal predictors, exact distribution of the squared multiple correlation. Charts are drawn more coarsely when
+///        it is exactly 1, and not at other values, which is intended
+/// \param includeIntercept flag: the model has an intercept, so the error degrees of freedom are N - p - 1, not N - p
+/// \param alpha significance level, in (0, 1); one below 5.6e-17 is rejected
+/// \param power wanted power; not checked
+/// \param sampleSizeFrom,sampleSizeTo ends of the sample-size axis, from p (p + 1 with an intercept) to p + 5000; 0 in
+///        either asks for an automatic range
+/// \param step distance of the points on the other axis, above 0
+//
+// Powers for invalid input are -1, charts empty, sizes missing.
+// Method: Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., ch. 9; for random predictors
+// Gurland (1968), J. R. Statist. Soc. B 30, 276-283. docs/regression.md has the formulas.
+
+/// Power for given model fits.
+KELPOWER_API double Powerbymlr(double sampleSize, double predictors, double testedPredictors, double fullModelFit,
+                               double reducedRSquared, int randomPredictors, std::uint8_t includeIntercept,
+                               double alpha);
+
+/// Power for a given effect size.
+KELPOWER_API double PowerbymlrwES(double sampleSize, double predictors, double testedPredictors, double effectSize,
+                                  int randomPredictors, std::uint8_t includeIntercept, double alpha);
+
+/// Sample size, not rounded, at which the test for given model fits reaches a power; missing when none does.
+KELPOWER_API double PowerReversebymlr(double power, double predictors, double testedPredictors, double fullModelFit,
+                                      double reducedRSquared, int randomPredictors, std::uint8_t includeIntercept,
+                                      double alpha);
+
+/// The same for a given effect size.
+KELPOWER_API double PowerReversebymlrwES(double power, double predictors, double testedPredictors, double effectSize,
+                                         int randomPredictors, std::uint8_t includeIntercept, double alpha);
+
+/// Power over the sample size for given model fits, in single precision. Automatic range: p + 1, or p + 2 with an
+/// intercept, to p + 5000. With `randomPredictors` 1 the steps are 5, 10, 20 and 50 from spans of 150, 500, 1000 and
+/// 2000 on, and the last point may lie beyond the end. A reduced model that fits better than the full one gives points
+/// of -1.
+KELPOWER_API XYPlot PlotNmlr(double predictors, double testedPredictors, double fullModelFit, double reducedRSquared,
+                             int randomPredictors, std::uint8_t includeIntercept, double alpha, int sampleSizeFrom,
+                             int sampleSizeTo);
+
+/// The same for a given effect size.
+KELPOWER_API XYPlot PlotNmlrFES(double predictors, double testedPredictors, double effectSize, int randomPredictors,
+                                std::uint8_t includeIntercept, double alpha, int sampleSizeFrom, int sampleSizeTo);
+
+/// Power over f^2, from `step` to below 1, in single precision.
+KELPOWER_API XYPlot PlotESmlr(double sampleSize, double predictors, double testedPredictors, int randomPredictors,
+                              std::uint8_t includeIntercept, double alpha, double step);
+
+/// Power over the multiple correlation R, from -1 + `step` to below 1, in single precision. A `step` that does not
+/// divide 2 leaves out the last point below 1. With `randomPredictors` 1 the step is 0.05.
+KELPOWER_API XYPlot PlotCorrmlr(double sampleSize, double predictors, double testedPredictors, int randomPredictors,
+                                std::uint8_t includeIntercept, double alpha, double step);
+
+/// Power over the sample size and the multiple correlation R, from -1 + `step` to below 1, in single precision.
+/// Automatic range of the sizes: that of `PlotNmlr` with fixed predictors; with random ones max(p + 2, (1 - P) N) to
+/// (2 - P) N, where P is the power at `sampleSize` and the given fits, which serve for nothing else. With
+/// `randomPredictors` 1 the sizes go in steps of 2 from a span of 100 on, and R in steps of 0.05.
+KELPOWER_API XYZPlot PlotNaCorrmlr(double sampleSize, double predictors, double testedPredictors, double fullModelFit,
+                                   double reducedRSquared, int randomPredictors, std::uint8_t includeIntercept,
+                                   double alpha, int sampleSizeFrom, int sampleSizeTo, double step);
+
+/// The same over the sample size and f^2, from `step` to below 1.
+KELPOWER_API XYZPlot PlotNaESmlr(double sampleSize, double predictors, double testedPredictors, double effectSize,
+                                 int randomPredictors, std::uint8_t includeIntercept, double alpha, int sampleSizeFrom,
+                                 int sampleSizeTo, double step);
+
 }  // extern "C"
 
 #endif
