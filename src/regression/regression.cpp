@@ -1,10 +1,11 @@
+#include "regression/regression.h"
+
 #include <cmath>
 
 #include "frame/checks.h"
 #include "frame/root_finders.h"
 #include "kelpower.h"
 #include "regression/multiple_correlation.h"
-#include "regression/regression.h"
 
 namespace kelpower {
 
@@ -60,8 +61,8 @@ double SizeForPower(double power, const RegressionModel& model, const std::optio
   const double lower = model.predictors + 1 + model.Intercept();  // leaves one error degree of freedom
   const double upper = model.predictors + 400;
   return SolveContinuous(
-      lower, upper, kTolerance,
-      [&](double sampleSize) { return RegressionPower(model, sampleSize, effect) - power; }, nullptr);
+      lower, upper, kTolerance, [&](double sampleSize) { return RegressionPower(model, sampleSize, effect) - power; },
+      nullptr);
 }
 
 }  // namespace

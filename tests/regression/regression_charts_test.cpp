@@ -39,8 +39,8 @@ TEST(PlotNmlr, IsCoarseOnlyWhenTheFlagIsOne) {
   const struct {
     int to, random, count;
     double step;
-  } cases[] = {{310, 1, 61, 5},   {159, 1, 150, 1},  {160, 1, 31, 5},   {510, 1, 51, 10}, {1010, 1, 51, 20},
-               {2010, 1, 41, 50}, {310, 2, 301, 1},  {310, -1, 301, 1}, {312, 1, 62, 5}};
+  } cases[] = {{310, 1, 61, 5},   {159, 1, 150, 1}, {160, 1, 31, 5},   {510, 1, 51, 10}, {1010, 1, 51, 20},
+               {2010, 1, 41, 50}, {310, 2, 301, 1}, {310, -1, 301, 1}, {312, 1, 62, 5}};
   for (const auto& expected : cases) {
     const CurveGuard curve{PlotNmlr(4, 4, 0.3, 0, expected.random, 1, 0.05, 10, expected.to)};
     ASSERT_EQ(curve.plot.count, expected.count) << expected.to;
