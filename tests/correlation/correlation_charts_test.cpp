@@ -84,7 +84,7 @@ TEST(SizeDifferenceSurface, ShowsTheLowerHalfOfTheDifferences) {
   const SurfaceGuard wide{PlotNRiskDiffOneSampPearson(20, 0.3, 0.2, 0, 0, 0.05, 10, 1010, 0.5)};
   ASSERT_EQ(wide.plot.xCount, 501);
   ASSERT_EQ(wide.plot.yCount, 3);
-  EXPECT_EQ(wide.plot.y[2], -0.2 + 0.0);
+  EXPECT_NEAR(wide.plot.y[2], -0.2, 1e-15);
   EXPECT_EQ(wide.plot.x[1], 12);
   const SurfaceGuard narrow{PlotNRiskDiffOneSampPearson(20, 0.3, 0.2, 0, 0, 0.05, 10, 1009, 0.5)};
   EXPECT_EQ(narrow.plot.xCount, 1000);
