@@ -669,6 +669,289 @@ KELPOWER_API XYZPlot PlotPropRelSampBionm(double sampleSize, int oneSided, int e
 KELPOWER_API XYZPlot PlotMargPropRelSampBionm(double sampleSize, double correlation, int oneSided, int exact,
                                               double alpha, double step);
 
+// ---------------------------------------------------------------------------------------------------------------------
+// Correlations: Pearson, Spearman, partial
+// ---------------------------------------------------------------------------------------------------------------------
+//
+// The test of one correlation against a null value, on the scale of Fisher's z = atanh(r) with its normal
+// approximation. Arguments shared by this section:
+/// \param sampleSize N, number of cases, whole numbers not required: above 3; for a Spearman power from 3 on; for a
+///        partial correlation above 3 + `partialledOut`. On charts with an axis of sizes it is checked, and serves an
+///        automatic range if there is one
+/// \param partialledOut k, number of variables partialled out, at least 0; whole numbers are not required
+/// \param alternativeCorrelation correlation under the alternative, in [-1, 1]
+/// \param nullCorrelation correlation under the null hypothesis, in [-1, 1]
+/// \param correlation expected sample correlation, the centre of an interval, in (-1, 1); not checked
+/// \param oneSided flag: one-sided test, towards the alternative; downwards where it equals the null
+/// \param adjustBias flag: mean and variance of z to the second order. Power, half-width and charts take only 1 for
+/// yes,
+///        the searches every value but 0; that is intended
+/// \param varianceMethod variance of z of a rank correlation: 0 Bonett and Wright, 1 Fieller, Hartley and Pearson,
+///        2 Caruso and Cliff; any other gives power -1 and half-width 0
+/// \param alpha significance level, in (0, 1), one below 5.6e-17 being rejected; of a half-width: 1 minus the
+/// confidence
+///        level, not checked
+/// \param power wanted power; not checked
+/// \param halfWidth wanted half-width of the confidence interval, on the scale of correlations; not checked
+/// \param stop asked between the steps of a search; may be null
+/// \param sampleSizeFrom,sampleSizeTo ends of the sample-size axis, which differ: from 4 to 5000, both plus
+/// `partialledOut`;
+///        each chart says what a start at 0 does
+/// \param step distance of the points on an axis of correlations or differences, above 0 and at most 0.5
+//
+// Powers for invalid input are -1, charts empty, sizes missing. Chart values are stored in single precision; the axis
+// of correlations goes from -1 to 1, that of differences (alternative - null) from -1 - null to 1 - null. Method:
+// Fisher (1921), Metron 1, 3-32; Hotelling (1953), J. R. Statist. Soc. B 15, 193-232; docs/correlation.md has the
+// formulas and the sources of the variances of rank correlations.
+
+/// Power of the test of a Pearson correlation.
+KELPOWER_API double PowerbyOneSampPearson(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                          int oneSided, std::uint8_t adjustBias, double alpha);
+
+/// Power of the test of a Spearman correlation. At exactly 3 cases methods other than 2 give 1.
+KELPOWER_API double PowerbyOneSampSpearman(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                           int varianceMethod, int oneSided, double alpha);
+
+/// Power of the test of a partial correlation: that of a Pearson correlation with N - k cases and `adjustBias` 1.
+KELPOWER_API double PowerbyOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
+                                          double nullCorrelation, int oneSided, double alpha);
+
+/// Sample size, not rounded, at which the test of a Pearson correlation reaches a power; missing when none does.
+KELPOWER_API double PowerReversebyOneSampPearson(double power, double alternativeCorrelation, double nullCorrelation,
+                                                 int oneSided, std::uint8_t adjustBias, double alpha,
+                                                 StopRequest* stop);
+
+/// Sample size, not rounded, at which the test of a Spearman correlation reaches a power; missing when none does.
+KELPOWER_API double PowerReversebyOneSampSpearman(double power, double alternativeCorrelation, double nullCorrelation,
+                                                  int varianceMethod, int oneSided, double alpha);
+
+/// Sample size, not rounded, at which the test of a partial correlation reaches a power; missing when none does.
+KELPOWER_API double PowerReversebyOneSampPartial(double power, double partialledOut, double alternativeCorrelation,
+                                                 double nullCorrelation, int oneSided, double alpha);
+
+/// Half-width of the confidence interval of a Pearson correlation: half the distance of its ends.
+KELPOWER_API double HalfCIOneSampPearson(double sampleSize, double correlation, std::uint8_t adjustBias, double alpha);
+
+/// Half-width of the confidence interval of a Spearman correlation.
+KELPOWER_API double HalfCIOneSampSpearman(double sampleSize, double correlation, int varianceMethod, double alpha);
+
+/// Half-width of the confidence interval of a partial correlation, never corrected for bias.
+KELPOWER_API double HalfCIOneSampPartial(double sampleSize, double partialledOut, double correlation, double alpha);
+
+/// Sample size, rounded up, at which the interval of a Pearson correlation has a half-width; missing when none has.
+KELPOWER_API double PowerReversebyHalfCIOneSampPearson(double halfWidth, double correlation, std::uint8_t adjustBias,
+                                                       double alpha, StopRequest* stop);
+
+/// Sample size, rounded up, at which the interval of a Spearman correlation has a half-width; missing when none
+/// has.
+KELPOWER_API double PowerReversebyHalfCIOneSampSpearman(double halfWidth, double correlation, int varianceMethod,
+                                                        double alpha, StopRequest* stop);
+
+/// Sample size, rounded up, at which the interval of a partial correlation has a half-width; missing when none has.
+KELPOWER_API double PowerReversebyHalfCIOneSampPartial(double halfWidth, double partialledOut, double correlation,
+                                                       double alpha, StopRequest* stop);
+
+/// Pearson: power over the sample size; a start at 0 is taken as it stands, and the points up to 3 hold -1.
+KELPOWER_API XYPlot PlotNOneSampPearson(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                        int oneSided, std::uint8_t adjustBias, double alpha, int sampleSizeFrom,
+                                        int sampleSizeTo);
+
+/// Pearson: power over the null correlation.
+KELPOWER_API XYPlot PlotNullOneSampPearson(double sampleSize, double alternativeCorrelation, int oneSided,
+                                           std::uint8_t adjustBias, double alpha, double step);
+
+/// Pearson: power over the alternative correlation.
+KELPOWER_API XYPlot PlotAlterOneSampPearson(double sampleSize, double nullCorrelation, int oneSided,
+                                            std::uint8_t adjustBias, double alpha, double step);
+
+/// Pearson: power over the difference of the correlations.
+KELPOWER_API XYPlot PlotRiskDiffOneSampPearson(double sampleSize, double nullCorrelation, int oneSided,
+                                               std::uint8_t adjustBias, double alpha, double step);
+
+/// Pearson: power over the sample size, in steps of 2 from a span of 1000 on, and the lower half of the
+/// differences; no start at 0.
+KELPOWER_API XYZPlot PlotNRiskDiffOneSampPearson(double sampleSize, double alternativeCorrelation,
+                                                 double nullCorrelation, int oneSided, std::uint8_t adjustBias,
+                                                 double alpha, int sampleSizeFrom, int sampleSizeTo, double step);
+
+/// Pearson: power over the sample size and the null correlation; a start at 0 is taken as it stands.
+KELPOWER_API XYZPlot PlotNNullOneSampPearson(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                             int oneSided, std::uint8_t adjustBias, double alpha, int sampleSizeFrom,
+                                             int sampleSizeTo, double step);
+
+/// Pearson: power over the sample size and the alternative correlation; a start at 0 is taken as it stands.
+KELPOWER_API XYZPlot PlotNAlterOneSampPearson(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                              int oneSided, std::uint8_t adjustBias, double alpha, int sampleSizeFrom,
+                                              int sampleSizeTo, double step);
+
+/// Pearson: power over the null correlation (x) and the alternative one (y).
+KELPOWER_API XYZPlot PlotNullAlterOneSampPearson(double sampleSize, int oneSided, std::uint8_t adjustBias, double alpha,
+                                                 double step);
+
+/// Spearman: power over the sample size; no start at 0.
+KELPOWER_API XYPlot PlotNOneSampSpearman(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                         int varianceMethod, int oneSided, double alpha, int sampleSizeFrom,
+                                         int sampleSizeTo);
+
+/// Spearman: power over the null correlation.
+KELPOWER_API XYPlot PlotNullOneSampSpearman(double sampleSize, double alternativeCorrelation, int varianceMethod,
+                                            int oneSided, double alpha, double step);
+
+/// Spearman: power over the alternative correlation.
+KELPOWER_API XYPlot PlotAlterOneSampSpearman(double sampleSize, double nullCorrelation, int varianceMethod,
+                                             int oneSided, double alpha, double step);
+
+/// Spearman: power over the difference of the correlations.
+KELPOWER_API XYPlot PlotRiskDiffOneSampSpearman(double sampleSize, double nullCorrelation, int varianceMethod,
+                                                int oneSided, double alpha, double step);
+
+/// Spearman: power over the sample size, in steps of 2 from a span of 1000 on, and the lower half of the
+/// differences; no start at 0.
+KELPOWER_API XYZPlot PlotNRiskDiffOneSampSpearman(double sampleSize, double alternativeCorrelation,
+                                                  double nullCorrelation, int varianceMethod, int oneSided,
+                                                  double alpha, int sampleSizeFrom, int sampleSizeTo, double step);
+
+/// Spearman: power over the sample size and the null correlation; a start at 0 stands for max(4, (1 - P) N) to (2 -
+/// P) N, where P is the power at N = `sampleSize`.
+KELPOWER_API XYZPlot PlotNNullOneSampSpearman(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                              int varianceMethod, int oneSided, double alpha, int sampleSizeFrom,
+                                              int sampleSizeTo, double step);
+
+/// Spearman: power over the sample size and the alternative correlation; a start at 0 as in
+/// `PlotNNullOneSampSpearman`.
+KELPOWER_API XYZPlot PlotNAlterOneSampSpearman(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                               int varianceMethod, int oneSided, double alpha, int sampleSizeFrom,
+                                               int sampleSizeTo, double step);
+
+/// Spearman: power over the null correlation (x) and the alternative one (y).
+KELPOWER_API XYZPlot PlotNullAlterOneSampSpearman(double sampleSize, int varianceMethod, int oneSided, double alpha,
+                                                  double step);
+
+/// Partial correlation: power over the sample size; a start at 0 stands for k + 4 to k + 5000.
+KELPOWER_API XYPlot PlotNOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
+                                        double nullCorrelation, int oneSided, double alpha, int sampleSizeFrom,
+                                        int sampleSizeTo);
+
+/// Partial correlation: power over the null correlation.
+KELPOWER_API XYPlot PlotNullOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
+                                           int oneSided, double alpha, double step);
+
+/// Partial correlation: power over the alternative correlation.
+KELPOWER_API XYPlot PlotAlterOneSampPartial(double sampleSize, double partialledOut, double nullCorrelation,
+                                            int oneSided, double alpha, double step);
+
+/// Partial correlation: power over the difference of the correlations.
+KELPOWER_API XYPlot PlotRiskDiffOneSampPartial(double sampleSize, double partialledOut, double nullCorrelation,
+                                               int oneSided, double alpha, double step);
+
+/// Partial correlation: power over the sample size, in steps of 2 from a span of 1000 on, and the lower half of the
+/// differences; a start at 0 stands for k + 4 to k + 5000.
+KELPOWER_API XYZPlot PlotNRiskDiffOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
+                                                 double nullCorrelation, int oneSided, double alpha, int sampleSizeFrom,
+                                                 int sampleSizeTo, double step);
+
+/// Partial correlation: power over the sample size and the null correlation; a start at 0 stands for k + 4 to k +
+/// 5000.
+KELPOWER_API XYZPlot PlotNNullOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
+                                             double nullCorrelation, int oneSided, double alpha, int sampleSizeFrom,
+                                             int sampleSizeTo, double step);
+
+/// Partial correlation: power over the sample size and the alternative correlation; a start at 0 stands for k + 4
+/// to k + 5000.
+KELPOWER_API XYZPlot PlotNAlterOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
+                                              double nullCorrelation, int oneSided, double alpha, int sampleSizeFrom,
+                                              int sampleSizeTo, double step);
+
+/// Partial correlation: power over the null correlation (x) and the alternative one (y).
+KELPOWER_API XYZPlot PlotNullAlterOneSampPartial(double sampleSize, double partialledOut, int oneSided, double alpha,
+                                                 double step);
+
+/// Partial correlation: power over the number of variables partialled out, from 0 to N - 5, N truncated.
+KELPOWER_API XYPlot PlotNPartialoutOneSampPartial(double sampleSize, double alternativeCorrelation,
+                                                  double nullCorrelation, int oneSided, double alpha);
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Multiple linear regression
+// ---------------------------------------------------------------------------------------------------------------------
+//
+// The F test that some predictors add nothing: all of them, or those beyond a reduced model. Arguments shared by this
+// section:
+/// \param sampleSize N, number of cases, at least p + 1, or p + 2 with an intercept; whole numbers are not required.
+///        On surfaces it serves the automatic range, and is checked in any case
+/// \param predictors p, number of predictors of the full model, at least 1
+/// \param testedPredictors q, number of predictors tested, from 1 to p
+/// \param fullModelFit,reducedRSquared where `reducedRSquared` is 0, there is no reduced model and `fullModelFit` is
+/// the
+///        multiple correlation R, in (-1, 1); otherwise both are R squared, in (0, 1), the reduced one not the larger
+/// \param effectSize f^2, the variance explained by the tested predictors over the unexplained one; not checked. One
+///        below 0 gives power 1 with fixed predictors and NaN with random ones
+/// \param randomPredictors 0: predictors fixed by design, noncentral F with noncentrality N f^2; otherwise:
+/// multivariate
+///        normal predictors, exact distribution of the squared multiple correlation. Charts are drawn more coarsely
+///        when it is exactly 1, and not at other values, which is intended
+/// \param includeIntercept flag: the model has an intercept, so the error degrees of freedom are N - p - 1, not N - p
+/// \param alpha significance level, in (0, 1); one below 5.6e-17 is rejected
+/// \param power wanted power; not checked
+/// \param sampleSizeFrom,sampleSizeTo ends of the sample-size axis, from p (p + 1 with an intercept) to p + 5000; 0 in
+///        either asks for an automatic range
+/// \param step distance of the points on the other axis, above 0
+//
+// Powers for invalid input are -1, charts empty, sizes missing.
+// Method: Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., ch. 9; for random predictors
+// Gurland (1968), J. R. Statist. Soc. B 30, 276-283. docs/regression.md has the formulas.
+
+/// Power for given model fits.
+KELPOWER_API double Powerbymlr(double sampleSize, double predictors, double testedPredictors, double fullModelFit,
+                               double reducedRSquared, int randomPredictors, std::uint8_t includeIntercept,
+                               double alpha);
+
+/// Power for a given effect size.
+KELPOWER_API double PowerbymlrwES(double sampleSize, double predictors, double testedPredictors, double effectSize,
+                                  int randomPredictors, std::uint8_t includeIntercept, double alpha);
+
+/// Sample size, not rounded, at which the test for given model fits reaches a power; missing when none does.
+KELPOWER_API double PowerReversebymlr(double power, double predictors, double testedPredictors, double fullModelFit,
+                                      double reducedRSquared, int randomPredictors, std::uint8_t includeIntercept,
+                                      double alpha);
+
+/// The same for a given effect size.
+KELPOWER_API double PowerReversebymlrwES(double power, double predictors, double testedPredictors, double effectSize,
+                                         int randomPredictors, std::uint8_t includeIntercept, double alpha);
+
+/// Power over the sample size for given model fits, in single precision. Automatic range: p + 1, or p + 2 with an
+/// intercept, to p + 5000. With `randomPredictors` 1 the steps are 5, 10, 20 and 50 from spans of 150, 500, 1000 and
+/// 2000 on, and the last point may lie beyond the end. A reduced model that fits better than the full one gives points
+/// of -1.
+KELPOWER_API XYPlot PlotNmlr(double predictors, double testedPredictors, double fullModelFit, double reducedRSquared,
+                             int randomPredictors, std::uint8_t includeIntercept, double alpha, int sampleSizeFrom,
+                             int sampleSizeTo);
+
+/// The same for a given effect size.
+KELPOWER_API XYPlot PlotNmlrFES(double predictors, double testedPredictors, double effectSize, int randomPredictors,
+                                std::uint8_t includeIntercept, double alpha, int sampleSizeFrom, int sampleSizeTo);
+
+/// Power over f^2, from `step` to below 1, in single precision.
+KELPOWER_API XYPlot PlotESmlr(double sampleSize, double predictors, double testedPredictors, int randomPredictors,
+                              std::uint8_t includeIntercept, double alpha, double step);
+
+/// Power over the multiple correlation R, from -1 + `step` to below 1, in single precision. A `step` that does not
+/// divide 2 leaves out the last point below 1. With `randomPredictors` 1 the step is 0.05.
+KELPOWER_API XYPlot PlotCorrmlr(double sampleSize, double predictors, double testedPredictors, int randomPredictors,
+                                std::uint8_t includeIntercept, double alpha, double step);
+
+/// Power over the sample size and the multiple correlation R, from -1 + `step` to below 1, in single precision.
+/// Automatic range of the sizes: that of `PlotNmlr` with fixed predictors; with random ones max(p + 2, (1 - P) N) to
+/// (2 - P) N, where P is the power at `sampleSize` and the given fits, which serve for nothing else. With
+/// `randomPredictors` 1 the sizes go in steps of 2 from a span of 100 on, and R in steps of 0.05.
+KELPOWER_API XYZPlot PlotNaCorrmlr(double sampleSize, double predictors, double testedPredictors, double fullModelFit,
+                                   double reducedRSquared, int randomPredictors, std::uint8_t includeIntercept,
+                                   double alpha, int sampleSizeFrom, int sampleSizeTo, double step);
+
+/// The same over the sample size and f^2, from `step` to below 1.
+KELPOWER_API XYZPlot PlotNaESmlr(double sampleSize, double predictors, double testedPredictors, double effectSize,
+                                 int randomPredictors, std::uint8_t includeIntercept, double alpha, int sampleSizeFrom,
+                                 int sampleSizeTo, double step);
+
 }  // extern "C"
 
 #endif

@@ -1,12 +1,18 @@
 #ifndef KELPOWER_FRAME_CHECKS_H
 #define KELPOWER_FRAME_CHECKS_H
 
+#include <cmath>
+
 // The checks that recur across the library. Each is the comparison that rejects, so a NaN passes it and reaches the
 // result instead of being taken for invalid input.
 
 namespace kelpower {
 
 inline bool RejectsAlpha(double alpha) { return alpha >= 1 || alpha <= 0; }
+
+/// Rejects what lies outside the open interval (0, 1), and what is so near 0 that its distance from one half rounds to
+/// one half: 1e-17 is rejected.
+inline bool RejectsOpenUnit(double value) { return std::fabs(value - 0.5) >= 0.5; }
 
 inline bool RejectsStandardDeviation(double sd) { return sd <= 0; }
 
