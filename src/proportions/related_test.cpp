@@ -127,8 +127,6 @@ bool RejectsMarginals(double marginal1, double marginal2) {
   return marginal2 <= 0 || marginal2 >= 1;
 }
 
-bool RejectsCorrelation(double correlation) { return correlation < -1 || correlation > 1; }
-
 RelatedTest::RelatedTest(int oneSided, int exact, double alpha)
     : isOneSided_(oneSided != 0),
       isExact_(exact != 0),

@@ -18,7 +18,6 @@ struct DiscordantPairs {
 };
 
 bool RejectsMarginals(double marginal1, double marginal2);
-bool RejectsCorrelation(double correlation);
 
 /// McNemar's test of two proportions measured on the same subjects, with what its successive calls share: the critical
 /// values of the exact test, and its power given the number of discordant pairs while their odds stay the same.
