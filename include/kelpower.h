@@ -486,6 +486,190 @@ KELPOWER_API XYZPlot PlotRatioaMeanDiffIndependent(double totalSize, double mean
                                                    int directional, double alpha, double stepFraction);
 
 // ---------------------------------------------------------------------------------------------------------------------
+// One proportion
+// ---------------------------------------------------------------------------------------------------------------------
+//
+// Arguments shared by this section:
+/// \param sampleSize number of subjects N, at least 1; the exact test counts successes in whole ones
+/// \param altProportion proportion p1 under the alternative hypothesis, from 0 to 1
+/// \param nullProportion proportion p0 under the null hypothesis, from 0 to 1
+/// \param proportion proportion p of an interval; not checked
+/// \param method 0 for the normal approximation, any other value for the exact binomial test
+/// \param oneSided flag: one-sided in the direction from p0 to p1 (downwards where they are equal), not two-sided
+/// \param alpha significance level, above 0 and below 1; of a half-width: 1 minus the confidence level, not checked
+/// \param continuityCorrection byte flag: corrects the normal approximation and the interval of Wilson by a half
+///        subject. The half-width of Wald's interval is corrected for the value 1 alone, its sample size for any but 0
+/// \param power wanted power; not checked
+/// \param halfWidth wanted half-width of the confidence interval; not checked
+/// \param ciMethod interval: 0 Wald, 1 logit with half a subject added to both counts, 2 logit, 3 Clopper-Pearson,
+///        4 Jeffreys, 5 Wilson, 6 Agresti-Coull
+/// \param minSampleSize,maxSampleSize ends of the sample-size axis, from 0 to 5,000; equal ends only at 0
+/// \param step distance of the proportions along an axis: step, 2 step, ... below 1; above 0, at most 0.5
+/// \param cancel asked before every step of a search, and by the exact power once for each count from its end of the
+///        distribution to the critical value; true gives missing. May be null
+//
+// Invalid input gives -1, an empty chart. The exact power is -2 where a binomial probability has no value (a NaN
+// proportion), and missing for sizes above 2,147,483,647. Chart values are in single precision; a chart point with
+// invalid input is -1.
+// Method: Fleiss, J. L., Levin, B. and Paik, M. C. (2003), Statistical Methods for Rates and Proportions, 3rd ed.,
+// ch. 2, and exact binomial tails; docs/proportions.md has the formulas and the sources of the intervals.
+
+/// Power of the test of one proportion.
+KELPOWER_API double PowerOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
+                                      int oneSided, double alpha, std::uint8_t continuityCorrection,
+                                      StopRequest* cancel);
+
+/// Sample size at which the test reaches a power: not rounded for the normal approximation; for the exact test the
+/// smallest whole one that its search finds, which larger ones can miss, because that power is not monotone. The power
+/// functions accept equal proportions; here they are invalid, as any within 1e-14. Missing when no size has the power.
+KELPOWER_API double PowerReverseOneSampBinom(double power, double altProportion, double nullProportion, int method,
+                                             int oneSided, double alpha, std::uint8_t continuityCorrection,
+                                             StopRequest* cancel);
+
+/// Half-width of the confidence interval of a proportion. Nothing is checked; 0 for an unknown method.
+KELPOWER_API double HalfCIOneSampBinom(double sampleSize, double proportion, int ciMethod, double alpha,
+                                       std::uint8_t continuityCorrection);
+
+/// Sample size, not rounded, at which the interval has a half-width. Nothing is checked; 400 for an unknown method.
+KELPOWER_API double PowerReversebyHalfCIOneSampBinom(double halfWidth, double proportion, int ciMethod, double alpha,
+                                                     std::uint8_t continuityCorrection, StopRequest* cancel);
+
+/// Power against sample size. There is no automatic range; `sampleSize` is only checked.
+KELPOWER_API XYPlot PlotNOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
+                                      int oneSided, double alpha, int minSampleSize, int maxSampleSize,
+                                      std::uint8_t continuityCorrection);
+
+/// Power against the null proportion.
+KELPOWER_API XYPlot PlotNullOneSampBinom(double sampleSize, double altProportion, int method, int oneSided,
+                                         double alpha, std::uint8_t continuityCorrection, double step);
+
+/// Power against the alternative proportion.
+KELPOWER_API XYPlot PlotAlterOneSampBinom(double sampleSize, double nullProportion, int method, int oneSided,
+                                          double alpha, std::uint8_t continuityCorrection, double step);
+
+/// Power against the difference p1 - p0, from step - p0 in steps of `step`.
+KELPOWER_API XYPlot PlotRiskDiffOneSampBionm(double sampleSize, double nullProportion, int method, int oneSided,
+                                             double alpha, std::uint8_t continuityCorrection, double step);
+
+/// Power over sample size (x) and the difference p1 - p0 (y). An end of 0 of the sizes asks for a range around the
+/// design, from (1 - power) N to (2 - power) N.
+KELPOWER_API XYZPlot PlotNRiskDiffOneSampBinom(double sampleSize, double altProportion, double nullProportion,
+                                               int method, int oneSided, double alpha, int minSampleSize,
+                                               int maxSampleSize, std::uint8_t continuityCorrection, double step);
+
+/// Power over sample size (x) and null proportion (y); sizes as above.
+KELPOWER_API XYZPlot PlotNNullOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
+                                           int oneSided, double alpha, int minSampleSize, int maxSampleSize,
+                                           std::uint8_t continuityCorrection, double step);
+
+/// Power over sample size (x) and alternative proportion (y); sizes as above.
+KELPOWER_API XYZPlot PlotNAlterOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
+                                            int oneSided, double alpha, int minSampleSize, int maxSampleSize,
+                                            std::uint8_t continuityCorrection, double step);
+
+/// Power over null (x) and alternative proportion (y).
+KELPOWER_API XYZPlot PlotNullAlterOneSampBinom(double sampleSize, int method, int oneSided, double alpha,
+                                               std::uint8_t continuityCorrection, double step);
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Two related proportions
+// ---------------------------------------------------------------------------------------------------------------------
+//
+// Arguments shared by this section:
+/// \param sampleSize number of pairs N, at least 2; the exact test counts discordant pairs in whole ones
+/// \param discordant12,discordant21 probabilities of the two kinds of discordant pairs (success first, failure second,
+///        and the reverse), at least 0, with a sum of at most 1
+/// \param discordantCount12,discordantCount21 the same as expected counts, at least 0, with a sum of at most N
+/// \param marginal1,marginal2 success proportions of the two measures, above 0 and below 1
+/// \param marginalCount1,marginalCount2 the same as expected counts, above 0 and below N
+/// \param correlation correlation of the two outcomes, from -1 to 1
+/// \param oneSided flag: one-sided in the direction of the difference, not two-sided
+/// \param exact 0 for the large-sample test, any other value for the exact sign test of the discordant pairs
+/// \param alpha significance level, above 0 and below 1; of a half-width: 1 minus the confidence level, not checked
+/// \param continuityCorrection byte flag: corrects Wald's interval; its half-width for the value 1 alone, its sample
+///        size for any but 0
+/// \param power wanted power; not checked
+/// \param halfWidth wanted half-width of the confidence interval of p12 - p21; not checked
+/// \param ciMethod interval: 0 Wald, 1 Agresti-Min, 2 Bonett-Price
+/// \param minSampleSize,maxSampleSize ends of the sample-size axis, from 0 to 2,500
+/// \param minRatio,maxRatio ends of the ratio axis; 0 in either asks for the widest range of the design, up to 3
+/// \param step distance of the points along an axis, above 0; of the ratio axes as a fraction of their range
+/// \param cancel asked before every step of a search and by the exact power once for each number of discordant pairs;
+///        true gives missing. May be null
+//
+// Invalid input gives -1, an empty chart. The exact power is -2 where a binomial probability has no value (no
+// discordant pairs, a NaN probability), and missing for sizes above 2,147,483,647. Chart values are in single
+// precision; a chart point with invalid input is -1.
+// Method: Connor, R. J. (1987), Sample size for testing differences in proportions for the paired-sample design,
+// Biometrics 43, 207-211; docs/proportions.md has the formulas and the exact test.
+
+/// Power of McNemar's test for given probabilities of discordant pairs.
+KELPOWER_API double PowerbyPRelSampBionm(double sampleSize, double discordant12, double discordant21, int oneSided,
+                                         int exact, double alpha, StopRequest* cancel);
+
+/// The same for given counts of discordant pairs.
+KELPOWER_API double PowerbyCRelSampBionm(double sampleSize, double discordantCount12, double discordantCount21,
+                                         int oneSided, int exact, double alpha);
+
+/// The same for given marginal proportions and their correlation. Probabilities within 1e-14 of 0 that come out of them
+/// are 0.
+KELPOWER_API double PowerbyMargPRelSampBionm(double sampleSize, double marginal1, double marginal2, double correlation,
+                                             int oneSided, int exact, double alpha);
+
+/// The same for given marginal counts and their correlation.
+KELPOWER_API double PowerbyMargCRelSampBionm(double sampleSize, double marginalCount1, double marginalCount2,
+                                             double correlation, int oneSided, int exact, double alpha);
+
+/// Number of pairs at which the test reaches a power: not rounded for the large-sample test, the smallest whole one
+/// that the search finds for the exact test. Nothing is checked; missing when no size has the power.
+KELPOWER_API double PowerReversebyPRelSampBionm(double power, double discordant12, double discordant21, int oneSided,
+                                                int exact, double alpha, StopRequest* cancel);
+
+/// The same for given marginal proportions and their correlation, which are checked.
+KELPOWER_API double PowerReversebyMargPRelSampBionm(double power, double marginal1, double marginal2,
+                                                    double correlation, int oneSided, int exact, double alpha,
+                                                    StopRequest* cancel);
+
+/// Half-width of the confidence interval of p12 - p21. Nothing is checked; 0 for an unknown method.
+KELPOWER_API double HalfCIRelSampBinom(double sampleSize, double discordant12, double discordant21, int ciMethod,
+                                       double alpha, std::uint8_t continuityCorrection);
+
+/// Number of pairs at which the interval has a half-width, rounded up. Nothing is checked.
+KELPOWER_API double PowerReversebyHalfCIRelSampBinom(double halfWidth, double discordant12, double discordant21,
+                                                     int ciMethod, double alpha, std::uint8_t continuityCorrection,
+                                                     StopRequest* cancel);
+
+/// Power against the number of pairs. There is no automatic range.
+KELPOWER_API XYPlot PlotNRelSampBionm(double sampleSize, double discordant12, double discordant21, int minSampleSize,
+                                      int maxSampleSize, int oneSided, int exact, double alpha);
+
+/// Power against the difference p12 - p21 for a given p12, in steps of `step` times 1 - p12.
+KELPOWER_API XYPlot PlotRiskDiffRelSampBionm(double sampleSize, double discordant12, int oneSided, int exact,
+                                             double alpha, double step);
+
+/// Power against the ratio p12 / p21. Up to p12 = 0.5 it moves p21 and the lowest ratio is p12 / (1 - p12); above, it
+/// moves p12 and the highest is (1 - p21) / p21. No ratio is below 0.1 or above 10.
+KELPOWER_API XYPlot PlotRiskRatioRelSampBionm(double sampleSize, double discordant12, double discordant21,
+                                              double minRatio, double maxRatio, int oneSided, int exact, double alpha,
+                                              double step);
+
+/// Power against the odds ratio of p12 to p21, which moves p21. It starts no lower than the square of the odds of p12
+/// and ends at most 10 above that.
+KELPOWER_API XYPlot PlotOddsRatioRelSampBionm(double sampleSize, double discordant12, double minRatio, double maxRatio,
+                                              int oneSided, int exact, double alpha, double step);
+
+/// Power against the correlation, from -1 to the largest that the marginal proportions allow.
+KELPOWER_API XYPlot PlotCorrRelSampBionm(double sampleSize, double marginal1, double marginal2, int oneSided, int exact,
+                                         double alpha, double step);
+
+/// Power over p12 (x) and p21 (y); 0 where they are equal or their sum exceeds 1.
+KELPOWER_API XYZPlot PlotPropRelSampBionm(double sampleSize, int oneSided, int exact, double alpha, double step);
+
+/// Power over the marginal proportions (x and y), whose correlation lies inside (-1, 1); 0 where their sum exceeds 1.
+KELPOWER_API XYZPlot PlotMargPropRelSampBionm(double sampleSize, double correlation, int oneSided, int exact,
+                                              double alpha, double step);
+
+// ---------------------------------------------------------------------------------------------------------------------
 // Correlations: Pearson, Spearman, partial
 // ---------------------------------------------------------------------------------------------------------------------
 //

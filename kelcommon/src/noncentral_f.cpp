@@ -78,7 +78,7 @@ double CumulativeOverMass(double k, double m) {
 }
 
 double Combine(double sum, const ScaledValue& first, const ScaledValue& second) {
-  return sum * static_cast<double>(std::exp(first.exponent + second.exponent) * first.factor * second.factor);
+  return static_cast<double>(sum * std::exp(first.exponent + second.exponent) * first.factor * second.factor);
 }
 
 // Form (2), upwards from the first k that matters.
@@ -177,6 +177,9 @@ public:
     const long double r = 1 - t0;
     const long double q = 1 + c * t0;
     const long double peak = -a * Log1pMinusArg(-t0) + m * t0 * t0 / r - b * Log1pMinusArg(c * t0) + mean * t0;
+    // The integral's other factors are of the order of 1: such a tail underflows, as does one so far out that even
+    // extended precision overflows on the way.
+    if (!(peak > -800)) return 0;
     const long double scale = 1 / std::sqrt(Curvature(t0));
     const long double slope = Slope(t0);
     const long double smallerShape = std::min(a + m, b);
@@ -200,7 +203,6 @@ public:
     }
     const long double pi = 3.14159265358979323846L;
     const long double tail = std::exp(peak) * sum * stepWidth * scale / (std::fabs(t0) * pi);
-    // So far out that even extended precision overflows on the way, the tail is 0.
     return tail > 0 ? static_cast<double>(std::fmin(tail, 1.0L)) : 0;
   }
 

@@ -20,8 +20,6 @@ double CorrelationLevel::Power(double shift, double spread, bool isAbove) const 
   return isAbove ? above() : below();
 }
 
-bool RejectsCorrelation(double correlation) { return std::fabs(correlation) > 1; }
-
 double FisherDifference(double alternative, double null) {
   constexpr double kLargest = std::numeric_limits<double>::max();
   if (std::fabs(alternative) < 1 && std::fabs(null) < 1) return InvTanh(alternative) - InvTanh(null);

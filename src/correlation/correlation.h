@@ -62,8 +62,6 @@ private:
   int varianceMethod_;
 };
 
-bool RejectsCorrelation(double correlation);
-
 /// The difference of Fisher's z of two correlations. Where either is 1 or -1 it is the largest double with its sign,
 /// positive where both are 1 or both are -1; that is intended.
 double FisherDifference(double alternative, double null);

@@ -14,6 +14,8 @@ inline bool RejectsAlpha(double alpha) { return alpha >= 1 || alpha <= 0; }
 /// one half: 1e-17 is rejected.
 inline bool RejectsOpenUnit(double value) { return std::fabs(value - 0.5) >= 0.5; }
 
+inline bool RejectsCorrelation(double correlation) { return std::fabs(correlation) > 1; }
+
 inline bool RejectsStandardDeviation(double sd) { return sd <= 0; }
 
 /// A range of sample sizes may start at 0, which asks for the automatic range, or at 2 and above, never at 1.

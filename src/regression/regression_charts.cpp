@@ -76,7 +76,7 @@ std::optional<Axis> SurfaceSizes(const RegressionModel& model, SizeRange range, 
 std::optional<Axis> InnerAxis(double steps, double start, double step) {
   if (!(step > 0)) return std::nullopt;
   std::optional<Axis> axis = CountedAxis(steps - 1, start, step);
-  if (axis) axis->first = 1;
+  if (axis) axis->firstIndex = 1;
   return axis;
 }
 
