@@ -4,7 +4,7 @@
 
 #include "kelcommon/kel_dist_fun.h"
 #include "kelpower.h"
-#include "regression/stated_series.h"
+#include "stated_series.h"
 
 namespace {
 
