@@ -670,6 +670,121 @@ KELPOWER_API XYZPlot PlotMargPropRelSampBionm(double sampleSize, double correlat
                                               double alpha, double step);
 
 // ---------------------------------------------------------------------------------------------------------------------
+// Proportions of two independent samples
+// ---------------------------------------------------------------------------------------------------------------------
+//
+// Arguments shared by this section:
+/// \param sampleSize1,sampleSize2 group sizes N1 and N2, in subjects, at least 0.999999999999; need not be whole
+/// \param totalSampleSize N1 + N2, at least 2
+/// \param proportion1,proportion2 proportions p1 and p2 under the alternative, above 0 and below 1
+/// \param exact flag: by enumeration of all tables; 0 for the large-sample formula
+/// \param method 0 z test, 1 t test, 2 likelihood-ratio test, every other value the arcsine test (large-sample) or
+///        the conditional test (exact)
+/// \param oneSided flag: one-sided, in the direction in which p1 and p2 differ, instead of two-sided
+/// \param alpha significance level, above 0 and below 1; of a half-width: 1 minus the confidence level
+/// \param continuityCorrection flag of the z test and of some intervals
+/// \param pooledVariance flag: the z test's standard error under equal proportions (large-sample only); the t test's
+///        pooled variance
+/// \param cancel ends a long exact computation or a search with missing; may be null. An exact test asks it once a
+///        table, the conditional test once a total
+/// \param sampleSizes the caller's vector, which receives N1 and N2
+/// \param sizeRatio N2 / N1, above 0; not checked
+/// \param power wanted power; not checked
+/// \param halfWidth wanted half-width; not checked
+/// \param ciMethod 0 Wald; 1 Agresti-Caffo, one success and one failure added; 2 the same with N + 3 as divisor; 3 half
+///        a success and half a failure added; 4 divisor N - 1 with half a unit of a group's size added; 5 Newcombe's
+///        combined score intervals
+/// \param step step of an axis, as stated with each chart; above 0, at most 0.5
+//
+// An invalid design has power -1, an error of the binomial distribution inside an exact test -2, a cancelled
+// computation missing. Checks let NaN through: in an exact test a NaN size or level then rejects no table, power 0.
+// Exact tests of groups above 2^31 - 1 are missing. Charts store single precision; invalid input gives an empty one.
+// Methods and sources: docs/proportions-independent.md.
+
+/// Power of a test of p1 = p2. The t test needs N1 + N2 > 2, the large-sample arcsine test at least half a subject in
+/// the rarer outcome of either group.
+///
+/// Exact z, t and likelihood-ratio tests take time in proportion to N1 + N2 (with `cancel`, to the N1 N2 questions it
+/// is asked), the conditional test to N1 N2.
+/// \return the power; -1, -2 or missing as above
+KELPOWER_API double PowerIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, double proportion2,
+                                      int exact, int method, int oneSided, double alpha,
+                                      std::uint8_t continuityCorrection, std::uint8_t pooledVariance,
+                                      StopRequest* cancel);
+
+/// Group sizes at which a test reaches a power: N1 rounded up, N2 = sizeRatio N1 rounded up, both at least 1.
+///
+/// With `exact` = 1 whole sizes whose exact power reaches the wanted one, with N2 rounded to the nearest; the search of
+/// method 3 ends by the z test and that of method 4 starts by it. Both sizes are missing when the power cannot be
+/// reached and when `cancel` answers true. An unreachable power makes an exact search go on to groups of 2^31: at once
+/// for methods 0 to 2, but without practical end for the conditional test, and for every method with a `cancel` that
+/// never answers true.
+/// \param sampleSizes must be empty, else nothing is done
+KELPOWER_API void PowerReverseIndSampBinom(double power, double proportion1, double proportion2,
+                                           DoubleVector& sampleSizes, double sizeRatio, int exact, int method,
+                                           int oneSided, double alpha, std::uint8_t continuityCorrection,
+                                           std::uint8_t pooledVariance, StopRequest* cancel);
+
+/// Half-width of the confidence interval of p1 - p2. Nothing is checked.
+/// \param continuityCorrection Wald's method corrects for exactly 1, Newcombe's for every non-zero value
+/// \return half of the interval's length; 0 for an unknown method
+KELPOWER_API double HalfCIIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, double proportion2,
+                                       int ciMethod, double alpha, std::uint8_t continuityCorrection);
+
+/// Group sizes at which that interval has a half-width: N1 rounded up, N2 = sizeRatio N1 rounded up and at least 2.
+/// Earlier content of `sampleSizes` is discarded. Both are missing when the half-width is not reached.
+/// \param continuityCorrection every non-zero value corrects, for Wald's method too
+KELPOWER_API void PowerReversebyHalfCIIndSampBinom(double halfWidth, double proportion1, double proportion2,
+                                                   DoubleVector& sampleSizes, double sizeRatio, int ciMethod,
+                                                   double alpha, std::uint8_t continuityCorrection,
+                                                   StopRequest* cancel);
+
+/// Surface of power over N1 (x) and N2 (y): every whole size, every fifth from 251 sizes on, every tenth from 1002 on.
+///
+/// The large-sample arcsine test takes ends of 0, 2 and 2500 for automatic: from where it is valid to the planned size
+/// beyond that. Other tests take ends as they are.
+/// \param minSampleSize1,maxSampleSize1 ends of the N1 axis; the lower is not below 0 and not 1 but for arcsine
+/// \param minSampleSize2,maxSampleSize2 ends of the N2 axis, likewise
+KELPOWER_API XYZPlot PlotNIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, double proportion2,
+                                       int exact, int method, int oneSided, double alpha,
+                                       std::uint8_t continuityCorrection, std::uint8_t pooledVariance,
+                                       int minSampleSize1, int maxSampleSize1, int minSampleSize2, int maxSampleSize2);
+
+/// Surface of power over p1 (x) and p2 (y), both step, 2 step, ... below 1. The given proportions are only checked.
+KELPOWER_API XYZPlot PlotPropIndSampBinom(double sampleSize1, double sampleSize2, double proportion1,
+                                          double proportion2, int exact, int method, int oneSided, double alpha,
+                                          std::uint8_t continuityCorrection, std::uint8_t pooledVariance, double step);
+
+/// Power over the ratio N2 / N1 of groups that share a total; sizes are not rounded.
+/// \param minRatio,maxRatio ends, from 1 / (N - 1) to N - 1; 0 in either asks for the whole range without its ends
+/// \param step as a fraction of the range
+KELPOWER_API XYPlot PlotNRatioIndSampBinom(double totalSampleSize, double proportion1, double proportion2, int exact,
+                                           int method, int oneSided, double alpha, std::uint8_t continuityCorrection,
+                                           std::uint8_t pooledVariance, double minRatio, double maxRatio, double step);
+
+/// Power over the risk difference p1 - p2: p1 - 1 + step, p1 - 1 + 2 step, ...
+KELPOWER_API XYPlot PlotRiskDiffIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, int exact,
+                                             int method, int oneSided, double alpha,
+                                             std::uint8_t continuityCorrection, std::uint8_t pooledVariance,
+                                             double step);
+
+/// Power over the risk ratio p1 / p2.
+/// \param minRatio,maxRatio ends; the lower above p1, or 0 to start one step above p1; the upper at most 10
+/// \param step as a fraction of maxRatio - minRatio
+KELPOWER_API XYPlot PlotRiskRatioIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, int exact,
+                                              int method, int oneSided, double alpha,
+                                              std::uint8_t continuityCorrection, std::uint8_t pooledVariance,
+                                              double minRatio, double maxRatio, double step);
+
+/// Power over the odds ratio of p1 to p2.
+/// \param minRatio,maxRatio ends; the lower at least 0.1, or 0 to start at one third; the upper at most 10
+/// \param step as a fraction of the range
+KELPOWER_API XYPlot PlotOddsRatioIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, int exact,
+                                              int method, int oneSided, double alpha,
+                                              std::uint8_t continuityCorrection, std::uint8_t pooledVariance,
+                                              double minRatio, double maxRatio, double step);
+
+// ---------------------------------------------------------------------------------------------------------------------
 // Correlations: Pearson, Spearman, partial
 // ---------------------------------------------------------------------------------------------------------------------
 //

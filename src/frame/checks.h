@@ -18,6 +18,9 @@ inline bool RejectsCorrelation(double correlation) { return std::fabs(correlatio
 
 inline bool RejectsStandardDeviation(double sd) { return sd <= 0; }
 
+/// The bounds -1 and 1 are allowed.
+inline bool RejectsCorrelation(double correlation) { return correlation < -1 || correlation > 1; }
+
 /// A range of sample sizes may start at 0, which asks for the automatic range, or at 2 and above, never at 1.
 inline bool RejectsSizeRange(int from, int to) { return from > to || from < 0 || from == 1 || to < 0 || to == 1; }
 
