@@ -14,8 +14,6 @@ inline bool RejectsAlpha(double alpha) { return alpha >= 1 || alpha <= 0; }
 /// one half: 1e-17 is rejected.
 inline bool RejectsOpenUnit(double value) { return std::fabs(value - 0.5) >= 0.5; }
 
-inline bool RejectsCorrelation(double correlation) { return std::fabs(correlation) > 1; }
-
 inline bool RejectsStandardDeviation(double sd) { return sd <= 0; }
 
 /// The bounds -1 and 1 are allowed.
