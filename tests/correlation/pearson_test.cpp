@@ -16,6 +16,7 @@ using KelMath::KelDistFun;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr std::uint8_t kFlags[] = {0, 1};
 
 /// Answers true to its `last`th question.
 class StopAt : public StopRequest {
@@ -76,7 +77,7 @@ TEST(PowerbyOneSampPearson, OfEqualCorrelationsIsAlpha) {
 
 TEST(PowerbyOneSampPearson, IsSymmetricInTheSigns) {
   for (const int oneSided : {0, 1}) {
-    for (const std::uint8_t adjustBias : {0, 1}) {
+    for (const std::uint8_t adjustBias : kFlags) {
       EXPECT_NEAR(PowerbyOneSampPearson(30, 0.5, 0.1, oneSided, adjustBias, 0.05),
                   PowerbyOneSampPearson(30, -0.5, -0.1, oneSided, adjustBias, 0.05), 1e-15);
     }
@@ -84,7 +85,7 @@ TEST(PowerbyOneSampPearson, IsSymmetricInTheSigns) {
 }
 
 TEST(PowerbyOneSampPearson, GrowsWithSizeEffectAndAlpha) {
-  for (const std::uint8_t adjustBias : {0, 1}) {
+  for (const std::uint8_t adjustBias : kFlags) {
     double last = 0;
     for (double n = 4; n < 100; n += 1.5) {
       EXPECT_GT(PowerbyOneSampPearson(n, 0.4, 0.1, 0, adjustBias, 0.05), last);
@@ -135,7 +136,7 @@ TEST(AdjustBias, IsReadDifferentlyByPowersAndSearches) {
 
 TEST(PowerReversebyOneSampPearson, GivesTheSizeThatReachesTheTarget) {
   for (const int oneSided : {0, 1}) {
-    for (const std::uint8_t adjustBias : {0, 1}) {
+    for (const std::uint8_t adjustBias : kFlags) {
       for (const double target : {0.2, 0.8, 0.99}) {
         const double n = PowerReversebyOneSampPearson(target, 0.25, 0.1, oneSided, adjustBias, 0.05, nullptr);
         EXPECT_NE(n, std::floor(n));
