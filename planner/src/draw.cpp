@@ -17,7 +17,7 @@ namespace {
 constexpr double mostPoints = 1e6;
 constexpr double largestUsualTotal = 1e5;
 
-constexpr double usualStep = 0.02;
+constexpr double usualStep = 0.01;
 const Limits stepLimits{0.001, 1, true, true, false};
 
 const std::vector<std::string> askers{"power", "interval", "half-width"};
@@ -105,7 +105,7 @@ void CheckCount(const Chart& chart, const char* name, const Numbers& ends) {
 
 Range UsualRange(const Axis& axis, const Inputs& inputs) {
   if (axis.limits.whole && axis.design(inputs) > largestUsualTotal) {
-    throw InputError(fmt::format("A design of more than {} has no usual range: also give --from and --to.",
+    throw InputError(fmt::format("A design of more than {} observations has no usual range: also give --from and --to.",
                                  Shortest(largestUsualTotal)));
   }
   return axis.usual ? axis.usual(inputs) : Range{};
