@@ -132,8 +132,8 @@ void CheckRequest(const Chart& chart, const ChartRequest& request) {
     throw InputError(fmt::format("--step has no use with --chart {}: sizes go by ones.", chart.name));
   }
   if (!stepLimits.Allow(*request.step)) {
-    throw InputError(fmt::format("--step is {}, but must be {}: a share of the range.", Shortest(*request.step),
-                                 stepLimits.Text()));
+    throw InputError(
+        fmt::format("--step is {}, but must be {}: a share of the range.", Shortest(*request.step), stepLimits.Text()));
   }
 }
 
@@ -145,8 +145,8 @@ void CheckPoints(const Chart& chart, const Ranges& ranges) {
   double points = Points(chart.axes[0], ranges.x, ranges.step);
   if (chart.axes.size() > 1) points *= Points(chart.axes[1], ranges.y, ranges.step);
   if (points <= mostPoints) return;
-  throw InputError(fmt::format("The range has more than {} points: bring --from and --to closer together.",
-                               Shortest(mostPoints)));
+  throw InputError(
+      fmt::format("The range has more than {} points: bring --from and --to closer together.", Shortest(mostPoints)));
 }
 
 Ranges RangesOf(const Chart& chart, const ChartRequest& request, const Inputs& inputs) {
@@ -157,15 +157,21 @@ Ranges RangesOf(const Chart& chart, const ChartRequest& request, const Inputs& i
   return ranges;
 }
 
-[[noreturn]] void RejectEmpty(const Chart& chart, const ChartRequest& request) {
+/// A single point, and points without a power, make no chart.
+bool CanBeDrawn(const Series& series) {
+  const auto isPresent = [](double power) { return !std::isnan(power); };
+  return series.x.size() > 1 && std::any_of(series.power.begin(), series.power.end(), isPresent);
+}
+
+[[noreturn]] void RejectEmpty(const Chart& chart, const ChartRequest& request, const Series& series) {
   if (request.from.empty()) {
-    throw InputError(fmt::format("--chart {} has no usual range for these inputs: also give --from and --to.",
-                                 chart.name));
+    throw InputError(
+        fmt::format("--chart {} has no usual range for these inputs: also give --from and --to.", chart.name));
   }
+  if (!series.power.empty()) throw InputError("The test has no power anywhere between --from and --to.");
   std::vector<std::string> allowed;
   for (const Axis& axis : chart.axes) allowed.push_back(axis.title + " " + axis.limits.Text());
-  throw InputError(
-      fmt::format("--from and --to leave nothing to draw; allowed are: {}.", Joined(allowed, " and ")));
+  throw InputError(fmt::format("--from and --to leave nothing to draw; allowed are: {}.", Joined(allowed, " and ")));
 }
 
 bool Within(const Numbers& values, double value) {
@@ -205,7 +211,7 @@ Picture Draw(const Test& test, const ChartRequest& request, const Given& given) 
   CheckConditions(test, inputs);
   const Ranges ranges = RangesOf(chart, request, inputs);
   Picture picture{&test, &chart, chart.call(inputs, ranges), std::nullopt};
-  if (picture.series.power.empty()) RejectEmpty(chart, request);
+  if (!CanBeDrawn(picture.series)) RejectEmpty(chart, request, picture.series);
   picture.mark = MarkOf(test, chart, picture.series, inputs, given);
   return picture;
 }

@@ -67,8 +67,9 @@ std::string Frame(const Picture& picture, const Canvas& canvas) {
   std::string text = "set terminal " + canvas.terminal + "\nset encoding utf8\nset datafile missing 'NaN'\n";
   text += fmt::format("set title \"{}\"\nset xlabel \"{}\"\n", picture.test->title, picture.chart->axes[0].title);
   if (!canvas.characters) {
-    text += "set border 3 lc rgb '#555555'\nset tics nomirror\nset grid lc rgb '#dddddd' lt 1\n"
-            "set style textbox opaque noborder fillcolor rgb '#ffffff' margins 0.4,0.3\n";
+    text +=
+        "set border 3 lc rgb '#555555'\nset tics nomirror\nset grid lc rgb '#dddddd' lt 1\n"
+        "set style textbox opaque noborder fillcolor rgb '#ffffff' margins 0.4,0.3\n";
   }
   return text + "set key off\n";
 }
@@ -91,7 +92,7 @@ std::string LinesInCharacters() {
                         levels[i]);
     plot += fmt::format("{} $level{} using 1:2 with lines title 'power {}'", i == 0 ? "" : ",", i, levels[i]);
   }
-  return text + "set key outside\nplot" + plot + "\n";
+  return text + "set key outside\nunset ylabel\nplot" + plot + "\n";
 }
 
 /// Shades of power with labelled lines of equal power.
@@ -99,7 +100,7 @@ std::string Shades() {
   std::string text;
   for (double level : levels) text += fmt::format("{}{}", text.empty() ? "" : ",", level);
   return "set contour base\nset cntrparam levels discrete " + text +
-         "\nset view map\nset pm3d map interpolate 2,2\nset cbrange [0:1]\nset cblabel \"power\"\n"
+         "\nset view map\nset pm3d map\nset cbrange [0:1]\nset cblabel \"power\"\n"
          "set border 15\nunset grid\nset palette defined (0 '#f7fbff', 0.5 '#c6dbef', 0.8 '#9ecae1', 1 '#5a9bcb')\n"
          "set lmargin at screen 0.1\nset rmargin at screen 0.84\n"
          "set tmargin at screen 0.9\nset bmargin at screen 0.13\n"
@@ -111,9 +112,13 @@ std::string Shades() {
 std::string SurfaceCommands(const Picture& picture, const Canvas& canvas) {
   const Series& series = picture.series;
   std::string text = SurfaceData(series) + Frame(picture, canvas);
-  text += fmt::format("set ylabel \"{}\"\nset xrange [{:.9g}:{:.9g}]\nset yrange [{:.9g}:{:.9g}]\n",
-                      picture.chart->axes[1].title, series.x.front(), series.x.back(), series.y.front(),
-                      series.y.back());
+  text +=
+      fmt::format("set ylabel \"{}\"\nset xrange [{:.9g}:{:.9g}]\nset yrange [{:.9g}:{:.9g}]\n",
+                  picture.chart->axes[1].title, series.x.front(), series.x.back(), series.y.front(), series.y.back());
+  if (canvas.characters) {
+    // An upright title does not fit beside a drawing in characters.
+    text += fmt::format("set title \"{}\\nupwards: {}\"\n", picture.test->title, picture.chart->axes[1].title);
+  }
   text += Mark(picture, canvas, picture.mark ? picture.mark->at[1] : 0);
   return text + (canvas.characters ? LinesInCharacters() : Shades());
 }

@@ -73,7 +73,8 @@ std::string ChartUsage(const Chart& chart) {
 std::string ChartSection(const Test& test, const Paint& paint) {
   if (test.charts.empty()) return "";
   std::string text = fmt::format("\n{}Charts{}\n", paint.heading, paint.end);
-  for (const Chart& chart : test.charts) text += fmt::format("  {}\n    kelpower {}\n", ChartUsage(chart), chart.example);
+  for (const Chart& chart : test.charts)
+    text += fmt::format("  {}\n    kelpower {}\n", ChartUsage(chart), chart.example);
   return text +
          "  --from NUMBER --to NUMBER  ends of the axis; of two axes, two numbers each: --from 12,2\n"
          "  --step NUMBER              step of an axis that is not of sizes, as a share of its range (default 0.01)\n"

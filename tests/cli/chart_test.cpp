@@ -66,6 +66,14 @@ TEST(Chart, IsDrawnInCharacters) {
   }
 }
 
+TEST(Chart, InCharactersNamesBothAxesOfASurface) {
+  const Outcome run = RunProgram(Words(design + " --chart n-sd --from 12,2 --to 150,12"));
+  EXPECT_TRUE(Holds(run.out, "upwards: standard deviation")) << run.out;
+  for (const char* level : {"power 0.5 ", "power 0.8 ", "power 0.9 ", "power 0.95"}) {
+    EXPECT_TRUE(Holds(run.out, level)) << run.out;
+  }
+}
+
 TEST_F(ChartFiles, HoldTitlesAndMark) {
   const std::string svg = Written(design + " --chart n", "curve.svg");
   EXPECT_EQ(svg.rfind("<?xml", 0), 0u);
@@ -101,8 +109,7 @@ TEST_F(ChartFiles, NeedGnuplotForADrawing) {
   const Outcome table = RunProgram(Words(design + " --chart n --format csv"));
   setenv("PATH", path.c_str(), 1);
   EXPECT_EQ(run.status, 1);
-  EXPECT_EQ(run.err,
-            "kelpower: The chart cannot be drawn: gnuplot is not installed; .csv and .json need none.\n");
+  EXPECT_EQ(run.err, "kelpower: The chart cannot be drawn: gnuplot is not installed; .csv and .json need none.\n");
   EXPECT_EQ(table.status, 0);
 }
 

@@ -107,6 +107,11 @@ TEST(Chart, EqualMeansHaveNoUsualDeviations) {
             "--chart sd has no usual range for these inputs: also give --from and --to.");
 }
 
+TEST(Chart, PointsWithoutPowerMakeNoChart) {
+  EXPECT_EQ(Complaint("anova", {"n", {2}, {3}, std::nullopt}),
+            "The test has no power anywhere between --from and --to.");
+}
+
 TEST(Chart, HelpAndListNameEveryChart) {
   const auto list = nlohmann::json::parse(RenderListJson());
   for (std::size_t i = 0; i < Tests().size(); ++i) {
