@@ -28,12 +28,17 @@ std::string Drawn(const Picture& picture, const std::string& terminal) {
 }
 
 const FileKind fileKinds[] = {
-    {".svg", [](const Picture& picture) { return Drawn(picture, fmt::format("svg size 800,560 font '{},14'", font)); }},
+    {".svg",
+     [](const Picture& picture) {
+       return Drawn(picture, fmt::format("svg noenhanced size 800,560 font '{},14'", font));
+     }},
     {".png",
-     [](const Picture& picture) { return Drawn(picture, fmt::format("pngcairo size 1000,700 font '{},15'", font)); }},
+     [](const Picture& picture) {
+       return Drawn(picture, fmt::format("pngcairo noenhanced size 1000,700 font '{},15'", font));
+     }},
     {".pdf",
      [](const Picture& picture) {
-       return Drawn(picture, fmt::format("pdfcairo size 18cm,12.6cm font '{},11'", font));
+       return Drawn(picture, fmt::format("pdfcairo noenhanced size 18cm,12.6cm font '{},11'", font));
      }},
     {".csv", planner::RenderCsv},
     {".json", planner::RenderJson},

@@ -86,11 +86,18 @@ const Chart& ChooseChart(const std::vector<const Chart*>& charts, const Names& g
   throw InputError(fmt::format("Also give {} for --chart {}.", Joined(ways, ", or "), charts.front()->name));
 }
 
-void CheckEnds(const Axis& axis, double from, double to) {
+/// A total size must leave the groups something to estimate the standard deviation from; below, the library's power
+/// has no meaning.
+Limits EndLimits(const Axis& axis, const Inputs& inputs) {
+  Limits limits = axis.limits;
+  if (limits.whole) limits.low = std::max(limits.low, inputs.Groups() + 1.0);
+  return limits;
+}
+
+void CheckEnds(const Axis& axis, const Limits& limits, double from, double to) {
   for (const auto& [name, end] : {std::pair("from", from), std::pair("to", to)}) {
-    if (axis.limits.Allow(end)) continue;
-    throw InputError(
-        fmt::format("--{} is {}, but of {} must be {}.", name, Shortest(end), axis.title, axis.limits.Text()));
+    if (limits.Allow(end)) continue;
+    throw InputError(fmt::format("--{} is {}, but of {} must be {}.", name, Shortest(end), axis.title, limits.Text()));
   }
   if (from >= to) {
     throw InputError(fmt::format("--from is {}, but must be below --to, which is {}.", Shortest(from), Shortest(to)));
@@ -114,7 +121,7 @@ Range UsualRange(const Axis& axis, const Inputs& inputs) {
 Range RangeOf(const Chart& chart, std::size_t axis, const ChartRequest& request, const Inputs& inputs) {
   if (axis >= chart.axes.size()) return {};
   if (request.from.empty()) return UsualRange(chart.axes[axis], inputs);
-  CheckEnds(chart.axes[axis], request.from[axis], request.to[axis]);
+  CheckEnds(chart.axes[axis], EndLimits(chart.axes[axis], inputs), request.from[axis], request.to[axis]);
   return {request.from[axis], request.to[axis]};
 }
 
