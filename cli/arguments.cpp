@@ -96,7 +96,8 @@ planner::ChartRequest ChartOf(const CLI::App& command, const std::string& name) 
   planner::ChartRequest chart{name, {}, {}, std::nullopt};
   if (const std::string* text = TextOf(command, "from")) chart.from = Ends("from", *text);
   if (const std::string* text = TextOf(command, "to")) chart.to = Ends("to", *text);
-  if (const std::string* text = TextOf(command, "step")) chart.step = std::get<double>(planner::Parse(planner::Number("step", "", ""), *text));
+  if (const std::string* text = TextOf(command, "step"))
+    chart.step = std::get<double>(planner::Parse(planner::Number("step", "", ""), *text));
   return chart;
 }
 

@@ -28,11 +28,18 @@ std::string Drawn(const Picture& picture, const std::string& terminal) {
 }
 
 const FileKind fileKinds[] = {
-    {".svg", [](const Picture& picture) { return Drawn(picture, fmt::format("svg size 800,560 font '{},14'", font)); }},
+    {".svg",
+     [](const Picture& picture) {
+       return Drawn(picture, fmt::format("svg noenhanced size 800,560 font '{},14'", font));
+     }},
     {".png",
-     [](const Picture& picture) { return Drawn(picture, fmt::format("pngcairo size 1000,700 font '{},15'", font)); }},
+     [](const Picture& picture) {
+       return Drawn(picture, fmt::format("pngcairo noenhanced size 1000,700 font '{},15'", font));
+     }},
     {".pdf",
-     [](const Picture& picture) { return Drawn(picture, fmt::format("pdfcairo size 18cm,12.6cm font '{},11'", font)); }},
+     [](const Picture& picture) {
+       return Drawn(picture, fmt::format("pdfcairo noenhanced size 18cm,12.6cm font '{},11'", font));
+     }},
     {".csv", planner::RenderCsv},
     {".json", planner::RenderJson},
 };
@@ -45,8 +52,7 @@ const FileKind& KindOf(const std::string& name) {
   for (const FileKind& kind : fileKinds) {
     if (EndsWith(name, kind.ending)) return kind;
   }
-  throw planner::InputError(
-      fmt::format("--output is \"{}\", but must end in .svg, .png, .pdf, .csv or .json.", name));
+  throw planner::InputError(fmt::format("--output is \"{}\", but must end in .svg, .png, .pdf, .csv or .json.", name));
 }
 
 void Write(const std::string& name, const std::string& content) {

@@ -50,8 +50,8 @@ std::string RunGnuplot(const std::string& commands) {
   const File in = TemporaryFile();
   const File out = TemporaryFile();
   const File err = TemporaryFile();
-  const bool written = std::fwrite(commands.data(), 1, commands.size(), in.get()) == commands.size() &&
-                       std::fflush(in.get()) == 0;
+  const bool written =
+      std::fwrite(commands.data(), 1, commands.size(), in.get()) == commands.size() && std::fflush(in.get()) == 0;
   if (!written) throw std::runtime_error("The chart cannot be drawn: the temporary file is full.");
   std::rewind(in.get());
   const int status = Run(in.get(), out.get(), err.get());

@@ -17,7 +17,7 @@ namespace {
 constexpr double mostPoints = 1e6;
 constexpr double largestUsualTotal = 1e5;
 
-constexpr double usualStep = 0.02;
+constexpr double usualStep = 0.01;
 const Limits stepLimits{0.001, 1, true, true, false};
 
 const std::vector<std::string> askers{"power", "interval", "half-width"};
@@ -86,11 +86,18 @@ const Chart& ChooseChart(const std::vector<const Chart*>& charts, const Names& g
   throw InputError(fmt::format("Also give {} for --chart {}.", Joined(ways, ", or "), charts.front()->name));
 }
 
-void CheckEnds(const Axis& axis, double from, double to) {
+/// A total size must leave the groups something to estimate the standard deviation from; below, the library's power
+/// has no meaning.
+Limits EndLimits(const Axis& axis, const Inputs& inputs) {
+  Limits limits = axis.limits;
+  if (limits.whole) limits.low = std::max(limits.low, inputs.Groups() + 1.0);
+  return limits;
+}
+
+void CheckEnds(const Axis& axis, const Limits& limits, double from, double to) {
   for (const auto& [name, end] : {std::pair("from", from), std::pair("to", to)}) {
-    if (axis.limits.Allow(end)) continue;
-    throw InputError(
-        fmt::format("--{} is {}, but of {} must be {}.", name, Shortest(end), axis.title, axis.limits.Text()));
+    if (limits.Allow(end)) continue;
+    throw InputError(fmt::format("--{} is {}, but of {} must be {}.", name, Shortest(end), axis.title, limits.Text()));
   }
   if (from >= to) {
     throw InputError(fmt::format("--from is {}, but must be below --to, which is {}.", Shortest(from), Shortest(to)));
@@ -105,7 +112,7 @@ void CheckCount(const Chart& chart, const char* name, const Numbers& ends) {
 
 Range UsualRange(const Axis& axis, const Inputs& inputs) {
   if (axis.limits.whole && axis.design(inputs) > largestUsualTotal) {
-    throw InputError(fmt::format("A design of more than {} has no usual range: also give --from and --to.",
+    throw InputError(fmt::format("A design of more than {} observations has no usual range: also give --from and --to.",
                                  Shortest(largestUsualTotal)));
   }
   return axis.usual ? axis.usual(inputs) : Range{};
@@ -114,7 +121,7 @@ Range UsualRange(const Axis& axis, const Inputs& inputs) {
 Range RangeOf(const Chart& chart, std::size_t axis, const ChartRequest& request, const Inputs& inputs) {
   if (axis >= chart.axes.size()) return {};
   if (request.from.empty()) return UsualRange(chart.axes[axis], inputs);
-  CheckEnds(chart.axes[axis], request.from[axis], request.to[axis]);
+  CheckEnds(chart.axes[axis], EndLimits(chart.axes[axis], inputs), request.from[axis], request.to[axis]);
   return {request.from[axis], request.to[axis]};
 }
 
@@ -132,8 +139,8 @@ void CheckRequest(const Chart& chart, const ChartRequest& request) {
     throw InputError(fmt::format("--step has no use with --chart {}: sizes go by ones.", chart.name));
   }
   if (!stepLimits.Allow(*request.step)) {
-    throw InputError(fmt::format("--step is {}, but must be {}: a share of the range.", Shortest(*request.step),
-                                 stepLimits.Text()));
+    throw InputError(
+        fmt::format("--step is {}, but must be {}: a share of the range.", Shortest(*request.step), stepLimits.Text()));
   }
 }
 
@@ -145,8 +152,8 @@ void CheckPoints(const Chart& chart, const Ranges& ranges) {
   double points = Points(chart.axes[0], ranges.x, ranges.step);
   if (chart.axes.size() > 1) points *= Points(chart.axes[1], ranges.y, ranges.step);
   if (points <= mostPoints) return;
-  throw InputError(fmt::format("The range has more than {} points: bring --from and --to closer together.",
-                               Shortest(mostPoints)));
+  throw InputError(
+      fmt::format("The range has more than {} points: bring --from and --to closer together.", Shortest(mostPoints)));
 }
 
 Ranges RangesOf(const Chart& chart, const ChartRequest& request, const Inputs& inputs) {
@@ -157,15 +164,21 @@ Ranges RangesOf(const Chart& chart, const ChartRequest& request, const Inputs& i
   return ranges;
 }
 
-[[noreturn]] void RejectEmpty(const Chart& chart, const ChartRequest& request) {
+/// A single point, and points without a power, make no chart.
+bool CanBeDrawn(const Series& series) {
+  const auto isPresent = [](double power) { return !std::isnan(power); };
+  return series.x.size() > 1 && std::any_of(series.power.begin(), series.power.end(), isPresent);
+}
+
+[[noreturn]] void RejectEmpty(const Chart& chart, const ChartRequest& request, const Series& series) {
   if (request.from.empty()) {
-    throw InputError(fmt::format("--chart {} has no usual range for these inputs: also give --from and --to.",
-                                 chart.name));
+    throw InputError(
+        fmt::format("--chart {} has no usual range for these inputs: also give --from and --to.", chart.name));
   }
+  if (!series.power.empty()) throw InputError("The test has no power anywhere between --from and --to.");
   std::vector<std::string> allowed;
   for (const Axis& axis : chart.axes) allowed.push_back(axis.title + " " + axis.limits.Text());
-  throw InputError(
-      fmt::format("--from and --to leave nothing to draw; allowed are: {}.", Joined(allowed, " and ")));
+  throw InputError(fmt::format("--from and --to leave nothing to draw; allowed are: {}.", Joined(allowed, " and ")));
 }
 
 bool Within(const Numbers& values, double value) {
@@ -205,7 +218,7 @@ Picture Draw(const Test& test, const ChartRequest& request, const Given& given) 
   CheckConditions(test, inputs);
   const Ranges ranges = RangesOf(chart, request, inputs);
   Picture picture{&test, &chart, chart.call(inputs, ranges), std::nullopt};
-  if (picture.series.power.empty()) RejectEmpty(chart, request);
+  if (!CanBeDrawn(picture.series)) RejectEmpty(chart, request, picture.series);
   picture.mark = MarkOf(test, chart, picture.series, inputs, given);
   return picture;
 }

@@ -64,6 +64,23 @@ std::string UsageSection(const Test& test, const Paint& paint) {
   return text;
 }
 
+std::string ChartUsage(const Chart& chart) {
+  std::string text = fmt::format("--chart {}  power over {}", chart.name, chart.axes.front().title);
+  if (chart.axes.size() > 1) text += " and " + chart.axes.back().title;
+  return text;
+}
+
+std::string ChartSection(const Test& test, const Paint& paint) {
+  if (test.charts.empty()) return "";
+  std::string text = fmt::format("\n{}Charts{}\n", paint.heading, paint.end);
+  for (const Chart& chart : test.charts)
+    text += fmt::format("  {}\n    kelpower {}\n", ChartUsage(chart), chart.example);
+  return text +
+         "  --from NUMBER --to NUMBER  ends of the axis; of two axes, two numbers each: --from 12,2\n"
+         "  --step NUMBER              step of an axis that is not of sizes, as a share of its range (default 0.01)\n"
+         "  --output FILE              .svg, .png, .pdf, .csv or .json; without it the chart is drawn in characters\n";
+}
+
 std::string OptionLines(const Test& test) {
   std::size_t width = 0;
   for (const Parameter& parameter : test.parameters) width = std::max(width, OptionText(parameter).size());
@@ -87,6 +104,7 @@ std::string RenderHelp(const Test& test, const Paint& paint) {
                                  paint.end, test.about);
   text += UsageSection(test, paint);
   text += fmt::format("{}Options{}\n{}", paint.heading, paint.end, OptionLines(test));
+  text += ChartSection(test, paint);
   for (const Example& example : test.examples) {
     text += fmt::format("\n{}Example{}: kelpower {}\n  {}\n", paint.heading, paint.end, example.arguments,
                         example.sentence);

@@ -26,7 +26,8 @@ std::vector<Chart> Charts() {
   const Axis size = TotalSizeAxis();
   const Axis sd = ParameterAxis(WithinSd(), "SD", [](const Inputs& in) { return in.Number("sd"); });
   const Axis f = ParameterAxis(EffectF(), "f", [](const Inputs& in) { return in.Number("effect-f"); });
-  const Axis eta = ParameterAxis(EtaSquared(), "eta squared", [](const Inputs& in) { return in.Number("eta-squared"); });
+  const Axis eta =
+      ParameterAxis(EtaSquared(), "eta squared", [](const Inputs& in) { return in.Number("eta-squared"); });
   return {
       {"n",
        {size},
@@ -127,13 +128,7 @@ Test Describe() {
   test.groups = groupsFromInputs;
 
   test.parameters = {
-      GroupMeans(),
-      WithinSd(),
-      EffectF(),
-      EtaSquared(),
-      GroupSizes(),
-      AllocationRatios(),
-      GroupCount(),
+      GroupMeans(), WithinSd(), EffectF(), EtaSquared(), GroupSizes(), AllocationRatios(), GroupCount(),
   };
 
   test.routes = {

@@ -42,11 +42,11 @@ struct Ranges {
 
 /// One axis of a chart.
 struct Axis {
-  std::string title;                             // with unit: "total sample size (observations)"
-  std::string symbol;                            // in the mark of the design: "n"
-  Limits limits;                                 // of its ends; whole for sizes
-  double (*design)(const Inputs&) = nullptr;     // where the design lies on it
-  Range (*usual)(const Inputs&) = nullptr;       // its range unless the user gives one; null: the export chooses
+  std::string title;                          // with unit: "total sample size (observations)"
+  std::string symbol;                         // in the mark of the design: "n"
+  Limits limits;                              // of its ends; whole for sizes
+  double (*design)(const Inputs&) = nullptr;  // where the design lies on it
+  Range (*usual)(const Inputs&) = nullptr;    // its range unless the user gives one; null: the export chooses
 };
 
 /// One chart of a test. Several charts with the same name are ways to draw it from different inputs, as routes are ways

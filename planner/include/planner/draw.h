@@ -8,7 +8,8 @@
 
 namespace planner {
 
-/// What the user asks of a chart. Of a surface, `from` and `to` have one entry for each axis; empty for the usual range.
+/// What the user asks of a chart. Of a surface, `from` and `to` have one entry for each axis; empty for the usual
+/// range.
 struct ChartRequest {
   std::string name;
   Numbers from;
