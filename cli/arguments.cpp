@@ -34,8 +34,12 @@ CLI::App* AddCommand(CLI::App& app, const std::string& name) {
   return command;
 }
 
+const std::vector<std::string> rangeOptions{"from", "to", "step", "output"};
+
 void AddTest(CLI::App& app, const Test& test) {
   CLI::App* command = AddCommand(app, test.name);
+  AddOption(*command, "--chart");
+  for (const std::string& name : rangeOptions) AddOption(*command, "--" + name);
   for (const Parameter& parameter : test.parameters) {
     std::string names = "--" + parameter.name;
     for (const std::string& alias : parameter.aliases) names += ",--" + alias;
@@ -84,6 +88,25 @@ planner::Given GivenOf(const CLI::App& command, const Test& test) {
   return given;
 }
 
+planner::Numbers Ends(const std::string& name, const std::string& text) {
+  return std::get<planner::Numbers>(planner::Parse(planner::List(name, "", ""), text));
+}
+
+planner::ChartRequest ChartOf(const CLI::App& command, const std::string& name) {
+  planner::ChartRequest chart{name, {}, {}, std::nullopt};
+  if (const std::string* text = TextOf(command, "from")) chart.from = Ends("from", *text);
+  if (const std::string* text = TextOf(command, "to")) chart.to = Ends("to", *text);
+  if (const std::string* text = TextOf(command, "step"))
+    chart.step = std::get<double>(planner::Parse(planner::Number("step", "", ""), *text));
+  return chart;
+}
+
+void RejectRangeOptions(const CLI::App& command) {
+  for (const std::string& name : rangeOptions) {
+    if (TextOf(command, name)) throw InputError(fmt::format("--{} has a use only together with --chart.", name));
+  }
+}
+
 std::vector<std::string> OptionNames(const CLI::App& command) {
   std::vector<std::string> names;
   for (const CLI::Option* option : command.get_options()) {
@@ -109,6 +132,18 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
   throw InputError(fmt::format("\"{}\" is not a test; \"kelpower list\" names them.", word));
 }
 
+void ReadTest(const CLI::App& command, Request& request) {
+  request.given = GivenOf(command, *request.test);
+  const std::string* chart = TextOf(command, "chart");
+  if (!chart) return RejectRangeOptions(command);
+  request.command = Command::Chart;
+  request.chart = ChartOf(command, *chart);
+  if (const std::string* output = TextOf(command, "output")) {
+    if (output->empty()) throw InputError("--output is empty, but must name a file.");
+    request.output = *output;
+  }
+}
+
 Request RequestOf(const CLI::App& app) {
   const bool version = FlagOf(app, "version");
   Request request;
@@ -127,7 +162,7 @@ Request RequestOf(const CLI::App& app) {
   }
   request.format = FormatOf(command);
   request.command = request.test ? Command::Solve : Command::List;
-  if (request.test) request.given = GivenOf(command, *request.test);
+  if (request.test) ReadTest(command, request);
   if (const auto extras = app.remaining(true); !extras.empty()) RejectExtra(command, extras.front());
   return request;
 }

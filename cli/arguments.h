@@ -1,9 +1,10 @@
 #pragma once
 
+#include "planner/draw.h"
 #include "planner/inputs.h"
 #include "planner/test.h"
 
-enum class Command { Overview, Version, List, TestHelp, Solve };
+enum class Command { Overview, Version, List, TestHelp, Solve, Chart };
 
 enum class Format { Text, Json, Csv, Markdown };
 
@@ -11,8 +12,10 @@ enum class Format { Text, Json, Csv, Markdown };
 struct Request {
   Command command = Command::Overview;
   Format format = Format::Text;
-  const planner::Test* test = nullptr;  // of TestHelp and Solve
-  planner::Given given;                 // of Solve
+  const planner::Test* test = nullptr;  // of TestHelp, Solve and Chart
+  planner::Given given;                 // of Solve and Chart
+  planner::ChartRequest chart;
+  std::string output;  // the file of a chart; empty for the standard output
 };
 
 /// Reads the command line; throws a planner::InputError when it is wrong.

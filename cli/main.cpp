@@ -5,6 +5,7 @@
 #include <string>
 
 #include "arguments.h"
+#include "chart.h"
 #include "planner/error.h"
 #include "planner/render.h"
 #include "planner/solve.h"
@@ -19,6 +20,7 @@ std::string Overview(const planner::Paint& paint) {
       "{0}kelpower{1} plans studies: power, sample size and precision of statistical tests.\n\n"
       "  kelpower TEST [options]   what you leave out is what is solved for\n"
       "  kelpower TEST --help      what a test takes and answers, with examples\n"
+      "  kelpower TEST ... --chart NAME   draw the power of a design\n"
       "  kelpower list             the tests; with --format json their descriptions\n"
       "  kelpower --version\n\n"
       "{0}Tests{1}\n{2}",
@@ -48,6 +50,7 @@ std::string Answer(const Request& request, const planner::Paint& paint) {
     case Command::List: return List(request.format, paint);
     case Command::TestHelp: return planner::RenderHelp(*request.test, paint);
     case Command::Solve: return Rendered(planner::Solve(*request.test, request.given), request.format, paint);
+    case Command::Chart: return ChartAnswer(request);
   }
   return "";
 }

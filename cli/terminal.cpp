@@ -1,7 +1,9 @@
 #include "terminal.h"
 
+#include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <string_view>
 
@@ -19,4 +21,12 @@ planner::Paint PaintFor(std::FILE* stream) {
   if (!Environment("NO_COLOR").empty()) return {};
   if (Environment("TERM") == "dumb") return {};
   return {"\033[1m", "\033[1;36m", "\033[0m"};
+}
+
+TerminalSize SizeOf(std::FILE* stream) {
+  constexpr TerminalSize usual{79, 24};
+  constexpr TerminalSize least{40, 12};  // less leaves no room for a chart
+  winsize size{};
+  if (ioctl(fileno(stream), TIOCGWINSZ, &size) != 0 || size.ws_col == 0 || size.ws_row == 0) return usual;
+  return {std::max(size.ws_col - 1, least.columns), std::max(size.ws_row - 1, least.lines)};
 }

@@ -485,6 +485,588 @@ KELPOWER_API XYZPlot PlotRatioaMeanDiffIndependent(double totalSize, double mean
                                                    double minMeanDifference, double maxMeanDifference,
                                                    int directional, double alpha, double stepFraction);
 
+// ---------------------------------------------------------------------------------------------------------------------
+// One proportion
+// ---------------------------------------------------------------------------------------------------------------------
+//
+// Arguments shared by this section:
+/// \param sampleSize number of subjects N, at least 1; the exact test counts successes in whole ones
+/// \param altProportion proportion p1 under the alternative hypothesis, from 0 to 1
+/// \param nullProportion proportion p0 under the null hypothesis, from 0 to 1
+/// \param proportion proportion p of an interval; not checked
+/// \param method 0 for the normal approximation, any other value for the exact binomial test
+/// \param oneSided flag: one-sided in the direction from p0 to p1 (downwards where they are equal), not two-sided
+/// \param alpha significance level, above 0 and below 1; of a half-width: 1 minus the confidence level, not checked
+/// \param continuityCorrection byte flag: corrects the normal approximation and the interval of Wilson by a half
+///        subject. The half-width of Wald's interval is corrected for the value 1 alone, its sample size for any but 0
+/// \param power wanted power; not checked
+/// \param halfWidth wanted half-width of the confidence interval; not checked
+/// \param ciMethod interval: 0 Wald, 1 logit with half a subject added to both counts, 2 logit, 3 Clopper-Pearson,
+///        4 Jeffreys, 5 Wilson, 6 Agresti-Coull
+/// \param minSampleSize,maxSampleSize ends of the sample-size axis, from 0 to 5,000; equal ends only at 0
+/// \param step distance of the proportions along an axis: step, 2 step, ... below 1; above 0, at most 0.5
+/// \param cancel asked before every step of a search, and by the exact power once for each count from its end of the
+///        distribution to the critical value; true gives missing. May be null
+//
+// Invalid input gives -1, an empty chart. The exact power is -2 where a binomial probability has no value (a NaN
+// proportion), and missing for sizes above 2,147,483,647. Chart values are in single precision; a chart point with
+// invalid input is -1.
+// Method: Fleiss, J. L., Levin, B. and Paik, M. C. (2003), Statistical Methods for Rates and Proportions, 3rd ed.,
+// ch. 2, and exact binomial tails; docs/proportions.md has the formulas and the sources of the intervals.
+
+/// Power of the test of one proportion.
+KELPOWER_API double PowerOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
+                                      int oneSided, double alpha, std::uint8_t continuityCorrection,
+                                      StopRequest* cancel);
+
+/// Sample size at which the test reaches a power: not rounded for the normal approximation; for the exact test the
+/// smallest whole one that its search finds, which larger ones can miss, because that power is not monotone. The power
+/// functions accept equal proportions; here they are invalid, as any within 1e-14. Missing when no size has the power.
+KELPOWER_API double PowerReverseOneSampBinom(double power, double altProportion, double nullProportion, int method,
+                                             int oneSided, double alpha, std::uint8_t continuityCorrection,
+                                             StopRequest* cancel);
+
+/// Half-width of the confidence interval of a proportion. Nothing is checked; 0 for an unknown method.
+KELPOWER_API double HalfCIOneSampBinom(double sampleSize, double proportion, int ciMethod, double alpha,
+                                       std::uint8_t continuityCorrection);
+
+/// Sample size, not rounded, at which the interval has a half-width. Nothing is checked; 400 for an unknown method.
+KELPOWER_API double PowerReversebyHalfCIOneSampBinom(double halfWidth, double proportion, int ciMethod, double alpha,
+                                                     std::uint8_t continuityCorrection, StopRequest* cancel);
+
+/// Power against sample size. There is no automatic range; `sampleSize` is only checked.
+KELPOWER_API XYPlot PlotNOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
+                                      int oneSided, double alpha, int minSampleSize, int maxSampleSize,
+                                      std::uint8_t continuityCorrection);
+
+/// Power against the null proportion.
+KELPOWER_API XYPlot PlotNullOneSampBinom(double sampleSize, double altProportion, int method, int oneSided,
+                                         double alpha, std::uint8_t continuityCorrection, double step);
+
+/// Power against the alternative proportion.
+KELPOWER_API XYPlot PlotAlterOneSampBinom(double sampleSize, double nullProportion, int method, int oneSided,
+                                          double alpha, std::uint8_t continuityCorrection, double step);
+
+/// Power against the difference p1 - p0, from step - p0 in steps of `step`.
+KELPOWER_API XYPlot PlotRiskDiffOneSampBionm(double sampleSize, double nullProportion, int method, int oneSided,
+                                             double alpha, std::uint8_t continuityCorrection, double step);
+
+/// Power over sample size (x) and the difference p1 - p0 (y). An end of 0 of the sizes asks for a range around the
+/// design, from (1 - power) N to (2 - power) N.
+KELPOWER_API XYZPlot PlotNRiskDiffOneSampBinom(double sampleSize, double altProportion, double nullProportion,
+                                               int method, int oneSided, double alpha, int minSampleSize,
+                                               int maxSampleSize, std::uint8_t continuityCorrection, double step);
+
+/// Power over sample size (x) and null proportion (y); sizes as above.
+KELPOWER_API XYZPlot PlotNNullOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
+                                           int oneSided, double alpha, int minSampleSize, int maxSampleSize,
+                                           std::uint8_t continuityCorrection, double step);
+
+/// Power over sample size (x) and alternative proportion (y); sizes as above.
+KELPOWER_API XYZPlot PlotNAlterOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
+                                            int oneSided, double alpha, int minSampleSize, int maxSampleSize,
+                                            std::uint8_t continuityCorrection, double step);
+
+/// Power over null (x) and alternative proportion (y).
+KELPOWER_API XYZPlot PlotNullAlterOneSampBinom(double sampleSize, int method, int oneSided, double alpha,
+                                               std::uint8_t continuityCorrection, double step);
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Two related proportions
+// ---------------------------------------------------------------------------------------------------------------------
+//
+// Arguments shared by this section:
+/// \param sampleSize number of pairs N, at least 2; the exact test counts discordant pairs in whole ones
+/// \param discordant12,discordant21 probabilities of the two kinds of discordant pairs (success first, failure second,
+///        and the reverse), at least 0, with a sum of at most 1
+/// \param discordantCount12,discordantCount21 the same as expected counts, at least 0, with a sum of at most N
+/// \param marginal1,marginal2 success proportions of the two measures, above 0 and below 1
+/// \param marginalCount1,marginalCount2 the same as expected counts, above 0 and below N
+/// \param correlation correlation of the two outcomes, from -1 to 1
+/// \param oneSided flag: one-sided in the direction of the difference, not two-sided
+/// \param exact 0 for the large-sample test, any other value for the exact sign test of the discordant pairs
+/// \param alpha significance level, above 0 and below 1; of a half-width: 1 minus the confidence level, not checked
+/// \param continuityCorrection byte flag: corrects Wald's interval; its half-width for the value 1 alone, its sample
+///        size for any but 0
+/// \param power wanted power; not checked
+/// \param halfWidth wanted half-width of the confidence interval of p12 - p21; not checked
+/// \param ciMethod interval: 0 Wald, 1 Agresti-Min, 2 Bonett-Price
+/// \param minSampleSize,maxSampleSize ends of the sample-size axis, from 0 to 2,500
+/// \param minRatio,maxRatio ends of the ratio axis; 0 in either asks for the widest range of the design, up to 3
+/// \param step distance of the points along an axis, above 0; of the ratio axes as a fraction of their range
+/// \param cancel asked before every step of a search and by the exact power once for each number of discordant pairs;
+///        true gives missing. May be null
+//
+// Invalid input gives -1, an empty chart. The exact power is -2 where a binomial probability has no value (no
+// discordant pairs, a NaN probability), and missing for sizes above 2,147,483,647. Chart values are in single
+// precision; a chart point with invalid input is -1.
+// Method: Connor, R. J. (1987), Sample size for testing differences in proportions for the paired-sample design,
+// Biometrics 43, 207-211; docs/proportions.md has the formulas and the exact test.
+
+/// Power of McNemar's test for given probabilities of discordant pairs.
+KELPOWER_API double PowerbyPRelSampBionm(double sampleSize, double discordant12, double discordant21, int oneSided,
+                                         int exact, double alpha, StopRequest* cancel);
+
+/// The same for given counts of discordant pairs.
+KELPOWER_API double PowerbyCRelSampBionm(double sampleSize, double discordantCount12, double discordantCount21,
+                                         int oneSided, int exact, double alpha);
+
+/// The same for given marginal proportions and their correlation. Probabilities within 1e-14 of 0 that come out of them
+/// are 0.
+KELPOWER_API double PowerbyMargPRelSampBionm(double sampleSize, double marginal1, double marginal2, double correlation,
+                                             int oneSided, int exact, double alpha);
+
+/// The same for given marginal counts and their correlation.
+KELPOWER_API double PowerbyMargCRelSampBionm(double sampleSize, double marginalCount1, double marginalCount2,
+                                             double correlation, int oneSided, int exact, double alpha);
+
+/// Number of pairs at which the test reaches a power: not rounded for the large-sample test, the smallest whole one
+/// that the search finds for the exact test. Nothing is checked; missing when no size has the power.
+KELPOWER_API double PowerReversebyPRelSampBionm(double power, double discordant12, double discordant21, int oneSided,
+                                                int exact, double alpha, StopRequest* cancel);
+
+/// The same for given marginal proportions and their correlation, which are checked.
+KELPOWER_API double PowerReversebyMargPRelSampBionm(double power, double marginal1, double marginal2,
+                                                    double correlation, int oneSided, int exact, double alpha,
+                                                    StopRequest* cancel);
+
+/// Half-width of the confidence interval of p12 - p21. Nothing is checked; 0 for an unknown method.
+KELPOWER_API double HalfCIRelSampBinom(double sampleSize, double discordant12, double discordant21, int ciMethod,
+                                       double alpha, std::uint8_t continuityCorrection);
+
+/// Number of pairs at which the interval has a half-width, rounded up. Nothing is checked.
+KELPOWER_API double PowerReversebyHalfCIRelSampBinom(double halfWidth, double discordant12, double discordant21,
+                                                     int ciMethod, double alpha, std::uint8_t continuityCorrection,
+                                                     StopRequest* cancel);
+
+/// Power against the number of pairs. There is no automatic range.
+KELPOWER_API XYPlot PlotNRelSampBionm(double sampleSize, double discordant12, double discordant21, int minSampleSize,
+                                      int maxSampleSize, int oneSided, int exact, double alpha);
+
+/// Power against the difference p12 - p21 for a given p12, in steps of `step` times 1 - p12.
+KELPOWER_API XYPlot PlotRiskDiffRelSampBionm(double sampleSize, double discordant12, int oneSided, int exact,
+                                             double alpha, double step);
+
+/// Power against the ratio p12 / p21. Up to p12 = 0.5 it moves p21 and the lowest ratio is p12 / (1 - p12); above, it
+/// moves p12 and the highest is (1 - p21) / p21. No ratio is below 0.1 or above 10.
+KELPOWER_API XYPlot PlotRiskRatioRelSampBionm(double sampleSize, double discordant12, double discordant21,
+                                              double minRatio, double maxRatio, int oneSided, int exact, double alpha,
+                                              double step);
+
+/// Power against the odds ratio of p12 to p21, which moves p21. It starts no lower than the square of the odds of p12
+/// and ends at most 10 above that.
+KELPOWER_API XYPlot PlotOddsRatioRelSampBionm(double sampleSize, double discordant12, double minRatio, double maxRatio,
+                                              int oneSided, int exact, double alpha, double step);
+
+/// Power against the correlation, from -1 to the largest that the marginal proportions allow.
+KELPOWER_API XYPlot PlotCorrRelSampBionm(double sampleSize, double marginal1, double marginal2, int oneSided, int exact,
+                                         double alpha, double step);
+
+/// Power over p12 (x) and p21 (y); 0 where they are equal or their sum exceeds 1.
+KELPOWER_API XYZPlot PlotPropRelSampBionm(double sampleSize, int oneSided, int exact, double alpha, double step);
+
+/// Power over the marginal proportions (x and y), whose correlation lies inside (-1, 1); 0 where their sum exceeds 1.
+KELPOWER_API XYZPlot PlotMargPropRelSampBionm(double sampleSize, double correlation, int oneSided, int exact,
+                                              double alpha, double step);
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Proportions of two independent samples
+// ---------------------------------------------------------------------------------------------------------------------
+//
+// Arguments shared by this section:
+/// \param sampleSize1,sampleSize2 group sizes N1 and N2, in subjects, at least 0.999999999999; need not be whole
+/// \param totalSampleSize N1 + N2, at least 2
+/// \param proportion1,proportion2 proportions p1 and p2 under the alternative, above 0 and below 1
+/// \param exact flag: by enumeration of all tables; 0 for the large-sample formula
+/// \param method 0 z test, 1 t test, 2 likelihood-ratio test, every other value the arcsine test (large-sample) or
+///        the conditional test (exact)
+/// \param oneSided flag: one-sided, in the direction in which p1 and p2 differ, instead of two-sided
+/// \param alpha significance level, above 0 and below 1; of a half-width: 1 minus the confidence level
+/// \param continuityCorrection flag of the z test and of some intervals
+/// \param pooledVariance flag: the z test's standard error under equal proportions (large-sample only); the t test's
+///        pooled variance
+/// \param cancel ends a long exact computation or a search with missing; may be null. An exact test asks it once a
+///        table, the conditional test once a total
+/// \param sampleSizes the caller's vector, which receives N1 and N2
+/// \param sizeRatio N2 / N1, above 0; not checked
+/// \param power wanted power; not checked
+/// \param halfWidth wanted half-width; not checked
+/// \param ciMethod 0 Wald; 1 Agresti-Caffo, one success and one failure added; 2 the same with N + 3 as divisor; 3 half
+///        a success and half a failure added; 4 divisor N - 1 with half a unit of a group's size added; 5 Newcombe's
+///        combined score intervals
+/// \param step step of an axis, as stated with each chart; above 0, at most 0.5
+//
+// An invalid design has power -1, an error of the binomial distribution inside an exact test -2, a cancelled
+// computation missing. Checks let NaN through: in an exact test a NaN size or level then rejects no table, power 0.
+// Exact tests of groups above 2^31 - 1 are missing. Charts store single precision; invalid input gives an empty one.
+// Methods and sources: docs/proportions-independent.md.
+
+/// Power of a test of p1 = p2. The t test needs N1 + N2 > 2, the large-sample arcsine test at least half a subject in
+/// the rarer outcome of either group.
+///
+/// Exact z, t and likelihood-ratio tests take time in proportion to N1 + N2 (with `cancel`, to the N1 N2 questions it
+/// is asked), the conditional test to N1 N2.
+/// \return the power; -1, -2 or missing as above
+KELPOWER_API double PowerIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, double proportion2,
+                                      int exact, int method, int oneSided, double alpha,
+                                      std::uint8_t continuityCorrection, std::uint8_t pooledVariance,
+                                      StopRequest* cancel);
+
+/// Group sizes at which a test reaches a power: N1 rounded up, N2 = sizeRatio N1 rounded up, both at least 1.
+///
+/// With `exact` = 1 whole sizes whose exact power reaches the wanted one, with N2 rounded to the nearest; the search of
+/// method 3 ends by the z test and that of method 4 starts by it. Both sizes are missing when the power cannot be
+/// reached and when `cancel` answers true. An unreachable power makes an exact search go on to groups of 2^31: at once
+/// for methods 0 to 2, but without practical end for the conditional test, and for every method with a `cancel` that
+/// never answers true.
+/// \param sampleSizes must be empty, else nothing is done
+KELPOWER_API void PowerReverseIndSampBinom(double power, double proportion1, double proportion2,
+                                           DoubleVector& sampleSizes, double sizeRatio, int exact, int method,
+                                           int oneSided, double alpha, std::uint8_t continuityCorrection,
+                                           std::uint8_t pooledVariance, StopRequest* cancel);
+
+/// Half-width of the confidence interval of p1 - p2. Nothing is checked.
+/// \param continuityCorrection Wald's method corrects for exactly 1, Newcombe's for every non-zero value
+/// \return half of the interval's length; 0 for an unknown method
+KELPOWER_API double HalfCIIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, double proportion2,
+                                       int ciMethod, double alpha, std::uint8_t continuityCorrection);
+
+/// Group sizes at which that interval has a half-width: N1 rounded up, N2 = sizeRatio N1 rounded up and at least 2.
+/// Earlier content of `sampleSizes` is discarded. Both are missing when the half-width is not reached.
+/// \param continuityCorrection every non-zero value corrects, for Wald's method too
+KELPOWER_API void PowerReversebyHalfCIIndSampBinom(double halfWidth, double proportion1, double proportion2,
+                                                   DoubleVector& sampleSizes, double sizeRatio, int ciMethod,
+                                                   double alpha, std::uint8_t continuityCorrection,
+                                                   StopRequest* cancel);
+
+/// Surface of power over N1 (x) and N2 (y): every whole size, every fifth from 251 sizes on, every tenth from 1002 on.
+///
+/// The large-sample arcsine test takes ends of 0, 2 and 2500 for automatic: from where it is valid to the planned size
+/// beyond that. Other tests take ends as they are.
+/// \param minSampleSize1,maxSampleSize1 ends of the N1 axis; the lower is not below 0 and not 1 but for arcsine
+/// \param minSampleSize2,maxSampleSize2 ends of the N2 axis, likewise
+KELPOWER_API XYZPlot PlotNIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, double proportion2,
+                                       int exact, int method, int oneSided, double alpha,
+                                       std::uint8_t continuityCorrection, std::uint8_t pooledVariance,
+                                       int minSampleSize1, int maxSampleSize1, int minSampleSize2, int maxSampleSize2);
+
+/// Surface of power over p1 (x) and p2 (y), both step, 2 step, ... below 1. The given proportions are only checked.
+KELPOWER_API XYZPlot PlotPropIndSampBinom(double sampleSize1, double sampleSize2, double proportion1,
+                                          double proportion2, int exact, int method, int oneSided, double alpha,
+                                          std::uint8_t continuityCorrection, std::uint8_t pooledVariance, double step);
+
+/// Power over the ratio N2 / N1 of groups that share a total; sizes are not rounded.
+/// \param minRatio,maxRatio ends, from 1 / (N - 1) to N - 1; 0 in either asks for the whole range without its ends
+/// \param step as a fraction of the range
+KELPOWER_API XYPlot PlotNRatioIndSampBinom(double totalSampleSize, double proportion1, double proportion2, int exact,
+                                           int method, int oneSided, double alpha, std::uint8_t continuityCorrection,
+                                           std::uint8_t pooledVariance, double minRatio, double maxRatio, double step);
+
+/// Power over the risk difference p1 - p2: p1 - 1 + step, p1 - 1 + 2 step, ...
+KELPOWER_API XYPlot PlotRiskDiffIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, int exact,
+                                             int method, int oneSided, double alpha,
+                                             std::uint8_t continuityCorrection, std::uint8_t pooledVariance,
+                                             double step);
+
+/// Power over the risk ratio p1 / p2.
+/// \param minRatio,maxRatio ends; the lower above p1, or 0 to start one step above p1; the upper at most 10
+/// \param step as a fraction of maxRatio - minRatio
+KELPOWER_API XYPlot PlotRiskRatioIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, int exact,
+                                              int method, int oneSided, double alpha,
+                                              std::uint8_t continuityCorrection, std::uint8_t pooledVariance,
+                                              double minRatio, double maxRatio, double step);
+
+/// Power over the odds ratio of p1 to p2.
+/// \param minRatio,maxRatio ends; the lower at least 0.1, or 0 to start at one third; the upper at most 10
+/// \param step as a fraction of the range
+KELPOWER_API XYPlot PlotOddsRatioIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, int exact,
+                                              int method, int oneSided, double alpha,
+                                              std::uint8_t continuityCorrection, std::uint8_t pooledVariance,
+                                              double minRatio, double maxRatio, double step);
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Correlations: Pearson, Spearman, partial
+// ---------------------------------------------------------------------------------------------------------------------
+//
+// The test of one correlation against a null value, on the scale of Fisher's z = atanh(r) with its normal
+// approximation. Arguments shared by this section:
+/// \param sampleSize N, number of cases, whole numbers not required: above 3; for a Spearman power from 3 on; for a
+///        partial correlation above 3 + `partialledOut`. On charts with an axis of sizes it is checked, and serves an
+///        automatic range if there is one
+/// \param partialledOut k, number of variables partialled out, at least 0; whole numbers are not required
+/// \param alternativeCorrelation correlation under the alternative, in [-1, 1]
+/// \param nullCorrelation correlation under the null hypothesis, in [-1, 1]
+/// \param correlation expected sample correlation, the centre of an interval, in (-1, 1); not checked
+/// \param oneSided flag: one-sided test, towards the alternative; downwards where it equals the null
+/// \param adjustBias flag: mean and variance of z to the second order. Power, half-width and charts take only 1 for
+/// yes,
+///        the searches every value but 0; that is intended
+/// \param varianceMethod variance of z of a rank correlation: 0 Bonett and Wright, 1 Fieller, Hartley and Pearson,
+///        2 Caruso and Cliff; any other gives power -1 and half-width 0
+/// \param alpha significance level, in (0, 1), one below 5.6e-17 being rejected; of a half-width: 1 minus the
+/// confidence
+///        level, not checked
+/// \param power wanted power; not checked
+/// \param halfWidth wanted half-width of the confidence interval, on the scale of correlations; not checked
+/// \param stop asked between the steps of a search; may be null
+/// \param sampleSizeFrom,sampleSizeTo ends of the sample-size axis, which differ: from 4 to 5000, both plus
+/// `partialledOut`;
+///        each chart says what a start at 0 does
+/// \param step distance of the points on an axis of correlations or differences, above 0 and at most 0.5
+//
+// Powers for invalid input are -1, charts empty, sizes missing. Chart values are stored in single precision; the axis
+// of correlations goes from -1 to 1, that of differences (alternative - null) from -1 - null to 1 - null. Method:
+// Fisher (1921), Metron 1, 3-32; Hotelling (1953), J. R. Statist. Soc. B 15, 193-232; docs/correlation.md has the
+// formulas and the sources of the variances of rank correlations.
+
+/// Power of the test of a Pearson correlation.
+KELPOWER_API double PowerbyOneSampPearson(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                          int oneSided, std::uint8_t adjustBias, double alpha);
+
+/// Power of the test of a Spearman correlation. At exactly 3 cases methods other than 2 give 1.
+KELPOWER_API double PowerbyOneSampSpearman(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                           int varianceMethod, int oneSided, double alpha);
+
+/// Power of the test of a partial correlation: that of a Pearson correlation with N - k cases and `adjustBias` 1.
+KELPOWER_API double PowerbyOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
+                                          double nullCorrelation, int oneSided, double alpha);
+
+/// Sample size, not rounded, at which the test of a Pearson correlation reaches a power; missing when none does.
+KELPOWER_API double PowerReversebyOneSampPearson(double power, double alternativeCorrelation, double nullCorrelation,
+                                                 int oneSided, std::uint8_t adjustBias, double alpha,
+                                                 StopRequest* stop);
+
+/// Sample size, not rounded, at which the test of a Spearman correlation reaches a power; missing when none does.
+KELPOWER_API double PowerReversebyOneSampSpearman(double power, double alternativeCorrelation, double nullCorrelation,
+                                                  int varianceMethod, int oneSided, double alpha);
+
+/// Sample size, not rounded, at which the test of a partial correlation reaches a power; missing when none does.
+KELPOWER_API double PowerReversebyOneSampPartial(double power, double partialledOut, double alternativeCorrelation,
+                                                 double nullCorrelation, int oneSided, double alpha);
+
+/// Half-width of the confidence interval of a Pearson correlation: half the distance of its ends.
+KELPOWER_API double HalfCIOneSampPearson(double sampleSize, double correlation, std::uint8_t adjustBias, double alpha);
+
+/// Half-width of the confidence interval of a Spearman correlation.
+KELPOWER_API double HalfCIOneSampSpearman(double sampleSize, double correlation, int varianceMethod, double alpha);
+
+/// Half-width of the confidence interval of a partial correlation, never corrected for bias.
+KELPOWER_API double HalfCIOneSampPartial(double sampleSize, double partialledOut, double correlation, double alpha);
+
+/// Sample size, rounded up, at which the interval of a Pearson correlation has a half-width; missing when none has.
+KELPOWER_API double PowerReversebyHalfCIOneSampPearson(double halfWidth, double correlation, std::uint8_t adjustBias,
+                                                       double alpha, StopRequest* stop);
+
+/// Sample size, rounded up, at which the interval of a Spearman correlation has a half-width; missing when none
+/// has.
+KELPOWER_API double PowerReversebyHalfCIOneSampSpearman(double halfWidth, double correlation, int varianceMethod,
+                                                        double alpha, StopRequest* stop);
+
+/// Sample size, rounded up, at which the interval of a partial correlation has a half-width; missing when none has.
+KELPOWER_API double PowerReversebyHalfCIOneSampPartial(double halfWidth, double partialledOut, double correlation,
+                                                       double alpha, StopRequest* stop);
+
+/// Pearson: power over the sample size; a start at 0 is taken as it stands, and the points up to 3 hold -1.
+KELPOWER_API XYPlot PlotNOneSampPearson(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                        int oneSided, std::uint8_t adjustBias, double alpha, int sampleSizeFrom,
+                                        int sampleSizeTo);
+
+/// Pearson: power over the null correlation.
+KELPOWER_API XYPlot PlotNullOneSampPearson(double sampleSize, double alternativeCorrelation, int oneSided,
+                                           std::uint8_t adjustBias, double alpha, double step);
+
+/// Pearson: power over the alternative correlation.
+KELPOWER_API XYPlot PlotAlterOneSampPearson(double sampleSize, double nullCorrelation, int oneSided,
+                                            std::uint8_t adjustBias, double alpha, double step);
+
+/// Pearson: power over the difference of the correlations.
+KELPOWER_API XYPlot PlotRiskDiffOneSampPearson(double sampleSize, double nullCorrelation, int oneSided,
+                                               std::uint8_t adjustBias, double alpha, double step);
+
+/// Pearson: power over the sample size, in steps of 2 from a span of 1000 on, and the lower half of the
+/// differences; no start at 0.
+KELPOWER_API XYZPlot PlotNRiskDiffOneSampPearson(double sampleSize, double alternativeCorrelation,
+                                                 double nullCorrelation, int oneSided, std::uint8_t adjustBias,
+                                                 double alpha, int sampleSizeFrom, int sampleSizeTo, double step);
+
+/// Pearson: power over the sample size and the null correlation; a start at 0 is taken as it stands.
+KELPOWER_API XYZPlot PlotNNullOneSampPearson(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                             int oneSided, std::uint8_t adjustBias, double alpha, int sampleSizeFrom,
+                                             int sampleSizeTo, double step);
+
+/// Pearson: power over the sample size and the alternative correlation; a start at 0 is taken as it stands.
+KELPOWER_API XYZPlot PlotNAlterOneSampPearson(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                              int oneSided, std::uint8_t adjustBias, double alpha, int sampleSizeFrom,
+                                              int sampleSizeTo, double step);
+
+/// Pearson: power over the null correlation (x) and the alternative one (y).
+KELPOWER_API XYZPlot PlotNullAlterOneSampPearson(double sampleSize, int oneSided, std::uint8_t adjustBias, double alpha,
+                                                 double step);
+
+/// Spearman: power over the sample size; no start at 0.
+KELPOWER_API XYPlot PlotNOneSampSpearman(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                         int varianceMethod, int oneSided, double alpha, int sampleSizeFrom,
+                                         int sampleSizeTo);
+
+/// Spearman: power over the null correlation.
+KELPOWER_API XYPlot PlotNullOneSampSpearman(double sampleSize, double alternativeCorrelation, int varianceMethod,
+                                            int oneSided, double alpha, double step);
+
+/// Spearman: power over the alternative correlation.
+KELPOWER_API XYPlot PlotAlterOneSampSpearman(double sampleSize, double nullCorrelation, int varianceMethod,
+                                             int oneSided, double alpha, double step);
+
+/// Spearman: power over the difference of the correlations.
+KELPOWER_API XYPlot PlotRiskDiffOneSampSpearman(double sampleSize, double nullCorrelation, int varianceMethod,
+                                                int oneSided, double alpha, double step);
+
+/// Spearman: power over the sample size, in steps of 2 from a span of 1000 on, and the lower half of the
+/// differences; no start at 0.
+KELPOWER_API XYZPlot PlotNRiskDiffOneSampSpearman(double sampleSize, double alternativeCorrelation,
+                                                  double nullCorrelation, int varianceMethod, int oneSided,
+                                                  double alpha, int sampleSizeFrom, int sampleSizeTo, double step);
+
+/// Spearman: power over the sample size and the null correlation; a start at 0 stands for max(4, (1 - P) N) to (2 -
+/// P) N, where P is the power at N = `sampleSize`.
+KELPOWER_API XYZPlot PlotNNullOneSampSpearman(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                              int varianceMethod, int oneSided, double alpha, int sampleSizeFrom,
+                                              int sampleSizeTo, double step);
+
+/// Spearman: power over the sample size and the alternative correlation; a start at 0 as in
+/// `PlotNNullOneSampSpearman`.
+KELPOWER_API XYZPlot PlotNAlterOneSampSpearman(double sampleSize, double alternativeCorrelation, double nullCorrelation,
+                                               int varianceMethod, int oneSided, double alpha, int sampleSizeFrom,
+                                               int sampleSizeTo, double step);
+
+/// Spearman: power over the null correlation (x) and the alternative one (y).
+KELPOWER_API XYZPlot PlotNullAlterOneSampSpearman(double sampleSize, int varianceMethod, int oneSided, double alpha,
+                                                  double step);
+
+/// Partial correlation: power over the sample size; a start at 0 stands for k + 4 to k + 5000.
+KELPOWER_API XYPlot PlotNOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
+                                        double nullCorrelation, int oneSided, double alpha, int sampleSizeFrom,
+                                        int sampleSizeTo);
+
+/// Partial correlation: power over the null correlation.
+KELPOWER_API XYPlot PlotNullOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
+                                           int oneSided, double alpha, double step);
+
+/// Partial correlation: power over the alternative correlation.
+KELPOWER_API XYPlot PlotAlterOneSampPartial(double sampleSize, double partialledOut, double nullCorrelation,
+                                            int oneSided, double alpha, double step);
+
+/// Partial correlation: power over the difference of the correlations.
+KELPOWER_API XYPlot PlotRiskDiffOneSampPartial(double sampleSize, double partialledOut, double nullCorrelation,
+                                               int oneSided, double alpha, double step);
+
+/// Partial correlation: power over the sample size, in steps of 2 from a span of 1000 on, and the lower half of the
+/// differences; a start at 0 stands for k + 4 to k + 5000.
+KELPOWER_API XYZPlot PlotNRiskDiffOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
+                                                 double nullCorrelation, int oneSided, double alpha, int sampleSizeFrom,
+                                                 int sampleSizeTo, double step);
+
+/// Partial correlation: power over the sample size and the null correlation; a start at 0 stands for k + 4 to k +
+/// 5000.
+KELPOWER_API XYZPlot PlotNNullOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
+                                             double nullCorrelation, int oneSided, double alpha, int sampleSizeFrom,
+                                             int sampleSizeTo, double step);
+
+/// Partial correlation: power over the sample size and the alternative correlation; a start at 0 stands for k + 4
+/// to k + 5000.
+KELPOWER_API XYZPlot PlotNAlterOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
+                                              double nullCorrelation, int oneSided, double alpha, int sampleSizeFrom,
+                                              int sampleSizeTo, double step);
+
+/// Partial correlation: power over the null correlation (x) and the alternative one (y).
+KELPOWER_API XYZPlot PlotNullAlterOneSampPartial(double sampleSize, double partialledOut, int oneSided, double alpha,
+                                                 double step);
+
+/// Partial correlation: power over the number of variables partialled out, from 0 to N - 5, N truncated.
+KELPOWER_API XYPlot PlotNPartialoutOneSampPartial(double sampleSize, double alternativeCorrelation,
+                                                  double nullCorrelation, int oneSided, double alpha);
+
+// ---------------------------------------------------------------------------------------------------------------------
+// Multiple linear regression
+// ---------------------------------------------------------------------------------------------------------------------
+//
+// The F test that some predictors add nothing: all of them, or those beyond a reduced model. Arguments shared by this
+// section:
+/// \param sampleSize N, number of cases, at least p + 1, or p + 2 with an intercept; whole numbers are not required.
+///        On surfaces it serves the automatic range, and is checked in any case
+/// \param predictors p, number of predictors of the full model, at least 1
+/// \param testedPredictors q, number of predictors tested, from 1 to p
+/// \param fullModelFit,reducedRSquared where `reducedRSquared` is 0, there is no reduced model and `fullModelFit` is
+/// the
+///        multiple correlation R, in (-1, 1); otherwise both are R squared, in (0, 1), the reduced one not the larger
+/// \param effectSize f^2, the variance explained by the tested predictors over the unexplained one; not checked. One
+///        below 0 gives power 1 with fixed predictors and NaN with random ones
+/// \param randomPredictors 0: predictors fixed by design, noncentral F with noncentrality N f^2; otherwise:
+/// multivariate
+///        normal predictors, exact distribution of the squared multiple correlation. Charts are drawn more coarsely
+///        when it is exactly 1, and not at other values, which is intended
+/// \param includeIntercept flag: the model has an intercept, so the error degrees of freedom are N - p - 1, not N - p
+/// \param alpha significance level, in (0, 1); one below 5.6e-17 is rejected
+/// \param power wanted power; not checked
+/// \param sampleSizeFrom,sampleSizeTo ends of the sample-size axis, from p (p + 1 with an intercept) to p + 5000; 0 in
+///        either asks for an automatic range
+/// \param step distance of the points on the other axis, above 0
+//
+// Powers for invalid input are -1, charts empty, sizes missing.
+// Method: Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., ch. 9; for random predictors
+// Gurland (1968), J. R. Statist. Soc. B 30, 276-283. docs/regression.md has the formulas.
+
+/// Power for given model fits.
+KELPOWER_API double Powerbymlr(double sampleSize, double predictors, double testedPredictors, double fullModelFit,
+                               double reducedRSquared, int randomPredictors, std::uint8_t includeIntercept,
+                               double alpha);
+
+/// Power for a given effect size.
+KELPOWER_API double PowerbymlrwES(double sampleSize, double predictors, double testedPredictors, double effectSize,
+                                  int randomPredictors, std::uint8_t includeIntercept, double alpha);
+
+/// Sample size, not rounded, at which the test for given model fits reaches a power; missing when none does.
+KELPOWER_API double PowerReversebymlr(double power, double predictors, double testedPredictors, double fullModelFit,
+                                      double reducedRSquared, int randomPredictors, std::uint8_t includeIntercept,
+                                      double alpha);
+
+/// The same for a given effect size.
+KELPOWER_API double PowerReversebymlrwES(double power, double predictors, double testedPredictors, double effectSize,
+                                         int randomPredictors, std::uint8_t includeIntercept, double alpha);
+
+/// Power over the sample size for given model fits, in single precision. Automatic range: p + 1, or p + 2 with an
+/// intercept, to p + 5000. With `randomPredictors` 1 the steps are 5, 10, 20 and 50 from spans of 150, 500, 1000 and
+/// 2000 on, and the last point may lie beyond the end. A reduced model that fits better than the full one gives points
+/// of -1.
+KELPOWER_API XYPlot PlotNmlr(double predictors, double testedPredictors, double fullModelFit, double reducedRSquared,
+                             int randomPredictors, std::uint8_t includeIntercept, double alpha, int sampleSizeFrom,
+                             int sampleSizeTo);
+
+/// The same for a given effect size.
+KELPOWER_API XYPlot PlotNmlrFES(double predictors, double testedPredictors, double effectSize, int randomPredictors,
+                                std::uint8_t includeIntercept, double alpha, int sampleSizeFrom, int sampleSizeTo);
+
+/// Power over f^2, from `step` to below 1, in single precision.
+KELPOWER_API XYPlot PlotESmlr(double sampleSize, double predictors, double testedPredictors, int randomPredictors,
+                              std::uint8_t includeIntercept, double alpha, double step);
+
+/// Power over the multiple correlation R, from -1 + `step` to below 1, in single precision. A `step` that does not
+/// divide 2 leaves out the last point below 1. With `randomPredictors` 1 the step is 0.05.
+KELPOWER_API XYPlot PlotCorrmlr(double sampleSize, double predictors, double testedPredictors, int randomPredictors,
+                                std::uint8_t includeIntercept, double alpha, double step);
+
+/// Power over the sample size and the multiple correlation R, from -1 + `step` to below 1, in single precision.
+/// Automatic range of the sizes: that of `PlotNmlr` with fixed predictors; with random ones max(p + 2, (1 - P) N) to
+/// (2 - P) N, where P is the power at `sampleSize` and the given fits, which serve for nothing else. With
+/// `randomPredictors` 1 the sizes go in steps of 2 from a span of 100 on, and R in steps of 0.05.
+KELPOWER_API XYZPlot PlotNaCorrmlr(double sampleSize, double predictors, double testedPredictors, double fullModelFit,
+                                   double reducedRSquared, int randomPredictors, std::uint8_t includeIntercept,
+                                   double alpha, int sampleSizeFrom, int sampleSizeTo, double step);
+
+/// The same over the sample size and f^2, from `step` to below 1.
+KELPOWER_API XYZPlot PlotNaESmlr(double sampleSize, double predictors, double testedPredictors, double effectSize,
+                                 int randomPredictors, std::uint8_t includeIntercept, double alpha, int sampleSizeFrom,
+                                 int sampleSizeTo, double step);
+
 }  // extern "C"
 
 #endif

@@ -10,7 +10,7 @@ from pathlib import Path
 root, build = Path(sys.argv[1]).resolve(), Path(sys.argv[2]).resolve()
 FOLDERS = ("src", "kelcommon", "planner", "cli")
 
-notes = sorted(build.rglob("*.gcno"))
+notes = sorted(note for folder in FOLDERS for note in (build / folder).rglob("*.gcno"))
 if not notes:
     sys.exit(f"{build} has no coverage data: run make coverage")
 hits = defaultdict(lambda: defaultdict(int))  # file -> line -> how often it was run

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "choose_route.h"
 #include "planner/catalogue.h"
 #include "planner/render.h"
 
@@ -39,6 +40,16 @@ std::string Usage(const Test& test, const Route& route) {
   return text;
 }
 
+/// Whether the line of another route says all that this one's would, such as that of the one-sided form of a test.
+bool IsCovered(const Test& test, const Route& route) {
+  return std::any_of(test.routes.begin(), test.routes.end(), [&](const Route& other) {
+    const auto takes = [&](const std::string& option) { return Takes(other, option); };
+    return other.question == route.question && other.needs == route.needs &&
+           other.accepts.size() > route.accepts.size() &&
+           std::all_of(route.accepts.begin(), route.accepts.end(), takes);
+  });
+}
+
 std::string UsageSection(const Test& test, const Paint& paint) {
   std::string text;
   for (Question question :
@@ -46,11 +57,28 @@ std::string UsageSection(const Test& test, const Paint& paint) {
     if (!Answers(test, question)) continue;
     text += fmt::format("{}To be told {}{}\n", paint.heading, Wording(question), paint.end);
     for (const Route& route : test.routes) {
-      if (route.question == question) text += "  " + Usage(test, route) + '\n';
+      if (route.question == question && !IsCovered(test, route)) text += "  " + Usage(test, route) + '\n';
     }
     text += '\n';
   }
   return text;
+}
+
+std::string ChartUsage(const Chart& chart) {
+  std::string text = fmt::format("--chart {}  power over {}", chart.name, chart.axes.front().title);
+  if (chart.axes.size() > 1) text += " and " + chart.axes.back().title;
+  return text;
+}
+
+std::string ChartSection(const Test& test, const Paint& paint) {
+  if (test.charts.empty()) return "";
+  std::string text = fmt::format("\n{}Charts{}\n", paint.heading, paint.end);
+  for (const Chart& chart : test.charts)
+    text += fmt::format("  {}\n    kelpower {}\n", ChartUsage(chart), chart.example);
+  return text +
+         "  --from NUMBER --to NUMBER  ends of the axis; of two axes, two numbers each: --from 12,2\n"
+         "  --step NUMBER              step of an axis that is not of sizes, as a share of its range (default 0.01)\n"
+         "  --output FILE              .svg, .png, .pdf, .csv or .json; without it the chart is drawn in characters\n";
 }
 
 std::string OptionLines(const Test& test) {
@@ -76,6 +104,7 @@ std::string RenderHelp(const Test& test, const Paint& paint) {
                                  paint.end, test.about);
   text += UsageSection(test, paint);
   text += fmt::format("{}Options{}\n{}", paint.heading, paint.end, OptionLines(test));
+  text += ChartSection(test, paint);
   for (const Example& example : test.examples) {
     text += fmt::format("\n{}Example{}: kelpower {}\n  {}\n", paint.heading, paint.end, example.arguments,
                         example.sentence);

@@ -89,6 +89,21 @@ Json ToJson(const Route& route) {
           {"export", route.exportName}};
 }
 
+Json ToJson(const Axis& axis) {
+  return {{"title", axis.title}, {"symbol", axis.symbol}, {"limits", ToJson(axis.limits)}};
+}
+
+Json ToJson(const Chart& chart) {
+  Json object;
+  object["name"] = chart.name;
+  for (const Axis& axis : chart.axes) object["axes"].push_back(ToJson(axis));
+  object["needs"] = chart.needs;
+  object["accepts"] = chart.accepts;
+  object["export"] = chart.exportName;
+  object["example"] = chart.example;
+  return object;
+}
+
 Json ToJson(const Test& test) {
   Json object;
   object["name"] = test.name;
@@ -100,6 +115,7 @@ Json ToJson(const Test& test) {
   for (const Example& example : test.examples) {
     object["examples"].push_back({{"arguments", example.arguments}, {"sentence", example.sentence}});
   }
+  for (const Chart& chart : test.charts) object["charts"].push_back(ToJson(chart));
   return object;
 }
 

@@ -6,6 +6,7 @@
 #include <numeric>
 
 #include "choose_route.h"
+#include "kelcommon/kel_mv.h"
 #include "sentence.h"
 
 namespace planner {
@@ -111,6 +112,7 @@ std::vector<Entry> ResultEntries(const Test& test, const Route& route, const Inp
     const auto has = [&](const std::string& name) { return inputs.Has(name) && Takes(route, name); };
     if (!std::all_of(derived.needs.begin(), derived.needs.end(), has)) continue;
     const double figure = derived.call(inputs);
+    if (KelCommon::KelMV::IsMissing(figure)) continue;
     entries.push_back({derived.name, derived.label, figure, fmt::format("{:.4g}", figure)});
   }
   if (findings.sizesFound && grouped) {

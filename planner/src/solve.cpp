@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "checks.h"
 #include "choose_route.h"
 #include "planner/error.h"
 #include "report.h"
@@ -31,23 +32,6 @@ bool IsHalfWidth(double value) { return value >= 0 && std::isfinite(value); }
 
 bool AreSizes(const Numbers& sizes) {
   return std::all_of(sizes.begin(), sizes.end(), [](double size) { return size > 0 && std::isfinite(size); });
-}
-
-void CheckValues(const Test& test, const Given& given) {
-  for (const auto& [name, value] : given) {
-    const Parameter* parameter = FindParameter(test, name);
-    if (!parameter) throw InputError(fmt::format("--{} is not an option of {}.", name, test.name));
-    Check(*parameter, value);
-  }
-}
-
-const Condition* FirstFailing(const std::vector<Condition>& conditions, const Inputs& inputs) {
-  for (const Condition& condition : conditions) {
-    const auto has = [&](const std::string& name) { return inputs.Has(name); };
-    if (!std::all_of(condition.about.begin(), condition.about.end(), has)) continue;
-    if (!condition.holds(inputs)) return &condition;
-  }
-  return nullptr;
 }
 
 /// A power below alpha is reached without any effect; at alpha itself rounding would decide.
@@ -113,7 +97,7 @@ Report Solve(const Test& test, const Given& given, StopRequest* stop) {
   const Names names = GivenNames(given);
   const Route& route = ChooseRoute(test, AskedQuestion(names), names);
   const Inputs inputs(test, given, stop);
-  if (const Condition* failing = FirstFailing(test.conditions, inputs)) throw InputError(failing->sentence);
+  CheckConditions(test, inputs);
   if (NeedsEffect(route.question, inputs)) {
     if (const Condition* failing = FirstFailing(test.solvable, inputs)) throw NoSolution(failing->sentence);
   }

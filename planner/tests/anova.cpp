@@ -12,6 +12,114 @@ bool MeansDiffer(const Inputs& in) {
   return false;
 }
 
+Parameter EffectF() {
+  return Number("effect-f", "effect size f", "standard deviation of the group means over that within the groups")
+      .AtLeast(0)
+      .AtMost(1e6);
+}
+
+Parameter EtaSquared() {
+  return Number("eta-squared", "eta squared", "proportion of variance explained by the groups").AtLeast(0).Below(1);
+}
+
+std::vector<Chart> Charts() {
+  const Axis size = TotalSizeAxis();
+  const Axis sd = ParameterAxis(WithinSd(), "SD", [](const Inputs& in) { return in.Number("sd"); });
+  const Axis f = ParameterAxis(EffectF(), "f", [](const Inputs& in) { return in.Number("effect-f"); });
+  const Axis eta =
+      ParameterAxis(EtaSquared(), "eta squared", [](const Inputs& in) { return in.Number("eta-squared"); });
+  return {
+      {"n",
+       {size},
+       {"means", "sd", "n"},
+       {"groups"},
+       "PlotNOverallTest",
+       "anova --means 10,12,15 --sd 6 --n 20,20,20 --chart n",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotNOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(),
+                                       r.x.First(), r.x.Last(), in.Alpha()));
+       }},
+      {"n",
+       {size},
+       {"effect-f", "n"},
+       {"groups"},
+       "PlotNOverallTestFES",
+       "anova --effect-f 0.25 --n 30,30,40 --chart n --from 30 --to 300",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotNOverallTestFES(in.Groups(), in.Number("effect-f"), 0, in.List("n").data(), r.x.First(),
+                                          r.x.Last(), in.Alpha()));
+       }},
+      {"n",
+       {size},
+       {"eta-squared", "n"},
+       {"groups"},
+       "PlotNOverallTestFES",
+       "anova --eta-squared 0.06 --n 30 --groups 4 --chart n",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotNOverallTestFES(in.Groups(), in.Number("eta-squared"), 1, in.List("n").data(), r.x.First(),
+                                          r.x.Last(), in.Alpha()));
+       }},
+      {"effect",
+       {f},
+       {"effect-f", "n"},
+       {"groups"},
+       "PlotESOverallTest",
+       "anova --effect-f 0.25 --n 30,30,40 --chart effect --from 0 --to 1",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotESOverallTest(in.Groups(), 0, in.List("n").data(), r.x.from, r.x.to, in.Alpha(), r.step));
+       }},
+      {"effect",
+       {eta},
+       {"eta-squared", "n"},
+       {"groups"},
+       "PlotESOverallTest",
+       "anova --eta-squared 0.06 --n 30 --groups 4 --chart effect",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotESOverallTest(in.Groups(), 1, in.List("n").data(), r.x.from, r.x.to, in.Alpha(), r.step));
+       }},
+      {"sd",
+       {sd},
+       {"means", "sd", "n"},
+       {"groups"},
+       "PlotSDOverallTest",
+       "anova --means 10,12,15 --sd 6 --n 20,20,20 --chart sd --from 2 --to 12",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotSDOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(),
+                                        r.x.from, r.x.to, in.Alpha(), r.step));
+       }},
+      {"n-sd",
+       {size, sd},
+       {"means", "sd", "n"},
+       {"groups"},
+       "PlotNaSDOverallTest",
+       "anova --means 10,12,15 --sd 6 --n 20,20,20 --chart n-sd --from 12,2 --to 150,12",
+       [](const Inputs& in, const Ranges& r) {
+         return Surface(PlotNaSDOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(),
+                                            r.x.First(), r.x.Last(), r.y.from, r.y.to, in.Alpha(), r.step));
+       }},
+      {"n-effect",
+       {size, f},
+       {"effect-f", "n"},
+       {"groups"},
+       "PlotNaESOverallTest",
+       "anova --effect-f 0.25 --n 30,30,40 --chart n-effect --from 12,0 --to 200,1",
+       [](const Inputs& in, const Ranges& r) {
+         return Surface(PlotNaESOverallTest(in.Groups(), in.Number("effect-f"), 0, in.List("n").data(), r.x.First(),
+                                            r.x.Last(), r.y.from, r.y.to, in.Alpha(), r.step));
+       }},
+      {"n-effect",
+       {size, eta},
+       {"eta-squared", "n"},
+       {"groups"},
+       "PlotNaESOverallTest",
+       "anova --eta-squared 0.06 --n 30 --groups 4 --chart n-effect",
+       [](const Inputs& in, const Ranges& r) {
+         return Surface(PlotNaESOverallTest(in.Groups(), in.Number("eta-squared"), 1, in.List("n").data(), r.x.First(),
+                                            r.x.Last(), r.y.from, r.y.to, in.Alpha(), r.step));
+       }},
+  };
+}
+
 Test Describe() {
   Test test;
   test.name = "anova";
@@ -20,15 +128,7 @@ Test Describe() {
   test.groups = groupsFromInputs;
 
   test.parameters = {
-      GroupMeans(),
-      WithinSd(),
-      Number("effect-f", "effect size f", "standard deviation of the group means over that within the groups")
-          .AtLeast(0)
-          .AtMost(1e6),
-      Number("eta-squared", "eta squared", "proportion of variance explained by the groups").AtLeast(0).Below(1),
-      GroupSizes(),
-      AllocationRatios(),
-      GroupCount(),
+      GroupMeans(), WithinSd(), EffectF(), EtaSquared(), GroupSizes(), AllocationRatios(), GroupCount(),
   };
 
   test.routes = {
@@ -167,6 +267,7 @@ Test Describe() {
        "within the groups, the study needs 22 observations in each of 3 groups (66 in total); the half-width is then "
        "1.476."},
   };
+  test.charts = Charts();
   return test;
 }
 

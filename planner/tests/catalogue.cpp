@@ -9,6 +9,11 @@ const std::vector<Test>& Tests() {
       AnovaTest(),
       ContrastTest(),
       PairwiseTest(),
+      MeanTest(),
+      PairedMeansTest(),
+      TwoMeansTest(),
+      ProportionTest(),
+      PairedProportionsTest(),
   };
   return tests;
 }

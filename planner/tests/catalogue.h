@@ -8,5 +8,10 @@ namespace planner {
 Test AnovaTest();
 Test ContrastTest();
 Test PairwiseTest();
+Test MeanTest();
+Test PairedMeansTest();
+Test TwoMeansTest();
+Test ProportionTest();
+Test PairedProportionsTest();
 
 }  // namespace planner

@@ -32,6 +32,54 @@ bool SumToZero(const Inputs& in) {
   return size > 0 && std::abs(sum) <= typingError * size;
 }
 
+std::vector<Chart> Charts() {
+  const Axis size = TotalSizeAxis();
+  const Axis sd = ParameterAxis(WithinSd(), "SD", [](const Inputs& in) { return in.Number("sd"); });
+  return {
+      {"n",
+       {size},
+       {"coefficients", "means", "sd", "n"},
+       {"one-sided"},
+       "PlotNSC",
+       "contrast --coefficients -0.5,-0.5,1 --means 10,12,15 --sd 6 --n 20 --chart n",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotNSC(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(),
+                              Coefficients(in).data(), r.x.First(), r.x.Last(), in.Flag("one-sided"), in.Alpha()));
+       }},
+      {"n",
+       {WithRange(size, AroundTotalSize)},
+       {"coefficients", "effect-d", "n"},
+       {"one-sided"},
+       "PlotNSCFES",
+       "contrast --coefficients 1,-1,0 --effect-d 0.5 --n 40 --chart n",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotNSCFES(in.Groups(), in.Number("effect-d"), in.List("n").data(), Coefficients(in).data(),
+                                 r.x.First(), r.x.Last(), in.Flag("one-sided"), in.Alpha()));
+       }},
+      {"sd",
+       {sd},
+       {"coefficients", "means", "sd", "n"},
+       {"one-sided"},
+       "PlotSDSC",
+       "contrast --coefficients -0.5,-0.5,1 --means 10,12,15 --sd 6 --n 20 --chart sd --from 2 --to 12",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotSDSC(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(),
+                               Coefficients(in).data(), r.x.from, r.x.to, in.Flag("one-sided"), in.Alpha(), r.step));
+       }},
+      {"n-sd",
+       {size, sd},
+       {"coefficients", "means", "sd", "n"},
+       {"one-sided"},
+       "PlotNaSDSC",
+       "contrast --coefficients -0.5,-0.5,1 --means 10,12,15 --sd 6 --n 20 --chart n-sd --from 12,2 --to 150,12",
+       [](const Inputs& in, const Ranges& r) {
+         return Surface(PlotNaSDSC(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(),
+                                   Coefficients(in).data(), r.x.First(), r.x.Last(), r.y.from, r.y.to,
+                                   in.Flag("one-sided"), in.Alpha(), r.step));
+       }},
+  };
+}
+
 Test Describe() {
   Test test;
   test.name = "contrast";
@@ -172,6 +220,7 @@ Test Describe() {
        "2, at a standard deviation of 6 within the groups, the study needs 53 observations in each of 3 groups (159 in "
        "total); the half-width is then 1.994."},
   };
+  test.charts = Charts();
   return test;
 }
 

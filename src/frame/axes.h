@@ -12,8 +12,9 @@ struct Axis {
   double start;
   double step;
   std::optional<double> end = std::nullopt;  ///< the last position where it is set apart from the grid
+  std::int32_t firstIndex = 0;               ///< 1 where the first position is start + step
 
-  double At(std::int32_t i) const { return end && i == count - 1 ? *end : i * step + start; }
+  double At(std::int32_t i) const { return end && i == count - 1 ? *end : (i + firstIndex) * step + start; }
 };
 
 /// Which positions an axis between two ends has besides the whole steps below its end.

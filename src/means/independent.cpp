@@ -27,8 +27,8 @@ struct Difference {
 Difference PooledDifference(double n1, double n2, double sd) { return {n1 + n2 - 2, sd * std::sqrt(1 / n1 + 1 / n2)}; }
 
 // With a_i = sd_i^2 / n_i the standard error is sqrt(a1 + a2) and the degrees of freedom are
-// (a1 + a2)^2 / (a1^2 / (n1 - 1) + a2^2 / (n2 - 1)). Both are formed from scaled standard deviations, and the second from
-// the shares a_i / (a1 + a2): squares of a_i underflow from sizes of 1e154 on.
+// (a1 + a2)^2 / (a1^2 / (n1 - 1) + a2^2 / (n2 - 1)). Both are formed from scaled standard deviations, and the second
+// from the shares a_i / (a1 + a2): squares of a_i underflow from sizes of 1e154 on.
 Difference WelchDifference(double n1, double sd1, double n2, double sd2) {
   const double scale = BinaryScale(std::max(std::fabs(sd1), std::fabs(sd2)));
   const double a1 = Square(sd1 / scale) / n1;
@@ -76,9 +76,8 @@ void AppendSizesForPower(Sides sides, double power, double ratio, const RawDesig
 
 void AppendSizesForPowerES(Sides sides, double power, double ratio, double effectSize, DoubleVector& results,
                            double alpha) {
-  const double size1 = SearchSize([=](double n) {
-    return PowerOrMissing(StandardizedTest(sides, n, ratio * n, alpha), effectSize) - power;
-  });
+  const double size1 = SearchSize(
+      [=](double n) { return PowerOrMissing(StandardizedTest(sides, n, ratio * n, alpha), effectSize) - power; });
   AppendGroupSizes(size1, ratio, results);
 }
 
@@ -195,8 +194,7 @@ extern "C" void PowerReverseIndependentDirectionalES(double power, double ratio,
   AppendSizesForPowerES(Sides::One, power, ratio, effectSize, results, alpha);
 }
 
-extern "C" double HalfCIIndependentMeans(double sampleSize1, double sd1, double sampleSize2, double sd2,
-                                         double alpha) {
+extern "C" double HalfCIIndependentMeans(double sampleSize1, double sd1, double sampleSize2, double sd2, double alpha) {
   const Difference difference = IndependentDifference(sampleSize1, sd1, sampleSize2, sd2);
   return IntervalQuantileT(alpha, difference.df) * difference.standardError;
 }

@@ -78,7 +78,8 @@ XYPlot CurveOverRatios(const std::optional<Axis>& ratios, double effect, TestAtR
 
 /// The surface over ratios (x) and effects (y). A value outside [0, 1] beyond the first column is replaced by the
 /// element of the array of y whose index its left neighbour has in z: in the first row the effect before it, and the
-/// missing value in the others, where the index lies beyond the array. Replacements are intended to be stored unrounded.
+/// missing value in the others, where the index lies beyond the array. Replacements are intended to be stored
+/// unrounded.
 XYZPlot SurfaceOverRatios(const std::optional<Axis>& ratios, const std::optional<Axis>& effects, TestAtRatio testAt) {
   bool isFirstRow = true;
   return SurfaceByRows(ratios, effects, Precision::Double, [&](double ratio, const SurfaceLine& row) {
@@ -113,13 +114,11 @@ extern "C" XYPlot PlotRatioIndependent(double totalSize, double mean1, double sd
   const Sides sides = SidesOf(directional);
   const std::optional<Axis> axis = EvenAxis(*ratios, stepFraction);
   if (sd1 == sd2) {
-    return CurveOverRatios(axis, (mean1 - mean2) / sd1, [=](double ratio) {
-      return StandardizedTestByTotal(sides, totalSize, ratio, alpha);
-    });
+    return CurveOverRatios(axis, (mean1 - mean2) / sd1,
+                           [=](double ratio) { return StandardizedTestByTotal(sides, totalSize, ratio, alpha); });
   }
-  return CurveOverRatios(axis, mean1 - mean2, [=](double ratio) {
-    return WelchTestByTotal(sides, totalSize, ratio, sd1, sd2, alpha);
-  });
+  return CurveOverRatios(axis, mean1 - mean2,
+                         [=](double ratio) { return WelchTestByTotal(sides, totalSize, ratio, sd1, sd2, alpha); });
 }
 
 extern "C" XYPlot PlotRatioIndependentFES(double totalSize, double effectSize, double minRatio, double maxRatio,
@@ -130,9 +129,8 @@ extern "C" XYPlot PlotRatioIndependentFES(double totalSize, double effectSize, d
   if (RejectsAlpha(alpha)) return EmptyCurve();
 
   const Sides sides = SidesOf(directional);
-  return CurveOverRatios(EvenAxis(*ratios, stepFraction), effectSize, [=](double ratio) {
-    return StandardizedTestByTotal(sides, totalSize, ratio, alpha);
-  });
+  return CurveOverRatios(EvenAxis(*ratios, stepFraction), effectSize,
+                         [=](double ratio) { return StandardizedTestByTotal(sides, totalSize, ratio, alpha); });
 }
 
 extern "C" XYPlot PlotESIndepended(double sampleSize1, double sampleSize2, double minEffectSize, double maxEffectSize,
@@ -179,9 +177,8 @@ extern "C" XYZPlot PlotRatioaESIndependent(double totalSize, double minRatio, do
   if (totalSize <= 1) return EmptySurface();
   if (RejectsAlpha(alpha)) return EmptySurface();
 
-  return SurfaceOverRatios(
-      EvenAxis(*ratios, stepFraction), EvenAxis({*start, maxEffectSize}, stepFraction),
-      [=](double ratio) { return StandardizedTestByTotal(sides, totalSize, ratio, alpha); });
+  return SurfaceOverRatios(EvenAxis(*ratios, stepFraction), EvenAxis({*start, maxEffectSize}, stepFraction),
+                           [=](double ratio) { return StandardizedTestByTotal(sides, totalSize, ratio, alpha); });
 }
 
 extern "C" XYZPlot PlotRatioaMeanDiffIndependent(double totalSize, double mean1, double sd1, double mean2, double sd2,
@@ -199,7 +196,7 @@ extern "C" XYZPlot PlotRatioaMeanDiffIndependent(double totalSize, double mean1,
   if (RejectsAlpha(alpha)) return EmptySurface();
 
   const Sides sides = SidesOf(directional);
-  return SurfaceOverRatios(
-      EvenAxis(*ratios, stepFraction), EvenAxis(*range, 2 * stepFraction),  // differences are twice as coarse
-      [=](double ratio) { return WelchTestByTotal(sides, totalSize, ratio, sd1, sd2, alpha); });
+  return SurfaceOverRatios(EvenAxis(*ratios, stepFraction),
+                           EvenAxis(*range, 2 * stepFraction),  // differences are twice as coarse
+                           [=](double ratio) { return WelchTestByTotal(sides, totalSize, ratio, sd1, sd2, alpha); });
 }

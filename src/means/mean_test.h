@@ -41,8 +41,8 @@ double PowerOrMissing(const std::optional<MeanTest>& test, double effect);
 /// there is no estimate of the variance. Unrounded; missing where no size reaches it.
 double SearchSize(FunctionView<double(double size)> objective);
 
-/// Where the axis of effect sizes from `minEffectSize` on starts. For a two-sided test -5 asks for a start at 0, and any
-/// other negative effect is refused (no start).
+/// Where the axis of effect sizes from `minEffectSize` on starts. For a two-sided test -5 asks for a start at 0, and
+/// any other negative effect is refused (no start).
 std::optional<double> EffectSizeStart(Sides sides, double minEffectSize);
 
 /// A power of two near `x` by which terms can be divided, exactly, before they are squared. It is 1 for 0 and for what

@@ -47,8 +47,7 @@ extern "C" double PowerOneSampleDirectionalES(double sampleSize, double effectSi
   return DirectionalPower(sampleSize, effectSize, alpha);
 }
 
-extern "C" double PowerOneSampleDirectional(double sampleSize, double mean, double sd, double testValue,
-                                            double alpha) {
+extern "C" double PowerOneSampleDirectional(double sampleSize, double mean, double sd, double testValue, double alpha) {
   if (RejectsStandardDeviation(sd)) return KelMV::Missing();
   return DirectionalPower(sampleSize, (mean - testValue) / sd, alpha);
 }

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cmath>
 #include <cstring>
 #include <iterator>
@@ -84,11 +83,8 @@ protected:
 
   void CheckOne() {
     ++calls_;
-    const auto start = std::chrono::steady_clock::now();
     const Outcome first = function_.call(arguments_);
-    const auto duration = std::chrono::steady_clock::now() - start;
     const Outcome second = function_.call(arguments_);
-    if (duration > std::chrono::milliseconds(20)) ++slowCalls_;
     bool hasNan = false;
     for (const double argument : arguments_) hasNan = hasNan || std::isnan(argument);
     const bool isRight = IsSameBits(first.value, second.value) && first.err == second.err &&
@@ -104,16 +100,14 @@ protected:
   const Function& function_ = FindFunction(GetParam());
   Arguments arguments_{};
   long calls_ = 0;
-  long slowCalls_ = 0;
   long failures_ = 0;
 };
 
-// NaN exactly when an argument is NaN; otherwise the missing value or a value in range; the same bits twice.
+// NaN exactly when an argument is NaN; otherwise the missing value or a value in range; the same bits twice. A call
+// that does not return is ended by the time limit of the test run; the accuracy program measures the times.
 TEST_P(Totality, AnswersEverySpecialArgument) {
   CheckAll(0);
   EXPECT_EQ(failures_, 0) << "of " << calls_ << " calls";
-  // A busy machine may halt a few calls; a slow method is slow for many.
-  EXPECT_LE(slowCalls_, 10 + calls_ / 1000) << "calls above 20 ms, of " << calls_;
 }
 
 std::vector<std::string> Names() {

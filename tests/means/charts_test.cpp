@@ -114,8 +114,8 @@ TEST(PlotNaESOneSample, HoldsThePowerAtEveryPoint) {
       for (int j = 0; j < 7; ++j) {
         const double d = oneSample.x[i];
         const double n = oneSample.y[j];
-        const double power = directional != 0 ? PowerOneSampleDirectionalES(n, d, 0.05)
-                                              : PowerOneSampleNondirectionalES(n, d, 0.05);
+        const double power =
+            directional != 0 ? PowerOneSampleDirectionalES(n, d, 0.05) : PowerOneSampleNondirectionalES(n, d, 0.05);
         EXPECT_EQ(oneSample.z[i * 7 + j], Single(power));
         EXPECT_EQ(paired.z[i * 7 + j], Single(power));
       }

@@ -168,8 +168,7 @@ TEST(PlotRatioaESIndependent, HoldsThePowerAtEveryPoint) {
   for (int i = 0; i < 5; ++i) {
     const double n = 50 / (plot.x[i] + 1);
     for (int j = 0; j < 5; ++j) {
-      EXPECT_EQ(plot.z[i * 5 + j],
-                Single(PowerIndependentNondirectionalES(n, n * plot.x[i], plot.y[j], 0.05)));
+      EXPECT_EQ(plot.z[i * 5 + j], Single(PowerIndependentNondirectionalES(n, n * plot.x[i], plot.y[j], 0.05)));
     }
   }
   FreeMemXYZPlot(&plot);

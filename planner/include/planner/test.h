@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "planner/chart.h"
 #include "planner/inputs.h"
 #include "planner/parameter.h"
 
@@ -75,6 +76,7 @@ struct Test {
   std::vector<Phrase> phrases;
   std::vector<Sentence> sentences;
   std::vector<Example> examples;
+  std::vector<Chart> charts;
 };
 
 /// The test with the parameters that every test has: `alpha`, and `power`, `half-width` and `interval` as its routes

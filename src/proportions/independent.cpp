@@ -1,0 +1,127 @@
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <vector>
+
+#include "frame/root_finders.h"
+#include "kelcommon/kel_mv.h"
+#include "kelpower.h"
+#include "proportions/independent_power.h"
+
+using namespace kelpower;
+using KelCommon::KelMV;
+
+namespace {
+
+constexpr double kTolerance = 1e-9;
+
+bool AnswersStop(StopRequest* stop) { return stop != nullptr && stop->ShouldStop(); }
+
+/// What the search for group sizes is given.
+struct SizeSearch {
+  double power;
+  double p1;
+  double p2;
+  double sizeRatio;
+  int exact;
+  int method;
+  int oneSided;
+  double alpha;
+  int continuityCorrection;
+  int pooledVariance;
+  StopRequest* stop;
+
+  double SecondSize(double n1) const { return std::max(1.0, sizeRatio * n1); }
+  double WholeSecondSize(double n1) const { return std::max(1.0, std::floor(sizeRatio * n1 + 0.5)); }
+
+  double PowerAt(double n1, double n2, int usedMethod) const {
+    const auto test = IndependentTest::Of(exact, usedMethod, oneSided, alpha, continuityCorrection, pooledVariance);
+    return IndependentPower(test, n1, n2).At(p1, p2, stop);
+  }
+
+  /// The wanted power's shortfall at a real size. An exact search of method 4 goes by the z test, deliberately.
+  double Objective(double n1) const {
+    return PowerAt(n1, SecondSize(n1), exact == 1 && method == 4 ? 0 : method) - power;
+  }
+};
+
+/// Where the arcsine test becomes valid, or 2.
+double LowerStart(const SizeSearch& search) {
+  if (search.method != 3) return 2;
+  if (search.p1 > search.p2) return std::max(0.5 / ((1 - search.p2) * search.sizeRatio), 0.5 / search.p1);
+  return std::max(1 / (2 * search.sizeRatio * search.p2), 0.5 / (1 - search.p1));
+}
+
+double UpperStart(const SizeSearch& search, double lower) { return search.method == 3 ? lower + 400 : 400; }
+
+/// Repeats the search below the size last found while that gives new sizes, because the exact power is not monotone.
+/// No value when the stop request answers true.
+std::optional<double> SmallestFirstSize(const SizeSearch& search, double n1) {
+  std::vector<double> found{n1};
+  while (true) {
+    if (AnswersStop(search.stop)) return std::nullopt;
+    const double next = std::ceil(SolveContinuous(
+        1, found.back(), kTolerance, [&](double n) { return search.Objective(n); }, search.stop));
+    if (KelMV::IsMissing(next)) break;
+    if (std::find(found.begin(), found.end(), next) != found.end()) break;
+    found.push_back(next);
+  }
+  return *std::min_element(found.begin(), found.end());
+}
+
+/// Brings the sizes of an exact test to whole numbers that reach the wanted power. They stay as they are when the stop
+/// request answers true, and become missing when the tables can no longer be counted.
+void Refine(SizeSearch search, DoubleVector& sampleSizes) {
+  if (search.method == 3) search.method = 0;  // deliberately: the refinement of the conditional test goes by the z test
+  const std::optional<double> smallest = SmallestFirstSize(search, sampleSizes.at(0));
+  if (!smallest) return;
+
+  double n1 = *smallest;
+  while (search.PowerAt(n1, search.WholeSecondSize(n1), search.method) < search.power) {
+    if (AnswersStop(search.stop)) return;
+    if (IsUncountable(n1) || IsUncountable(search.WholeSecondSize(n1))) {
+      sampleSizes = {KelMV::Missing(), KelMV::Missing()};
+      return;
+    }
+    n1 += 1;
+  }
+  sampleSizes.at(0) = n1;
+  sampleSizes.at(1) = search.WholeSecondSize(n1);
+}
+
+}  // namespace
+
+extern "C" double PowerIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, double proportion2,
+                                    int exact, int method, int oneSided, double alpha,
+                                    std::uint8_t continuityCorrection, std::uint8_t pooledVariance,
+                                    StopRequest* cancel) {
+  const auto test = IndependentTest::Of(exact, method, oneSided, alpha, continuityCorrection, pooledVariance);
+  return IndependentPower(test, sampleSize1, sampleSize2).At(proportion1, proportion2, cancel);
+}
+
+extern "C" void PowerReverseIndSampBinom(double power, double proportion1, double proportion2,
+                                         DoubleVector& sampleSizes, double sizeRatio, int exact, int method,
+                                         int oneSided, double alpha, std::uint8_t continuityCorrection,
+                                         std::uint8_t pooledVariance, StopRequest* cancel) {
+  if (!sampleSizes.empty()) return;
+
+  const SizeSearch search{power,    proportion1, proportion2,          sizeRatio,      exact, method,
+                          oneSided, alpha,       continuityCorrection, pooledVariance, cancel};
+  if (AnswersStop(cancel)) {
+    sampleSizes = {KelMV::Missing(), KelMV::Missing()};
+    return;
+  }
+  const double lower = LowerStart(search);
+  const double n1 = SolveContinuous(
+      lower, UpperStart(search, lower), kTolerance, [&](double n) { return search.Objective(n); }, cancel);
+  if (KelMV::IsMissing(n1)) {
+    sampleSizes = {KelMV::Missing(), KelMV::Missing()};
+    return;
+  }
+
+  // The square in this one combination of flags is intended.
+  const bool isSquared = method == 0 && oneSided != 0 && continuityCorrection != 0 && pooledVariance != 0;
+  const double second = isSquared ? sizeRatio * (n1 * n1) : sizeRatio * n1;
+  sampleSizes = {std::ceil(n1), std::max(1.0, std::ceil(second))};
+  if (exact == 1) Refine(search, sampleSizes);
+}

@@ -1,0 +1,162 @@
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "frame/charts.h"
+#include "frame/checks.h"
+#include "kelpower.h"
+#include "proportions/chart_axes.h"
+#include "proportions/one_sample_test.h"
+
+using namespace kelpower;
+
+namespace {
+
+constexpr int kLargestChartSize = 5000;
+constexpr double kLargestStep = 0.5;  // a wider one leaves no proportion between 0 and 1
+
+bool RejectsDesign(double sampleSize, double alpha) { return sampleSize < 1 || RejectsAlpha(alpha); }
+
+/// A range of one size is rejected, but for the one at 0.
+bool RejectsChartSizes(int from, int to) {
+  if (from > to) return true;
+  if (from == to && from != 0) return true;
+  return from < 0 || to > kLargestChartSize;
+}
+
+/// Differences altProportion - nullProportion at which altProportion runs through the proportion grid.
+std::optional<Axis> DifferenceGrid(double nullProportion, double step) {
+  const double count = std::trunc(((1 - nullProportion) - (-nullProportion)) / step) - 1;
+  return GridAxis(count, -nullProportion, step);
+}
+
+/// The design of a surface over the sample size.
+struct SizeSurface {
+  double sampleSize;
+  double altProportion;
+  double nullProportion;
+  double alpha;
+  int minSampleSize;
+  int maxSampleSize;
+  double step;
+
+  bool IsInvalid() const {
+    if (RejectsDesign(sampleSize, alpha)) return true;
+    if (RejectsProportion(altProportion)) return true;
+    if (RejectsProportion(nullProportion)) return true;
+    if (RejectsChartSizes(minSampleSize, maxSampleSize)) return true;
+    return step > kLargestStep;
+  }
+
+  /// An end of 0 asks for a range around the design: from where the power may be half as far from 1 to where it may be
+  /// twice as near.
+  std::optional<Axis> Sizes(OneSampleTest& test) const {
+    if (minSampleSize != 0 && maxSampleSize != 0) return SizeAxis(minSampleSize, maxSampleSize);
+    const double power = test.Power(sampleSize, altProportion, nullProportion);
+    const double from = std::max(1.0, std::floor((1 - power) * sampleSize));
+    const double to = std::ceil((2 - power) * sampleSize);
+    if (!(to <= std::numeric_limits<std::int32_t>::max())) return std::nullopt;
+    return SizeAxis(from, to);
+  }
+};
+
+}  // namespace
+
+extern "C" XYPlot PlotNOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
+                                    int oneSided, double alpha, int minSampleSize, int maxSampleSize,
+                                    std::uint8_t continuityCorrection) {
+  if (RejectsDesign(sampleSize, alpha)) return EmptyCurve();
+  if (RejectsProportion(altProportion)) return EmptyCurve();
+  if (RejectsProportion(nullProportion)) return EmptyCurve();
+  if (RejectsChartSizes(minSampleSize, maxSampleSize)) return EmptyCurve();
+
+  OneSampleTest test(method, oneSided, alpha, continuityCorrection);
+  return Curve(SizeAxis(minSampleSize, maxSampleSize), Precision::Single,
+               [&](double size) { return test.Power(size, altProportion, nullProportion); });
+}
+
+extern "C" XYPlot PlotNullOneSampBinom(double sampleSize, double altProportion, int method, int oneSided, double alpha,
+                                       std::uint8_t continuityCorrection, double step) {
+  if (RejectsDesign(sampleSize, alpha)) return EmptyCurve();
+  if (RejectsProportion(altProportion)) return EmptyCurve();
+  if (step > kLargestStep) return EmptyCurve();
+
+  OneSampleTest test(method, oneSided, alpha, continuityCorrection);
+  return Curve(ProportionGrid(step), Precision::Single,
+               [&](double nullProportion) { return test.Power(sampleSize, altProportion, nullProportion); });
+}
+
+extern "C" XYPlot PlotAlterOneSampBinom(double sampleSize, double nullProportion, int method, int oneSided,
+                                        double alpha, std::uint8_t continuityCorrection, double step) {
+  if (RejectsDesign(sampleSize, alpha)) return EmptyCurve();
+  if (RejectsProportion(nullProportion)) return EmptyCurve();
+  if (step > kLargestStep) return EmptyCurve();
+
+  OneSampleTest test(method, oneSided, alpha, continuityCorrection);
+  return Curve(ProportionGrid(step), Precision::Single,
+               [&](double altProportion) { return test.Power(sampleSize, altProportion, nullProportion); });
+}
+
+extern "C" XYPlot PlotRiskDiffOneSampBionm(double sampleSize, double nullProportion, int method, int oneSided,
+                                           double alpha, std::uint8_t continuityCorrection, double step) {
+  if (RejectsDesign(sampleSize, alpha)) return EmptyCurve();
+  if (RejectsProportion(nullProportion)) return EmptyCurve();
+  if (step > kLargestStep) return EmptyCurve();
+
+  OneSampleTest test(method, oneSided, alpha, continuityCorrection);
+  return Curve(DifferenceGrid(nullProportion, step), Precision::Single,
+               [&](double difference) { return test.Power(sampleSize, difference + nullProportion, nullProportion); });
+}
+
+extern "C" XYZPlot PlotNRiskDiffOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
+                                             int oneSided, double alpha, int minSampleSize, int maxSampleSize,
+                                             std::uint8_t continuityCorrection, double step) {
+  const SizeSurface design{sampleSize, altProportion, nullProportion, alpha, minSampleSize, maxSampleSize, step};
+  if (design.IsInvalid()) return EmptySurface();
+
+  OneSampleTest test(method, oneSided, alpha, continuityCorrection);
+  return SurfaceByRows(
+      design.Sizes(test), DifferenceGrid(nullProportion, step), Precision::Single,
+      [&](double size, const SurfaceLine& row) {
+        row.Fill([&](double difference) { return test.Power(size, difference + nullProportion, nullProportion); });
+      });
+}
+
+extern "C" XYZPlot PlotNNullOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
+                                         int oneSided, double alpha, int minSampleSize, int maxSampleSize,
+                                         std::uint8_t continuityCorrection, double step) {
+  const SizeSurface design{sampleSize, altProportion, nullProportion, alpha, minSampleSize, maxSampleSize, step};
+  if (design.IsInvalid()) return EmptySurface();
+
+  OneSampleTest test(method, oneSided, alpha, continuityCorrection);
+  return SurfaceByRows(design.Sizes(test), ProportionGrid(step), Precision::Single,
+                       [&](double size, const SurfaceLine& row) {
+                         row.Fill([&](double null) { return test.Power(size, altProportion, null); });
+                       });
+}
+
+extern "C" XYZPlot PlotNAlterOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
+                                          int oneSided, double alpha, int minSampleSize, int maxSampleSize,
+                                          std::uint8_t continuityCorrection, double step) {
+  const SizeSurface design{sampleSize, altProportion, nullProportion, alpha, minSampleSize, maxSampleSize, step};
+  if (design.IsInvalid()) return EmptySurface();
+
+  OneSampleTest test(method, oneSided, alpha, continuityCorrection);
+  return SurfaceByRows(design.Sizes(test), ProportionGrid(step), Precision::Single,
+                       [&](double size, const SurfaceLine& row) {
+                         row.Fill([&](double alternative) { return test.Power(size, alternative, nullProportion); });
+                       });
+}
+
+extern "C" XYZPlot PlotNullAlterOneSampBinom(double sampleSize, int method, int oneSided, double alpha,
+                                             std::uint8_t continuityCorrection, double step) {
+  if (RejectsDesign(sampleSize, alpha)) return EmptySurface();
+  if (step > kLargestStep) return EmptySurface();
+
+  OneSampleTest test(method, oneSided, alpha, continuityCorrection);
+  return SurfaceByRows(
+      ProportionGrid(step), ProportionGrid(step), Precision::Single,
+      [&](double nullProportion, const SurfaceLine& row) {
+        row.Fill([&](double alternative) { return test.Power(sampleSize, alternative, nullProportion); });
+      });
+}

@@ -1,0 +1,147 @@
+#include "proportions/sign_test.h"
+
+#include <cmath>
+#include <cstddef>
+
+#include "kelcommon/kel_dist_fun.h"
+
+namespace kelpower {
+
+using KelMath::KelDistFun;
+
+namespace {
+
+constexpr int kTrialsPerEvaluation = 64;  // the recurrence then stays within 1e-14 of the distribution function
+
+/// Distances from the level below which the distribution function itself decides: what the recurrence may be wrong by,
+/// and for the upper tail also what 1 - level and the probabilities next to 1 are rounded by.
+constexpr double kRecurrenceError = 1e-11;
+constexpr double kRoundingNearOne = 1e-14;
+
+double CdfHalf(double count, double trials) {
+  long error = 0;
+  return KelDistFun::CdfBin(count, trials, 0.5, error);
+}
+
+double LowerRegion(double level, double discordant) {
+  long error = 0;
+  return KelDistFun::IdfBin(level, discordant, 0.5, error);
+}
+
+/// The upper critical value is one above the quantile c of 1 - level, so that X > c + 1 rejects: at most m - c - 2
+/// pairs are of the first kind.
+double UpperRegion(double level, double discordant) {
+  long error = 0;
+  return discordant - KelDistFun::IdfBin(1 - level, discordant, 0.5, error) - 2;
+}
+
+}  // namespace
+
+RunningTail::RunningTail(double trials, double count, double success, double failure)
+    : trials_(trials),
+      count_(count),
+      success_(success),
+      failure_(failure),
+      odds_(failure > 0 ? success / failure : 0) {  // without failures no count below `trials` has a probability
+  Evaluate();
+}
+
+void RunningTail::Evaluate() {
+  long error = 0;
+  tail_ = KelDistFun::CdfBin(count_, trials_, success_, error);
+  nextMass_ = KelDistFun::PdfBin(count_ + 1, trials_, success_, error);
+  trialsSinceEvaluation_ = 0;
+}
+
+// P(X <= k; m + 1) = P(X <= k; m) - p P(X = k; m), with P(X = k) = P(X = k + 1) (k + 1) q / ((m - k) p).
+void RunningTail::AddTrial() {
+  const double remaining = trials_ - count_;
+  trials_ += 1;
+  nextMass_ *= failure_;
+  tail_ -= nextMass_ * ((count_ + 1) / remaining);
+  nextMass_ *= trials_ / remaining;
+  if (++trialsSinceEvaluation_ == kTrialsPerEvaluation) Evaluate();
+}
+
+void RunningTail::RaiseCount() {
+  tail_ += nextMass_;
+  count_ += 1;
+  nextMass_ *= (trials_ - count_) / (count_ + 1) * odds_;
+}
+
+SignTestRegions::SignTestRegions(double level, double first)
+    : level_(level),
+      first_(first),
+      tail_(first, LowerRegion(level, first), 0.5, 0.5),
+      upper_(UpperRegion(level, first)) {
+  regions_.push_back({tail_.Count(), upper_});
+}
+
+const SignTestRegion& SignTestRegions::At(double discordant) {
+  const auto index = static_cast<std::size_t>(discordant - first_);
+  while (index >= regions_.size()) Append();
+  return regions_[index];
+}
+
+void SignTestRegions::Append() {
+  tail_.AddTrial();
+  while (LowerReachesNext()) tail_.RaiseCount();
+
+  // Under the null hypothesis both kinds of pairs have the same distribution, so the tails differ only at ties.
+  const double tolerance = kRecurrenceError * level_ + kRoundingNearOne;
+  const bool isClear = level_ - tail_.Tail() > tolerance && tail_.TailAtNextCount() - level_ > tolerance;
+  upper_ = isClear ? tail_.Count() : UpperFrom(upper_);
+  regions_.push_back({tail_.Count(), upper_});
+}
+
+bool SignTestRegions::LowerReachesNext() const {
+  const double tail = tail_.TailAtNextCount();
+  if (std::fabs(tail - level_) > kRecurrenceError * level_) return tail < level_;
+  return CdfHalf(tail_.Count() + 1, tail_.Trials()) <= level_;
+}
+
+double SignTestRegions::UpperFrom(double count) const {
+  const double trials = tail_.Trials();
+  while (count + 1 < trials && CdfHalf(trials - count - 2, trials) > 1 - level_) count += 1;
+  return count;
+}
+
+SignTestPowers::SignTestPowers(SignTestTails tails, double second, double first, SignTestRegions& regions)
+    : tails_(tails),
+      first_(first),
+      regions_(&regions),
+      lower_(first, regions.At(first).lower, second, 1 - second),
+      upper_(first, regions.At(first).upper, 1 - second, second) {}
+
+double SignTestPowers::At(double discordant) {
+  const auto index = static_cast<std::size_t>(discordant - first_);
+  while (index >= powers_.size()) powers_.push_back(Append());
+  return powers_[index];
+}
+
+double SignTestPowers::Append() {
+  const double discordant = first_ + static_cast<double>(powers_.size());
+  const SignTestRegion& region = regions_->At(discordant);
+  const bool isFirst = powers_.empty();
+  double power = 0;
+  if (tails_ != SignTestTails::Upper) {
+    if (!isFirst) lower_.AddTrial();
+    while (lower_.Count() < region.lower) lower_.RaiseCount();
+    power += lower_.Tail();
+  }
+  if (tails_ != SignTestTails::Lower) {
+    if (!isFirst) upper_.AddTrial();
+    while (upper_.Count() < region.upper) upper_.RaiseCount();
+    power += upper_.Tail();
+  }
+
+  // No rejection where the quantile of a tail lies below every count. A level above one half can bring this about in
+  // the upper tail.
+  const bool hasLower = region.lower >= 0;
+  const bool hasUpper = region.upper < discordant - 1;
+  if (tails_ != SignTestTails::Upper && !hasLower) return 0;
+  if (tails_ != SignTestTails::Lower && !hasUpper) return 0;
+  return power;
+}
+
+}  // namespace kelpower
