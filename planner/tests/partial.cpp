@@ -3,6 +3,7 @@
 #include "catalogue.h"
 #include "correlation_parameters.h"
 #include "kelpower.h"
+#include "planner/error.h"
 #include "window.h"
 
 namespace planner {
@@ -14,6 +15,7 @@ double SmallestSize(const Inputs& in) { return in.Number("partialled-out") + 4; 
 
 // The chart over the variables partialled out has a point for each case.
 constexpr double largestPartialledOutSize = 1e6;
+const char* const tooManyPoints = "--chart partialled-out has a point for each case: --n must be at most 1000000.";
 
 Axis PartialledOutAxis() {
   return {"variables partialled out",
@@ -138,7 +140,7 @@ std::vector<Chart> Charts() {
        "PlotNPartialoutOneSampPartial",
        "partial --r 0.3 --partialled-out 3 --n 84 --chart partialled-out --from 0 --to 60",
        [](const Inputs& in, const Ranges& r) {
-         if (in.Number("n") > largestPartialledOutSize) return Series{};
+         if (in.Number("n") > largestPartialledOutSize) throw InputError(tooManyPoints);
          return Window(Curve(PlotNPartialoutOneSampPartial(in.Number("n"), in.Number("r"), in.Number("null"),
                                                            in.Flag("one-sided"), in.Alpha())),
                        r.x);

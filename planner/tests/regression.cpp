@@ -173,7 +173,7 @@ Test Describe() {
           .AtMost(mostPredictors),
       CaseCount(2),
       Flag("random", "random predictors", "predictors vary from sample to sample, normally, rather than being fixed"),
-      Flag("no-intercept", "no intercept", "the model has no intercept"),
+      Flag("no-intercept", "without intercept", "the model has no intercept"),
   };
 
   test.routes = {
