@@ -11,9 +11,9 @@
 namespace planner {
 namespace {
 
-/// Missing is the most negative double; rounded to single precision it is minus infinity.
+/// Missing is the most negative double, minus infinity in single precision, and invalid input gives -1.
 double PowerOf(double value) {
-  const bool present = std::isfinite(value) && value > std::numeric_limits<double>::lowest();
+  const bool present = std::isfinite(value) && value >= 0;
   return present ? value : std::numeric_limits<double>::quiet_NaN();
 }
 

@@ -90,7 +90,7 @@ const Chart& ChooseChart(const std::vector<const Chart*>& charts, const Names& g
 /// has no meaning.
 Limits EndLimits(const Axis& axis, const Inputs& inputs) {
   Limits limits = axis.limits;
-  if (limits.whole) limits.low = std::max(limits.low, inputs.Groups() + 1.0);
+  if (limits.whole && inputs.Groups() > 1) limits.low = std::max(limits.low, inputs.Groups() + 1.0);
   return limits;
 }
 

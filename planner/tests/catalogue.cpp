@@ -14,6 +14,10 @@ const std::vector<Test>& Tests() {
       TwoMeansTest(),
       ProportionTest(),
       PairedProportionsTest(),
+      PearsonTest(),
+      SpearmanTest(),
+      PartialTest(),
+      RegressionTest(),
   };
   return tests;
 }

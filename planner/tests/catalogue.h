@@ -13,5 +13,9 @@ Test PairedMeansTest();
 Test TwoMeansTest();
 Test ProportionTest();
 Test PairedProportionsTest();
+Test PearsonTest();
+Test SpearmanTest();
+Test PartialTest();
+Test RegressionTest();
 
 }  // namespace planner

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "planner/chart.h"
+
+// Charts on whose axes the export has a grid of its own: the part that is shown is cut out of it.
+namespace planner {
+
+/// From a quarter of the size to twice the size, as far as `allowed` goes.
+Range SizesAround(double size, const Range& allowed);
+
+/// The step of the grid for a share of the range shown, which is `wholeSpan` wide where the user gave none.
+double StepOfGrid(const Range& shown, double wholeSpan, double share);
+
+/// The points within the ranges; one with 0 for both ends leaves out nothing.
+Series Window(const Series& series, const Range& x, const Range& y = {});
+
+}  // namespace planner
