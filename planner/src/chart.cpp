@@ -11,7 +11,7 @@
 namespace planner {
 namespace {
 
-/// Missing is the most negative double, minus infinity in single precision, and invalid input gives -1.
+/// Missing is the most negative double, rounded to single precision minus infinity; other failures are -1 or -2.
 double PowerOf(double value) {
   const bool present = std::isfinite(value) && value >= 0;
   return present ? value : std::numeric_limits<double>::quiet_NaN();
@@ -24,6 +24,24 @@ Numbers Powers(const double* values, std::size_t count) {
 }
 
 std::size_t Count(std::int32_t count) { return count > 0 ? static_cast<std::size_t>(count) : 0; }
+
+/// The positions of the values within the range.
+std::vector<std::size_t> PositionsWithin(const Numbers& values, const Range& range) {
+  constexpr double rounding = 1e-9;  // of a grid that is to meet the end of the range
+  const bool all = range.from >= range.to;
+  std::vector<std::size_t> positions;
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    const bool within = values[i] >= range.from - rounding && values[i] <= range.to + rounding;
+    if (all || within) positions.push_back(i);
+  }
+  return positions;
+}
+
+Numbers ValuesAt(const Numbers& values, const std::vector<std::size_t>& positions) {
+  Numbers chosen;
+  for (std::size_t position : positions) chosen.push_back(values[position]);
+  return chosen;
+}
 
 double Total(const Inputs& in) {
   const Numbers& sizes = in.List("n");
@@ -48,10 +66,26 @@ Series Surface(XYZPlot record) {
   return series;
 }
 
+Series Cut(const Series& series, const Ranges& ranges) {
+  const std::vector<std::size_t> columns = PositionsWithin(series.x, ranges.x);
+  if (series.y.empty()) return {ValuesAt(series.x, columns), {}, ValuesAt(series.power, columns)};
+  const std::vector<std::size_t> rows = PositionsWithin(series.y, ranges.y);
+  Series cut{ValuesAt(series.x, columns), ValuesAt(series.y, rows), {}};
+  for (std::size_t i : columns) {
+    for (std::size_t j : rows) cut.power.push_back(series.power[i * series.y.size() + j]);
+  }
+  return cut;
+}
+
 Axis TotalSizeAxis() {
   constexpr double smallestTotal = 2;
   constexpr double largestTotal = 1e9;
   return {"total sample size (observations)", "n", {smallestTotal, largestTotal, true, true, true}, Total, nullptr};
+}
+
+Axis SizeAxis(std::string title, double smallest, double largest) {
+  const auto design = [](const Inputs& in) { return in.Number("n"); };
+  return {std::move(title), "n", {smallest, largest, true, true, true}, design, nullptr};
 }
 
 Axis ParameterAxis(const Parameter& parameter, std::string symbol, double (*design)(const Inputs&)) {
@@ -69,5 +103,7 @@ Range AroundTotalSize(const Inputs& in) {
   const double total = Total(in);
   return {std::min(std::max(smallest, std::floor(total / 4)), total), 2 * total};
 }
+
+Range UpToTwiceSize(const Inputs& in) { return {2, 2 * in.Number("n")}; }
 
 }  // namespace planner

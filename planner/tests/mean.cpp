@@ -27,6 +27,52 @@ Numbers SizeOfEffect(const Inputs& in) {
   return {std::ceil(size(in.Number("power"), in.Number("effect-d"), in.Alpha()))};
 }
 
+std::vector<Chart> Charts() {
+  const Axis size = SingleSizeAxis("sample size (observations)");
+  const Axis effect = EffectDAxis();
+  return {
+      {"n",
+       {size},
+       {"mean", "sd", "n"},
+       {"test-value", "one-sided"},
+       "PlotNOneSample",
+       "mean --mean 104 --test-value 100 --sd 10 --n 40 --chart n",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotNOneSample(in.Number("n"), in.Number("mean"), in.Number("sd"), r.x.First(), r.x.Last(),
+                                     in.Flag("one-sided"), in.Number("test-value"), in.Alpha()));
+       }},
+      {"n",
+       {size},
+       {"effect-d", "n"},
+       {"one-sided"},
+       "PlotNOneSampleFES",
+       "mean --effect-d 0.4 --n 40 --chart n",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(
+             PlotNOneSampleFES(in.Number("effect-d"), r.x.First(), r.x.Last(), in.Flag("one-sided"), in.Alpha()));
+       }},
+      {"effect",
+       {effect},
+       {"effect-d", "n"},
+       {"one-sided"},
+       "PlotESOneSample",
+       "mean --effect-d 0.4 --n 40 --chart effect --from 0 --to 1",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotESOneSample(in.Number("n"), r.x.from, r.x.to, in.Flag("one-sided"), in.Alpha(), r.step));
+       }},
+      {"effect-n",
+       {effect, size},
+       {"effect-d", "n"},
+       {"one-sided"},
+       "PlotNaESOneSample",
+       "mean --effect-d 0.4 --n 40 --one-sided --chart effect-n --from 0,5 --to 1,80",
+       [](const Inputs& in, const Ranges& r) {
+         return Surface(
+             PlotNaESOneSample(r.y.First(), r.y.Last(), r.x.from, r.x.to, in.Flag("one-sided"), in.Alpha(), r.step));
+       }},
+  };
+}
+
 Test Describe() {
   Test test;
   test.name = "mean";
@@ -150,6 +196,7 @@ Test Describe() {
        "For a 95% confidence interval of the mean with a half-width of at most 2.5, at a standard deviation of 10, the "
        "study needs 64 observations; the half-width is then 2.498."},
   };
+  test.charts = Charts();
   return test;
 }
 

@@ -109,6 +109,62 @@ bool DifferencesSpread(const Inputs& in) {
   return sds[0] != sds[1] || std::abs(in.Number("correlation")) != 1;
 }
 
+Series PowerAgainstPairs(const Inputs& in, const Ranges& r) {
+  const Pair pair = PairOf(in);
+  return Curve(PlotNRelated(in.Number("n"), pair.mean1, pair.sd1, pair.mean2, pair.sd2, r.x.First(), r.x.Last(),
+                            pair.correlation, in.Flag("one-sided"), in.Alpha()));
+}
+
+std::vector<Chart> Charts() {
+  const Axis size = SingleSizeAxis("number of pairs");
+  const Axis effect = EffectDAxis();
+  return {
+      {"n",
+       {size},
+       {"means", "sds", "correlation", "n"},
+       {"one-sided"},
+       "PlotNRelated",
+       "paired-means --means 25,21 --sds 8,7 --correlation 0.6 --n 30 --chart n",
+       PowerAgainstPairs},
+      {"n",
+       {size},
+       {"mean-difference", "sd-difference", "n"},
+       {"one-sided"},
+       "PlotNRelated",
+       "paired-means --mean-difference 4 --sd-difference 8 --n 44 --chart n --from 10 --to 100",
+       PowerAgainstPairs},
+      {"n",
+       {size},
+       {"effect-d", "n"},
+       {"one-sided"},
+       "PlotNRelatedFES",
+       "paired-means --effect-d 0.4 --n 40 --chart n",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(
+             PlotNRelatedFES(in.Number("effect-d"), r.x.First(), r.x.Last(), in.Flag("one-sided"), in.Alpha()));
+       }},
+      {"effect",
+       {effect},
+       {"effect-d", "n"},
+       {"one-sided"},
+       "PlotESRelated",
+       "paired-means --effect-d 0.4 --n 40 --chart effect --from 0 --to 1",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotESRelated(in.Number("n"), r.x.from, r.x.to, in.Flag("one-sided"), in.Alpha(), r.step));
+       }},
+      {"effect-n",
+       {effect, size},
+       {"effect-d", "n"},
+       {"one-sided"},
+       "PlotNaESRelated",
+       "paired-means --effect-d 0.4 --n 40 --one-sided --chart effect-n --from 0,5 --to 1,80",
+       [](const Inputs& in, const Ranges& r) {
+         return Surface(
+             PlotNaESRelated(r.y.First(), r.y.Last(), r.x.from, r.x.to, in.Flag("one-sided"), in.Alpha(), r.step));
+       }},
+  };
+}
+
 Test Describe() {
   Test test;
   test.name = "paired-means";
@@ -195,6 +251,7 @@ Test Describe() {
        "standard deviations of 8 and 7 and a correlation of 0.6, the study needs 47 pairs; the half-width is then "
        "1.987."},
   };
+  test.charts = Charts();
   return test;
 }
 

@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "catalogue.h"
 #include "exact_proportions.h"
@@ -40,6 +42,136 @@ double SizeOfMarginals(const Inputs& in, int method) {
 bool HaveACommonDistribution(const Inputs& in) { return PowerOfMarginals(in, 2, largeSample) != -1; }
 
 bool CorrectsWhatCanBe(const Inputs& in) { return !in.Flag("correction") || in.Choice("interval-method") == wald; }
+
+constexpr double mostCharted = 2500;    // the largest number of pairs that the export of the chart takes
+constexpr double correlationScale = 2;  // from -1 to 1
+
+double Odds(double proportion) { return proportion / (1 - proportion); }
+
+Range Sizes(const Inputs& in) { return {2, std::min(2 * in.Number("n"), mostCharted)}; }
+
+Range AllProportions(const Inputs&) { return {0, 1}; }
+
+Range MinusOneToOne(const Inputs&) { return {-1, 1}; }
+
+Axis ProportionAxis(std::string title, std::string symbol, double (*design)(const Inputs&)) {
+  return {std::move(title), std::move(symbol), {0, 1, true, true, false}, design, AllProportions};
+}
+
+/// The exports of all charts but those of sizes and ratios lay their grids over the whole scale, which is then cut to
+/// the range.
+std::vector<Chart> Charts() {
+  const Axis size = WithRange(SizeAxis("number of pairs", 2, mostCharted), Sizes);
+  const Axis difference{"difference p12 - p21",
+                        "difference",
+                        {-1, 1, true, true, false},
+                        [](const Inputs& in) { return in.Number("p12") - in.Number("p21"); },
+                        MinusOneToOne};
+  const Axis ratio{"ratio p12 / p21",
+                   "ratio",
+                   {0.1, 10, true, true, false},
+                   [](const Inputs& in) { return in.Number("p12") / in.Number("p21"); },
+                   nullptr};
+  const Axis oddsRatio{"odds ratio of p12 to p21",
+                       "odds ratio",
+                       {0, 1e6, false, true, false},
+                       [](const Inputs& in) { return Odds(in.Number("p12")) / Odds(in.Number("p21")); },
+                       nullptr};
+  const Axis correlation{"correlation of the two outcomes",
+                         "correlation",
+                         {-1, 1, true, true, false},
+                         [](const Inputs& in) { return in.Number("correlation"); },
+                         MinusOneToOne};
+  const Axis p12 =
+      ProportionAxis("p12 (success first; failure second)", "p12", [](const Inputs& in) { return in.Number("p12"); });
+  const Axis p21 =
+      ProportionAxis("p21 (failure first; success second)", "p21", [](const Inputs& in) { return in.Number("p21"); });
+  const Axis proportion1 =
+      ProportionAxis("first proportion", "p1", [](const Inputs& in) { return in.Number("proportion1"); });
+  const Axis proportion2 =
+      ProportionAxis("second proportion", "p2", [](const Inputs& in) { return in.Number("proportion2"); });
+  return {
+      {"n",
+       {size},
+       {"p12", "p21", "n"},
+       {"one-sided", "exact"},
+       "PlotNRelSampBionm",
+       "paired-proportions --p12 0.32 --p21 0.08 --n 50 --chart n",
+       [](const Inputs& in, const Ranges& r) {
+         return Cut(Curve(PlotNRelSampBionm(in.Number("n"), in.Number("p12"), in.Number("p21"), r.x.First(), r.x.Last(),
+                                            in.Flag("one-sided"), in.Flag("exact"), in.Alpha())),
+                    r);
+       }},
+      {"difference",
+       {difference},
+       {"p12", "p21", "n"},
+       {"one-sided", "exact"},
+       "PlotRiskDiffRelSampBionm",
+       "paired-proportions --p12 0.32 --p21 0.08 --n 50 --chart difference",
+       [](const Inputs& in, const Ranges& r) {
+         return Cut(Curve(PlotRiskDiffRelSampBionm(in.Number("n"), in.Number("p12"), in.Flag("one-sided"),
+                                                   in.Flag("exact"), in.Alpha(), r.step)),
+                    r);
+       }},
+      {"ratio",
+       {ratio},
+       {"p12", "p21", "n"},
+       {"one-sided", "exact"},
+       "PlotRiskRatioRelSampBionm",
+       "paired-proportions --p12 0.32 --p21 0.08 --n 50 --chart ratio --from 0.5 --to 5 --exact",
+       [](const Inputs& in, const Ranges& r) {
+         return Cut(
+             Curve(PlotRiskRatioRelSampBionm(in.Number("n"), in.Number("p12"), in.Number("p21"), r.x.from, r.x.to,
+                                             in.Flag("one-sided"), in.Flag("exact"), in.Alpha(), r.step)),
+             r);
+       }},
+      {"odds-ratio",
+       {oddsRatio},
+       {"p12", "p21", "n"},
+       {"one-sided", "exact"},
+       "PlotOddsRatioRelSampBionm",
+       "paired-proportions --p12 0.32 --p21 0.08 --n 50 --chart odds-ratio --from 0.5 --to 8",
+       [](const Inputs& in, const Ranges& r) {
+         return Cut(Curve(PlotOddsRatioRelSampBionm(in.Number("n"), in.Number("p12"), r.x.from, r.x.to,
+                                                    in.Flag("one-sided"), in.Flag("exact"), in.Alpha(), r.step)),
+                    r);
+       }},
+      {"correlation",
+       {correlation},
+       {"proportion1", "proportion2", "correlation", "n"},
+       {"one-sided", "exact"},
+       "PlotCorrRelSampBionm",
+       "paired-proportions --proportion1 0.6 --proportion2 0.4 --correlation 0.3 --n 60 --chart correlation --exact",
+       [](const Inputs& in, const Ranges& r) {
+         return Cut(
+             Curve(PlotCorrRelSampBionm(in.Number("n"), in.Number("proportion1"), in.Number("proportion2"),
+                                        in.Flag("one-sided"), in.Flag("exact"), in.Alpha(), correlationScale * r.step)),
+             r);
+       }},
+      {"discordant",
+       {p12, p21},
+       {"p12", "p21", "n"},
+       {"one-sided", "exact"},
+       "PlotPropRelSampBionm",
+       "paired-proportions --p12 0.32 --p21 0.08 --n 50 --chart discordant --step 0.05",
+       [](const Inputs& in, const Ranges& r) {
+         return Cut(
+             Surface(PlotPropRelSampBionm(in.Number("n"), in.Flag("one-sided"), in.Flag("exact"), in.Alpha(), r.step)),
+             r);
+       }},
+      {"marginal",
+       {proportion1, proportion2},
+       {"proportion1", "proportion2", "correlation", "n"},
+       {"one-sided", "exact"},
+       "PlotMargPropRelSampBionm",
+       "paired-proportions --proportion1 0.6 --proportion2 0.4 --correlation 0.3 --n 60 --chart marginal --one-sided",
+       [](const Inputs& in, const Ranges& r) {
+         return Cut(Surface(PlotMargPropRelSampBionm(in.Number("n"), in.Number("correlation"), in.Flag("one-sided"),
+                                                     in.Flag("exact"), in.Alpha(), r.step)),
+                    r);
+       }},
+  };
+}
 
 Test Describe() {
   Test test;
@@ -197,6 +329,7 @@ Test Describe() {
        "For a 95% Bonett-Price confidence interval of the difference with a half-width of at most 0.1, at discordant "
        "pairs with proportions of 0.3 and 0.1, the study needs 140 pairs; the half-width is then 0.09999."},
   };
+  test.charts = Charts();
   return test;
 }
 

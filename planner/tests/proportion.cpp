@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "catalogue.h"
 #include "exact_proportions.h"
@@ -44,6 +46,151 @@ bool CorrectsWhatCanBe(const Inputs& in) {
   return !in.Flag("correction") || method == wald || method == wilson;
 }
 
+Parameter Expected() { return Number("proportion", "proportion", "proportion expected").AtLeast(0).AtMost(1); }
+
+Parameter Null() { return Number("null", "null proportion", "proportion under the null hypothesis").Above(0).Below(1); }
+
+constexpr double mostCharted = 5000;  // the largest size that the exports of charts take
+
+int Method(const Inputs& in) { return in.Flag("exact") ? exact : normal; }
+
+Range Sizes(const Inputs& in) { return {2, std::min(std::max(4.0, 2 * in.Number("n")), mostCharted)}; }
+
+/// The export's own range around the design; all sizes where that would reach too far.
+Range SizesOfSurface(const Inputs& in) { return 2 * in.Number("n") <= mostCharted ? Range{} : Range{2, mostCharted}; }
+
+Range AllProportions(const Inputs&) { return {0, 1}; }
+
+Axis DifferenceAxis() {
+  return {"difference of the proportions (expected minus null)",
+          "difference",
+          {-1, 1, true, true, false},
+          [](const Inputs& in) { return in.Number("proportion") - in.Number("null"); },
+          [](const Inputs&) -> Range {
+            return {-1, 1};
+          }};
+}
+
+/// The charts of the normal approximation. The exports lay the grids of proportions over the whole scale, which is then
+/// cut to the range.
+std::vector<Chart> ApproximateCharts() {
+  const Axis size = SizeAxis("sample size (observations)", 2, mostCharted);
+  const Axis proportion = WithRange(
+      ParameterAxis(Expected(), "p", [](const Inputs& in) { return in.Number("proportion"); }), AllProportions);
+  const Axis null =
+      WithRange(ParameterAxis(Null().AtLeast(0).AtMost(1), "p0", [](const Inputs& in) { return in.Number("null"); }),
+                AllProportions);
+  const Axis difference = DifferenceAxis();
+  return {
+      {"n",
+       {WithRange(size, Sizes)},
+       {"proportion", "null", "n"},
+       {"one-sided", "correction"},
+       "PlotNOneSampBinom",
+       "proportion --proportion 0.65 --null 0.5 --n 60 --chart n",
+       [](const Inputs& in, const Ranges& r) {
+         return Cut(
+             Curve(PlotNOneSampBinom(in.Number("n"), in.Number("proportion"), in.Number("null"), Method(in),
+                                     in.Flag("one-sided"), in.Alpha(), r.x.First(), r.x.Last(), in.Flag("correction"))),
+             r);
+       }},
+      {"null",
+       {null},
+       {"proportion", "null", "n"},
+       {"one-sided", "correction"},
+       "PlotNullOneSampBinom",
+       "proportion --proportion 0.65 --null 0.5 --n 60 --chart null --from 0.3 --to 0.7",
+       [](const Inputs& in, const Ranges& r) {
+         return Cut(Curve(PlotNullOneSampBinom(in.Number("n"), in.Number("proportion"), Method(in),
+                                               in.Flag("one-sided"), in.Alpha(), in.Flag("correction"), r.step)),
+                    r);
+       }},
+      {"alternative",
+       {proportion},
+       {"proportion", "null", "n"},
+       {"one-sided", "correction"},
+       "PlotAlterOneSampBinom",
+       "proportion --proportion 0.65 --null 0.5 --n 60 --chart alternative",
+       [](const Inputs& in, const Ranges& r) {
+         return Cut(Curve(PlotAlterOneSampBinom(in.Number("n"), in.Number("null"), Method(in), in.Flag("one-sided"),
+                                                in.Alpha(), in.Flag("correction"), r.step)),
+                    r);
+       }},
+      {"difference",
+       {difference},
+       {"proportion", "null", "n"},
+       {"one-sided", "correction"},
+       "PlotRiskDiffOneSampBionm",
+       "proportion --proportion 0.65 --null 0.5 --n 60 --chart difference",
+       [](const Inputs& in, const Ranges& r) {
+         return Cut(Curve(PlotRiskDiffOneSampBionm(in.Number("n"), in.Number("null"), Method(in), in.Flag("one-sided"),
+                                                   in.Alpha(), in.Flag("correction"), r.step)),
+                    r);
+       }},
+      {"n-difference",
+       {WithRange(size, SizesOfSurface), difference},
+       {"proportion", "null", "n"},
+       {"one-sided", "correction"},
+       "PlotNRiskDiffOneSampBinom",
+       "proportion --proportion 0.65 --null 0.5 --n 60 --chart n-difference",
+       [](const Inputs& in, const Ranges& r) {
+         return Cut(Surface(PlotNRiskDiffOneSampBinom(in.Number("n"), in.Number("proportion"), in.Number("null"),
+                                                      Method(in), in.Flag("one-sided"), in.Alpha(), r.x.First(),
+                                                      r.x.Last(), in.Flag("correction"), r.step)),
+                    r);
+       }},
+      {"n-null",
+       {WithRange(size, SizesOfSurface), null},
+       {"proportion", "null", "n"},
+       {"one-sided", "correction"},
+       "PlotNNullOneSampBinom",
+       "proportion --proportion 0.65 --null 0.5 --n 60 --chart n-null --from 20,0.3 --to 120,0.7",
+       [](const Inputs& in, const Ranges& r) {
+         return Cut(Surface(PlotNNullOneSampBinom(in.Number("n"), in.Number("proportion"), in.Number("null"),
+                                                  Method(in), in.Flag("one-sided"), in.Alpha(), r.x.First(), r.x.Last(),
+                                                  in.Flag("correction"), r.step)),
+                    r);
+       }},
+      {"n-alternative",
+       {WithRange(size, SizesOfSurface), proportion},
+       {"proportion", "null", "n"},
+       {"one-sided", "correction"},
+       "PlotNAlterOneSampBinom",
+       "proportion --proportion 0.65 --null 0.5 --n 60 --chart n-alternative --step 0.1",
+       [](const Inputs& in, const Ranges& r) {
+         return Cut(Surface(PlotNAlterOneSampBinom(in.Number("n"), in.Number("proportion"), in.Number("null"),
+                                                   Method(in), in.Flag("one-sided"), in.Alpha(), r.x.First(),
+                                                   r.x.Last(), in.Flag("correction"), r.step)),
+                    r);
+       }},
+      {"null-alternative",
+       {null, proportion},
+       {"proportion", "null", "n"},
+       {"one-sided", "correction"},
+       "PlotNullAlterOneSampBinom",
+       "proportion --proportion 0.65 --null 0.5 --n 60 --chart null-alternative --step 0.05",
+       [](const Inputs& in, const Ranges& r) {
+         return Cut(Surface(PlotNullAlterOneSampBinom(in.Number("n"), Method(in), in.Flag("one-sided"), in.Alpha(),
+                                                      in.Flag("correction"), r.step)),
+                    r);
+       }},
+  };
+}
+
+/// Those, and the same of the exact test.
+std::vector<Chart> Charts() {
+  std::vector<Chart> charts = ApproximateCharts();
+  const std::size_t count = charts.size();
+  for (std::size_t i = 0; i < count; ++i) {
+    Chart chart = charts[i];
+    chart.needs.push_back("exact");
+    chart.accepts = {"one-sided"};
+    chart.example += " --exact";
+    charts.push_back(std::move(chart));
+  }
+  return charts;
+}
+
 Test Describe() {
   Test test;
   test.name = "proportion";
@@ -51,8 +198,8 @@ Test Describe() {
   test.about = "Tests whether a proportion differs from a given value.";
 
   test.parameters = {
-      Number("proportion", "proportion", "proportion expected").AtLeast(0).AtMost(1),
-      Number("null", "null proportion", "proportion under the null hypothesis").Above(0).Below(1),
+      Expected(),
+      Null(),
       Number("n", "sample size", "number of observations").Whole().AtLeast(1).AtMost(1e9),
       Flag("exact", "exact test", "exact binomial test in place of the normal approximation"),
       Flag("one-sided", "one-sided test", "test in the direction of the proportion expected only"),
@@ -166,6 +313,7 @@ Test Describe() {
        "For a 95% Wald confidence interval of a proportion of 0.4 with a half-width of at most 0.07, the study needs "
        "189 observations; the half-width is then 0.06984."},
   };
+  test.charts = Charts();
   return test;
 }
 

@@ -63,6 +63,113 @@ double EffectSize(const Inputs& in) {
   return EffectSizeIndependent(means[0], means[1], std::hypot(sds[0], sds[1]) / std::sqrt(2.0));
 }
 
+double Total(const Inputs& in) { return in.List("n")[0] + in.List("n")[1]; }
+
+double Difference(const Inputs& in) { return in.List("means")[0] - in.List("means")[1]; }
+
+/// Whether the ratios leave each group more than one observation; ratios that the export chooses do.
+bool LeaveTwoGroups(const Inputs& in, const Range& ratios) {
+  const double most = Total(in) - 1;
+  return ratios.to == 0 || (ratios.from > 1 / most && ratios.to < most);
+}
+
+Axis RatioAxis() {
+  const auto design = [](const Inputs& in) { return in.List("n")[1] / in.List("n")[0]; };
+  return {"ratio of the sizes (second group over first)", "ratio", {0.001, 1000, true, true, false}, design, nullptr};
+}
+
+/// From -5 to 5 times the design's difference, or -100 to 100 for a design without one, as the surface has it.
+Axis DifferenceAxis() {
+  constexpr double widest = 1e6;
+  const auto usual = [](const Inputs& in) -> Range {
+    const double end = Difference(in) != 0 ? 5 * std::abs(Difference(in)) : 100;
+    return {-end, end};
+  };
+  return {"difference of the means (first minus second)",
+          "difference",
+          {-widest, widest, true, true, false},
+          Difference,
+          usual};
+}
+
+std::vector<Chart> Charts() {
+  const Axis ratio = RatioAxis();
+  const Axis effect = EffectDAxis();
+  const Axis difference = DifferenceAxis();
+  return {
+      {"ratio",
+       {ratio},
+       {"means", "sd", "n"},
+       {"one-sided"},
+       "PlotRatioIndependent",
+       "two-means --means 52,47 --sd 10,14 --n 40,60 --chart ratio --from 0.2 --to 5",
+       [](const Inputs& in, const Ranges& r) {
+         const Numbers& means = in.List("means");
+         const Numbers& sds = in.List("sd");
+         return Curve(PlotRatioIndependent(Total(in), means[0], sds[0], means[1], sds[1], r.x.from, r.x.to,
+                                           in.Flag("one-sided"), in.Alpha(), r.step));
+       }},
+      {"ratio",
+       {ratio},
+       {"effect-d", "n"},
+       {"one-sided"},
+       "PlotRatioIndependentFES",
+       "two-means --effect-d 0.6 --n 90,60 --chart ratio",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotRatioIndependentFES(Total(in), in.Number("effect-d"), r.x.from, r.x.to, in.Flag("one-sided"),
+                                              in.Alpha(), r.step));
+       }},
+      {"effect",
+       {effect},
+       {"effect-d", "n"},
+       {"one-sided"},
+       "PlotESIndepended",
+       "two-means --effect-d 0.6 --n 90,60 --one-sided --chart effect",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotESIndepended(in.List("n")[0], in.List("n")[1], r.x.from, r.x.to, in.Flag("one-sided"),
+                                       in.Alpha(), r.step));
+       }},
+      {"difference",
+       {difference},
+       {"means", "sd", "n"},
+       {"one-sided"},
+       "PlotMeanDiffIndepended",
+       "two-means --means 52,47 --sd 10,14 --n 40 --chart difference --from 0 --to 12",
+       [](const Inputs& in, const Ranges& r) {
+         const Numbers& n = in.List("n");
+         const Numbers& means = in.List("means");
+         const Numbers& sds = in.List("sd");
+         const double step = r.step * (r.x.to - r.x.from);
+         return Curve(PlotMeanDiffIndepended(n[0], means[0], sds[0], n[1], means[1], sds[1], r.x.from, r.x.to,
+                                             in.Flag("one-sided"), in.Alpha(), step));
+       }},
+      {"ratio-effect",
+       {ratio, effect},
+       {"effect-d", "n"},
+       {"one-sided"},
+       "PlotRatioaESIndependent",
+       "two-means --effect-d 0.6 --n 90,60 --chart ratio-effect --from 0.2,0 --to 5,1",
+       [](const Inputs& in, const Ranges& r) {
+         if (!LeaveTwoGroups(in, r.x)) return Series{};
+         return Surface(PlotRatioaESIndependent(Total(in), r.x.from, r.x.to, r.y.from, r.y.to, in.Flag("one-sided"),
+                                                in.Alpha(), r.step));
+       }},
+      {"ratio-difference",
+       {ratio, difference},
+       {"means", "sd", "n"},
+       {"one-sided"},
+       "PlotRatioaMeanDiffIndependent",
+       "two-means --means 52,47 --sd 10,14 --n 40 --chart ratio-difference --from 0.2,0 --to 5,12",
+       [](const Inputs& in, const Ranges& r) {
+         if (!LeaveTwoGroups(in, r.x)) return Series{};
+         const Numbers& means = in.List("means");
+         const Numbers& sds = in.List("sd");
+         return Surface(PlotRatioaMeanDiffIndependent(Total(in), means[0], sds[0], means[1], sds[1], r.x.from, r.x.to,
+                                                      r.y.from, r.y.to, in.Flag("one-sided"), in.Alpha(), r.step));
+       }},
+  };
+}
+
 Test Describe() {
   Test test;
   test.name = "two-means";
@@ -188,6 +295,7 @@ Test Describe() {
        "of 10 and 14, the study needs 73 observations in each of 2 groups (146 in total); the half-width is then "
        "3.984."},
   };
+  test.charts = Charts();
   return test;
 }
 

@@ -40,6 +40,10 @@ struct Ranges {
   double step;  // of every axis that is not of sizes, as a share of its range
 };
 
+/// The points of a series that lie within the ranges, for an export that takes no ends of its axes. An axis without a
+/// range keeps all.
+Series Cut(const Series& series, const Ranges& ranges);
+
 /// One axis of a chart.
 struct Axis {
   std::string title;                          // with unit: "total sample size (observations)"
@@ -63,11 +67,15 @@ struct Chart {
 
 /// An axis of total sample sizes, of the sizes in `n`.
 Axis TotalSizeAxis();
+/// An axis of the sizes of a single sample, of the size in `n`; `title` says what they count.
+Axis SizeAxis(std::string title, double smallest, double largest);
 /// An axis of the parameter's values, with its label and limits.
 Axis ParameterAxis(const Parameter& parameter, std::string symbol, double (*design)(const Inputs&));
 /// The axis with a range of its own, for an export that chooses none.
 Axis WithRange(Axis axis, Range (*usual)(const Inputs&));
 /// From a quarter of the design's total size, or 2 in each group, to twice that size.
 Range AroundTotalSize(const Inputs& in);
+/// From 2 to twice the design's size.
+Range UpToTwiceSize(const Inputs& in);
 
 }  // namespace planner
