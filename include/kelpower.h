@@ -279,17 +279,18 @@ KELPOWER_API XYZPlot PlotNaSDSC(int numGroups, const double* groupMeans, double 
 /// \param minEffectSize,maxEffectSize ends of the effect-size axis. Of a two-sided chart: 0 or above, where a
 ///   minEffectSize of -5 stands for 0
 /// \param minRatio,maxRatio ends of the axis of ratios; a 0 in either asks for m = 0.8 (totalSize - 2) and 1 / m
-/// \param minMeanDifference,maxMeanDifference ends of the axis of raw differences mean1 - mean2; two zeros, or ends that
+/// \param minMeanDifference,maxMeanDifference ends of the axis of raw differences mean1 - mean2; two zeros, or ends
+/// that
 ///   do not ascend, ask for 5 times the difference of the means to either side of 0 (without a difference for 100)
 /// \param stepFraction step of an axis as a fraction of its range, above 0
 /// \param ignored not used
 //
 // "Nondirectional" is the two-sided test with both tails counted. "Directional" is the one-sided test in the direction
-// in which the effect lies: the sign of the effect is dropped. Functions that end in ES take a standardised effect size.
-// Invalid input gives missing, two missing values in `results`, or an empty chart. A point of a chart at which the test
-// is not defined is missing. Values of charts are rounded to single precision.
-// Method: Cohen, J. (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., ch. 2, with the exact
-// noncentral t distribution; docs/means.md has the formulas.
+// in which the effect lies: the sign of the effect is dropped. Functions that end in ES take a standardised effect
+// size. Invalid input gives missing, two missing values in `results`, or an empty chart. A point of a chart at which
+// the test is not defined is missing. Values of charts are rounded to single precision. Method: Cohen, J. (1988),
+// Statistical Power Analysis for the Behavioral Sciences, 2nd ed., ch. 2, with the exact noncentral t distribution;
+// docs/means.md has the formulas.
 
 /// Effect size (mean - testValue) / sd. Missing when sd is 0; a negative sd is accepted.
 KELPOWER_API double EffectSizeOneSample(double mean, double sd, double testValue);
@@ -342,8 +343,8 @@ KELPOWER_API XYPlot PlotESOneSample(double sampleSize, double minEffectSize, dou
 
 /// Power of the one-sample test over effect size (x) and size (y). From a span of 1,000 sizes on every second size is
 /// taken, and the last one may lie one above maxSampleSize. Equal ends of the effect size are invalid.
-KELPOWER_API XYZPlot PlotNaESOneSample(int minSampleSize, int maxSampleSize, double minEffectSize,
-                                       double maxEffectSize, int directional, double alpha, double stepFraction);
+KELPOWER_API XYZPlot PlotNaESOneSample(int minSampleSize, int maxSampleSize, double minEffectSize, double maxEffectSize,
+                                       int directional, double alpha, double stepFraction);
 
 /// Effect size (mean1 - mean2) / s of paired samples, where s is the standard deviation of the differences,
 /// sqrt(sd1^2 + sd2^2 - 2 correlation sd1 sd2). A sd2 of 0 says that sd1 is s itself. Nothing is checked.
@@ -428,8 +429,8 @@ KELPOWER_API void PowerReverseIndependentNondirectional(double power, double rat
                                                         double mean2, double sd2, DoubleVector& results, double alpha);
 
 /// The same for the one-sided test.
-KELPOWER_API void PowerReverseIndependentDirectional(double power, double ratio, double mean1, double sd1,
-                                                     double mean2, double sd2, DoubleVector& results, double alpha);
+KELPOWER_API void PowerReverseIndependentDirectional(double power, double ratio, double mean1, double sd1, double mean2,
+                                                     double sd2, DoubleVector& results, double alpha);
 
 /// Sizes at which the two-sided pooled test reaches a power at a given effect size. Appends to what is in `results`.
 KELPOWER_API void PowerReverseIndependentNondirectionalES(double power, double ratio, double effectSize,
@@ -461,29 +462,29 @@ KELPOWER_API XYPlot PlotRatioIndependentFES(double totalSize, double effectSize,
                                             int directional, double alpha, double stepFraction);
 
 /// Power of the pooled test of two groups against effect size. Equal ends are invalid.
-KELPOWER_API XYPlot PlotESIndepended(double sampleSize1, double sampleSize2, double minEffectSize,
-                                     double maxEffectSize, int directional, double alpha, double stepFraction);
+KELPOWER_API XYPlot PlotESIndepended(double sampleSize1, double sampleSize2, double minEffectSize, double maxEffectSize,
+                                     int directional, double alpha, double stepFraction);
 
 /// Power of the test of two groups against the raw difference of means; always in the form of Welch. The means only
 /// serve the automatic range.
 /// \param step distance of the points, in the unit of the means, above 0
 KELPOWER_API XYPlot PlotMeanDiffIndepended(double sampleSize1, double mean1, double sd1, double sampleSize2,
-                                           double mean2, double sd2, double minMeanDifference,
-                                           double maxMeanDifference, int directional, double alpha, double step);
+                                           double mean2, double sd2, double minMeanDifference, double maxMeanDifference,
+                                           int directional, double alpha, double step);
 
-/// Power of the pooled test over the ratio of sizes (x) and effect size (y). A value outside [0, 1], such as the missing
-/// value at a ratio that leaves a group one observation, is replaced beyond the first column: in the first row by the
-/// effect size before it, in the others by the missing value, unrounded.
+/// Power of the pooled test over the ratio of sizes (x) and effect size (y). A value outside [0, 1], such as the
+/// missing value at a ratio that leaves a group one observation, is replaced beyond the first column: in the first row
+/// by the effect size before it, in the others by the missing value, unrounded.
 KELPOWER_API XYZPlot PlotRatioaESIndependent(double totalSize, double minRatio, double maxRatio, double minEffectSize,
                                              double maxEffectSize, int directional, double alpha, double stepFraction);
 
 /// Power of the test in the form of Welch over the ratio of sizes (x) and the raw difference of means (y), whose step
 /// is twice stepFraction of its range. Values outside [0, 1] as in `PlotRatioaESIndependent`. The means only serve the
 /// automatic range.
-KELPOWER_API XYZPlot PlotRatioaMeanDiffIndependent(double totalSize, double mean1, double sd1, double mean2,
-                                                   double sd2, double minRatio, double maxRatio,
-                                                   double minMeanDifference, double maxMeanDifference,
-                                                   int directional, double alpha, double stepFraction);
+KELPOWER_API XYZPlot PlotRatioaMeanDiffIndependent(double totalSize, double mean1, double sd1, double mean2, double sd2,
+                                                   double minRatio, double maxRatio, double minMeanDifference,
+                                                   double maxMeanDifference, int directional, double alpha,
+                                                   double stepFraction);
 
 // ---------------------------------------------------------------------------------------------------------------------
 // One proportion
@@ -764,25 +765,24 @@ KELPOWER_API XYPlot PlotNRatioIndSampBinom(double totalSampleSize, double propor
 
 /// Power over the risk difference p1 - p2: p1 - 1 + step, p1 - 1 + 2 step, ...
 KELPOWER_API XYPlot PlotRiskDiffIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, int exact,
-                                             int method, int oneSided, double alpha,
-                                             std::uint8_t continuityCorrection, std::uint8_t pooledVariance,
-                                             double step);
+                                             int method, int oneSided, double alpha, std::uint8_t continuityCorrection,
+                                             std::uint8_t pooledVariance, double step);
 
 /// Power over the risk ratio p1 / p2.
 /// \param minRatio,maxRatio ends; the lower above p1, or 0 to start one step above p1; the upper at most 10
 /// \param step as a fraction of maxRatio - minRatio
 KELPOWER_API XYPlot PlotRiskRatioIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, int exact,
-                                              int method, int oneSided, double alpha,
-                                              std::uint8_t continuityCorrection, std::uint8_t pooledVariance,
-                                              double minRatio, double maxRatio, double step);
+                                              int method, int oneSided, double alpha, std::uint8_t continuityCorrection,
+                                              std::uint8_t pooledVariance, double minRatio, double maxRatio,
+                                              double step);
 
 /// Power over the odds ratio of p1 to p2.
 /// \param minRatio,maxRatio ends; the lower at least 0.1, or 0 to start at one third; the upper at most 10
 /// \param step as a fraction of the range
 KELPOWER_API XYPlot PlotOddsRatioIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, int exact,
-                                              int method, int oneSided, double alpha,
-                                              std::uint8_t continuityCorrection, std::uint8_t pooledVariance,
-                                              double minRatio, double maxRatio, double step);
+                                              int method, int oneSided, double alpha, std::uint8_t continuityCorrection,
+                                              std::uint8_t pooledVariance, double minRatio, double maxRatio,
+                                              double step);
 
 // ---------------------------------------------------------------------------------------------------------------------
 // Correlations: Pearson, Spearman, partial

@@ -6,18 +6,8 @@ namespace planner {
 
 const std::vector<Test>& Tests() {
   static const std::vector<Test> tests = {
-      AnovaTest(),
-      ContrastTest(),
-      PairwiseTest(),
-      MeanTest(),
-      PairedMeansTest(),
-      TwoMeansTest(),
-      ProportionTest(),
-      PairedProportionsTest(),
-      PearsonTest(),
-      SpearmanTest(),
-      PartialTest(),
-      RegressionTest(),
+      AnovaTest(),      ContrastTest(),          PairwiseTest(), MeanTest(),     PairedMeansTest(), TwoMeansTest(),
+      ProportionTest(), PairedProportionsTest(), PearsonTest(),  SpearmanTest(), PartialTest(),     RegressionTest(),
   };
   return tests;
 }
