@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "catalogue.h"
 #include "exact_proportions.h"
@@ -71,9 +70,8 @@ Axis DifferenceAxis() {
           }};
 }
 
-/// The charts of the normal approximation. The exports lay the grids of proportions over the whole scale, which is then
-/// cut to the range.
-std::vector<Chart> ApproximateCharts() {
+/// The exports lay the grids of proportions over the whole scale, which is then cut to the range.
+std::vector<Chart> Charts() {
   const Axis size = SizeAxis("sample size (observations)", 2, mostCharted);
   const Axis proportion = WithRange(
       ParameterAxis(Expected(), "p", [](const Inputs& in) { return in.Number("proportion"); }), AllProportions);
@@ -85,9 +83,9 @@ std::vector<Chart> ApproximateCharts() {
       {"n",
        {WithRange(size, Sizes)},
        {"proportion", "null", "n"},
-       {"one-sided", "correction"},
+       {"one-sided", "exact", "correction"},
        "PlotNOneSampBinom",
-       "proportion --proportion 0.65 --null 0.5 --n 60 --chart n",
+       "proportion --proportion 0.65 --null 0.5 --n 60 --exact --chart n",
        [](const Inputs& in, const Ranges& r) {
          return Cut(
              Curve(PlotNOneSampBinom(in.Number("n"), in.Number("proportion"), in.Number("null"), Method(in),
@@ -97,7 +95,7 @@ std::vector<Chart> ApproximateCharts() {
       {"null",
        {null},
        {"proportion", "null", "n"},
-       {"one-sided", "correction"},
+       {"one-sided", "exact", "correction"},
        "PlotNullOneSampBinom",
        "proportion --proportion 0.65 --null 0.5 --n 60 --chart null --from 0.3 --to 0.7",
        [](const Inputs& in, const Ranges& r) {
@@ -108,7 +106,7 @@ std::vector<Chart> ApproximateCharts() {
       {"alternative",
        {proportion},
        {"proportion", "null", "n"},
-       {"one-sided", "correction"},
+       {"one-sided", "exact", "correction"},
        "PlotAlterOneSampBinom",
        "proportion --proportion 0.65 --null 0.5 --n 60 --chart alternative",
        [](const Inputs& in, const Ranges& r) {
@@ -119,7 +117,7 @@ std::vector<Chart> ApproximateCharts() {
       {"difference",
        {difference},
        {"proportion", "null", "n"},
-       {"one-sided", "correction"},
+       {"one-sided", "exact", "correction"},
        "PlotRiskDiffOneSampBionm",
        "proportion --proportion 0.65 --null 0.5 --n 60 --chart difference",
        [](const Inputs& in, const Ranges& r) {
@@ -130,7 +128,7 @@ std::vector<Chart> ApproximateCharts() {
       {"n-difference",
        {WithRange(size, SizesOfSurface), difference},
        {"proportion", "null", "n"},
-       {"one-sided", "correction"},
+       {"one-sided", "exact", "correction"},
        "PlotNRiskDiffOneSampBinom",
        "proportion --proportion 0.65 --null 0.5 --n 60 --chart n-difference",
        [](const Inputs& in, const Ranges& r) {
@@ -142,7 +140,7 @@ std::vector<Chart> ApproximateCharts() {
       {"n-null",
        {WithRange(size, SizesOfSurface), null},
        {"proportion", "null", "n"},
-       {"one-sided", "correction"},
+       {"one-sided", "exact", "correction"},
        "PlotNNullOneSampBinom",
        "proportion --proportion 0.65 --null 0.5 --n 60 --chart n-null --from 20,0.3 --to 120,0.7",
        [](const Inputs& in, const Ranges& r) {
@@ -154,7 +152,7 @@ std::vector<Chart> ApproximateCharts() {
       {"n-alternative",
        {WithRange(size, SizesOfSurface), proportion},
        {"proportion", "null", "n"},
-       {"one-sided", "correction"},
+       {"one-sided", "exact", "correction"},
        "PlotNAlterOneSampBinom",
        "proportion --proportion 0.65 --null 0.5 --n 60 --chart n-alternative --step 0.1",
        [](const Inputs& in, const Ranges& r) {
@@ -166,7 +164,7 @@ std::vector<Chart> ApproximateCharts() {
       {"null-alternative",
        {null, proportion},
        {"proportion", "null", "n"},
-       {"one-sided", "correction"},
+       {"one-sided", "exact", "correction"},
        "PlotNullAlterOneSampBinom",
        "proportion --proportion 0.65 --null 0.5 --n 60 --chart null-alternative --step 0.05",
        [](const Inputs& in, const Ranges& r) {
@@ -175,20 +173,6 @@ std::vector<Chart> ApproximateCharts() {
                     r);
        }},
   };
-}
-
-/// Those, and the same of the exact test.
-std::vector<Chart> Charts() {
-  std::vector<Chart> charts = ApproximateCharts();
-  const std::size_t count = charts.size();
-  for (std::size_t i = 0; i < count; ++i) {
-    Chart chart = charts[i];
-    chart.needs.push_back("exact");
-    chart.accepts = {"one-sided"};
-    chart.example += " --exact";
-    charts.push_back(std::move(chart));
-  }
-  return charts;
 }
 
 Test Describe() {
@@ -259,6 +243,9 @@ Test Describe() {
       {{"interval-method", "correction"},
        CorrectsWhatCanBe,
        "--correction goes with the intervals wald and wilson only."},
+      {{"exact", "correction"},
+       [](const Inputs& in) { return !in.Flag("exact") || !in.Flag("correction"); },
+       "--exact and --correction exclude each other."},
   };
   test.solvable = {
       {{"proportion", "null"},

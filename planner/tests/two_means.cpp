@@ -67,15 +67,27 @@ double Total(const Inputs& in) { return in.List("n")[0] + in.List("n")[1]; }
 
 double Difference(const Inputs& in) { return in.List("means")[0] - in.List("means")[1]; }
 
-/// Whether the ratios leave each group more than one observation; ratios that the export chooses do.
+double SizeRatio(const Inputs& in) { return in.List("n")[1] / in.List("n")[0]; }
+
+/// Whether the ratios leave each group more than one observation.
 bool LeaveTwoGroups(const Inputs& in, const Range& ratios) {
   const double most = Total(in) - 1;
-  return ratios.to == 0 || (ratios.from > 1 / most && ratios.to < most);
+  return ratios.from > 1 / most && ratios.to < most;
+}
+
+/// Four times to either side of the design and of equal sizes, as far as the groups keep more than one observation. The
+/// export's own range is so wide that its even steps jump over the part of interest.
+Range RatiosAroundDesign(const Inputs& in) {
+  const double most = 0.8 * (Total(in) - 2);
+  return {std::max(std::min(SizeRatio(in), 1.0) / 4, 1 / most), std::min(std::max(SizeRatio(in), 1.0) * 4, most)};
 }
 
 Axis RatioAxis() {
-  const auto design = [](const Inputs& in) { return in.List("n")[1] / in.List("n")[0]; };
-  return {"ratio of the sizes (second group over first)", "ratio", {0.001, 1000, true, true, false}, design, nullptr};
+  return {"ratio of the sizes (second group over first)",
+          "ratio",
+          {0.001, 1000, true, true, false},
+          SizeRatio,
+          RatiosAroundDesign};
 }
 
 /// From -5 to 5 times the design's difference, or -100 to 100 for a design without one, as the surface has it.

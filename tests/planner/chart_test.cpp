@@ -64,6 +64,62 @@ TEST(Chart, SurfaceIsStoredRowByRow) {
   }
 }
 
+/// The power on a curve where the design is marked.
+double PowerAtMark(const Picture& picture) {
+  const Numbers& x = picture.series.x;
+  for (std::size_t i = 0; i < x.size(); ++i) {
+    if (std::abs(x[i] - picture.mark->at[0]) < 1e-9) return picture.series.power[i];
+  }
+  ADD_FAILURE() << picture.chart->name << " has no point at the design";
+  return 0;
+}
+
+void ExpectThroughTheDesign(const std::string& test, const ChartRequest& request, const Given& given) {
+  constexpr double singlePrecision = 1e-7;
+  const Picture picture = Draw(*FindTest(test), request, given);
+  ASSERT_TRUE(picture.mark) << test << ' ' << request.name;
+  EXPECT_NEAR(PowerAtMark(picture), picture.mark->power, singlePrecision) << test << ' ' << request.name;
+}
+
+TEST(Chart, CurvesOfMeansPassThroughTheDesign) {
+  const Given effect{{"effect-d", 0.4}, {"n", 40.0}, {"one-sided", true}};
+  ExpectThroughTheDesign("mean", Named("n"), effect);
+  ExpectThroughTheDesign("mean", Named("effect"), effect);
+  ExpectThroughTheDesign("mean", Named("n"), {{"mean", 104.0}, {"test-value", 100.0}, {"sd", 10.0}, {"n", 40.0}});
+  ExpectThroughTheDesign("paired-means", Named("n"), {{"mean-difference", 4.0}, {"sd-difference", 8.0}, {"n", 44.0}});
+  const Given unequal{{"means", Numbers{52, 47}}, {"sd", Numbers{10, 14}}, {"n", Numbers{40, 60}}};
+  ExpectThroughTheDesign("two-means", {"ratio", {0.5}, {2.5}, 0.25}, unequal);
+  ExpectThroughTheDesign("two-means", {"difference", {-10}, {10}, 0.25}, unequal);
+}
+
+TEST(Chart, CurvesOfProportionsPassThroughTheDesign) {
+  for (const bool exact : {false, true}) {
+    const Given one{{"proportion", 0.65}, {"null", 0.5}, {"n", 60.0}, {"exact", exact}};
+    for (const char* name : {"n", "null", "alternative", "difference"}) {
+      ExpectThroughTheDesign("proportion", Named(name), one);
+    }
+    const Given pairs{{"p12", 0.32}, {"p21", 0.08}, {"n", 50.0}, {"exact", exact}};
+    ExpectThroughTheDesign("paired-proportions", Named("n"), pairs);
+    ExpectThroughTheDesign("paired-proportions", {"ratio", {2}, {6}, 0.25}, pairs);
+    const Given marginals{
+        {"proportion1", 0.6}, {"proportion2", 0.4}, {"correlation", 0.3}, {"n", 60.0}, {"exact", exact}};
+    ExpectThroughTheDesign("paired-proportions", Named("correlation"), marginals);
+  }
+}
+
+TEST(Chart, GridsOfProportionsAreCutToTheRange) {
+  const Given one{{"proportion", 0.65}, {"null", 0.5}, {"n", 60.0}};
+  const Series whole = Draw(*FindTest("proportion"), {"null-alternative", {}, {}, 0.1}, one).series;
+  const Series cut = Draw(*FindTest("proportion"), {"null-alternative", {0.2, 0.3}, {0.4, 0.7}, 0.1}, one).series;
+  ASSERT_EQ(cut.x.size(), 3u);
+  ASSERT_EQ(cut.y.size(), 5u);
+  ASSERT_EQ(cut.power.size(), 15u);
+  EXPECT_EQ(cut.x.front(), whole.x[1]);
+  EXPECT_EQ(cut.y.front(), whole.y[2]);
+  EXPECT_EQ(cut.power[0], whole.power[1 * 9 + 2]);
+  EXPECT_EQ(cut.power[14], whole.power[3 * 9 + 6]);
+}
+
 TEST(Chart, MarkIsLeftOutWhenTheDesignIsOutside) {
   EXPECT_FALSE(Anova({"n", {10}, {50}, std::nullopt}).mark);
   EXPECT_FALSE(Anova({"n-sd", {10, 7}, {100, 9}, std::nullopt}).mark);
