@@ -13,6 +13,11 @@ constexpr double mostPartialledOut = 1e5;
 
 double SmallestSize(const Inputs& in) { return in.Number("partialled-out") + 4; }
 
+Range DrawnSizes(const Inputs& in) {
+  constexpr double sizesBeyondPartialledOut = 5000;
+  return {SmallestSize(in), in.Number("partialled-out") + sizesBeyondPartialledOut};
+}
+
 // The chart over the variables partialled out has a point for each case.
 constexpr double largestPartialledOutSize = 1e6;
 const char* const tooManyPoints = "--chart partialled-out has a point for each case: --n must be at most 1000000.";
@@ -42,6 +47,7 @@ std::vector<Chart> Charts() {
        "PlotNOneSampPartial",
        "partial --r 0.3 --partialled-out 3 --n 84 --chart n",
        [](const Inputs& in, const Ranges& r) {
+         CheckSizes(r.x, DrawnSizes(in));
          return Curve(PlotNOneSampPartial(in.Number("n"), in.Number("partialled-out"), in.Number("r"),
                                           in.Number("null"), in.Flag("one-sided"), in.Alpha(), r.x.First(),
                                           r.x.Last()));
@@ -89,6 +95,7 @@ std::vector<Chart> Charts() {
        "PlotNRiskDiffOneSampPartial",
        "partial --r -0.3 --partialled-out 3 --n 84 --chart n-difference",
        [](const Inputs& in, const Ranges& r) {
+         CheckSizes(r.x, DrawnSizes(in));
          const double step = CorrelationStep(r.y, r.step);
          return Window(Surface(PlotNRiskDiffOneSampPartial(in.Number("n"), in.Number("partialled-out"), in.Number("r"),
                                                            in.Number("null"), in.Flag("one-sided"), in.Alpha(),
@@ -102,6 +109,7 @@ std::vector<Chart> Charts() {
        "PlotNNullOneSampPartial",
        "partial --r 0.3 --partialled-out 3 --n 84 --chart n-null",
        [](const Inputs& in, const Ranges& r) {
+         CheckSizes(r.x, DrawnSizes(in));
          const double step = CorrelationStep(r.y, r.step);
          return Window(Surface(PlotNNullOneSampPartial(in.Number("n"), in.Number("partialled-out"), in.Number("r"),
                                                        in.Number("null"), in.Flag("one-sided"), in.Alpha(), r.x.First(),
@@ -115,6 +123,7 @@ std::vector<Chart> Charts() {
        "PlotNAlterOneSampPartial",
        "partial --r 0.3 --partialled-out 3 --n 84 --chart n-r --from 10,0 --to 200,0.8",
        [](const Inputs& in, const Ranges& r) {
+         CheckSizes(r.x, DrawnSizes(in));
          const double step = CorrelationStep(r.y, r.step);
          return Window(Surface(PlotNAlterOneSampPartial(in.Number("n"), in.Number("partialled-out"), in.Number("r"),
                                                         in.Number("null"), in.Flag("one-sided"), in.Alpha(),

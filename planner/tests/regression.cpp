@@ -50,14 +50,14 @@ double SizeForEffect(const Inputs& in) {
 constexpr double mostPredictors = 1e5;
 constexpr double sizesBeyondPredictors = 5000;
 
+Range DrawnSizes(const Inputs& in) { return {SmallestSize(in), Predictors(in) + sizesBeyondPredictors}; }
+
 Axis SizeAxis() {
   return {"sample size (cases)",
           "n",
           {2, mostPredictors + sizesBeyondPredictors, true, true, true},
           [](const Inputs& in) { return in.Number("n"); },
-          [](const Inputs& in) {
-            return SizesAround(in.Number("n"), {SmallestSize(in), Predictors(in) + sizesBeyondPredictors});
-          }};
+          [](const Inputs& in) { return SizesAround(in.Number("n"), DrawnSizes(in)); }};
 }
 
 Axis EffectAxis() {
@@ -88,6 +88,7 @@ std::vector<Chart> Charts() {
        "PlotNmlr",
        "regression --r-squared 0.3 --r-squared-reduced 0.2 --predictors 5 --tested 2 --n 80 --chart n",
        [](const Inputs& in, const Ranges& r) {
+         CheckSizes(r.x, DrawnSizes(in));
          return Curve(PlotNmlr(Predictors(in), Tested(in), Fit(in), Reduced(in), in.Flag("random"), Intercept(in),
                                in.Alpha(), r.x.First(), r.x.Last()));
        }},
@@ -98,6 +99,7 @@ std::vector<Chart> Charts() {
        "PlotNmlrFES",
        "regression --effect-f2 0.15 --predictors 5 --n 80 --random --chart n",
        [](const Inputs& in, const Ranges& r) {
+         CheckSizes(r.x, DrawnSizes(in));
          return Curve(PlotNmlrFES(Predictors(in), Tested(in), in.Number("effect-f2"), in.Flag("random"), Intercept(in),
                                   in.Alpha(), r.x.First(), r.x.Last()));
        }},
@@ -130,6 +132,7 @@ std::vector<Chart> Charts() {
        "PlotNaCorrmlr",
        "regression --r-squared 0.1 --predictors 5 --n 95 --chart n-r",
        [](const Inputs& in, const Ranges& r) {
+         CheckSizes(r.x, DrawnSizes(in));
          return Window(
              Surface(PlotNaCorrmlr(in.Number("n"), Predictors(in), Tested(in), Fit(in), 0, in.Flag("random"),
                                    Intercept(in), in.Alpha(), r.x.First(), r.x.Last(), StepOfGrid(r.y, 1, r.step))),
@@ -142,6 +145,7 @@ std::vector<Chart> Charts() {
        "PlotNaESmlr",
        "regression --effect-f2 0.15 --predictors 5 --n 80 --chart n-effect --from 20,0 --to 160,0.5",
        [](const Inputs& in, const Ranges& r) {
+         CheckSizes(r.x, DrawnSizes(in));
          return Window(
              Surface(PlotNaESmlr(in.Number("n"), Predictors(in), Tested(in), in.Number("effect-f2"), in.Flag("random"),
                                  Intercept(in), in.Alpha(), r.x.First(), r.x.Last(), StepOfGrid(r.y, 1, r.step))),

@@ -1,9 +1,14 @@
 #include "window.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <iterator>
+
+#include "planner/error.h"
+#include "planner/value.h"
 
 namespace planner {
 namespace {
@@ -32,6 +37,12 @@ Range SizesAround(double size, const Range& allowed) {
   const double last = std::min(2 * size, allowed.to);
   const double first = std::min(std::floor(size / 4), std::floor(last / 2));
   return {std::max(first, allowed.from), std::max(last, allowed.from + 1)};
+}
+
+void CheckSizes(const Range& sizes, const Range& allowed) {
+  if (sizes.from >= allowed.from && sizes.to <= allowed.to) return;
+  throw InputError(fmt::format("--from and --to are {} and {}, but sizes must be from {} to {} for these inputs.",
+                               Shortest(sizes.from), Shortest(sizes.to), Shortest(allowed.from), Shortest(allowed.to)));
 }
 
 double StepOfGrid(const Range& shown, double wholeSpan, double share) {

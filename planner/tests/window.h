@@ -8,6 +8,9 @@ namespace planner {
 /// From a quarter of the size to twice the size, as far as `allowed` goes.
 Range SizesAround(double size, const Range& allowed);
 
+/// Refuses ends of an axis of sizes that the export does not draw with these inputs.
+void CheckSizes(const Range& sizes, const Range& allowed);
+
 /// The step of the grid for a share of the range shown, which is `wholeSpan` wide where the user gave none.
 double StepOfGrid(const Range& shown, double wholeSpan, double share);
 
