@@ -12,6 +12,7 @@ Test MeanTest();
 Test PairedMeansTest();
 Test TwoMeansTest();
 Test ProportionTest();
+Test TwoProportionsTest();
 Test PairedProportionsTest();
 Test PearsonTest();
 Test SpearmanTest();

@@ -1,0 +1,277 @@
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "catalogue.h"
+#include "group_parameters.h"
+#include "kelpower.h"
+#include "planner/error.h"
+
+namespace planner {
+namespace {
+
+using Names = std::vector<std::string>;
+
+constexpr int z = 0;
+constexpr int t = 1;
+constexpr int arcsine = 3;
+constexpr int conditional = 4;  // 3 would let the search of sizes end by the z test
+
+constexpr int wald = 0;
+constexpr int newcombe = 5;
+
+// An exact power counts tables: these groups take less than a second.
+constexpr double largestExactGroup = 10000;
+
+// A search takes some hundred powers. The work of the conditional test grows with the square of the size.
+constexpr double largestExactSearch = 5000;
+constexpr double largestConditionalSearch = 1000;
+
+// Rounding in the sum over the tables must not keep a search from its target.
+constexpr double largestExactPower = 0.9999;
+
+bool IsConditional(const Inputs& in) { return in.Choice("test") == conditional; }
+
+bool IsExact(const Inputs& in) { return in.Flag("exact") || IsConditional(in); }
+
+double First(const Inputs& in) {
+  return in.Has("proportions") ? in.List("proportions")[0] : in.Number("proportion1");
+}
+
+double Second(const Inputs& in) {
+  if (in.Has("proportions")) return in.List("proportions")[1];
+  const double first = First(in);
+  if (in.Has("risk-difference")) return first - in.Number("risk-difference");
+  if (in.Has("risk-ratio")) return first / in.Number("risk-ratio");
+  return first / (first + in.Number("odds-ratio") * (1 - first));
+}
+
+bool HasSecond(const Inputs& in) { return Second(in) > 0 && Second(in) < 1; }
+
+double RiskDifference(const Inputs& in) { return First(in) - Second(in); }
+
+double RiskRatio(const Inputs& in) { return First(in) / Second(in); }
+
+double OddsRatio(const Inputs& in) { return First(in) / (1 - First(in)) / (Second(in) / (1 - Second(in))); }
+
+Numbers Power(const Inputs& in) {
+  const Numbers& n = in.List("n");
+  return {PowerIndSampBinom(n[0], n[1], First(in), Second(in), IsExact(in), in.Choice("test"), in.Flag("one-sided"),
+                            in.Alpha(), in.Flag("continuity-correction"), in.Flag("pooled"), in.Stop())};
+}
+
+Numbers FoundSizes(const Inputs& in, bool exact, int method) {
+  Numbers sizes;
+  PowerReverseIndSampBinom(in.Number("power"), First(in), Second(in), sizes, in.Number("ratio"), exact, method,
+                           in.Flag("one-sided"), in.Alpha(), in.Flag("continuity-correction"), in.Flag("pooled"),
+                           in.Stop());
+  return sizes;
+}
+
+/// The library squares the first size in the second one where all of these flags are set, so it is made here instead.
+Numbers LargeSampleSizes(const Inputs& in, int method) {
+  Numbers sizes = FoundSizes(in, false, method);
+  if (method == z && in.Flag("one-sided") && in.Flag("continuity-correction") && in.Flag("pooled")) {
+    sizes[1] = std::ceil(in.Number("ratio") * sizes[0]);
+  }
+  return sizes;
+}
+
+/// The large-sample sizes tell whether an exact search is short enough to start.
+void RefuseLongSearch(const Inputs& in) {
+  const Numbers sizes = LargeSampleSizes(in, IsConditional(in) ? z : in.Choice("test"));
+  const double limit = IsConditional(in) ? largestConditionalSearch : largestExactSearch;
+  const bool isShort = std::all_of(sizes.begin(), sizes.end(), [&](double size) { return size > 0 && size <= limit; });
+  if (isShort) return;
+  throw NoSolution(IsConditional(in)
+                       ? "The conditional test is searched up to about 1000 observations in a group: use a large-sample "
+                         "test for more."
+                       : "Exact tests are searched up to about 5000 observations in a group: leave out --exact for more.");
+}
+
+Numbers Sizes(const Inputs& in) {
+  if (!IsExact(in)) return LargeSampleSizes(in, in.Choice("test"));
+  RefuseLongSearch(in);
+  return FoundSizes(in, true, in.Choice("test"));
+}
+
+Numbers HalfWidth(const Inputs& in) {
+  const Numbers& n = in.List("n");
+  return {HalfCIIndSampBinom(n[0], n[1], First(in), Second(in), in.Choice("interval-method"), in.Alpha(),
+                             in.Flag("continuity-correction"))};
+}
+
+Numbers SizesForHalfWidth(const Inputs& in) {
+  Numbers sizes;
+  PowerReversebyHalfCIIndSampBinom(in.Number("half-width"), First(in), Second(in), sizes, in.Number("ratio"),
+                                   in.Choice("interval-method"), in.Alpha(), in.Flag("continuity-correction"),
+                                   in.Stop());
+  return sizes;
+}
+
+bool ExactWhereItCanBe(const Inputs& in) { return !in.Flag("exact") || in.Choice("test") != arcsine; }
+
+bool PooledWhereItCanBe(const Inputs& in) {
+  if (!in.Flag("pooled") || in.Choice("test") == t) return true;
+  return in.Choice("test") == z && !IsExact(in);
+}
+
+bool AsksForInterval(const Inputs& in) {
+  return in.Has("half-width") || (in.Has("interval") && in.Flag("interval"));
+}
+
+bool CorrectsATestThatCanBe(const Inputs& in) {
+  return AsksForInterval(in) || !in.Flag("continuity-correction") || in.Choice("test") == z;
+}
+
+bool CorrectsAnIntervalThatCanBe(const Inputs& in) {
+  if (!AsksForInterval(in) || !in.Flag("continuity-correction")) return true;
+  return in.Choice("interval-method") == wald || in.Choice("interval-method") == newcombe;
+}
+
+bool CanCountTables(const Inputs& in) {
+  const Numbers& n = in.List("n");
+  return !IsExact(in) || std::max(n[0], n[1]) <= largestExactGroup;
+}
+
+bool ExactCanReach(const Inputs& in) {
+  const double power = in.Number("power");
+  return !IsExact(in) || (power >= in.Alpha() && power <= largestExactPower);
+}
+
+/// Half an observation is moved between the outcomes of each group.
+bool LeavesArcsineItsCorrection(const Inputs& in) { return in.Choice("test") != arcsine || Power(in)[0] != -1; }
+
+void AddRoutes(Test& test, const Names& effect) {
+  const auto with = [&](const char* more) {
+    Names names = effect;
+    names.push_back(more);
+    return names;
+  };
+  const Names testing = {"test", "exact", "pooled", "continuity-correction", "one-sided"};
+  const Names findingSizes = {"test", "exact", "pooled", "continuity-correction", "one-sided", "ratio"};
+  const Names interval = {"interval-method", "continuity-correction"};
+  const Names findingPrecision = {"interval-method", "continuity-correction", "ratio"};
+  test.routes.push_back({Question::Power, with("n"), testing, "PowerIndSampBinom", Power});
+  test.routes.push_back({Question::SampleSize, effect, findingSizes, "PowerReverseIndSampBinom", Sizes});
+  test.routes.push_back({Question::HalfWidth, with("n"), interval, "HalfCIIndSampBinom", HalfWidth});
+  test.routes.push_back({Question::SampleSizeForHalfWidth, effect, findingPrecision, "PowerReversebyHalfCIIndSampBinom",
+                         SizesForHalfWidth});
+}
+
+std::vector<Parameter> Parameters() {
+  return {
+      PerGroup("proportions", "proportions", "proportion expected in each group").Above(0).Below(1),
+      Number("proportion1", "first proportion", "proportion expected in the first group").Above(0).Below(1),
+      Number("risk-difference", "risk difference", "first proportion minus the second").Above(-1).Below(1),
+      Number("risk-ratio", "risk ratio", "first proportion over the second").Above(0),
+      Number("odds-ratio", "odds ratio", "odds in the first group over those in the second").Above(0),
+      GroupSizes().AtLeast(2),
+      Number("ratio", "ratio of the sizes", "size of the second group over that of the first, in the sizes to find")
+          .AtLeast(0.001)
+          .AtMost(1000)
+          .Default(1.0),
+      OneOf("test", "test", "test of the difference; conditional is always exact",
+            {{"z", z, "z test"},
+             {"t", t, "t test"},
+             {"likelihood-ratio", 2, "likelihood-ratio test"},
+             {"arcsine", arcsine, "arcsine test"},
+             {"conditional", conditional, "conditional (Fisher) test"}})
+          .Default(std::string("z")),
+      Flag("exact", "exact power", "sum over all tables in place of the large-sample formula"),
+      Flag("pooled", "pooled variance", "standard error under equal proportions (z), pooled variance (t)"),
+      Flag("continuity-correction", "continuity correction", "correct the z test or the interval for continuity"),
+      Flag("one-sided", "one-sided test", "test in the direction of the difference only"),
+      OneOf("interval-method", "interval", "confidence interval of the difference",
+            {{"wald", wald, "Wald"},
+             {"agresti-caffo", 1, "Agresti-Caffo"},
+             {"uniform-prior", 2, "uniform-prior"},
+             {"brown-li-jeffreys", 3, "Brown-Li-Jeffreys"},
+             {"hauck-anderson", 4, "Hauck-Anderson"},
+             {"newcombe", newcombe, "Newcombe"}})
+          .Default(std::string("newcombe")),
+  };
+}
+
+std::vector<Condition> Conditions() {
+  return {
+      {{"proportion1", "risk-difference"}, HasSecond, "--risk-difference puts the second proportion outside 0 to 1."},
+      {{"proportion1", "risk-ratio"}, HasSecond, "--risk-ratio puts the second proportion outside 0 to 1."},
+      {{"proportion1", "odds-ratio"}, HasSecond, "--odds-ratio puts the second proportion at 0 or 1."},
+      {{"exact"}, ExactWhereItCanBe, "--exact does not go with --test arcsine: its exact form is --test conditional."},
+      {{"pooled"},
+       PooledWhereItCanBe,
+       "--pooled goes with the t test and the large-sample z test only; the exact z test is always pooled."},
+      {{"continuity-correction"}, CorrectsATestThatCanBe, "--continuity-correction goes with the z test only."},
+      {{"continuity-correction"},
+       CorrectsAnIntervalThatCanBe,
+       "--continuity-correction goes with the intervals wald and newcombe only."},
+      {{"n"}, CanCountTables, "--n of an exact test must be at most 10000."},
+      {{"power"}, ExactCanReach, "--power of an exact test must be from --alpha to 0.9999."},
+      {{"n"},
+       LeavesArcsineItsCorrection,
+       "--n is too small for the arcsine test: each group must expect at least half an observation of the outcome that "
+       "is more frequent in the first."},
+  };
+}
+
+Test Describe() {
+  Test test;
+  test.name = "two-proportions";
+  test.title = "Test of two independent proportions";
+  test.about = "Tests whether two independent groups have the same proportion.";
+  test.groups = 2;
+  test.parameters = Parameters();
+  AddRoutes(test, {"proportions"});
+  AddRoutes(test, {"proportion1", "risk-difference"});
+  AddRoutes(test, {"proportion1", "risk-ratio"});
+  AddRoutes(test, {"proportion1", "odds-ratio"});
+  test.conditions = Conditions();
+
+  constexpr const char* noEffect =
+      "The two proportions are equal: without a difference, no sample size reaches the power.";
+  test.solvable = {
+      {{"power"}, [](const Inputs& in) { return First(in) != Second(in); }, noEffect},
+  };
+
+  test.derived = {
+      {"proportion2", "second proportion", {"proportion1"}, Second},
+      {"risk-difference", "risk difference", {"proportions"}, RiskDifference},
+      {"risk-ratio", "risk ratio", {"proportions"}, RiskRatio},
+      {"odds-ratio", "odds ratio", {"proportions"}, OddsRatio},
+  };
+
+  test.phrases = {
+      {"effect",
+       {{"proportions", "proportions of {proportions}"},
+        {"risk-difference", "a risk difference of {risk-difference} from a first proportion of {proportion1}"},
+        {"risk-ratio", "a risk ratio of {risk-ratio} at a first proportion of {proportion1}"},
+        {"odds-ratio", "an odds ratio of {odds-ratio} at a first proportion of {proportion1}"}}},
+  };
+  test.sentences = {
+      {Question::Power,
+       "With {sizes}, the {one-sided?one-sided:two-sided} {exact?exact :}{pooled?pooled :}{test} of two independent "
+       "proportions{continuity-correction? with continuity correction:} at a significance level of {alpha} has a power "
+       "of {power} to detect {effect}."},
+      {Question::SampleSize,
+       "To detect {effect} with a power of {target-power}, the {one-sided?one-sided:two-sided} {exact?exact "
+       ":}{pooled?pooled :}{test} of two independent proportions{continuity-correction? with continuity correction:} "
+       "at a significance level of {alpha} needs {sizes}; its power is then {power}."},
+      {Question::HalfWidth,
+       "With {sizes} and {effect}, the {confidence} {interval-method} confidence interval of the difference of "
+       "proportions has a half-width of {half-width}."},
+      {Question::SampleSizeForHalfWidth,
+       "For a {confidence} {interval-method} confidence interval of the difference of proportions with a half-width of "
+       "at most {target-half-width}, at {effect}, the study needs {sizes}; the half-width is then {half-width}."},
+  };
+
+  test.examples = {};
+  return test;
+}
+
+}  // namespace
+
+Test TwoProportionsTest() { return WithCommonParameters(Describe()); }
+
+}  // namespace planner
