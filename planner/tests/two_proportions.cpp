@@ -24,9 +24,8 @@ constexpr int newcombe = 5;
 // An exact power counts tables: these groups take less than a second.
 constexpr double largestExactGroup = 10000;
 
-// A search takes some hundred powers. The work of the conditional test grows with the square of the size.
+// A search takes some hundred powers, and the work of the conditional test grows with the square of the size.
 constexpr double largestExactSearch = 5000;
-constexpr double largestConditionalSearch = 1000;
 
 // Rounding in the sum over the tables must not keep a search from its target.
 constexpr double largestExactPower = 0.9999;
@@ -81,13 +80,11 @@ Numbers LargeSampleSizes(const Inputs& in, int method) {
 /// The large-sample sizes tell whether an exact search is short enough to start.
 void RefuseLongSearch(const Inputs& in) {
   const Numbers sizes = LargeSampleSizes(in, IsConditional(in) ? z : in.Choice("test"));
-  const double limit = IsConditional(in) ? largestConditionalSearch : largestExactSearch;
-  const bool isShort = std::all_of(sizes.begin(), sizes.end(), [&](double size) { return size > 0 && size <= limit; });
+  const bool isShort = std::all_of(sizes.begin(), sizes.end(),
+                                   [](double size) { return size > 0 && size <= largestExactSearch; });
   if (isShort) return;
-  throw NoSolution(IsConditional(in)
-                       ? "The conditional test is searched up to about 1000 observations in a group: use a large-sample "
-                         "test for more."
-                       : "Exact tests are searched up to about 5000 observations in a group: leave out --exact for more.");
+  throw NoSolution(
+      "Exact tests are searched up to about 5000 observations in a group: use a large-sample test for more.");
 }
 
 Numbers Sizes(const Inputs& in) {
@@ -212,7 +209,7 @@ std::vector<Condition> Conditions() {
       {{"n"},
        LeavesArcsineItsCorrection,
        "--n is too small for the arcsine test: each group must expect at least half an observation of the outcome that "
-       "is more frequent in the first."},
+       "is more frequent in it than in the other."},
   };
 }
 
@@ -266,7 +263,42 @@ Test Describe() {
        "at most {target-half-width}, at {effect}, the study needs {sizes}; the half-width is then {half-width}."},
   };
 
-  test.examples = {};
+  test.examples = {
+      {"two-proportions --proportions 0.5,0.75 --n 50 --pooled",
+       "With 50 observations in each of 2 groups (100 in total), the two-sided pooled z test of two independent "
+       "proportions at a significance level of 0.05 has a power of 0.7402 to detect proportions of 0.5 and 0.75."},
+      {"two-proportions --proportions 0.8,0.6 --n 40,60 --test likelihood-ratio --exact",
+       "With 40 and 60 observations in 2 groups (100 in total), the two-sided exact likelihood-ratio test of two "
+       "independent proportions at a significance level of 0.05 has a power of 0.5828 to detect proportions of 0.8 "
+       "and 0.6."},
+      {"two-proportions --proportions 0.022,0.001 --power 0.8 --pooled --one-sided",
+       "To detect proportions of 0.022 and 0.001 with a power of 0.8, the one-sided pooled z test of two independent "
+       "proportions at a significance level of 0.05 needs 318 observations in each of 2 groups (636 in total); its "
+       "power is then 0.8003."},
+      {"two-proportions --proportions 0.5,0.75 --power 0.8 --test conditional",
+       "To detect proportions of 0.5 and 0.75 with a power of 0.8, the two-sided conditional (Fisher) test of two "
+       "independent proportions at a significance level of 0.05 needs 64 observations in each of 2 groups (128 in "
+       "total); its power is then 0.8017."},
+      {"two-proportions --proportion1 0.3 --risk-ratio 1.5 --power 0.9 --ratio 2 --test arcsine",
+       "To detect a risk ratio of 1.5 at a first proportion of 0.3 with a power of 0.9, the two-sided arcsine test "
+       "of two independent proportions at a significance level of 0.05 needs 308 and 615 observations in 2 groups "
+       "(923 in total); its power is then 0.9003."},
+      {"two-proportions --proportion1 0.5 --odds-ratio 0.5 --power 0.8 --continuity-correction",
+       "To detect an odds ratio of 0.5 at a first proportion of 0.5 with a power of 0.8, the two-sided z test of two "
+       "independent proportions with continuity correction at a significance level of 0.05 needs 146 observations in "
+       "each of 2 groups (292 in total); its power is then 0.8024."},
+      {"two-proportions --proportion1 0.5 --risk-difference -0.25 --n 50,100 --test t --pooled",
+       "With 50 and 100 observations in 2 groups (150 in total), the two-sided pooled t test of two independent "
+       "proportions at a significance level of 0.05 has a power of 0.8813 to detect a risk difference of -0.25 from "
+       "a first proportion of 0.5."},
+      {"two-proportions --proportions 0.8,0.6 --n 70,80 --interval",
+       "With 70 and 80 observations in 2 groups (150 in total) and proportions of 0.8 and 0.6, the 95% Newcombe "
+       "confidence interval of the difference of proportions has a half-width of 0.1407."},
+      {"two-proportions --proportions 0.8,0.6 --half-width 0.1 --interval-method wald",
+       "For a 95% Wald confidence interval of the difference of proportions with a half-width of at most 0.1, at "
+       "proportions of 0.8 and 0.6, the study needs 154 observations in each of 2 groups (308 in total); the half- "
+       "width is then 0.09989."},
+  };
   return test;
 }
 
