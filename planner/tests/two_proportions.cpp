@@ -34,9 +34,7 @@ bool IsConditional(const Inputs& in) { return in.Choice("test") == conditional; 
 
 bool IsExact(const Inputs& in) { return in.Flag("exact") || IsConditional(in); }
 
-double First(const Inputs& in) {
-  return in.Has("proportions") ? in.List("proportions")[0] : in.Number("proportion1");
-}
+double First(const Inputs& in) { return in.Has("proportions") ? in.List("proportions")[0] : in.Number("proportion1"); }
 
 double Second(const Inputs& in) {
   if (in.Has("proportions")) return in.List("proportions")[1];
@@ -80,8 +78,8 @@ Numbers LargeSampleSizes(const Inputs& in, int method) {
 /// The large-sample sizes tell whether an exact search is short enough to start.
 void RefuseLongSearch(const Inputs& in) {
   const Numbers sizes = LargeSampleSizes(in, IsConditional(in) ? z : in.Choice("test"));
-  const bool isShort = std::all_of(sizes.begin(), sizes.end(),
-                                   [](double size) { return size > 0 && size <= largestExactSearch; });
+  const bool isShort =
+      std::all_of(sizes.begin(), sizes.end(), [](double size) { return size > 0 && size <= largestExactSearch; });
   if (isShort) return;
   throw NoSolution(
       "Exact tests are searched up to about 5000 observations in a group: use a large-sample test for more.");
@@ -114,9 +112,7 @@ bool PooledWhereItCanBe(const Inputs& in) {
   return in.Choice("test") == z && !IsExact(in);
 }
 
-bool AsksForInterval(const Inputs& in) {
-  return in.Has("half-width") || (in.Has("interval") && in.Flag("interval"));
-}
+bool AsksForInterval(const Inputs& in) { return in.Has("half-width") || (in.Has("interval") && in.Flag("interval")); }
 
 bool CorrectsATestThatCanBe(const Inputs& in) {
   return AsksForInterval(in) || !in.Flag("continuity-correction") || in.Choice("test") == z;
@@ -296,7 +292,7 @@ Test Describe() {
        "confidence interval of the difference of proportions has a half-width of 0.1407."},
       {"two-proportions --proportions 0.8,0.6 --half-width 0.1 --interval-method wald",
        "For a 95% Wald confidence interval of the difference of proportions with a half-width of at most 0.1, at "
-       "proportions of 0.8 and 0.6, the study needs 154 observations in each of 2 groups (308 in total); the half- "
+       "proportions of 0.8 and 0.6, the study needs 154 observations in each of 2 groups (308 in total); the half-"
        "width is then 0.09989."},
   };
   return test;
