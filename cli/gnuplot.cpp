@@ -58,7 +58,7 @@ std::string RunGnuplot(const std::string& commands) {
   if (status == notFound) {
     throw std::runtime_error("The chart cannot be drawn: gnuplot is not installed; .csv and .json need none.");
   }
-  const std::string drawn = ContentOf(out.get());
+  std::string drawn = ContentOf(out.get());
   if (status != 0 || drawn.empty()) throw std::runtime_error("The chart cannot be drawn: gnuplot failed.");
   return drawn;
 }

@@ -184,7 +184,7 @@ void Check(const Parameter& parameter, const Value& value) {
   const double* number = std::get_if<double>(&value);
   const Numbers* numbers = std::get_if<Numbers>(&value);
   const std::string* word = std::get_if<std::string>(&value);
-  if (parameter.kind == Kind::Flag && flag) return;
+  if (parameter.kind == Kind::Flag && flag != nullptr) return;
   if (parameter.kind == Kind::Number && number) return CheckNumber(parameter, *number);
   if (parameter.kind == Kind::Choice && word) return CheckChoice(parameter, *word);
   if (IsList(parameter) && numbers) return CheckList(parameter, *numbers);

@@ -62,8 +62,9 @@ XYZPlot SurfaceByRows(const std::optional<Axis>& xAxis, const std::optional<Axis
                       FillLine fillRow) {
   if (!xAxis || !yAxis) return EmptySurface();
   BlankSurface surface(*xAxis, *yAxis);
-  for (std::ptrdiff_t i = 0; i < surface.xCount; ++i) {
-    fillRow(surface.x[i], SurfaceLine(surface.y.get(), surface.yCount, &surface.z[i * surface.yCount], 1, precision));
+  double* z = surface.z.get();
+  for (std::ptrdiff_t i = 0; i < surface.xCount; ++i, z += surface.yCount) {
+    fillRow(surface.x.get()[i], SurfaceLine(surface.y.get(), surface.yCount, z, 1, precision));
   }
   return surface.Take();
 }
@@ -73,7 +74,8 @@ XYZPlot SurfaceByColumns(const std::optional<Axis>& xAxis, const std::optional<A
   if (!xAxis || !yAxis) return EmptySurface();
   BlankSurface surface(*xAxis, *yAxis);
   for (std::ptrdiff_t j = 0; j < surface.yCount; ++j) {
-    fillColumn(surface.y[j], SurfaceLine(surface.x.get(), surface.xCount, &surface.z[j], surface.yCount, precision));
+    fillColumn(surface.y.get()[j],
+               SurfaceLine(surface.x.get(), surface.xCount, surface.z.get() + j, surface.yCount, precision));
   }
   return surface.Take();
 }
