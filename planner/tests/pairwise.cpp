@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 
 #include "catalogue.h"
 #include "group_parameters.h"
@@ -14,6 +15,62 @@ int Second(const Inputs& in) { return static_cast<int>(std::max(in.List("pair")[
 
 double EffectD(const Inputs& in) {
   return EffectSizePairwiseDiff(in.Groups(), in.List("means").data(), in.Number("sd"), nullptr, First(in), Second(in));
+}
+
+// The charts are those of the contrast of the two groups at the adjusted level.
+Numbers PairContrast(const Inputs& in) {
+  Numbers contrast(static_cast<std::size_t>(in.Groups()), 0.0);
+  contrast[static_cast<std::size_t>(First(in)) - 1] = 1;
+  contrast[static_cast<std::size_t>(Second(in)) - 1] = -1;
+  return contrast;
+}
+
+double AdjustedAlpha(const Inputs& in) {
+  const double pairs = in.Groups() * (in.Groups() - 1) / 2.0;
+  switch (in.Choice("adjust")) {
+    case 0: return in.Alpha() / pairs;
+    case 1: return -std::expm1(std::log1p(-in.Alpha()) / pairs);
+    default: return in.Alpha();
+  }
+}
+
+std::vector<Chart> Charts() {
+  const Axis size = TotalSizeAxis();
+  const Axis sd = ParameterAxis(WithinSd(), "SD", [](const Inputs& in) { return in.Number("sd"); });
+  constexpr int twoSided = 0;
+  return {
+      {"n",
+       {size},
+       {"pair", "means", "sd", "n"},
+       {"groups", "adjust"},
+       "PlotNSC",
+       "pairwise --pair 1,3 --means 10,12,15 --sd 6 --n 20 --chart n",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotNSC(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(),
+                              PairContrast(in).data(), r.x.First(), r.x.Last(), twoSided, AdjustedAlpha(in)));
+       }},
+      {"sd",
+       {sd},
+       {"pair", "means", "sd", "n"},
+       {"groups", "adjust"},
+       "PlotSDSC",
+       "pairwise --pair 1,3 --means 10,12,15 --sd 6 --n 20 --chart sd --from 2 --to 12",
+       [](const Inputs& in, const Ranges& r) {
+         return Curve(PlotSDSC(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(),
+                               PairContrast(in).data(), r.x.from, r.x.to, twoSided, AdjustedAlpha(in), r.step));
+       }},
+      {"n-sd",
+       {size, sd},
+       {"pair", "means", "sd", "n"},
+       {"groups", "adjust"},
+       "PlotNaSDSC",
+       "pairwise --pair 1,3 --means 10,12,15 --sd 6 --n 20 --chart n-sd --from 12,2 --to 150,12",
+       [](const Inputs& in, const Ranges& r) {
+         return Surface(PlotNaSDSC(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(),
+                                   PairContrast(in).data(), r.x.First(), r.x.Last(), r.y.from, r.y.to, twoSided,
+                                   AdjustedAlpha(in), r.step));
+       }},
+  };
 }
 
 Test Describe() {
@@ -131,6 +188,7 @@ Test Describe() {
        "groups with a half-width of at most 4, at a standard deviation of 6 within the groups, the study needs 19 "
        "observations in each of 3 groups (57 in total); the half-width is then 3.903."},
   };
+  test.charts = Charts();
   return test;
 }
 

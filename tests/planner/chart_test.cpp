@@ -151,7 +151,8 @@ TEST(Chart, WrongRangesGetASentence) {
   EXPECT_EQ(Complaint("anova", {"n", {4}, {2e6}, std::nullopt}),
             "The range has more than 1000000 points: bring --from and --to closer together.");
   EXPECT_EQ(Complaint("anova", {"n", {}, {20}, std::nullopt}), "--from and --to go together: give both or neither.");
-  EXPECT_EQ(Complaint("pairwise", Named("n")), "pairwise has no charts.");
+  EXPECT_EQ(Complaint("two-proportions", Named("n"), {{"proportions", Numbers{0.5, 0.75}}, {"n", Numbers{50, 50}}}),
+            "two-proportions has no charts.");
   EXPECT_EQ(Complaint("anova", Named("n"), {{"means", means}, {"sd", 6.0}, {"n", Numbers{1e9, 1e9, 1e9}}}),
             "A design of more than 100000 observations has no usual range: also give --from and --to.");
 }
