@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -480,30 +479,6 @@ TEST(IndependentInterval, SizesAreMissingWhenStoppedOrOutOfReach) {
   }
   PowerReversebyHalfCIIndSampBinom(0.1, 0.3, 0.6, sizes, 1, 9, 0.05, 0, nullptr);
   EXPECT_EQ(sizes, (std::vector<double>{400, 400}));
-}
-
-// Speed ---------------------------------------------------------------------------------------------------------------
-
-template <typename Function>
-double Seconds(int repetitions, Function function) {
-  double best = kInfinity;
-  for (int i = 0; i < repetitions; ++i) {
-    const auto start = std::chrono::steady_clock::now();
-    function();
-    best = std::min(best, std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
-  }
-  return best;
-}
-
-TEST(IndependentSpeed, ExactPowersAreFarFasterThanTheirDefinitions) {
-  for (const int method : {kZ, kT, kLikelihoodRatio, kConditional}) {
-    const double n = method == kConditional ? 40 : 100;
-    const IndependentTest test = IndependentTest::Of(1, method, 0, 0.05, 0, 0);
-    const double literal = Seconds(2, [&] { LiteralExactPower(test, n, n, 0.3, 0.5, nullptr); });
-    const double ours = Seconds(20, [&] { Power(n, n, 0.3, 0.5, kExact, method); });
-    RecordProperty("ratio of method " + std::to_string(method), std::to_string(literal / ours));
-    EXPECT_GT(literal / ours, method == kConditional ? 500 : 50) << literal << " s against " << ours << " s";
-  }
 }
 
 }  // namespace
