@@ -176,7 +176,7 @@ public:
     const long double t0 = Saddle(lower);
     const long double r = 1 - t0;
     const long double q = 1 + c * t0;
-    const long double peak = -a * Log1pMinusArg(-t0) + m * t0 * t0 / r - b * Log1pMinusArg(c * t0) + mean * t0;
+    const long double peak = -a * Log1pMinusArg(-t0) + m * t0 * t0 / r + SecondPart(t0);
     // The integral's other factors are of the order of 1: such a tail underflows, as does one so far out that even
     // extended precision overflows on the way.
     if (!(peak > -800)) return 0;
@@ -209,11 +209,22 @@ public:
 private:
   static constexpr int mostNodes = 2000;
 
-  // d/dt (K(t) - log|t|), with the parts that cancel at t = 0 taken together in the mean.
+  // The part of K(t) in b with the linear terms of the others, (a + m) t - b log(1 + c t). Near t = 0 the linear terms
+  // cancel and are taken together in the mean. Far from it, where c is large, b c would hide a + m.
+  long double SecondPart(long double t) const {
+    const long double ct = c * t;
+    return ct > 1 ? (a + m) * t - b * std::log1p(ct) : mean * t - b * Log1pMinusArg(ct);
+  }
+
+  long double SecondSlope(long double t) const {
+    const long double ct = c * t;
+    return ct > 1 ? a + m - b * (c / (1 + ct)) : mean + b * c * (ct / (1 + ct));
+  }
+
+  // d/dt (K(t) - log|t|)
   long double Slope(long double t) const {
     const long double r = 1 - t;
-    const long double ct = c * t;
-    return mean + a * (t / r) + m * (t / r) * (1 + 1 / r) + b * c * (ct / (1 + ct)) - 1 / t;
+    return SecondSlope(t) + a * (t / r) + m * (t / r) * (1 + 1 / r) - 1 / t;
   }
 
   long double Curvature(long double t) const {
@@ -234,6 +245,9 @@ private:
       t = mean > 0 ? -(mean + root) / (2 * spread) : -2 / (root - mean);
     else
       t = mean < 0 ? (root - mean) / (2 * spread) : 2 / (root + mean);
+    // Where c t is large at the saddle point, only a + m + (a + 2 m) t - (b + 1) / t is left of the slope.
+    const long double far = 2 * (b + 1) / (a + m + std::sqrt((a + m) * (a + m) + 4 * (a + 2 * m) * (b + 1)));
+    if (!lower && c * far > 1) t = far;
     for (int i = 0; i < 200; ++i) {
       if (!(t > low && t < high)) t = low + (high - low) / 2;
       const long double slope = Slope(t);
