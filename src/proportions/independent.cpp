@@ -69,24 +69,42 @@ std::optional<double> SmallestFirstSize(const SizeSearch& search, double n1) {
   return *std::min_element(found.begin(), found.end());
 }
 
+struct GroupSizes {
+  double n1;
+  double n2;
+};
+
+GroupSizes MissingSizes() { return {KelMV::Missing(), KelMV::Missing()}; }
+
 /// Brings the sizes of an exact test to whole numbers that reach the wanted power. They stay as they are when the stop
 /// request answers true, and become missing when the tables can no longer be counted.
-void Refine(SizeSearch search, DoubleVector& sampleSizes) {
+GroupSizes Refined(SizeSearch search, const GroupSizes& found) {
   if (search.method == 3) search.method = 0;  // deliberately: the refinement of the conditional test goes by the z test
-  const std::optional<double> smallest = SmallestFirstSize(search, sampleSizes.at(0));
-  if (!smallest) return;
+  const std::optional<double> smallest = SmallestFirstSize(search, found.n1);
+  if (!smallest) return found;
 
   double n1 = *smallest;
   while (search.PowerAt(n1, search.WholeSecondSize(n1), search.method) < search.power) {
-    if (AnswersStop(search.stop)) return;
-    if (IsUncountable(n1) || IsUncountable(search.WholeSecondSize(n1))) {
-      sampleSizes = {KelMV::Missing(), KelMV::Missing()};
-      return;
-    }
+    if (AnswersStop(search.stop)) return found;
+    if (IsUncountable(n1) || IsUncountable(search.WholeSecondSize(n1))) return MissingSizes();
     n1 += 1;
   }
-  sampleSizes.at(0) = n1;
-  sampleSizes.at(1) = search.WholeSecondSize(n1);
+  return {n1, search.WholeSecondSize(n1)};
+}
+
+GroupSizes FindSizes(const SizeSearch& search) {
+  if (AnswersStop(search.stop)) return MissingSizes();
+  const double lower = LowerStart(search);
+  const double n1 = SolveContinuous(
+      lower, UpperStart(search, lower), kTolerance, [&](double n) { return search.Objective(n); }, search.stop);
+  if (KelMV::IsMissing(n1)) return MissingSizes();
+
+  // The square in this one combination of flags is intended.
+  const bool isSquared =
+      search.method == 0 && search.oneSided != 0 && search.continuityCorrection != 0 && search.pooledVariance != 0;
+  const double second = isSquared ? search.sizeRatio * (n1 * n1) : search.sizeRatio * n1;
+  const GroupSizes found{std::ceil(n1), std::max(1.0, std::ceil(second))};
+  return search.exact == 1 ? Refined(search, found) : found;
 }
 
 }  // namespace
@@ -107,21 +125,6 @@ extern "C" void PowerReverseIndSampBinom(double power, double proportion1, doubl
 
   const SizeSearch search{power,    proportion1, proportion2,          sizeRatio,      exact, method,
                           oneSided, alpha,       continuityCorrection, pooledVariance, cancel};
-  if (AnswersStop(cancel)) {
-    sampleSizes = {KelMV::Missing(), KelMV::Missing()};
-    return;
-  }
-  const double lower = LowerStart(search);
-  const double n1 = SolveContinuous(
-      lower, UpperStart(search, lower), kTolerance, [&](double n) { return search.Objective(n); }, cancel);
-  if (KelMV::IsMissing(n1)) {
-    sampleSizes = {KelMV::Missing(), KelMV::Missing()};
-    return;
-  }
-
-  // The square in this one combination of flags is intended.
-  const bool isSquared = method == 0 && oneSided != 0 && continuityCorrection != 0 && pooledVariance != 0;
-  const double second = isSquared ? sizeRatio * (n1 * n1) : sizeRatio * n1;
-  sampleSizes = {std::ceil(n1), std::max(1.0, std::ceil(second))};
-  if (exact == 1) Refine(search, sampleSizes);
+  const GroupSizes sizes = FindSizes(search);
+  sampleSizes = {sizes.n1, sizes.n2};
 }
