@@ -51,7 +51,7 @@ Result CallWithLimitedMemory(const Function& function, Arguments& arguments) {
   return Call(function, arguments);
 }
 
-// Zero, as it is beyond the end of an input, for none.
+// Which allocation of the call fails: what follows the arguments in the input. Most inputs end before, and none fails.
 std::int64_t ReadFailingAllocation(Reader& reader) {
   const std::uint8_t number = reader.Byte();
   return number == 0 ? INT64_MAX : number;

@@ -176,7 +176,7 @@ public:
     const long double t0 = Saddle(lower);
     const long double r = 1 - t0;
     const long double q = 1 + c * t0;
-    const long double peak = -a * Log1pMinusArg(-t0) + m * t0 * t0 / r + SecondPart(t0);
+    const long double peak = Exponent(t0);
     // The integral's other factors are of the order of 1: such a tail underflows, as does one so far out that even
     // extended precision overflows on the way.
     if (!(peak > -800)) return 0;
@@ -209,22 +209,23 @@ public:
 private:
   static constexpr int mostNodes = 2000;
 
-  // The part of K(t) in b with the linear terms of the others, (a + m) t - b log(1 + c t). Near t = 0 the linear terms
-  // cancel and are taken together in the mean. Far from it, where c is large, b c would hide a + m.
-  long double SecondPart(long double t) const {
-    const long double ct = c * t;
-    return ct > 1 ? (a + m) * t - b * std::log1p(ct) : mean * t - b * Log1pMinusArg(ct);
-  }
+  // Near t = 0 the linear terms of the parts of K(t) cancel and are taken together in the mean. Far from it they would
+  // hide what they cancel with: a + m beside b c where c is large, or b c beside a + m where c is tiny.
+  bool IsFar(long double t) const { return t < -1 || c * t > 1; }
 
-  long double SecondSlope(long double t) const {
-    const long double ct = c * t;
-    return ct > 1 ? a + m - b * (c / (1 + ct)) : mean + b * c * (ct / (1 + ct));
+  // K(t)
+  long double Exponent(long double t) const {
+    const long double r = 1 - t;
+    if (IsFar(t)) return -a * std::log1p(-t) + m * (t / r) - b * std::log1p(c * t);
+    return mean * t - a * Log1pMinusArg(-t) + m * t * t / r - b * Log1pMinusArg(c * t);
   }
 
   // d/dt (K(t) - log|t|)
   long double Slope(long double t) const {
     const long double r = 1 - t;
-    return SecondSlope(t) + a * (t / r) + m * (t / r) * (1 + 1 / r) - 1 / t;
+    const long double ct = c * t;
+    if (IsFar(t)) return a / r + m / r / r - b * (c / (1 + ct)) - 1 / t;
+    return mean + a * (t / r) + m * (t / r) * (1 + 1 / r) + b * c * (ct / (1 + ct)) - 1 / t;
   }
 
   long double Curvature(long double t) const {
@@ -249,7 +250,7 @@ private:
     const long double far = 2 * (b + 1) / (a + m + std::sqrt((a + m) * (a + m) + 4 * (a + 2 * m) * (b + 1)));
     if (!lower && c * far > 1) t = far;
     for (int i = 0; i < 200; ++i) {
-      if (!(t > low && t < high)) t = low + (high - low) / 2;
+      if (!(t > low && t < high)) t = low < 2 * high && high < 0 ? -std::sqrt(low * high) : low + (high - low) / 2;
       const long double slope = Slope(t);
       (slope > 0 ? high : low) = t;
       const long double curvature = Curvature(t);

@@ -243,6 +243,15 @@ TEST(TAndF, FarUpperTailsOfFewErrorDegreesOfFreedom) {
   EXPECT_NEAR(CdfF(1e290, 0.2, 0.02, 1e12), 0.99838020158604834276, 2e-16);
 }
 
+// The same on the other side: far below the mean a + m hides b c. The probabilities are far below the smallest double.
+TEST(TAndF, TinyValuesOfLargeNoncentralities) {
+  EXPECT_EQ(CdfF(2.7919370593133034e-26, 1.7372289255803295, 7.738427183319752, 51899739089963.883), 0);
+  EXPECT_EQ(CdfF(1.9798264678709985e-21, 0.041219571269787321, 36847.264799949575, 4232109.9148726957), 0);
+  EXPECT_EQ(CdfF(1.4117054594123999e-24, 0.0063046700790707387, 27751606.270840686, 10858425.552379778), 0);
+  EXPECT_EQ(CdfT(1.021346735682291e-15, 131789056.39961031, 8236.4300848410276), 0);
+  EXPECT_EQ(CdfT(3.8133500309928559e-15, 336.79829916113488, 744399.62936636899), 0);
+}
+
 TEST(TAndF, EveryBitPatternHasAnAnswer) {
   std::mt19937_64 generator(20240611);
   const std::vector<double> special = {0,      -0.0, 1,    -1,    0.5,      5e-324,    1e-300,    1e308,
