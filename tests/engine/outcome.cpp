@@ -60,7 +60,9 @@ bool PassesNaNOn(const Target& target, const Arguments& arguments) {
   return false;
 }
 
+// Charts of random predictors have a step of their own.
 bool HasNoStep(const Target& target, const Arguments& arguments) {
+  if (target.Has("randomPredictors") && target.Integer(arguments, "randomPredictors") == 1) return false;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     if (StartsWith(target.names[i], "step") && !(arguments[i].number > 0)) return true;
   }
