@@ -19,7 +19,7 @@ TOOLS = Path(__file__).parent
 DEBIAN_PYTHON = "/usr/bin/python3"  # for which Debian's statsmodels is compiled
 BENCHMARK_OPTIONS = ["--benchmark_format=json", "--benchmark_min_time=0.05", "--benchmark_repetitions=5",
                      "--benchmark_report_aggregates_only=true"]
-RUNS_OF_PROGRAMS = 9
+RUNS_OF_PROGRAMS = 5
 
 
 def run(command, environment=None):
