@@ -313,9 +313,9 @@ stands where a program does not answer the question: pwr finds the second of two
 For the normal approximation of one proportion and for the z test statsmodels has a formula that counts one tail.
 
 {comparison_table(calls, "size")}
-Left out is what the others do not offer: exact tests of proportions as kelpower has them, Welch's form of the t test,
-contrasts and pairwise comparisons, paired proportions, rank and partial correlations, random predictors, sizes for
-half-widths of intervals, and charts.
+None of the three has the power of exact tests of a difference of proportions, of Welch's form of the t test, of contrasts
+and pairwise comparisons, of paired proportions, of rank correlations, or of regression with random predictors. Intervals
+and charts are not compared.
 
 ### Called from Python
 
