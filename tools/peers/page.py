@@ -310,6 +310,7 @@ In parentheses how many times as long as kelpower. All tests are at the level 0.
 
 Sizes are those of the first group. Where kelpower rounds up, so are those of the others before they are compared. A dash
 stands where a program does not answer the question: pwr finds the second of two unequal groups for a given first one.
+R's searches end within about 0.0001 subjects of the size, kelpower's within 0.000001 or better, before any rounding up.
 For the normal approximation of one proportion and for the z test statsmodels has a formula that counts one tail.
 
 {comparison_table(calls, "size")}
