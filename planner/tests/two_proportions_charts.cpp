@@ -57,7 +57,7 @@ double Spacing(const Range& sizes) {
 /// second or so.
 double Reach(const Inputs& in) {
   constexpr double farthest = 1245;
-  constexpr double nearest = 5;
+  constexpr double nearest = 2;
   if (!IsExact(in)) return farthest;
   const double side = std::sqrt(usualSteps / StepsOfPower(in, Size1(in), Size2(in)));
   return std::clamp(std::floor(side / 2), nearest, farthest);
