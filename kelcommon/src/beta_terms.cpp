@@ -264,19 +264,22 @@ public:
   // With the terms that matter up to a distance; more than `mostTerms` are not formed.
   DensitySeries(double a, double b, long double c, double distance) {
     const double sign = c < 1 ? 1 : -1;
-    double y[mostTerms] = {static_cast<double>((c < 1 ? c : 1) / (1 + c))};
-    double k[mostTerms] = {static_cast<double>((a - b * c) / (1 + c))};
+    const double minusTotal = -sign * (a + b);
+    double y[mostTerms + 1] = {static_cast<double>((c < 1 ? c : 1) / (1 + c))};
+    double k[mostTerms + 1] = {static_cast<double>((a - b * c) / (1 + c))};
     double power = 1;
-    for (int n = 0; n + 1 < mostTerms; ++n) {
+    for (int n = 0; n < mostTerms; ++n) {
       double ySquared = 0;
       double product = 0;
       for (int i = 0; i <= n; ++i) {
         ySquared += y[i] * y[n - i];
         product += density_[i] * k[n - i];
       }
-      y[n + 1] = sign * (y[n] - ySquared) / (n + 1);
-      k[n + 1] = -sign * (a + b) * y[n + 1];
-      density_[n + 1] = product / (n + 1);
+      const double step = 1.0 / (n + 1);
+      y[n + 1] = sign * (y[n] - ySquared) * step;
+      k[n + 1] = minusTotal * y[n + 1];
+      density_[n + 1] = product * step;
+      integral_[n] = density_[n] * step;
       ++terms_;
       const double previousPower = power;
       power *= distance;
@@ -294,20 +297,21 @@ public:
       double integral = 0;
       double density = 0;
       for (int n = terms_ - 1; n >= 0; --n) {
-        integral = integral * h + density_[n] / (n + 1);
+        integral = integral * h + integral_[n];
         density = density * h + density_[n];
       }
       const double step = (integral * h - wanted) / density;
       h -= step;
-      if (std::fabs(step) < 1e-9 * std::fabs(h)) break;
+      if (std::fabs(step) < 1e-7 * std::fabs(h)) break;  // what is left is of the order of its square
     }
     return h;
   }
 
 private:
   static constexpr int mostTerms = 14;
-  double density_[mostTerms] = {1};
-  int terms_ = 1;
+  double density_[mostTerms + 1] = {1};
+  double integral_[mostTerms] = {};
+  int terms_ = 0;
   bool isEnough_ = false;
 };
 
