@@ -213,8 +213,8 @@ public:
 private:
   static constexpr int mostNodes = 2000;
 
-  // Near t = 0 the terms of K(t) that are linear in t cancel, and are taken together in the mean. Farther out they would
-  // be large parts of it that cancel.
+  // Near t = 0 the terms of K(t) that are linear in t cancel, and are taken together in the mean. Farther out they
+  // would be large parts of it that cancel.
   bool IsFar(long double t) const { return std::fabs(t) > 0.5L || std::fabs(c * t) > 0.5L; }
 
   // K(t)
