@@ -13,7 +13,9 @@
 /// Recurring terms:
 /// - *missing*: the system-missing value, the most negative finite double.
 /// - *flag*: an int or a byte in which 0 means no and every other value yes, unless stated otherwise.
-/// - Checks reject what lies outside a range and nothing else, so a NaN argument passes them and gives a NaN result.
+/// - Checks reject what lies outside a range and nothing else, so a NaN argument passes them. The result is then
+///   NaN, except that a NaN standard deviation of a contrast counts as 0 (power 1), and that exact tests of proportions
+///   give what comparing counts with NaN comes to: -2, 0, 1 or 2.
 
 #include <cstdint>
 #include <vector>

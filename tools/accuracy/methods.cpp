@@ -8,7 +8,7 @@ namespace {
 const Method methods[] = {
     {"IdfF", "Quantile of F: `IdfF(p, df1, df2)`.",
      "The inverse series of the logarithm of the smaller beta tail in the log-odds, to its third term, within a "
-     "bracket. "
+     "bracket; then, when near, the power series of the density's integral. "
      "The tail is its density, by saddle-point form in extended precision, times a power series or a continued "
      "fraction; "
      "with both shapes above 30000 a contour integral.",
