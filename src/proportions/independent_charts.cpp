@@ -59,6 +59,11 @@ bool RejectsSizesOrLevel(double sampleSize1, double sampleSize2, double alpha) {
   return RejectsGroupSize(sampleSize1) || RejectsGroupSize(sampleSize2) || RejectsAlpha(alpha);
 }
 
+/// A range of ratios whose lower end has passed its own check.
+bool RejectsRatioRange(double minRatio, double maxRatio, double step) {
+  return minRatio > maxRatio || maxRatio > kLargestRatio || step > kLargestStep;
+}
+
 }  // namespace
 
 extern "C" XYZPlot PlotNIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, double proportion2,
@@ -169,9 +174,7 @@ extern "C" XYPlot PlotRiskRatioIndSampBinom(double sampleSize1, double sampleSiz
   if (RejectsSizesOrLevel(sampleSize1, sampleSize2, alpha)) return EmptyCurve();
   if (RejectsInnerProportion(proportion1)) return EmptyCurve();
   if (minRatio != 0 && minRatio <= proportion1) return EmptyCurve();
-  if (minRatio > maxRatio) return EmptyCurve();
-  if (maxRatio > kLargestRatio) return EmptyCurve();
-  if (step > kLargestStep) return EmptyCurve();
+  if (RejectsRatioRange(minRatio, maxRatio, step)) return EmptyCurve();
 
   const auto test = IndependentTest::Of(exact, method, oneSided, alpha, continuityCorrection, pooledVariance);
   IndependentPower power(test, sampleSize1, sampleSize2);
@@ -188,9 +191,7 @@ extern "C" XYPlot PlotOddsRatioIndSampBinom(double sampleSize1, double sampleSiz
   if (RejectsSizesOrLevel(sampleSize1, sampleSize2, alpha)) return EmptyCurve();
   if (RejectsInnerProportion(proportion1)) return EmptyCurve();
   if (minRatio != 0 && minRatio < 0.1) return EmptyCurve();
-  if (minRatio > maxRatio) return EmptyCurve();
-  if (maxRatio > kLargestRatio) return EmptyCurve();
-  if (step > kLargestStep) return EmptyCurve();
+  if (RejectsRatioRange(minRatio, maxRatio, step)) return EmptyCurve();
 
   const auto test = IndependentTest::Of(exact, method, oneSided, alpha, continuityCorrection, pooledVariance);
   IndependentPower power(test, sampleSize1, sampleSize2);

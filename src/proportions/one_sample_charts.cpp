@@ -17,6 +17,13 @@ constexpr double kLargestStep = 0.5;  // a wider one leaves no proportion betwee
 
 bool RejectsDesign(double sampleSize, double alpha) { return sampleSize < 1 || RejectsAlpha(alpha); }
 
+/// The checks of a curve over a grid of proportions, with the other proportion fixed.
+bool RejectsGridCurve(double sampleSize, double fixedProportion, double alpha, double step) {
+  if (RejectsDesign(sampleSize, alpha)) return true;
+  if (RejectsProportion(fixedProportion)) return true;
+  return step > kLargestStep;
+}
+
 /// A range of one size is rejected, but for the one at 0.
 bool RejectsChartSizes(int from, int to) {
   if (from > to) return true;
@@ -77,9 +84,7 @@ extern "C" XYPlot PlotNOneSampBinom(double sampleSize, double altProportion, dou
 
 extern "C" XYPlot PlotNullOneSampBinom(double sampleSize, double altProportion, int method, int oneSided, double alpha,
                                        std::uint8_t continuityCorrection, double step) {
-  if (RejectsDesign(sampleSize, alpha)) return EmptyCurve();
-  if (RejectsProportion(altProportion)) return EmptyCurve();
-  if (step > kLargestStep) return EmptyCurve();
+  if (RejectsGridCurve(sampleSize, altProportion, alpha, step)) return EmptyCurve();
 
   OneSampleTest test(method, oneSided, alpha, continuityCorrection);
   return Curve(ProportionGrid(step), Precision::Single,
@@ -88,9 +93,7 @@ extern "C" XYPlot PlotNullOneSampBinom(double sampleSize, double altProportion, 
 
 extern "C" XYPlot PlotAlterOneSampBinom(double sampleSize, double nullProportion, int method, int oneSided,
                                         double alpha, std::uint8_t continuityCorrection, double step) {
-  if (RejectsDesign(sampleSize, alpha)) return EmptyCurve();
-  if (RejectsProportion(nullProportion)) return EmptyCurve();
-  if (step > kLargestStep) return EmptyCurve();
+  if (RejectsGridCurve(sampleSize, nullProportion, alpha, step)) return EmptyCurve();
 
   OneSampleTest test(method, oneSided, alpha, continuityCorrection);
   return Curve(ProportionGrid(step), Precision::Single,
@@ -99,9 +102,7 @@ extern "C" XYPlot PlotAlterOneSampBinom(double sampleSize, double nullProportion
 
 extern "C" XYPlot PlotRiskDiffOneSampBionm(double sampleSize, double nullProportion, int method, int oneSided,
                                            double alpha, std::uint8_t continuityCorrection, double step) {
-  if (RejectsDesign(sampleSize, alpha)) return EmptyCurve();
-  if (RejectsProportion(nullProportion)) return EmptyCurve();
-  if (step > kLargestStep) return EmptyCurve();
+  if (RejectsGridCurve(sampleSize, nullProportion, alpha, step)) return EmptyCurve();
 
   OneSampleTest test(method, oneSided, alpha, continuityCorrection);
   return Curve(DifferenceGrid(nullProportion, step), Precision::Single,
