@@ -4,6 +4,8 @@
 #include <cmath>
 #include <complex>
 
+#include "series.h"
+
 // With p_j the Poisson probabilities at mean m and I_j = I_y(a + j, b), y = c / (1 + c), the distribution function is
 //   P = sum_j p_j I_j                                                                    (1)
 // (Johnson, Kotz and Balakrishnan (1995), Continuous univariate distributions 2, eq. 30.10). Neighbours differ by
@@ -157,7 +159,7 @@ double UpperTailTerms(const Shape& s) { return s.m - FirstTerm(s.m) + 9 * std::s
 using Complex = std::complex<long double>;
 
 // log(1 + z) - z
-Complex ComplexLog1pMinusArg(Complex z) {
+Complex ComplexLog1pMinusArgument(Complex z) {
   const long double x = z.real();
   const long double y = z.imag();
   if (std::fabs(x) + std::fabs(y) < 1e-3L)
@@ -176,7 +178,8 @@ public:
     const long double t0 = Saddle(lower);
     const long double r = 1 - t0;
     const long double q = 1 + c * t0;
-    const long double peak = -a * Log1pMinusArg(-t0) + m * t0 * t0 / r - b * Log1pMinusArg(c * t0) + mean * t0;
+    const long double peak =
+        -a * Log1pMinusArgument(-t0) + m * t0 * t0 / r - b * Log1pMinusArgument(c * t0) + mean * t0;
     // The integral's other factors are of the order of 1: such a tail underflows, as does one so far out that even
     // extended precision overflows on the way.
     if (!(peak > -800)) return 0;
@@ -193,8 +196,8 @@ public:
       const long double cosh = (up + 1 / up) / 2;
       const Complex delta(scale * bend * (cosh - 1), scale * sinh);
       const Complex theta = delta / r;
-      const Complex exponent = -a * ComplexLog1pMinusArg(-theta) + m / r * theta * theta / (1.0L - theta) -
-                               b * ComplexLog1pMinusArg(c / q * delta) - ComplexLog1pMinusArg(delta / t0) +
+      const Complex exponent = -a * ComplexLog1pMinusArgument(-theta) + m / r * theta * theta / (1.0L - theta) -
+                               b * ComplexLog1pMinusArgument(c / q * delta) - ComplexLog1pMinusArgument(delta / t0) +
                                slope * delta;
       const long double size = std::exp(exponent.real());
       const Complex direction(cosh, -bend * sinh);
