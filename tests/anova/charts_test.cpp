@@ -5,6 +5,9 @@
 
 #include "kelcommon/kel_mv.h"
 #include "kelpower.h"
+#include "support/chart_records.h"
+
+using namespace kelpower;
 
 namespace {
 
@@ -12,8 +15,6 @@ using KelCommon::KelMV;
 
 const std::vector<double> kMeans = {10, 12, 15};
 const std::vector<double> kSizes = {20, 20, 20};
-
-double Single(double value) { return static_cast<double>(static_cast<float>(value)); }
 
 /// The group sizes scaled to a total.
 std::vector<double> Scaled(double total) {

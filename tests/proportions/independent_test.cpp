@@ -11,6 +11,7 @@
 #include "kelcommon/kel_mv.h"
 #include "kelpower.h"
 #include "proportions/independent_statistic.h"
+#include "support/stop_requests.h"
 
 namespace kelpower {
 namespace {
@@ -27,19 +28,6 @@ constexpr int kT = 1;
 constexpr int kLikelihoodRatio = 2;
 constexpr int kArcsine = 3;
 constexpr int kConditional = 3;
-
-/// Answers true from its n-th question on.
-class StopAt : public StopRequest {
-public:
-  explicit StopAt(std::int64_t n) : n_(n) {}
-  bool ShouldStop() override { return ++asked >= n_; }
-  std::int64_t asked = 0;
-
-private:
-  std::int64_t n_;
-};
-
-constexpr std::int64_t kNever = std::numeric_limits<std::int64_t>::max();
 
 struct Options {
   bool oneSided = false;
@@ -120,8 +108,8 @@ protected:
   void Compare(const IndependentTest& test, double n1, double n2) {
     const double p1 = Uniform(0.01, 0.99);
     const double p2 = Choice(8) == 0 ? p1 : Uniform(0.01, 0.99);
-    StopAt never(kNever);
-    StopAt neverToo(kNever);
+    CountingStop never;
+    CountingStop neverToo;
     const double expected = LiteralExactPower(test, n1, n2, p1, p2, &neverToo);
     const int method = static_cast<int>(test.statistic);
     const auto power = [&](StopRequest* stop) {
@@ -135,7 +123,7 @@ protected:
                                     << test.pooledVariance);
     EXPECT_NEAR(free, expected, 1e-12);
     EXPECT_EQ(power(&never), free);
-    EXPECT_EQ(never.asked, neverToo.asked);
+    EXPECT_EQ(never.Asked(), neverToo.Asked());
   }
 
   std::mt19937_64 random_{20261121};
@@ -276,22 +264,22 @@ TEST(IndependentPower, IsMissingForGroupsThatCannotBeCounted) {
 }
 
 TEST(IndependentPower, AsksOnceATableAndOnceARejectedTable) {
-  StopAt z(kNever);
+  CountingStop z;
   Power(8, 9, 0.2, 0.7, kExact, kZ, {}, &z);
-  EXPECT_EQ(z.asked, 9 * 10);
-  StopAt fractional(kNever);
+  EXPECT_EQ(z.Asked(), 9 * 10);
+  CountingStop fractional;
   Power(8.5, 9, 0.2, 0.7, kExact, kZ, {}, &fractional);
-  EXPECT_EQ(fractional.asked, 10 * 10);
-  StopAt conditional(kNever);
+  EXPECT_EQ(fractional.Asked(), 10 * 10);
+  CountingStop conditional;
   Power(8, 9, 0.2, 0.7, kExact, kConditional, {}, &conditional);
-  EXPECT_EQ(conditional.asked, 18);
-  StopAt t(kNever);
+  EXPECT_EQ(conditional.Asked(), 18);
+  CountingStop t;
   Power(8, 9, 0.2, 0.7, kExact, kT, {}, &t);
-  ASSERT_GT(t.asked, 90);
-  for (const std::int64_t n : {std::int64_t{1}, std::int64_t{90}, std::int64_t{91}, t.asked}) {
-    StopAt stop(n);
+  ASSERT_GT(t.Asked(), 90);
+  for (const std::int64_t n : {std::int64_t{1}, std::int64_t{90}, std::int64_t{91}, t.Asked()}) {
+    CountingStop stop(n);
     EXPECT_TRUE(KelMV::IsMissing(Power(8, 9, 0.2, 0.7, kExact, kT, {}, &stop)));
-    EXPECT_EQ(stop.asked, n);
+    EXPECT_EQ(stop.Asked(), n);
   }
 }
 
@@ -371,10 +359,10 @@ TEST(IndependentSizes, SquaresTheFirstSizeInOneCombinationOfFlags) {
 
 TEST(IndependentSizes, LeavesANonEmptyVectorAlone) {
   std::vector<double> sizes = {7};
-  StopAt stop(1);
+  CountingStop stop(1);
   PowerReverseIndSampBinom(0.8, 0.3, 0.6, sizes, 1, 0, 0, 0, 0.05, 0, 0, &stop);
   EXPECT_EQ(sizes, std::vector<double>{7});
-  EXPECT_EQ(stop.asked, 0);
+  EXPECT_EQ(stop.Asked(), 0);
 }
 
 TEST(IndependentSizes, AreMissingWhenThePowerIsOutOfReach) {
@@ -392,9 +380,9 @@ TEST(IndependentSizes, AreMissingWhenThePowerIsOutOfReach) {
 TEST(IndependentSizes, StopWhenAsked) {
   for (const int method : {kZ, kT, kLikelihoodRatio, kConditional}) {
     for (const std::int64_t n : {std::int64_t{1}, std::int64_t{2}, std::int64_t{1000}, std::int64_t{200000}}) {
-      StopAt stop(n);
+      CountingStop stop(n);
       EXPECT_EQ(Sizes(0.8, 0.3, 0.3, kExact, method, {}, 1, &stop), kBothMissing);
-      EXPECT_GE(stop.asked, n);
+      EXPECT_GE(stop.Asked(), n);
     }
   }
 }
@@ -403,13 +391,13 @@ TEST(IndependentSizes, StopWhenAsked) {
 TEST(IndependentSizes, AreNotRefinedAfterAStop) {
   constexpr int kUnrefined = 2;
   for (const int method : {kZ, kT, kLikelihoodRatio, kConditional}) {
-    StopAt first(kNever);
+    CountingStop first;
     const std::vector<double> unrefined = Sizes(0.9, 0.25, 0.6, kUnrefined, method, {}, 1.3, &first);
-    StopAt whole(kNever);
+    CountingStop whole;
     EXPECT_NE(Sizes(0.9, 0.25, 0.6, kExact, method, {}, 1.3, &whole), kBothMissing);
-    ASSERT_GT(whole.asked, first.asked);
-    for (const std::int64_t n : {first.asked + 1, first.asked + 2, whole.asked - 1, whole.asked}) {
-      StopAt stop(n);
+    ASSERT_GT(whole.Asked(), first.Asked());
+    for (const std::int64_t n : {first.Asked() + 1, first.Asked() + 2, whole.Asked() - 1, whole.Asked()}) {
+      CountingStop stop(n);
       EXPECT_EQ(Sizes(0.9, 0.25, 0.6, kExact, method, {}, 1.3, &stop), unrefined) << method << ' ' << n;
     }
   }
@@ -470,7 +458,7 @@ TEST(IndependentInterval, SecondSizeIsAtLeastTwo) {
 
 TEST(IndependentInterval, SizesAreMissingWhenStoppedOrOutOfReach) {
   std::vector<double> sizes = {5};
-  StopAt stop(1);
+  CountingStop stop(1);
   PowerReversebyHalfCIIndSampBinom(0.01, 0.3, 0.6, sizes, 1, 1, 0.05, 0, &stop);
   EXPECT_EQ(sizes, kBothMissing);
   for (int method = 1; method <= 5; ++method) {
