@@ -6,7 +6,7 @@ PREFIX ?= /usr/local
 FUZZ_SECONDS ?= 60
 JOBS := $(shell nproc)
 
-.PHONY: run test build bench lint format install accuracy fuzz asan tsan coverage valgrind clean
+.PHONY: run test build bench lint format install accuracy fuzz asan tsan coverage mutants valgrind clean
 
 run: build ## build and plan a real study
 	@sh tools/run_example.sh $(BUILD)/cli/kelpower
@@ -35,8 +35,17 @@ format: ## format all sources in place
 	@sh tools/install_packages.sh lint
 	@git ls-files '*.h' '*.cpp' | xargs clang-format -i
 
-asan tsan coverage: ## all tests under sanitizers, or with coverage
+asan tsan: ## all tests under sanitizers
 	@$(MAKE) --no-print-directory test PRESET=$@
+
+coverage: ## all tests with coverage, which must be what tools/coverage demands
+	@find build/coverage -name '*.gcda' -delete 2>/dev/null || true
+	@$(MAKE) --no-print-directory test PRESET=$@
+	@python3 -B tools/coverage/coverage.py . build/coverage
+
+mutants: ## demand that a test fails for each of the deliberate faults in tools/mutants
+	@sh tools/install_packages.sh build
+	@python3 -B tools/mutants/run.py . build/mutants
 
 fuzz: ## fuzz kelcommon for FUZZ_SECONDS
 	@sh tools/install_packages.sh build fuzz
