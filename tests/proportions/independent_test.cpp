@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
 #include <random>
 #include <vector>
 
+#include "frame/root_finders.h"
 #include "independent_literal.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
@@ -346,6 +348,43 @@ TEST(IndependentSizes, ExactSizesReachThePower) {
       EXPECT_EQ(sizes[1], std::floor(ratio * sizes[0] + 0.5));
     }
   }
+}
+
+/// The search for exact sizes as it is defined: a real first size by the method `searched`, smaller ones below it while
+/// there are any, and from there the first whole size that reaches the power by the method `reached`.
+std::vector<double> LiteralSizes(double power, double p1, double p2, double ratio, int searched, int reached) {
+  const auto objective = [&](double n1) {
+    return Power(n1, std::max(1.0, ratio * n1), p1, p2, kExact, searched) - power;
+  };
+  const auto search = [&](double lower, double upper) {
+    return SolveContinuous(lower, upper, 1e-9, objective, nullptr);
+  };
+  const auto second = [&](double n1) { return std::max(1.0, std::floor(ratio * n1 + 0.5)); };
+
+  std::vector<double> found = {std::ceil(search(2, 400))};
+  for (double next = std::ceil(search(1, found.back()));
+       !KelMV::IsMissing(next) && std::find(found.begin(), found.end(), next) == found.end();
+       next = std::ceil(search(1, found.back()))) {
+    found.push_back(next);
+  }
+  double n1 = *std::min_element(found.begin(), found.end());
+  while (Power(n1, second(n1), p1, p2, kExact, reached) < power) n1 += 1;
+  return {n1, second(n1)};
+}
+
+// The z test finds the size from which the conditional test, method 4, goes on: by itself it would start elsewhere.
+TEST(IndependentSizes, ExactSearchesAreThoseOfTheirMethods) {
+  for (const double power : {0.5, 0.7, 0.9}) {
+    for (const double ratio : {0.5, 1.0, 2.0}) {
+      for (const int method : {kZ, kT, kLikelihoodRatio}) {
+        EXPECT_EQ(Sizes(power, 0.9, 0.2, kExact, method, {}, ratio),
+                  LiteralSizes(power, 0.9, 0.2, ratio, method, method));
+      }
+      EXPECT_EQ(Sizes(power, 0.9, 0.2, kExact, 4, {}, ratio), LiteralSizes(power, 0.9, 0.2, ratio, kZ, 4));
+    }
+  }
+  EXPECT_EQ(Sizes(0.7, 0.9, 0.1, kExact, 4), (std::vector<double>{5, 5}));
+  EXPECT_EQ(LiteralSizes(0.7, 0.9, 0.1, 1, 4, 4), (std::vector<double>{7, 7}));
 }
 
 TEST(IndependentSizes, SquaresTheFirstSizeInOneCombinationOfFlags) {
