@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <set>
 #include <string>
 
 #include "kelpower.h"
@@ -92,6 +93,37 @@ TEST(TwoMeans, DrawsNothingWhereARatioLeavesOneGroupEmpty) {
   const Given design{{"means", Numbers{52, 47}}, {"sd", Numbers{10, 14}}, {"n", Numbers{2}}};
   EXPECT_THROW(Draw(*FindTest("two-means"), {"ratio-difference", {0.001, 0}, {1000, 12}, std::nullopt}, design),
                InputError);
+}
+
+TEST(Spearman, HasAPowerAtThreeCasesByTheVarianceThatAllowsThem) {
+  const Report report =
+      Solve(*FindTest("spearman"), {{"r", 0.9}, {"n", 3.0}, {"variance", std::string("caruso-cliff")}});
+  EXPECT_EQ(NumberOf(report, "power"), PowerbyOneSampSpearman(3, 0.9, 0, 2, 0, 0.05));
+}
+
+TEST(Power, IsShownToFourDecimalsButNeverAs0Or1) {
+  std::set<std::string> shown;
+  for (double n = 2; n <= 300; n += 1) {
+    const Report report = Solve(*FindTest("mean"), {{"effect-d", 0.6}, {"n", n}, {"alpha", 1e-6}});
+    const double power = NumberOf(report, "power");
+    const std::string& text = report.results.back().shown;
+    if (power > 0.99995) {
+      EXPECT_EQ(text, ">0.9999");
+    } else if (power < 0.00005) {
+      EXPECT_EQ(text, "<0.0001");
+    } else {
+      EXPECT_NEAR(std::stod(text), power, 0.5001e-4) << text;
+    }
+    shown.insert(text);
+  }
+  EXPECT_EQ(shown.count(">0.9999") + shown.count("<0.0001"), 2u);
+  EXPECT_EQ(shown.lower_bound("0.9996")->substr(0, 5), "0.999");
+}
+
+// Below the level any size has the power, down to one without error degrees of freedom, at which the search ends.
+TEST(Partial, HasASizeAtWhichTheTestExists) {
+  const Report report = Solve(*FindTest("partial"), {{"r", 0.3}, {"partialled-out", 3.0}, {"power", 0.01}});
+  EXPECT_EQ(NumberOf(report, "n"), 7);
 }
 
 TEST(Anova, RefusesMoreGroupsThanCanBeReported) {

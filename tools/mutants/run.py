@@ -5,7 +5,7 @@ Works in a copy of the sources under WORK with one build directory, so that a fa
 The tests nearest to a fault come first, then all. A fault that does not compile is an error of the list; one that makes
 a test run forever counts as noticed. Exit status 1 when a fault survives or is in error.
 
-Usage: run.py SOURCE WORK [TEXT...]   faults whose file contains one of the texts; without texts all
+Usage: run.py SOURCE WORK [TEXT...]   faults whose file or reason contains one of the texts; without texts all
        run.py --check SOURCE          only checks the list against the sources
 """
 
@@ -207,7 +207,7 @@ def main(arguments):
 
     source, work = Path(arguments[0]).resolve(), Path(arguments[1]).resolve()
     mutants = read_mutants(source / "tools/mutants/mutants.toml")
-    chosen = [m for m in mutants if not arguments[2:] or any(text in m.file for text in arguments[2:])]
+    chosen = [m for m in mutants if not arguments[2:] or any(text in m.name() for text in arguments[2:])]
     start = time.monotonic()
     tree, directory, tests = prepare(source, work)
     print(f"built and passed without a fault in {time.monotonic() - start:.0f} s", flush=True)
