@@ -5,6 +5,7 @@
 #include "frame/charts.h"
 #include "frame/checks.h"
 #include "kelpower.h"
+#include "proportions/chart_axes.h"
 #include "proportions/independent_power.h"
 
 using namespace kelpower;
@@ -37,14 +38,6 @@ std::optional<Axis> ThinnedAxis(const SizeRange& range) {
   if (span + 1 < 251) return CountedAxis(span + 1, range.from, 1, range.to);
   if (span + 1 < 1002) return CountedAxis(std::ceil(0.2 * span) + 1, range.from, 5, range.to);
   return CountedAxis(std::ceil(0.1 * span) + 1, range.from, 10, range.to);
-}
-
-/// step, 2 step, ... moved by `shift`. A step that is not above 0 has no axis.
-std::optional<Axis> MultiplesAxis(double count, double step, double shift) {
-  if (!(step > 0)) return std::nullopt;
-  std::optional<Axis> axis = CountedAxis(count, shift, step);
-  if (axis) axis->firstIndex = 1;
-  return axis;
 }
 
 /// start, start + step, ... up to `end`.
@@ -105,7 +98,7 @@ extern "C" XYZPlot PlotPropIndSampBinom(double sampleSize1, double sampleSize2, 
 
   const auto test = IndependentTest::Of(exact, method, oneSided, alpha, continuityCorrection, pooledVariance);
   IndependentPower power(test, sampleSize1, sampleSize2);
-  const std::optional<Axis> axis = MultiplesAxis(std::trunc(1 / step) - 1, step, 0);
+  const std::optional<Axis> axis = GridAxis(std::trunc(1 / step) - 1, 0, step);
   return SurfaceByRows(axis, axis, Precision::Single, [&](double p1, const SurfaceLine& row) {
     row.Fill([&](double p2) { return power.At(p1, p2); });
   });
@@ -161,7 +154,7 @@ extern "C" XYPlot PlotRiskDiffIndSampBinom(double sampleSize1, double sampleSize
 
   const auto test = IndependentTest::Of(exact, method, oneSided, alpha, continuityCorrection, pooledVariance);
   IndependentPower power(test, sampleSize1, sampleSize2);
-  return Curve(MultiplesAxis(std::trunc(1 / step + 0.5) - 1, step, proportion1 - 1), Precision::Single,
+  return Curve(GridAxis(std::trunc(1 / step + 0.5) - 1, proportion1 - 1, step), Precision::Single,
                [&](double difference) { return power.At(proportion1, proportion1 - difference); });
 }
 
