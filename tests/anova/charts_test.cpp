@@ -185,6 +185,20 @@ TEST(ContrastCharts, RepairTheCallersCoefficientsAtTheFirstPointComputed) {
   FreeMemXYPlot(&nothing);
 }
 
+// The smallest group bounds an automatic range below, the largest above: here about 2^31, where the ints end.
+TEST(PlotNOverallTestFES, HasNoAutomaticRangeThatEndsBeyondTheInts) {
+  const auto pointsUpTo = [](double end) {
+    constexpr double from = 2147483600;
+    std::vector<double> sizes(500000, 4000);
+    const double total = static_cast<double>(sizes.size() - 2) * 4000 / (1 - 2 / from - 5000 / end);
+    sizes.front() = total * 2 / from;
+    sizes.back() = total * 5000 / end;
+    return CurveRecord(PlotNOverallTestFES(500000, 0, 0, sizes.data(), 0, 0, 0.05)).count;
+  };
+  EXPECT_NEAR(pointsUpTo(2147483645), 45, 2);
+  EXPECT_EQ(pointsUpTo(2147483650), 0);
+}
+
 TEST(ContrastCharts, WithoutGroupsReadNothing) {
   XYZPlot plot = PlotNaSDSC(0, nullptr, 6, nullptr, nullptr, 5, 6, 2, 4, 0, 0.05, 0.5);
   ASSERT_EQ(plot.xCount * plot.yCount, 6);

@@ -396,6 +396,18 @@ TEST(IndependentSizes, SquaresTheFirstSizeInOneCombinationOfFlags) {
   EXPECT_LE(sizes[1], sizes[0] * sizes[0]);
 }
 
+TEST(IndependentSizes, SecondSizeIsAtLeastOne) {
+  for (const double ratio : {1e-9, 0.0, -1.0}) {
+    for (const int exact : {kLargeSample, kExact}) {
+      const std::vector<double> sizes = Sizes(0.5, 0.9, 0.1, exact, kZ, {}, ratio);
+      ASSERT_EQ(sizes.size(), 2u);
+      EXPECT_GE(sizes[0], 2);
+      EXPECT_EQ(sizes[1], 1);
+      EXPECT_GE(Power(sizes[0], 1, 0.9, 0.1, exact, kZ), 0.5);
+    }
+  }
+}
+
 TEST(IndependentSizes, LeavesANonEmptyVectorAlone) {
   std::vector<double> sizes = {7};
   CountingStop stop(1);
@@ -440,6 +452,25 @@ TEST(IndependentSizes, AreNotRefinedAfterAStop) {
       EXPECT_EQ(Sizes(0.9, 0.25, 0.6, kExact, method, {}, 1.3, &stop), unrefined) << method << ' ' << n;
     }
   }
+}
+
+/// Answers true to its n-th question alone.
+class StopOnce : public StopRequest {
+public:
+  explicit StopOnce(long n) : n_(n) {}
+  bool ShouldStop() override { return ++asked == n_; }
+  long asked = 0;
+
+private:
+  long n_;
+};
+
+TEST(IndependentSizes, AreNotRefinedWhenTheFirstQuestionOfTheRefinementStops) {
+  CountingStop first;
+  const std::vector<double> unrefined = Sizes(0.9, 0.25, 0.6, 2, kZ, {}, 1.3, &first);
+  StopOnce stop(first.Asked() + 1);
+  EXPECT_EQ(Sizes(0.9, 0.25, 0.6, kExact, kZ, {}, 1.3, &stop), unrefined);
+  EXPECT_EQ(stop.asked, first.Asked() + 1);
 }
 
 // Intervals -----------------------------------------------------------------------------------------------------------
