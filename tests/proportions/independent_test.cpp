@@ -139,6 +139,18 @@ TEST_F(IndependentExact, EnumeratedPowersAreTheSumsOverAllTables) {
   }
 }
 
+// Where all are successes the proportions are moved off 1 and differ by more than where all but one are: at levels of
+// which this is all, the row has two rejected ends.
+TEST_F(IndependentExact, TheTableOfSuccessesOnlyCanRejectBeyondAcceptedOnes) {
+  for (const int method : {kZ, kT}) {
+    const IndependentTest test = IndependentTest::Of(1, method, 0, 0.88, 0, 0);
+    for (const auto& [n1, n2] : {std::pair(1.0, 100.0), std::pair(100.0, 1.0)}) {
+      EXPECT_NEAR(PowerIndSampBinom(n1, n2, 0.97, 0.99, 1, method, 0, 0.88, 0, 0, nullptr),
+                  LiteralEnumeratedPower(test, n1, n2, 0.97, 0.99, nullptr), 1e-12);
+    }
+  }
+}
+
 // The table without successes, the correction that outweighs the difference and the ends of the rows show here.
 TEST_F(IndependentExact, EnumeratedPowersOfVeryUnequalGroupsAreTheSumsOverAllTables) {
   for (int i = 0; i < 1000; ++i) {
