@@ -6,7 +6,7 @@ PREFIX ?= /usr/local
 FUZZ_SECONDS ?= 60
 JOBS := $(shell nproc)
 
-.PHONY: run test build bench lint format install accuracy fuzz asan tsan coverage mutants valgrind clean
+.PHONY: run test build bench bench-peers lint format install accuracy fuzz asan tsan coverage mutants valgrind clean
 
 run: build ## build and plan a real study
 	@sh tools/run_example.sh $(BUILD)/cli/kelpower
@@ -23,6 +23,11 @@ test: build ## build and pass all tests
 
 bench: build ## measure speed
 	$(BUILD)/bench/kelpower_bench
+
+bench-peers: build ## measure speed beside pwr, base R and statsmodels and write docs/performance.md
+	@sh tools/install_packages.sh peers
+	@sh tools/peers/unpack_statsmodels.sh build/peers/statsmodels || echo "statsmodels is left out"
+	@python3 -B tools/peers/measure.py . $(BUILD) build/peers/statsmodels docs/performance.md
 
 accuracy: build ## measure accuracy and write docs/accuracy.md
 	$(BUILD)/tools/accuracy/kelpower_accuracy docs/accuracy.md

@@ -53,6 +53,39 @@ BENCHMARK(ExactPower)
     ->ArgsProduct({{100, 400, 3000}, {0, 1, 2, 3}})
     ->Unit(benchmark::kMicrosecond);
 
+/// The least that a caller's request can do.
+class NeverStops : public StopRequest {
+public:
+  bool ShouldStop() override { return false; }
+};
+
+// What a request costs that never stops: it is asked once a table, by the conditional test once a total.
+void ExactPowerThatCanBeStopped(benchmark::State& state) {
+  const int method = static_cast<int>(state.range(0));
+  NeverStops stop;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(PowerIndSampBinom(400, 400, 0.3, 0.5, 1, method, 0, 0.05, 0, 0, &stop));
+  }
+}
+BENCHMARK(ExactPowerThatCanBeStopped)->ArgName("method")->DenseRange(0, 3)->Unit(benchmark::kMicrosecond);
+
+// About 400 per group; method 4 is the conditional test.
+void ExactSizeWithAndWithoutRequest(benchmark::State& state) {
+  const int method = static_cast<int>(state.range(0));
+  NeverStops stop;
+  StopRequest* request = state.range(1) != 0 ? &stop : nullptr;
+  DoubleVector sizes;
+  for (auto _ : state) {
+    sizes.clear();
+    PowerReverseIndSampBinom(0.8, 0.3, 0.4, sizes, 1, 1, method, 0, 0.05, 0, 0, request);
+  }
+  state.counters["N1"] = sizes[0];
+}
+BENCHMARK(ExactSizeWithAndWithoutRequest)
+    ->ArgNames({"method", "request"})
+    ->ArgsProduct({{0, 1, 2, 4}, {0, 1}})
+    ->Unit(benchmark::kMillisecond);
+
 void LargeSamplePower(benchmark::State& state) {
   const int method = static_cast<int>(state.range(0));
   for (auto _ : state) benchmark::DoNotOptimize(Power(100, 0, method));

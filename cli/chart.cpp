@@ -7,6 +7,7 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "computation.h"
 #include "gnuplot.h"
 #include "planner/draw.h"
 #include "planner/error.h"
@@ -56,6 +57,7 @@ const FileKind& KindOf(const std::string& name) {
 }
 
 void Write(const std::string& name, const std::string& content) {
+  const InterruptsWait untilWritten;
   std::FILE* file = std::fopen(name.c_str(), "wb");
   if (!file) throw std::runtime_error(fmt::format("\"{}\" cannot be written: {}.", name, std::strerror(errno)));
   const bool written = std::fwrite(content.data(), 1, content.size(), file) == content.size();

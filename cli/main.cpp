@@ -6,6 +6,7 @@
 
 #include "arguments.h"
 #include "chart.h"
+#include "computation.h"
 #include "planner/error.h"
 #include "planner/render.h"
 #include "planner/solve.h"
@@ -13,7 +14,7 @@
 
 namespace {
 
-enum Status { done = 0, failed = 1, wrongInput = 2, noSolution = 3 };
+enum Status { done = 0, failed = 1, wrongInput = 2, noSolution = 3, interrupted = 130 };
 
 std::string Overview(const planner::Paint& paint) {
   return fmt::format(
@@ -43,13 +44,19 @@ std::string List(Format format, const planner::Paint& paint) {
   throw planner::InputError("--format of list must be text or json.");
 }
 
+planner::Report Solved(const Request& request) {
+  const bool findsSizes = request.given.count("power") + request.given.count("half-width") > 0;
+  Computation computation(findsSizes ? "the sample size" : "the answer");
+  return planner::Solve(*request.test, request.given, &computation);
+}
+
 std::string Answer(const Request& request, const planner::Paint& paint) {
   switch (request.command) {
     case Command::Overview: return Overview(paint);
     case Command::Version: return "kelpower " KELPOWER_VERSION "\n";
     case Command::List: return List(request.format, paint);
     case Command::TestHelp: return planner::RenderHelp(*request.test, paint);
-    case Command::Solve: return Rendered(planner::Solve(*request.test, request.given), request.format, paint);
+    case Command::Solve: return Rendered(Solved(request), request.format, paint);
     case Command::Chart: return ChartAnswer(request);
   }
   return "";
@@ -75,6 +82,8 @@ int main(int argc, char** argv) {
     return Complain(error, wrongInput);
   } catch (const planner::NoSolution& error) {
     return Complain(error, noSolution);
+  } catch (const planner::Stopped& error) {
+    return Complain(error, interrupted);
   } catch (const std::exception& error) {
     return Complain(error, failed);
   }

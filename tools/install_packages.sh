@@ -1,5 +1,5 @@
 #!/bin/sh
-# Installs the Debian packages of the named groups that are missing: build, lint, fuzz, valgrind.
+# Installs the Debian packages of the named groups that are missing: build, lint, fuzz, valgrind, peers.
 # Says what it does, and is silent and quick when nothing is missing.
 set -eu
 
@@ -11,6 +11,7 @@ for group in "$@"; do
     lint) packages="$packages clang-format clang-tidy" ;;
     fuzz) packages="$packages clang libclang-rt-14-dev" ;;
     valgrind) packages="$packages valgrind" ;;
+    peers) packages="$packages r-base-core r-cran-pwr" ;;
     *) echo "$0: unknown group '$group'" >&2; exit 2 ;;
   esac
 done

@@ -28,8 +28,12 @@ constexpr double deviations = 9.3;
 // Above this many terms (some 20 microseconds) the contour integral is faster, and rounds less.
 constexpr double mostTerms = 4000;
 
-// With both shapes below, the integrand decays too slowly for the contour integral.
+// With both shapes and the mean below, the integrand decays too slowly for the contour integral.
 constexpr double leastContourShape = 5;
+constexpr double leastContourMean = 60;
+
+// With b below, the contour of the lower tail would pass too near to the branch point at -1 / c.
+constexpr double leastLowerB = 0.5;
 
 struct Shape {
   double a;
@@ -178,8 +182,7 @@ public:
     const long double t0 = Saddle(lower);
     const long double r = 1 - t0;
     const long double q = 1 + c * t0;
-    const long double peak =
-        -a * Log1pMinusArgument(-t0) + m * t0 * t0 / r - b * Log1pMinusArgument(c * t0) + mean * t0;
+    const long double peak = Exponent(t0);
     // The integral's other factors are of the order of 1: such a tail underflows, as does one so far out that even
     // extended precision overflows on the way.
     if (!(peak > -800)) return 0;
@@ -212,10 +215,22 @@ public:
 private:
   static constexpr int mostNodes = 2000;
 
-  // d/dt (K(t) - log|t|), with the parts that cancel at t = 0 taken together in the mean.
+  // Near t = 0 the terms of K(t) that are linear in t cancel, and are taken together in the mean. Farther out they
+  // would be large parts of it that cancel.
+  bool IsFar(long double t) const { return std::fabs(t) > 0.5L || std::fabs(c * t) > 0.5L; }
+
+  // K(t)
+  long double Exponent(long double t) const {
+    const long double r = 1 - t;
+    if (IsFar(t)) return -a * std::log1p(-t) + m * t / r - b * std::log1p(c * t);
+    return -a * Log1pMinusArgument(-t) + m * t * t / r - b * Log1pMinusArgument(c * t) + mean * t;
+  }
+
+  // d/dt (K(t) - log|t|)
   long double Slope(long double t) const {
     const long double r = 1 - t;
     const long double ct = c * t;
+    if (IsFar(t)) return a / r + m / (r * r) - b * (c / (1 + ct)) - 1 / t;
     return mean + a * (t / r) + m * (t / r) * (1 + 1 / r) + b * c * (ct / (1 + ct)) - 1 / t;
   }
 
@@ -225,25 +240,34 @@ private:
     return a * r * r + 2 * m * r * r * r + b * q * q + 1 / (t * t);
   }
 
+  // Where the search for the saddle starts: by the parabola at t = 0, unless the root is orders of magnitude away.
+  // Then the slope is about m / (1 - t)^2 - b c in the lower tail and a + m - (1 + b) / t in the upper.
+  long double Start(bool lower) const {
+    const long double farLower = 1 - std::sqrt(m / (b * c));
+    const long double farUpper = (1 + b) / (a + m);
+    if (lower && farLower < -10 && c * farLower > -0.1L) return farLower;
+    if (!lower && farUpper < 0.5L && c * farUpper > 1000) return farUpper;
+    const long double spread = a + 2 * m + b * c * c;
+    const long double root = std::sqrt(mean * mean + 4 * spread);
+    if (lower) return mean > 0 ? -(mean + root) / (2 * spread) : -2 / (root - mean);
+    return mean < 0 ? (root - mean) / (2 * spread) : 2 / (root + mean);
+  }
+
   // The minimum of K(t) - log|t| on its side of 0, where the slope increases from -infinity to infinity. Newton's steps
   // are held inside a bracket; three digits are enough.
   long double Saddle(bool lower) const {
     long double low = lower ? -1 / c : 0.0L;
     long double high = lower ? 0.0L : 1.0L;
-    const long double spread = a + 2 * m + b * c * c;
-    const long double root = std::sqrt(mean * mean + 4 * spread);
-    long double t = 0;
-    if (lower)
-      t = mean > 0 ? -(mean + root) / (2 * spread) : -2 / (root - mean);
-    else
-      t = mean < 0 ? (root - mean) / (2 * spread) : 2 / (root + mean);
+    long double t = Start(lower);
     for (int i = 0; i < 200; ++i) {
       if (!(t > low && t < high)) t = low + (high - low) / 2;
       const long double slope = Slope(t);
       (slope > 0 ? high : low) = t;
       const long double curvature = Curvature(t);
-      if (slope * slope < 1e-4L * curvature) break;
-      t -= slope / curvature;
+      const long double step = slope / curvature;
+      const bool isAtRoundingError = std::fabs(step) < 1e-16L * std::fabs(t);
+      if (slope * slope < 1e-4L * curvature || isAtRoundingError) break;
+      t -= step;
     }
     return t;
   }
@@ -259,7 +283,7 @@ private:
 
 Tails NoncentralBetaTailsByContour(double a, double b, long double m, long double c) {
   const Contour contour(a, b, m, c);
-  if (contour.Mean() > 0) {
+  if (contour.Mean() > 0 && b >= leastLowerB) {
     const double lower = contour.Tail(true);
     return {lower, 1 - lower};
   }
@@ -282,7 +306,8 @@ Tails NoncentralBetaTails(double a, double b, long double m, long double c) {
   if (upperTerms < mostTerms) {
     const double upper = UpperTailSum(s);
     // The complement of an upper tail near 1 has lost digits.
-    if (upper < 0.95 || a + m < leastContourShape) return {1 - upper, upper};
+    const bool isSlow = std::max(a, b) < leastContourShape && m < leastContourMean;
+    if (upper < 0.95 || isSlow) return {1 - upper, upper};
   }
   return NoncentralBetaTailsByContour(a, b, m, c);
 }

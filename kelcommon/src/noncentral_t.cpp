@@ -160,9 +160,10 @@ double WrongSideIntegral(const Design& d) {
   for (int i = 0; i < 6; ++i) {
     hazard = Hazard(x * s + d.delta);
     const double half = x * hazard / (4 * b);
-    s = 1 / (half + std::sqrt(half * half + 1));
+    s = 1 / (half + std::hypot(half, 1));
   }
-  const double curvature = 4 * b * s * s + x * s * hazard + x * x * s * s;
+  const double xs = x * s;  // x^2 would overflow from 1e154 on, which quantiles of few degrees of freedom reach
+  const double curvature = 4 * b * s * s + xs * hazard + xs * xs;
   // Few degrees of freedom leave the integrand to decay like e^{2 b v} on the left: there v - center = sinh(u) reaches
   // far in few steps, which must be finer.
   const bool isLeftLong = b < 1.8;
@@ -207,7 +208,7 @@ double WrongSideTail(const Design& d) {
   // The chi variable is then below every 1 / x but for a part of 1e-17.
   if (d.b < leastShape) return NormalUpperTail(d.delta);
   // (3) loses at most the three digits that the result can spare while it is not far out.
-  const double z = (d.x + d.delta) / std::sqrt(1 + d.x * static_cast<double>(d.x / (2 * d.df)));
+  const double z = (d.x + d.delta) / std::hypot(1, d.x / std::sqrt(2 * d.df));
   if (z < 2.7) {
     const Halves halves = UpperHalves(d);
     const double tail = halves.even - halves.odd;

@@ -80,7 +80,8 @@ Series Cut(const Series& series, const Ranges& ranges) {
 Axis TotalSizeAxis() {
   constexpr double smallestTotal = 2;
   constexpr double largestTotal = 1e9;
-  return {"total sample size (observations)", "n", {smallestTotal, largestTotal, true, true, true}, Total, nullptr};
+  const Limits limits{smallestTotal, largestTotal, true, true, true};
+  return {"total sample size (observations)", "n", limits, Total, nullptr, nullptr, true};
 }
 
 Axis SizeAxis(std::string title, double smallest, double largest) {

@@ -57,6 +57,9 @@ void RejectWhatNoneTakes(const std::vector<const Chart*>& charts, const Names& g
   const std::string& chart = charts.front()->name;
   for (const std::string& name : given) {
     if (AnyTakes(charts, {name})) continue;
+    if (name == "power" && !Contains(given, "n")) {
+      throw InputError("--chart draws the power of a design: give its sizes with --n in place of --power.");
+    }
     if (Contains(askers, name)) {
       throw InputError(fmt::format("--chart draws the power of a design, so --{} cannot be given as well.", name));
     }
@@ -90,7 +93,7 @@ const Chart& ChooseChart(const std::vector<const Chart*>& charts, const Names& g
 /// has no meaning.
 Limits EndLimits(const Axis& axis, const Inputs& inputs) {
   Limits limits = axis.limits;
-  if (limits.whole && inputs.Groups() > 1) limits.low = std::max(limits.low, inputs.Groups() + 1.0);
+  if (axis.isTotal) limits.low = std::max(limits.low, inputs.Groups() + 1.0);
   return limits;
 }
 
@@ -125,6 +128,8 @@ Range RangeOf(const Chart& chart, std::size_t axis, const ChartRequest& request,
   return {request.from[axis], request.to[axis]};
 }
 
+bool IsOfSizes(const Axis& axis) { return axis.limits.whole; }
+
 void CheckRequest(const Chart& chart, const ChartRequest& request) {
   if (request.from.empty() != request.to.empty()) {
     throw InputError("--from and --to go together: give both or neither.");
@@ -134,8 +139,7 @@ void CheckRequest(const Chart& chart, const ChartRequest& request) {
     CheckCount(chart, "to", request.to);
   }
   if (!request.step) return;
-  const auto isOfSizes = [](const Axis& axis) { return axis.limits.whole; };
-  if (std::all_of(chart.axes.begin(), chart.axes.end(), isOfSizes)) {
+  if (std::all_of(chart.axes.begin(), chart.axes.end(), IsOfSizes)) {
     throw InputError(fmt::format("--step has no use with --chart {}: sizes go by ones.", chart.name));
   }
   if (!stepLimits.Allow(*request.step)) {
@@ -145,13 +149,18 @@ void CheckRequest(const Chart& chart, const ChartRequest& request) {
 }
 
 double Points(const Axis& axis, const Range& range, double step) {
-  return axis.limits.whole ? range.to - range.from + 1 : 1 / step + 1;
+  if (!IsOfSizes(axis)) return 1 / step + 1;
+  const double spacing = axis.spacing ? axis.spacing(range) : 1;
+  return (range.to - range.from) / spacing + 1;
 }
 
 void CheckPoints(const Chart& chart, const Ranges& ranges) {
   double points = Points(chart.axes[0], ranges.x, ranges.step);
   if (chart.axes.size() > 1) points *= Points(chart.axes[1], ranges.y, ranges.step);
   if (points <= mostPoints) return;
+  if (std::none_of(chart.axes.begin(), chart.axes.end(), IsOfSizes)) {
+    throw InputError(fmt::format("The grid has more than {} points: give a larger --step.", Shortest(mostPoints)));
+  }
   throw InputError(
       fmt::format("The range has more than {} points: bring --from and --to closer together.", Shortest(mostPoints)));
 }
@@ -168,6 +177,15 @@ Ranges RangesOf(const Chart& chart, const ChartRequest& request, const Inputs& i
 bool CanBeDrawn(const Series& series) {
   const auto isPresent = [](double power) { return !std::isnan(power); };
   return series.x.size() > 1 && std::any_of(series.power.begin(), series.power.end(), isPresent);
+}
+
+/// Tells a step at fault from a range at fault: the usual step would draw something.
+void RejectLargeStep(const Chart& chart, const ChartRequest& request, const Inputs& inputs, Ranges ranges) {
+  if (!request.step) return;
+  ranges.step = usualStep;
+  if (!CanBeDrawn(chart.call(inputs, ranges))) return;
+  throw InputError(fmt::format("--step is {}, but leaves fewer than two points to draw: give a smaller one.",
+                               Shortest(*request.step)));
 }
 
 [[noreturn]] void RejectEmpty(const Chart& chart, const ChartRequest& request, const Series& series) {
@@ -218,7 +236,10 @@ Picture Draw(const Test& test, const ChartRequest& request, const Given& given) 
   CheckConditions(test, inputs);
   const Ranges ranges = RangesOf(chart, request, inputs);
   Picture picture{&test, &chart, chart.call(inputs, ranges), std::nullopt};
-  if (!CanBeDrawn(picture.series)) RejectEmpty(chart, request, picture.series);
+  if (!CanBeDrawn(picture.series)) {
+    RejectLargeStep(chart, request, inputs, ranges);
+    RejectEmpty(chart, request, picture.series);
+  }
   picture.mark = MarkOf(test, chart, picture.series, inputs, given);
   return picture;
 }

@@ -57,8 +57,9 @@ void Spread(const Test& test, Given& values, int groups) {
     Numbers& numbers = std::get<Numbers>(found->second);
     if (parameter.spreads && numbers.size() == 1) numbers.assign(count, numbers.front());
     if (numbers.size() == count) continue;
+    const char* entries = numbers.size() == 1 ? "entry" : "entries";
     throw InputError(
-        fmt::format("--{} has {} entries, but there are {} groups.", parameter.name, numbers.size(), groups));
+        fmt::format("--{} has {} {}, but there are {} groups.", parameter.name, numbers.size(), entries, groups));
   }
 }
 

@@ -56,11 +56,20 @@ std::string Place(const Picture& picture) {
   return fmt::format("{},{}", left ? "right offset -1.2" : "left offset 1.2", below ? "-0.6" : "0.6");
 }
 
+constexpr const char* paperPoint = "point pt 7 ps 1.2 lc rgb '#b03a2e'";
+
 std::string Mark(const Picture& picture, const Canvas& canvas, double height) {
   if (!picture.mark) return "";
-  const std::string point = canvas.characters ? "point pt 1" : "boxed point pt 7 ps 1.2 lc rgb '#b03a2e'";
+  const std::string point = canvas.characters ? "point pt 1" : fmt::format("boxed {}", paperPoint);
   return fmt::format("set label 1 \"{}\" at {:.9g},{:.9g} {} front {}\n", MarkText(picture), picture.mark->at[0],
                      height, Place(picture), point);
+}
+
+/// The mark alone, with its text below the title: on the surface it would cover lines and their labels.
+std::string MarkWithCaption(const Picture& picture) {
+  if (!picture.mark) return "";
+  return fmt::format("set label 1 \"\" at {:.9g},{:.9g} front {}\nset title \"{}\\nmarked: {}\" offset 0,0.5\n",
+                     picture.mark->at[0], picture.mark->at[1], paperPoint, picture.test->title, MarkText(picture));
 }
 
 std::string Frame(const Picture& picture, const Canvas& canvas) {
@@ -103,7 +112,7 @@ std::string Shades() {
          "\nset view map\nset pm3d map\nset cbrange [0:1]\nset cblabel \"power\"\n"
          "set border 15\nunset grid\nset palette defined (0 '#f7fbff', 0.5 '#c6dbef', 0.8 '#9ecae1', 1 '#5a9bcb')\n"
          "set lmargin at screen 0.1\nset rmargin at screen 0.84\n"
-         "set tmargin at screen 0.9\nset bmargin at screen 0.13\n"
+         "set tmargin at screen 0.87\nset bmargin at screen 0.13\n"
          "set cntrlabel onecolor format '%.2f' start 20 interval 1000000 font ',11'\n"
          "splot $chart with pm3d nocontour, $chart with lines lw 1.5 lc rgb '#222222' nosurface, "
          "$chart with labels boxed nosurface\n";
@@ -115,12 +124,11 @@ std::string SurfaceCommands(const Picture& picture, const Canvas& canvas) {
   text +=
       fmt::format("set ylabel \"{}\"\nset xrange [{:.9g}:{:.9g}]\nset yrange [{:.9g}:{:.9g}]\n",
                   picture.chart->axes[1].title, series.x.front(), series.x.back(), series.y.front(), series.y.back());
-  if (canvas.characters) {
-    // An upright title does not fit beside a drawing in characters.
-    text += fmt::format("set title \"{}\\nupwards: {}\"\n", picture.test->title, picture.chart->axes[1].title);
-  }
+  if (!canvas.characters) return text + MarkWithCaption(picture) + Shades();
+  // An upright title does not fit beside a drawing in characters.
+  text += fmt::format("set title \"{}\\nupwards: {}\"\n", picture.test->title, picture.chart->axes[1].title);
   text += Mark(picture, canvas, picture.mark ? picture.mark->at[1] : 0);
-  return text + (canvas.characters ? LinesInCharacters() : Shades());
+  return text + LinesInCharacters();
 }
 
 }  // namespace

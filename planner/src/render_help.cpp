@@ -70,11 +70,21 @@ std::string ChartUsage(const Chart& chart) {
   return text;
 }
 
+/// The first of the ways to draw the same chart by the same export.
+const Chart* FirstAlike(const Test& test, const Chart& chart) {
+  const auto isAlike = [&](const Chart& other) {
+    return other.name == chart.name && other.exportName == chart.exportName;
+  };
+  return &*std::find_if(test.charts.begin(), test.charts.end(), isAlike);
+}
+
 std::string ChartSection(const Test& test, const Paint& paint) {
   if (test.charts.empty()) return "";
   std::string text = fmt::format("\n{}Charts{}\n", paint.heading, paint.end);
-  for (const Chart& chart : test.charts)
+  for (const Chart& chart : test.charts) {
+    if (&chart != FirstAlike(test, chart)) continue;
     text += fmt::format("  {}\n    kelpower {}\n", ChartUsage(chart), chart.example);
+  }
   return text +
          "  --from NUMBER --to NUMBER  ends of the axis; of two axes, two numbers each: --from 12,2\n"
          "  --step NUMBER              step of an axis that is not of sizes, as a share of its range (default 0.01)\n"

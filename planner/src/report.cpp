@@ -22,18 +22,29 @@ std::string ShownPower(double power) {
 
 std::string ShownHalfWidth(double halfWidth) { return fmt::format("{:.4g}", halfWidth); }
 
+/// The sizes with no more digits than are worth reading: four where there are too many observations to count.
+Numbers Readable(Numbers sizes) {
+  constexpr double largestCounted = 1e15;
+  for (double& size : sizes) {
+    if (size >= largestCounted) ParseNumber(fmt::format("{:.4g}", size), size);
+  }
+  return sizes;
+}
+
+std::string Readable(double size) { return Shortest(Readable(Numbers{size}).front()); }
+
 double Total(const Numbers& sizes) { return std::accumulate(sizes.begin(), sizes.end(), 0.0); }
 
 /// "20 observations in each of 3 groups (60 in total)"
 std::string SizesInSentence(const Test& test, const Numbers& sizes) {
-  if (test.groups == 1) return fmt::format("{} {}", Shortest(sizes.front()), test.counted);
+  if (test.groups == 1) return fmt::format("{} {}", Readable(sizes.front()), test.counted);
   const bool equal = std::adjacent_find(sizes.begin(), sizes.end(), std::not_equal_to<>()) == sizes.end();
   if (equal) {
-    return fmt::format("{} {} in each of {} groups ({} in total)", Shortest(sizes.front()), test.counted, sizes.size(),
-                       Shortest(Total(sizes)));
+    return fmt::format("{} {} in each of {} groups ({} in total)", Readable(sizes.front()), test.counted, sizes.size(),
+                       Readable(Total(sizes)));
   }
-  return fmt::format("{} {} in {} groups ({} in total)", ListedInSentence(sizes), test.counted, sizes.size(),
-                     Shortest(Total(sizes)));
+  return fmt::format("{} {} in {} groups ({} in total)", ListedInSentence(Readable(sizes)), test.counted, sizes.size(),
+                     Readable(Total(sizes)));
 }
 
 std::string ChoiceWording(const Parameter& parameter, const std::string& word) {
@@ -56,7 +67,7 @@ public:
 private:
   std::string LookUp(const std::string& name) const {
     if (name == "sizes") return SizesInSentence(test_, findings_.sizes);
-    if (name == "total") return Shortest(Total(findings_.sizes));
+    if (name == "total") return Readable(Total(findings_.sizes));
     if (name == "groups") return Shortest(inputs_.Groups());
     if (name == "power") return ShownPower(findings_.value);
     if (name == "half-width") return ShownHalfWidth(findings_.value);
@@ -114,14 +125,14 @@ std::vector<Entry> ResultEntries(const Test& test, const Route& route, const Inp
     entries.push_back({derived.name, derived.label, figure, fmt::format("{:.4g}", figure)});
   }
   if (findings.sizesFound && grouped) {
-    entries.push_back({"sizes", "group sizes", findings.sizes, Listed(findings.sizes)});
+    entries.push_back({"sizes", "group sizes", findings.sizes, Listed(Readable(findings.sizes))});
   }
   if (findings.sizesFound && !grouped) {
-    entries.push_back({"n", "sample size", findings.sizes.front(), Shortest(findings.sizes.front())});
+    entries.push_back({"n", "sample size", findings.sizes.front(), Readable(findings.sizes.front())});
   }
   if (grouped) {
     const double total = Total(findings.sizes);
-    entries.push_back({"total", "total sample size", total, Shortest(total)});
+    entries.push_back({"total", "total sample size", total, Readable(total)});
   }
   const std::string suffix = findings.sizesFound ? " at these sizes" : "";
   if (IsAboutPower(route.question)) {

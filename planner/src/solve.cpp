@@ -7,6 +7,7 @@
 
 #include "checks.h"
 #include "choose_route.h"
+#include "kelpower.h"
 #include "planner/error.h"
 #include "report.h"
 
@@ -39,8 +40,20 @@ bool NeedsEffect(Question question, const Inputs& inputs) {
   return question == Question::SampleSize && inputs.Number("power") >= inputs.Alpha();
 }
 
+void ThrowIfStopped(const Inputs& inputs) {
+  StopRequest* stop = inputs.Stop();
+  if (stop && stop->ShouldStop()) throw Stopped("The computation was stopped; there is no answer.");
+}
+
+/// What the export answers. A stopped one gives missing values, or sizes that are not final.
+Numbers Call(const Route& route, const Inputs& inputs) {
+  Numbers answer = route.call(inputs);
+  ThrowIfStopped(inputs);
+  return answer;
+}
+
 double ValueOf(const Route& route, const Inputs& inputs) {
-  const double value = route.call(inputs).front();
+  const double value = Call(route, inputs).front();
   const bool good = route.question == Question::Power ? IsPower(value) : IsHalfWidth(value);
   if (!good) throw NoSolution("These inputs have no answer: " + Wording(route.question) + " cannot be computed.");
   return value;
@@ -72,7 +85,7 @@ std::string Target(Question question, const Inputs& inputs) {
 }
 
 Report SolveSizes(const Test& test, const Route& route, const Inputs& inputs, const Names& given) {
-  const Numbers sizes = route.call(inputs);
+  const Numbers sizes = Call(route, inputs);
   const std::string unreachable =
       fmt::format("No sample size was found that reaches {}.", Target(route.question, inputs));
   if (!AreSizes(sizes)) throw NoSolution(unreachable);
@@ -101,9 +114,11 @@ Report Solve(const Test& test, const Given& given, StopRequest* stop) {
   if (NeedsEffect(route.question, inputs)) {
     if (const Condition* failing = FirstFailing(test.solvable, inputs)) throw NoSolution(failing->sentence);
   }
-  if (AsksForSizes(route.question)) return SolveSizes(test, route, inputs, names);
-  const double value = ValueOf(route, inputs);
-  return MakeReport(test, route, inputs, {GivenSizes(test, inputs), false, value});
+  Report report = AsksForSizes(route.question)
+                      ? SolveSizes(test, route, inputs, names)
+                      : MakeReport(test, route, inputs, {GivenSizes(test, inputs), false, ValueOf(route, inputs)});
+  ThrowIfStopped(inputs);
+  return report;
 }
 
 }  // namespace planner

@@ -1,3 +1,5 @@
+#include "two_proportions.h"
+
 #include <algorithm>
 #include <cmath>
 #include <string>
@@ -15,14 +17,9 @@ using Names = std::vector<std::string>;
 
 constexpr int z = 0;
 constexpr int t = 1;
-constexpr int arcsine = 3;
-constexpr int conditional = 4;  // 3 would let the search of sizes end by the z test
 
 constexpr int wald = 0;
 constexpr int newcombe = 5;
-
-// An exact power counts tables: these groups take less than a second.
-constexpr double largestExactGroup = 10000;
 
 // A search takes some hundred powers, and the work of the conditional test grows with the square of the size.
 constexpr double largestExactSearch = 5000;
@@ -30,39 +27,24 @@ constexpr double largestExactSearch = 5000;
 // Rounding in the sum over the tables must not keep a search from its target.
 constexpr double largestExactPower = 0.9999;
 
-bool IsConditional(const Inputs& in) { return in.Choice("test") == conditional; }
+/// The stop request of the conditional test. The other exact tests ask it once a table, which takes up to some hundred
+/// times as long as their power; they end in a tenth of a second without it.
+StopRequest* StopOfTables(const Inputs& in) { return IsConditional(in) ? in.Stop() : nullptr; }
 
-bool IsExact(const Inputs& in) { return in.Flag("exact") || IsConditional(in); }
-
-double First(const Inputs& in) { return in.Has("proportions") ? in.List("proportions")[0] : in.Number("proportion1"); }
-
-double Second(const Inputs& in) {
-  if (in.Has("proportions")) return in.List("proportions")[1];
-  const double first = First(in);
-  if (in.Has("risk-difference")) return first - in.Number("risk-difference");
-  if (in.Has("risk-ratio")) return first / in.Number("risk-ratio");
-  return first / (first + in.Number("odds-ratio") * (1 - first));
-}
-
-bool HasSecond(const Inputs& in) { return Second(in) > 0 && Second(in) < 1; }
-
-double RiskDifference(const Inputs& in) { return First(in) - Second(in); }
-
-double RiskRatio(const Inputs& in) { return First(in) / Second(in); }
-
-double OddsRatio(const Inputs& in) { return First(in) / (1 - First(in)) / (Second(in) / (1 - Second(in))); }
+bool HasSecond(const Inputs& in) { return SecondProportion(in) > 0 && SecondProportion(in) < 1; }
 
 Numbers Power(const Inputs& in) {
   const Numbers& n = in.List("n");
-  return {PowerIndSampBinom(n[0], n[1], First(in), Second(in), IsExact(in), in.Choice("test"), in.Flag("one-sided"),
-                            in.Alpha(), in.Flag("continuity-correction"), in.Flag("pooled"), in.Stop())};
+  return {PowerIndSampBinom(n[0], n[1], FirstProportion(in), SecondProportion(in), IsExact(in), in.Choice("test"),
+                            in.Flag("one-sided"), in.Alpha(), in.Flag("continuity-correction"), in.Flag("pooled"),
+                            StopOfTables(in))};
 }
 
 Numbers FoundSizes(const Inputs& in, bool exact, int method) {
   Numbers sizes;
-  PowerReverseIndSampBinom(in.Number("power"), First(in), Second(in), sizes, in.Number("ratio"), exact, method,
-                           in.Flag("one-sided"), in.Alpha(), in.Flag("continuity-correction"), in.Flag("pooled"),
-                           in.Stop());
+  PowerReverseIndSampBinom(in.Number("power"), FirstProportion(in), SecondProportion(in), sizes, in.Number("ratio"),
+                           exact, method, in.Flag("one-sided"), in.Alpha(), in.Flag("continuity-correction"),
+                           in.Flag("pooled"), exact ? StopOfTables(in) : nullptr);
   return sizes;
 }
 
@@ -93,19 +75,19 @@ Numbers Sizes(const Inputs& in) {
 
 Numbers HalfWidth(const Inputs& in) {
   const Numbers& n = in.List("n");
-  return {HalfCIIndSampBinom(n[0], n[1], First(in), Second(in), in.Choice("interval-method"), in.Alpha(),
-                             in.Flag("continuity-correction"))};
+  return {HalfCIIndSampBinom(n[0], n[1], FirstProportion(in), SecondProportion(in), in.Choice("interval-method"),
+                             in.Alpha(), in.Flag("continuity-correction"))};
 }
 
 Numbers SizesForHalfWidth(const Inputs& in) {
   Numbers sizes;
-  PowerReversebyHalfCIIndSampBinom(in.Number("half-width"), First(in), Second(in), sizes, in.Number("ratio"),
-                                   in.Choice("interval-method"), in.Alpha(), in.Flag("continuity-correction"),
-                                   in.Stop());
+  PowerReversebyHalfCIIndSampBinom(in.Number("half-width"), FirstProportion(in), SecondProportion(in), sizes,
+                                   in.Number("ratio"), in.Choice("interval-method"), in.Alpha(),
+                                   in.Flag("continuity-correction"), in.Stop());
   return sizes;
 }
 
-bool ExactWhereItCanBe(const Inputs& in) { return !in.Flag("exact") || in.Choice("test") != arcsine; }
+bool ExactWhereItCanBe(const Inputs& in) { return !in.Flag("exact") || in.Choice("test") != arcsineTest; }
 
 bool PooledWhereItCanBe(const Inputs& in) {
   if (!in.Flag("pooled") || in.Choice("test") == t) return true;
@@ -134,23 +116,20 @@ bool ExactCanReach(const Inputs& in) {
 }
 
 /// Half an observation is moved between the outcomes of each group.
-bool LeavesArcsineItsCorrection(const Inputs& in) { return in.Choice("test") != arcsine || Power(in)[0] != -1; }
+bool LeavesArcsineItsCorrection(const Inputs& in) { return in.Choice("test") != arcsineTest || Power(in)[0] != -1; }
 
-void AddRoutes(Test& test, const Names& effect) {
-  const auto with = [&](const char* more) {
-    Names names = effect;
-    names.push_back(more);
-    return names;
-  };
-  const Names testing = {"test", "exact", "pooled", "continuity-correction", "one-sided"};
-  const Names findingSizes = {"test", "exact", "pooled", "continuity-correction", "one-sided", "ratio"};
+std::vector<Route> Routes() {
+  const Names testing = OptionsOfTwoProportions();
   const Names interval = {"interval-method", "continuity-correction"};
-  const Names findingPrecision = {"interval-method", "continuity-correction", "ratio"};
-  test.routes.push_back({Question::Power, with("n"), testing, "PowerIndSampBinom", Power});
-  test.routes.push_back({Question::SampleSize, effect, findingSizes, "PowerReverseIndSampBinom", Sizes});
-  test.routes.push_back({Question::HalfWidth, with("n"), interval, "HalfCIIndSampBinom", HalfWidth});
-  test.routes.push_back({Question::SampleSizeForHalfWidth, effect, findingPrecision, "PowerReversebyHalfCIIndSampBinom",
-                         SizesForHalfWidth});
+  std::vector<Route> routes;
+  for (const Names& effect : EffectsOfTwoProportions()) {
+    routes.push_back({Question::Power, With(effect, "n"), testing, "PowerIndSampBinom", Power});
+    routes.push_back({Question::SampleSize, effect, With(testing, "ratio"), "PowerReverseIndSampBinom", Sizes});
+    routes.push_back({Question::HalfWidth, With(effect, "n"), interval, "HalfCIIndSampBinom", HalfWidth});
+    routes.push_back({Question::SampleSizeForHalfWidth, effect, With(interval, "ratio"),
+                      "PowerReversebyHalfCIIndSampBinom", SizesForHalfWidth});
+  }
+  return routes;
 }
 
 std::vector<Parameter> Parameters() {
@@ -169,8 +148,8 @@ std::vector<Parameter> Parameters() {
             {{"z", z, "z test"},
              {"t", t, "t test"},
              {"likelihood-ratio", 2, "likelihood-ratio test"},
-             {"arcsine", arcsine, "arcsine test"},
-             {"conditional", conditional, "conditional (Fisher) test"}})
+             {"arcsine", arcsineTest, "arcsine test"},
+             {"conditional", conditionalTest, "conditional (Fisher) test"}})
           .Default(std::string("z")),
       Flag("exact", "exact power", "sum over all tables in place of the large-sample formula"),
       Flag("pooled", "pooled variance", "standard error under equal proportions (z), pooled variance (t)"),
@@ -216,20 +195,17 @@ Test Describe() {
   test.about = "Tests whether two independent groups have the same proportion.";
   test.groups = 2;
   test.parameters = Parameters();
-  AddRoutes(test, {"proportions"});
-  AddRoutes(test, {"proportion1", "risk-difference"});
-  AddRoutes(test, {"proportion1", "risk-ratio"});
-  AddRoutes(test, {"proportion1", "odds-ratio"});
+  test.routes = Routes();
   test.conditions = Conditions();
 
   constexpr const char* noEffect =
       "The two proportions are equal: without a difference, no sample size reaches the power.";
   test.solvable = {
-      {{"power"}, [](const Inputs& in) { return First(in) != Second(in); }, noEffect},
+      {{"power"}, [](const Inputs& in) { return FirstProportion(in) != SecondProportion(in); }, noEffect},
   };
 
   test.derived = {
-      {"proportion2", "second proportion", {"proportion1"}, Second},
+      {"proportion2", "second proportion", {"proportion1"}, SecondProportion},
       {"risk-difference", "risk difference", {"proportions"}, RiskDifference},
       {"risk-ratio", "risk ratio", {"proportions"}, RiskRatio},
       {"odds-ratio", "odds ratio", {"proportions"}, OddsRatio},
@@ -295,10 +271,51 @@ Test Describe() {
        "proportions of 0.8 and 0.6, the study needs 154 observations in each of 2 groups (308 in total); the half-"
        "width is then 0.09989."},
   };
+  test.charts = ChartsOfTwoProportions();
   return test;
 }
 
 }  // namespace
+
+bool IsConditional(const Inputs& in) { return in.Choice("test") == conditionalTest; }
+
+bool IsExact(const Inputs& in) { return in.Flag("exact") || IsConditional(in); }
+
+double FirstProportion(const Inputs& in) {
+  return in.Has("proportions") ? in.List("proportions")[0] : in.Number("proportion1");
+}
+
+double SecondProportion(const Inputs& in) {
+  if (in.Has("proportions")) return in.List("proportions")[1];
+  const double first = FirstProportion(in);
+  if (in.Has("risk-difference")) return first - in.Number("risk-difference");
+  if (in.Has("risk-ratio")) return first / in.Number("risk-ratio");
+  return first / (first + in.Number("odds-ratio") * (1 - first));
+}
+
+double RiskDifference(const Inputs& in) { return FirstProportion(in) - SecondProportion(in); }
+
+double RiskRatio(const Inputs& in) { return FirstProportion(in) / SecondProportion(in); }
+
+double OddsRatio(const Inputs& in) {
+  const double first = FirstProportion(in);
+  const double second = SecondProportion(in);
+  return first / (1 - first) / (second / (1 - second));
+}
+
+std::vector<Names> EffectsOfTwoProportions() {
+  return {{"proportions"},
+          {"proportion1", "risk-difference"},
+          {"proportion1", "risk-ratio"},
+          {"proportion1", "odds-ratio"}};
+}
+
+Names OptionsOfTwoProportions() { return {"test", "exact", "pooled", "continuity-correction", "one-sided"}; }
+
+Names With(Names names, const char* name) {
+  names.emplace_back(name);
+  return names;
+}
 
 Test TwoProportionsTest() { return WithCommonParameters(Describe()); }
 

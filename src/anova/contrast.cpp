@@ -88,10 +88,8 @@ extern "C" double PowerReversebyHalfCISCTest(double halfWidth, int numGroups, co
   const double ratioSum = SampleSizeTotal(numGroups, groupRatios);
   const double variance = ContrastVariance(numGroups, contrastCoefficients, groupRatios);
   const double relativeWidth = halfWidth / pooledSD;
-  const double total = SolveTotalForHalfWidth(numGroups, [&](double size) {
-    const double t = IntervalQuantileT(alpha, size - numGroups);
-    return relativeWidth * relativeWidth / ratioSum * size - t * t * variance;
-  });
+  const double slope = relativeWidth * relativeWidth / ratioSum;
+  const double total = SolveTotalForHalfWidth(numGroups, slope, variance, alpha);
   return StoreByRatios(total, numGroups, groupRatios, groupSizesOut);
 }
 

@@ -55,10 +55,11 @@ double SolveContrastTotal(int numGroups, double effectSize, const double* groupR
   const DoubleVector shares = SharesOf(numGroups, groupRatios);
   const double sumOfShares = SampleSizeTotal(numGroups, shares.data());
   const double variance = ContrastVariance(numGroups, contrastCoefficients, shares.data());
-  return SolveTotalForPower(numGroups, [&](double size) {
+  const auto powerAt = [&](double size) {
     const ContrastTest test(numGroups, size, isDirectional, alpha);
-    return test.Power(ContrastNoncentrality(effectSize, size / sumOfShares, variance)) - power;
-  });
+    return test.Power(ContrastNoncentrality(effectSize, size / sumOfShares, variance));
+  };
+  return SolveTotalForPower(numGroups, powerAt, power);
 }
 
 ChartedContrast::ChartedContrast(int numGroups, const double* groupMeans, const double* groupSizes,

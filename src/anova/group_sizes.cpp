@@ -3,19 +3,16 @@
 #include <cmath>
 #include <cstddef>
 
+#include "frame/increasing_search.h"
 #include "kelcommon/kel_mv.h"
 
 namespace kelpower {
 
 namespace {
 
-constexpr double kPowerTolerance = 1e-6;
-constexpr double kHalfWidthTolerance = 1e-9;
+double SmallestTotal(int numGroups) { return 2.0 * numGroups; }
 
-double SolveTotal(int numGroups, double tolerance, RootObjective objective) {
-  const double lower = 2.0 * numGroups;
-  return SolveContinuous(lower, lower + 400, tolerance, objective, nullptr);
-}
+double FirstUpperTotal(int numGroups) { return SmallestTotal(numGroups) + 400; }
 
 double StoreRoundedUp(int numGroups, DoubleVector& groupSizes, FunctionView<double(int group)> unroundedSize) {
   for (int i = 0; i < numGroups; ++i) {
@@ -38,12 +35,16 @@ DoubleVector SharesOf(int numGroups, const double* groupRatios) {
   return shares;
 }
 
-double SolveTotalForPower(int numGroups, RootObjective objective) {
-  return SolveTotal(numGroups, kPowerTolerance, objective);
+double SolveTotalForPower(int numGroups, FunctionView<double(double)> powerAt, double power) {
+  constexpr double kTolerance = 1e-6;
+  return SolveIncreasingPower(SmallestTotal(numGroups), FirstUpperTotal(numGroups), kTolerance, powerAt, power,
+                              nullptr);
 }
 
-double SolveTotalForHalfWidth(int numGroups, RootObjective objective) {
-  return SolveTotal(numGroups, kHalfWidthTolerance, objective);
+double SolveTotalForHalfWidth(int numGroups, double slope, double weight, double alpha) {
+  constexpr double kTolerance = 1e-9;
+  const auto dfAt = [=](double size) { return size - numGroups; };
+  return SolveHalfWidth(SmallestTotal(numGroups), FirstUpperTotal(numGroups), kTolerance, {slope, weight, alpha, dfAt});
 }
 
 double StoreByShares(double total, int numGroups, const double* groupRatios, DoubleVector& groupSizes) {

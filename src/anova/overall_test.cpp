@@ -4,7 +4,6 @@
 #include "anova/overall_power.h"
 #include "frame/checks.h"
 #include "frame/rejection.h"
-#include "frame/root_finders.h"
 #include "kelcommon/kel_mv.h"
 #include "kelpower.h"
 
@@ -62,7 +61,7 @@ extern "C" double PowerReverseOverallTest(int numGroups, const double* groupMean
   ResizeToMissing(groupSizesOut, numGroups);
   const GroupSpread spread = GroupSpread::Of(numGroups, groupMeans, groupRatios);
   const double total = SolveTotalForPower(
-      numGroups, [&](double size) { return OverallPowerFromMeans(numGroups, spread, pooledSD, size, alpha) - power; });
+      numGroups, [&](double size) { return OverallPowerFromMeans(numGroups, spread, pooledSD, size, alpha); }, power);
   return StoreByShares(total, numGroups, groupRatios, groupSizesOut);
 }
 
@@ -73,9 +72,10 @@ extern "C" double PowerReverseOverallTestwES(int numGroups, double effectSize, i
   if (RejectsAlpha(alpha)) return KelMV::Missing();
 
   ResizeToMissing(groupSizesOut, numGroups);
-  const double total = SolveTotalForPower(numGroups, [&](double size) {
-    return OverallPowerFromEffectSize(numGroups, effectSize, isEtaSquared != 0, size, alpha) - power;
-  });
+  const auto powerAt = [&](double size) {
+    return OverallPowerFromEffectSize(numGroups, effectSize, isEtaSquared != 0, size, alpha);
+  };
+  const double total = SolveTotalForPower(numGroups, powerAt, power);
   return StoreByShares(total, numGroups, groupRatios, groupSizesOut);
 }
 
@@ -88,10 +88,7 @@ extern "C" double PowerReversebyHalfCIOverallTest(double halfWidth, int numGroup
 
   ResizeToMissing(groupSizesOut, numGroups);
   const double relativeWidth = halfWidth / pooledSD;
-  const double total = SolveTotalForHalfWidth(numGroups, [&](double size) {
-    const double t = IntervalQuantileT(alpha, size - numGroups);
-    return relativeWidth * relativeWidth * size - t * t;
-  });
+  const double total = SolveTotalForHalfWidth(numGroups, relativeWidth * relativeWidth, 1, alpha);
   return StoreByRatios(total, numGroups, groupRatios, groupSizesOut);
 }
 

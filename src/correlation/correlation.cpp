@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "frame/increasing_search.h"
 #include "frame/root_finders.h"
 #include "kelcommon/kel_dist_fun.h"
 
@@ -40,9 +41,10 @@ double IntervalQuantile(double alpha) { return KelDistFun::IdfStdNorm(1 - alpha 
 double SizeForPower(double power, const CorrelationTest& test, double alternative, double null, double lower,
                     double upper, StopRequest* stop) {
   constexpr double kTolerance = 1e-9;
+  const auto powerAt = [&](double sampleSize) { return test.Power(sampleSize, alternative, null); };
+  if (test.IsIncreasing()) return SolveIncreasingPower(lower, upper, kTolerance, powerAt, power, stop);
   return SolveContinuous(
-      lower, upper, kTolerance, [&](double sampleSize) { return test.Power(sampleSize, alternative, null) - power; },
-      stop);
+      lower, upper, kTolerance, [&](double sampleSize) { return powerAt(sampleSize) - power; }, stop);
 }
 
 double SizeForInterval(double halfWidth, FunctionView<double(double)> halfWidthAt, double lower, double upper,

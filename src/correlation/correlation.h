@@ -29,6 +29,9 @@ public:
   /// -1 for invalid input.
   virtual double Power(double sampleSize, double alternative, double null) const = 0;
 
+  /// Whether the power is known never to fall as the sample size grows.
+  virtual bool IsIncreasing() const = 0;
+
   const CorrelationLevel& Level() const { return level_; }
 
   /// The number of variables partialled out, 0 unless the correlation is a partial one.
@@ -47,6 +50,9 @@ public:
       : CorrelationTest(level, partialledOut), isCorrected_(isCorrected) {}
   double Power(double sampleSize, double alternative, double null) const override;
 
+  /// Near the null and at few cases the correction for bias outweighs the difference of the correlations and falls.
+  bool IsIncreasing() const override { return !isCorrected_; }
+
 private:
   bool isCorrected_;
 };
@@ -62,6 +68,9 @@ public:
   SpearmanTest(const CorrelationLevel& level, int varianceMethod)
       : CorrelationTest(level, 0), varianceMethod_(varianceMethod) {}
   double Power(double sampleSize, double alternative, double null) const override;
+
+  /// Each of the variances of z falls as the sample size grows, and nothing else depends on it.
+  bool IsIncreasing() const override { return true; }
 
 private:
   int varianceMethod_;

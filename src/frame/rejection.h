@@ -4,6 +4,10 @@
 namespace kelpower {
 
 /// An F test: rejects when F exceeds its critical value.
+///
+/// At a given level the power never falls when the noncentrality grows, as the noncentral F has a monotone likelihood
+/// ratio, nor when df2 does: the test on fewer error degrees of freedom ignores data that the uniformly most powerful
+/// invariant test has (Lehmann and Romano 2005, "Testing Statistical Hypotheses", 3rd ed., section 7.1).
 struct FTest {
   double df1;
   double df2;
@@ -23,6 +27,10 @@ struct QuantileTuning {
 };
 
 /// A t test at `df` degrees of freedom.
+///
+/// At a given level the power of both tails never falls when the noncentrality moves away from 0 or the degrees of
+/// freedom grow, nor does that of the upper tail with a noncentrality of at least 0: these tests are uniformly most
+/// powerful unbiased, and one on fewer degrees of freedom ignores data (Lehmann and Romano 2005, section 5.2).
 struct TTest {
   double df;
   double critical;

@@ -68,26 +68,25 @@ void AppendSizesForPower(Sides sides, double power, double ratio, const RawDesig
                          double alpha) {
   if (!results.empty()) return;
   const double meanDifference = design.mean1 - design.mean2;
-  const double size1 = SearchSize([&](double n) {
-    return PowerOrMissing(IndependentTest(sides, n, design.sd1, ratio * n, design.sd2, alpha), meanDifference) - power;
-  });
+  const auto powerAt = [&](double n) {
+    return PowerOrMissing(IndependentTest(sides, n, design.sd1, ratio * n, design.sd2, alpha), meanDifference);
+  };
+  const double size1 = SizeForPower(powerAt, power);
   AppendGroupSizes(size1, ratio, results);
 }
 
 void AppendSizesForPowerES(Sides sides, double power, double ratio, double effectSize, DoubleVector& results,
                            double alpha) {
-  const double size1 = SearchSize(
-      [=](double n) { return PowerOrMissing(StandardizedTest(sides, n, ratio * n, alpha), effectSize) - power; });
+  const auto powerAt = [=](double n) {
+    return PowerOrMissing(StandardizedTest(sides, n, ratio * n, alpha), effectSize);
+  };
+  const double size1 = SizeForPower(powerAt, power);
   AppendGroupSizes(size1, ratio, results);
 }
 
 double SizeForHalfWidthPooled(double halfWidth, double ratio, double sd, double alpha) {
   const double squaredWidth = Square(halfWidth / sd);
-  const double weight = 1 / ratio + 1;
-  return SearchSize([=](double n) {
-    const double t = IntervalQuantileT(alpha, ratio * n + n - 2);
-    return squaredWidth * n - weight * Square(t);
-  });
+  return SizeForHalfWidth({squaredWidth, 1 / ratio + 1, alpha, [=](double n) { return ratio * n + n - 2; }});
 }
 
 // In the units of the measurements, which the search's zero tolerance refers to; scaled only where squares would
@@ -98,10 +97,9 @@ double SizeForHalfWidthWelch(double halfWidth, double ratio, double sd1, double 
   const double scale = largest > kSquareable ? BinaryScale(largest) / kSquareable : 1;
   const double squaredWidth = Square(halfWidth / scale);
   const double weight = Square(sd2 / scale) / ratio + Square(sd1 / scale);
-  return SearchSize([=](double n) {
-    const double t = IntervalQuantileT(alpha, WelchDifference(n, sd1, ratio * n, sd2).df);
-    return squaredWidth * n - weight * Square(t);
-  });
+  const auto dfAt = [=](double n) { return WelchDifference(n, sd1, ratio * n, sd2).df; };
+  const bool dfGrows = 2 * ratio >= 1;  // below one subject in group 2 the formula jumps through infinity
+  return SizeForHalfWidth({squaredWidth, weight, alpha, dfAt, dfGrows});
 }
 
 }  // namespace

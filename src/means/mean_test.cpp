@@ -1,19 +1,27 @@
 #include "means/mean_test.h"
 
-#include "frame/root_finders.h"
 #include "kelcommon/kel_mv.h"
 
 namespace kelpower {
+
+namespace {
+
+constexpr double kSmallestSize = 2;
+constexpr double kFirstUpperSize = 400;  // doubled until the bracket holds the root
+constexpr double kSizeTolerance = 1e-9;
+
+}  // namespace
 
 double PowerOrMissing(const std::optional<MeanTest>& test, double effect) {
   return test ? test->Power(effect) : KelCommon::KelMV::Missing();
 }
 
-double SearchSize(FunctionView<double(double size)> objective) {
-  constexpr double kSmallest = 2;
-  constexpr double kFirstUpper = 400;  // doubled until the bracket holds the root
-  constexpr double kTolerance = 1e-9;
-  return SolveContinuous(kSmallest, kFirstUpper, kTolerance, objective, nullptr);
+double SizeForPower(FunctionView<double(double size)> powerAt, double power) {
+  return SolveIncreasingPower(kSmallestSize, kFirstUpperSize, kSizeTolerance, powerAt, power, nullptr);
+}
+
+double SizeForHalfWidth(const HalfWidthEquation& equation) {
+  return SolveHalfWidth(kSmallestSize, kFirstUpperSize, kSizeTolerance, equation);
 }
 
 std::optional<double> EffectSizeStart(Sides sides, double minEffectSize) {

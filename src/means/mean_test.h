@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "frame/function_view.h"
+#include "frame/increasing_search.h"
 #include "frame/rejection.h"
 
 namespace kelpower {
@@ -37,9 +38,13 @@ private:
 /// The power at `effect`; missing where there is no test because its design was rejected.
 double PowerOrMissing(const std::optional<MeanTest>& test, double effect);
 
-/// The size at which an objective of the size reaches zero, as all tests of means search it: from 2 on, below which
-/// there is no estimate of the variance. Unrounded; missing where no size reaches it.
-double SearchSize(FunctionView<double(double size)> objective);
+/// The size at which `powerAt` reaches `power`, searched from 2 on, below which there is no estimate of the variance.
+/// Unrounded; missing where no size reaches it. The power must not fall as the size grows; that of the tests of means
+/// does not (see `TTest`), because their noncentrality and their degrees of freedom grow with it.
+double SizeForPower(FunctionView<double(double size)> powerAt, double power);
+
+/// The size that solves the equation of a half-width; likewise from 2 on.
+double SizeForHalfWidth(const HalfWidthEquation& equation);
 
 /// Where the axis of effect sizes from `minEffectSize` on starts. For a two-sided test -5 asks for a start at 0, and
 /// any other negative effect is refused (no start).

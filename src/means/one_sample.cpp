@@ -19,7 +19,7 @@ double DirectionalPower(double sampleSize, double effectSize, double alpha) {
 }
 
 double DirectionalSize(double power, double effectSize, double alpha) {
-  return SearchSize([=](double n) { return DirectionalPower(n, effectSize, alpha) - power; });
+  return SizeForPower([=](double n) { return DirectionalPower(n, effectSize, alpha); }, power);
 }
 
 }  // namespace kelpower
@@ -53,7 +53,7 @@ extern "C" double PowerOneSampleDirectional(double sampleSize, double mean, doub
 }
 
 extern "C" double PowerReverseOneSampleNondirectionalES(double power, double effectSize, double alpha) {
-  return SearchSize([=](double n) { return OneSampleTest(Sides::Two, n, alpha).Power(effectSize) - power; });
+  return SizeForPower([=](double n) { return OneSampleTest(Sides::Two, n, alpha).Power(effectSize); }, power);
 }
 
 extern "C" double PowerReverseOneSampleNondirectional(double power, double mean, double sd, double testValue,
@@ -78,12 +78,8 @@ extern "C" double HalfCIOneSampleMeans(double sampleSize, double sd, double alph
   return IntervalQuantileT(alpha, sampleSize - 1) * (sd / std::sqrt(sampleSize));
 }
 
-// Solves w = t sd / sqrt(n), squared and multiplied by n / sd^2, so that the objective grows with n.
+// Solves w = t sd / sqrt(n), squared and multiplied by n / sd^2.
 extern "C" double PowerReversebyHalfCIOneSampleMeans(double halfWidth, double sd, double alpha) {
   const double relativeWidth = halfWidth / sd;
-  const double squaredWidth = relativeWidth * relativeWidth;
-  return std::ceil(SearchSize([=](double n) {
-    const double t = IntervalQuantileT(alpha, n - 1);
-    return squaredWidth * n - t * t;
-  }));
+  return std::ceil(SizeForHalfWidth({relativeWidth * relativeWidth, 1, alpha, [](double n) { return n - 1; }}));
 }

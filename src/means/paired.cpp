@@ -104,7 +104,7 @@ extern "C" double PowerRelatedDirectional(double sampleSize, double mean1, doubl
 }
 
 extern "C" double PowerReverseRelatedNondirectionalES(double power, double effectSize, double alpha) {
-  return SearchSize([=](double n) { return PowerRelatedNondirectionalES(n, effectSize, alpha) - power; });
+  return SizeForPower([=](double n) { return PowerRelatedNondirectionalES(n, effectSize, alpha); }, power);
 }
 
 extern "C" double PowerReverseRelatedNondirectional(double power, double mean1, double sd1, double mean2, double sd2,
@@ -136,8 +136,5 @@ extern "C" double PowerReversebyHalfCIRelatedMeans(double halfWidth, double sd1,
   const DifferenceVariance variance = VarianceOfDifferences(sd1, sd2, correlation);
   const double relativeWidth = halfWidth / variance.scale;
   const double squaredWidth = relativeWidth * relativeWidth / variance.relative;
-  return std::ceil(SearchSize([=](double n) {
-    const double t = IntervalQuantileT(alpha, n - 1);
-    return squaredWidth * n - t * t;
-  }));
+  return std::ceil(SizeForHalfWidth({squaredWidth, 1, alpha, [](double n) { return n - 1; }}));
 }

@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "frame/increasing_search.h"
 #include "frame/root_finders.h"
 #include "kelcommon/kel_mv.h"
 #include "kelpower.h"
@@ -39,9 +40,29 @@ struct SizeSearch {
     return IndependentPower(test, n1, n2).At(p1, p2, stop);
   }
 
-  /// The wanted power's shortfall at a real size. An exact search of method 4 goes by the z test, deliberately.
-  double Objective(double n1) const {
-    return PowerAt(n1, SecondSize(n1), exact == 1 && method == 4 ? 0 : method) - power;
+  /// The power at a real size. In an exact search it is, for method 4, that of the z test, deliberately.
+  double PowerAt(double n1) const { return PowerAt(n1, SecondSize(n1), exact == 1 && method == 4 ? 0 : method); }
+
+  /// Whether the power is known never to fall as the groups grow from two subjects in group 1 on: exact powers jump, and
+  /// the arcsine test's correction can turn the sign of its effect.
+  bool IsIncreasing() const {
+    if (exact != 0) return false;
+    switch (method) {
+      // The critical difference is a multiple of the standard error, while both sizes grow; the correction falls faster.
+      case 0: return 2 * sizeRatio >= 1;
+      // The squared noncentrality is 1 / (v / n1 + w / n2), and the degrees of freedom grow.
+      case 1: return true;
+      // The noncentrality is the least of the sums n1 KL(p1, m) + n2 KL(p2, m).
+      case 2: return true;
+      default: return false;
+    }
+  }
+
+  double SolveFirstSize(double lower, double upper) const {
+    const auto powerAt = [&](double n1) { return PowerAt(n1); };
+    if (IsIncreasing()) return SolveIncreasingPower(lower, upper, kTolerance, powerAt, power, stop);
+    return SolveContinuous(
+        lower, upper, kTolerance, [&](double n1) { return powerAt(n1) - power; }, stop);
   }
 };
 
@@ -60,8 +81,7 @@ std::optional<double> SmallestFirstSize(const SizeSearch& search, double n1) {
   std::vector<double> found{n1};
   while (true) {
     if (AnswersStop(search.stop)) return std::nullopt;
-    const double next = std::ceil(SolveContinuous(
-        1, found.back(), kTolerance, [&](double n) { return search.Objective(n); }, search.stop));
+    const double next = std::ceil(search.SolveFirstSize(1, found.back()));
     if (KelMV::IsMissing(next)) break;
     if (std::find(found.begin(), found.end(), next) != found.end()) break;
     found.push_back(next);
@@ -112,8 +132,7 @@ extern "C" void PowerReverseIndSampBinom(double power, double proportion1, doubl
     return;
   }
   const double lower = LowerStart(search);
-  const double n1 = SolveContinuous(
-      lower, UpperStart(search, lower), kTolerance, [&](double n) { return search.Objective(n); }, cancel);
+  const double n1 = search.SolveFirstSize(lower, UpperStart(search, lower));
   if (KelMV::IsMissing(n1)) {
     sampleSizes = {KelMV::Missing(), KelMV::Missing()};
     return;

@@ -1,7 +1,7 @@
 #include <cmath>
 
 #include "frame/checks.h"
-#include "frame/root_finders.h"
+#include "frame/increasing_search.h"
 #include "kelpower.h"
 #include "proportions/exact_search.h"
 #include "proportions/one_sample_test.h"
@@ -28,6 +28,8 @@ extern "C" double PowerReverseOneSampBinom(double power, double altProportion, d
     return test.Power(size, altProportion, nullProportion, stop);
   };
   if (method != 0) return SolveExactSize(power, powerAt, cancel);
-  return SolveContinuous(
-      1, 400, 1e-9, [&](double size) { return powerAt(size, nullptr) - power; }, nullptr);
+  // With a = |p1 - p0| sqrt(N) and the correction c that falls with N, the rejecting tail is Phi((a - c - s0 z) / s1);
+  // what the other tail loses as N grows is less, because it lies further out.
+  return SolveIncreasingPower(
+      1, 400, 1e-9, [&](double size) { return powerAt(size, nullptr); }, power, nullptr);
 }

@@ -1,5 +1,5 @@
 #include "frame/checks.h"
-#include "frame/root_finders.h"
+#include "frame/increasing_search.h"
 #include "kelpower.h"
 #include "proportions/exact_search.h"
 #include "proportions/related_test.h"
@@ -39,8 +39,9 @@ extern "C" double PowerReversebyPRelSampBionm(double power, double discordant12,
     return test.Power(size, {discordant12, discordant21}, stop);
   };
   if (exact != 0) return SolveExactSize(power, powerAt, cancel);
-  return SolveContinuous(
-      1, 400, 1e-9, [&](double size) { return powerAt(size, nullptr) - power; }, nullptr);
+  // The tail on the side of the difference grows with sqrt(N), and the other one, further out, loses less.
+  return SolveIncreasingPower(
+      1, 400, 1e-9, [&](double size) { return powerAt(size, nullptr); }, power, nullptr);
 }
 
 extern "C" double PowerReversebyMargPRelSampBionm(double power, double marginal1, double marginal2, double correlation,

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "frame/checks.h"
-#include "frame/root_finders.h"
+#include "frame/increasing_search.h"
 #include "kelpower.h"
 #include "regression/multiple_correlation.h"
 
@@ -56,13 +56,14 @@ namespace {
 
 /// The size that reaches `power`, in [p + 1 + intercept, p + 400] or, by widening, above. An effect that is rejected
 /// stays below every target, so the search ends with the missing value.
+/// The power does not fall as the size grows (see `FTest`): the noncentrality is N f^2, or f^2 times a chi-squared
+/// variable on N - 1 degrees of freedom for random predictors, and the error degrees of freedom grow with N.
 double SizeForPower(double power, const RegressionModel& model, const std::optional<RegressionEffect>& effect) {
   constexpr double kTolerance = 1e-9;
   const double lower = model.predictors + 1 + model.Intercept();  // leaves one error degree of freedom
   const double upper = model.predictors + 400;
-  return SolveContinuous(
-      lower, upper, kTolerance, [&](double sampleSize) { return RegressionPower(model, sampleSize, effect) - power; },
-      nullptr);
+  const auto powerAt = [&](double sampleSize) { return RegressionPower(model, sampleSize, effect); };
+  return SolveIncreasingPower(lower, upper, kTolerance, powerAt, power, nullptr);
 }
 
 }  // namespace

@@ -191,6 +191,31 @@ TEST(TAndF, ProbabilityFallsWithTheNoncentralityAndGrowsWithX) {
   }
 }
 
+// Over all orders of magnitude of every argument: where one of the methods fails, its neighbours do not.
+TEST(TAndF, ProbabilityNeverFallsAsXGrows) {
+  constexpr double noise = 1e-12;
+  std::mt19937_64 random(20241121);
+  const auto between = [&](double low, double high) {
+    return std::uniform_real_distribution<double>(low, high)(random);
+  };
+  for (int i = 0; i < 40'000; ++i) {
+    const double df = std::pow(10, between(-3, i % 2 == 0 ? 20 : 300));
+    const double delta = std::pow(10, between(-3, i % 2 == 0 ? 9 : 150));
+    const double ratio = i % 5 == 0 ? std::pow(10, between(-10, 40)) : std::pow(10, between(-1, 1));
+    const double growth = 1 + std::pow(10, between(-12, 2));
+
+    const double t = delta * ratio;
+    EXPECT_LE(CdfT(t, df, delta), CdfT(t * growth, df, delta) + noise) << t << ", " << df << ", " << delta;
+    EXPECT_LE(CdfT(-t * growth, df, delta), CdfT(-t, df, delta) + noise) << -t << ", " << df << ", " << delta;
+
+    const double df1 = std::pow(10, between(-2, 4));
+    const double lambda = delta * delta;
+    const double f = ratio * (1 + lambda / df1);
+    EXPECT_LE(CdfF(f, df1, df, lambda), CdfF(f * growth, df1, df, lambda) + noise)
+        << f << ", " << df1 << ", " << df << ", " << lambda;
+  }
+}
+
 TEST(TAndF, LargeDegreesOfFreedomReachTheNormal) {
   const auto Phi = [](double z) { return 0.5 * std::erfc(-z * std::sqrt(0.5)); };
   for (double df : {1e17, 1e60, 1e300, infinity})
@@ -232,6 +257,35 @@ TEST(TAndF, SizesUpTo1e307) {
     EXPECT_GT(quantile, 2.6) << size;
     EXPECT_NEAR(CdfF(quantile, 3, size, 0), 0.95, 1e-14) << size;
   }
+}
+
+// Critical values of few degrees of freedom reach the end of the doubles. References: the integral over the chi density
+// and the series in the inverse noncentrality, in 60 digits.
+TEST(TAndF, FarQuantilesOfFewDegreesOfFreedom) {
+  ExpectRelative(CdfT(-1e155, 0.0025, 3.3), 0.000195646227084, 1e-11);
+  ExpectRelative(CdfT(-1e300, 0.0025, 3.3), 8.4912470598e-5, 1e-10);
+  ExpectRelative(CdfT(1e300, 0.0025, -3.3), 1 - 8.4912470598e-5, 1e-14);
+  const auto upperTail = [](double alpha, double df, double delta) {
+    return CdfT(-IdfT(1 - alpha, df), df, -delta);
+  };
+  ExpectRelative(upperTail(0.0372, 0.01, 500), 0.079669950358740802, 1e-13);
+  ExpectRelative(upperTail(0.0372, 0.01, 1e5), 0.084004945639529318, 1e-13);
+  ExpectRelative(upperTail(0.0372, 0.05, 1500), 0.11053986177206809, 1e-13);
+  ExpectRelative(upperTail(0.0372, 0.1, 500), 0.14672987326149766, 1e-13);
+  ExpectRelative(upperTail(0.0372, 0.15, 1500), 0.24199219632736321, 1e-13);
+}
+
+// The same series: noncentralities of a hundred and more far below x, where the tail is a small power of their ratio.
+TEST(TAndF, TailsFarBeyondALargeNoncentrality) {
+  const auto upperTail = [](double df, double delta, double ratio) {
+    return CdfT(-delta * std::sqrt(ratio * df / 2), df, -delta);
+  };
+  ExpectRelative(upperTail(1, 350, 1e14), 1.1283791670955088e-7, 1e-13);
+  ExpectRelative(upperTail(1, 350, 1e25), 3.5682482323055417e-13, 1e-13);
+  ExpectRelative(upperTail(1.2, 1e8, 1e14), 4.4555157431919526e-9, 1e-13);
+  ExpectRelative(upperTail(2, 1e5, 1e25), 1.0000000000999999e-25, 1e-13);
+  ExpectRelative(upperTail(5, 1e5, 1e25), 9.5153286289967746e-64, 1e-12);
+  ExpectRelative(upperTail(11, 5000, 1e25), 1.0984530508767087e-140, 1e-12);
 }
 
 TEST(TAndF, PlacesWherePlainSeriesFail) {

@@ -107,6 +107,79 @@ TEST(Chart, CurvesOfProportionsPassThroughTheDesign) {
   }
 }
 
+TEST(Chart, CurvesOfTwoProportionsPassThroughTheDesign) {
+  const std::vector<Given> effects = {{{"proportions", Numbers{0.5, 0.4}}},
+                                      {{"proportion1", 0.5}, {"risk-difference", 0.1}},
+                                      {{"proportion1", 0.5}, {"risk-ratio", 1.25}},
+                                      {{"proportion1", 0.5}, {"odds-ratio", 1.5}}};
+  for (const std::string test : {"z", "t", "likelihood-ratio", "arcsine", "conditional"}) {
+    for (Given groups : effects) {
+      groups["n"] = Numbers{40, 60};
+      groups["test"] = test;
+      ExpectThroughTheDesign("two-proportions", {"ratio", {0.5}, {2.5}, 0.25}, groups);
+      ExpectThroughTheDesign("two-proportions", Named("risk-difference"), groups);
+      ExpectThroughTheDesign("two-proportions", {"risk-ratio", {0.75}, {1.75}, 0.25}, groups);
+      ExpectThroughTheDesign("two-proportions", {"odds-ratio", {0.5}, {2.5}, 0.25}, groups);
+    }
+  }
+}
+
+const Given twoProportions{{"proportions", Numbers{0.5, 0.75}}, {"n", Numbers{50, 60}}};
+
+Picture TwoProportions(const ChartRequest& request, const Given& given = twoProportions) {
+  return Draw(*FindTest("two-proportions"), request, given);
+}
+
+double InSinglePrecision(double value) { return static_cast<double>(static_cast<float>(value)); }
+
+TEST(Chart, SurfacesOfTwoProportionsAreThePowersOfTheirOptions) {
+  Given exact = twoProportions;
+  for (const char* flag : {"exact", "one-sided", "continuity-correction"}) exact[flag] = true;
+  const auto power = [](double n1, double n2, double p1, double p2) {
+    return InSinglePrecision(PowerIndSampBinom(n1, n2, p1, p2, 1, 0, 1, 0.05, 1, 0, nullptr));
+  };
+  const Series sizesDrawn = TwoProportions({"sizes", {10, 20}, {12, 23}, std::nullopt}, exact).series;
+  ASSERT_EQ(sizesDrawn.x, (Numbers{10, 11, 12}));
+  ASSERT_EQ(sizesDrawn.y, (Numbers{20, 21, 22, 23}));
+  EXPECT_EQ(sizesDrawn.power[2 * 4 + 1], power(12, 21, 0.5, 0.75));
+
+  const Series proportionsDrawn = TwoProportions({"proportions", {0.2, 0.3}, {0.4, 0.7}, 0.1}, exact).series;
+  ASSERT_EQ(proportionsDrawn.x.size(), 3u);
+  ASSERT_EQ(proportionsDrawn.y.size(), 5u);
+  EXPECT_EQ(proportionsDrawn.power[1 * 5 + 3], power(50, 60, proportionsDrawn.x[1], proportionsDrawn.y[3]));
+}
+
+TEST(Chart, WideRangesOfGroupSizesAreThinned) {
+  const Series series = TwoProportions({"sizes", {2, 10}, {1500, 300}, std::nullopt}).series;
+  EXPECT_EQ(series.x.size(), 151u);
+  EXPECT_EQ(series.x.back(), 1500);
+  EXPECT_EQ(series.y.size(), 59u);
+  EXPECT_EQ(series.y.back(), 300);
+  Given large = twoProportions;
+  large["n"] = Numbers{1e5, 1e5};
+  EXPECT_TRUE(TwoProportions(Named("sizes"), large).mark);
+  // Where the arcsine test has no power yet there are no points, and an upper end of 2500 is one like any other.
+  large = twoProportions;
+  large["test"] = "arcsine";
+  const Series arcsine = TwoProportions({"sizes", {2, 2}, {2500, 60}, std::nullopt}, large).series;
+  EXPECT_GT(arcsine.x.back(), 2490);
+  EXPECT_LE(arcsine.x.back(), 2500);
+  EXPECT_EQ(arcsine.y.front(), 2);
+}
+
+TEST(Chart, LongChartsOfExactTestsAreNotStarted) {
+  const std::string sentence =
+      "The chart of an exact test takes too long with so many points and sizes this large: give a larger --step, bring "
+      "--from and --to closer together, or draw a large-sample test.";
+  Given exact = twoProportions;
+  exact["test"] = "conditional";
+  EXPECT_EQ(Complaint("two-proportions", {"sizes", {100, 100}, {1000, 1000}, std::nullopt}, exact), sentence);
+  exact["n"] = Numbers{10000, 10000};
+  for (const char* chart : {"proportions", "ratio", "risk-difference", "risk-ratio", "odds-ratio"}) {
+    EXPECT_EQ(Complaint("two-proportions", Named(chart), exact), sentence);
+  }
+}
+
 TEST(Chart, GridsOfProportionsAreCutToTheRange) {
   const Given one{{"proportion", 0.65}, {"null", 0.5}, {"n", 60.0}};
   const Series whole = Draw(*FindTest("proportion"), {"null-alternative", {}, {}, 0.1}, one).series;
@@ -152,10 +225,30 @@ TEST(Chart, WrongRangesGetASentence) {
   EXPECT_EQ(Complaint("anova", {"n", {4}, {2e6}, std::nullopt}),
             "The range has more than 1000000 points: bring --from and --to closer together.");
   EXPECT_EQ(Complaint("anova", {"n", {}, {20}, std::nullopt}), "--from and --to go together: give both or neither.");
-  EXPECT_EQ(Complaint("two-proportions", Named("n"), {{"proportions", Numbers{0.5, 0.75}}, {"n", Numbers{50, 50}}}),
-            "two-proportions has no charts.");
   EXPECT_EQ(Complaint("anova", Named("n"), {{"means", means}, {"sd", 6.0}, {"n", Numbers{1e9, 1e9, 1e9}}}),
             "A design of more than 100000 observations has no usual range: also give --from and --to.");
+}
+
+TEST(Chart, StepsThatLeaveNothingGetASentence) {
+  const std::string sentence = "--step is 0.7, but leaves fewer than two points to draw: give a smaller one.";
+  const Given one{{"proportion", 0.65}, {"null", 0.5}, {"n", 60.0}};
+  EXPECT_EQ(Complaint("proportion", {"null", {}, {}, 0.7}, one), sentence);
+  for (const char* chart : {"proportions", "ratio", "risk-difference", "risk-ratio", "odds-ratio"}) {
+    EXPECT_EQ(Complaint("two-proportions", {chart, {}, {}, 0.7}, twoProportions), sentence);
+  }
+  EXPECT_EQ(Complaint("proportion", {"null", {0.501}, {0.502}, 0.4}, one),
+            "--from and --to leave nothing to draw; allowed are: null proportion a number from 0 to 1.");
+}
+
+TEST(Chart, ATestMayHaveNone) {
+  planner::Test test = *FindTest("anova");
+  test.charts.clear();
+  try {
+    Draw(test, Named("n"), design);
+    ADD_FAILURE() << "nothing thrown";
+  } catch (const InputError& error) {
+    EXPECT_STREQ(error.what(), "anova has no charts.");
+  }
 }
 
 TEST(Chart, EqualMeansHaveNoUsualDeviations) {
@@ -174,9 +267,14 @@ TEST(Chart, HelpAndListNameEveryChart) {
   const auto list = nlohmann::json::parse(RenderListJson());
   for (std::size_t i = 0; i < Tests().size(); ++i) {
     const planner::Test& test = Tests()[i];
+    const std::string help = RenderHelp(test);
     for (std::size_t k = 0; k < test.charts.size(); ++k) {
-      EXPECT_NE(RenderHelp(test).find(test.charts[k].example), std::string::npos);
-      EXPECT_EQ(list[i]["charts"][k]["export"], test.charts[k].exportName);
+      const planner::Chart& chart = test.charts[k];
+      EXPECT_EQ(list[i]["charts"][k]["export"], chart.exportName);
+      EXPECT_NE(help.find("--chart " + chart.name + "  power over"), std::string::npos);
+      const bool isAnotherWay = k > 0 && chart.name == test.charts[k - 1].name;
+      const bool isSaid = isAnotherWay && chart.exportName == test.charts[k - 1].exportName;
+      EXPECT_EQ(help.find(chart.example + '\n') == std::string::npos, isSaid) << chart.example;
     }
   }
 }

@@ -204,5 +204,80 @@ TEST(Render, ReportsANote) {
   EXPECT_EQ(nlohmann::json::parse(RenderJson(report))["note"], report.note);
 }
 
+class Request : public StopRequest {
+public:
+  explicit Request(int questionsBeforeStop) : left_(questionsBeforeStop) {}
+  bool ShouldStop() override { return --left_ < 0; }
+
+private:
+  int left_;
+};
+
+class Counter : public StopRequest {
+public:
+  bool ShouldStop() override {
+    ++count;
+    return false;
+  }
+  int count = 0;
+};
+
+Given TwoProportions(const std::string& test, const std::string& name, Value value) {
+  return {{"proportions", Numbers{0.5, 0.75}}, {"test", test}, {name, std::move(value)}};
+}
+
+TEST(Solve, StopsOnRequest) {
+  const planner::Test& test = *FindTest("two-proportions");
+  for (const std::string method : {"z", "conditional"}) {
+    for (const int questions : {0, 1}) {
+      Request request(questions);
+      EXPECT_THROW(Solve(test, TwoProportions(method, "power", 0.8), &request), Stopped) << method;
+    }
+    Request request(0);
+    EXPECT_THROW(Solve(test, TwoProportions(method, "n", Numbers{50}), &request), Stopped) << method;
+  }
+}
+
+// The refinement of an exact search keeps the sizes that it has when it is stopped; they are no answer.
+TEST(Solve, StopsLateInASearch) {
+  const planner::Test& test = *FindTest("two-proportions");
+  const Given search = TwoProportions("conditional", "power", 0.8);
+  Counter counter;
+  const Report answer = Solve(test, search, &counter);
+  ASSERT_GT(counter.count, 1000);
+  for (const int left : {1, 2, 100, 1000}) {
+    Request request(counter.count - left);
+    EXPECT_THROW(Solve(test, search, &request), Stopped) << left;
+  }
+  Request request(counter.count);
+  EXPECT_EQ(Solve(test, search, &request).sentence, answer.sentence);
+}
+
+// Asking at every table would take the exact z test hundreds of times as long as its power.
+TEST(Solve, AsksOnlyWhereThatCostsLittle) {
+  Counter counter;
+  Given exact = TwoProportions("z", "n", Numbers{400});
+  exact["exact"] = true;
+  Solve(*FindTest("two-proportions"), exact, &counter);
+  EXPECT_LT(counter.count, 10);
+}
+
+TEST(Solve, ShowsUncountableSizesInFourDigits) {
+  const Report report = Solve(*FindTest("mean"), {{"effect-d", 1e-9}, {"power", 0.8}});
+  EXPECT_NE(report.sentence.find(" needs 7.849e+18 observations;"), std::string::npos) << report.sentence;
+  EXPECT_NEAR(NumberOf(report, "n"), 7.84886e18, 1e13);
+  const Report groups = Solve(*FindTest("two-means"), {{"effect-d", 1e-9}, {"power", 0.8}, {"ratio", 2.0}});
+  EXPECT_NE(groups.sentence.find(" needs 1.177e+19 and 2.355e+19 observations in 2 groups (3.532e+19 in total);"),
+            std::string::npos)
+      << groups.sentence;
+}
+
+TEST(Solve, CountsTheEntriesOfAList) {
+  EXPECT_EQ(Complaint<InputError>("two-proportions", {{"proportions", Numbers{0.5}}, {"n", Numbers{20}}}),
+            "--proportions has 1 entry, but there are 2 groups.");
+  EXPECT_EQ(Complaint<InputError>("two-proportions", {{"proportions", Numbers{0.5, 0.6, 0.7}}, {"n", Numbers{20}}}),
+            "--proportions has 3 entries, but there are 2 groups.");
+}
+
 }  // namespace
 }  // namespace planner

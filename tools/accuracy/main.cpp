@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "compiler.h"
 #include "methods.h"
 #include "reference_table.h"
 
@@ -88,14 +89,6 @@ std::string Machine() {
   for (std::string line; std::getline(file, line);)
     if (line.rfind("model name", 0) == 0) return line.substr(line.find(':') + 2);
   return "unnamed processor";
-}
-
-std::string Compiler() {
-#ifdef __clang__
-  return "clang " __clang_version__;
-#else
-  return "g++ " __VERSION__;
-#endif
 }
 
 // Measured once, with the references at hand, on Boost.Math 1.81.

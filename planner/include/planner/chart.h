@@ -52,6 +52,8 @@ struct Axis {
   Limits limits;                              // of its ends; whole for sizes
   double (*design)(const Inputs&) = nullptr;  // where the design lies on it
   Range (*usual)(const Inputs&) = nullptr;    // its range unless the user gives one; null: the export chooses
+  double (*spacing)(const Range&) = nullptr;  // of the sizes that the export draws; null: each
+  bool isTotal = false;                       // of the sizes of all groups together
 };
 
 /// One chart of a test. Several charts with the same name are ways to draw it from different inputs, as routes are ways
@@ -66,7 +68,8 @@ struct Chart {
   std::function<Series(const Inputs&, const Ranges&)> call;
 };
 
-/// An axis of total sample sizes, of the sizes in `n`.
+/// An axis of total sample sizes, of the sizes in `n`; it starts where they leave something to estimate the standard
+/// deviation from.
 Axis TotalSizeAxis();
 /// An axis of the sizes of a single sample, of the size in `n`; `title` says what they count.
 Axis SizeAxis(std::string title, double smallest, double largest);

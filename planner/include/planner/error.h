@@ -15,4 +15,9 @@ struct NoSolution : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+/// The computation was stopped at the caller's request; there is no answer.
+struct Stopped : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
 }  // namespace planner

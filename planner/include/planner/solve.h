@@ -27,7 +27,8 @@ struct Report {
 };
 
 /// Answers the question that the inputs ask: what is left out is what is solved for. Throws an InputError or a
-/// NoSolution. `stop` may end a long computation; it may be null.
+/// NoSolution. `stop` may end a long computation, which then throws Stopped; it may be null. Once it has answered true
+/// it must go on to.
 Report Solve(const Test& test, const Given& given, StopRequest* stop = nullptr);
 
 }  // namespace planner

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <chrono>
+#include <csignal>
+#include <cstdint>
+#include <string>
+
+#include "kelpower.h"
+
+/// A computation that may take long. While it lives, Ctrl-C makes it answer that the library should stop, and a second
+/// Ctrl-C ends the program at once. Where the error stream is a terminal, a line tells how long it has been going on;
+/// it is gone when the computation is.
+class Computation : public StopRequest {
+public:
+  /// `what` is computed, in few words: "the sample size".
+  explicit Computation(std::string what);
+  ~Computation() override;
+  Computation(const Computation&) = delete;
+  Computation& operator=(const Computation&) = delete;
+
+  bool ShouldStop() override;
+
+private:
+  using Clock = std::chrono::steady_clock;
+
+  void LookAtTheClock();
+
+  std::string what_;
+  bool isShown_;                 // the error stream is a terminal
+  std::size_t shownWidth_ = 0;   // of the line that stands there
+  std::uint32_t questionsLeft_;  // until the clock is looked at
+  Clock::time_point start_ = Clock::now();
+  Clock::time_point nextLine_;
+};
+
+/// While it lives Ctrl-C waits, so that what has been begun is finished.
+class InterruptsWait {
+public:
+  InterruptsWait();
+  ~InterruptsWait();
+  InterruptsWait(const InterruptsWait&) = delete;
+  InterruptsWait& operator=(const InterruptsWait&) = delete;
+
+private:
+  sigset_t before_;
+};
