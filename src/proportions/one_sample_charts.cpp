@@ -4,6 +4,7 @@
 
 #include "frame/charts.h"
 #include "frame/checks.h"
+#include "frame/function_view.h"
 #include "kelpower.h"
 #include "proportions/chart_axes.h"
 #include "proportions/one_sample_test.h"
@@ -65,6 +66,15 @@ struct SizeSurface {
     if (!(to <= std::numeric_limits<std::int32_t>::max())) return std::nullopt;
     return SizeAxis(from, to);
   }
+
+  /// The surface over the sizes and `positions`; empty where the design is invalid.
+  XYZPlot Over(const std::optional<Axis>& positions, OneSampleTest& test,
+               FunctionView<double(double size, double position)> powerAt) const {
+    if (IsInvalid()) return EmptySurface();
+    return SurfaceByRows(Sizes(test), positions, Precision::Single, [&](double size, const SurfaceLine& row) {
+      row.Fill([&](double position) { return powerAt(size, position); });
+    });
+  }
 };
 
 }  // namespace
@@ -113,40 +123,28 @@ extern "C" XYZPlot PlotNRiskDiffOneSampBinom(double sampleSize, double altPropor
                                              int oneSided, double alpha, int minSampleSize, int maxSampleSize,
                                              std::uint8_t continuityCorrection, double step) {
   const SizeSurface design{sampleSize, altProportion, nullProportion, alpha, minSampleSize, maxSampleSize, step};
-  if (design.IsInvalid()) return EmptySurface();
-
   OneSampleTest test(method, oneSided, alpha, continuityCorrection);
-  return SurfaceByRows(
-      design.Sizes(test), DifferenceGrid(nullProportion, step), Precision::Single,
-      [&](double size, const SurfaceLine& row) {
-        row.Fill([&](double difference) { return test.Power(size, difference + nullProportion, nullProportion); });
-      });
+  return design.Over(DifferenceGrid(nullProportion, step), test, [&](double size, double difference) {
+    return test.Power(size, difference + nullProportion, nullProportion);
+  });
 }
 
 extern "C" XYZPlot PlotNNullOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
                                          int oneSided, double alpha, int minSampleSize, int maxSampleSize,
                                          std::uint8_t continuityCorrection, double step) {
   const SizeSurface design{sampleSize, altProportion, nullProportion, alpha, minSampleSize, maxSampleSize, step};
-  if (design.IsInvalid()) return EmptySurface();
-
   OneSampleTest test(method, oneSided, alpha, continuityCorrection);
-  return SurfaceByRows(design.Sizes(test), ProportionGrid(step), Precision::Single,
-                       [&](double size, const SurfaceLine& row) {
-                         row.Fill([&](double null) { return test.Power(size, altProportion, null); });
-                       });
+  return design.Over(ProportionGrid(step), test,
+                     [&](double size, double null) { return test.Power(size, altProportion, null); });
 }
 
 extern "C" XYZPlot PlotNAlterOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
                                           int oneSided, double alpha, int minSampleSize, int maxSampleSize,
                                           std::uint8_t continuityCorrection, double step) {
   const SizeSurface design{sampleSize, altProportion, nullProportion, alpha, minSampleSize, maxSampleSize, step};
-  if (design.IsInvalid()) return EmptySurface();
-
   OneSampleTest test(method, oneSided, alpha, continuityCorrection);
-  return SurfaceByRows(design.Sizes(test), ProportionGrid(step), Precision::Single,
-                       [&](double size, const SurfaceLine& row) {
-                         row.Fill([&](double alternative) { return test.Power(size, alternative, nullProportion); });
-                       });
+  return design.Over(ProportionGrid(step), test,
+                     [&](double size, double alternative) { return test.Power(size, alternative, nullProportion); });
 }
 
 extern "C" XYZPlot PlotNullAlterOneSampBinom(double sampleSize, int method, int oneSided, double alpha,

@@ -2,7 +2,8 @@
 """Prints the line coverage of the tests that have been run in a coverage build, and demands what it must be.
 
 The library, its distributions and the planner must be covered to the least share, and every line that is not run must
-be in unreached.toml with the reason. Lines that only the clean-up after an exception reaches do not count: no test makes memory run out.
+be in unreached.toml with the reason. Lines that only the clean-up after an exception reaches do not count: no test makes
+memory run out.
 
 Usage: coverage.py SOURCE BUILD
 """

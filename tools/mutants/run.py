@@ -81,15 +81,15 @@ def check(source, mutants):
 def copy_sources(source, tree):
     """Copies the files under version control that have changed, so that a second run builds little."""
     names = subprocess.run(["git", "-C", source, "ls-files", "-z"], stdout=subprocess.PIPE, check=True).stdout
-    wanted = [Path(name) for name in names.decode().split("\0") if name and (source / name).is_file()]
+    wanted = {Path(name) for name in names.decode().split("\0") if name and (source / name).is_file()}
     for name in wanted:
         target = tree / name
         if target.is_file() and target.read_bytes() == (source / name).read_bytes():
             continue
         target.parent.mkdir(parents=True, exist_ok=True)
         shutil.copy(source / name, target)
-    for path in sorted(tree.rglob("*"), reverse=True):
-        if path.is_file() and path.relative_to(tree) not in set(wanted):
+    for path in list(tree.rglob("*")):
+        if path.is_file() and path.relative_to(tree) not in wanted:
             path.unlink()
 
 
@@ -186,7 +186,8 @@ def prepare(source, work):
     copy_sources(source, tree)
     # Optimized a little: the tests of the exact methods count for more than the compilation.
     status, output = run(["cmake", "-G", "Ninja", "-S", str(tree), "-B", str(directory), "-Wno-dev",
-                          "-DCMAKE_BUILD_TYPE=Mutants", "-DCMAKE_CXX_FLAGS=-O1 -w", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON"])
+                          "-DCMAKE_BUILD_TYPE=Mutants", "-DCMAKE_CXX_FLAGS=-O1 -w",
+                          "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON"])
     if status != 0:
         raise ListError(output)
     output = build(directory, ["all"])
@@ -218,8 +219,8 @@ def main(arguments):
         counts[verdict] += 1
         print(f"{verdict:9} {time.monotonic() - begun:5.1f} s  {mutant.name()}" + (f"  [{note}]" if note else ""),
               flush=True)
-    print(f"{counts['killed']} of {len(chosen)} faults killed, {counts['SURVIVED']} survived, {counts['ERROR']} in error, "
-          f"in {(time.monotonic() - start) / 60:.0f} minutes")
+    print(f"{counts['killed']} of {len(chosen)} faults killed, {counts['SURVIVED']} survived, {counts['ERROR']} in "
+          f"error, in {(time.monotonic() - start) / 60:.0f} minutes")
     return 0 if counts["killed"] == len(chosen) else 1
 
 
