@@ -235,6 +235,60 @@ long double QuantileStart(double a, double b, double p) {
   return -(std::log1p(-static_cast<long double>(p)) - (logStep + std::log(a / static_cast<long double>(b)))) / b;
 }
 
+// The density of the log odds around a point v, divided by that at v, as a power series in the distance h. It solves
+// d' = k d with k = (a + b) (1 - y) - b, and y' = y (1 - y). Of y and 1 - y the smaller one is developed.
+class DensitySeries {
+public:
+  // With the terms that matter up to a distance; more than `mostTerms` are not formed.
+  DensitySeries(double a, double b, long double c, double distance) {
+    const double sign = c < 1 ? 1 : -1;
+    double y[mostTerms] = {static_cast<double>((c < 1 ? c : 1) / (1 + c))};
+    double k[mostTerms] = {static_cast<double>((a - b * c) / (1 + c))};
+    double power = 1;
+    for (int n = 0; n + 1 < mostTerms; ++n) {
+      double ySquared = 0;
+      double product = 0;
+      for (int i = 0; i <= n; ++i) {
+        ySquared += y[i] * y[n - i];
+        product += density_[i] * k[n - i];
+      }
+      y[n + 1] = sign * (y[n] - ySquared) / (n + 1);
+      k[n + 1] = -sign * (a + b) * y[n + 1];
+      density_[n + 1] = product / (n + 1);
+      ++terms_;
+      const double previousPower = power;
+      power *= distance;
+      // Two in a row, for k may vanish.
+      isEnough_ = std::fabs(density_[n] * previousPower) < 1e-15 && std::fabs(density_[n + 1] * power) < 1e-17;
+      if (isEnough_) return;
+    }
+  }
+
+  bool IsEnough() const { return isEnough_; }
+
+  // The distance h at which the integral of the series from 0 to h is `wanted`, by Newton's method from near it.
+  double Distance(double wanted, double h) const {
+    for (int i = 0; i < 4; ++i) {
+      double integral = 0;
+      double density = 0;
+      for (int n = terms_ - 1; n >= 0; --n) {
+        integral = integral * h + density_[n] / (n + 1);
+        density = density * h + density_[n];
+      }
+      const double step = (integral * h - wanted) / density;
+      h -= step;
+      if (std::fabs(step) < 1e-9 * std::fabs(h)) break;
+    }
+    return h;
+  }
+
+private:
+  static constexpr int mostTerms = 14;
+  double density_[mostTerms] = {1};
+  int terms_ = 1;
+  bool isEnough_ = false;
+};
+
 }  // namespace
 
 long double BetaQuantileLogOdds(double a, double b, double p) {
@@ -272,6 +326,9 @@ long double BetaQuantileLogOdds(double a, double b, double p) {
         // the first two may hide: far out in a tail its logarithm is all but straight.
         const double order = std::fmax(std::fmax(std::fabs(second), std::sqrt(std::fabs(third))), std::fabs(newton));
         if (std::fabs(newton) * order * order * order < 1e-16) return next;
+        const double distance = static_cast<double>(next - v);
+        const DensitySeries series(a, b, c, distance);
+        if (series.IsEnough()) return v + series.Distance((p - tail) / at.density, distance);
       } else {
         next = v + newton / (1 + std::fmin(std::fmax(second, -0.5), 1.0));
       }

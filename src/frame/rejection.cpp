@@ -36,7 +36,12 @@ TTest TTest::TwoSided(double alpha, double df, QuantileTuning tuning) { return O
 
 double TTest::PowerUpperTail(double noncentrality) const { return 1 - LowerTailT(critical, df, noncentrality); }
 
+// T'^2 is noncentral F on 1 and df degrees of freedom, which takes one sum instead of two for the same digits. A
+// critical value that is negative or missing (of a level above 1) or that overflows when squared is left to T'.
 double TTest::PowerBothTails(double noncentrality) const {
+  constexpr double kSquareable = 1e150;
+  if (critical > 0 && critical < kSquareable)
+    return FTest{1, df, critical * critical, kTuning}.Power(noncentrality * noncentrality);
   return 1 - LowerTailT(critical, df, noncentrality) + LowerTailT(-critical, df, noncentrality);
 }
 
