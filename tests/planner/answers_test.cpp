@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <set>
 #include <string>
@@ -63,6 +64,24 @@ TEST(TwoProportions, DoesNotSquareTheSecondSize) {
   const double first = std::floor(total / 2.5);
   EXPECT_EQ(total, first + std::ceil(1.5 * first));
   EXPECT_GE(NumberOf(report, "power"), 0.8);
+}
+
+// 87 x 87 sizes by the z test and 57 x 57 by the conditional one: as many as take a second or so.
+TEST(TwoProportions, DrawsFewerSizesTheLongerAnExactPowerTakes) {
+  const planner::Test& test = *FindTest("two-proportions");
+  const auto chart = std::find_if(test.charts.begin(), test.charts.end(),
+                                  [](const Chart& candidate) { return candidate.exportName == "PlotNIndSampBinom"; });
+  ASSERT_NE(chart, test.charts.end());
+  const auto usual = [&](const std::string& method, double size) {
+    const Given design{
+        {"proportions", Numbers{0.6, 0.3}}, {"n", Numbers{size}}, {"test", method}, {"exact", method != "conditional"}};
+    const Range range = chart->axes[0].usual(Inputs(test, design, nullptr));
+    return Numbers{range.from, range.to};
+  };
+  EXPECT_EQ(usual("z", 2000), (Numbers{1957, 2043}));
+  EXPECT_EQ(usual("conditional", 300), (Numbers{272, 328}));
+  EXPECT_EQ(usual("conditional", 9000), (Numbers{8998, 9002}));
+  EXPECT_EQ(usual("z", 20), (Numbers{5, 40}));
 }
 
 TEST(Pairwise, DrawsAtTheAdjustedLevel) {
