@@ -1,6 +1,7 @@
 #include "correlation.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "correlation_parameters.h"
 #include "window.h"
@@ -23,8 +24,8 @@ Names TestOptions(const CorrelationKind& kind) { return Joined({"null", "one-sid
 
 std::vector<Route> Routes(const CorrelationKind& kind) {
   const CorrelationCalls calls = kind.calls;
-  const auto Rounded = [smallest = kind.smallestSize](double (*size)(const Inputs&)) {
-    return [=](const Inputs& in) { return WholeSize(size(in), smallest(in)); };
+  const auto Rounded = [](double (*size)(const Inputs&)) {
+    return [=](const Inputs& in) { return Numbers{std::ceil(size(in))}; };
   };
   const auto Single = [](double (*figure)(const Inputs&)) {
     return [=](const Inputs& in) { return Numbers{figure(in)}; };

@@ -38,7 +38,6 @@ struct CorrelationKind {
   std::string exampleArguments;      // that every example needs besides --r and --n, after a space
   std::vector<std::string> needs;    // parameters besides `r` and `n`
   std::vector<std::string> accepts;  // parameters of the method
-  double (*smallestSize)(const Inputs&);
   double mostPartialledOut = 0;
   /// The sizes that the charts over sizes draw with these inputs; null: all of the axis.
   Range (*drawnSizes)(const Inputs&) = nullptr;

@@ -106,7 +106,6 @@ Test Describe() {
   kind.given = " given {partialled-out} variables";
   kind.exampleArguments = " --partialled-out 3";
   kind.needs = {"partialled-out"};
-  kind.smallestSize = SmallestSize;
   kind.mostPartialledOut = mostPartialledOut;
   kind.drawnSizes = DrawnSizes;
   kind.calls = calls;

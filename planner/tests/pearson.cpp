@@ -65,7 +65,6 @@ Test Describe() {
   kind.definition = "two variables";
   kind.method = "Fisher's z{adjust-bias?, corrected for bias,}";
   kind.accepts = {"adjust-bias"};
-  kind.smallestSize = [](const Inputs&) { return smallestSize; };
   kind.calls = calls;
 
   Test test = CorrelationTest(kind);

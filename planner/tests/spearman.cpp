@@ -68,7 +68,6 @@ Test Describe() {
   kind.definition = "two variables";
   kind.method = "Fisher's z with the variance of {variance}";
   kind.accepts = {"variance"};
-  kind.smallestSize = SmallestSize;
   kind.calls = calls;
 
   Test test = CorrelationTest(kind);
