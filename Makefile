@@ -3,10 +3,11 @@
 PRESET ?= release
 BUILD := build/$(PRESET)
 PREFIX ?= /usr/local
+FUZZ := build/fuzz
 FUZZ_SECONDS ?= 60
 JOBS := $(shell nproc)
 
-.PHONY: run test build bench bench-peers lint format install accuracy fuzz asan tsan coverage mutants valgrind clean
+.PHONY: run test build bench bench-peers lint format install accuracy fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
 
 run: build ## build and plan a real study
 	@sh tools/run_example.sh $(BUILD)/cli/kelpower
@@ -52,13 +53,24 @@ mutants: ## demand that a test fails for each of the deliberate faults in tools/
 	@sh tools/install_packages.sh build
 	@python3 -B tools/mutants/run.py . build/mutants
 
-fuzz: ## fuzz kelcommon for FUZZ_SECONDS
+fuzz: fuzz-kelcommon fuzz-kelpower ## fuzz each library for FUZZ_SECONDS; with -j2 both at once
+
+fuzz-build:
 	@sh tools/install_packages.sh build fuzz
 	@cmake --preset fuzz -Wno-dev --log-level=WARNING
-	@cmake --build build/fuzz -j $(JOBS)
-	@mkdir -p build/fuzz/corpus
-	build/fuzz/fuzz/fuzz_kelcommon -max_total_time=$(FUZZ_SECONDS) -max_len=64 -print_final_stats=1 \
-		build/fuzz/corpus fuzz/corpus/kelcommon
+	@cmake --build $(FUZZ) -j $(JOBS)
+
+fuzz-kelcommon: MAX_LEN := 64
+fuzz-kelpower: MAX_LEN := 256
+fuzz-%: fuzz-build
+	@mkdir -p $(FUZZ)/corpus/$*
+	$(FUZZ)/fuzz/fuzz_$* -max_total_time=$(FUZZ_SECONDS) -max_len=$(MAX_LEN) -print_final_stats=1 \
+		-artifact_prefix=$(FUZZ)/$*- $(FUZZ)/corpus/$* fuzz/corpus/$*
+
+fuzz-seeds: fuzz-build ## write the first inputs of the export target anew, from the reference cases
+	@rm -rf fuzz/corpus/kelpower
+	@mkdir -p fuzz/corpus/kelpower
+	$(FUZZ)/fuzz/fuzz_calls write fuzz/corpus/kelpower
 
 valgrind: build ## look for leaks and stray reads in the vector tests
 	@sh tools/install_packages.sh valgrind

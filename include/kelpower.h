@@ -5,7 +5,10 @@
 /// Statistical power analysis: power, sample size, precision and chart series of the supported tests.
 ///
 /// Every function is plain, undecorated and free of state; any number of threads may call them at once. Nothing is
-/// thrown, printed or kept between calls, and no pointer to a caller's array outlives the call it is passed to.
+/// printed or kept between calls, and no pointer to a caller's array outlives the call it is passed to.
+///
+/// Nothing is thrown but std::bad_alloc, where memory runs out. Then nothing is leaked, no record is returned, and a
+/// DoubleVector is as it was or holds missing values.
 ///
 /// Recurring terms:
 /// - *missing*: the system-missing value, the most negative finite double.

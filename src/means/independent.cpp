@@ -46,15 +46,14 @@ Difference IndependentDifference(double n1, double sd1, double n2, double sd2) {
 double GroupOneSize(double totalSize, double ratio) { return totalSize / (ratio + 1); }
 
 /// Appends both sizes for the unrounded first one. The ratio applies to the unrounded size, and only the second size is
-/// raised to 2.
+/// raised to 2. Both are appended at once, so that a failed allocation leaves no half of them.
 void AppendGroupSizes(double size1, double ratio, DoubleVector& results) {
   if (KelMV::IsMissing(size1)) {
     results.insert(results.end(), 2, size1);
     return;
   }
   const double size2 = std::ceil(size1 * ratio);
-  results.push_back(std::ceil(size1));
-  results.push_back(2 > size2 ? 2 : size2);
+  results.insert(results.end(), {std::ceil(size1), 2 > size2 ? 2 : size2});
 }
 
 struct RawDesign {

@@ -43,12 +43,13 @@ struct SizeSearch {
   /// The power at a real size. In an exact search it is, for method 4, that of the z test, deliberately.
   double PowerAt(double n1) const { return PowerAt(n1, SecondSize(n1), exact == 1 && method == 4 ? 0 : method); }
 
-  /// Whether the power is known never to fall as the groups grow from two subjects in group 1 on: exact powers jump, and
-  /// the arcsine test's correction can turn the sign of its effect.
+  /// Whether the power is known never to fall as the groups grow from two subjects in group 1 on: exact powers jump,
+  /// and the arcsine test's correction can turn the sign of its effect.
   bool IsIncreasing() const {
     if (exact != 0) return false;
     switch (method) {
-      // The critical difference is a multiple of the standard error, while both sizes grow; the correction falls faster.
+      // The critical difference is a multiple of the standard error, while both sizes grow; the correction falls
+      // faster.
       case 0: return 2 * sizeRatio >= 1;
       // The squared noncentrality is 1 / (v / n1 + w / n2), and the degrees of freedom grow.
       case 1: return true;
@@ -89,24 +90,41 @@ std::optional<double> SmallestFirstSize(const SizeSearch& search, double n1) {
   return *std::min_element(found.begin(), found.end());
 }
 
+struct GroupSizes {
+  double n1;
+  double n2;
+};
+
+GroupSizes MissingSizes() { return {KelMV::Missing(), KelMV::Missing()}; }
+
 /// Brings the sizes of an exact test to whole numbers that reach the wanted power. They stay as they are when the stop
 /// request answers true, and become missing when the tables can no longer be counted.
-void Refine(SizeSearch search, DoubleVector& sampleSizes) {
+GroupSizes Refined(SizeSearch search, const GroupSizes& found) {
   if (search.method == 3) search.method = 0;  // deliberately: the refinement of the conditional test goes by the z test
-  const std::optional<double> smallest = SmallestFirstSize(search, sampleSizes.at(0));
-  if (!smallest) return;
+  const std::optional<double> smallest = SmallestFirstSize(search, found.n1);
+  if (!smallest) return found;
 
   double n1 = *smallest;
   while (search.PowerAt(n1, search.WholeSecondSize(n1), search.method) < search.power) {
-    if (AnswersStop(search.stop)) return;
-    if (IsUncountable(n1) || IsUncountable(search.WholeSecondSize(n1))) {
-      sampleSizes = {KelMV::Missing(), KelMV::Missing()};
-      return;
-    }
+    if (AnswersStop(search.stop)) return found;
+    if (IsUncountable(n1) || IsUncountable(search.WholeSecondSize(n1))) return MissingSizes();
     n1 += 1;
   }
-  sampleSizes.at(0) = n1;
-  sampleSizes.at(1) = search.WholeSecondSize(n1);
+  return {n1, search.WholeSecondSize(n1)};
+}
+
+GroupSizes FindSizes(const SizeSearch& search) {
+  if (AnswersStop(search.stop)) return MissingSizes();
+  const double lower = LowerStart(search);
+  const double n1 = search.SolveFirstSize(lower, UpperStart(search, lower));
+  if (KelMV::IsMissing(n1)) return MissingSizes();
+
+  // The square in this one combination of flags is intended.
+  const bool isSquared =
+      search.method == 0 && search.oneSided != 0 && search.continuityCorrection != 0 && search.pooledVariance != 0;
+  const double second = isSquared ? search.sizeRatio * (n1 * n1) : search.sizeRatio * n1;
+  const GroupSizes found{std::ceil(n1), std::max(1.0, std::ceil(second))};
+  return search.exact == 1 ? Refined(search, found) : found;
 }
 
 }  // namespace
@@ -127,20 +145,6 @@ extern "C" void PowerReverseIndSampBinom(double power, double proportion1, doubl
 
   const SizeSearch search{power,    proportion1, proportion2,          sizeRatio,      exact, method,
                           oneSided, alpha,       continuityCorrection, pooledVariance, cancel};
-  if (AnswersStop(cancel)) {
-    sampleSizes = {KelMV::Missing(), KelMV::Missing()};
-    return;
-  }
-  const double lower = LowerStart(search);
-  const double n1 = search.SolveFirstSize(lower, UpperStart(search, lower));
-  if (KelMV::IsMissing(n1)) {
-    sampleSizes = {KelMV::Missing(), KelMV::Missing()};
-    return;
-  }
-
-  // The square in this one combination of flags is intended.
-  const bool isSquared = method == 0 && oneSided != 0 && continuityCorrection != 0 && pooledVariance != 0;
-  const double second = isSquared ? sizeRatio * (n1 * n1) : sizeRatio * n1;
-  sampleSizes = {std::ceil(n1), std::max(1.0, std::ceil(second))};
-  if (exact == 1) Refine(search, sampleSizes);
+  const GroupSizes sizes = FindSizes(search);
+  sampleSizes = {sizes.n1, sizes.n2};
 }

@@ -32,11 +32,11 @@ double OneSampleTest::Power(double size, double altProportion, double nullPropor
 }
 
 // P(|Z0| > z) for Z0 = sqrt(N) (X/N - p0) / s0, with X/N normal of mean p1 and standard deviation s1 / sqrt(N). At p1 =
-// 0 or 1 the quotients are infinite and the power is 0 or 1.
+// 0 or 1 the quotients are infinite and the power is 0 or 1; at p1 = -0 the root is -0, whose sign must not turn them.
 double OneSampleTest::NormalPower(double size, double altProportion, double nullProportion) const {
   const double shift = std::sqrt(size) * (nullProportion - altProportion);
   const double s0 = std::sqrt((1 - nullProportion) * nullProportion);
-  const double s1 = std::sqrt((1 - altProportion) * altProportion);
+  const double s1 = std::fabs(std::sqrt((1 - altProportion) * altProportion));
   const double correction = isCorrected_ ? 1 / (2 * std::sqrt(size)) : 0;
 
   const auto below = [&] { return KelDistFun::CdfStdNorm((shift - s0 * tail_.z - correction) / s1); };

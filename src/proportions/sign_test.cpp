@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstddef>
+#include <limits>
 
 #include "kelcommon/kel_dist_fun.h"
 
@@ -96,7 +97,8 @@ void SignTestRegions::Append() {
 
 bool SignTestRegions::LowerReachesNext() const {
   const double tail = tail_.TailAtNextCount();
-  if (std::fabs(tail - level_) > kRecurrenceError * level_) return tail < level_;
+  const bool isKnown = tail >= std::numeric_limits<double>::min();  // what has underflowed never grows again
+  if (isKnown && std::fabs(tail - level_) > kRecurrenceError * level_) return tail < level_;
   return CdfHalf(tail_.Count() + 1, tail_.Trials()) <= level_;
 }
 

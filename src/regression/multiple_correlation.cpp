@@ -146,6 +146,7 @@ double CdfSquaredMultipleCorrelation(const FTest& test, double rhoSquared) {
   constexpr double kWidestSum = 1000;  // up to here the sum takes less time than the integral
 
   if (!(rhoSquared >= 0 && rhoSquared <= 1)) return std::numeric_limits<double>::quiet_NaN();
+  if (std::isnan(test.critical)) return std::numeric_limits<double>::quiet_NaN();
   if (rhoSquared == 1) return 0;
   if (KelMV::IsMissing(test.critical)) return 0;
   if (std::isinf(test.critical)) return 1;

@@ -1,6 +1,7 @@
 #include "regression/regression.h"
 
 #include <cmath>
+#include <limits>
 
 #include "frame/checks.h"
 #include "frame/increasing_search.h"
@@ -9,7 +10,9 @@
 
 namespace kelpower {
 
+// Below -1e16 the quotient would round to 1, which is a correlation.
 RegressionEffect RegressionEffect::OfFSquared(double fSquared) {
+  if (fSquared < 0) return {std::numeric_limits<double>::quiet_NaN(), fSquared};
   return {std::isinf(fSquared) ? 1.0 : fSquared / (1 + fSquared), fSquared};
 }
 

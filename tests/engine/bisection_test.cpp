@@ -1,5 +1,5 @@
-// Every search for a size by a test that is not exact, on random designs: the library, which evaluates few points of its
-// bisection, gives the bits of the same library with the plain bisection, and asks the StopRequest as often.
+// Every search for a size by a test that is not exact, on random designs: the library, which evaluates few points of
+// its bisection, gives the bits of the same library with the plain bisection, and asks the StopRequest as often.
 //
 // KELPOWER_DESIGNS is the number of designs of each export, KELPOWER_SEED starts their random numbers.
 
@@ -8,28 +8,19 @@
 
 #include <cmath>
 #include <cstdlib>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <limits>
-#include <nlohmann/json.hpp>
 #include <random>
-#include <sstream>
 
-#include "vector_case.h"
+#include "target.h"
 
 namespace {
 
 using namespace keltest;
-using nlohmann::json;
-using Arguments = std::vector<Argument>;
 
 std::string FromEnvironment(const char* name, const char* otherwise) {
   const char* value = std::getenv(name);
   return value != nullptr ? value : otherwise;
 }
-
-std::string VectorFolder() { return std::getenv("KELPOWER_VECTORS"); }
 
 bool Contains(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
@@ -49,30 +40,34 @@ Function PlainOf(const Function& function) {
 
 std::vector<VectorCase> CasesOf(const std::string& function) {
   std::vector<VectorCase> cases;
-  for (const auto& entry : std::filesystem::directory_iterator(VectorFolder())) {
-    if (entry.path().extension() != ".jsonl") continue;
-    for (VectorCase& vectorCase : ReadCases(entry.path()))
-      if (vectorCase.function == function) cases.push_back(std::move(vectorCase));
-  }
+  for (const VectorCase& vectorCase : AllCases())
+    if (vectorCase.function == function) cases.push_back(vectorCase);
   return cases;
 }
 
-std::vector<std::string> ArgumentNames(const std::string& function) {
-  static const json signatures = json::parse(std::ifstream(VectorFolder() + "/signatures.json"));
-  std::vector<std::string> names;
-  for (const auto& argument : signatures.at(function)[1]) names.push_back(argument[0]);
-  return names;
-}
-
-const std::vector<double> kExtremes = {0,     -0.0, 1,     -1,     2,      1e-300, 1e-160, 1e-17, 1 - 1e-16, 1e17,
-                                       1e160, 1e300, 1e308, 0.999999, 1e-9, std::numeric_limits<double>::denorm_min(),
+const std::vector<double> kExtremes = {0,
+                                       -0.0,
+                                       1,
+                                       -1,
+                                       2,
+                                       1e-300,
+                                       1e-160,
+                                       1e-17,
+                                       1 - 1e-16,
+                                       1e17,
+                                       1e160,
+                                       1e300,
+                                       1e308,
+                                       0.999999,
+                                       1e-9,
+                                       std::numeric_limits<double>::denorm_min(),
                                        std::numeric_limits<double>::infinity(),
                                        std::numeric_limits<double>::quiet_NaN()};
 
 class Designs {
 public:
-  Designs(const Function& function, std::uint64_t seed)
-      : function_(function), names_(ArgumentNames(function.name)), cases_(CasesOf(function.name)), random_(seed) {}
+  Designs(const Target& target, std::uint64_t seed)
+      : function_(*target.function), names_(target.names), cases_(CasesOf(target.function->name)), random_(seed) {}
 
   Arguments Next() {
     const std::size_t pick = std::uniform_int_distribution<std::size_t>(0, cases_.size() - 1)(random_);
@@ -128,48 +123,29 @@ std::string OutcomeOf(const Function& function, Arguments arguments) {
   return bits;
 }
 
-std::string Describe(const Function& function, const Arguments& arguments) {
-  std::ostringstream text;
-  text.precision(17);
-  text << function.name << "(";
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const Argument& argument = arguments[i];
-    text << (i == 0 ? "" : ", ");
-    switch (function.arguments[i]) {
-      case 'd': text << argument.number; break;
-      case 's': text << (argument.isNull ? 0 : argument.stopRequest.stopsAt); break;
-      case 'i':
-      case 'b': text << argument.integer; break;
-      default:
-        for (const double entry : argument.array) text << entry << " ";
-    }
-  }
-  return text.str() + ")";
-}
-
-class Bisection : public testing::TestWithParam<const Function*> {};
+class Bisection : public testing::TestWithParam<Target> {};
 
 TEST_P(Bisection, GivesTheBitsOfThePlainOne) {
-  const Function& function = *GetParam();
+  const Function& function = *GetParam().function;
   const Function plain = PlainOf(function);
   ASSERT_NE(plain.address, function.address);
   const int count = std::stoi(FromEnvironment("KELPOWER_DESIGNS", "3500"));
   const std::uint64_t seed = std::stoull(FromEnvironment("KELPOWER_SEED", "1"));
-  Designs designs(function, seed);
+  Designs designs(GetParam(), seed);
   for (int i = 0; i < count; ++i) {
     const Arguments arguments = designs.Next();
-    ASSERT_EQ(OutcomeOf(function, arguments), OutcomeOf(plain, arguments)) << Describe(function, arguments);
+    ASSERT_EQ(OutcomeOf(function, arguments), OutcomeOf(plain, arguments)) << Describe(GetParam(), arguments);
   }
 }
 
-std::vector<const Function*> Searches() {
-  std::vector<const Function*> functions;
-  for (const Function& function : Exports())
-    if (Contains(function.name, "PowerReverse")) functions.push_back(&function);
-  return functions;
+std::vector<Target> Searches() {
+  std::vector<Target> searches;
+  for (const Target& target : Targets())
+    if (IsSearch(target)) searches.push_back(target);
+  return searches;
 }
 
 INSTANTIATE_TEST_SUITE_P(Exports, Bisection, testing::ValuesIn(Searches()),
-                         [](const auto& tested) { return tested.param->name; });
+                         [](const auto& tested) { return tested.param.function->name; });
 
 }  // namespace

@@ -13,7 +13,6 @@ using nlohmann::json;
 // A rounded-up size this near to a whole number depends on the last digits of the reference.
 constexpr double kTieMargin = 1e-7;
 
-// The charts that store full doubles; all others round their values to single precision.
 const std::set<std::string> kDoublePrecisionCharts = {
     "PlotNOverallTest",    "PlotNOverallTestFES", "PlotNSC",    "PlotNSCFES",
     "PlotNaSDOverallTest", "PlotNaESOverallTest", "PlotNaSDSC",
@@ -85,7 +84,7 @@ bool SameBits(const std::vector<double>& a, const std::vector<double>& b) {
 
 void CompareResult(const Function& function, const Result& actual, const VectorCase& vectorCase,
                    Comparison& comparison) {
-  const bool isDouble = function.result == "d" || kDoublePrecisionCharts.count(function.name) > 0;
+  const bool isDouble = function.result == "d" || StoresDoublePrecision(function.name);
   const Metric metric = isDouble ? Metric::kValue : Metric::kSingle;
   const json& expected = vectorCase.result;
   if (function.result == "d") comparison.Number("result", actual.number, ToDouble(expected), metric);
@@ -148,6 +147,8 @@ void CallAndCompare(const std::vector<Function>& functions, const Function& func
 }
 
 }  // namespace
+
+bool StoresDoublePrecision(const std::string& function) { return kDoublePrecisionCharts.count(function) > 0; }
 
 void RunCase(const std::vector<Function>& functions, const VectorCase& vectorCase, Summary& summary) {
   ++summary.cases;

@@ -35,6 +35,9 @@ struct Summary {
   Findings findings;
 };
 
+/// Whether a chart stores full doubles; all others round their values to single precision.
+bool StoresDoublePrecision(const std::string& function);
+
 /// Calls the function of the case and compares what it gives. Cases that are not to be compared are called all the
 /// same, for they too must return. The arrays of a chart are released by the library. A function that is not in
 /// `functions` is a failure, as is a case whose arguments do not fit.

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <fstream>
 #include <nlohmann/json.hpp>
 
@@ -11,7 +10,7 @@
 namespace {
 
 nlohmann::json ReadSignatures() {
-  std::ifstream file(std::string(std::getenv("KELPOWER_VECTORS")) + "/signatures.json");
+  std::ifstream file(KELPOWER_VECTORS "/signatures.json");
   return nlohmann::json::parse(file);
 }
 

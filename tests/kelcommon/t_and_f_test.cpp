@@ -296,6 +296,25 @@ TEST(TAndF, PlacesWherePlainSeriesFail) {
   EXPECT_EQ(CdfF(38.031728181019439, 2.8020860870648868e-200, 1e10, 9.96e-258), 1);
 }
 
+// With few error degrees of freedom the saddle point lies where c t is large, so that b c hides a + m. Reference: the
+// series 1 - P = sum_k (-1)^k E[X1^(b+k)] / (k! (b + k) Gamma(b) c^(b+k)) in 40 digits.
+TEST(TAndF, FarUpperTailsOfFewErrorDegreesOfFreedom) {
+  EXPECT_NEAR(CdfF(6.3221240914716705e25, 1215, 1.0001, 5e8), 0.99999999993577523972, 2e-16);
+  EXPECT_NEAR(CdfF(1e31, 1215, 1, 1e8), 0.999999999999927614, 2e-16);
+  EXPECT_NEAR(CdfF(1e120, 10, 0.05, 4e7), 0.99864778275567580414, 2e-16);
+  EXPECT_NEAR(CdfF(1e300, 3, 0.01, 1e9), 0.96593144265345925778, 2e-16);
+  EXPECT_NEAR(CdfF(1e290, 0.2, 0.02, 1e12), 0.99838020158604834276, 2e-16);
+}
+
+// The same on the other side: far below the mean a + m hides b c. The probabilities are far below the smallest double.
+TEST(TAndF, TinyValuesOfLargeNoncentralities) {
+  EXPECT_EQ(CdfF(2.7919370593133034e-26, 1.7372289255803295, 7.738427183319752, 51899739089963.883), 0);
+  EXPECT_EQ(CdfF(1.9798264678709985e-21, 0.041219571269787321, 36847.264799949575, 4232109.9148726957), 0);
+  EXPECT_EQ(CdfF(1.4117054594123999e-24, 0.0063046700790707387, 27751606.270840686, 10858425.552379778), 0);
+  EXPECT_EQ(CdfT(1.021346735682291e-15, 131789056.39961031, 8236.4300848410276), 0);
+  EXPECT_EQ(CdfT(3.8133500309928559e-15, 336.79829916113488, 744399.62936636899), 0);
+}
+
 TEST(TAndF, EveryBitPatternHasAnAnswer) {
   std::mt19937_64 generator(20240611);
   const std::vector<double> special = {0,      -0.0, 1,    -1,    0.5,      5e-324,    1e-300,    1e308,

@@ -206,6 +206,12 @@ TEST(PowerOneSampBinom, WithoutVarianceIsZeroOrOneIfNormal) {
   EXPECT_EQ(Normal(2, 1, 0.5, 1), 0);
 }
 
+TEST(PowerOneSampBinom, OfNegativeZeroIsThatOfZero) {
+  for (const int oneSided : {0, 1})
+    for (const double null : {0.02, 0.3}) EXPECT_EQ(Normal(30, -0.0, null, oneSided), Normal(30, 0.0, null, oneSided));
+  EXPECT_EQ(Normal(30, -0.0, 0.3, 0), 1);
+}
+
 TEST(PowerReverseOneSampBinom, MatchesPublishedSizes) {
   EXPECT_EQ(ExactSize(0.8, 0.65, 0.80, 0), 72);
   EXPECT_EQ(ExactSize(0.8, 0.70, 0.80, 0), 144);

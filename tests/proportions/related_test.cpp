@@ -317,4 +317,13 @@ TEST(PowerReversebyHalfCIRelSampBinom, IsTheSmallestSizeWithTheHalfWidth) {
   }
 }
 
+// Beyond 1,075 pairs the tails at such a level underflow.
+TEST(PowerbyPRelSampBionm, OfTheExactTestEndsAtTheSmallestLevels) {
+  for (const double alpha : {5e-324, 2e-323, 1e-310, 1e-300}) {
+    const double power = PowerbyPRelSampBionm(3200, 0.25, 0.73, 1, 1, alpha, nullptr);
+    EXPECT_GE(power, 0) << alpha;
+    EXPECT_LE(power, PowerbyPRelSampBionm(3200, 0.25, 0.73, 1, 1, 1e-290, nullptr)) << alpha;
+  }
+}
+
 }  // namespace

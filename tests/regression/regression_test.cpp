@@ -108,12 +108,14 @@ TEST(Powerbymlr, GivesNaNForNaN) {
     EXPECT_TRUE(std::isnan(Powerbymlr(50, 3, 3, 0.5, kNaN, random, 1, 0.05)));
     EXPECT_TRUE(std::isnan(PowerbymlrwES(50, 3, 3, kNaN, random, 1, 0.05)));
     EXPECT_TRUE(std::isnan(PowerbymlrwES(50, 3, 3, 0.1, random, 1, kNaN)));
+    EXPECT_TRUE(std::isnan(PowerbymlrwES(kNaN, 3, 3, 1e300, random, 1, 0.05)));
   }
 }
 
 TEST(PowerbymlrwES, AnswersForEveryEffect) {
   EXPECT_EQ(PowerbymlrwES(50, 3, 3, -0.1, kFixed, 1, 0.05), 1);
-  EXPECT_TRUE(std::isnan(PowerbymlrwES(50, 3, 3, -0.1, kRandom, 1, 0.05)));
+  for (const double effect : {-0.1, -1.0, -2.0, -1e300, -kInfinity})
+    EXPECT_TRUE(std::isnan(PowerbymlrwES(50, 3, 3, effect, kRandom, 1, 0.05))) << effect;
   for (const int random : {kFixed, kRandom}) {
     EXPECT_EQ(PowerbymlrwES(50, 3, 3, 1e300, random, 1, 0.05), 1);
     EXPECT_EQ(PowerbymlrwES(50, 3, 3, kInfinity, random, 1, 0.05), 1);
@@ -147,6 +149,14 @@ TEST(PowerReversebymlr, StartsAtOneErrorDegreeOfFreedom) {
 }
 
 // Searches that double the size up to half the largest double before they find it, or find that there is none.
+// At a level so small that the critical value is near 1e26, each power once took half a second.
+TEST(PowerReversebymlr, FindsSizesAtTinyLevels) {
+  const double size = PowerReversebymlrwES(0.8, 12079, 1215, 41732, kRandom, 1, 1e-13);
+  EXPECT_NEAR(PowerbymlrwES(size, 12079, 1215, 41732, kRandom, 1, 1e-13), 0.8, 1e-6);
+  EXPECT_LT(size, 12090);
+  EXPECT_EQ(PowerReversebymlrwES(kNaN, 12079, 1215, 41732, kRandom, 1, 1e-13), 12081);
+}
+
 TEST(PowerReversebymlr, WalksToTheLargestSizes) {
   for (const int random : {kFixed, kRandom}) {
     EXPECT_TRUE(KelMV::IsMissing(PowerReversebymlrwES(0.8, 5, 5, 0, random, 1, 0.05)));
