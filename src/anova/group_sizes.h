@@ -13,13 +13,13 @@ void ResizeToMissing(DoubleVector& groupSizes, int numGroups);
 DoubleVector SharesOf(int numGroups, const double* groupRatios);
 
 /// The total size at which `powerAt` reaches `power`, searched from two subjects a group, below which a group has no
-/// estimate of its variance. Missing when there is none. The power must not fall as the size grows; that of an F test or
-/// of a one-sided t test in the direction of the effect does not (see `FTest` and `TTest`), because both its
+/// estimate of its variance. Missing when there is none. The power must not fall as the size grows; that of an F test
+/// or of a one-sided t test in the direction of the effect does not (see `FTest` and `TTest`), because both its
 /// noncentrality and its degrees of freedom grow with the size.
 double SolveTotalForPower(int numGroups, FunctionView<double(double size)> powerAt, double power);
 
-/// The total size that solves slope * size = weight * t^2, t at the interval level 1 - alpha; likewise from two subjects
-/// a group on.
+/// The total size that solves slope * size = weight * t^2, t at the interval level 1 - alpha; likewise from two
+/// subjects a group on.
 double SolveTotalForHalfWidth(int numGroups, double slope, double weight, double alpha);
 
 /// Spreads a total over the groups in proportion to `groupRatios`, each size rounded up and at least 2, stores the

@@ -47,8 +47,8 @@ public:
 
   double SizeAt(double u) const { return isPower_ ? u * u : std::exp(u); }
 
-  /// A value further from zero has the sign of the exact one, and is no zero to the bisection. Measured errors are below
-  /// 1e-14 for a power and 4e-15 of its size for a term of an equation.
+  /// A value further from zero has the sign of the exact one, and is no zero to the bisection. Measured errors are
+  /// below 1e-14 for a power and 4e-15 of its size for a term of an equation.
   double Noise(double x) const { return isPower_ ? 1e-13 : 4e-14 + 4e-14 * slope_ * x; }
 
 private:

@@ -12,8 +12,8 @@ namespace kelpower {
 /// The root is located by interpolation first. The bisection is then walked as it is stated, but of its points only
 /// those near the root are evaluated: the sign at the others follows from the power not falling.
 ///
-/// Each caller says why its power never falls on [lower, infinity). A power that is missing or -1 where there is no test
-/// yet counts as low. Computed powers may be off by rounding errors, far below 1e-13.
+/// Each caller says why its power never falls on [lower, infinity). A power that is missing or -1 where there is no
+/// test yet counts as low. Computed powers may be off by rounding errors, far below 1e-13.
 double SolveIncreasingPower(double lower, double upper, double tolerance, FunctionView<double(double size)> powerAt,
                             double target, StopRequest* stop);
 

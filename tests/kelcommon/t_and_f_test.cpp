@@ -265,9 +265,7 @@ TEST(TAndF, FarQuantilesOfFewDegreesOfFreedom) {
   ExpectRelative(CdfT(-1e155, 0.0025, 3.3), 0.000195646227084, 1e-11);
   ExpectRelative(CdfT(-1e300, 0.0025, 3.3), 8.4912470598e-5, 1e-10);
   ExpectRelative(CdfT(1e300, 0.0025, -3.3), 1 - 8.4912470598e-5, 1e-14);
-  const auto upperTail = [](double alpha, double df, double delta) {
-    return CdfT(-IdfT(1 - alpha, df), df, -delta);
-  };
+  const auto upperTail = [](double alpha, double df, double delta) { return CdfT(-IdfT(1 - alpha, df), df, -delta); };
   ExpectRelative(upperTail(0.0372, 0.01, 500), 0.079669950358740802, 1e-13);
   ExpectRelative(upperTail(0.0372, 0.01, 1e5), 0.084004945639529318, 1e-13);
   ExpectRelative(upperTail(0.0372, 0.05, 1500), 0.11053986177206809, 1e-13);
