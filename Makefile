@@ -7,7 +7,7 @@ FUZZ := build/fuzz
 FUZZ_SECONDS ?= 60
 JOBS := $(shell nproc)
 
-.PHONY: run test build bench bench-peers lint format install accuracy fuzz fuzz-build fuzz-seeds asan tsan coverage valgrind clean
+.PHONY: run test build bench bench-peers lint format install accuracy fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
 
 run: build ## build and plan a real study
 	@sh tools/run_example.sh $(BUILD)/cli/kelpower
@@ -41,8 +41,17 @@ format: ## format all sources in place
 	@sh tools/install_packages.sh lint
 	@git ls-files '*.h' '*.cpp' | xargs clang-format -i
 
-asan tsan coverage: ## all tests under sanitizers, or with coverage
+asan tsan: ## all tests under sanitizers
 	@$(MAKE) --no-print-directory test PRESET=$@
+
+coverage: ## all tests with coverage, which must be what tools/coverage demands
+	@find build/coverage -name '*.gcda' -delete 2>/dev/null || true
+	@$(MAKE) --no-print-directory test PRESET=$@
+	@python3 -B tools/coverage/coverage.py . build/coverage
+
+mutants: ## demand that a test fails for each of the deliberate faults in tools/mutants
+	@sh tools/install_packages.sh build
+	@python3 -B tools/mutants/run.py . build/mutants
 
 fuzz: fuzz-kelcommon fuzz-kelpower ## fuzz each library for FUZZ_SECONDS; with -j2 both at once
 

@@ -5,6 +5,7 @@
 
 #include "boost_policy.h"
 #include "noncentral_f.h"
+#include "series.h"
 
 namespace KelMath {
 
@@ -13,29 +14,8 @@ constexpr long double pi = 3.14159265358979323846L;
 
 // L(u) below, from u and from 1 + u: u loses the digits of 1 + u where that is small.
 long double RatioDeviation(long double u, long double onePlusU) {
-  return u < -0.5L ? std::log(onePlusU) - u : Log1pMinusArg(u);
+  return u < -0.5L ? std::log(onePlusU) - u : Log1pMinusArgument(u);
 }
-
-}  // namespace
-
-long double Log1pMinusArg(long double u) {
-  // Below, the difference of the two would lose more than five of the nineteen digits.
-  if (std::fabs(u) < 1e-5L) return u * u * (-1 / 2.0L + u * (1 / 3.0L + u * (-1 / 4.0L + u / 5)));
-  return std::log1p(u) - u;
-}
-
-double ExpMinusTangent(double u) {
-  if (std::fabs(u) > 0.5) return std::expm1(u) - u;
-  // Taylor series 2 (e^u - 1 - u) / u^2 - 1; the first term left out is below 1e-17 of the sum. Even and odd terms are
-  // summed side by side.
-  const double u2 = u * u;
-  const double odd =
-      1.0 / 3 + u2 * (1.0 / 60 + u2 * (1.0 / 2520 + u2 * (1.0 / 181440 + u2 * (1.0 / 19958400 + u2 / 3113510400))));
-  const double even = 1.0 / 12 + u2 * (1.0 / 360 + u2 * (1.0 / 20160 + u2 * (1.0 / 1814400 + u2 * (1.0 / 239500800))));
-  return u2 * (1 + (u * odd + u2 * even)) / 2;
-}
-
-namespace {
 
 // Stirling's series, Abramowitz and Stegun (1964), 6.1.41; the next term is below 3e-20 at x = 16.
 long double StirlingCorrection(long double x) {
@@ -59,8 +39,6 @@ long double LogScaledGamma(double x) {
   return StirlingCorrection(end) + (end - 0.5L) * std::log(end) - (start - 0.5L) * std::log(start) - (end - start) -
          std::log(product);
 }
-
-double ScaledGamma(double x) { return std::exp(static_cast<double>(LogScaledGamma(x))); }
 
 namespace {
 
@@ -101,7 +79,7 @@ ScaledValue BetaStep(double a, double b, long double c) {
 ScaledValue PoissonMass(double k, double m) {
   if (k == 0) return {1, -static_cast<long double>(m)};
   const long double lk = k;
-  return {1 / std::sqrt(2 * pi * lk), lk * Log1pMinusArg((m - lk) / lk) - LogScaledGamma(k)};
+  return {1 / std::sqrt(2 * pi * lk), lk * Log1pMinusArgument((m - lk) / lk) - LogScaledGamma(k)};
 }
 
 namespace {

@@ -3,18 +3,11 @@
 
 // Building blocks of the incomplete beta function I_y(a, b), shared by the t and F distributions. The argument comes
 // as the odds c = y / (1 - y), in extended precision: both y and 1 - y keep their digits, and sizes up to 1e308
-// neither overflow nor underflow on the way.
+// neither overflow nor underflow on the way. incomplete_beta.h says why it has functions of its own.
 
 namespace KelMath {
 
-/// log(1 + u) - u for u > -1.
-long double Log1pMinusArg(long double u);
-
-/// exp(u) - 1 - u.
-double ExpMinusTangent(double u);
-
-/// The scaled gamma function and its logarithm: Gamma(x) / (sqrt(2 pi / x) (x / e)^x), x > 0; tends to 1 for large x.
-double ScaledGamma(double x);
+/// The logarithm of the scaled gamma function Gamma(x) / (sqrt(2 pi / x) (x / e)^x), x > 0; tends to 0 for large x.
 long double LogScaledGamma(double x);
 
 /// A positive number factor * exp(exponent), kept apart because the exponential alone may underflow.

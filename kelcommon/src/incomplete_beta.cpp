@@ -164,14 +164,14 @@ double TailOverSlope(const Place& place) {
 double Clamp(double probability) { return std::min(std::max(probability, 0.0), 1.0); }
 
 // A distribution whose mass lies at the ends, b / (a + b) of it at 0.
-BetaTails TwoPointTails(double a, double b) {
+BetaAtPoint TwoPointTails(double a, double b) {
   if (b >= negligibleShape) return {1, 0, 0, 0};
   if (a >= negligibleShape) return {0, 1, 0, 0};
   const double ratio = a / b;
   return {1 / (1 + ratio), ratio / (1 + ratio), 0, 0};
 }
 
-BetaTails EndTails(UnitPoint point) {
+BetaAtPoint EndTails(UnitPoint point) {
   if (point.x > 0) return {1, 0, 0, 0};
   return {0, 1, 0, 0};
 }
@@ -206,7 +206,7 @@ UnitPoint Shift(UnitPoint point, double step) {
 constexpr double smallMiss = 1e-5;
 constexpr double farAbove = -1;
 
-double LogTailStep(const BetaTails& tails, double miss) {
+double LogTailStep(const BetaAtPoint& tails, double miss) {
   const double inverseSlope = tails.lower / tails.slope;
   if (miss < farAbove) return miss * inverseSlope;
   const double bend = 1 + miss * (tails.slopeGrowth * inverseSlope - 1) / 2;
@@ -239,7 +239,7 @@ double StartingLogit(double probability, double a, double b) {
 
 double BetaSlope(double a, double b, UnitPoint point) { return SlopeAt(MakePlace(a, b, point)); }
 
-BetaTails IncompleteBeta(double a, double b, UnitPoint point) {
+BetaAtPoint IncompleteBeta(double a, double b, UnitPoint point) {
   if (a < negligibleShape || b < negligibleShape) return TwoPointTails(a, b);
   Place place = MakePlace(a, b, point);
   const double slope = SlopeAt(place);
@@ -256,7 +256,7 @@ UnitPoint BetaLowerQuantile(double probability, double a, double b) {
   double logit = bracket.Inside(StartingLogit(probability, a, b));
   UnitPoint point = FromLogit(logit);
   for (int i = 0; i < 200; ++i) {
-    const BetaTails tails = point.x > 0 && point.y > 0 ? IncompleteBeta(a, b, point) : EndTails(point);
+    const BetaAtPoint tails = point.x > 0 && point.y > 0 ? IncompleteBeta(a, b, point) : EndTails(point);
     (tails.lower < probability ? bracket.low : bracket.high) = logit;
     const double miss = std::log1p((probability - tails.lower) / tails.lower);
     const double step = LogTailStep(tails, miss);

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <complex>
 
+#include "series.h"
+
 // With p_j the Poisson probabilities at mean m and I_j = I_y(a + j, b), y = c / (1 + c), the distribution function is
 //   P = sum_j p_j I_j                                                                    (1)
 // (Johnson, Kotz and Balakrishnan (1995), Continuous univariate distributions 2, eq. 30.10). Neighbours differ by
@@ -161,7 +163,7 @@ double UpperTailTerms(const Shape& s) { return s.m - FirstTerm(s.m) + 9 * std::s
 using Complex = std::complex<long double>;
 
 // log(1 + z) - z
-Complex ComplexLog1pMinusArg(Complex z) {
+Complex ComplexLog1pMinusArgument(Complex z) {
   const long double x = z.real();
   const long double y = z.imag();
   if (std::fabs(x) + std::fabs(y) < 1e-3L)
@@ -197,8 +199,8 @@ public:
       const long double cosh = (up + 1 / up) / 2;
       const Complex delta(scale * bend * (cosh - 1), scale * sinh);
       const Complex theta = delta / r;
-      const Complex exponent = -a * ComplexLog1pMinusArg(-theta) + m / r * theta * theta / (1.0L - theta) -
-                               b * ComplexLog1pMinusArg(c / q * delta) - ComplexLog1pMinusArg(delta / t0) +
+      const Complex exponent = -a * ComplexLog1pMinusArgument(-theta) + m / r * theta * theta / (1.0L - theta) -
+                               b * ComplexLog1pMinusArgument(c / q * delta) - ComplexLog1pMinusArgument(delta / t0) +
                                slope * delta;
       const long double size = std::exp(exponent.real());
       const Complex direction(cosh, -bend * sinh);
@@ -221,7 +223,7 @@ private:
   long double Exponent(long double t) const {
     const long double r = 1 - t;
     if (IsFar(t)) return -a * std::log1p(-t) + m * t / r - b * std::log1p(c * t);
-    return -a * Log1pMinusArg(-t) + m * t * t / r - b * Log1pMinusArg(c * t) + mean * t;
+    return -a * Log1pMinusArgument(-t) + m * t * t / r - b * Log1pMinusArgument(c * t) + mean * t;
   }
 
   // d/dt (K(t) - log|t|)

@@ -5,6 +5,7 @@
 
 #include "beta_terms.h"
 #include "noncentral_f.h"
+#include "series.h"
 
 // For x, delta >= 0 let y = x^2 / (df + x^2), m = delta^2 / 2, b = df / 2,
 //   p_j = e^-m m^j / j!,  q_j = (delta / sqrt 2) e^-m m^j / Gamma(j + 3/2),
@@ -176,7 +177,7 @@ double WrongSideIntegral(const Design& d) {
     double exponent = 0;
     if (std::fabs(v) < 0.5) {
       // With e^v = 1 + v + w the exponent is v^2 + 2 (1 + v) w + w^2, free of cancellation near v = 0.
-      const double w = ExpMinusTangent(v);
+      const double w = Expm1MinusArgument(v);
       growth = 1 + (v + w);
       exponent = v * v + w * (2 * (1 + v) + w);
     } else {
@@ -198,7 +199,7 @@ double WrongSideIntegral(const Design& d) {
       if (value < 1e-15 * sum) break;
     }
   }
-  return sum * step * 2 * std::sqrt(b / 6.2831853071795864769) / ScaledGamma(b);
+  return sum * step * 2 * StirlingRatio(b);
 }
 
 // P(T <= -x), x > 0, delta > 0.

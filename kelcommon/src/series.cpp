@@ -31,12 +31,21 @@ double Log1pMinusArgument(double u) {
   return r * (2 * s * sum - u);
 }
 
+long double Log1pMinusArgument(long double u) {
+  // Below, the difference of the two would lose more than five of the nineteen digits.
+  if (std::fabs(u) < 1e-5L) return u * u * (-1 / 2.0L + u * (1 / 3.0L + u * (-1 / 4.0L + u / 5)));
+  return std::log1p(u) - u;
+}
+
 double Expm1MinusArgument(double v) {
-  if (std::fabs(v) > seriesLimit) return std::expm1(v) - v;
-  double sum = 1;
-  const int terms = std::fabs(v) > shortSeriesLimit ? 13 : 8;
-  for (int k = terms; k >= 3; --k) sum = 1 + v / k * sum;
-  return v * v / 2 * sum;
+  if (std::fabs(v) > 0.5) return std::expm1(v) - v;
+  // Taylor series 2 (e^v - 1 - v) / v^2 - 1; the first term left out is below 1e-17 of the sum. Even and odd terms are
+  // summed side by side.
+  const double v2 = v * v;
+  const double odd =
+      1.0 / 3 + v2 * (1.0 / 60 + v2 * (1.0 / 2520 + v2 * (1.0 / 181440 + v2 * (1.0 / 19958400 + v2 / 3113510400))));
+  const double even = 1.0 / 12 + v2 * (1.0 / 360 + v2 * (1.0 / 20160 + v2 * (1.0 / 1814400 + v2 * (1.0 / 239500800))));
+  return v2 * (1 + (v * odd + v2 * even)) / 2;
 }
 
 double StirlingRatio(double z) {

@@ -5,6 +5,7 @@ namespace KelMath {
 
 /// log(1 + u) - u for u > -1, without the cancellation near 0.
 double Log1pMinusArgument(double u);
+long double Log1pMinusArgument(long double u);
 
 /// exp(v) - 1 - v, without the cancellation near 0.
 double Expm1MinusArgument(double v);

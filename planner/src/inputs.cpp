@@ -83,8 +83,6 @@ void Inputs::Erase(const std::string& name) { values_.erase(name); }
 
 double Inputs::Number(const std::string& name) const { return std::get<double>(At(name)); }
 
-int Inputs::Whole(const std::string& name) const { return static_cast<int>(Number(name)); }
-
 bool Inputs::Flag(const std::string& name) const { return std::get<bool>(At(name)); }
 
 int Inputs::Choice(const std::string& name) const {

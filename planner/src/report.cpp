@@ -48,10 +48,8 @@ std::string SizesInSentence(const Test& test, const Numbers& sizes) {
 }
 
 std::string ChoiceWording(const Parameter& parameter, const std::string& word) {
-  for (const Choice& choice : parameter.choices) {
-    if (choice.word == word) return choice.wording;
-  }
-  return word;
+  const auto& choices = parameter.choices;
+  return std::find_if(choices.begin(), choices.end(), [&](const auto& choice) { return choice.word == word; })->wording;
 }
 
 /// Gives the words of a sentence's braces.

@@ -1,7 +1,6 @@
 #include "correlation_parameters.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "window.h"
@@ -41,8 +40,6 @@ Condition CorrelationsDiffer() {
           [](const Inputs& in) { return in.Number("r") != in.Number("null"); },
           "The correlation expected is the null correlation: without an effect, no sample size reaches the power."};
 }
-
-Numbers WholeSize(double found, double smallest) { return {found > 0 ? std::max(smallest, std::ceil(found)) : found}; }
 
 Axis CaseAxis(double mostPartialledOut) {
   return {"sample size (cases)",

@@ -16,9 +16,6 @@ Parameter TowardsCorrelation();
 /// Refuses to search a size for the power of no effect.
 Condition CorrelationsDiffer();
 
-/// A size that a search found, rounded up and at least `smallest`; a missing one stays missing.
-Numbers WholeSize(double found, double smallest);
-
 /// Axes on which the design is at `n`, `null`, `r` and `r` - `null`. All but the first show the whole range unless the
 /// user asks for a part.
 Axis CaseAxis(double mostPartialledOut = 0);

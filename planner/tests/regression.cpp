@@ -195,12 +195,12 @@ Test Describe() {
        {"r-squared", "predictors"},
        {"r-squared-reduced", "tested", "random", "no-intercept"},
        "PowerReversebymlr",
-       [](const Inputs& in) { return WholeSize(SizeForFits(in), SmallestSize(in)); }},
+       [](const Inputs& in) { return Numbers{std::ceil(SizeForFits(in))}; }},
       {Question::SampleSize,
        {"effect-f2", "predictors"},
        {"tested", "random", "no-intercept"},
        "PowerReversebymlrwES",
-       [](const Inputs& in) { return WholeSize(SizeForEffect(in), SmallestSize(in)); }},
+       [](const Inputs& in) { return Numbers{std::ceil(SizeForEffect(in))}; }},
   };
 
   test.conditions = {

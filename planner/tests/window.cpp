@@ -4,8 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstddef>
-#include <iterator>
 
 #include "planner/error.h"
 #include "planner/value.h"
@@ -17,19 +15,6 @@ namespace {
 constexpr double finestStep = 0.001;
 
 bool IsGiven(const Range& range) { return range.from != range.to; }
-
-/// Grid points are sums of rounded steps.
-bool Within(const Range& range, double value) {
-  constexpr double slack = 1e-9;
-  return !IsGiven(range) || (value >= range.from - slack && value <= range.to + slack);
-}
-
-Numbers Kept(const Numbers& values, const Range& range) {
-  Numbers kept;
-  std::copy_if(values.begin(), values.end(), std::back_inserter(kept),
-               [&](double value) { return Within(range, value); });
-  return kept;
-}
 
 }  // namespace
 
@@ -50,14 +35,6 @@ double StepOfGrid(const Range& shown, double wholeSpan, double share) {
   return std::max(span * share, finestStep);
 }
 
-Series Window(const Series& series, const Range& x, const Range& y) {
-  Series window{Kept(series.x, x), Kept(series.y, y), {}};
-  const std::size_t yCount = std::max<std::size_t>(series.y.size(), 1);
-  for (std::size_t i = 0; i < series.power.size(); ++i) {
-    const bool kept = Within(x, series.x[i / yCount]) && (series.y.empty() || Within(y, series.y[i % yCount]));
-    if (kept) window.power.push_back(series.power[i]);
-  }
-  return window;
-}
+Series Window(const Series& series, const Range& x, const Range& y) { return Cut(series, {x, y, 0}); }
 
 }  // namespace planner

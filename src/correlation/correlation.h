@@ -57,6 +57,11 @@ private:
   bool isCorrected_;
 };
 
+/// The test of a partial correlation, which always corrects the bias; its intervals do not.
+inline PearsonTest PartialTest(double partialledOut, int oneSided, double alpha) {
+  return {{alpha, oneSided}, partialledOut, true};
+}
+
 /// The test of a Spearman correlation.
 class SpearmanTest : public CorrelationTest {
 public:

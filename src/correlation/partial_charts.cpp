@@ -9,51 +9,49 @@ using namespace kelpower;
 extern "C" XYPlot PlotNOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
                                       double nullCorrelation, int oneSided, double alpha, int sampleSizeFrom,
                                       int sampleSizeTo) {
-  return SizeCurve({PearsonTest({alpha, oneSided}, partialledOut, true), sampleSize}, alternativeCorrelation,
-                   nullCorrelation, {sampleSizeFrom, sampleSizeTo, ZeroStart::Widest});
+  return SizeCurve({PartialTest(partialledOut, oneSided, alpha), sampleSize}, alternativeCorrelation, nullCorrelation,
+                   {sampleSizeFrom, sampleSizeTo, ZeroStart::Widest});
 }
 
 extern "C" XYPlot PlotNullOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
                                          int oneSided, double alpha, double step) {
-  return NullCurve({PearsonTest({alpha, oneSided}, partialledOut, true), sampleSize}, alternativeCorrelation, step);
+  return NullCurve({PartialTest(partialledOut, oneSided, alpha), sampleSize}, alternativeCorrelation, step);
 }
 
 extern "C" XYPlot PlotAlterOneSampPartial(double sampleSize, double partialledOut, double nullCorrelation, int oneSided,
                                           double alpha, double step) {
-  return AlternativeCurve({PearsonTest({alpha, oneSided}, partialledOut, true), sampleSize}, nullCorrelation, step);
+  return AlternativeCurve({PartialTest(partialledOut, oneSided, alpha), sampleSize}, nullCorrelation, step);
 }
 
 extern "C" XYPlot PlotRiskDiffOneSampPartial(double sampleSize, double partialledOut, double nullCorrelation,
                                              int oneSided, double alpha, double step) {
-  return DifferenceCurve({PearsonTest({alpha, oneSided}, partialledOut, true), sampleSize}, nullCorrelation, step);
+  return DifferenceCurve({PartialTest(partialledOut, oneSided, alpha), sampleSize}, nullCorrelation, step);
 }
 
 extern "C" XYZPlot PlotNRiskDiffOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
                                                double nullCorrelation, int oneSided, double alpha, int sampleSizeFrom,
                                                int sampleSizeTo, double step) {
-  return SizeDifferenceSurface({PearsonTest({alpha, oneSided}, partialledOut, true), sampleSize},
-                               alternativeCorrelation, nullCorrelation,
-                               {sampleSizeFrom, sampleSizeTo, ZeroStart::Widest}, step);
+  return SizeDifferenceSurface({PartialTest(partialledOut, oneSided, alpha), sampleSize}, alternativeCorrelation,
+                               nullCorrelation, {sampleSizeFrom, sampleSizeTo, ZeroStart::Widest}, step);
 }
 
 extern "C" XYZPlot PlotNNullOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
                                            double nullCorrelation, int oneSided, double alpha, int sampleSizeFrom,
                                            int sampleSizeTo, double step) {
-  return SizeNullSurface({PearsonTest({alpha, oneSided}, partialledOut, true), sampleSize}, alternativeCorrelation,
+  return SizeNullSurface({PartialTest(partialledOut, oneSided, alpha), sampleSize}, alternativeCorrelation,
                          nullCorrelation, {sampleSizeFrom, sampleSizeTo, ZeroStart::Widest}, step);
 }
 
 extern "C" XYZPlot PlotNAlterOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
                                             double nullCorrelation, int oneSided, double alpha, int sampleSizeFrom,
                                             int sampleSizeTo, double step) {
-  return SizeAlternativeSurface({PearsonTest({alpha, oneSided}, partialledOut, true), sampleSize},
-                                alternativeCorrelation, nullCorrelation,
-                                {sampleSizeFrom, sampleSizeTo, ZeroStart::Widest}, step);
+  return SizeAlternativeSurface({PartialTest(partialledOut, oneSided, alpha), sampleSize}, alternativeCorrelation,
+                                nullCorrelation, {sampleSizeFrom, sampleSizeTo, ZeroStart::Widest}, step);
 }
 
 extern "C" XYZPlot PlotNullAlterOneSampPartial(double sampleSize, double partialledOut, int oneSided, double alpha,
                                                double step) {
-  return NullAlternativeSurface({PearsonTest({alpha, oneSided}, partialledOut, true), sampleSize}, step);
+  return NullAlternativeSurface({PartialTest(partialledOut, oneSided, alpha), sampleSize}, step);
 }
 
 // Numbers of variables partialled out from 0 to N - 5, so that the last test has two cases more than it needs.

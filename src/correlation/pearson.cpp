@@ -84,13 +84,13 @@ extern "C" double PowerReversebyHalfCIOneSampPearson(double halfWidth, double co
 
 extern "C" double PowerbyOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
                                         double nullCorrelation, int oneSided, double alpha) {
-  const PearsonTest test({alpha, oneSided}, partialledOut, true);
+  const PearsonTest test = PartialTest(partialledOut, oneSided, alpha);
   return test.Power(sampleSize, alternativeCorrelation, nullCorrelation);
 }
 
 extern "C" double PowerReversebyOneSampPartial(double power, double partialledOut, double alternativeCorrelation,
                                                double nullCorrelation, int oneSided, double alpha) {
-  const PearsonTest test({alpha, oneSided}, partialledOut, true);
+  const PearsonTest test = PartialTest(partialledOut, oneSided, alpha);
   // At its lower end the test does not exist yet, so the objective is negative there.
   return SizeForPower(power, test, alternativeCorrelation, nullCorrelation, partialledOut + 3, partialledOut + 400,
                       nullptr);

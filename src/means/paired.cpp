@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/checks.h"
+#include "frame/function_view.h"
 #include "kelcommon/kel_mv.h"
 #include "kelpower.h"
 #include "means/one_sample.h"
@@ -60,6 +61,17 @@ std::optional<double> AcceptedEffectSize(Sides sides, const PairedDesign& design
   return EffectSizeOfDifferences(design);
 }
 
+namespace {
+
+/// What `answer` makes of the effect size of a design; missing where it refuses its input.
+double ForAcceptedEffectSize(Sides sides, const PairedDesign& design, double alpha,
+                             FunctionView<double(double effectSize)> answer) {
+  const std::optional<double> effectSize = AcceptedEffectSize(sides, design, alpha);
+  return effectSize ? answer(*effectSize) : KelMV::Missing();
+}
+
+}  // namespace
+
 }  // namespace kelpower
 
 using namespace kelpower;
@@ -76,9 +88,9 @@ extern "C" double PowerRelatedNondirectionalES(double sampleSize, double effectS
 
 extern "C" double PowerRelatedNondirectional(double sampleSize, double mean1, double sd1, double mean2, double sd2,
                                              double correlation, double alpha) {
-  const auto effectSize = AcceptedEffectSize(Sides::Two, {mean1, sd1, mean2, sd2, correlation}, alpha);
-  if (!effectSize) return KelMV::Missing();
-  return PowerRelatedNondirectionalES(sampleSize, *effectSize, alpha);
+  return ForAcceptedEffectSize(Sides::Two, {mean1, sd1, mean2, sd2, correlation}, alpha, [=](double effectSize) {
+    return PowerRelatedNondirectionalES(sampleSize, effectSize, alpha);
+  });
 }
 
 extern "C" double PowerRelatedDirectionalES(double sampleSize, double effectSize, double alpha) {
@@ -87,9 +99,8 @@ extern "C" double PowerRelatedDirectionalES(double sampleSize, double effectSize
 
 extern "C" double PowerRelatedDirectional(double sampleSize, double mean1, double sd1, double mean2, double sd2,
                                           double correlation, double alpha) {
-  const auto effectSize = AcceptedEffectSize(Sides::One, {mean1, sd1, mean2, sd2, correlation}, alpha);
-  if (!effectSize) return KelMV::Missing();
-  return DirectionalPower(sampleSize, *effectSize, alpha);
+  return ForAcceptedEffectSize(Sides::One, {mean1, sd1, mean2, sd2, correlation}, alpha,
+                               [=](double effectSize) { return DirectionalPower(sampleSize, effectSize, alpha); });
 }
 
 extern "C" double PowerReverseRelatedNondirectionalES(double power, double effectSize, double alpha) {
@@ -98,9 +109,9 @@ extern "C" double PowerReverseRelatedNondirectionalES(double power, double effec
 
 extern "C" double PowerReverseRelatedNondirectional(double power, double mean1, double sd1, double mean2, double sd2,
                                                     double correlation, double alpha) {
-  const auto effectSize = AcceptedEffectSize(Sides::Two, {mean1, sd1, mean2, sd2, correlation}, alpha);
-  if (!effectSize) return KelMV::Missing();
-  return PowerReverseRelatedNondirectionalES(power, *effectSize, alpha);
+  return ForAcceptedEffectSize(Sides::Two, {mean1, sd1, mean2, sd2, correlation}, alpha, [=](double effectSize) {
+    return PowerReverseRelatedNondirectionalES(power, effectSize, alpha);
+  });
 }
 
 extern "C" double PowerReverseRelatedDirectionalES(double power, double effectSize, double alpha) {
@@ -109,9 +120,8 @@ extern "C" double PowerReverseRelatedDirectionalES(double power, double effectSi
 
 extern "C" double PowerReverseRelatedDirectional(double power, double mean1, double sd1, double mean2, double sd2,
                                                  double correlation, double alpha) {
-  const auto effectSize = AcceptedEffectSize(Sides::One, {mean1, sd1, mean2, sd2, correlation}, alpha);
-  if (!effectSize) return KelMV::Missing();
-  return DirectionalSize(power, *effectSize, alpha);
+  return ForAcceptedEffectSize(Sides::One, {mean1, sd1, mean2, sd2, correlation}, alpha,
+                               [=](double effectSize) { return DirectionalSize(power, effectSize, alpha); });
 }
 
 extern "C" double HalfCIRelatedMeans(double sampleSize, double sd1, double sd2, double correlation, double alpha) {

@@ -13,7 +13,7 @@ using KelMath::KelDistFun;
 namespace {
 
 /// Count at the normal quantile `z` of a binomial distribution, within about one of the exact quantile: Cornish, E. A.
-/// and Fisher, R. A. (1938), Moments and cumulants in the specification of distributions, to the term in the skewness.
+/// and Fisher, R. A. (1938), Revue de l'Institut International de Statistique 5, 307-320, to the term in the skewness.
 double QuantileGuess(double size, double p, double z) {
   const double sd = std::sqrt(size * p * (1 - p));
   return std::ceil(size * p + z * sd + (z * z - 1) * (1 - 2 * p) / 6 - 0.5);

@@ -5,6 +5,7 @@
 #include "frame/charts.h"
 #include "frame/checks.h"
 #include "kelpower.h"
+#include "proportions/chart_axes.h"
 #include "proportions/independent_power.h"
 
 using namespace kelpower;
@@ -39,14 +40,6 @@ std::optional<Axis> ThinnedAxis(const SizeRange& range) {
   return CountedAxis(std::ceil(0.1 * span) + 1, range.from, 10, range.to);
 }
 
-/// step, 2 step, ... moved by `shift`. A step that is not above 0 has no axis.
-std::optional<Axis> MultiplesAxis(double count, double step, double shift) {
-  if (!(step > 0)) return std::nullopt;
-  std::optional<Axis> axis = CountedAxis(count, shift, step);
-  if (axis) axis->firstIndex = 1;
-  return axis;
-}
-
 /// start, start + step, ... up to `end`.
 std::optional<Axis> RatioAxis(double start, double end, double step, double stepFraction) {
   if (!(stepFraction > 0)) return std::nullopt;
@@ -57,6 +50,11 @@ std::optional<Axis> RatioAxis(double start, double end, double step, double step
 /// Everything but the proportions.
 bool RejectsSizesOrLevel(double sampleSize1, double sampleSize2, double alpha) {
   return RejectsGroupSize(sampleSize1) || RejectsGroupSize(sampleSize2) || RejectsAlpha(alpha);
+}
+
+/// A range of ratios whose lower end has passed its own check.
+bool RejectsRatioRange(double minRatio, double maxRatio, double step) {
+  return minRatio > maxRatio || maxRatio > kLargestRatio || step > kLargestStep;
 }
 
 }  // namespace
@@ -100,7 +98,7 @@ extern "C" XYZPlot PlotPropIndSampBinom(double sampleSize1, double sampleSize2, 
 
   const auto test = IndependentTest::Of(exact, method, oneSided, alpha, continuityCorrection, pooledVariance);
   IndependentPower power(test, sampleSize1, sampleSize2);
-  const std::optional<Axis> axis = MultiplesAxis(std::trunc(1 / step) - 1, step, 0);
+  const std::optional<Axis> axis = GridAxis(std::trunc(1 / step) - 1, 0, step);
   return SurfaceByRows(axis, axis, Precision::Single, [&](double p1, const SurfaceLine& row) {
     row.Fill([&](double p2) { return power.At(p1, p2); });
   });
@@ -156,7 +154,7 @@ extern "C" XYPlot PlotRiskDiffIndSampBinom(double sampleSize1, double sampleSize
 
   const auto test = IndependentTest::Of(exact, method, oneSided, alpha, continuityCorrection, pooledVariance);
   IndependentPower power(test, sampleSize1, sampleSize2);
-  return Curve(MultiplesAxis(std::trunc(1 / step + 0.5) - 1, step, proportion1 - 1), Precision::Single,
+  return Curve(GridAxis(std::trunc(1 / step + 0.5) - 1, proportion1 - 1, step), Precision::Single,
                [&](double difference) { return power.At(proportion1, proportion1 - difference); });
 }
 
@@ -169,9 +167,7 @@ extern "C" XYPlot PlotRiskRatioIndSampBinom(double sampleSize1, double sampleSiz
   if (RejectsSizesOrLevel(sampleSize1, sampleSize2, alpha)) return EmptyCurve();
   if (RejectsInnerProportion(proportion1)) return EmptyCurve();
   if (minRatio != 0 && minRatio <= proportion1) return EmptyCurve();
-  if (minRatio > maxRatio) return EmptyCurve();
-  if (maxRatio > kLargestRatio) return EmptyCurve();
-  if (step > kLargestStep) return EmptyCurve();
+  if (RejectsRatioRange(minRatio, maxRatio, step)) return EmptyCurve();
 
   const auto test = IndependentTest::Of(exact, method, oneSided, alpha, continuityCorrection, pooledVariance);
   IndependentPower power(test, sampleSize1, sampleSize2);
@@ -188,9 +184,7 @@ extern "C" XYPlot PlotOddsRatioIndSampBinom(double sampleSize1, double sampleSiz
   if (RejectsSizesOrLevel(sampleSize1, sampleSize2, alpha)) return EmptyCurve();
   if (RejectsInnerProportion(proportion1)) return EmptyCurve();
   if (minRatio != 0 && minRatio < 0.1) return EmptyCurve();
-  if (minRatio > maxRatio) return EmptyCurve();
-  if (maxRatio > kLargestRatio) return EmptyCurve();
-  if (step > kLargestStep) return EmptyCurve();
+  if (RejectsRatioRange(minRatio, maxRatio, step)) return EmptyCurve();
 
   const auto test = IndependentTest::Of(exact, method, oneSided, alpha, continuityCorrection, pooledVariance);
   IndependentPower power(test, sampleSize1, sampleSize2);

@@ -1,12 +1,11 @@
 #include "proportions/independent_power.h"
 
 #include "frame/checks.h"
+#include "proportions/results.h"
 
 namespace kelpower {
 
 namespace {
-
-constexpr double kInvalid = -1;
 
 bool RejectsDesign(const IndependentTest& test, double sampleSize1, double sampleSize2) {
   if (RejectsGroupSize(sampleSize1)) return true;

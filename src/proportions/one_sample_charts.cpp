@@ -4,6 +4,7 @@
 
 #include "frame/charts.h"
 #include "frame/checks.h"
+#include "frame/function_view.h"
 #include "kelpower.h"
 #include "proportions/chart_axes.h"
 #include "proportions/one_sample_test.h"
@@ -16,6 +17,13 @@ constexpr int kLargestChartSize = 5000;
 constexpr double kLargestStep = 0.5;  // a wider one leaves no proportion between 0 and 1
 
 bool RejectsDesign(double sampleSize, double alpha) { return sampleSize < 1 || RejectsAlpha(alpha); }
+
+/// The checks of a curve over a grid of proportions, with the other proportion fixed.
+bool RejectsGridCurve(double sampleSize, double fixedProportion, double alpha, double step) {
+  if (RejectsDesign(sampleSize, alpha)) return true;
+  if (RejectsProportion(fixedProportion)) return true;
+  return step > kLargestStep;
+}
 
 /// A range of one size is rejected, but for the one at 0.
 bool RejectsChartSizes(int from, int to) {
@@ -58,6 +66,15 @@ struct SizeSurface {
     if (!(to <= std::numeric_limits<std::int32_t>::max())) return std::nullopt;
     return SizeAxis(from, to);
   }
+
+  /// The surface over the sizes and `positions`; empty where the design is invalid.
+  XYZPlot Over(const std::optional<Axis>& positions, OneSampleTest& test,
+               FunctionView<double(double size, double position)> powerAt) const {
+    if (IsInvalid()) return EmptySurface();
+    return SurfaceByRows(Sizes(test), positions, Precision::Single, [&](double size, const SurfaceLine& row) {
+      row.Fill([&](double position) { return powerAt(size, position); });
+    });
+  }
 };
 
 }  // namespace
@@ -77,9 +94,7 @@ extern "C" XYPlot PlotNOneSampBinom(double sampleSize, double altProportion, dou
 
 extern "C" XYPlot PlotNullOneSampBinom(double sampleSize, double altProportion, int method, int oneSided, double alpha,
                                        std::uint8_t continuityCorrection, double step) {
-  if (RejectsDesign(sampleSize, alpha)) return EmptyCurve();
-  if (RejectsProportion(altProportion)) return EmptyCurve();
-  if (step > kLargestStep) return EmptyCurve();
+  if (RejectsGridCurve(sampleSize, altProportion, alpha, step)) return EmptyCurve();
 
   OneSampleTest test(method, oneSided, alpha, continuityCorrection);
   return Curve(ProportionGrid(step), Precision::Single,
@@ -88,9 +103,7 @@ extern "C" XYPlot PlotNullOneSampBinom(double sampleSize, double altProportion, 
 
 extern "C" XYPlot PlotAlterOneSampBinom(double sampleSize, double nullProportion, int method, int oneSided,
                                         double alpha, std::uint8_t continuityCorrection, double step) {
-  if (RejectsDesign(sampleSize, alpha)) return EmptyCurve();
-  if (RejectsProportion(nullProportion)) return EmptyCurve();
-  if (step > kLargestStep) return EmptyCurve();
+  if (RejectsGridCurve(sampleSize, nullProportion, alpha, step)) return EmptyCurve();
 
   OneSampleTest test(method, oneSided, alpha, continuityCorrection);
   return Curve(ProportionGrid(step), Precision::Single,
@@ -99,9 +112,7 @@ extern "C" XYPlot PlotAlterOneSampBinom(double sampleSize, double nullProportion
 
 extern "C" XYPlot PlotRiskDiffOneSampBionm(double sampleSize, double nullProportion, int method, int oneSided,
                                            double alpha, std::uint8_t continuityCorrection, double step) {
-  if (RejectsDesign(sampleSize, alpha)) return EmptyCurve();
-  if (RejectsProportion(nullProportion)) return EmptyCurve();
-  if (step > kLargestStep) return EmptyCurve();
+  if (RejectsGridCurve(sampleSize, nullProportion, alpha, step)) return EmptyCurve();
 
   OneSampleTest test(method, oneSided, alpha, continuityCorrection);
   return Curve(DifferenceGrid(nullProportion, step), Precision::Single,
@@ -112,40 +123,28 @@ extern "C" XYZPlot PlotNRiskDiffOneSampBinom(double sampleSize, double altPropor
                                              int oneSided, double alpha, int minSampleSize, int maxSampleSize,
                                              std::uint8_t continuityCorrection, double step) {
   const SizeSurface design{sampleSize, altProportion, nullProportion, alpha, minSampleSize, maxSampleSize, step};
-  if (design.IsInvalid()) return EmptySurface();
-
   OneSampleTest test(method, oneSided, alpha, continuityCorrection);
-  return SurfaceByRows(
-      design.Sizes(test), DifferenceGrid(nullProportion, step), Precision::Single,
-      [&](double size, const SurfaceLine& row) {
-        row.Fill([&](double difference) { return test.Power(size, difference + nullProportion, nullProportion); });
-      });
+  return design.Over(DifferenceGrid(nullProportion, step), test, [&](double size, double difference) {
+    return test.Power(size, difference + nullProportion, nullProportion);
+  });
 }
 
 extern "C" XYZPlot PlotNNullOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
                                          int oneSided, double alpha, int minSampleSize, int maxSampleSize,
                                          std::uint8_t continuityCorrection, double step) {
   const SizeSurface design{sampleSize, altProportion, nullProportion, alpha, minSampleSize, maxSampleSize, step};
-  if (design.IsInvalid()) return EmptySurface();
-
   OneSampleTest test(method, oneSided, alpha, continuityCorrection);
-  return SurfaceByRows(design.Sizes(test), ProportionGrid(step), Precision::Single,
-                       [&](double size, const SurfaceLine& row) {
-                         row.Fill([&](double null) { return test.Power(size, altProportion, null); });
-                       });
+  return design.Over(ProportionGrid(step), test,
+                     [&](double size, double null) { return test.Power(size, altProportion, null); });
 }
 
 extern "C" XYZPlot PlotNAlterOneSampBinom(double sampleSize, double altProportion, double nullProportion, int method,
                                           int oneSided, double alpha, int minSampleSize, int maxSampleSize,
                                           std::uint8_t continuityCorrection, double step) {
   const SizeSurface design{sampleSize, altProportion, nullProportion, alpha, minSampleSize, maxSampleSize, step};
-  if (design.IsInvalid()) return EmptySurface();
-
   OneSampleTest test(method, oneSided, alpha, continuityCorrection);
-  return SurfaceByRows(design.Sizes(test), ProportionGrid(step), Precision::Single,
-                       [&](double size, const SurfaceLine& row) {
-                         row.Fill([&](double alternative) { return test.Power(size, alternative, nullProportion); });
-                       });
+  return design.Over(ProportionGrid(step), test,
+                     [&](double size, double alternative) { return test.Power(size, alternative, nullProportion); });
 }
 
 extern "C" XYZPlot PlotNullAlterOneSampBinom(double sampleSize, int method, int oneSided, double alpha,

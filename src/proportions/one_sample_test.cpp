@@ -6,18 +6,12 @@
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 #include "proportions/exact_search.h"
+#include "proportions/results.h"
 
 namespace kelpower {
 
 using KelCommon::KelMV;
 using KelMath::KelDistFun;
-
-namespace {
-
-constexpr double kInvalid = -1;
-constexpr double kNoProbability = -2;
-
-}  // namespace
 
 bool RejectsProportion(double proportion) { return proportion < 0 || proportion > 1; }
 

@@ -9,6 +9,7 @@
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 #include "proportions/exact_search.h"
+#include "proportions/results.h"
 
 namespace kelpower {
 
@@ -16,9 +17,6 @@ using KelCommon::KelMV;
 using KelMath::KelDistFun;
 
 namespace {
-
-constexpr double kInvalid = -1;
-constexpr double kNoProbability = -2;
 
 /// Up to this many discordant pairs the powers given their number are kept for the next call. It covers every chart and
 /// the searches that end below 5,000; further out each call computes its own stretch.

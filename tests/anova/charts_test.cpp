@@ -5,6 +5,9 @@
 
 #include "kelcommon/kel_mv.h"
 #include "kelpower.h"
+#include "support/chart_records.h"
+
+using namespace kelpower;
 
 namespace {
 
@@ -12,8 +15,6 @@ using KelCommon::KelMV;
 
 const std::vector<double> kMeans = {10, 12, 15};
 const std::vector<double> kSizes = {20, 20, 20};
-
-double Single(double value) { return static_cast<double>(static_cast<float>(value)); }
 
 /// The group sizes scaled to a total.
 std::vector<double> Scaled(double total) {
@@ -182,6 +183,20 @@ TEST(ContrastCharts, RepairTheCallersCoefficientsAtTheFirstPointComputed) {
   EXPECT_TRUE(KelMV::IsMissing(nothing.y[0]));
   EXPECT_EQ(coefficients[2], 0);  // no power was computed
   FreeMemXYPlot(&nothing);
+}
+
+// The smallest group bounds an automatic range below, the largest above: here about 2^31, where the ints end.
+TEST(PlotNOverallTestFES, HasNoAutomaticRangeThatEndsBeyondTheInts) {
+  const auto pointsUpTo = [](double end) {
+    constexpr double from = 2147483600;
+    std::vector<double> sizes(500000, 4000);
+    const double total = static_cast<double>(sizes.size() - 2) * 4000 / (1 - 2 / from - 5000 / end);
+    sizes.front() = total * 2 / from;
+    sizes.back() = total * 5000 / end;
+    return CurveRecord(PlotNOverallTestFES(500000, 0, 0, sizes.data(), 0, 0, 0.05)).count;
+  };
+  EXPECT_NEAR(pointsUpTo(2147483645), 45, 2);
+  EXPECT_EQ(pointsUpTo(2147483650), 0);
 }
 
 TEST(ContrastCharts, WithoutGroupsReadNothing) {

@@ -169,6 +169,19 @@ TEST(PowerReverseOverallTest, ReachesThePowerAndOneTotalLessDoesNot) {
   }
 }
 
+// Powers of totals a little above and below a whole size of each group: the total is found to 1e-6 before it is spread.
+TEST(PowerReverseOverallTest, RoundsUpATotalThatIsFoundToSixDecimals) {
+  const std::vector<double> ratios = {1, 1, 1};
+  for (int n = 5; n <= 40; ++n) {
+    for (const double excess : {-1e-4, 1e-4}) {
+      DoubleVector sizes;
+      const double power = Power(kMeans, 6, std::vector<double>(3, n + excess));
+      PowerReverseOverallTest(3, kMeans.data(), 6, ratios.data(), power, sizes, 0.05);
+      EXPECT_EQ(sizes, DoubleVector(3, excess > 0 ? n + 1 : n)) << n;
+    }
+  }
+}
+
 TEST(PowerReverseOverallTest, MatchesAPublishedSize) {
   // Cohen (1988), example 8.10: k = 4, f 0.25, alpha 0.05, power 0.80 needs 45 per group.
   DoubleVector sizes;

@@ -11,6 +11,13 @@ TEST(Nearest, FindsTheTypo) {
   EXPECT_EQ(Nearest("--pwoer", words), "--power");
 }
 
+TEST(Nearest, TakesTwoLettersForATypoAndThreeForAnotherWord) {
+  EXPECT_EQ(Nearest("--mxxns", {"--means"}), "--means");
+  EXPECT_EQ(Nearest("--mxxxs", {"--means"}), "");
+  EXPECT_EQ(Nearest("--sxx", {"--sds"}), "--sds");
+  EXPECT_EQ(Nearest("-xx", {"-sd"}), "");
+}
+
 TEST(Nearest, DoesNotGuessWildly) {
   const std::vector<std::string> words{"--means", "--sd", "--n", "--power"};
   EXPECT_EQ(Nearest("-x", words), "");

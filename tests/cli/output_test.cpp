@@ -13,6 +13,14 @@ TEST(Output, VersionIsThatOfTheProject) {
   EXPECT_EQ(run.out, "kelpower " KELPOWER_VERSION "\n");
 }
 
+TEST(Output, OverviewSaysHowToAskAndListsTheTests) {
+  const Outcome help = RunProgram({"--help"});
+  EXPECT_EQ(help.status, 0);
+  EXPECT_NE(help.out.find("kelpower TEST --help"), std::string::npos);
+  EXPECT_NE(help.out.find(RunProgram({"list"}).out), std::string::npos);
+  EXPECT_EQ(RunProgram({"list", "--help"}).out, help.out);
+}
+
 TEST(Output, EveryTestHasHelpAndIsListed) {
   const Outcome list = RunProgram({"list"});
   EXPECT_EQ(list.status, 0);

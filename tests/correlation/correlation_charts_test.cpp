@@ -4,34 +4,19 @@
 #include <limits>
 
 #include "kelpower.h"
+#include "support/chart_records.h"
 
 namespace kelpower {
 namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
-double Single(double value) { return static_cast<double>(static_cast<float>(value)); }
-
-/// Releases a record at the end of a test.
-struct CurveGuard {
-  XYPlot plot;
-  ~CurveGuard() { FreeMemXYPlot(&plot); }
-};
-
-struct SurfaceGuard {
-  XYZPlot plot;
-  ~SurfaceGuard() { FreeMemXYZPlot(&plot); }
-};
-
-bool IsEmpty(const XYPlot& plot) { return plot.count == 0 && !plot.x && !plot.y; }
-bool IsEmpty(const XYZPlot& plot) { return plot.xCount == 0 && plot.yCount == 0 && !plot.x && !plot.y && !plot.z; }
-
 TEST(SizeCurve, OfPearsonMayStartAtZero) {
-  const CurveGuard curve{PlotNOneSampPearson(20, 0.3, 0, 0, 0, 0.05, 0, 10)};
-  ASSERT_EQ(curve.plot.count, 11);
-  for (int i = 0; i < 4; ++i) EXPECT_EQ(curve.plot.y[i], -1);
-  for (int i = 0; i < 11; ++i) EXPECT_EQ(curve.plot.x[i], i);
-  EXPECT_EQ(curve.plot.y[10], Single(PowerbyOneSampPearson(10, 0.3, 0, 0, 0, 0.05)));
+  const CurveRecord curve(PlotNOneSampPearson(20, 0.3, 0, 0, 0, 0.05, 0, 10));
+  ASSERT_EQ(curve.count, 11);
+  for (int i = 0; i < 4; ++i) EXPECT_EQ(curve.y[i], -1);
+  for (int i = 0; i < 11; ++i) EXPECT_EQ(curve.x[i], i);
+  EXPECT_EQ(curve.y[10], Single(PowerbyOneSampPearson(10, 0.3, 0, 0, 0, 0.05)));
   EXPECT_TRUE(IsEmpty(PlotNOneSampPearson(20, 0.3, 0, 0, 0, 0.05, 0, 0)));
   EXPECT_TRUE(IsEmpty(PlotNOneSampPearson(20, 0.3, 0, 0, 0, 0.05, 7, 7)));
   EXPECT_TRUE(IsEmpty(PlotNOneSampPearson(20, 0.3, 0, 0, 0, 0.05, 3, 7)));
@@ -40,93 +25,92 @@ TEST(SizeCurve, OfPearsonMayStartAtZero) {
 }
 
 TEST(SizeCurve, OfSpearmanStartsAtFour) {
-  const CurveGuard curve{PlotNOneSampSpearman(20, 0.3, 0, 1, 0, 0.05, 4, 10)};
-  ASSERT_EQ(curve.plot.count, 7);
-  EXPECT_EQ(curve.plot.y[6], Single(PowerbyOneSampSpearman(10, 0.3, 0, 1, 0, 0.05)));
+  const CurveRecord curve(PlotNOneSampSpearman(20, 0.3, 0, 1, 0, 0.05, 4, 10));
+  ASSERT_EQ(curve.count, 7);
+  EXPECT_EQ(curve.y[6], Single(PowerbyOneSampSpearman(10, 0.3, 0, 1, 0, 0.05)));
   EXPECT_TRUE(IsEmpty(PlotNOneSampSpearman(20, 0.3, 0, 1, 0, 0.05, 0, 10)));
   EXPECT_TRUE(IsEmpty(PlotNOneSampSpearman(3, 0.3, 0, 2, 0, 0.05, 4, 10)));
 }
 
 TEST(SizeCurve, OfPartialHasAnAutomaticRange) {
-  const CurveGuard curve{PlotNOneSampPartial(20, 2.5, 0.3, 0, 0, 0.05, 0, 10)};
-  ASSERT_EQ(curve.plot.count, 4997);
-  EXPECT_EQ(curve.plot.x[0], 6);
-  EXPECT_EQ(curve.plot.y[0], Single(PowerbyOneSampPartial(6, 2.5, 0.3, 0, 0, 0.05)));
+  const CurveRecord curve(PlotNOneSampPartial(20, 2.5, 0.3, 0, 0, 0.05, 0, 10));
+  ASSERT_EQ(curve.count, 4997);
+  EXPECT_EQ(curve.x[0], 6);
+  EXPECT_EQ(curve.y[0], Single(PowerbyOneSampPartial(6, 2.5, 0.3, 0, 0, 0.05)));
   EXPECT_TRUE(IsEmpty(PlotNOneSampPartial(20, 2.5, 0.3, 0, 0, 0.05, 6, 10)));
   EXPECT_TRUE(IsEmpty(PlotNOneSampPartial(5.5, 2.5, 0.3, 0, 0, 0.05, 0, 0)));
   EXPECT_TRUE(IsEmpty(PlotNOneSampPartial(1e300, 1e299, 0.3, 0, 0, 0.05, 0, 0)));
 }
 
 TEST(NullCurve, RunsFromMinusOneToOne) {
-  const CurveGuard curve{PlotNullOneSampPearson(20, 0.3, 0, 1, 0.05, 0.5)};
-  ASSERT_EQ(curve.plot.count, 5);
+  const CurveRecord curve(PlotNullOneSampPearson(20, 0.3, 0, 1, 0.05, 0.5));
+  ASSERT_EQ(curve.count, 5);
   for (int i = 0; i < 5; ++i) {
-    EXPECT_EQ(curve.plot.x[i], -1 + 0.5 * i);
-    EXPECT_EQ(curve.plot.y[i], Single(PowerbyOneSampPearson(20, 0.3, -1 + 0.5 * i, 0, 1, 0.05)));
+    EXPECT_EQ(curve.x[i], -1 + 0.5 * i);
+    EXPECT_EQ(curve.y[i], Single(PowerbyOneSampPearson(20, 0.3, -1 + 0.5 * i, 0, 1, 0.05)));
   }
 }
 
 TEST(AlternativeCurve, RunsFromMinusOneToOne) {
-  const CurveGuard curve{PlotAlterOneSampSpearman(20, 0.3, 2, 1, 0.05, 0.25)};
-  ASSERT_EQ(curve.plot.count, 9);
-  EXPECT_EQ(curve.plot.y[2], Single(PowerbyOneSampSpearman(20, -0.5, 0.3, 2, 1, 0.05)));
+  const CurveRecord curve(PlotAlterOneSampSpearman(20, 0.3, 2, 1, 0.05, 0.25));
+  ASSERT_EQ(curve.count, 9);
+  EXPECT_EQ(curve.y[2], Single(PowerbyOneSampSpearman(20, -0.5, 0.3, 2, 1, 0.05)));
 }
 
 TEST(DifferenceCurve, RunsOverAllDifferences) {
-  const CurveGuard curve{PlotRiskDiffOneSampPearson(20, 0.2, 0, 0, 0.05, 0.5)};
-  ASSERT_EQ(curve.plot.count, 5);
-  EXPECT_EQ(curve.plot.x[0], -1.2);
-  EXPECT_NEAR(curve.plot.x[4], 0.8, 1e-15);
-  EXPECT_EQ(curve.plot.y[1], Single(PowerbyOneSampPearson(20, -0.7 + 0.2, 0.2, 0, 0, 0.05)));
+  const CurveRecord curve(PlotRiskDiffOneSampPearson(20, 0.2, 0, 0, 0.05, 0.5));
+  ASSERT_EQ(curve.count, 5);
+  EXPECT_EQ(curve.x[0], -1.2);
+  EXPECT_NEAR(curve.x[4], 0.8, 1e-15);
+  EXPECT_EQ(curve.y[1], Single(PowerbyOneSampPearson(20, -0.7 + 0.2, 0.2, 0, 0, 0.05)));
 }
 
 TEST(SizeDifferenceSurface, ShowsTheLowerHalfOfTheDifferences) {
-  const SurfaceGuard wide{PlotNRiskDiffOneSampPearson(20, 0.3, 0.2, 0, 0, 0.05, 10, 1010, 0.5)};
-  ASSERT_EQ(wide.plot.xCount, 501);
-  ASSERT_EQ(wide.plot.yCount, 3);
-  EXPECT_NEAR(wide.plot.y[2], -0.2, 1e-15);
-  EXPECT_EQ(wide.plot.x[1], 12);
-  const SurfaceGuard narrow{PlotNRiskDiffOneSampPearson(20, 0.3, 0.2, 0, 0, 0.05, 10, 1009, 0.5)};
-  EXPECT_EQ(narrow.plot.xCount, 1000);
-  EXPECT_EQ(narrow.plot.z[3 * 5 + 1], Single(PowerbyOneSampPearson(15, narrow.plot.y[1] + 0.2, 0.2, 0, 0, 0.05)));
+  const SurfaceRecord wide(PlotNRiskDiffOneSampPearson(20, 0.3, 0.2, 0, 0, 0.05, 10, 1010, 0.5));
+  ASSERT_EQ(wide.xCount, 501);
+  ASSERT_EQ(wide.yCount, 3);
+  EXPECT_NEAR(wide.y[2], -0.2, 1e-15);
+  EXPECT_EQ(wide.x[1], 12);
+  const SurfaceRecord narrow(PlotNRiskDiffOneSampPearson(20, 0.3, 0.2, 0, 0, 0.05, 10, 1009, 0.5));
+  EXPECT_EQ(narrow.xCount, 1000);
+  EXPECT_EQ(narrow.z[3 * 5 + 1], Single(PowerbyOneSampPearson(15, narrow.y[1] + 0.2, 0.2, 0, 0, 0.05)));
   EXPECT_TRUE(IsEmpty(PlotNRiskDiffOneSampPearson(20, 0.3, 0.2, 0, 0, 0.05, 0, 100, 0.5)));
 }
 
 TEST(SizeNullSurface, OfPearsonTakesAStartAtZeroAsItStands) {
-  const SurfaceGuard surface{PlotNNullOneSampPearson(20, 0.3, 0, 0, 0, 0.05, 0, 0, 0.5)};
-  ASSERT_EQ(surface.plot.xCount, 1);
-  ASSERT_EQ(surface.plot.yCount, 5);
-  EXPECT_EQ(surface.plot.x[0], 0);
-  for (int j = 0; j < 5; ++j) EXPECT_EQ(surface.plot.z[j], -1);
+  const SurfaceRecord surface(PlotNNullOneSampPearson(20, 0.3, 0, 0, 0, 0.05, 0, 0, 0.5));
+  ASSERT_EQ(surface.xCount, 1);
+  ASSERT_EQ(surface.yCount, 5);
+  EXPECT_EQ(surface.x[0], 0);
+  for (int j = 0; j < 5; ++j) EXPECT_EQ(surface.z[j], -1);
 }
 
 TEST(SizeAlternativeSurface, OfSpearmanCentresItsAutomaticRange) {
   const double power = PowerbyOneSampSpearman(40, 0.4, 0, 1, 0, 0.05);
-  const SurfaceGuard surface{PlotNAlterOneSampSpearman(40, 0.4, 0, 1, 0, 0.05, 0, 10, 0.5)};
-  ASSERT_GT(surface.plot.xCount, 0);
-  EXPECT_EQ(surface.plot.x[0], std::floor((1 - power) * 40));
-  EXPECT_EQ(surface.plot.x[surface.plot.xCount - 1], std::ceil((2 - power) * 40));
-  EXPECT_EQ(surface.plot.z[4], Single(PowerbyOneSampSpearman(surface.plot.x[0], 1, 0, 1, 0, 0.05)));
+  const SurfaceRecord surface(PlotNAlterOneSampSpearman(40, 0.4, 0, 1, 0, 0.05, 0, 10, 0.5));
+  ASSERT_GT(surface.xCount, 0);
+  EXPECT_EQ(surface.x[0], std::floor((1 - power) * 40));
+  EXPECT_EQ(surface.x[surface.xCount - 1], std::ceil((2 - power) * 40));
+  EXPECT_EQ(surface.z[4], Single(PowerbyOneSampSpearman(surface.x[0], 1, 0, 1, 0, 0.05)));
 }
 
 TEST(NullAlternativeSurface, HasTheNullAlongX) {
-  const SurfaceGuard surface{PlotNullAlterOneSampPartial(20, 3, 1, 0.05, 0.4)};
-  ASSERT_EQ(surface.plot.xCount, 6);
-  ASSERT_EQ(surface.plot.yCount, 6);
-  EXPECT_EQ(surface.plot.z[6 * 1 + 3],
-            Single(PowerbyOneSampPartial(20, 3, surface.plot.y[3], surface.plot.x[1], 1, 0.05)));
+  const SurfaceRecord surface(PlotNullAlterOneSampPartial(20, 3, 1, 0.05, 0.4));
+  ASSERT_EQ(surface.xCount, 6);
+  ASSERT_EQ(surface.yCount, 6);
+  EXPECT_EQ(surface.z[6 * 1 + 3], Single(PowerbyOneSampPartial(20, 3, surface.y[3], surface.x[1], 1, 0.05)));
 }
 
 TEST(PlotNPartialoutOneSampPartial, EndsAtFiveBelowTheSize) {
-  const CurveGuard curve{PlotNPartialoutOneSampPartial(20, 0.3, 0, 0, 0.05)};
-  ASSERT_EQ(curve.plot.count, 16);
-  EXPECT_EQ(curve.plot.x[15], 15);
-  EXPECT_EQ(curve.plot.y[15], Single(PowerbyOneSampPartial(20, 15, 0.3, 0, 0, 0.05)));
+  const CurveRecord curve(PlotNPartialoutOneSampPartial(20, 0.3, 0, 0, 0.05));
+  ASSERT_EQ(curve.count, 16);
+  EXPECT_EQ(curve.x[15], 15);
+  EXPECT_EQ(curve.y[15], Single(PowerbyOneSampPartial(20, 15, 0.3, 0, 0, 0.05)));
   EXPECT_TRUE(IsEmpty(PlotNPartialoutOneSampPartial(3.5, 0.3, 0, 0, 0.05)));
   EXPECT_TRUE(IsEmpty(PlotNPartialoutOneSampPartial(1e300, 0.3, 0, 0, 0.05)));
-  const CurveGuard none{PlotNPartialoutOneSampPartial(4, 0.3, 0, 0, 0.05)};
-  EXPECT_EQ(none.plot.count, 0);
-  EXPECT_NE(none.plot.x, nullptr);
+  const CurveRecord none(PlotNPartialoutOneSampPartial(4, 0.3, 0, 0, 0.05));
+  EXPECT_EQ(none.count, 0);
+  EXPECT_NE(none.x, nullptr);
 }
 
 TEST(CorrelationCharts, RejectInvalidInput) {

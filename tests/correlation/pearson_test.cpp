@@ -7,6 +7,7 @@
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 #include "kelpower.h"
+#include "support/stop_requests.h"
 
 namespace kelpower {
 namespace {
@@ -17,17 +18,6 @@ using KelMath::KelDistFun;
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr std::uint8_t kFlags[] = {0, 1};
-
-/// Answers true to its `last`th question.
-class StopAt : public StopRequest {
-public:
-  explicit StopAt(int last) : last_(last) {}
-  bool ShouldStop() override { return ++asked >= last_; }
-  int asked = 0;
-
-private:
-  int last_;
-};
 
 TEST(FisherDifference, IsThatOfZOrTheLargestDouble) {
   constexpr double kLargest = std::numeric_limits<double>::max();
@@ -151,9 +141,9 @@ TEST(PowerReversebyOneSampPearson, IsMissingWithoutASolution) {
   EXPECT_TRUE(KelMV::IsMissing(PowerReversebyOneSampPearson(0.8, 1.5, 0, 0, 0, 0.05, nullptr)));
   EXPECT_TRUE(KelMV::IsMissing(PowerReversebyOneSampPearson(0.8, 0.2, 0.2, 0, 0, 0.05, nullptr)));
   EXPECT_TRUE(KelMV::IsMissing(PowerReversebyOneSampPearson(0.8, 0.3, 0, 0, 0, 0, nullptr)));
-  StopAt stop(3);
+  CountingStop stop(3);
   EXPECT_TRUE(KelMV::IsMissing(PowerReversebyOneSampPearson(0.8, 0.3, 0, 0, 0, 0.05, &stop)));
-  EXPECT_EQ(stop.asked, 3);
+  EXPECT_EQ(stop.Asked(), 3);
 }
 
 TEST(HalfCIOneSampPearson, OfNoCorrelationNeedsNoCorrection) {

@@ -25,33 +25,19 @@ private:
   std::uniform_real_distribution<double> unit_{0, 1};
 };
 
-double CdfBin(double x, double n, double p) {
+using DiscreteFunction = double (*)(double, double, double, long& err) noexcept;
+
+double WithoutError(DiscreteFunction function, double first, double second, double third) {
   long err = -1;
-  const double probability = KelDistFun::CdfBin(x, n, p, err);
+  const double value = function(first, second, third, err);
   EXPECT_EQ(err, 0);
-  return probability;
+  return value;
 }
 
-double IdfBin(double prob, double n, double p) {
-  long err = -1;
-  const double count = KelDistFun::IdfBin(prob, n, p, err);
-  EXPECT_EQ(err, 0);
-  return count;
-}
-
-double PdfBin(double x, double n, double p) {
-  long err = -1;
-  const double mass = KelDistFun::PdfBin(x, n, p, err);
-  EXPECT_EQ(err, 0);
-  return mass;
-}
-
-double PdfNegBin(double x, double r, double p) {
-  long err = -1;
-  const double mass = KelDistFun::PdfNegBin(x, r, p, err);
-  EXPECT_EQ(err, 0);
-  return mass;
-}
+double CdfBin(double x, double n, double p) { return WithoutError(KelDistFun::CdfBin, x, n, p); }
+double IdfBin(double prob, double n, double p) { return WithoutError(KelDistFun::IdfBin, prob, n, p); }
+double PdfBin(double x, double n, double p) { return WithoutError(KelDistFun::PdfBin, x, n, p); }
+double PdfNegBin(double x, double r, double p) { return WithoutError(KelDistFun::PdfNegBin, x, r, p); }
 
 TEST(Normal, TailsAddToOne) {
   Draw draw;

@@ -232,6 +232,15 @@ TEST(TAndF, LargeDegreesOfFreedomReachTheNormal) {
   }
 }
 
+// Abramowitz and Stegun (1964), 26.7.5: from here on the next term, of the order of 1 / df^2, is below the last digit.
+TEST(TAndF, QuantilesOfLargeDegreesOfFreedomApproachTheNormal) {
+  for (double df : {1e10, 1e12, 1e14, 1e16})
+    for (double p : {1e-10, 0.025, 0.3, 0.8, 0.975, 0.9999}) {
+      const double z = Dist::IdfStdNorm(p);
+      ExpectRelative(IdfT(p, df), z + (z * z * z + z) / (4 * df), 8e-16);
+    }
+}
+
 // A size, a noncentrality that grows with it, and a critical value of its own size: as searches without an answer ask.
 TEST(TAndF, SizesUpTo1e307) {
   for (double size = 1; size < 1e307; size *= 1e3) {

@@ -4,22 +4,11 @@
 #include <vector>
 
 #include "kelpower.h"
+#include "support/chart_records.h"
+
+using namespace kelpower;
 
 namespace {
-
-double Single(double value) { return static_cast<double>(static_cast<float>(value)); }
-
-std::vector<double> TakeX(XYPlot plot) {
-  std::vector<double> x(plot.x, plot.x + plot.count);
-  FreeMemXYPlot(&plot);
-  return x;
-}
-
-bool IsEmpty(const XYPlot& plot) { return plot.count == 0 && plot.x == nullptr && plot.y == nullptr; }
-
-bool IsEmpty(const XYZPlot& plot) {
-  return plot.xCount == 0 && plot.yCount == 0 && plot.x == nullptr && plot.y == nullptr && plot.z == nullptr;
-}
 
 TEST(PlotNOneSample, HoldsThePowerAtEverySize) {
   for (int directional : {0, 1, -7}) {

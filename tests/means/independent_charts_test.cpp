@@ -7,6 +7,9 @@
 #include "kelcommon/kel_mv.h"
 #include "kelpower.h"
 #include "means/independent.h"
+#include "support/chart_records.h"
+
+using namespace kelpower;
 
 namespace {
 
@@ -15,22 +18,8 @@ using kelpower::Sides;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-double Single(double value) { return static_cast<double>(static_cast<float>(value)); }
-
 double PowerByTotal(Sides sides, double totalSize, double ratio, double difference, double sd1, double sd2) {
   return PowerOrMissing(kelpower::WelchTestByTotal(sides, totalSize, ratio, sd1, sd2, 0.05), difference);
-}
-
-std::vector<double> TakeX(XYPlot plot) {
-  std::vector<double> x(plot.x, plot.x + plot.count);
-  FreeMemXYPlot(&plot);
-  return x;
-}
-
-bool IsEmpty(const XYPlot& plot) { return plot.count == 0 && plot.x == nullptr && plot.y == nullptr; }
-
-bool IsEmpty(const XYZPlot& plot) {
-  return plot.xCount == 0 && plot.yCount == 0 && plot.x == nullptr && plot.y == nullptr && plot.z == nullptr;
 }
 
 TEST(PowerByTotalSize, NeverPools) {

@@ -4,12 +4,14 @@
 #include <limits>
 #include <vector>
 
+#include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 #include "kelpower.h"
 
 namespace {
 
 using KelCommon::KelMV;
+using KelMath::KelDistFun;
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
@@ -111,6 +113,18 @@ TEST(OneSample, RejectsLevelsButInTheTwoSidedFormOfTheEffectSize) {
   }
   EXPECT_EQ(PowerOneSampleNondirectionalES(20, 0.5, 0), 0);
   EXPECT_EQ(PowerOneSampleNondirectionalES(20, 0.5, 1), 1);
+}
+
+// The critical value is then negative, and both tails are still counted: together they are more than 1.
+TEST(OneSample, BothTailsCountAtALevelAboveOne) {
+  for (const double alpha : {1.01, 1.5, 1.99}) {
+    const double critical = KelDistFun::IdfT(1 - alpha / 2, 19, 1e-40, 1e-30);
+    const double noncentrality = std::sqrt(20.0) * 0.3;
+    const double expected = 1 - KelDistFun::NonCentralCdfT(critical, 19, noncentrality, 1e-12) +
+                            KelDistFun::NonCentralCdfT(-critical, 19, noncentrality, 1e-12);
+    EXPECT_NEAR(PowerOneSampleNondirectionalES(20, 0.3, alpha), expected, 1e-14) << alpha;
+    EXPECT_GT(expected, 1) << alpha;
+  }
 }
 
 TEST(OneSample, RejectsStandardDeviationsInTheRawForms) {

@@ -33,7 +33,10 @@ TEST(Paired, EffectSizeIsThatOfTheDifferences) {
 }
 
 TEST(Paired, ASecondStandardDeviationOfZeroSaysThatTheFirstIsOfTheDifferences) {
-  for (double correlation : {0.5, 0.0, -1.0, 7.0}) EXPECT_EQ(EffectSizeRelated(10, 4, 8, 0, correlation), 0.5);
+  for (double correlation : {0.5, 0.0, -1.0, 7.0, double(NAN)}) {
+    EXPECT_EQ(EffectSizeRelated(10, 4, 8, 0, correlation), 0.5);
+    EXPECT_EQ(EffectSizeRelated(10, -4, 8, 0, correlation), -0.5);
+  }
 }
 
 TEST(Paired, EffectSizeKeepsItsDigitsWhereMeasurementsAgree) {

@@ -219,6 +219,7 @@ TEST(Chart, FilesKeepEveryDigit) {
 
 TEST(Chart, WrongRangesGetASentence) {
   EXPECT_EQ(Complaint("anova", {"n", {50}, {20}, std::nullopt}), "--from is 50, but must be below --to, which is 20.");
+  EXPECT_EQ(Complaint("anova", {"n", {50}, {50}, std::nullopt}), "--from is 50, but must be below --to, which is 50.");
   EXPECT_EQ(Complaint("anova", {"n", {1}, {20}, std::nullopt}),
             "--from is 1, but of total sample size (observations) must be a whole number from 4 to 1000000000.");
   EXPECT_EQ(Complaint("anova", {"n", {4}, {2e6}, std::nullopt}),

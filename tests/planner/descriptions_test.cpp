@@ -70,7 +70,7 @@ TEST_P(Descriptions, HaveRoutesOverKnownParametersAndExports) {
     for (const std::string& name : route.needs) EXPECT_TRUE(FindParameter(GetParam(), name)) << name;
     for (const std::string& name : route.accepts) EXPECT_TRUE(FindParameter(GetParam(), name)) << name;
     EXPECT_EQ(exports.count(route.exportName), 1u) << route.exportName;
-    EXPECT_NE(route.call, nullptr);
+    EXPECT_TRUE(route.call);
   }
 }
 

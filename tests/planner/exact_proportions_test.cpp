@@ -45,6 +45,18 @@ TEST(CriticalCounts, OfTheSignTestAreThoseOfTheTextbook) {
   EXPECT_EQ(CriticalCounts(test, 5).upper, 6);
 }
 
+// 5 successes of 5, and none, have the probability 1/32 under the null hypothesis. The sign test does not count its
+// upper tail at such a tie.
+TEST(CriticalCounts, AtALevelThatIsTheProbabilityOfACount) {
+  const double level = 1.0 / 32;
+  EXPECT_EQ(CriticalCounts(OneProportion{0.9, 0.5, true, level}, 5).upper, 5);
+  EXPECT_EQ(CriticalCounts(OneProportion{0.1, 0.5, true, level}, 5).lower, 0);
+  EXPECT_EQ(AttainedLevel(OneProportion{0.9, 0.5, true, level}, 5), level);
+  EXPECT_NEAR(PowerAt(OneProportion{0.9, 0.5, true, level}, 5), std::pow(0.9, 5), 1e-15);
+  EXPECT_EQ(CriticalCounts(DiscordantProportions{0.3, 0.1, true, level}, 5).lower, 0);
+  EXPECT_EQ(CriticalCounts(DiscordantProportions{0.1, 0.3, true, level}, 5).upper, 6);
+}
+
 TEST(AttainedLevel, OfOneProportionIsThePowerAtTheNullProportion) {
   for (double n = 1; n < 60; ++n) {
     for (bool isOneSided : {false, true}) {

@@ -36,6 +36,13 @@ TEST(Render, CsvHasAsManyValuesAsNamesAndTellsTheTargetApart) {
   EXPECT_EQ(csv.compare(end + 1, 26, "anova,10 12 15,6,0.9,0.05,"), 0);
 }
 
+TEST(Render, CsvQuotesWhatWouldBreakALine) {
+  Report report = Example();
+  report.inputs = {{"a,b", "", std::string("say \"x\""), ""}, {"plain", "", std::string("y"), ""}};
+  report.results.clear();
+  EXPECT_EQ(RenderCsv(report), "test,\"a,b\",plain\nanova,\"say \"\"x\"\"\",y\n");
+}
+
 TEST(Render, TextIsPlainUnlessPainted) {
   EXPECT_EQ(RenderText(Example()).find('\033'), std::string::npos);
   EXPECT_EQ(RenderText(Example(), {"<", "[", ">"}).front(), '<');

@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <nlohmann/json.hpp>
+
 #include "kelpower.h"
 #include "planner/catalogue.h"
 #include "planner/error.h"
+#include "planner/render.h"
 
 namespace planner {
 namespace {
@@ -167,6 +170,38 @@ TEST(Solve, PairwiseRefusesGroupsThatAreNotThere) {
   Given same = design;
   same["pair"] = Numbers{2, 2};
   EXPECT_EQ(Complaint<InputError>("pairwise", same), "--pair must name two different groups.");
+}
+
+/// A test whose search gives `size`, at which the power is `power`.
+Test MadeUp(double size, double power) {
+  Test test;
+  test.name = "made-up";
+  test.parameters = {Number("n", "sample size", "number of subjects")};
+  test.routes = {
+      {Question::Power, {"n"}, {}, "MadeUpPower", [=](const Inputs&) { return Numbers{power}; }},
+      {Question::SampleSize, {}, {}, "MadeUpSize", [=](const Inputs&) { return Numbers{size}; }},
+  };
+  test.sentences = {{Question::Power, "{power}"}, {Question::SampleSize, "{sizes}"}};
+  return WithCommonParameters(test);
+}
+
+TEST(Solve, TellsOfATargetThatIsMissedALittleAndGivesUpOnMore) {
+  const Given target{{"power", 0.8}};
+  const auto note = [&](const planner::Test& test) { return Solve(test, target).note; };
+  EXPECT_EQ(note(MadeUp(20, 0.8)), "");
+  EXPECT_EQ(note(MadeUp(20, 0.8 - 1e-7)), "");
+  EXPECT_EQ(note(MadeUp(20, 0.79)), "At the sizes rounded to whole numbers the target is missed slightly.");
+  EXPECT_THROW(note(MadeUp(20, 0.74)), NoSolution);
+  EXPECT_THROW(note(MadeUp(2, 0.79)), NoSolution);  // what a search that finds nothing gives
+  EXPECT_EQ(note(MadeUp(2, 0.81)), "");
+}
+
+TEST(Render, ReportsANote) {
+  const planner::Test test = MadeUp(20, 0.79);
+  const Report report = Solve(test, {{"power", 0.8}});
+  EXPECT_NE(RenderText(report).find("\nNote: " + report.note + "\n"), std::string::npos);
+  EXPECT_NE(RenderMarkdown(report).find("\n" + report.note + "\n"), std::string::npos);
+  EXPECT_EQ(nlohmann::json::parse(RenderJson(report))["note"], report.note);
 }
 
 class Request : public StopRequest {

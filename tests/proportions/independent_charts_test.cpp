@@ -5,29 +5,10 @@
 #include <vector>
 
 #include "kelpower.h"
+#include "support/chart_records.h"
 
 namespace kelpower {
 namespace {
-
-double Single(double value) { return static_cast<double>(static_cast<float>(value)); }
-
-/// A curve or surface that is released at the end of its scope.
-struct CurveRecord : XYPlot {
-  explicit CurveRecord(XYPlot record) : XYPlot(record) {}
-  CurveRecord(const CurveRecord&) = delete;
-  CurveRecord& operator=(const CurveRecord&) = delete;
-  ~CurveRecord() { FreeMemXYPlot(this); }
-  bool IsEmpty() const { return count == 0 && x == nullptr && y == nullptr; }
-};
-
-struct SurfaceRecord : XYZPlot {
-  explicit SurfaceRecord(XYZPlot record) : XYZPlot(record) {}
-  SurfaceRecord(const SurfaceRecord&) = delete;
-  SurfaceRecord& operator=(const SurfaceRecord&) = delete;
-  ~SurfaceRecord() { FreeMemXYZPlot(this); }
-  bool IsEmpty() const { return xCount == 0 && yCount == 0 && x == nullptr && y == nullptr && z == nullptr; }
-  double At(int i, int j) const { return z[i * yCount + j]; }
-};
 
 struct Choice {
   int exact;
@@ -90,11 +71,11 @@ TEST(IndependentSizeSurface, HasAutomaticRangesForTheArcsineTestOnly) {
 }
 
 TEST(IndependentSizeSurface, RejectsRangesThatStartAtOneOrDescend) {
-  EXPECT_TRUE(SurfaceRecord(SizeSurface({0, 0, 0}, 1, 5, 2, 5)).IsEmpty());
-  EXPECT_TRUE(SurfaceRecord(SizeSurface({0, 0, 0}, 2, 5, 1, 5)).IsEmpty());
-  EXPECT_TRUE(SurfaceRecord(SizeSurface({0, 0, 0}, -1, 5, 2, 5)).IsEmpty());
-  EXPECT_TRUE(SurfaceRecord(SizeSurface({0, 0, 0}, 6, 5, 2, 5)).IsEmpty());
-  EXPECT_FALSE(SurfaceRecord(SizeSurface({0, 3, 0}, 1, 5, -3, 5)).IsEmpty());
+  EXPECT_TRUE(IsEmpty(SurfaceRecord(SizeSurface({0, 0, 0}, 1, 5, 2, 5))));
+  EXPECT_TRUE(IsEmpty(SurfaceRecord(SizeSurface({0, 0, 0}, 2, 5, 1, 5))));
+  EXPECT_TRUE(IsEmpty(SurfaceRecord(SizeSurface({0, 0, 0}, -1, 5, 2, 5))));
+  EXPECT_TRUE(IsEmpty(SurfaceRecord(SizeSurface({0, 0, 0}, 6, 5, 2, 5))));
+  EXPECT_FALSE(IsEmpty(SurfaceRecord(SizeSurface({0, 3, 0}, 1, 5, -3, 5))));
 }
 
 TEST(IndependentProportionSurface, HoldsTheScalarPowers) {
@@ -143,7 +124,7 @@ TEST(IndependentRatioCurve, OfTwoSubjectsHasOneRatio) {
   const CurveRecord curve(PlotNRatioIndSampBinom(2, 0.3, 0.5, 0, 0, 0, 0.05, 0, 1, 0, 0, 0.25));
   ASSERT_EQ(curve.count, 3);
   for (int i = 0; i < curve.count; ++i) EXPECT_EQ(curve.x[i], 1);
-  EXPECT_TRUE(CurveRecord(PlotNRatioIndSampBinom(1.9, 0.3, 0.5, 0, 0, 0, 0.05, 0, 1, 0, 0, 0.25)).IsEmpty());
+  EXPECT_TRUE(IsEmpty(CurveRecord(PlotNRatioIndSampBinom(1.9, 0.3, 0.5, 0, 0, 0, 0.05, 0, 1, 0, 0, 0.25))));
 }
 
 TEST(IndependentEffectCurves, HoldTheScalarPowers) {
@@ -171,14 +152,14 @@ TEST(IndependentEffectCurves, HoldTheScalarPowers) {
 
 TEST(IndependentEffectCurves, RejectRangesOutsideTheirLimits) {
   const auto risk = [](double from, double to) {
-    return CurveRecord(PlotRiskRatioIndSampBinom(18, 25, 0.4, 0, 0, 0, 0.05, 0, 1, from, to, 0.1)).IsEmpty();
+    return IsEmpty(CurveRecord(PlotRiskRatioIndSampBinom(18, 25, 0.4, 0, 0, 0, 0.05, 0, 1, from, to, 0.1)));
   };
   EXPECT_TRUE(risk(0.4, 3));
   EXPECT_FALSE(risk(0.41, 3));
   EXPECT_TRUE(risk(0.5, 10.5));
   EXPECT_TRUE(risk(3, 2));
   const auto odds = [](double from, double to) {
-    return CurveRecord(PlotOddsRatioIndSampBinom(18, 25, 0.4, 0, 0, 0, 0.05, 0, 1, from, to, 0.1)).IsEmpty();
+    return IsEmpty(CurveRecord(PlotOddsRatioIndSampBinom(18, 25, 0.4, 0, 0, 0, 0.05, 0, 1, from, to, 0.1)));
   };
   EXPECT_TRUE(odds(0.05, 3));
   EXPECT_FALSE(odds(0.1, 3));

@@ -1,16 +1,19 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
 #include <random>
 #include <vector>
 
+#include "frame/root_finders.h"
 #include "independent_literal.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 #include "kelpower.h"
 #include "proportions/independent_statistic.h"
+#include "support/stop_requests.h"
 
 namespace kelpower {
 namespace {
@@ -27,19 +30,6 @@ constexpr int kT = 1;
 constexpr int kLikelihoodRatio = 2;
 constexpr int kArcsine = 3;
 constexpr int kConditional = 3;
-
-/// Answers true from its n-th question on.
-class StopAt : public StopRequest {
-public:
-  explicit StopAt(std::int64_t n) : n_(n) {}
-  bool ShouldStop() override { return ++asked >= n_; }
-  std::int64_t asked = 0;
-
-private:
-  std::int64_t n_;
-};
-
-constexpr std::int64_t kNever = std::numeric_limits<std::int64_t>::max();
 
 struct Options {
   bool oneSided = false;
@@ -120,8 +110,8 @@ protected:
   void Compare(const IndependentTest& test, double n1, double n2) {
     const double p1 = Uniform(0.01, 0.99);
     const double p2 = Choice(8) == 0 ? p1 : Uniform(0.01, 0.99);
-    StopAt never(kNever);
-    StopAt neverToo(kNever);
+    CountingStop never;
+    CountingStop neverToo;
     const double expected = LiteralExactPower(test, n1, n2, p1, p2, &neverToo);
     const int method = static_cast<int>(test.statistic);
     const auto power = [&](StopRequest* stop) {
@@ -135,7 +125,7 @@ protected:
                                     << test.pooledVariance);
     EXPECT_NEAR(free, expected, 1e-12);
     EXPECT_EQ(power(&never), free);
-    EXPECT_EQ(never.asked, neverToo.asked);
+    EXPECT_EQ(never.Asked(), neverToo.Asked());
   }
 
   std::mt19937_64 random_{20261121};
@@ -146,6 +136,18 @@ TEST_F(IndependentExact, EnumeratedPowersAreTheSumsOverAllTables) {
     const double n1 = Size(50);
     const double n2 = Size(50);
     if (n1 + n2 > 2) Compare(AnyTest(Choice(3)), n1, n2);
+  }
+}
+
+// Where all are successes the proportions are moved off 1 and differ by more than where all but one are: at levels of
+// which this is all, the row has two rejected ends.
+TEST_F(IndependentExact, TheTableOfSuccessesOnlyCanRejectBeyondAcceptedOnes) {
+  for (const int method : {kZ, kT}) {
+    const IndependentTest test = IndependentTest::Of(1, method, 0, 0.88, 0, 0);
+    for (const auto& [n1, n2] : {std::pair(1.0, 100.0), std::pair(100.0, 1.0)}) {
+      EXPECT_NEAR(PowerIndSampBinom(n1, n2, 0.97, 0.99, 1, method, 0, 0.88, 0, 0, nullptr),
+                  LiteralEnumeratedPower(test, n1, n2, 0.97, 0.99, nullptr), 1e-12);
+    }
   }
 }
 
@@ -276,22 +278,22 @@ TEST(IndependentPower, IsMissingForGroupsThatCannotBeCounted) {
 }
 
 TEST(IndependentPower, AsksOnceATableAndOnceARejectedTable) {
-  StopAt z(kNever);
+  CountingStop z;
   Power(8, 9, 0.2, 0.7, kExact, kZ, {}, &z);
-  EXPECT_EQ(z.asked, 9 * 10);
-  StopAt fractional(kNever);
+  EXPECT_EQ(z.Asked(), 9 * 10);
+  CountingStop fractional;
   Power(8.5, 9, 0.2, 0.7, kExact, kZ, {}, &fractional);
-  EXPECT_EQ(fractional.asked, 10 * 10);
-  StopAt conditional(kNever);
+  EXPECT_EQ(fractional.Asked(), 10 * 10);
+  CountingStop conditional;
   Power(8, 9, 0.2, 0.7, kExact, kConditional, {}, &conditional);
-  EXPECT_EQ(conditional.asked, 18);
-  StopAt t(kNever);
+  EXPECT_EQ(conditional.Asked(), 18);
+  CountingStop t;
   Power(8, 9, 0.2, 0.7, kExact, kT, {}, &t);
-  ASSERT_GT(t.asked, 90);
-  for (const std::int64_t n : {std::int64_t{1}, std::int64_t{90}, std::int64_t{91}, t.asked}) {
-    StopAt stop(n);
+  ASSERT_GT(t.Asked(), 90);
+  for (const std::int64_t n : {std::int64_t{1}, std::int64_t{90}, std::int64_t{91}, t.Asked()}) {
+    CountingStop stop(n);
     EXPECT_TRUE(KelMV::IsMissing(Power(8, 9, 0.2, 0.7, kExact, kT, {}, &stop)));
-    EXPECT_EQ(stop.asked, n);
+    EXPECT_EQ(stop.Asked(), n);
   }
 }
 
@@ -360,6 +362,43 @@ TEST(IndependentSizes, ExactSizesReachThePower) {
   }
 }
 
+/// The search for exact sizes as it is defined: a real first size by the method `searched`, smaller ones below it while
+/// there are any, and from there the first whole size that reaches the power by the method `reached`.
+std::vector<double> LiteralSizes(double power, double p1, double p2, double ratio, int searched, int reached) {
+  const auto objective = [&](double n1) {
+    return Power(n1, std::max(1.0, ratio * n1), p1, p2, kExact, searched) - power;
+  };
+  const auto search = [&](double lower, double upper) {
+    return SolveContinuous(lower, upper, 1e-9, objective, nullptr);
+  };
+  const auto second = [&](double n1) { return std::max(1.0, std::floor(ratio * n1 + 0.5)); };
+
+  std::vector<double> found = {std::ceil(search(2, 400))};
+  for (double next = std::ceil(search(1, found.back()));
+       !KelMV::IsMissing(next) && std::find(found.begin(), found.end(), next) == found.end();
+       next = std::ceil(search(1, found.back()))) {
+    found.push_back(next);
+  }
+  double n1 = *std::min_element(found.begin(), found.end());
+  while (Power(n1, second(n1), p1, p2, kExact, reached) < power) n1 += 1;
+  return {n1, second(n1)};
+}
+
+// The z test finds the size from which the conditional test, method 4, goes on: by itself it would start elsewhere.
+TEST(IndependentSizes, ExactSearchesAreThoseOfTheirMethods) {
+  for (const double power : {0.5, 0.7, 0.9}) {
+    for (const double ratio : {0.5, 1.0, 2.0}) {
+      for (const int method : {kZ, kT, kLikelihoodRatio}) {
+        EXPECT_EQ(Sizes(power, 0.9, 0.2, kExact, method, {}, ratio),
+                  LiteralSizes(power, 0.9, 0.2, ratio, method, method));
+      }
+      EXPECT_EQ(Sizes(power, 0.9, 0.2, kExact, 4, {}, ratio), LiteralSizes(power, 0.9, 0.2, ratio, kZ, 4));
+    }
+  }
+  EXPECT_EQ(Sizes(0.7, 0.9, 0.1, kExact, 4), (std::vector<double>{5, 5}));
+  EXPECT_EQ(LiteralSizes(0.7, 0.9, 0.1, 1, 4, 4), (std::vector<double>{7, 7}));
+}
+
 TEST(IndependentSizes, SquaresTheFirstSizeInOneCombinationOfFlags) {
   Options options;
   options.oneSided = options.corrected = options.pooled = true;
@@ -369,12 +408,24 @@ TEST(IndependentSizes, SquaresTheFirstSizeInOneCombinationOfFlags) {
   EXPECT_LE(sizes[1], sizes[0] * sizes[0]);
 }
 
+TEST(IndependentSizes, SecondSizeIsAtLeastOne) {
+  for (const double ratio : {1e-9, 0.0, -1.0}) {
+    for (const int exact : {kLargeSample, kExact}) {
+      const std::vector<double> sizes = Sizes(0.5, 0.9, 0.1, exact, kZ, {}, ratio);
+      ASSERT_EQ(sizes.size(), 2u);
+      EXPECT_GE(sizes[0], 2);
+      EXPECT_EQ(sizes[1], 1);
+      EXPECT_GE(Power(sizes[0], 1, 0.9, 0.1, exact, kZ), 0.5);
+    }
+  }
+}
+
 TEST(IndependentSizes, LeavesANonEmptyVectorAlone) {
   std::vector<double> sizes = {7};
-  StopAt stop(1);
+  CountingStop stop(1);
   PowerReverseIndSampBinom(0.8, 0.3, 0.6, sizes, 1, 0, 0, 0, 0.05, 0, 0, &stop);
   EXPECT_EQ(sizes, std::vector<double>{7});
-  EXPECT_EQ(stop.asked, 0);
+  EXPECT_EQ(stop.Asked(), 0);
 }
 
 TEST(IndependentSizes, AreMissingWhenThePowerIsOutOfReach) {
@@ -392,9 +443,9 @@ TEST(IndependentSizes, AreMissingWhenThePowerIsOutOfReach) {
 TEST(IndependentSizes, StopWhenAsked) {
   for (const int method : {kZ, kT, kLikelihoodRatio, kConditional}) {
     for (const std::int64_t n : {std::int64_t{1}, std::int64_t{2}, std::int64_t{1000}, std::int64_t{200000}}) {
-      StopAt stop(n);
+      CountingStop stop(n);
       EXPECT_EQ(Sizes(0.8, 0.3, 0.3, kExact, method, {}, 1, &stop), kBothMissing);
-      EXPECT_GE(stop.asked, n);
+      EXPECT_GE(stop.Asked(), n);
     }
   }
 }
@@ -403,16 +454,35 @@ TEST(IndependentSizes, StopWhenAsked) {
 TEST(IndependentSizes, AreNotRefinedAfterAStop) {
   constexpr int kUnrefined = 2;
   for (const int method : {kZ, kT, kLikelihoodRatio, kConditional}) {
-    StopAt first(kNever);
+    CountingStop first;
     const std::vector<double> unrefined = Sizes(0.9, 0.25, 0.6, kUnrefined, method, {}, 1.3, &first);
-    StopAt whole(kNever);
+    CountingStop whole;
     EXPECT_NE(Sizes(0.9, 0.25, 0.6, kExact, method, {}, 1.3, &whole), kBothMissing);
-    ASSERT_GT(whole.asked, first.asked);
-    for (const std::int64_t n : {first.asked + 1, first.asked + 2, whole.asked - 1, whole.asked}) {
-      StopAt stop(n);
+    ASSERT_GT(whole.Asked(), first.Asked());
+    for (const std::int64_t n : {first.Asked() + 1, first.Asked() + 2, whole.Asked() - 1, whole.Asked()}) {
+      CountingStop stop(n);
       EXPECT_EQ(Sizes(0.9, 0.25, 0.6, kExact, method, {}, 1.3, &stop), unrefined) << method << ' ' << n;
     }
   }
+}
+
+/// Answers true to its n-th question alone.
+class StopOnce : public StopRequest {
+public:
+  explicit StopOnce(long n) : n_(n) {}
+  bool ShouldStop() override { return ++asked == n_; }
+  long asked = 0;
+
+private:
+  long n_;
+};
+
+TEST(IndependentSizes, AreNotRefinedWhenTheFirstQuestionOfTheRefinementStops) {
+  CountingStop first;
+  const std::vector<double> unrefined = Sizes(0.9, 0.25, 0.6, 2, kZ, {}, 1.3, &first);
+  StopOnce stop(first.Asked() + 1);
+  EXPECT_EQ(Sizes(0.9, 0.25, 0.6, kExact, kZ, {}, 1.3, &stop), unrefined);
+  EXPECT_EQ(stop.asked, first.Asked() + 1);
 }
 
 // Intervals -----------------------------------------------------------------------------------------------------------
@@ -458,6 +528,14 @@ TEST(IndependentInterval, SizesReachTheHalfWidth) {
   }
 }
 
+// Two of group 1 against 1.6e9 reach the power of the z test, which the search goes by, but not that of the conditional
+// test; the next larger tables have too many to be counted.
+TEST(IndependentSizes, AreMissingWhereTheNextTablesCannotBeCounted) {
+  std::vector<double> sizes;
+  PowerReverseIndSampBinom(0.9, 0.99, 0.3, sizes, 8e8, kExact, 4, 0, 0.05, 0, 0, nullptr);
+  EXPECT_EQ(sizes, kBothMissing);
+}
+
 TEST(IndependentInterval, SecondSizeIsAtLeastTwo) {
   std::vector<double> sizes;
   PowerReversebyHalfCIIndSampBinom(0.4, 0.3, 0.6, sizes, 1e-3, 1, 0.05, 0, nullptr);
@@ -470,7 +548,7 @@ TEST(IndependentInterval, SecondSizeIsAtLeastTwo) {
 
 TEST(IndependentInterval, SizesAreMissingWhenStoppedOrOutOfReach) {
   std::vector<double> sizes = {5};
-  StopAt stop(1);
+  CountingStop stop(1);
   PowerReversebyHalfCIIndSampBinom(0.01, 0.3, 0.6, sizes, 1, 1, 0.05, 0, &stop);
   EXPECT_EQ(sizes, kBothMissing);
   for (int method = 1; method <= 5; ++method) {

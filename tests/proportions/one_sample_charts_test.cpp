@@ -3,10 +3,11 @@
 #include <cmath>
 
 #include "kelpower.h"
+#include "support/chart_records.h"
+
+using namespace kelpower;
 
 namespace {
-
-double Single(double value) { return static_cast<double>(static_cast<float>(value)); }
 
 double Power(double n, double alternative, double null, int method, int oneSided) {
   return PowerOneSampBinom(n, alternative, null, method, oneSided, 0.05, 1, nullptr);

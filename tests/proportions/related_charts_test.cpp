@@ -3,10 +3,11 @@
 #include <cmath>
 
 #include "kelpower.h"
+#include "support/chart_records.h"
+
+using namespace kelpower;
 
 namespace {
-
-double Single(double value) { return static_cast<double>(static_cast<float>(value)); }
 
 double Power(double n, double p12, double p21, int exact = 1, int oneSided = 0) {
   return PowerbyPRelSampBionm(n, p12, p21, oneSided, exact, 0.05, nullptr);

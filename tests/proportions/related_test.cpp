@@ -9,7 +9,7 @@
 #include "kelcommon/kel_mv.h"
 #include "kelpower.h"
 #include "literal_tests.h"
-#include "stop_requests.h"
+#include "support/stop_requests.h"
 
 namespace {
 

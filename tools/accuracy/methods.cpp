@@ -54,7 +54,7 @@ const Method methods[] = {
      "As `CdfBeta`."},
     {"IdfBin", "Largest count whose lower probability is at most prob: `IdfBin(prob, n, p, err)`.",
      "Doubling steps from a Cornish-Fisher guess, then bisection, both by `CdfBin`.",
-     "E. Cornish and R. Fisher, Moments and Cumulants in the Specification of Distributions (1938)."},
+     "E. Cornish and R. Fisher (1938), Revue de l'Institut International de Statistique 5, 307-320."},
     {"PdfBin", "Mass of the binomial distribution, by gamma functions between the counts: `PdfBin(x, n, p, err)`.",
      "The saddle-point form.", "C. Loader (2000), as `CdfBeta`."},
     {"PdfNegBin", "Mass of the negative binomial distribution: `PdfNegBin(x, r, p, err)`.", "The saddle-point form.",

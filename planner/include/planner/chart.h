@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -64,7 +65,7 @@ struct Chart {
   std::vector<std::string> accepts;
   std::string exportName;
   std::string example;  // the arguments after the program's name
-  Series (*call)(const Inputs&, const Ranges&);
+  std::function<Series(const Inputs&, const Ranges&)> call;
 };
 
 /// An axis of total sample sizes, of the sizes in `n`; it starts where they leave something to estimate the standard

@@ -27,7 +27,6 @@ public:
   void Erase(const std::string& name);
 
   double Number(const std::string& name) const;
-  int Whole(const std::string& name) const;
   bool Flag(const std::string& name) const;
   /// The library's code of the chosen word.
   int Choice(const std::string& name) const;

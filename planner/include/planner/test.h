@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -20,7 +21,7 @@ struct Route {
   std::vector<std::string> needs;
   std::vector<std::string> accepts;
   std::string exportName;
-  Numbers (*call)(const Inputs&);
+  std::function<Numbers(const Inputs&)> call;
 };
 
 /// A condition on several inputs at once; `sentence` says what is wrong when it fails.
