@@ -51,9 +51,9 @@ struct SizeSearch {
       // The critical difference is a multiple of the standard error, while both sizes grow; the correction falls
       // faster.
       case 0: return 2 * sizeRatio >= 1;
-      // The squared noncentrality is 1 / (v / n1 + w / n2), and the degrees of freedom grow.
-      case 1: return true;
-      // The noncentrality is the least of the sums n1 KL(p1, m) + n2 KL(p2, m).
+      // The squared noncentrality is 1 / (v / n1 + w / n2), and the degrees of freedom grow. That of the likelihood
+      // ratio is the least of the sums n1 KL(p1, m) + n2 KL(p2, m).
+      case 1:
       case 2: return true;
       default: return false;
     }
