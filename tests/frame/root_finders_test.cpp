@@ -161,6 +161,13 @@ TEST(SolveInteger, ReturnsAnExactRootOfTheBisection) {
             51);
 }
 
+TEST(SolveInteger, EndsTheWalkAtAnExactRoot) {
+  Trace trace;
+  const auto root = [](double x) { return x < 12 ? -1.0 : x > 12 ? 1.0 : 0.0; };
+  EXPECT_EQ(SolveInteger(1, 100, trace.Of(root), nullptr), 12);
+  EXPECT_EQ(trace.points.back(), 12);  // the bisection ends at 11
+}
+
 TEST(SolveInteger, DoesNotWalkFromANaN) {
   EXPECT_EQ(SolveInteger(
                 1, 100, [](double) { return kNaN; }, nullptr),
