@@ -49,7 +49,7 @@ public:
 
   /// A value further from zero has the sign of the exact one, and is no zero to the bisection. Measured errors are
   /// below 1e-14 for a power and 4e-15 of its size for a term of an equation.
-  double Noise(double x) const { return isPower_ ? 1e-13 : 4e-14 + 4e-14 * slope_ * x; }
+  double Noise(double x) const { return isPower_ ? 1e-13 : 4e-14 + 4e-14 * std::fabs(slope_ * x); }
 
 private:
   Shape(bool isPower, double target, double slope)
@@ -226,15 +226,15 @@ double SolveIncreasingPower(double lower, double upper, double tolerance, Functi
       lower, upper, tolerance, [&](double x) { return powerAt(x) - target; }, Shape::PowerLess(target), stop);
 }
 
-// t^2 falls as the degrees of freedom grow, at each level.
+// At each level t^2 falls as the degrees of freedom grow, so the difference grows where neither coefficient is
+// negative. Where one is, a difference that is negative at the lower end is so at every size, which is decided as well.
 double SolveHalfWidth(double lower, double upper, double tolerance, const HalfWidthEquation& equation) {
   const auto excess = [&](double x) {
     const double t = IntervalQuantileT(equation.alpha, equation.dfAt(x));
     return equation.slope * x - equation.weight * (t * t);
   };
-  const bool isIncreasing = equation.dfGrows && equation.slope >= 0 && equation.weight >= 0;
-  return isIncreasing ? SolveIncreasing(lower, upper, tolerance, excess, Shape::RisingBy(equation.slope), nullptr)
-                      : SolveContinuous(lower, upper, tolerance, excess, nullptr);
+  return equation.dfGrows ? SolveIncreasing(lower, upper, tolerance, excess, Shape::RisingBy(equation.slope), nullptr)
+                          : SolveContinuous(lower, upper, tolerance, excess, nullptr);
 }
 
 }  // namespace kelpower
