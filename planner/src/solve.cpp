@@ -99,8 +99,10 @@ Report SolveSizes(const Test& test, const Route& route, const Inputs& inputs, co
   return report;
 }
 
-Numbers GivenSizes(const Test& test, const Inputs& inputs) {
-  return test.groups == 1 ? Numbers{inputs.Number("n")} : inputs.List("n");
+Report SolveValue(const Test& test, const Route& route, const Inputs& inputs) {
+  const Numbers sizes = test.groups == 1 ? Numbers{inputs.Number("n")} : inputs.List("n");
+  const double value = ValueOf(route, inputs);
+  return MakeReport(test, route, inputs, {sizes, false, value});
 }
 
 }  // namespace
@@ -114,9 +116,8 @@ Report Solve(const Test& test, const Given& given, StopRequest* stop) {
   if (NeedsEffect(route.question, inputs)) {
     if (const Condition* failing = FirstFailing(test.solvable, inputs)) throw NoSolution(failing->sentence);
   }
-  Report report = AsksForSizes(route.question)
-                      ? SolveSizes(test, route, inputs, names)
-                      : MakeReport(test, route, inputs, {GivenSizes(test, inputs), false, ValueOf(route, inputs)});
+  Report report =
+      AsksForSizes(route.question) ? SolveSizes(test, route, inputs, names) : SolveValue(test, route, inputs);
   ThrowIfStopped(inputs);
   return report;
 }
