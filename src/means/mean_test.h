@@ -40,7 +40,8 @@ double PowerOrMissing(const std::optional<MeanTest>& test, double effect);
 
 /// The size at which `powerAt` reaches `power`, searched from 2 on, below which there is no estimate of the variance.
 /// Unrounded; missing where no size reaches it. The power must not fall as the size grows; that of the tests of means
-/// does not (see `TTest`), because their noncentrality and their degrees of freedom grow with it.
+/// does not (see `TTest`), because their noncentrality and their degrees of freedom grow with it. At a level above 1,
+/// which some of them do not check, it falls, so that a target that is missed at 2 is missed at every size.
 double SizeForPower(FunctionView<double(double size)> powerAt, double power);
 
 /// The size that solves the equation of a half-width; likewise from 2 on.

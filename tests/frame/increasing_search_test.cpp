@@ -10,6 +10,7 @@
 #include "frame/root_finders.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
+#include "support/stop_requests.h"
 
 namespace kelpower {
 namespace {
@@ -18,47 +19,37 @@ using KelCommon::KelMV;
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
-/// Answers true from its n-th question on; 0 never does.
-class StopFromQuestion : public StopRequest {
-public:
-  explicit StopFromQuestion(int n) : n_(n) {}
-  bool ShouldStop() override { return ++asked_ >= n_ && n_ > 0; }
-  int asked() const { return asked_; }
-
-private:
-  int n_;
-  int asked_ = 0;
-};
-
-/// A search of tests of means, and how much work it was.
+/// What a search finds, and how much work it was.
 struct Search {
   double size;
   int evaluations;
-  int questions;
+  long questions;
 };
 
-Search Fast(FunctionView<double(double)> powerAt, double target, int stopsAt = 0) {
-  Search search{0, 0, 0};
-  StopFromQuestion stop(stopsAt);
+/// A search as `solve` does it with a counted power and a stop request.
+template <typename Solve>
+Search Counted(FunctionView<double(double)> powerAt, long stopsAt, Solve solve) {
+  int evaluations = 0;
+  CountingStop stop(stopsAt);
   const auto counted = [&](double x) {
-    ++search.evaluations;
+    ++evaluations;
     return powerAt(x);
   };
-  search.size = SolveIncreasingPower(2, 400, 1e-9, counted, target, &stop);
-  search.questions = stop.asked();
-  return search;
+  const double size = solve(counted, &stop);
+  return {size, evaluations, stop.Asked()};
 }
 
-Search Plain(FunctionView<double(double)> powerAt, double target, int stopsAt = 0) {
-  Search search{0, 0, 0};
-  StopFromQuestion stop(stopsAt);
-  const auto objective = [&](double x) {
-    ++search.evaluations;
-    return powerAt(x) - target;
-  };
-  search.size = SolveContinuous(2, 400, 1e-9, objective, &stop);
-  search.questions = stop.asked();
-  return search;
+Search Fast(FunctionView<double(double)> powerAt, double target, long stopsAt = 0) {
+  return Counted(powerAt, stopsAt, [=](auto counted, StopRequest* stop) {
+    return SolveIncreasingPower(2, 400, 1e-9, counted, target, stop);
+  });
+}
+
+Search Plain(FunctionView<double(double)> powerAt, double target, long stopsAt = 0) {
+  return Counted(powerAt, stopsAt, [=](auto counted, StopRequest* stop) {
+    return SolveContinuous(
+        2, 400, 1e-9, [&](double x) { return counted(x) - target; }, stop);
+  });
 }
 
 auto TwoSidedTest(double effectSize, double alpha) {
@@ -113,9 +104,9 @@ TEST(SolveIncreasingPower, ReturnsTheEndsThatThePlainSearchReturns) {
 
 TEST(SolveIncreasingPower, StopsAtEachQuestionAsThePlainSearchDoes) {
   const auto powerAt = TwoSidedTest(0.05, 0.05);  // widens four times
-  const int questions = Plain(powerAt, 0.8).questions;
+  const long questions = Plain(powerAt, 0.8).questions;
   ASSERT_GT(questions, 40);
-  for (int stopsAt = 1; stopsAt <= questions; ++stopsAt) {
+  for (long stopsAt = 1; stopsAt <= questions; ++stopsAt) {
     const Search fast = Fast(powerAt, 0.8, stopsAt);
     EXPECT_TRUE(KelMV::IsMissing(fast.size));
     EXPECT_EQ(fast.questions, stopsAt);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "kelcommon/kel_mv.h"
+#include "support/stop_requests.h"
 
 namespace kelpower {
 namespace {
@@ -15,18 +16,6 @@ using KelCommon::KelMV;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-
-/// Answers true from its n-th question on; 0 never does.
-class StopFromQuestion : public StopRequest {
-public:
-  explicit StopFromQuestion(int n) : n_(n) {}
-  bool ShouldStop() override { return ++asked_ >= n_ && n_ > 0; }
-  int asked() const { return asked_; }
-
-private:
-  int n_;
-  int asked_ = 0;
-};
 
 /// Keeps the points at which an objective was evaluated.
 struct Trace {
@@ -114,12 +103,12 @@ TEST(SolveContinuous, ANaNObjectiveCountsAsABracketAndKeepsTheLowerEnd) {
 }
 
 TEST(SolveContinuous, AsksBeforeEachWideningAndEachBisectionStep) {
-  StopFromQuestion never(0);
+  CountingStop never(0);
   Trace trace;
   SolveContinuous(2, 8, 1e-9, trace.Of([](double x) { return x - 20.1; }), &never);
-  EXPECT_EQ(static_cast<std::size_t>(never.asked()), trace.points.size() - 2);
+  EXPECT_EQ(static_cast<std::size_t>(never.Asked()), trace.points.size() - 2);
 
-  StopFromQuestion atOnce(1);
+  CountingStop atOnce(1);
   Trace stopped;
   EXPECT_TRUE(KelMV::IsMissing(SolveContinuous(2, 402, 1e-9, stopped.Of([](double x) { return x - 10.5; }), &atOnce)));
   EXPECT_EQ(stopped.points.size(), 2U);
@@ -175,12 +164,12 @@ TEST(SolveInteger, DoesNotWalkFromANaN) {
 }
 
 TEST(SolveInteger, AsksBeforeEachStepOfTheWalkToo) {
-  StopFromQuestion never(0);
+  CountingStop never(0);
   Trace trace;
   SolveInteger(1, 100, trace.Of([](double x) { return x - 10.5; }), &never);
-  EXPECT_EQ(static_cast<std::size_t>(never.asked()), trace.points.size() - 2);
+  EXPECT_EQ(static_cast<std::size_t>(never.Asked()), trace.points.size() - 2);
 
-  StopFromQuestion last(never.asked());
+  CountingStop last(never.Asked());
   EXPECT_TRUE(KelMV::IsMissing(SolveInteger(
       1, 100, [](double x) { return x - 10.5; }, &last)));
 }
@@ -203,14 +192,14 @@ TEST(SolveIntegerSmallest, FindsTheFirstOfSeveralCrossings) {
 TEST(SolveIntegerSmallest, LeavesItsStartingValueWhereItCannotSearch) {
   const auto line = [](double x) { return x - 10.5; };
   for (const double start : {KelMV::Missing(), kInfinity}) {
-    StopFromQuestion never(0);
+    CountingStop never(0);
     EXPECT_EQ(SolveIntegerSmallest(start, line, &never), start);
-    EXPECT_EQ(never.asked(), 1);
+    EXPECT_EQ(never.Asked(), 1);
   }
   EXPECT_TRUE(std::isnan(SolveIntegerSmallest(kNaN, line, nullptr)));
-  StopFromQuestion atOnce(1);
+  CountingStop atOnce(1);
   EXPECT_EQ(SolveIntegerSmallest(30, line, &atOnce), 30);
-  StopFromQuestion second(2);  // the stop ends the first pass, whose missing result ends the search
+  CountingStop second(2);  // the stop ends the first pass, whose missing result ends the search
   EXPECT_EQ(SolveIntegerSmallest(30, line, &second), 30);
 }
 
