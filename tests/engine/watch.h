@@ -5,8 +5,8 @@
 
 namespace keltest {
 
-/// Ends the program when a call takes too long, and says which. Processor time is measured, so that a busy machine
-/// does not matter.
+/// Ends the program when a call takes too long, and says which. Processor time is measured, in short slices, so that
+/// neither a busy machine matters nor one that stands still for a while.
 class Watch {
 public:
   explicit Watch(const std::string& call);
