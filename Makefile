@@ -5,6 +5,7 @@ BUILD := build/$(PRESET)
 PREFIX ?= /usr/local
 FUZZ := build/fuzz
 FUZZ_SECONDS ?= 60
+FUZZ_SEED ?= 0
 JOBS := $(shell nproc)
 
 .PHONY: run test build bench bench-peers lint format install accuracy fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
@@ -53,7 +54,7 @@ mutants: ## demand that a test fails for each of the deliberate faults in tools/
 	@sh tools/install_packages.sh build
 	@python3 -B tools/mutants/run.py . build/mutants
 
-fuzz: fuzz-kelcommon fuzz-kelpower ## fuzz each library for FUZZ_SECONDS; with -j2 both at once
+fuzz: fuzz-kelcommon fuzz-kelpower ## fuzz each library for FUZZ_SECONDS, with new inputs each time unless a FUZZ_SEED is given; with -j2 both at once
 
 fuzz-build:
 	@sh tools/install_packages.sh build fuzz
@@ -63,9 +64,7 @@ fuzz-build:
 fuzz-kelcommon: MAX_LEN := 64
 fuzz-kelpower: MAX_LEN := 256
 fuzz-%: fuzz-build
-	@mkdir -p $(FUZZ)/corpus/$*
-	$(FUZZ)/fuzz/fuzz_$* -max_total_time=$(FUZZ_SECONDS) -max_len=$(MAX_LEN) -print_final_stats=1 \
-		-artifact_prefix=$(FUZZ)/$*- $(FUZZ)/corpus/$* fuzz/corpus/$*
+	@sh tools/fuzz.sh $(FUZZ) $* $(FUZZ_SECONDS) $(MAX_LEN) $(FUZZ_SEED)
 
 fuzz-seeds: fuzz-build ## write the first inputs of the export target anew, from the reference cases
 	@rm -rf fuzz/corpus/kelpower
