@@ -2,6 +2,7 @@
 
 #include <boost/math/special_functions/erf.hpp>
 #include <cmath>
+#include <limits>
 
 #include "boost_policy.h"
 #include "noncentral_f.h"
@@ -26,11 +27,23 @@ long double StirlingCorrection(long double x) {
                     r2 * (1 / 1260.0L - r2 * (1 / 1680.0L - r2 * (1 / 1188.0L - r2 * (691 / 360360.0L - r2 / 156))))));
 }
 
+// LogScaledGamma of 1/2, 1, 3/2, ..., 31/2: the shapes are half the degrees of freedom, which are whole more often than
+// not.
+constexpr long double halfIntegerLogScaledGammas[] = {
+    0.1534264097200273452914L,   0.08106146679532725821967L,  0.05481412105191765389614L,  0.04134069595540929409382L,
+    0.03316287351993628748511L,  0.02767792568499833914879L,  0.02374616365629749597133L,  0.02079067210376509311152L,
+    0.01848845053267318523078L,  0.01664469118982119216319L,  0.01513497322191737887351L,  0.01387612882307074799875L,
+    0.01281046524292022692425L,  0.01189670994589177009506L,  0.01110455975820691732663L,  0.01041126526197209649748L,
+    0.00979941612615880329839L,  0.009255462182712732917729L, 0.008768700134139385462955L, 0.008330563433362871256469L,
+    0.00793411456431402054725L,  0.007573675487951840794972L, 0.007244554301320383179546L, 0.006942840107209529865664L,
+    0.006665247032707682442356L, 0.00640899418800420706844L,  0.006171712263039457647535L, 0.005951370112758847735624L,
+    0.005746216513010115682026L, 0.005554733551962801371039L, 0.005375599032926834493642L};
+
 }  // namespace
 
 long double LogScaledGamma(double x) {
   if (x >= 16) return StirlingCorrection(x);
-  if (x == 0.5) return 0.15342640972002734529L;  // (1 - log 2) / 2
+  if (2 * x == std::floor(2 * x)) return halfIntegerLogScaledGammas[static_cast<int>(2 * x) - 1];
   // Gamma(x) = Gamma(x + 16) / (x (x + 1) ... (x + 15)), with no more factors than needed.
   const long double start = x;
   long double end = start;
@@ -116,14 +129,21 @@ double BetaFraction(double a, double b, long double c) {
 }
 
 // The same divided value as the sum 1 + y (a+b)/(a+1) (1 + y (a+b+1)/(a+2) (1 + ...)), Didonato and Morris (1992),
-// eq. 4. All terms are positive; a term costs a fifth of one of the fraction.
+// eq. 4. All terms are positive; a term costs a third of one of the fraction, but a comparison takes longer than a term.
 long double BetaSeries(long double a, long double y, long double yTimesAPlusB) {
+  constexpr int termsAtOnce = 4;
+  long double factor = yTimesAPlusB;
+  long double divisor = a + 1;
   long double term = 1;
   long double sum = 1;
-  for (int k = 0; term > 1e-19L * sum; ++k) {
-    term *= (yTimesAPlusB + y * k) / (a + k + 1);
-    sum += term;
-  }
+  do {
+    for (int i = 0; i < termsAtOnce; ++i) {
+      term *= factor / divisor;
+      sum += term;
+      factor += y;
+      divisor += 1;
+    }
+  } while (term > 1e-19L * sum);
   return sum;
 }
 
@@ -204,16 +224,16 @@ double HillQuantile(double df, double p) {
   return std::sqrt(df * y);
 }
 
-// The odds' logarithm at which the tail I_y(a, b) = p, near enough for the inverse series.
+// The odds at which the tail I_y(a, b) = p, near enough for the inverse series.
 long double QuantileStart(double a, double b, double p) {
   // The square of Student's t is its degrees of freedom times such odds.
   if (a == 0.5 && b > 1 && b < 1e15 && p > 1e-12) {
     const double t = HillQuantile(2 * b, 1 - p);
-    if (t > 0) return std::log(t * t / (2 * b));
+    if (t > 0) return t * t / (2 * b);
   }
   if (b == 0.5 && a > 1 && a < 1e15) {
     const double t = HillQuantile(2 * a, p);
-    if (t > 0) return -std::log(t * t / (2 * a));
+    if (t > 0) return 2 * a / (t * t);
   }
   if (a > 0.9 && b > 0.9) {
     // Carter (1947), Approximation to percentage points of the z-distribution; Abramowitz and Stegun, 26.5.22.
@@ -222,125 +242,130 @@ long double QuantileStart(double a, double b, double p) {
     const double ra = 1 / (2 * a - 1);
     const double rb = 1 / (2 * b - 1);
     const double h = 2 / (ra + rb);
-    if (h + lambda > 0)
-      return std::log(static_cast<long double>(a) / b) +
-             2 * (z * std::sqrt(h + lambda) / h + (rb - ra) * (lambda + 5.0 / 6 - 2 / (3 * h)));
+    if (h + lambda > 0) {
+      const double w = z * std::sqrt(h + lambda) / h + (rb - ra) * (lambda + 5.0 / 6 - 2 / (3 * h));
+      return static_cast<long double>(a) / b * std::exp(2 * w);
+    }
   }
   // The leading term of the series at y = 0, y^a / (a B(a, b)), where it holds, and else that at y = 1.
   const ScaledValue one = BetaStep(a, b, 1);
   const long double logStep =
       std::log(one.factor) + one.exponent + (static_cast<long double>(a) + b) * 0.69314718055994530942L;
   const long double logY = (std::log(static_cast<long double>(p)) - logStep) / a;
-  if (logY < -0.7L) return logY;
-  return -(std::log1p(-static_cast<long double>(p)) - (logStep + std::log(a / static_cast<long double>(b)))) / b;
+  if (logY < -0.7L) return std::exp(logY);
+  const long double logOneMinusY =
+      (std::log1p(-static_cast<long double>(p)) - (logStep + std::log(a / static_cast<long double>(b)))) / b;
+  return std::exp(-logOneMinusY);
 }
 
-// The density of the log odds around a point v, divided by that at v, as a power series in the distance h. It solves
-// d' = k d with k = (a + b) (1 - y) - b, and y' = y (1 - y). Of y and 1 - y the smaller one is developed.
+// The density of the odds around c, divided by that at c, as a power series in u, where the odds are c (1 + u):
+//   (1 + u) (1 + y u) f' = (k - 1 - y (b + 1) u) f,  y = c / (1 + c),  k = (a - b c) / (1 + c).
 class DensitySeries {
 public:
-  // With the terms that matter up to a distance; more than `mostTerms` are not formed.
-  DensitySeries(double a, double b, long double c, double distance) {
-    const double sign = c < 1 ? 1 : -1;
-    const double minusTotal = -sign * (a + b);
-    double y[mostTerms + 1] = {static_cast<double>((c < 1 ? c : 1) / (1 + c))};
-    double k[mostTerms + 1] = {static_cast<double>((a - b * c) / (1 + c))};
+  // With the terms that matter up to u; more than `mostTerms` are not formed.
+  DensitySeries(double b, double y, double k, double u) {
+    double previous = 0;
     double power = 1;
-    for (int n = 0; n < mostTerms; ++n) {
-      double ySquared = 0;
-      double product = 0;
-      for (int i = 0; i <= n; ++i) {
-        ySquared += y[i] * y[n - i];
-        product += density_[i] * k[n - i];
-      }
+    for (int n = 0; n < mostTerms && !isEnough_; ++n) {
       const double step = 1.0 / (n + 1);
-      y[n + 1] = sign * (y[n] - ySquared) * step;
-      k[n + 1] = minusTotal * y[n + 1];
-      density_[n + 1] = product * step;
       integral_[n] = density_[n] * step;
+      density_[n + 1] = ((k - 1 - (1 + y) * n) * density_[n] - y * (b + n) * previous) * step;
+      previous = density_[n];
       ++terms_;
       const double previousPower = power;
-      power *= distance;
-      // Two in a row, for k may vanish.
-      isEnough_ = std::fabs(density_[n] * previousPower) < 1e-15 && std::fabs(density_[n + 1] * power) < 1e-17;
-      if (isEnough_) return;
+      power *= u;
+      // Two in a row, for one may vanish.
+      isEnough_ = std::fabs(previous * previousPower) < 1e-15 && std::fabs(density_[n + 1] * power) < 1e-17;
     }
   }
 
   bool IsEnough() const { return isEnough_; }
 
-  // The distance h at which the integral of the series from 0 to h is `wanted`, by Newton's method from near it.
-  double Distance(double wanted, double h) const {
+  // The u at which the integral of the series from 0 to u is `wanted`, by Newton's method from near it.
+  double Root(double wanted, double u) const {
     for (int i = 0; i < 4; ++i) {
       double integral = 0;
       double density = 0;
       for (int n = terms_ - 1; n >= 0; --n) {
-        integral = integral * h + integral_[n];
-        density = density * h + density_[n];
+        integral = integral * u + integral_[n];
+        density = density * u + density_[n];
       }
-      const double step = (integral * h - wanted) / density;
-      h -= step;
-      if (std::fabs(step) < 1e-7 * std::fabs(h)) break;  // what is left is of the order of its square
+      const double step = (integral * u - wanted) / density;
+      u -= step;
+      if (std::fabs(step) < 1e-7 * std::fabs(u)) break;  // what is left is of the order of its square
     }
-    return h;
+    return u;
   }
 
 private:
-  static constexpr int mostTerms = 14;
+  static constexpr int mostTerms = 20;
   double density_[mostTerms + 1] = {1};
   double integral_[mostTerms] = {};
   int terms_ = 0;
   bool isEnough_ = false;
 };
 
+struct QuantileStep {
+  long double odds;  // NaN where there is no slope to follow
+  bool isLast;
+};
+
+// From the odds c towards those at which the lower tail is p.
+QuantileStep StepToQuantile(const BetaDensity& density, double p, long double c, const TailsAndDensity& at) {
+  const double tail = at.tails.lower;
+  const double slope = at.density / tail;
+  if (!(slope > 0 && std::isfinite(slope))) return {std::numeric_limits<long double>::quiet_NaN(), false};
+  // The inverse series of F(v) = log(I / p), v = log(c), to its third term. With F1 = s = density / I and the density's
+  // logarithmic derivative k = (a - b c) / (1 + c), the derivatives are F2 = s (k - s) and
+  // F3 = s ((k - s)^2 + dk/dv - F2).
+  const long double exactY = c / (1 + c);
+  const double k = static_cast<double>((density.a - density.b * c) / (1 + c));
+  const double kSlope = -static_cast<double>((density.a + density.b) * exactY / (1 + c));
+  const double miss = std::log(tail / p);
+  const double newton = -miss / slope;
+  const double second = (k - slope) / 2 * newton;
+  const double third = ((k - slope) * (k - slope) + kSlope - slope * (k - slope)) / 6 * newton * newton;
+  const double cubic = 2 * second * second - third;
+  const bool isNear = std::fabs(second) < 0.3 && std::fabs(cubic) < 0.3;
+  if (!isNear) return {c * std::exp(newton / (1 + std::fmin(std::fmax(second, -0.5), 1.0))), false};
+
+  const double step = newton * (1 - second + cubic);
+  const double u = std::expm1(step);
+  // The fourth term is of the order of these to the third power. The odds themselves bend over a step of 1, which the
+  // first two may hide: far out in a tail its logarithm is all but straight.
+  const double order = std::fmax(std::fmax(std::fabs(second), std::sqrt(std::fabs(third))), std::fabs(newton));
+  if (std::fabs(newton) * order * order * order < 1e-16) return {c + c * u, true};
+  // The series keeps its digits where neither the odds nor their density change much, and a denormal density has few to
+  // divide by.
+  if (std::fabs(u) < 0.5 && std::fabs(miss) < 1 && at.density >= std::numeric_limits<double>::min()) {
+    const DensitySeries series(static_cast<double>(density.b), static_cast<double>(exactY), k, u);
+    if (series.IsEnough()) return {c + c * series.Root((p - tail) / at.density, u), true};
+  }
+  return {c * std::exp(step), false};
+}
+
 }  // namespace
 
-long double BetaQuantileLogOdds(double a, double b, double p) {
+long double BetaQuantileOdds(double a, double b, double p) {
   // The spread is below the last digit.
-  if (a > 1e37 && b > 1e37) return std::log(static_cast<long double>(a) / b);
+  if (a > 1e37 && b > 1e37) return static_cast<long double>(a) / b;
   // I_y(a, 1) = y^a and I_y(1, b) = 1 - (1-y)^b.
-  if (b == 1) return -std::log(std::expm1(-std::log(static_cast<long double>(p)) / a));
-  if (a == 1) return std::log(std::expm1(-std::log1p(-static_cast<long double>(p)) / b));
+  if (b == 1) return 1 / std::expm1(-std::log(static_cast<long double>(p)) / a);
+  if (a == 1) return std::expm1(-std::log1p(-static_cast<long double>(p)) / b);
   // Beyond, the odds are outside the range even of their products with any two doubles.
-  constexpr long double farthest = 4000;
-  long double low = -farthest;
+  constexpr long double farthest = 1e1700L;
+  long double low = 1 / farthest;
   long double high = farthest;
   const BetaDensity density(a, b);
-  long double v = std::fmin(std::fmax(QuantileStart(a, b, p), low + 1), high - 1);
-  for (int i = 0; i < 100; ++i) {
-    const long double c = std::exp(v);
+  long double c = std::fmin(std::fmax(QuantileStart(a, b, p), 2 * low), high / 2);
+  for (int i = 0; i < 100 && high - low > 2e-19L * high; ++i) {
     const TailsAndDensity at = EvaluateBeta(density, a, b, c);
-    const double tail = at.tails.lower;
-    (tail > p ? high : low) = v;
-    long double next = low + (high - low) / 2;
-    const double slope = at.density / tail;
-    if (slope > 0 && std::isfinite(slope)) {
-      // The inverse series of F(v) = log(I / p) to its third term. With F1 = s = density / I and the density's
-      // logarithmic derivative k = (a - b c) / (1 + c), the derivatives are F2 = s (k - s) and
-      // F3 = s ((k - s)^2 + dk/dv - F2).
-      const double k = static_cast<double>((a - b * c) / (1 + c));
-      const double kSlope = -static_cast<double>((static_cast<long double>(a) + b) * (c / (1 + c)) / (1 + c));
-      const double newton = -std::log(tail / p) / slope;
-      const double second = (k - slope) / 2 * newton;
-      const double third = ((k - slope) * (k - slope) + kSlope - slope * (k - slope)) / 6 * newton * newton;
-      const double cubic = 2 * second * second - third;
-      if (std::fabs(second) < 0.3 && std::fabs(cubic) < 0.3) {
-        next = v + newton * (1 - second + cubic);
-        // The fourth term is of the order of these to the third power. The odds themselves bend over a step of 1, which
-        // the first two may hide: far out in a tail its logarithm is all but straight.
-        const double order = std::fmax(std::fmax(std::fabs(second), std::sqrt(std::fabs(third))), std::fabs(newton));
-        if (std::fabs(newton) * order * order * order < 1e-16) return next;
-        const double distance = static_cast<double>(next - v);
-        const DensitySeries series(a, b, c, distance);
-        if (series.IsEnough()) return v + series.Distance((p - tail) / at.density, distance);
-      } else {
-        next = v + newton / (1 + std::fmin(std::fmax(second, -0.5), 1.0));
-      }
-    }
-    v = next > low && next < high ? next : low + (high - low) / 2;
-    if (high - low < 1e-18L * std::fabs(v)) break;
+    (at.tails.lower > p ? high : low) = c;
+    const QuantileStep next = StepToQuantile(density, p, c, at);
+    if (next.isLast) return next.odds;
+    c = next.odds > low && next.odds < high ? next.odds : std::sqrt(low * high);
   }
-  return v;
+  return c;
 }
 
 }  // namespace KelMath

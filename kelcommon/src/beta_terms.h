@@ -31,8 +31,8 @@ struct Tails {
 /// I_y(a, b) and 1 - I_y(a, b).
 Tails BetaTails(double a, double b, long double c);
 
-/// The logarithm of the odds y / (1 - y) at which I_y(a, b) = p, 0 < p < 1; the smaller p, the better.
-long double BetaQuantileLogOdds(double a, double b, double p);
+/// The odds y / (1 - y) at which I_y(a, b) = p, 0 < p < 1; the smaller p, the better.
+long double BetaQuantileOdds(double a, double b, double p);
 
 }  // namespace KelMath
 

@@ -28,8 +28,8 @@ double KelDistFun::IdfF(double p, double df1, double df2) noexcept {
   if (p == 1) return std::numeric_limits<double>::infinity();
   const double a = HalfDegrees(df1);
   const double b = HalfDegrees(df2);
-  const long double logOdds = p <= 0.5 ? BetaQuantileLogOdds(a, b, p) : -BetaQuantileLogOdds(b, a, 1 - p);
-  return static_cast<double>(std::exp(logOdds) * (static_cast<long double>(b) / a));
+  const long double odds = p <= 0.5 ? BetaQuantileOdds(a, b, p) : 1 / BetaQuantileOdds(b, a, 1 - p);
+  return static_cast<double>(odds * (static_cast<long double>(b) / a));
 }
 
 double KelDistFun::NonCentralCdfF(double x, double df1, double df2, double noncentrality, double) noexcept {

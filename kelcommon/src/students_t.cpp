@@ -23,9 +23,9 @@ double PositiveQuantile(double p, double df) {
   // t^2 / df is the odds of a beta(1/2, df/2) variable. Near the middle its lower tail 2p - 1 is exact, outside its
   // upper tail.
   const double b = std::fmax(df / 2, std::numeric_limits<double>::min());
-  const long double logOdds =
-      fromMiddle < 0.25 ? BetaQuantileLogOdds(0.5, b, 2 * fromMiddle) : -BetaQuantileLogOdds(b, 0.5, 2 * tail);
-  return static_cast<double>(std::exp(logOdds / 2) * std::sqrt(static_cast<long double>(df)));
+  const long double odds =
+      fromMiddle < 0.25 ? BetaQuantileOdds(0.5, b, 2 * fromMiddle) : 1 / BetaQuantileOdds(b, 0.5, 2 * tail);
+  return static_cast<double>(std::sqrt(odds * df));
 }
 
 }  // namespace

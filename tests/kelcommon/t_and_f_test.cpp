@@ -130,12 +130,27 @@ TEST(TAndF, WrongSideTailOfFewDegreesOfFreedom) {
   for (double df : {1e-18, 1e-30, 1e-300}) ExpectRelative(CdfT(-2, df, 5), 2.8665157187919391e-7, 1e-12);
 }
 
+// Whole degrees of freedom have tabulated gamma functions, their neighbours among the doubles have not.
+TEST(TAndF, WholeDegreesOfFreedomAreAsTheirNeighbours) {
+  for (double df = 1; df <= 33; ++df) {
+    const double neighbour = std::nextafter(df, 100);
+    for (double p : {0.01, 0.4, 0.95, 0.999}) {
+      ExpectRelative(Dist::IdfF(p, df, 7.3), Dist::IdfF(p, neighbour, 7.3), 4e-15);
+      ExpectRelative(Dist::IdfF(p, 7.3, df), Dist::IdfF(p, 7.3, neighbour), 4e-15);
+      ExpectRelative(IdfT(p, df), IdfT(p, neighbour), 4e-15);
+    }
+    ExpectRelative(CdfF(1.4, df, 7.3, 3), CdfF(1.4, neighbour, 7.3, 3), 1e-14);
+  }
+}
+
 // To 40 digits. Quantiles far out, where the logarithm of the tail is all but straight, and those whose tail is the
 // complement of a larger one.
 TEST(TAndF, QuantilesKeepTheirLastDigits) {
   ExpectRelative(Dist::IdfF(0.9999999905635342, 186.62660350311359, 1.8680982750524289), 375274278.09699947, 1e-15);
   ExpectRelative(Dist::IdfF(0.9480080309079868, 1.0, 17.93128993448286), 4.332691459921354, 1e-15);
   ExpectRelative(Dist::IdfF(0.6056932543924695, 1.0, 2452.0), 0.7258749859597944, 1e-15);
+  ExpectRelative(Dist::IdfF(2.348535417933573e-174, 32.0, 13.77472511031557), 3.0294892854517590e-12, 1e-15);
+  ExpectRelative(Dist::IdfF(1.950130255085848e-40, 30.0, 626.7742052237267), 0.00094448445247431335, 1e-15);
   ExpectRelative(IdfT(0.0062427569241741265, 18.322474467884547), -2.769718921052122, 1e-15);
   ExpectRelative(IdfT(0.975, 24.0), 2.0638985616280254, 1e-15);
   ExpectRelative(IdfT(0.8043239093063572, 36110.0), 0.857178047515988, 1e-15);
