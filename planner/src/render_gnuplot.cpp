@@ -8,7 +8,12 @@
 namespace planner {
 namespace {
 
-constexpr double levels[] = {0.5, 0.8, 0.9, 0.95};
+struct Level {
+  double power;
+  const char* line;
+};
+
+constexpr Level levels[] = {{0.5, "dt 3 lw 2"}, {0.8, "lw 2"}, {0.9, "dt 2 lw 2"}, {0.95, "dt 4 lw 2"}};
 
 std::string DataValue(double value) { return std::isnan(value) ? "NaN" : fmt::format("{:.9g}", value); }
 
@@ -92,30 +97,41 @@ std::string CurveCommands(const Picture& picture, const Canvas& canvas) {
                             picture.series.x.back(), style);
 }
 
-/// The lines of equal power alone, each level drawn with a character of its own.
-std::string LinesInCharacters() {
+/// The lines of equal power as data, each level for itself so that it can have its own style.
+std::string LevelData() {
   std::string text = "set contour base\nunset surface\n";
-  std::string plot;
   for (std::size_t i = 0; i < std::size(levels); ++i) {
     text += fmt::format("set cntrparam levels discrete {1}\nset table $level{0}\nsplot $chart\nunset table\n", i,
-                        levels[i]);
-    plot += fmt::format("{} $level{} using 1:2 with lines title 'power {}'", i == 0 ? "" : ",", i, levels[i]);
+                        levels[i].power);
   }
-  return text + "set key outside\nunset ylabel\nplot" + plot + "\n";
+  return text + "unset contour\nset surface\n";
 }
 
-/// Shades of power with labelled lines of equal power.
+/// The lines of equal power alone, each level drawn with a character of its own.
+std::string LinesInCharacters() {
+  std::string plot;
+  for (std::size_t i = 0; i < std::size(levels); ++i) {
+    plot += fmt::format("{} $level{} using 1:2 with lines title 'power {}'", i == 0 ? "" : ",", i, levels[i].power);
+  }
+  return LevelData() + "set key outside\nunset ylabel\nplot" + plot + "\n";
+}
+
+/// Shades of power with lines of equal power, told apart in a key: labels on lines that run close would cover each
+/// other.
 std::string Shades() {
-  std::string text;
-  for (double level : levels) text += fmt::format("{}{}", text.empty() ? "" : ",", level);
-  return "set contour base\nset cntrparam levels discrete " + text +
-         "\nset view map\nset pm3d map\nset cbrange [0:1]\nset cblabel \"power\"\n"
+  std::string lines;
+  for (std::size_t i = 0; i < std::size(levels); ++i) {
+    lines += fmt::format(", $level{} using 1:2:(0) with lines {} lc rgb '#222222' title 'power {}'", i, levels[i].line,
+                         levels[i].power);
+  }
+  return LevelData() +
+         "set view map\nset pm3d map\nset cbrange [0:1]\nset cblabel \"power\"\n"
          "set border 15\nunset grid\nset palette defined (0 '#f7fbff', 0.5 '#c6dbef', 0.8 '#9ecae1', 1 '#5a9bcb')\n"
          "set lmargin at screen 0.1\nset rmargin at screen 0.84\n"
-         "set tmargin at screen 0.87\nset bmargin at screen 0.13\n"
-         "set cntrlabel onecolor format '%.2f' start 20 interval 1000000 font ',11'\n"
-         "splot $chart with pm3d nocontour, $chart with lines lw 1.5 lc rgb '#222222' nosurface, "
-         "$chart with labels boxed nosurface\n";
+         "set tmargin at screen 0.87\nset bmargin at screen 0.18\n"
+         "set key on at screen 0.47,0.05 center center horizontal maxrows 1 samplen 3\n"
+         "splot $chart with pm3d notitle" +
+         lines + "\n";
 }
 
 std::string SurfaceCommands(const Picture& picture, const Canvas& canvas) {

@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
+#include <regex>
+#include <set>
 #include <sstream>
 
 #include "planner/catalogue.h"
@@ -85,11 +87,23 @@ TEST_F(ChartFiles, HoldTitlesAndMark) {
   EXPECT_EQ(Written(design + " --chart n", "curve.json"), RunProgram(Words(design + " --chart n --format json")).out);
 }
 
-TEST_F(ChartFiles, LabelTheLevelsOfASurface) {
+TEST_F(ChartFiles, NameTheLevelsOfASurface) {
   const std::string svg = Written(design + " --chart n-sd --from 12,2 --to 150,12", "surface.svg");
-  for (const char* level : {"0.50", "0.80", "0.90", "0.95", "standard deviation"}) {
-    EXPECT_TRUE(Holds(svg, level)) << level;
+  for (const char* text : {"power 0.5<", "power 0.8<", "power 0.9<", "power 0.95<", "standard deviation"}) {
+    EXPECT_TRUE(Holds(svg, text)) << text;
   }
+  const std::regex dashes("stroke-dasharray='[^']*'");
+  std::set<std::string> patterns;
+  for (std::sregex_iterator match(svg.begin(), svg.end(), dashes), end; match != end; ++match) {
+    patterns.insert(match->str());
+  }
+  EXPECT_EQ(patterns.size(), 3u);  // and the line of 0.8 is whole
+}
+
+TEST_F(ChartFiles, NameOnlyTheLevelsThatASurfaceHas) {
+  const std::string svg = Written(design + " --chart n-sd --from 12,6 --to 60,12", "low.svg");
+  EXPECT_TRUE(Holds(svg, "power 0.5<"));
+  EXPECT_FALSE(Holds(svg, "power 0.8<"));
 }
 
 TEST_F(ChartFiles, MayHaveAnyName) {
