@@ -129,7 +129,8 @@ double BetaFraction(double a, double b, long double c) {
 }
 
 // The same divided value as the sum 1 + y (a+b)/(a+1) (1 + y (a+b+1)/(a+2) (1 + ...)), Didonato and Morris (1992),
-// eq. 4. All terms are positive; a term costs a third of one of the fraction, but a comparison takes longer than a term.
+// eq. 4. All terms are positive; a term costs a third of one of the fraction, but a comparison takes longer than a
+// term.
 long double BetaSeries(long double a, long double y, long double yTimesAPlusB) {
   constexpr int termsAtOnce = 4;
   long double factor = yTimesAPlusB;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "beta_terms.h"
 #include "noncentral_f.h"
@@ -57,7 +58,7 @@ Design MakeDesign(double x, double df, double delta) {
   return {x,
           df,
           delta,
-          df / 2,
+          std::fmax(df / 2, std::numeric_limits<double>::min()),
           delta * delta / 2,
           c,
           static_cast<double>(y),

@@ -274,6 +274,16 @@ TEST(TAndF, SizesUpTo1e307) {
   }
 }
 
+// So few that t is infinite, on the side of the normal variable.
+TEST(TAndF, LeastDegreesOfFreedom) {
+  for (double df : {5e-324, 1e-323, 1e-310, 1e-300})
+    for (double x : {1e-300, 2.0, 1e300})
+      for (double delta : {0.0, 1.0, -3.0}) {
+        ExpectRelative(CdfT(x, df, delta), Dist::CdfStdNorm(-delta), 1e-15);
+        ExpectRelative(CdfT(-x, df, delta), Dist::CdfStdNorm(-delta), 1e-15);
+      }
+}
+
 // Critical values of few degrees of freedom reach the end of the doubles. References: the integral over the chi density
 // and the series in the inverse noncentrality, in 60 digits.
 TEST(TAndF, FarQuantilesOfFewDegreesOfFreedom) {
