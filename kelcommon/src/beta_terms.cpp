@@ -41,6 +41,8 @@ constexpr long double halfIntegerLogScaledGammas[] = {
 
 }  // namespace
 
+double HalfDegrees(double df) { return std::fmax(df / 2, std::numeric_limits<double>::min()); }
+
 long double LogScaledGamma(double x) {
   if (x >= 16) return StirlingCorrection(x);
   if (2 * x == std::floor(2 * x)) return halfIntegerLogScaledGammas[static_cast<int>(2 * x) - 1];

@@ -7,6 +7,9 @@
 
 namespace KelMath {
 
+/// Half the degrees of freedom, a shape of the beta distribution. Never 0, which half of the smallest double is.
+double HalfDegrees(double df);
+
 /// The logarithm of the scaled gamma function Gamma(x) / (sqrt(2 pi / x) (x / e)^x), x > 0; tends to 0 for large x.
 long double LogScaledGamma(double x);
 

@@ -12,12 +12,8 @@ using KelCommon::KelMV;
 
 namespace {
 
-// Half the degrees of freedom, the shape of the gamma distribution. The largest double stands for infinity.
-double HalfDegrees(double df) {
-  constexpr double least = std::numeric_limits<double>::min();
-  constexpr double largest = std::numeric_limits<double>::max() / 4;
-  return std::fmin(std::fmax(df / 2, least), largest);
-}
+// The shape of the gamma distribution of so many degrees of freedom. The largest double stands for infinity.
+double Shape(double df) { return std::fmin(HalfDegrees(df), std::numeric_limits<double>::max() / 4); }
 
 }  // namespace
 
@@ -26,8 +22,8 @@ double KelDistFun::IdfF(double p, double df1, double df2) noexcept {
   if (p < 0 || p > 1 || df1 <= 0 || df2 <= 0) return KelMV::Missing();
   if (p == 0) return 0;
   if (p == 1) return std::numeric_limits<double>::infinity();
-  const double a = HalfDegrees(df1);
-  const double b = HalfDegrees(df2);
+  const double a = Shape(df1);
+  const double b = Shape(df2);
   const long double odds = p <= 0.5 ? BetaQuantileOdds(a, b, p) : 1 / BetaQuantileOdds(b, a, 1 - p);
   return static_cast<double>(odds * (static_cast<long double>(b) / a));
 }
@@ -39,8 +35,8 @@ double KelDistFun::NonCentralCdfF(double x, double df1, double df2, double nonce
   if (x <= 0) return 0;
   if (std::isinf(x)) return 1;
   if (std::isinf(noncentrality)) return 0;
-  const double a = HalfDegrees(df1);
-  const double b = HalfDegrees(df2);
+  const double a = Shape(df1);
+  const double b = Shape(df2);
   const long double odds = static_cast<long double>(a) / b * x;
   const double probability = NoncentralBetaTails(a, b, noncentrality / 2, odds).lower;
   return std::fmin(std::fmax(probability, 0.0), 1.0);

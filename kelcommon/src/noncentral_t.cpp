@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 #include "beta_terms.h"
 #include "noncentral_f.h"
@@ -58,7 +57,7 @@ Design MakeDesign(double x, double df, double delta) {
   return {x,
           df,
           delta,
-          std::fmax(df / 2, std::numeric_limits<double>::min()),
+          HalfDegrees(df),
           delta * delta / 2,
           c,
           static_cast<double>(y),

@@ -22,7 +22,7 @@ double PositiveQuantile(double p, double df) {
   if (df == 2) return fromMiddle * std::sqrt(2 / (tail * (1 - tail)));
   // t^2 / df is the odds of a beta(1/2, df/2) variable. Near the middle its lower tail 2p - 1 is exact, outside its
   // upper tail.
-  const double b = std::fmax(df / 2, std::numeric_limits<double>::min());
+  const double b = HalfDegrees(df);
   const long double odds =
       fromMiddle < 0.25 ? BetaQuantileOdds(0.5, b, 2 * fromMiddle) : 1 / BetaQuantileOdds(b, 0.5, 2 * tail);
   return static_cast<double>(std::sqrt(odds * df));

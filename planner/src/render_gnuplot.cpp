@@ -10,7 +10,7 @@ namespace {
 
 struct Level {
   double power;
-  const char* line;
+  const char* style;
 };
 
 constexpr Level levels[] = {{0.5, "dt 3 lw 2"}, {0.8, "lw 2"}, {0.9, "dt 2 lw 2"}, {0.95, "dt 4 lw 2"}};
@@ -121,7 +121,7 @@ std::string LinesInCharacters() {
 std::string Shades() {
   std::string lines;
   for (std::size_t i = 0; i < std::size(levels); ++i) {
-    lines += fmt::format(", $level{} using 1:2:(0) with lines {} lc rgb '#222222' title 'power {}'", i, levels[i].line,
+    lines += fmt::format(", $level{} using 1:2:(0) with lines {} lc rgb '#222222' title 'power {}'", i, levels[i].style,
                          levels[i].power);
   }
   return LevelData() +

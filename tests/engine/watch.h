@@ -6,7 +6,7 @@
 namespace keltest {
 
 /// Ends the program when a call takes too long, and says which. Processor time is measured, in short slices, so that
-/// neither a busy machine matters nor one that stands still for a while.
+/// neither a busy machine matters nor one that stands still for a while. One at a time.
 class Watch {
 public:
   explicit Watch(const std::string& call);

@@ -148,7 +148,6 @@ TEST(PowerReversebymlr, StartsAtOneErrorDegreeOfFreedom) {
   EXPECT_EQ(PowerReversebymlrwES(0.01, 6, 2, 0.1, kRandom, 0, 0.05), 7);
 }
 
-// Searches that double the size up to half the largest double before they find it, or find that there is none.
 // At a level so small that the critical value is near 1e26, each power once took half a second.
 TEST(PowerReversebymlr, FindsSizesAtTinyLevels) {
   const double size = PowerReversebymlrwES(0.8, 12079, 1215, 41732, kRandom, 1, 1e-13);
@@ -157,6 +156,7 @@ TEST(PowerReversebymlr, FindsSizesAtTinyLevels) {
   EXPECT_EQ(PowerReversebymlrwES(kNaN, 12079, 1215, 41732, kRandom, 1, 1e-13), 12081);
 }
 
+// Searches that double the size up to half the largest double before they find it, or find that there is none.
 TEST(PowerReversebymlr, WalksToTheLargestSizes) {
   for (const int random : {kFixed, kRandom}) {
     EXPECT_TRUE(KelMV::IsMissing(PowerReversebymlrwES(0.8, 5, 5, 0, random, 1, 0.05)));

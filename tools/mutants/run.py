@@ -120,7 +120,8 @@ class Tests:
 
     def measure(self):
         """Runs all tests on the sources as they are."""
-        status, output = run(["ctest", "--output-on-failure", "--test-dir", str(self.directory), "-E", f"^({LEFT_OUT})$"])
+        status, output = run(["ctest", "--output-on-failure", "--test-dir", str(self.directory),
+                              "-E", f"^({LEFT_OUT})$"])
         if status != 0:
             raise ListError(f"the tests fail without any fault:\n{output}")
         for name, seconds in re.findall(r"Test +#\d+: (\S+) \.+ +Passed +([\d.]+) sec", output):
