@@ -204,6 +204,8 @@ UnitPoint Shift(UnitPoint point, double step) {
 // logarithm of the sought probability over the present one. Cubic convergence leaves nothing after a small miss. Far
 // above the quantile, where the function is flat, Newton's step is taken: it passes the quantile and comes back.
 constexpr double smallMiss = 1e-5;
+// Tiny shapes have a flat middle, where a miss of one rounding error asks for a step of hundreds.
+constexpr double smallStep = 1;
 constexpr double farAbove = -1;
 
 double LogTailStep(const BetaAtPoint& tails, double miss) {
@@ -260,7 +262,7 @@ UnitPoint BetaLowerQuantile(double probability, double a, double b) {
     (tails.lower < probability ? bracket.low : bracket.high) = logit;
     const double miss = std::log1p((probability - tails.lower) / tails.lower);
     const double step = LogTailStep(tails, miss);
-    if (std::fabs(miss) < smallMiss && std::isfinite(step)) return Shift(point, step);
+    if (std::fabs(miss) < smallMiss && std::fabs(step) < smallStep) return Shift(point, step);
     const double following = bracket.Inside(logit + step);
     if (following == logit) break;
     logit = following;

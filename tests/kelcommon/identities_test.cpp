@@ -105,6 +105,17 @@ TEST(Beta, HasTheClosedFormsOfAShapeOne) {
   }
 }
 
+// Nearly all mass is at the ends, and between them the probability rises by less than a rounding error.
+TEST(Beta, QuantilesOfTinyShapesAreInTheUnitInterval) {
+  for (double shape = 1e-21; shape < 1e-9; shape *= 1.01)
+    for (const double p : {0.3, 0.49999999999999994, 0.5, 0.50000000000000011, 0.7})
+      for (const double other : {shape, shape * 1.000000000000001}) {
+        const double x = KelDistFun::IdfBeta(p, shape, other);
+        EXPECT_GE(x, 0) << p << " " << shape;
+        EXPECT_LE(x, 1) << p << " " << shape;
+      }
+}
+
 TEST(Beta, QuantileUndoesTheProbability) {
   Draw draw;
   for (int i = 0; i < draws; ++i) {
