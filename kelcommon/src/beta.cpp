@@ -2,7 +2,8 @@
 #include <cmath>
 #include <limits>
 
-#include "incomplete_beta.h"
+#include "beta_quantile.h"
+#include "beta_tails.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 
@@ -29,7 +30,7 @@ double KelDistFun::CdfBeta(double x, double a, double b) noexcept {
   if (AllMassAt1(a, b)) return x >= 1 ? 1 : 0;
   if (x <= 0) return 0;
   if (x >= 1) return 1;
-  return IncompleteBeta(std::min(a, largest), std::min(b, largest), UnitPoint::FromX(x)).lower;
+  return EvaluateBeta(std::min(a, largest), std::min(b, largest), UnitPoint::FromX(x)).tails.lower;
 }
 
 double KelDistFun::IdfBeta(const double& p, const double& a, const double& b) noexcept {
@@ -44,8 +45,8 @@ double KelDistFun::IdfBeta(const double& p, const double& a, const double& b) no
   const double finiteA = std::min(a, largest);
   const double finiteB = std::min(b, largest);
   // The smaller probability is the one that has its digits.
-  if (p <= 0.5) return BetaLowerQuantile(p, finiteA, finiteB).x;
-  return BetaLowerQuantile(1 - p, finiteB, finiteA).y;
+  if (p <= 0.5) return 1 / (1 + finiteB / finiteA / BetaQuantileRatio(finiteA, finiteB, p, 1));
+  return 1 / (1 + finiteB / finiteA * BetaQuantileRatio(finiteB, finiteA, 1 - p, 1));
 }
 
 }  // namespace KelMath

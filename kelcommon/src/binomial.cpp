@@ -2,7 +2,7 @@
 #include <cmath>
 #include <limits>
 
-#include "incomplete_beta.h"
+#include "beta_tails.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 
@@ -37,7 +37,9 @@ double LowerProbability(double k, double n, double p) {
   if (p == 0) return 1;
   if (p == 1) return 0;
   if (p == 0.5 && n <= largestExactTrials && n == std::floor(n)) return SignTestProbability(k, n);
-  return IncompleteBeta(k + 1, n - k, UnitPoint::FromX(p)).upper;
+  // So too the median of an odd number of trials, however many.
+  if (p == 0.5 && 2 * k + 1 == n) return 0.5;
+  return EvaluateBeta(k + 1, n - k, UnitPoint::FromX(p)).tails.upper;
 }
 
 // The Cornish-Fisher expansion of the quantile to its second term, within the support.
@@ -107,7 +109,7 @@ double KelDistFun::PdfBin(double x, double n, double p, long& err) noexcept {
   if (p == 1) return x == n ? 1 : 0;
   if (x == 0) return std::exp(n * std::log1p(-p));
   if (x == n) return std::pow(p, n);
-  return BetaSlope(x, n - x, UnitPoint::FromX(p)) / x * (n / (n - x));
+  return EvaluateBetaDensity(x, n - x, UnitPoint::FromX(p)) / x * (n / (n - x));
 }
 
 double KelDistFun::PdfNegBin(double x, double r, double p, long& err) noexcept {
@@ -120,7 +122,7 @@ double KelDistFun::PdfNegBin(double x, double r, double p, long& err) noexcept {
   if (x < 0) return 0;
   if (x == 0) return std::pow(p, r);
   if (p == 1 || std::isinf(x) || std::isinf(r)) return 0;
-  return BetaSlope(r, x, UnitPoint::FromX(p)) / x;
+  return EvaluateBetaDensity(r, x, UnitPoint::FromX(p)) / x;
 }
 
 }  // namespace KelMath

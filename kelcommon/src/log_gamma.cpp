@@ -58,7 +58,7 @@ constexpr Rational logGammaFrom2To4 = {
      0.00013275442727840375}};
 
 // log(Gamma(1 + z)), 0 <= z <= 1.
-double LogGammaOf1Plus(double z) { return z * (z - 1) * (levelFrom1To2 + logGammaFrom1To2.At(z)); }
+double LogGammaOf1Plus(double z) { return z * LogGammaOf1PlusOver(z); }
 
 // log(Gamma(1 + x)) - (x + 1/2) log(x) + x - log(2 pi) / 2. The large part of log(x) comes as a product that is exact,
 // and is added last.
@@ -96,6 +96,11 @@ double LogScaledGamma(double x) {
   const double square = 1 / (x * x);
   const Rational& rest = x < 2 ? scaledGammaFrom1To2 : scaledGammaFrom2;
   return (1.0 / 12 - square * rest.At(square)) / x;
+}
+
+double LogGammaOf1PlusOver(double z) {
+  if (z <= 1) return (z - 1) * (levelFrom1To2 + logGammaFrom1To2.At(z));
+  return LogGammaOfPositive(1 + z) / z;
 }
 
 double KelDistFun::orvadnlgam(const double& x) noexcept {

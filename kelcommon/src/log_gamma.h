@@ -7,6 +7,9 @@ namespace KelMath {
 /// The absolute error is below 2e-17 from 1 on, and below 1.2e-16 times 1 more than the value up to 1.
 double LogScaledGamma(double x);
 
+/// log(Gamma(1 + z)) / z, z >= 0; minus Euler's constant at 0. The relative error is below 4e-16 up to 1.
+double LogGammaOf1PlusOver(double z);
+
 }  // namespace KelMath
 
 #endif

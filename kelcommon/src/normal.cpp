@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "double_double.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 #include "rational.h"
@@ -74,7 +75,7 @@ double NormalUpperTail(double z) {
   const double argument = z * rootHalf;
   const double probability = 0.5 * std::erfc(argument);
   if (!(argument > 0) || probability == 0) return probability;
-  const double rounding = std::fma(z, rootHalf, -argument) + z * rootHalfRest;
+  const double rounding = ProductRest(z, rootHalf, argument) + z * rootHalfRest;
   return probability * (1 - rounding * (argument + std::sqrt(argument * argument + fourOverPi)));
 }
 

@@ -1,7 +1,8 @@
 #include <cmath>
 #include <limits>
 
-#include "beta_terms.h"
+#include "beta_quantile.h"
+#include "half_degrees.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 #include "noncentral_t.h"
@@ -20,12 +21,10 @@ double PositiveQuantile(double p, double df) {
   const double fromMiddle = std::fabs(p - 0.5);
   if (df == 1) return fromMiddle < 0.25 ? std::tan(pi * fromMiddle) : 1 / std::tan(pi * tail);
   if (df == 2) return fromMiddle * std::sqrt(2 / (tail * (1 - tail)));
-  // t^2 / df is the odds of a beta(1/2, df/2) variable. Near the middle its lower tail 2p - 1 is exact, outside its
-  // upper tail.
+  // t^2 is a variable of F with 1 and df degrees of freedom. Near the middle its lower tail 2p - 1 is exact, outside
+  // its upper tail.
   const double b = HalfDegrees(df);
-  const long double odds =
-      fromMiddle < 0.25 ? BetaQuantileOdds(0.5, b, 2 * fromMiddle) : 1 / BetaQuantileOdds(b, 0.5, 2 * tail);
-  return static_cast<double>(std::sqrt(odds * df));
+  return fromMiddle < 0.25 ? BetaQuantileRatio(0.5, b, 2 * fromMiddle, 0.5) : BetaQuantileRatio(b, 0.5, 2 * tail, -0.5);
 }
 
 }  // namespace

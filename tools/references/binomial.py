@@ -24,12 +24,16 @@ def cdf(k, n, p):
     return beta_tails(mp.mpf(n) - k, mp.mpf(k) + 1, 1 - p, p)[0]
 
 
+# A lower probability this near to prob is prob: the median of an odd number of fair trials is 1/2 itself.
+TIE = mp.mpf(10) ** -35
+
+
 def quantile(prob, n, p):
     """The largest whole k whose lower probability does not exceed prob, -1 when there is none."""
     low, high = -1, math.ceil(n)
     while high - low > 1:
         middle = (low + high) // 2
-        if cdf(middle, n, p) <= prob:
+        if cdf(middle, n, p) <= prob + TIE:
             low = middle
         else:
             high = middle

@@ -1,0 +1,34 @@
+#ifndef KELCOMMON_SRC_BETA_DENSITY_H
+#define KELCOMMON_SRC_BETA_DENSITY_H
+
+#include "unit_point.h"
+
+namespace KelMath {
+
+/// (a + b) x - a, the distance from the mean, for shapes from 1e-140 to 1e290.
+double BetaExcess(double a, double b, const UnitPoint& point);
+
+/// The density x^a y^b / B(a, b) of the log-odds log(x / y) of a beta variable, y = 1 - x. What depends on the shapes
+/// alone is formed once. Shapes lie between 1e-20 and 1e290.
+class BetaDensity {
+public:
+  BetaDensity(double a, double b);
+
+  double At(const UnitPoint& point) const { return At(point, BetaExcess(a_, b_, point)); }
+  double At(const UnitPoint& point, double excess) const;
+
+  double A() const { return a_; }
+  double B() const { return b_; }
+
+private:
+  double a_;
+  double b_;
+  double root_;
+  double logGammas_;
+  DoubleDouble wholeOverA_;  // (a + b) / a
+  DoubleDouble wholeOverB_;
+};
+
+}  // namespace KelMath
+
+#endif

@@ -1,0 +1,88 @@
+#include "beta_power_law.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "log_gamma.h"
+#include "small_differences.h"
+
+// With C = Gamma(1+a) Gamma(1+b) / Gamma(1+a+b), so that a B(a, b) = C (a + b) / b, and
+//   S(x) = sum_{k>0} (1-b) ... (k-b) x^k / (k! (a+k)),
+// I_x(a, b) = b / (a + b) x^a (1 + a S(x)) / C (Abramowitz and Stegun (1964), 26.5.4 and 6.6.8), and so
+//   x = (p (a + b) / b)^(1/a) exp(log(C) / a - log(1 + a S(x)) / a).
+// A small shape magnifies errors of I by 1 / a. Here log(C) / a and log(1 + a S) / a are formed without that division
+// of an error: they keep their digits down to a = 0.
+
+namespace KelMath {
+
+namespace {
+
+// (log(Gamma(z + a)) - log(Gamma(z))) / a - log(z + a) for z >= 1, a number of the order of 1 / z.
+double LogGammaGrowth(double z, double a) {
+  const double ratio = a / z;
+  const double log1pOverA = ratio > 0 ? std::log1p(ratio) / ratio / z : 1 / z;
+  // (z - 1/2) log1p(a / z) / a - 1, of which the 1 is a part that cancels.
+  const double first = ratio < 0.1 ? Log1pMinusArgument(ratio) / ratio : z * log1pOverA - 1;
+  return first - log1pOverA / 2 + (LogScaledGamma(z + a) - LogScaledGamma(z)) / a;
+}
+
+// p^e, where `rest` is what the exponent e leaves out.
+double PowerOf(const DoubleDouble& p, double exponent, double rest) {
+  const double power = std::pow(p.hi, exponent);
+  if (power == 0 || std::isinf(power)) return power;
+  return power * std::exp(exponent * (p.lo / p.hi) + rest * std::log(p.hi));
+}
+
+struct Series {
+  double sum;
+  double slope;  // x times the derivative
+};
+
+Series SumSeries(double a, double b, double x) {
+  double power = 1;
+  Series series{0, 0};
+  for (int k = 1; k < 100; ++k) {
+    power *= (k - b) / k * x;
+    const double term = power / (a + k);
+    series.sum += term;
+    series.slope += k * term;
+    if (std::fabs(term) < 1e-17) break;
+  }
+  return series;
+}
+
+}  // namespace
+
+BetaPowerLaw::BetaPowerLaw(double a, double b, DoubleDouble p)
+    : a_(a),
+      b_(b),
+      share_(Product(p, Quotient(ExactSum(a, b), {b, 0}))),
+      logScale_(LogGammaOf1PlusOver(a) - LogGammaGrowth(1 + b, a)) {
+  const double exponent = 1 / a;
+  const double rest = -ProductRest(exponent, a, 1) / a;
+  const double pure = PowerOf(share_, exponent, rest) * std::exp(logScale_) / (1 + b + a);
+  x_ = pure;
+  if (IsPure()) return;
+  // Newton's method in log(x), within the range of the series.
+  const double end = std::min(0.5, mostArgument / b);
+  for (int i = 0; i < 30; ++i) {
+    const double x = std::min(x_, end);
+    const Series series = SumSeries(a, b, x);
+    bend_ = std::log1p(a * series.sum) / a;
+    const double miss = std::log(x / pure) + bend_;
+    x_ = x * std::exp(-miss / (1 + series.slope / (1 + a * series.sum)));
+    if (x_ > end && x == end) return;
+    if (std::fabs(x_ - x) < 1e-9 * x) break;
+  }
+  bend_ = std::log1p(a * SumSeries(a, b, x_).sum) / a;
+  x_ = pure * std::exp(-bend_);
+}
+
+double BetaPowerLaw::Ratio(double power) const {
+  const double exponent = power / a_;
+  const double rest = -ProductRest(exponent, a_, power) / a_;
+  return PowerOf(share_, exponent, rest) * std::exp(power * (logScale_ - bend_)) *
+         std::pow(b_ / (1 + b_ + a_) / a_ / (1 - x_), power);
+}
+
+}  // namespace KelMath

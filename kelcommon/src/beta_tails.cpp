@@ -1,0 +1,116 @@
+#include "beta_tails.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "beta_quotients.h"
+
+namespace KelMath {
+
+namespace {
+
+// A shape below this puts the whole mass at its end of the interval, to double precision.
+constexpr double negligibleShape = 1e-20;
+
+// Shapes above this are brought down to it: the distribution is then a step, or a gamma distribution within 1e-280 of
+// an end, and intermediate products stay finite.
+constexpr double largestShape = 1e280;
+
+// From this smaller shape on the quadrature is faster than the fraction, and rounds less.
+constexpr double quadratureShape = 1500;
+
+double QuotientOfTail(const BetaPlace& place) {
+  if (IsBetaSeriesShort(place)) return BetaQuotientBySeries(place);
+  if (std::min(place.a, place.b) > quadratureShape) return BetaQuotientByQuadrature(place);
+  return BetaQuotientByFraction(place);
+}
+
+// Negative where no method gives it.
+double LowerTail(const BetaPlace& place, double density) {
+  return density > 0 ? std::min(density * QuotientOfTail(place), 1.0) : 0;
+}
+
+// The lower tail is computed first: its series is short, or x is not far above the mean, where the fraction is fast.
+bool IsLowerFirst(const BetaPlace& place) {
+  if (IsBetaSeriesShort(place)) return true;
+  return place.excess + 2 * place.point.x.hi <= 1 && !IsBetaSeriesShort(place.Mirrored());
+}
+
+Tails TailsAt(const BetaPlace& place, double density, double largestSubtrahend) {
+  const double lower = LowerTail(place, density);
+  if (lower > largestSubtrahend) {
+    const double upper = LowerTail(place.Mirrored(), density);
+    if (upper >= 0) return {1 - upper, upper};
+  }
+  return {lower, 1 - lower};
+}
+
+// A probability is asked for its absolute error first.
+constexpr double subtrahendOfProbability = 0.9;
+
+struct ScaledShapes {
+  double a;
+  double b;
+  UnitPoint point;
+};
+
+DoubleDouble Times(const DoubleDouble& value, double factor) { return {value.hi * factor, value.lo * factor}; }
+
+// Brings the larger shape down to the largest shape. A small other shape makes this a gamma distribution of large *
+// near, with `near` the distance to the near end; two large ones a step at a / (a + b).
+void ScaleDown(double& large, double& other, DoubleDouble& near, DoubleDouble& far) {
+  const double factor = large / largestShape;
+  large = largestShape;
+  if (other > 1e100) {
+    other /= factor;
+  } else {
+    near = near.hi * factor < 0.5 ? Times(near, factor) : DoubleDouble{0.5, 0};
+    far = ExactSum(1, -near.hi);
+    far.lo -= near.lo;
+  }
+}
+
+ScaledShapes Scale(double a, double b, const UnitPoint& point) {
+  ScaledShapes scaled{a, b, point};
+  if (std::max(a, b) <= largestShape) return scaled;
+  if (b >= a)
+    ScaleDown(scaled.b, scaled.a, scaled.point.x, scaled.point.y);
+  else
+    ScaleDown(scaled.a, scaled.b, scaled.point.y, scaled.point.x);
+  return scaled;
+}
+
+// A distribution whose mass lies at the ends, b / (a + b) of it at 0.
+Tails TwoPointTails(double a, double b) {
+  if (b >= negligibleShape) return {1, 0};
+  if (a >= negligibleShape) return {0, 1};
+  const double ratio = a / b;
+  return {1 / (1 + ratio), ratio / (1 + ratio)};
+}
+
+}  // namespace
+
+TailsAndDensity EvaluateBeta(const BetaDensity& densityOfLogOdds, const UnitPoint& point, double largestSubtrahend) {
+  const double a = densityOfLogOdds.A();
+  const double b = densityOfLogOdds.B();
+  const double excess = BetaExcess(a, b, point);
+  const double density = densityOfLogOdds.At(point, excess);
+  const BetaPlace place{a, b, point, excess};
+  const Tails tails = IsLowerFirst(place) ? TailsAt(place, density, largestSubtrahend)
+                                          : TailsAt(place.Mirrored(), density, largestSubtrahend).Mirrored();
+  return {tails, density, excess};
+}
+
+TailsAndDensity EvaluateBeta(double a, double b, const UnitPoint& point) {
+  if (a < negligibleShape || b < negligibleShape) return {TwoPointTails(a, b), 0, 0};
+  const ScaledShapes scaled = Scale(a, b, point);
+  return EvaluateBeta(BetaDensity(scaled.a, scaled.b), scaled.point, subtrahendOfProbability);
+}
+
+double EvaluateBetaDensity(double a, double b, const UnitPoint& point) {
+  if (a < negligibleShape || b < negligibleShape) return std::min(a, b) * (a > b ? a / (a + b) : b / (a + b));
+  const ScaledShapes scaled = Scale(a, b, point);
+  return BetaDensity(scaled.a, scaled.b).At(scaled.point);
+}
+
+}  // namespace KelMath
