@@ -57,8 +57,8 @@ constexpr Rational logGammaFrom2To4 = {
     {1.0, 2.3440122829977432, 1.9772907617224122, 0.7375488175865041, 0.1216015588506399, 0.007781179373730949,
      0.00013275442727840375}};
 
-// log(Gamma(1 + z)), 0 <= z <= 1.
-double LogGammaOf1Plus(double z) { return z * LogGammaOf1PlusOver(z); }
+// log(Gamma(1 + z)), 0 <= z <= 1; 0 is added to give 0 at z = 0 and not -0.
+double LogGammaOf1Plus(double z) { return z * LogGammaOf1PlusOver(z) + 0; }
 
 // log(Gamma(1 + x)) - (x + 1/2) log(x) + x - log(2 pi) / 2. The large part of log(x) comes as a product that is exact,
 // and is added last.

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 
+#include "kelcommon/kel_dist_fun.h"
+
 // The function that the library hides.
 namespace {
 
@@ -35,6 +37,13 @@ TEST(LogScaledGamma, ObeysTheRecurrence) {
   for (double x = 0.0625; x < 40; x += 0.03125) {
     const double step = (x + 0.5) * std::log1p(1 / x) - 1;
     EXPECT_NEAR(LogScaledGamma(x), LogScaledGamma(x + 1) + step, 1e-15) << x;
+  }
+}
+
+TEST(LogGamma, IsZeroWithoutASignAtOneAndTwo) {
+  for (double x : {1.0, 2.0}) {
+    EXPECT_EQ(KelMath::KelDistFun::orvadnlgam(x), 0) << x;
+    EXPECT_FALSE(std::signbit(KelMath::KelDistFun::orvadnlgam(x))) << x;
   }
 }
 
