@@ -71,7 +71,7 @@ void WriteFunction(std::ostream& out, const Function& function, const std::map<F
   out << "Method: " << method.method << "\n\nSource: " << method.source << "\n\n";
   const bool hasSmall = function.kind == Kind::probability;
   out << "| Region | Cases | Largest absolute error | at | Largest relative error | at |"
-      << (hasSmall ? " Relative error of values up to 1e-10 |" : "") << " Median time (ns) | Longest (ns) |\n";
+      << (hasSmall ? " Relative error of values up to 1e-12 |" : "") << " Median time (ns) | Longest (ns) |\n";
   out << "|---|---|---|---|---|---|---|---|" << (hasSmall ? "---|" : "") << "\n";
   for (const auto& [key, worst] : measured) {
     if (key.first != function.name) continue;
@@ -115,8 +115,8 @@ void WritePage(std::ostream& out, const std::vector<ReferenceRow>& rows) {
          "nothing "
          "more.\n\n"
          "The error is the distance from the reference. Relative errors of probabilities are given for values above "
-         "1e-10, "
-         "and\nfor those from 1e-290 to 1e-10 in a column of their own; of the logarithm of the gamma function where "
+         "1e-12, "
+         "and\nfor those from 1e-290 to 1e-12 in a column of their own; of the logarithm of the gamma function where "
          "it "
          "exceeds 1.\nArguments are in the order of the call. An error of `inf` is a wrong count, error code or "
          "special "
