@@ -76,7 +76,8 @@ def write_searched(folder, found):
         for region in all_regions():
             key = region.function, region.name
             if key in found.evaluations:
-                ranges = "; ".join(f"{axis} {range_}" for axis, range_ in region.ranges.items())
+                texts = [f"{axis} {range_}" for axis, range_ in region.ranges.items()]
+                ranges = "; ".join(text for text in texts if text not in region.name)
                 out.writerow([*key, found.evaluations[key], " ".join(map(str, sorted(found.seeds[key]))), ranges])
 
 
