@@ -20,7 +20,7 @@ namespace {
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
 // Smaller probabilities are promised an absolute error only; below the second the digits of a double thin out.
-constexpr double leastRelativeProbability = 1e-10;
+constexpr double leastRelativeProbability = 1e-12;
 constexpr double leastProbability = 1e-290;
 
 // An error code that no function gives shows a function that does not write it.
@@ -211,7 +211,7 @@ std::map<FunctionRegion, Error> ReadAchieved(const std::string& path) {
 
 void WriteAchieved(const std::string& path, const std::map<FunctionRegion, Worst>& measured) {
   std::ofstream file(path);
-  file << "function,region,absolute,relative,relative of values up to 1e-10\n";
+  file << "function,region,absolute,relative,relative of values up to 1e-12\n";
   for (const auto& [key, worst] : measured)
     file << key.first << ',' << key.second << ',' << Shortest(worst.largest.absolute) << ','
          << Shortest(worst.largest.relative) << ',' << Shortest(worst.largest.relativeOfSmall) << '\n';

@@ -47,8 +47,8 @@ std::vector<ReferenceRow> ReadReferences(const std::string& folder);
 /// The distance of a result from its reference.
 struct Error {
   double absolute;
-  double relative;         ///< of probabilities above 1e-10 and of every other result
-  double relativeOfSmall;  ///< of probabilities from 1e-290 to 1e-10, which are held to what has been achieved only
+  double relative;         ///< of probabilities above 1e-12 and of every other result
+  double relativeOfSmall;  ///< of probabilities from 1e-290 to 1e-12, which are held to what has been achieved only
 };
 
 /// The median of a symmetric distribution is compared with 0 itself, where the independent set has the noise of its

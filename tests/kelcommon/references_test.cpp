@@ -11,6 +11,7 @@ namespace {
 constexpr double probabilityAbsolute = 1e-14;
 constexpr double probabilityRelative = 1e-12;
 constexpr double quantileRelative = 1e-13;
+constexpr double tAndFQuantileRelative = 1e-15;
 constexpr double logarithmRelative = 1e-14;
 
 // Another mathematics library may round differently: two units in the last place of 1, and a tenth.
@@ -19,13 +20,18 @@ constexpr double allowedIncrease = 4.5e-16;
 
 const std::string folder = KELCOMMON_REFERENCES;
 
+// A quantile of the beta distribution is worse conditioned than those of t and F: with a shape a it follows p^(1/a).
+double QuantileBound(const Function& function) {
+  return function.name == "IdfT" || function.name == "IdfF" ? tAndFQuantileRelative : quantileRelative;
+}
+
 void ExpectHardBounds(const Function& function, const Error& largest) {
   switch (function.kind) {
     case Kind::probability:
       EXPECT_LE(largest.absolute, probabilityAbsolute);
       EXPECT_LE(largest.relative, probabilityRelative);
       break;
-    case Kind::quantile: EXPECT_LE(largest.relative, quantileRelative); break;
+    case Kind::quantile: EXPECT_LE(largest.relative, QuantileBound(function)); break;
     case Kind::count: EXPECT_EQ(largest.absolute, 0); break;
     case Kind::logarithm: EXPECT_LE(largest.relative, logarithmRelative); break;
   }
@@ -59,7 +65,7 @@ TEST_P(References, ErrorsStayWithinBoundsAndDoNotGrow) {
     cases += worst.cases;
     const std::string text = key.second + ": " + std::to_string(worst.cases) + " cases, absolute " +
                              Shortest(worst.largest.absolute) + ", relative " + Shortest(worst.largest.relative) +
-                             ", of values up to 1e-10 " + Shortest(worst.largest.relativeOfSmall) +
+                             ", of values up to 1e-12 " + Shortest(worst.largest.relativeOfSmall) +
                              "\n  worst absolute " + DescribeResult(*worst.byAbsolute) + "\n  worst relative " +
                              DescribeResult(*worst.byRelative);
     std::printf("%s\n", text.c_str());

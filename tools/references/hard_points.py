@@ -1,0 +1,60 @@
+"""Arguments that are known to be hard, each with the reason; kept in the references whatever a search finds."""
+import math
+
+HARD = "hard points"
+
+POINTS = {
+    "NonCentralCdfT": [
+        # 4 df overflows.
+        (-2.5758, 1e308, 0.658), (2.5758, 1e308, -0.658),
+        # Few degrees of freedom: the lower tail decays slowly in the noncentrality.
+        (9.45826725069807, 0.6544135886965259, 82.05397126945694),
+        (-9.45826725069807, 0.6544135886965259, -82.05397126945694),
+        # An upper tail far out, by mirrored arguments.
+        (-83.32140511898449, 1e5, -60.0), (83.32140511898449, 1e5, 60.0),
+    ],
+    "NonCentralCdfF": [
+        # With so many numerator degrees of freedom a sum from j = 0 on has more terms than any limit.
+        (1.0, 2e9, 2e8, 10.0),
+        (0.9992648146617316, 9496203.619284896, 127577.27587278091, 0.0012679852141533141),
+        # Few denominator degrees of freedom, in the lower tail.
+        (4.381326810060992, 20.31982724897139, 0.7719579085817929, 5621.337105137117),
+    ],
+    "IdfBeta": [
+        # The quantile is near 1e-1375, and mirrored 1.
+        (0.39260395588132657, 0.0002960181908180621, 873.5970025551417),
+        (1 - 0.39260395588132657, 873.5970025551417, 0.0002960181908180621),
+    ],
+}
+
+
+def wrong_side_points():
+    """The noncentral t at x < 0 < delta and mirrored, around the places where a method for it may change.
+
+    z is the normal deviate that has about this tail: near 2.7 sums begin to cancel. 3.6 and 100 degrees of freedom, and
+    a noncentrality of 10, are such places too.
+    """
+    for delta in (0.1, 1.0, 3.0, 6.5):
+        for df in (0.5, 1.0, 3.59, 3.61, 10.0, 99.9, 100.1, 1000.0, 1e6):
+            for z in (2.6, 2.69, 2.71, 3.0, 5.0, 6.9):
+                # (x + delta) / sqrt(1 + x^2 / (2 df)) = z, squared, for x.
+                bend = 1 - z * z / (2 * df)
+                root = delta * delta - bend * (delta * delta - z * z)
+                if z <= delta or root < 0:
+                    continue
+                x = (z * z - delta * delta) / (delta + math.sqrt(root))
+                yield (-x, df, delta)
+                yield (x, df, -delta)
+    for delta in (9.99, 10.01, 38.9, 39.1):
+        for df in (0.5, 3.0, 50.0, 1e5):
+            yield (-0.5, df, delta)
+            yield (-2.0, df, delta)
+
+
+def hard_points():
+    """Function, arguments and region."""
+    for function, points in POINTS.items():
+        for arguments in points:
+            yield function, arguments, HARD
+    for arguments in wrong_side_points():
+        yield "NonCentralCdfT", arguments, "wrong side of 0"

@@ -1,0 +1,116 @@
+#!/usr/bin/env python3
+"""Searches for the largest errors of a built libkelcommon against values in ball arithmetic.
+
+In every region random starts are drawn; from the worst of them a climb takes random steps of all sizes and keeps those
+that do not lessen the error. The same seed, budget and library give the same points.
+
+Usage: search_worst.py libkelcommon.so [--function NAME] [--region TEXT] [--planning] [--seed N] [--starts N]
+       [--climbs N] [--steps N] [--output file.csv]                             (needs python-flint)
+"""
+import argparse
+import csv
+import random
+import sys
+import time
+
+from library import load
+from search_points import OUTSIDE, measure
+from search_regions import all_regions
+
+
+class Search:
+    def __init__(self, functions, region, options):
+        self.functions = functions
+        self.region = region
+        self.options = options
+        self.rng = random.Random(f"{options.seed} {region.function} {region.name}")
+        self.evaluations = 0
+        self.failures = 0
+
+    def measure(self, point, whole):
+        self.evaluations += 1
+        try:
+            return measure(self.functions, self.region, point, whole)
+        except (ArithmeticError, ValueError) as error:
+            self.failures += 1
+            print(f"no reference: {self.region.function}, {self.region.name}: {error}", file=sys.stderr)
+            return OUTSIDE
+
+    def start(self):
+        size = len(self.region.ranges)
+        point = [self.rng.random() for _ in range(size)]
+        whole = [self.rng.random() < 0.4 for _ in range(size)]
+        return self.measure(point, whole), point, whole
+
+    def neighbour(self, point):
+        """A step in one or in all coordinates, reflected at the borders."""
+        size = 10 ** -self.rng.uniform(0.3, 9)
+        chosen = self.rng.choice([None, *range(len(point))])
+        steps = [self.rng.gauss(0, size) if chosen in (None, i) else 0 for i in range(len(point))]
+        return [min(abs(u + step), 2 - abs(u + step)) if abs(u + step) < 2 else u for u, step in zip(point, steps)]
+
+    def climb(self, finding, point, whole):
+        for _ in range(self.options.steps):
+            neighbour = self.neighbour(point)
+            found = self.measure(neighbour, whole)
+            if found.score >= finding.score:
+                finding, point = found, neighbour
+        return finding
+
+    def run(self):
+        """The worst findings, each of a climb of its own, worst first."""
+        starts = sorted((self.start() for _ in range(self.options.starts)), key=lambda s: -s[0].score)
+        found = [self.climb(*start) for start in starts[:self.options.climbs]]
+        counted = {finding.arguments: finding for finding in found if finding.score >= 0}
+        return sorted(counted.values(), key=lambda finding: -finding.score)
+
+
+def report(region, search, findings, seconds, options, out):
+    worst = findings[0].score if findings else 0
+    print(f"{region.function}, {region.name}: {worst:.3g} of the bound in {search.evaluations} evaluations, "
+          f"{seconds:.1f} s" + (f", {search.failures} without reference" if search.failures else ""), flush=True)
+    for finding in findings[:options.show]:
+        print(f"    {finding.score:.3g}: {', '.join(map(repr, finding.arguments))} = {finding.got!r}, "
+              f"reference {finding.reference!r}, absolute {finding.absolute:.2g}, relative {finding.relative:.2g}",
+              flush=True)
+    if out:
+        for finding in findings:
+            out.writerow([region.function, region.name, search.evaluations, options.seed, repr(finding.score),
+                          repr(finding.got), repr(finding.reference), *map(repr, finding.arguments)])
+
+
+def parse(arguments):
+    parser = argparse.ArgumentParser(description="Searches for the largest errors of libkelcommon.")
+    parser.add_argument("library")
+    parser.add_argument("--function", help="only this one")
+    parser.add_argument("--region", default="", help="only regions whose name contains this")
+    parser.add_argument("--planning", action="store_true", help="no regions beyond planning")
+    parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--starts", type=int, default=200)
+    parser.add_argument("--climbs", type=int, default=5)
+    parser.add_argument("--steps", type=int, default=60)
+    parser.add_argument("--show", type=int, default=2, help="findings printed per region")
+    parser.add_argument("--output", help="file to which the findings are appended")
+    return parser.parse_args(arguments)
+
+
+def main():
+    options = parse(sys.argv[1:])
+    functions = load(options.library)
+    file = open(options.output, "a", newline="") if options.output else None
+    out = csv.writer(file, lineterminator="\n") if file else None
+    for region in all_regions():
+        if options.function not in (None, region.function) or options.region not in region.name:
+            continue
+        if options.planning and region.is_beyond:
+            continue
+        search = Search(functions, region, options)
+        begin = time.monotonic()
+        findings = search.run()
+        report(region, search, findings, time.monotonic() - begin, options, out)
+        if file:
+            file.flush()
+
+
+if __name__ == "__main__":
+    main()
