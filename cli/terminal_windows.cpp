@@ -26,8 +26,7 @@ bool IsTerminal(std::FILE* stream) {
 bool ShowsColors(std::FILE* stream) {
   DWORD mode = 0;
   const HANDLE console = HandleOf(stream);
-  return GetConsoleMode(console, &mode) != 0 &&
-         SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+  return GetConsoleMode(console, &mode) != 0 && SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
 }
 
 TerminalSize WindowOf(std::FILE* stream) {

@@ -30,10 +30,6 @@ target_compile_definitions(fmt::fmt INTERFACE FMT_HEADER_ONLY)
 kel_header_package(nlohmann_json nlohmann nlohmann_json::nlohmann_json)
 kel_header_package(CLI11 CLI CLI11::CLI11)
 kel_header_package(FastFloat fast_float FastFloat::fast_float)
-if(EXISTS /usr/include/boost)
-  kel_header_package(Boost boost Boost::headers)
-  set(KELCOMMON_BOOST_INCLUDE_DIR ${KEL_HEADERS} CACHE PATH "Folder of Boost's headers")
-endif()
 
 # GoogleTest, compiled once for all tests.
 if(KELPOWER_BUILD_TESTS)
