@@ -69,3 +69,15 @@ function(kel_register_test name)
     add_dependencies(tests_${folder} ${program})
   endif()
 endfunction()
+
+# Registers a test that runs the program `target` with ARGUMENTS and compares what it prints with the file EXPECTED, and
+# its exit status with STATUS, which is 0 unless given.
+function(kel_add_output_test name target)
+  cmake_parse_arguments(PARSE_ARGV 2 ARG "" "EXPECTED;STATUS" "LABELS;ARGUMENTS")
+  if(NOT DEFINED ARG_STATUS)
+    set(ARG_STATUS 0)
+  endif()
+  set(run ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:${target}> ${ARG_ARGUMENTS})
+  kel_register_test(${name} LABELS ${ARG_LABELS} COMMAND ${CMAKE_COMMAND} -D "RUN=${run}" -D EXPECTED=${ARG_EXPECTED}
+    -D STATUS=${ARG_STATUS} -P ${PROJECT_SOURCE_DIR}/tests/support/compare_output.cmake)
+endfunction()
