@@ -8,12 +8,20 @@ FUZZ_SECONDS ?= 60
 FUZZ_SEED ?= 0
 JOBS := $(shell nproc)
 
-.PHONY: run test build bench bench-peers lint format install accuracy fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
+# The folders of the tests without the program, the packages and the tools.
+CORE := kelcommon engine vectors frame anova means proportions correlation regression planner
+space := $() $()
+PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
+
+.PHONY: help run test test-core $(PLATFORMS) build bench bench-peers lint format install accuracy fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
 
 run: build ## build and plan a real study
 	@sh tools/run_example.sh $(BUILD)/cli/kelpower
 
-build: configure-$(PRESET)
+help: ## list these commands
+	@sed -n 's/^\([a-z][a-z0-9 -]*\):.*## \(.*\)/\1\t\2/p' Makefile | expand -t 34
+
+build: configure-$(PRESET) ## build libraries, program and tests
 	@cmake --build $(BUILD) -j $(JOBS)
 
 configure-%:
@@ -22,6 +30,28 @@ configure-%:
 
 test: build ## build and pass all tests
 	@ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
+
+test-core: configure-$(PRESET) ## the quick loop: build and pass the tests of the distributions, the core and the planner
+	@cmake --build $(BUILD) -j $(JOBS) --target $(CORE:%=tests_%)
+	@ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS) -LE '^long$$' -L '^($(subst $(space),|,$(CORE)))$$'
+
+test-clang: ## all tests, compiled with clang
+	@sh tools/install_packages.sh build clang
+	@$(MAKE) --no-print-directory test PRESET=clang
+
+test-arm64 test-wasm: test-%: cross-% ## the tests on 64-bit Arm in an emulator, and as WebAssembly in Node
+	@ctest --preset $* -j $(JOBS)
+
+test-windows: cross-windows ## the tests for 64-bit Windows, under Wine
+	@sh tools/test_windows.sh build/windows $(JOBS)
+
+cross-%:
+	@sh tools/install_packages.sh build $*
+	@cmake --preset $* -Wno-dev --log-level=WARNING
+	@cmake --build --preset $* -j $(JOBS)
+
+test-fma: configure-fma ## the distributions and the reference cases with products and sums fused
+	@sh tools/test_fma.sh build/fma $(JOBS)
 
 bench: build ## measure speed
 	$(BUILD)/bench/kelpower_bench

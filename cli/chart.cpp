@@ -7,8 +7,8 @@
 #include <cstring>
 #include <stdexcept>
 
-#include "computation.h"
 #include "gnuplot.h"
+#include "interrupts.h"
 #include "planner/draw.h"
 #include "planner/error.h"
 #include "terminal.h"

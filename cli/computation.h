@@ -1,7 +1,6 @@
 #pragma once
 
 #include <chrono>
-#include <csignal>
 #include <cstdint>
 #include <string>
 
@@ -31,16 +30,4 @@ private:
   std::uint32_t questionsLeft_;  // until the clock is looked at
   Clock::time_point start_ = Clock::now();
   Clock::time_point nextLine_;
-};
-
-/// While it lives Ctrl-C waits, so that what has been begun is finished.
-class InterruptsWait {
-public:
-  InterruptsWait();
-  ~InterruptsWait();
-  InterruptsWait(const InterruptsWait&) = delete;
-  InterruptsWait& operator=(const InterruptsWait&) = delete;
-
-private:
-  sigset_t before_;
 };

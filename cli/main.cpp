@@ -76,6 +76,7 @@ Status Complain(const std::exception& error, Status status) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  PrepareStandardStreams();
   try {
     return Print(Answer(ParseArguments(argc, argv), PaintFor(stdout)));
   } catch (const planner::InputError& error) {

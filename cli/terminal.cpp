@@ -1,8 +1,5 @@
 #include "terminal.h"
 
-#include <sys/ioctl.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstdlib>
 #include <string_view>
@@ -17,16 +14,17 @@ std::string_view Environment(const char* name) {
 }  // namespace
 
 planner::Paint PaintFor(std::FILE* stream) {
-  if (isatty(fileno(stream)) == 0) return {};
+  if (!IsTerminal(stream)) return {};
   if (!Environment("NO_COLOR").empty()) return {};
   if (Environment("TERM") == "dumb") return {};
+  if (!ShowsColors(stream)) return {};
   return {"\033[1m", "\033[1;36m", "\033[0m"};
 }
 
 TerminalSize SizeOf(std::FILE* stream) {
   constexpr TerminalSize usual{79, 24};
   constexpr TerminalSize least{40, 12};  // less leaves no room for a chart
-  winsize size{};
-  if (ioctl(fileno(stream), TIOCGWINSZ, &size) != 0 || size.ws_col == 0 || size.ws_row == 0) return usual;
-  return {std::max(size.ws_col - 1, least.columns), std::max(size.ws_row - 1, least.lines)};
+  const TerminalSize window = WindowOf(stream);
+  if (window.columns == 0 || window.lines == 0) return usual;
+  return {std::max(window.columns - 1, least.columns), std::max(window.lines - 1, least.lines)};
 }

@@ -20,7 +20,7 @@
 #include <cstdint>
 #include <vector>
 
-#if defined(__GNUC__)
+#if defined(__GNUC__) && !defined(_WIN32)
 #define KELPOWER_API __attribute__((visibility("default")))
 #else
 #define KELPOWER_API

@@ -1,5 +1,6 @@
 #!/bin/sh
-# Installs the Debian packages of the named groups that are missing: build, lint, fuzz, valgrind, peers.
+# Installs the Debian packages of the named groups that are missing: build, clang, arm64, wasm, windows, lint, fuzz,
+# valgrind, peers.
 # Says what it does, and is silent and quick when nothing is missing.
 set -eu
 
@@ -8,6 +9,10 @@ for group in "$@"; do
   case $group in
     build) packages="$packages g++ cmake ninja-build pkg-config python3 libfast-float-dev libcli11-dev libfmt-dev
                      nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev gnuplot-nox" ;;
+    clang) packages="$packages clang" ;;
+    arm64) packages="$packages g++-aarch64-linux-gnu qemu-user googletest" ;;
+    wasm) packages="$packages emscripten googletest" ;;
+    windows) packages="$packages g++-mingw-w64-x86-64-posix wine wine64 googletest" ;;
     lint) packages="$packages clang-format clang-tidy" ;;
     fuzz) packages="$packages clang libclang-rt-14-dev" ;;
     valgrind) packages="$packages valgrind" ;;

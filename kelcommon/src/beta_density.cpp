@@ -38,6 +38,11 @@ double Power(double a, const DoubleDouble& wholeOverA, const DoubleDouble& share
   return std::pow(ratio.hi, a) * (1 + a * (ratio.lo / ratio.hi));
 }
 
+// (a + b) / a, in one double where no power is taken of it.
+DoubleDouble WholeOver(double a, double b) {
+  return a < largestPowerShape ? Quotient(ExactSum(a, b), {a, 0}) : DoubleDouble{(a + b) / a, 0};
+}
+
 }  // namespace
 
 double BetaExcess(double a, double b, const UnitPoint& point) {
@@ -52,8 +57,8 @@ BetaDensity::BetaDensity(double a, double b)
       b_(b),
       root_(std::sqrt(std::min(a, b) / twoPi * (std::max(a, b) / (a + b)))),
       logGammas_(LogScaledGamma(a + b) - (LogScaledGamma(a) + LogScaledGamma(b))),
-      wholeOverA_(Quotient(ExactSum(a, b), {a, 0})),
-      wholeOverB_(Quotient(ExactSum(a, b), {b, 0})) {}
+      wholeOverA_(WholeOver(a, b)),
+      wholeOverB_(WholeOver(b, a)) {}
 
 double BetaDensity::At(const UnitPoint& point, double excess) const {
   double powers = 1;

@@ -55,7 +55,8 @@ void Spread(const Test& test, Given& values, int groups) {
     const auto found = values.find(parameter.name);
     if (parameter.kind != Kind::PerGroup || found == values.end()) continue;
     Numbers& numbers = std::get<Numbers>(found->second);
-    if (parameter.spreads && numbers.size() == 1) numbers.assign(count, numbers.front());
+    // Not by assign, which may not be given a reference into its own vector.
+    if (parameter.spreads && numbers.size() == 1) numbers = Numbers(count, numbers.front());
     if (numbers.size() == count) continue;
     const char* entries = numbers.size() == 1 ? "entry" : "entries";
     throw InputError(

@@ -44,7 +44,7 @@ void WriteAchieved(const std::string& path, const Achieved& achieved) {
     }
     text += "}";
   }
-  std::ofstream file(path);
+  std::ofstream file(path, std::ios::binary);
   file << text << "\n}\n";
   if (!file.flush()) throw std::runtime_error("cannot write " + path);
 }

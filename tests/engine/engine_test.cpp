@@ -11,6 +11,7 @@
 #include <limits>
 
 #include "achieved.h"
+#include "support/platform.h"
 
 namespace {
 
@@ -283,6 +284,18 @@ TEST(Achieved, FileKeepsWhatIsWritten) {
   EXPECT_EQ(read.at("Echo")[0], 1.25e-12);
   EXPECT_EQ(read.at("Other")[1], 3e-16);
   EXPECT_TRUE(ReadAchieved(path).empty());
+}
+
+TEST(Achieved, APlatformMayHaveAFileOfItsOwn) {
+  EXPECT_EQ(FileOfPlatform("means.achieved.json", ""), "means.achieved.json");
+  EXPECT_EQ(FileOfPlatform("means.achieved.json", "arm64"), "means.achieved-arm64.json");
+  const std::string common = ::testing::TempDir() + "kelpower_achieved.json";
+  const std::string own = FileOfPlatform(common, "arm64");
+  EXPECT_EQ(FileToCompareWith(common, "arm64"), common);
+  WriteAchieved(own, {});
+  EXPECT_EQ(FileToCompareWith(common, "arm64"), own);
+  EXPECT_EQ(FileToCompareWith(common, "wasm"), common);
+  std::remove(own.c_str());
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 
 #include "achieved.h"
 #include "engine.h"
+#include "support/platform.h"
 
 namespace {
 
@@ -16,7 +17,8 @@ using namespace keltest;
 constexpr const char* kUsage =
     "usage: kelpower_vectors [options] cases.jsonl...\n"
     "Calls the function of every case and compares what it gives with the reference.\n"
-    "  --achieved FILE  fail too when a function's largest difference has grown beyond that stored in FILE\n"
+    "  --achieved FILE  fail too when a function's largest difference has grown beyond that stored in FILE,\n"
+    "                   or in the file that this platform has beside it\n"
     "  --update         store the differences of this run in that file instead\n"
     "  --function NAME  only the cases of this function\n"
     "  --line N         only the case on this line\n"
@@ -117,10 +119,10 @@ std::size_t CompareWithStored(const Options& options, const std::map<std::string
   if (options.achieved.empty()) return 0;
   const Achieved measured = Measured(summaries);
   if (options.updates) {
-    WriteAchieved(options.achieved, measured);
+    WriteAchieved(FileOfPlatform(options.achieved), measured);
     return 0;
   }
-  const std::vector<std::string> growth = Growth(ReadAchieved(options.achieved), measured);
+  const std::vector<std::string> growth = Growth(ReadAchieved(FileToCompareWith(options.achieved)), measured);
   for (const std::string& message : growth) std::printf("GREW   %s\n", message.c_str());
   return growth.size();
 }

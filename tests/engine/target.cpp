@@ -31,7 +31,7 @@ std::vector<VectorCase> ReadAllCases() {
   std::vector<VectorCase> all;
   for (const auto& entry : std::filesystem::directory_iterator(kVectorFolder)) {
     if (entry.path().extension() != ".jsonl") continue;
-    for (VectorCase& vectorCase : ReadCases(entry.path())) all.push_back(std::move(vectorCase));
+    for (VectorCase& vectorCase : ReadCases(entry.path().string())) all.push_back(std::move(vectorCase));
   }
   return all;
 }

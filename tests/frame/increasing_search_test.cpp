@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <utility>
 
@@ -23,12 +24,12 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 struct Search {
   double size;
   int evaluations;
-  long questions;
+  std::int64_t questions;
 };
 
 /// A search as `solve` does it with a counted power and a stop request.
 template <typename Solve>
-Search Counted(FunctionView<double(double)> powerAt, long stopsAt, Solve solve) {
+Search Counted(FunctionView<double(double)> powerAt, std::int64_t stopsAt, Solve solve) {
   int evaluations = 0;
   CountingStop stop(stopsAt);
   const auto counted = [&](double x) {
@@ -39,13 +40,13 @@ Search Counted(FunctionView<double(double)> powerAt, long stopsAt, Solve solve) 
   return {size, evaluations, stop.Asked()};
 }
 
-Search Fast(FunctionView<double(double)> powerAt, double target, long stopsAt = 0) {
+Search Fast(FunctionView<double(double)> powerAt, double target, std::int64_t stopsAt = 0) {
   return Counted(powerAt, stopsAt, [=](auto counted, StopRequest* stop) {
     return SolveIncreasingPower(2, 400, 1e-9, counted, target, stop);
   });
 }
 
-Search Plain(FunctionView<double(double)> powerAt, double target, long stopsAt = 0) {
+Search Plain(FunctionView<double(double)> powerAt, double target, std::int64_t stopsAt = 0) {
   return Counted(powerAt, stopsAt, [=](auto counted, StopRequest* stop) {
     return SolveContinuous(
         2, 400, 1e-9, [&](double x) { return counted(x) - target; }, stop);
@@ -104,9 +105,9 @@ TEST(SolveIncreasingPower, ReturnsTheEndsThatThePlainSearchReturns) {
 
 TEST(SolveIncreasingPower, StopsAtEachQuestionAsThePlainSearchDoes) {
   const auto powerAt = TwoSidedTest(0.05, 0.05);  // widens four times
-  const long questions = Plain(powerAt, 0.8).questions;
+  const std::int64_t questions = Plain(powerAt, 0.8).questions;
   ASSERT_GT(questions, 40);
-  for (long stopsAt = 1; stopsAt <= questions; ++stopsAt) {
+  for (std::int64_t stopsAt = 1; stopsAt <= questions; ++stopsAt) {
     const Search fast = Fast(powerAt, 0.8, stopsAt);
     EXPECT_TRUE(KelMV::IsMissing(fast.size));
     EXPECT_EQ(fast.questions, stopsAt);

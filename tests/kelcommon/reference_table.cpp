@@ -210,7 +210,7 @@ std::map<FunctionRegion, Error> ReadAchieved(const std::string& path) {
 }
 
 void WriteAchieved(const std::string& path, const std::map<FunctionRegion, Worst>& measured) {
-  std::ofstream file(path);
+  std::ofstream file(path, std::ios::binary);
   file << "function,region,absolute,relative,relative of values up to 1e-12\n";
   for (const auto& [key, worst] : measured)
     file << key.first << ',' << key.second << ',' << Shortest(worst.largest.absolute) << ','

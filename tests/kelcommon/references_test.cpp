@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "reference_table.h"
+#include "support/platform.h"
 
 // What is promised over the domain of planning, whatever has been achieved. Regions whose name starts with "beyond"
 // lie outside it and are held to what has been achieved.
@@ -58,7 +59,7 @@ class References : public testing::TestWithParam<std::string> {};
 TEST_P(References, ErrorsStayWithinBoundsAndDoNotGrow) {
   const Function& function = FindFunction(GetParam());
   const std::vector<ReferenceRow> rows = ReadReferences(folder);
-  const auto achieved = ReadAchieved(folder + "/achieved.csv");
+  const auto achieved = ReadAchieved(FileToCompareWith(folder + "/achieved.csv"));
   int cases = 0;
   for (const auto& [key, worst] : MeasureErrors(rows)) {
     if (key.first != function.name) continue;
@@ -92,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(Kelcommon, References, testing::ValuesIn(Names()),
 TEST(Achieved, StoresOnlyWhatIsMeasured) {
   const std::vector<ReferenceRow> rows = ReadReferences(folder);
   const auto measured = MeasureErrors(rows);
-  for (const auto& [key, error] : ReadAchieved(folder + "/achieved.csv"))
+  for (const auto& [key, error] : ReadAchieved(FileToCompareWith(folder + "/achieved.csv")))
     EXPECT_EQ(measured.count(key), 1u) << key.first << ", " << key.second;
 }
 

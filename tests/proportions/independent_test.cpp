@@ -469,12 +469,12 @@ TEST(IndependentSizes, AreNotRefinedAfterAStop) {
 /// Answers true to its n-th question alone.
 class StopOnce : public StopRequest {
 public:
-  explicit StopOnce(long n) : n_(n) {}
+  explicit StopOnce(std::int64_t n) : n_(n) {}
   bool ShouldStop() override { return ++asked == n_; }
-  long asked = 0;
+  std::int64_t asked = 0;
 
 private:
-  long n_;
+  std::int64_t n_;
 };
 
 TEST(IndependentSizes, AreNotRefinedWhenTheFirstQuestionOfTheRefinementStops) {

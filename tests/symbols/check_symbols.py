@@ -5,6 +5,7 @@ The list is what the linker's version script is made from, and the linker accept
 
 import argparse
 import json
+import re
 import subprocess
 import sys
 from pathlib import Path
@@ -21,6 +22,19 @@ def defined_symbols(nm, library):
     """The visible names that the library defines, C++ names demangled."""
     output = subprocess.run([nm, "-DC", "--defined-only", library], check=True, capture_output=True, text=True).stdout
     return [line.split(maxsplit=2)[2] for line in output.splitlines()]
+
+
+def names_in_export_table(report):
+    """The names in the export table of a DLL, from what objdump -p says of it."""
+    table = report.partition("[Ordinal/Name Pointer] Table")[2].split("\n\n")[0]
+    return [line.split()[-1] for line in table.splitlines() if re.match(r"\s*\[\s*\d+\]", line)]
+
+
+def exported_names(objdump, library):
+    """The names that the DLL exports, C++ names demangled."""
+    report = subprocess.run([objdump, "-p", library], check=True, capture_output=True, text=True).stdout
+    names = "\n".join(names_in_export_table(report))
+    return subprocess.run(["c++filt"], input=names, check=True, capture_output=True, text=True).stdout.splitlines()
 
 
 def compare_names(what, listed, found):
@@ -54,14 +68,20 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--list", required=True, help="file of exported names")
     parser.add_argument("--library", required=True)
-    parser.add_argument("--nm", default="nm")
+    reader = parser.add_mutually_exclusive_group(required=True)
+    reader.add_argument("--nm", help="reads a library of a Unix system")
+    reader.add_argument("--objdump", help="reads a DLL")
     parser.add_argument("--header", help="header that declares the listed names with KELPOWER_API")
     parser.add_argument("--signatures", help="JSON file of all functions of the interface with their parameters")
     parser.add_argument("--complete", action="store_true", help="demand that every function of --signatures is listed")
     arguments = parser.parse_args()
 
     listed = read_list(arguments.list)
-    problems = compare_names("library", listed, defined_symbols(arguments.nm, arguments.library))
+    if arguments.objdump:
+        found = exported_names(arguments.objdump, arguments.library)
+    else:
+        found = defined_symbols(arguments.nm, arguments.library)
+    problems = compare_names("library", listed, found)
     if arguments.header:
         declarations = read_declarations(Path(arguments.header).read_text())
         declared = [declaration.name for declaration in declarations]

@@ -3,7 +3,7 @@
 import unittest
 
 from check_documentation import check
-from check_symbols import compare_complete, compare_names, compare_order, compare_parameters
+from check_symbols import compare_complete, compare_names, compare_order, compare_parameters, names_in_export_table
 from header import read_declarations
 
 HEADER = r"""
@@ -65,6 +65,26 @@ class NamesTest(unittest.TestCase):
         self.assertEqual(compare_order(["A", "B"], ["A", "B"]), [])
         self.assertEqual(len(compare_order(["A", "B"], ["B", "A"])), 1)
         self.assertEqual(len(compare_complete({"A": [], "B": []}, ["A"])), 1)
+
+
+# The end of what objdump -p says of a DLL.
+REPORT = """
+Export Address Table -- Ordinal Base 1
+\t[   0] +base[   1] 13f0 Export RVA
+
+[Ordinal/Name Pointer] Table
+\t[   0] A
+\t[   1] _ZN1B1CEv
+
+The Function Table (interpreted .pdata section contents)
+\t[   2] D
+"""
+
+
+class ExportTableTest(unittest.TestCase):
+    def test_finds_the_names(self):
+        self.assertEqual(names_in_export_table(REPORT), ["A", "_ZN1B1CEv"])
+        self.assertEqual(names_in_export_table("no table"), [])
 
 
 if __name__ == "__main__":

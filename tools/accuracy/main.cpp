@@ -15,6 +15,7 @@
 #include "methods.h"
 #include "reference_table.h"
 #include "searches.h"
+#include "support/platform.h"
 
 namespace {
 
@@ -190,7 +191,7 @@ int main(int argc, char** argv) {
   const std::vector<ReferenceRow> rows = ReadReferences(folder);
   if (argc >= 2 && std::strcmp(argv[1], "--achieved") == 0) {
     if (argc > 3) return Usage();
-    WriteAchieved(argc == 3 ? argv[2] : folder + "/achieved.csv", MeasureErrors(rows));
+    WriteAchieved(argc == 3 ? argv[2] : FileOfPlatform(folder + "/achieved.csv"), MeasureErrors(rows));
     return 0;
   }
   if (argc > 2 || (argc == 2 && argv[1][0] == '-')) return Usage();

@@ -1,0 +1,13 @@
+# WebAssembly, with Debian's Emscripten. Programs run in Node and see the files of this machine.
+set(emscripten /usr/share/emscripten/cmake/Modules/Platform/Emscripten.cmake)
+if(NOT EXISTS ${emscripten})
+  message(FATAL_ERROR "Emscripten is missing: ${emscripten}")
+endif()
+include(${emscripten})
+
+set(CMAKE_CXX_FLAGS_INIT -fexceptions)
+set(CMAKE_EXE_LINKER_FLAGS_INIT
+  "-fexceptions -sNODERAWFS=1 -sALLOW_MEMORY_GROWTH=1 -sTOTAL_STACK=8MB -sEXIT_RUNTIME=1")
+
+# Emscripten's loader would take Node's fetch for that of a browser, which opens no files.
+set(CMAKE_CROSSCOMPILING_EMULATOR node --no-experimental-fetch)
