@@ -24,6 +24,9 @@ constexpr double twoPi = 6.283185307179586477;
 // by 1 / a, so there the power is taken, which C libraries compute within one unit in the last place.
 constexpr double largestPowerShape = 16;
 
+// Below this a number or its product may be denormal.
+constexpr double leastFactor = 1e-290;
+
 // The logarithm of r^a over exp(d), with d / a = relativeExcess.
 double LogPower(double a, double relativeExcess, double ratio) {
   // Near 0 the ratio has digits that 1 + relativeExcess has lost.
@@ -33,6 +36,8 @@ double LogPower(double a, double relativeExcess, double ratio) {
 
 // r^a
 double Power(double a, const DoubleDouble& wholeOverA, const DoubleDouble& share) {
+  // A product with a denormal number would lose digits: I_x(0.009, 1.3) at x = 1e-323.
+  if (share.hi < leastFactor) return std::exp(a * (std::log(wholeOverA.hi) + std::log(share.hi)));
   if (a == 0.5) return std::sqrt(wholeOverA.hi * share.hi);
   const DoubleDouble ratio = Product(wholeOverA, share);
   return std::pow(ratio.hi, a) * (1 + a * (ratio.lo / ratio.hi));

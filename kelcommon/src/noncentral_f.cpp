@@ -145,15 +145,17 @@ double UpperTailSum(const Mixture& s) {
   return sum * PoissonMass(mode, s.m);
 }
 
-// About the number of terms of (2).
+// About the number of terms of (2). The steps fall like a normal density about their peak, below two degrees of freedom
+// or so like a geometric series of ratio x, and never slower than one of the ratio that they have at the peak of the
+// terms.
 double LowerTailTerms(const Mixture& s) {
   const double productPeak = PeakOfProducts(s);
   const double stepPeak = std::max(0.0, (s.x * s.aPlusB.hi - s.a - 1) / s.y);
   const double peak = std::max(productPeak, stepPeak);
-  const double spread = std::sqrt((s.a + s.b + peak) / (s.b + 1) * (s.a + peak + 1));
-  // Below two degrees of freedom or so the steps end like a geometric series of ratio x.
-  const double geometric = 40 / s.y;
-  return peak - FirstTerm(productPeak) + (s.b < 4 ? geometric : std::min(9 * spread, geometric)) + 10;
+  const double spread = 9 * std::sqrt((s.a + s.b + peak) / (s.b + 1) * (s.a + peak + 1));
+  const double ratio = s.StepRatio(productPeak);
+  const double fromRatio = ratio < 1 ? 40 / (1 - ratio) : spread;
+  return peak - FirstTerm(productPeak) + (s.b < 4 ? 40 / s.y : std::min(spread, fromRatio)) + 10;
 }
 
 double UpperTailTerms(const Mixture& s) { return s.m - FirstTerm(s.m) + 9 * std::sqrt(s.m) + 10; }
