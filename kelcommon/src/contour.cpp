@@ -21,7 +21,16 @@ namespace KelMath {
 
 namespace {
 
-// With b below, the contour of the lower tail passes too near to the branch point at -1 / q.
+// From this smaller shape on the integrand decays fast enough on a straight line. F(4.4; 20, 0.77, 5621) needs the
+// bend: it would be off by 6 %.
+constexpr double straightShape = 20;
+
+// From this smaller shape on the integrand is near enough to a normal density for the wider step. With that, F(1.2;
+// 2000, 30, 10) would err by 2e-12.
+constexpr double wideStepShape = 1000;
+
+// With b below, the integrand of the lower tail decays too slowly: F(0.48; 118, 0.0013, 0.6) would err by 1e-9 of
+// itself.
 constexpr double leastLowerB = 0.1;
 
 struct Complex {
@@ -75,11 +84,10 @@ public:
     const double fromP = p_ / (1 - p_ * t0);
     const double fromQ = q_ / (1 + q_ * t0);
     const double slope = Slope(t0);
-    // The contour keeps away from both branch points, which a small shape lets it come near to.
-    const double scale = std::min({1 / std::sqrt(Curvature(t0)), 1 / fromP, 1 / fromQ});
+    const double scale = 1 / std::sqrt(Curvature(t0));
     const double smallerShape = std::min(a_ + m_, b_);
-    const double bend = smallerShape < 20 ? (b_ > a_ + m_ ? 1 : -1) : 0;
-    const double stepWidth = smallerShape < 200 ? 1 / 16.0 : smallerShape < 2000 ? 1 / 12.0 : 1 / 8.0;
+    const double bend = smallerShape < straightShape ? (b_ > a_ + m_ ? 1 : -1) : 0;
+    const double stepWidth = smallerShape < wideStepShape ? 1 / 14.0 : 1 / 8.0;
     double sum = 0.5;
     for (int i = 1; i < mostNodes; ++i) {
       const double up = std::exp(stepWidth * i);
