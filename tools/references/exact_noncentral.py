@@ -8,7 +8,11 @@ import math
 
 from flint import arb, ctx
 
-from exact import beta_ball, nearest_double, normal_cdf_ball
+from exact import beta_ball, beta_step, nearest_double, normal_cdf_ball
+from exact_second import noncentral_t_tail
+
+# With more degrees of freedom the mixtures for t take long, and the second method is taken: its digits are not proven.
+LARGEST_MIXTURE_DF = 1e9
 
 
 # From here on T is all but normal: the scaled chi variable differs from 1 by sqrt(1 / (2 df)) in the mean.
@@ -29,11 +33,6 @@ def spread(m):
     """So far from its mean m has a Poisson variable no more than about 2^-bits of its probability."""
     bits = ctx.prec
     return math.sqrt(1.4 * bits * m) + 0.7 * bits
-
-
-def beta_step(a, b, x, y):
-    """I_x(a, b) - I_x(a + 1, b)."""
-    return (a * x.log() + b * y.log() + (a + b).lgamma() - b.lgamma() - (a + 1).lgamma()).exp()
 
 
 def is_negligible(bound, total):
@@ -71,8 +70,13 @@ def lower_mixture(a, b, m, x, y, h):
 
 
 def upper_mixture(a, b, m, x, y, h):
-    """sum_j weight(j) (1 - I_x(a + j, b)), from below upwards; 1 - I_x increases in j, up to 1."""
-    j = bottom = max(0, int(float(m.mid()) - spread(float(m.mid()))))
+    """sum_j weight(j) (1 - I_x(a + j, b)), from below upwards; 1 - I_x increases in j, up to 1.
+
+    Where the bits are too few to tell whether the rest is negligible, the terms end at `last`.
+    """
+    mean = float(m.mid())
+    j = bottom = max(0, int(mean - spread(mean)))
+    last = mean + 2 * spread(mean)
     upper = beta_ball(b, a + j, y, x)
     step = beta_step(a + j, b, x, y)
     w = weight(m, arb(j), h)
@@ -90,7 +94,7 @@ def upper_mixture(a, b, m, x, y, h):
         if j % 8 == 0 and j > m:
             ratio = m / (j + 1 + h)
             rest = w * ratio / (1 - ratio)
-            if is_negligible(rest, total):
+            if is_negligible(rest, total) or j > last:
                 return total + radius(rest)
 
 
@@ -149,6 +153,9 @@ def noncentral_t(x, df, delta):
     """Lower probability."""
     # The sum that is the smaller needs no complement; each is right.
     is_lower = x < delta or x < 0 < delta
+    if delta != 0 and LARGEST_MIXTURE_DF < df < LARGEST_DF:
+        tail = noncentral_t_tail(x, df, delta, is_lower)
+        return float(tail if is_lower else 1 - tail)
     if is_lower:
         return nearest_double(lambda: noncentral_t_ball(x, df, delta, True))
     return nearest_double(lambda: 1 - noncentral_t_ball(x, df, delta, False))

@@ -87,7 +87,8 @@ def wrong_side(functions, tail, df, delta):
     return (x if delta > 0 else -x, df, delta)
 
 
-def score(function, region, got, reference):
+def score(function, region, got, reference, relative_bound=None):
+    relative_bound = relative_bound or function.bound
     absolute = abs(got - reference)
     if math.isnan(got):
         return math.inf
@@ -101,10 +102,10 @@ def score(function, region, got, reference):
         return absolute / reference / function.bound if reference >= LEAST_RELATIVE else -1
     if not LEAST <= reference <= 1 - LEAST:
         return -1
-    return max(absolute / PROBABILITY_ABSOLUTE, absolute / reference / function.bound)
+    return max(absolute / PROBABILITY_ABSOLUTE, absolute / reference / relative_bound)
 
 
-def measure(functions, region, point, whole):
+def measure(functions, region, point, whole, relative_bound=None):
     arguments = to_arguments(functions, region, point, whole)
     if not all(math.isfinite(value) for value in arguments):
         return OUTSIDE
@@ -113,4 +114,4 @@ def measure(functions, region, point, whole):
         return OUTSIDE
     got = function.call(*arguments)
     reference = function.reference(*arguments, got)
-    return Finding(score(function, region, got, reference), arguments, got, reference)
+    return Finding(score(function, region, got, reference, relative_bound), arguments, got, reference)

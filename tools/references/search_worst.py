@@ -30,7 +30,7 @@ class Search:
     def measure(self, point, whole):
         self.evaluations += 1
         try:
-            return measure(self.functions, self.region, point, whole)
+            return measure(self.functions, self.region, point, whole, self.options.relative)
         except (ArithmeticError, ValueError) as error:
             self.failures += 1
             print(f"no reference: {self.region.function}, {self.region.name}: {error}", file=sys.stderr)
@@ -89,6 +89,8 @@ def parse(arguments):
     parser.add_argument("--starts", type=int, default=200)
     parser.add_argument("--climbs", type=int, default=5)
     parser.add_argument("--steps", type=int, default=60)
+    parser.add_argument("--relative", type=float, default=1e-12,
+                        help="relative error of probabilities that counts like an absolute one of 1e-14")
     parser.add_argument("--show", type=int, default=2, help="findings printed per region")
     parser.add_argument("--output", help="file to which the findings are appended")
     return parser.parse_args(arguments)
