@@ -6,9 +6,10 @@ PREFIX ?= /usr/local
 FUZZ := build/fuzz
 FUZZ_SECONDS ?= 60
 FUZZ_SEED ?= 0
+SEARCH_SEED ?= 1
 JOBS := $(shell nproc)
 
-.PHONY: run test build bench bench-peers lint format install accuracy fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
+.PHONY: run test build bench bench-peers lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
 
 run: build ## build and plan a real study
 	@sh tools/run_example.sh $(BUILD)/cli/kelpower
@@ -30,6 +31,12 @@ bench-peers: build ## measure speed beside pwr, base R and statsmodels and write
 	@sh tools/install_packages.sh peers
 	@sh tools/peers/unpack_statsmodels.sh build/peers/statsmodels || echo "statsmodels is left out"
 	@python3 -B tools/peers/measure.py . $(BUILD) build/peers/statsmodels docs/performance.md
+
+worst: build ## search the distributions for their largest errors and keep the worst points among the references
+	@python3 -m venv build/venv && build/venv/bin/pip install --quiet python-flint
+	@rm -f build/found.csv
+	@build/venv/bin/python -B tools/references/search_worst.py $(BUILD)/kelcommon/libkelcommon.so --seed $(SEARCH_SEED) --output build/found.csv
+	@build/venv/bin/python -B tools/references/worst.py build/found.csv
 
 accuracy: build ## measure accuracy and write docs/accuracy.md
 	$(BUILD)/tools/accuracy/kelpower_accuracy docs/accuracy.md

@@ -9,10 +9,11 @@ import math
 from flint import arb, ctx
 
 from exact import beta_ball, beta_step, nearest_double, normal_cdf_ball
-from exact_second import noncentral_t_tail
+from exact_second import noncentral_f_tail, noncentral_t_tail
 
-# With more degrees of freedom the mixtures for t take long, and the second method is taken: its digits are not proven.
-LARGEST_MIXTURE_DF = 1e9
+# With more degrees of freedom the mixtures take long, and the second method is taken: its digits are not proven.
+LARGEST_MIXTURE_DF = 1e8
+LEAST_CONTOUR_DF = 50
 
 
 # From here on T is all but normal: the scaled chi variable differs from 1 by sqrt(1 / (2 df)) in the mean.
@@ -112,6 +113,9 @@ def noncentral_f(x, df1, df2, noncentrality):
     if x <= 0:
         return 0.0
     is_lower = x < 1 + noncentrality / df1
+    if noncentrality > 0 and max(df1, df2) > LARGEST_MIXTURE_DF and min(df1, df2) > LEAST_CONTOUR_DF:
+        tail = noncentral_f_tail(x, df1, df2, noncentrality, is_lower)
+        return float(tail if is_lower else 1 - tail)
     if is_lower:
         return nearest_double(lambda: noncentral_f_ball(x, df1, df2, noncentrality))
     return nearest_double(lambda: 1 - noncentral_f_ball(x, df1, df2, noncentrality, False))

@@ -105,6 +105,18 @@ def score(function, region, got, reference, relative_bound=None):
     return max(absolute / PROBABILITY_ABSOLUTE, absolute / reference / relative_bound)
 
 
+def difference(functions, others, region, point, whole, relative_bound=None):
+    """How far another build is from this one, as an error of either: a cheap guess where to measure."""
+    arguments = to_arguments(functions, region, point, whole)
+    name = region.function
+    if not all(math.isfinite(value) for value in arguments):
+        return -1
+    if functions[name].kind == "quantile" and not 0 < arguments[0] < 1:
+        return -1
+    got, other = functions[name].call(*arguments), others[name].call(*arguments)
+    return score(functions[name], region, got, other, relative_bound) if other else 0
+
+
 def measure(functions, region, point, whole, relative_bound=None):
     arguments = to_arguments(functions, region, point, whole)
     if not all(math.isfinite(value) for value in arguments):
