@@ -25,11 +25,14 @@ def cdf(k, n, p):
 
 
 def quantile(prob, n, p):
-    """The largest whole k whose lower probability does not exceed prob, -1 when there is none."""
+    """The largest whole k whose lower probability does not exceed prob, -1 when there is none.
+
+    They may be equal, as at the middle of a symmetric distribution, but for the last of the digits computed.
+    """
     low, high = -1, math.ceil(n)
     while high - low > 1:
         middle = (low + high) // 2
-        if cdf(middle, n, p) <= prob:
+        if cdf(middle, n, p) - prob < mp.mpf(10) ** -60:
             low = middle
         else:
             high = middle
