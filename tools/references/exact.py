@@ -1,8 +1,8 @@
 """Distribution functions in ball arithmetic: each value comes with a proven bound of its error.
 
-A ball is a number with a radius that holds all rounding and truncation (F. Johansson, Arb: efficient arbitrary-precision
-midpoint-radius interval arithmetic, IEEE Transactions on Computers 66, 2017). `nearest_double` raises the precision
-until the whole ball rounds to one double, so that no cancellation is too deep for it.
+A ball is a number with a radius that holds all rounding and truncation (F. Johansson, Arb: efficient
+arbitrary-precision midpoint-radius interval arithmetic, IEEE Transactions on Computers 66, 2017). `nearest_double`
+raises the precision until the whole ball rounds to one double, so that no cancellation is too deep for it.
 
 Needs python-flint (pip install python-flint).
 """

@@ -1,7 +1,7 @@
 """Noncentral t and F in ball arithmetic: mixtures of incomplete beta functions by Poisson weights.
 
-Johnson, Kotz and Balakrishnan, Continuous Univariate Distributions 2 (1995), equations 30.10 and 31.11. The part of a sum
-that is left out is bounded and added to the radius of the ball. The second method of each, to which
+Johnson, Kotz and Balakrishnan, Continuous Univariate Distributions 2 (1995), equations 30.10 and 31.11. The part of a
+sum that is left out is bounded and added to the radius of the ball. The second method of each, to which
 `check_exact.py` compares, stands in `exact_second.py`.
 """
 import math

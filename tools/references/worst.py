@@ -2,7 +2,8 @@
 """Writes worst_<function>.csv, the worst points that searches have found and those of `hard_points`, and searched.csv,
 how they were searched.
 
-The points that the files hold already are kept, unless --anew; findings are files that `search_worst.py --output` wrote.
+The points that the files hold already are kept, unless --anew; findings are files that `search_worst.py --output`
+wrote.
 
 Usage: worst.py [--folder FOLDER] [--anew] [--keep N] [findings.csv ...]                      (needs python-flint)
 """
