@@ -6,6 +6,7 @@ PREFIX ?= /usr/local
 FUZZ := build/fuzz
 FUZZ_SECONDS ?= 60
 FUZZ_SEED ?= 0
+SEARCH_SEED ?= 1
 JOBS := $(shell nproc)
 
 # The folders of the tests without the program, the packages and the tools.
@@ -13,7 +14,7 @@ CORE := kelcommon engine vectors frame anova means proportions correlation regre
 space := $() $()
 PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
 
-.PHONY: help run test test-core $(PLATFORMS) build bench bench-peers lint format install accuracy fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
+.PHONY: help run test test-core $(PLATFORMS) build bench bench-peers lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
 
 run: build ## build and plan a real study
 	@sh tools/run_example.sh $(BUILD)/cli/kelpower
@@ -60,6 +61,12 @@ bench-peers: build ## measure speed beside pwr, base R and statsmodels and write
 	@sh tools/install_packages.sh peers
 	@sh tools/peers/unpack_statsmodels.sh build/peers/statsmodels || echo "statsmodels is left out"
 	@python3 -B tools/peers/measure.py . $(BUILD) build/peers/statsmodels docs/performance.md
+
+worst: build ## search the distributions for their largest errors and keep the worst points among the references
+	@python3 -m venv build/venv && build/venv/bin/pip install --quiet python-flint
+	@rm -f build/found.csv
+	@build/venv/bin/python -B tools/references/search_worst.py $(BUILD)/kelcommon/libkelcommon.so --seed $(SEARCH_SEED) --output build/found.csv
+	@build/venv/bin/python -B tools/references/worst.py build/found.csv
 
 accuracy: build ## measure accuracy and write docs/accuracy.md
 	$(BUILD)/tools/accuracy/kelpower_accuracy docs/accuracy.md

@@ -1,8 +1,8 @@
 """Distribution functions in ball arithmetic: each value comes with a proven bound of its error.
 
-A ball is a number with a radius that holds all rounding and truncation (F. Johansson, Arb: efficient arbitrary-precision
-midpoint-radius interval arithmetic, IEEE Transactions on Computers 66, 2017). `nearest_double` raises the precision
-until the whole ball rounds to one double, so that no cancellation is too deep for it.
+A ball is a number with a radius that holds all rounding and truncation (F. Johansson, Arb: efficient
+arbitrary-precision midpoint-radius interval arithmetic, IEEE Transactions on Computers 66, 2017). `nearest_double`
+raises the precision until the whole ball rounds to one double, so that no cancellation is too deep for it.
 
 Needs python-flint (pip install python-flint).
 """
@@ -29,21 +29,56 @@ def nearest_double(evaluate, bits=FIRST_BITS):
     raise ArithmeticError(f"not decided at {bits} bits")
 
 
+def beta_step(a, b, x, y):
+    """I_x(a, b) - I_x(a + 1, b) of balls, y = 1 - x."""
+    return (a * x.log() + b * y.log() + (a + b).lgamma() - b.lgamma() - (a + 1).lgamma()).exp()
+
+
+def series_ball(a, b, x, y):
+    """I_x(a, b) by a series of positive terms, Abramowitz and Stegun 26.5.4."""
+    return beta_step(a, b, x, y) * x.hypgeom_2f1(a + b, arb(1), a + 1)
+
+
+def short_series_ball(a, b, x, y, ratio):
+    """The same, term by term, where the ratio of all neighbouring terms is at most `ratio`."""
+    term = total = arb(1)
+    k = 0
+    smallest = arb(2) ** -ctx.prec * (1 - ratio)
+    while term > smallest:
+        term *= x * (a + b + k) / (a + (k + 1))
+        total += term
+        k += 1
+    return beta_step(a, b, x, y) * (total + arb(0, (term * ratio / (1 - ratio)).upper()))
+
+
+def complement_ball(a, b, x, y, most_bits):
+    """I_x(a, b) as 1 - I_y(b, a), at so many more bits as are lost."""
+    bits = wanted = ctx.prec
+    value = 1 - series_ball(b, a, y, x)
+    while value.rel_accuracy_bits() < bits - 30 and wanted < most_bits:
+        wanted = min(most_bits, max(2 * wanted, wanted - value.rel_accuracy_bits()))
+        ctx.prec = wanted
+        value = 1 - series_ball(b, a, y, x)
+    ctx.prec = bits
+    return value
+
+
 def beta_ball(a, b, x, y):
     """I_x(a, b) of balls, y = 1 - x.
 
     For x near 1 the hypergeometric series takes long, and the other tail is better even if more bits are lost.
     """
     if x < y:
-        return x.beta_lower(a, b, regularized=True)
+        return series_ball(a, b, x, y)
     bits = ctx.prec
-    value = 1 - y.beta_lower(b, a, regularized=True)
-    lost = bits - value.rel_accuracy_bits()
-    if 30 < lost < 10 * bits:
-        ctx.prec = bits + lost + 30
-        value = 1 - y.beta_lower(b, a, regularized=True)
-        ctx.prec = bits
-    return value if value.rel_accuracy_bits() > bits - 40 else x.beta_lower(a, b, regularized=True)
+    value = complement_ball(a, b, x, y, bits)
+    if value.rel_accuracy_bits() > bits - 40:
+        return value
+    ratio = max(x, x * (a + b) / (a + 1))
+    if ratio < 0.98:
+        return short_series_ball(a, b, x, y, ratio)
+    value = complement_ball(a, b, x, y, 3000 if y < 0.01 else 2 * bits)
+    return value if value.rel_accuracy_bits() > 20 else x.beta_lower(a, b, regularized=True)
 
 
 def beta_cdf(x, a, b):

@@ -1,14 +1,19 @@
 """Noncentral t and F in ball arithmetic: mixtures of incomplete beta functions by Poisson weights.
 
-Johnson, Kotz and Balakrishnan, Continuous Univariate Distributions 2 (1995), equations 30.10 and 31.11. The part of a sum
-that is left out is bounded and added to the radius of the ball. The second method of each, to which
+Johnson, Kotz and Balakrishnan, Continuous Univariate Distributions 2 (1995), equations 30.10 and 31.11. The part of a
+sum that is left out is bounded and added to the radius of the ball. The second method of each, to which
 `check_exact.py` compares, stands in `exact_second.py`.
 """
 import math
 
 from flint import arb, ctx
 
-from exact import beta_ball, nearest_double, normal_cdf_ball
+from exact import beta_ball, beta_step, nearest_double, normal_cdf_ball
+from exact_second import noncentral_f_tail, noncentral_t_tail
+
+# With more degrees of freedom the mixtures take long, and the second method is taken: its digits are not proven.
+LARGEST_MIXTURE_DF = 1e8
+LEAST_CONTOUR_DF = 50
 
 
 # From here on T is all but normal: the scaled chi variable differs from 1 by sqrt(1 / (2 df)) in the mean.
@@ -29,11 +34,6 @@ def spread(m):
     """So far from its mean m has a Poisson variable no more than about 2^-bits of its probability."""
     bits = ctx.prec
     return math.sqrt(1.4 * bits * m) + 0.7 * bits
-
-
-def beta_step(a, b, x, y):
-    """I_x(a, b) - I_x(a + 1, b)."""
-    return (a * x.log() + b * y.log() + (a + b).lgamma() - b.lgamma() - (a + 1).lgamma()).exp()
 
 
 def is_negligible(bound, total):
@@ -71,8 +71,13 @@ def lower_mixture(a, b, m, x, y, h):
 
 
 def upper_mixture(a, b, m, x, y, h):
-    """sum_j weight(j) (1 - I_x(a + j, b)), from below upwards; 1 - I_x increases in j, up to 1."""
-    j = bottom = max(0, int(float(m.mid()) - spread(float(m.mid()))))
+    """sum_j weight(j) (1 - I_x(a + j, b)), from below upwards; 1 - I_x increases in j, up to 1.
+
+    Where the bits are too few to tell whether the rest is negligible, the terms end at `last`.
+    """
+    mean = float(m.mid())
+    j = bottom = max(0, int(mean - spread(mean)))
+    last = mean + 2 * spread(mean)
     upper = beta_ball(b, a + j, y, x)
     step = beta_step(a + j, b, x, y)
     w = weight(m, arb(j), h)
@@ -90,7 +95,7 @@ def upper_mixture(a, b, m, x, y, h):
         if j % 8 == 0 and j > m:
             ratio = m / (j + 1 + h)
             rest = w * ratio / (1 - ratio)
-            if is_negligible(rest, total):
+            if is_negligible(rest, total) or j > last:
                 return total + radius(rest)
 
 
@@ -108,6 +113,9 @@ def noncentral_f(x, df1, df2, noncentrality):
     if x <= 0:
         return 0.0
     is_lower = x < 1 + noncentrality / df1
+    if noncentrality > 0 and max(df1, df2) > LARGEST_MIXTURE_DF and min(df1, df2) > LEAST_CONTOUR_DF:
+        tail = noncentral_f_tail(x, df1, df2, noncentrality, is_lower)
+        return float(tail if is_lower else 1 - tail)
     if is_lower:
         return nearest_double(lambda: noncentral_f_ball(x, df1, df2, noncentrality))
     return nearest_double(lambda: 1 - noncentral_f_ball(x, df1, df2, noncentrality, False))
@@ -149,6 +157,9 @@ def noncentral_t(x, df, delta):
     """Lower probability."""
     # The sum that is the smaller needs no complement; each is right.
     is_lower = x < delta or x < 0 < delta
+    if delta != 0 and LARGEST_MIXTURE_DF < df < LARGEST_DF:
+        tail = noncentral_t_tail(x, df, delta, is_lower)
+        return float(tail if is_lower else 1 - tail)
     if is_lower:
         return nearest_double(lambda: noncentral_t_ball(x, df, delta, True))
     return nearest_double(lambda: 1 - noncentral_t_ball(x, df, delta, False))

@@ -1,15 +1,17 @@
 """Quantiles of beta, F and t in ball arithmetic: Newton's method on the logarithm of the smaller tail, in the log-odds.
 
-`proven` of a quantile shows that the points half-way to the neighbouring doubles lie on either side of it.
+Newton's last step is no proof of the last digit; `is_nearest_...` shows that the quantile lies between the points
+half-way to the doubles beside it.
 """
 import math
+from statistics import NormalDist
 
 from flint import arb, ctx
 
 from exact import beta_ball
 
-FIRST_BITS = 128
-LEAST_TAIL_BITS = 85
+FIRST_BITS = 96
+LEAST_TAIL_BITS = 70
 
 
 def log_density(a, b, c):
@@ -48,11 +50,17 @@ def log_odds(a, b, p, is_lower, start):
     raise ArithmeticError("no quantile")
 
 
+def normal_start(a, b, lower, upper):
+    """The log-odds of shapes above 1 are about normal with variance 1/a + 1/b."""
+    z = NormalDist().inv_cdf(min(lower, upper)) if a > 1 and b > 1 and min(lower, upper) > 0 else 0
+    return math.log(a / b) + (z if lower < upper else -z) * math.sqrt(1 / a + 1 / b)
+
+
 def beta_log_odds(a, b, lower, upper, start=None):
     """The log-odds at which the lower tail is lower() and the upper is upper() = 1 - lower()."""
     ctx.prec = FIRST_BITS
     if start is None or not math.isfinite(start):
-        start = float((a() / b()).log())
+        start = normal_start(float(a()), float(b()), float(lower()), float(upper()))
     is_lower = bool(lower() < upper())
     return log_odds(a, b, lower if is_lower else upper, is_lower, arb(start))
 
@@ -79,3 +87,43 @@ def t_quantile(p, df, near=None):
                       lambda: 2 * min(arb(p), 1 - arb(p)), start)
     root = float((v.exp() * arb(df)).sqrt())
     return root if p > 0.5 else -root
+
+
+def is_below(a, b, odds, lower, upper):
+    """Whether the quantile lies above these odds; all are functions of nothing."""
+    bits = FIRST_BITS
+    while bits < 20000:
+        ctx.prec = bits
+        is_lower = bool(lower() < upper())
+        difference = tail(a(), b(), odds(), is_lower) - (lower() if is_lower else upper())
+        if not difference.contains(0):
+            return bool(difference < 0) == is_lower
+        bits *= 2
+    raise ArithmeticError("not decided")
+
+
+def is_nearest(value, a, b, odds, lower, upper):
+    """Whether the quantile lies between the points half-way to the doubles beside `value`, of which odds(x) takes one.
+
+    The odds of a beta variable end at 1, beyond which they are negative.
+    """
+    below = (arb(value) + arb(math.nextafter(value, -math.inf))) / 2
+    above = (arb(value) + arb(math.nextafter(value, math.inf))) / 2
+    return ((below <= 0 or is_below(a, b, lambda: odds(below), lower, upper)) and
+            (odds(above) < 0 or not is_below(a, b, lambda: odds(above), lower, upper)))
+
+
+def is_nearest_beta(value, p, a, b):
+    return is_nearest(value, lambda: arb(a), lambda: arb(b), lambda x: x / (1 - x), lambda: arb(p), lambda: 1 - arb(p))
+
+
+def is_nearest_f(value, p, df1, df2):
+    return is_nearest(value, lambda: arb(df1) / 2, lambda: arb(df2) / 2, lambda x: x * arb(df1) / arb(df2),
+                      lambda: arb(p), lambda: 1 - arb(p))
+
+
+def is_nearest_t(value, p, df):
+    if p == 0.5:
+        return value == 0
+    return is_nearest(abs(value), lambda: arb(0.5), lambda: arb(df) / 2, lambda x: x * x / arb(df),
+                      lambda: abs(2 * arb(p) - 1), lambda: 2 * min(arb(p), 1 - arb(p)))

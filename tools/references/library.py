@@ -44,6 +44,13 @@ REFERENCES = {
     "orvadnlgam": ("logarithm", 1e-14, without_start(exact.log_gamma)),
 }
 
+# Whether a result, followed by the arguments, is the double nearest to the quantile.
+PROOFS = {
+    "IdfF": exact_quantiles.is_nearest_f,
+    "IdfT": exact_quantiles.is_nearest_t,
+    "IdfBeta": exact_quantiles.is_nearest_beta,
+}
+
 # Argument types after the mangled name: d a double, e a reference to one, l the reference to the error code.
 MANGLED = {
     "IdfF": ("4IdfFEddd", "ddd"),

@@ -87,7 +87,8 @@ def wrong_side(functions, tail, df, delta):
     return (x if delta > 0 else -x, df, delta)
 
 
-def score(function, region, got, reference):
+def score(function, region, got, reference, relative_bound=None):
+    relative_bound = relative_bound or function.bound
     absolute = abs(got - reference)
     if math.isnan(got):
         return math.inf
@@ -101,10 +102,22 @@ def score(function, region, got, reference):
         return absolute / reference / function.bound if reference >= LEAST_RELATIVE else -1
     if not LEAST <= reference <= 1 - LEAST:
         return -1
-    return max(absolute / PROBABILITY_ABSOLUTE, absolute / reference / function.bound)
+    return max(absolute / PROBABILITY_ABSOLUTE, absolute / reference / relative_bound)
 
 
-def measure(functions, region, point, whole):
+def difference(functions, others, region, point, whole, relative_bound=None):
+    """How far another build is from this one, as an error of either: a cheap guess where to measure."""
+    arguments = to_arguments(functions, region, point, whole)
+    name = region.function
+    if not all(math.isfinite(value) for value in arguments):
+        return -1
+    if functions[name].kind == "quantile" and not 0 < arguments[0] < 1:
+        return -1
+    got, other = functions[name].call(*arguments), others[name].call(*arguments)
+    return score(functions[name], region, got, other, relative_bound) if other else 0
+
+
+def measure(functions, region, point, whole, relative_bound=None):
     arguments = to_arguments(functions, region, point, whole)
     if not all(math.isfinite(value) for value in arguments):
         return OUTSIDE
@@ -113,4 +126,4 @@ def measure(functions, region, point, whole):
         return OUTSIDE
     got = function.call(*arguments)
     reference = function.reference(*arguments, got)
-    return Finding(score(function, region, got, reference), arguments, got, reference)
+    return Finding(score(function, region, got, reference, relative_bound), arguments, got, reference)

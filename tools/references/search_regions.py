@@ -126,14 +126,16 @@ def f_quantiles():
     yield from beyond(product("IdfF", tails(), df1=[every], df2=bands(1e-3, 0.5)))
     yield from beyond(product("IdfF", tails(), df1=bands(1e7, 1e12), df2=[every]))
     yield from beyond(product("IdfF", tails(), df1=[every], df2=bands(1e7, 1e12)))
-    yield Region("IdfF", "beyond planning: far tails", {"p": Range(FAR, LEAST, "log", False), "df1": every, "df2": every})
+    yield Region("IdfF", "beyond planning: far tails",
+                 {"p": Range(FAR, LEAST, "log", False), "df1": every, "df2": every})
 
 
 def t_quantiles():
     freedom = bands(0.5, 1, 2, 30, 1e4, 1e7)
     yield from product("IdfT", tails(), df=freedom)
     for df in freedom:
-        yield Region("IdfT", f"near the median; df {df}", {"from_half": Range(1e-12, 0.3, "signed log", False), "df": df})
+        yield Region("IdfT", f"near the median; df {df}",
+                     {"from_half": Range(1e-12, 0.3, "signed log", False), "df": df})
     yield from beyond(product("IdfT", tails(), df=bands(1e-3, 0.5)))
     yield from beyond(product("IdfT", tails(), df=bands(1e7, 1e15)))
     yield Region("IdfT", "beyond planning: far tails", {"p": Range(FAR, LEAST, "log", False), "df": Range(0.5, 1e7)})

@@ -2,10 +2,11 @@
 """Searches for the largest errors of a built libkelcommon against values in ball arithmetic.
 
 In every region random starts are drawn; from the worst of them a climb takes random steps of all sizes and keeps those
-that do not lessen the error. The same seed, budget and library give the same points.
+that do not lessen the error. With --other each start and each step is, of several, the one at which the two builds
+differ most. The same seed, budget and libraries give the same points.
 
 Usage: search_worst.py libkelcommon.so [--function NAME] [--region TEXT] [--planning] [--seed N] [--starts N]
-       [--climbs N] [--steps N] [--output file.csv]                             (needs python-flint)
+       [--climbs N] [--steps N] [--other libkelcommon.so] [--output file.csv]   (needs python-flint)
 """
 import argparse
 import csv
@@ -14,13 +15,14 @@ import sys
 import time
 
 from library import load
-from search_points import OUTSIDE, measure
+from search_points import OUTSIDE, difference, measure
 from search_regions import all_regions
 
 
 class Search:
-    def __init__(self, functions, region, options):
+    def __init__(self, functions, others, region, options):
         self.functions = functions
+        self.others = others
         self.region = region
         self.options = options
         self.rng = random.Random(f"{options.seed} {region.function} {region.name}")
@@ -30,16 +32,27 @@ class Search:
     def measure(self, point, whole):
         self.evaluations += 1
         try:
-            return measure(self.functions, self.region, point, whole)
+            return measure(self.functions, self.region, point, whole, self.options.relative)
         except (ArithmeticError, ValueError) as error:
             self.failures += 1
             print(f"no reference: {self.region.function}, {self.region.name}: {error}", file=sys.stderr)
             return OUTSIDE
 
-    def start(self):
+    def most_different(self, propose):
+        """Of some proposals, each a point and what is whole in it, the one at which the builds differ most."""
+        if not self.others:
+            return propose()
+        self.evaluations += self.options.proposals
+        proposals = [propose() for _ in range(self.options.proposals)]
+        return max(proposals, key=lambda proposal: difference(self.functions, self.others, self.region, *proposal,
+                                                              self.options.relative))
+
+    def anywhere(self):
         size = len(self.region.ranges)
-        point = [self.rng.random() for _ in range(size)]
-        whole = [self.rng.random() < 0.4 for _ in range(size)]
+        return [self.rng.random() for _ in range(size)], [self.rng.random() < 0.4 for _ in range(size)]
+
+    def start(self):
+        point, whole = self.most_different(self.anywhere)
         return self.measure(point, whole), point, whole
 
     def neighbour(self, point):
@@ -51,7 +64,7 @@ class Search:
 
     def climb(self, finding, point, whole):
         for _ in range(self.options.steps):
-            neighbour = self.neighbour(point)
+            neighbour, _ = self.most_different(lambda: (self.neighbour(point), whole))
             found = self.measure(neighbour, whole)
             if found.score >= finding.score:
                 finding, point = found, neighbour
@@ -89,6 +102,10 @@ def parse(arguments):
     parser.add_argument("--starts", type=int, default=200)
     parser.add_argument("--climbs", type=int, default=5)
     parser.add_argument("--steps", type=int, default=60)
+    parser.add_argument("--relative", type=float, default=1e-12,
+                        help="relative error of probabilities that counts like an absolute one of 1e-14")
+    parser.add_argument("--other", help="another build, to guess from where it differs")
+    parser.add_argument("--proposals", type=int, default=20, help="points compared for each that is measured")
     parser.add_argument("--show", type=int, default=2, help="findings printed per region")
     parser.add_argument("--output", help="file to which the findings are appended")
     return parser.parse_args(arguments)
@@ -97,6 +114,7 @@ def parse(arguments):
 def main():
     options = parse(sys.argv[1:])
     functions = load(options.library)
+    others = load(options.other) if options.other else None
     file = open(options.output, "a", newline="") if options.output else None
     out = csv.writer(file, lineterminator="\n") if file else None
     for region in all_regions():
@@ -104,7 +122,7 @@ def main():
             continue
         if options.planning and region.is_beyond:
             continue
-        search = Search(functions, region, options)
+        search = Search(functions, others, region, options)
         begin = time.monotonic()
         findings = search.run()
         report(region, search, findings, time.monotonic() - begin, options, out)

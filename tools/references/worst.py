@@ -2,7 +2,8 @@
 """Writes worst_<function>.csv, the worst points that searches have found and those of `hard_points`, and searched.csv,
 how they were searched.
 
-The points that the files hold already are kept, unless --anew; findings are files that `search_worst.py --output` wrote.
+The points that the files hold already are kept, unless --anew; findings are files that `search_worst.py --output`
+wrote.
 
 Usage: worst.py [--folder FOLDER] [--anew] [--keep N] [findings.csv ...]                      (needs python-flint)
 """
@@ -12,7 +13,7 @@ import pathlib
 from collections import defaultdict
 
 from hard_points import HARD, hard_points
-from library import MANGLED, REFERENCES, TUNING
+from library import MANGLED, PROOFS, REFERENCES, TUNING
 from search_regions import all_regions
 
 HEADER = ["function", "a1", "a2", "a3", "a4", "a5", "value", "err", "region"]
@@ -64,6 +65,8 @@ def write_points(folder, function, points):
         for arguments, region in sorted(points.items(), key=lambda item: (item[1] != HARD, item[1])):
             # None: no result of the library's from which to start.
             value = reference(*arguments, None)
+            if function in PROOFS and not PROOFS[function](value, *arguments):
+                raise ArithmeticError(f"not the nearest double: {function}{arguments} = {value!r}")
             cells = [repr(float(x)) for x in (*arguments, *TUNING.get(function, []))]
             err = "0" if function in BINOMIALS else ""
             out.writerow([function, *cells, *[""] * (5 - len(cells)), repr(value), err, region])
