@@ -17,7 +17,9 @@ namespace KelMath {
 
 namespace {
 
+// 2 pi as the sum of two doubles.
 constexpr double twoPi = 6.283185307179586477;
+constexpr double twoPiRest = 2.4492935982947064e-16;
 
 // Up to this shape r^a is a power, from then on exp(a (log(r) - d / a)) with the linear terms of both cancelled. The
 // exponential errs by its exponent times 2^-53: 3e-15 at a probability of 1e-12. Quantiles of small shapes magnify that
@@ -43,6 +45,14 @@ double Power(double a, const DoubleDouble& wholeOverA, const DoubleDouble& share
   return std::pow(ratio.hi, a) * (1 + a * (ratio.lo / ratio.hi));
 }
 
+DoubleDouble PrecisePower(double a, const DoubleDouble& wholeOverA, const DoubleDouble& share) {
+  if (share.hi < leastFactor) return {Power(a, wholeOverA, share), 0};
+  const DoubleDouble ratio = Product(wholeOverA, share);
+  if (a == 0.5) return SquareRoot(ratio);
+  const double power = std::pow(ratio.hi, a);
+  return ExactSumOfSorted(power, power * (a * (ratio.lo / ratio.hi)));
+}
+
 // (a + b) / a, in one double where no power is taken of it.
 DoubleDouble WholeOver(double a, double b) {
   return a < largestPowerShape ? Quotient(ExactSum(a, b), {a, 0}) : DoubleDouble{(a + b) / a, 0};
@@ -60,29 +70,41 @@ double BetaExcess(double a, double b, const UnitPoint& point) {
 BetaDensity::BetaDensity(double a, double b)
     : a_(a),
       b_(b),
+      aIsPower_(a < largestPowerShape),
+      bIsPower_(b < largestPowerShape),
       root_(std::sqrt(std::min(a, b) / twoPi * (std::max(a, b) / (a + b)))),
       logGammas_(LogScaledGamma(a + b) - (LogScaledGamma(a) + LogScaledGamma(b))),
       wholeOverA_(WholeOver(a, b)),
       wholeOverB_(WholeOver(b, a)) {}
 
 double BetaDensity::At(const UnitPoint& point, double excess) const {
-  double powers = 1;
-  double exponent = 0;
-  const bool aIsPower = a_ < largestPowerShape;
-  const bool bIsPower = b_ < largestPowerShape;
-  if (aIsPower)
-    powers = Power(a_, wholeOverA_, point.x);
-  else
-    exponent = LogPower(a_, excess / a_, wholeOverA_.hi * point.x.hi);
-  if (bIsPower)
-    powers *= Power(b_, wholeOverB_, point.y);
-  else
-    exponent += LogPower(b_, -excess / b_, wholeOverB_.hi * point.y.hi);
-  if (aIsPower && !bIsPower) exponent -= excess;
-  if (bIsPower && !aIsPower) exponent += excess;
-  const double rest = std::exp(logGammas_ + exponent);
+  const double powers =
+      (aIsPower_ ? Power(a_, wholeOverA_, point.x) : 1) * (bIsPower_ ? Power(b_, wholeOverB_, point.y) : 1);
+  const double rest = std::exp(logGammas_ + Exponent(point, excess));
   // Powers that overflow belong to a point so far out that nothing is left.
   return rest > 0 ? root_ * powers * rest : 0;
+}
+
+double BetaDensity::Exponent(const UnitPoint& point, double excess) const {
+  if (aIsPower_ && bIsPower_) return 0;
+  const double ofA = aIsPower_ ? -excess : LogPower(a_, excess / a_, wholeOverA_.hi * point.x.hi);
+  const double ofB = bIsPower_ ? excess : LogPower(b_, -excess / b_, wholeOverB_.hi * point.y.hi);
+  return ofA + ofB;
+}
+
+PreciseBetaDensity::PreciseBetaDensity(double a, double b) : density_(a, b) {
+  const DoubleDouble share = Quotient({std::max(a, b), 0}, ExactSum(a, b));
+  const DoubleDouble root = SquareRoot(Product(Quotient({std::min(a, b), 0}, {twoPi, twoPiRest}), share));
+  constant_ = Product(root, ExactSum(1, std::expm1(density_.logGammas_)));
+}
+
+DoubleDouble PreciseBetaDensity::At(const UnitPoint& point, double excess) const {
+  const BetaDensity& d = density_;
+  DoubleDouble product = constant_;
+  if (d.aIsPower_) product = Product(product, PrecisePower(d.a_, d.wholeOverA_, point.x));
+  if (d.bIsPower_) product = Product(product, PrecisePower(d.b_, d.wholeOverB_, point.y));
+  const double rest = std::exp(d.Exponent(point, excess));
+  return rest > 0 && std::isfinite(product.hi + product.lo) ? Product(product, rest) : DoubleDouble{0, 0};
 }
 
 }  // namespace KelMath

@@ -21,12 +21,35 @@ public:
   double B() const { return b_; }
 
 private:
+  friend class PreciseBetaDensity;
+
+  // The logarithm of r^a s^b, as far as it is no product of powers.
+  double Exponent(const UnitPoint& point, double excess) const;
+
   double a_;
   double b_;
+  bool aIsPower_;
+  bool bIsPower_;
   double root_;
   double logGammas_;
   DoubleDouble wholeOverA_;  // (a + b) / a
   DoubleDouble wholeOverB_;
+};
+
+/// The same without the roundings of its products, which quantiles of small shapes magnify: what is left are those of
+/// two powers, half a unit in the last place each.
+class PreciseBetaDensity {
+public:
+  PreciseBetaDensity(double a, double b);
+
+  DoubleDouble At(const UnitPoint& point, double excess) const;
+
+  double A() const { return density_.A(); }
+  double B() const { return density_.B(); }
+
+private:
+  BetaDensity density_;
+  DoubleDouble constant_;
 };
 
 }  // namespace KelMath

@@ -20,17 +20,19 @@ namespace {
 // (log(Gamma(z + a)) - log(Gamma(z))) / a - log(z + a) for z >= 1, a number of the order of 1 / z.
 double LogGammaGrowth(double z, double a) {
   const double ratio = a / z;
-  const double log1pOverA = ratio > 0 ? std::log1p(ratio) / ratio / z : 1 / z;
-  // (z - 1/2) log1p(a / z) / a - 1, of which the 1 is a part that cancels.
-  const double first = ratio < 0.1 ? Log1pMinusArgument(ratio) / ratio : z * log1pOverA - 1;
-  return first - log1pOverA / 2 + (LogScaledGamma(z + a) - LogScaledGamma(z)) / a;
+  // (z - 1/2) log(1 + a / z) / a - 1, of which the 1 cancels.
+  const double log1pOverRatio = ratio > 0 ? std::log1p(ratio) / ratio : 1;
+  const double first = ratio > 0 ? Log1pMinusArgument(ratio) / ratio : 0;
+  return first - log1pOverRatio / (2 * z) + (LogScaledGamma(z + a) - LogScaledGamma(z)) / a;
 }
 
-// p^e, where `rest` is what the exponent e leaves out.
-double PowerOf(const DoubleDouble& p, double exponent, double rest) {
+// p^(e / a)
+DoubleDouble PowerOf(const DoubleDouble& p, double e, double a) {
+  const double exponent = e / a;
   const double power = std::pow(p.hi, exponent);
-  if (power == 0 || std::isinf(power)) return power;
-  return power * std::exp(exponent * (p.lo / p.hi) + rest * std::log(p.hi));
+  if (power == 0 || std::isinf(power)) return {power, 0};
+  const double rest = -ProductRest(exponent, a, e) / a;
+  return Product(DoubleDouble{power, 0}, std::exp(exponent * (p.lo / p.hi) + rest * std::log(p.hi)));
 }
 
 struct Series {
@@ -51,6 +53,15 @@ Series SumSeries(double a, double b, double x) {
   return series;
 }
 
+// The same sum alone, from the last term inwards, where each step damps the error of the one before.
+double SumSeriesPrecisely(double a, double b, double x) {
+  int k = 1;
+  for (double power = 1; k < 100 && std::fabs(power) > 1e-18; ++k) power *= (k - b) / k * x;
+  double sum = 0;
+  for (; k > 0; --k) sum = (k - b) / k * x * (1 / (a + k) + sum);
+  return sum;
+}
+
 }  // namespace
 
 BetaPowerLaw::BetaPowerLaw(double a, double b, DoubleDouble p)
@@ -58,9 +69,7 @@ BetaPowerLaw::BetaPowerLaw(double a, double b, DoubleDouble p)
       b_(b),
       share_(Product(p, Quotient(ExactSum(a, b), {b, 0}))),
       logScale_(LogGammaOf1PlusOver(a) - LogGammaGrowth(1 + b, a)) {
-  const double exponent = 1 / a;
-  const double rest = -ProductRest(exponent, a, 1) / a;
-  const double pure = PowerOf(share_, exponent, rest) * std::exp(logScale_) / (1 + b + a);
+  const double pure = PowerOf(share_, 1, a).hi * std::exp(logScale_) / (1 + b + a);
   x_ = pure;
   if (IsPure()) return;
   // Newton's method in log(x), within the range of the series.
@@ -74,15 +83,18 @@ BetaPowerLaw::BetaPowerLaw(double a, double b, DoubleDouble p)
     if (x_ > end && x == end) return;
     if (std::fabs(x_ - x) < 1e-9 * x) break;
   }
-  bend_ = std::log1p(a * SumSeries(a, b, x_).sum) / a;
+  bend_ = std::log1p(a * SumSeriesPrecisely(a, b, x_)) / a;
   x_ = pure * std::exp(-bend_);
 }
 
 double BetaPowerLaw::Ratio(double power) const {
-  const double exponent = power / a_;
-  const double rest = -ProductRest(exponent, a_, power) / a_;
-  return PowerOf(share_, exponent, rest) * std::exp(power * (logScale_ - bend_)) *
-         std::pow(b_ / (1 + b_ + a_) / a_ / (1 - x_), power);
+  const DoubleDouble odds = PowerOf(share_, power, a_);
+  if (odds.hi == 0 || std::isinf(odds.hi)) return odds.hi;
+  const DoubleDouble below = Product(Product(Sum(ExactSum(1, b_), a_), a_), ExactSum(1, -x_));
+  const DoubleDouble scale = Quotient({b_, 0}, below);
+  const DoubleDouble root = std::fabs(power) == 0.5 ? SquareRoot(scale) : scale;
+  const DoubleDouble value = Product(odds, std::exp(power * (logScale_ - bend_)));
+  return power > 0 ? Product(value, root).hi : Quotient(value, root).hi;
 }
 
 }  // namespace KelMath

@@ -20,7 +20,7 @@ public:
   /// x.
   double Point() const { return x_; }
 
-  /// The odds x / (1 - x) over a / b, to a power; it may be representable where x is not.
+  /// The odds x / (1 - x) over a / b, to the power 1, -1, 1/2 or -1/2; that may be representable where x is not.
   double Ratio(double power) const;
 
 private:

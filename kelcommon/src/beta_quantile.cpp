@@ -32,9 +32,6 @@ constexpr double endShape = 1e-100;
 constexpr double leastShape = 1e-200;
 constexpr double mostShape = 1e100;
 
-// A quantile needs all the digits of its tail, so the other one is subtracted from one only while little is lost.
-constexpr double subtrahendOfQuantile = 0.5;
-
 // Student's quantile |t| with P(|T| > |t|) = p to about four digits: Hill (1970), Algorithm 396: Student's t-quantiles.
 double HillQuantile(double df, double p) {
   const double a = 1 / (df - 0.5);
@@ -144,8 +141,8 @@ struct Step {
 };
 
 // From the place `at` towards the one at which the lower tail is p.
-Step StepTowards(double p, const BetaDensity& density, const UnitPoint& point, const TailsAndDensity& at) {
-  const double tail = at.tails.lower;
+Step StepTowards(double p, const PreciseBetaDensity& density, const UnitPoint& point, const PreciseTail& at) {
+  const double tail = at.lower.hi;
   const double slope = at.density / tail;
   if (!(slope > 0 && std::isfinite(slope))) return {std::numeric_limits<double>::quiet_NaN(), false};
   // The inverse series of F(v) = log(I / p), v = log(x / y), to its third term. With F1 = s = density / I and the
@@ -153,7 +150,8 @@ Step StepTowards(double p, const BetaDensity& density, const UnitPoint& point, c
   // F3 = s ((k - s)^2 + dk/dv - F2).
   const double k = -at.excess;
   const double kSlope = -(density.A() + density.B()) * point.x.hi * point.y.hi;
-  const double miss = std::log(tail / p);
+  const double excess = (tail - p) + at.lower.lo;
+  const double miss = std::fabs(excess) < p / 2 ? std::log1p(excess / p) : std::log(tail / p);
   const double newton = -miss / slope;
   const double second = (k - slope) / 2 * newton;
   const double third = ((k - slope) * (k - slope) + kSlope - slope * (k - slope)) / 6 * newton * newton;
@@ -169,22 +167,22 @@ Step StepTowards(double p, const BetaDensity& density, const UnitPoint& point, c
   if (std::fabs(newton) * order * order * order < 1e-16) return {growth, true};
   // The series keeps its digits where neither the odds nor their density change much, and a denormal density has few to
   // divide by.
-  if (std::fabs(growth) < 0.5 && std::fabs(miss) < 1 && at.density >= smallest) {
+  if (std::fabs(growth) < 0.5 && std::fabs(miss) < 0.3 && at.density >= smallest) {
     const DensitySeries series(density.B(), point.x.hi, k, growth);
-    if (series.IsEnough()) return {series.Root((p - tail) / at.density, growth), true};
+    if (series.IsEnough()) return {series.Root(-excess / at.density, growth), true};
   }
   return {growth, false};
 }
 
 double SearchRatio(double a, double b, double p, double start) {
-  const BetaDensity density(a, b);
+  const PreciseBetaDensity density(a, b);
   double low = smallest;
   double high = largest;
   double ratio = std::clamp(start, 2 * low, high / 2);
   for (int i = 1; i <= 200 && high - low > 2e-16 * high; ++i) {
     const UnitPoint point = PointOfRatio(a, b, ratio);
-    const TailsAndDensity at = EvaluateBeta(density, point, subtrahendOfQuantile);
-    (at.tails.lower > p ? high : low) = ratio;
+    const PreciseTail at = EvaluateLowerBeta(density, point);
+    (at.lower.hi > p ? high : low) = ratio;
     const Step step = StepTowards(p, density, point, at);
     const double next = ratio + ratio * step.growth;
     if (step.isLast) return next;

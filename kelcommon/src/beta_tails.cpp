@@ -25,6 +25,10 @@ double QuotientOfTail(const BetaPlace& place) {
   return BetaQuotientByFraction(place);
 }
 
+double PreciseQuotientOfTail(const BetaPlace& place) {
+  return IsBetaSeriesShort(place) ? BetaQuotientBySeriesPrecisely(place) : QuotientOfTail(place);
+}
+
 // Negative where no method gives it.
 double LowerTail(const BetaPlace& place, double density) {
   return density > 0 ? std::min(density * QuotientOfTail(place), 1.0) : 0;
@@ -36,17 +40,19 @@ bool IsLowerFirst(const BetaPlace& place) {
   return place.excess + 2 * place.point.x.hi <= 1 && !IsBetaSeriesShort(place.Mirrored());
 }
 
-Tails TailsAt(const BetaPlace& place, double density, double largestSubtrahend) {
+// A tail from this on is not subtracted from one: the other is computed by itself. A probability is asked for its
+// absolute error first, a quantile needs all the digits of its tail.
+constexpr double subtrahendOfProbability = 0.9;
+constexpr double subtrahendOfQuantile = 0.65;
+
+Tails TailsAt(const BetaPlace& place, double density) {
   const double lower = LowerTail(place, density);
-  if (lower > largestSubtrahend) {
+  if (lower > subtrahendOfProbability) {
     const double upper = LowerTail(place.Mirrored(), density);
     if (upper >= 0) return {1 - upper, upper};
   }
   return {lower, 1 - lower};
 }
-
-// A probability is asked for its absolute error first.
-constexpr double subtrahendOfProbability = 0.9;
 
 struct ScaledShapes {
   double a;
@@ -90,21 +96,31 @@ Tails TwoPointTails(double a, double b) {
 
 }  // namespace
 
-TailsAndDensity EvaluateBeta(const BetaDensity& densityOfLogOdds, const UnitPoint& point, double largestSubtrahend) {
-  const double a = densityOfLogOdds.A();
-  const double b = densityOfLogOdds.B();
-  const double excess = BetaExcess(a, b, point);
-  const double density = densityOfLogOdds.At(point, excess);
-  const BetaPlace place{a, b, point, excess};
-  const Tails tails = IsLowerFirst(place) ? TailsAt(place, density, largestSubtrahend)
-                                          : TailsAt(place.Mirrored(), density, largestSubtrahend).Mirrored();
-  return {tails, density, excess};
+TailsAndDensity EvaluateBeta(double a, double b, const UnitPoint& point) {
+  if (a < negligibleShape || b < negligibleShape) return {TwoPointTails(a, b), 0};
+  const ScaledShapes scaled = Scale(a, b, point);
+  const BetaPlace place{scaled.a, scaled.b, scaled.point, BetaExcess(scaled.a, scaled.b, scaled.point)};
+  const double density = BetaDensity(scaled.a, scaled.b).At(scaled.point, place.excess);
+  return {IsLowerFirst(place) ? TailsAt(place, density) : TailsAt(place.Mirrored(), density).Mirrored(), density};
 }
 
-TailsAndDensity EvaluateBeta(double a, double b, const UnitPoint& point) {
-  if (a < negligibleShape || b < negligibleShape) return {TwoPointTails(a, b), 0, 0};
-  const ScaledShapes scaled = Scale(a, b, point);
-  return EvaluateBeta(BetaDensity(scaled.a, scaled.b), scaled.point, subtrahendOfProbability);
+PreciseTail EvaluateLowerBeta(const PreciseBetaDensity& densityOfLogOdds, const UnitPoint& point) {
+  const double a = densityOfLogOdds.A();
+  const double b = densityOfLogOdds.B();
+  const BetaPlace place{a, b, point, BetaExcess(a, b, point)};
+  const DoubleDouble density = densityOfLogOdds.At(point, place.excess);
+  const auto By = [&](double quotient) { return PreciseTail{Product(density, quotient), density.hi, place.excess}; };
+  if (density.hi == 0) return {{place.excess > 0 ? 1.0 : 0.0, 0}, 0, place.excess};
+  if (IsLowerFirst(place)) return By(PreciseQuotientOfTail(place));
+  PreciseTail tail = By(PreciseQuotientOfTail(place.Mirrored()));
+  if (tail.lower.hi > subtrahendOfQuantile) {
+    const double quotient = PreciseQuotientOfTail(place);
+    if (quotient >= 0) return By(quotient);
+  }
+  const DoubleDouble upper = tail.lower;
+  tail.lower = ExactSum(1, -upper.hi);
+  tail.lower.lo -= upper.lo;
+  return tail;
 }
 
 double EvaluateBetaDensity(double a, double b, const UnitPoint& point) {

@@ -22,15 +22,19 @@ struct Tails {
 struct TailsAndDensity {
   Tails tails;
   double density;  ///< of the log-odds
-  double excess;   ///< (a + b) x - a
 };
 
-/// I_x(a, b) and I_y(b, a) for the shapes of `density`. A tail above `largestSubtrahend` is not subtracted from one:
-/// the other is computed by itself.
-TailsAndDensity EvaluateBeta(const BetaDensity& density, const UnitPoint& point, double largestSubtrahend);
-
-/// The same for any positive finite shapes.
+/// I_x(a, b) and I_y(b, a) for positive finite shapes.
 TailsAndDensity EvaluateBeta(double a, double b, const UnitPoint& point);
+
+struct PreciseTail {
+  DoubleDouble lower;
+  double density;
+  double excess;  ///< (a + b) x - a
+};
+
+/// I_x(a, b) for the shapes of `density`, to the last digit or two up to 1/2 and somewhat beyond.
+PreciseTail EvaluateLowerBeta(const PreciseBetaDensity& density, const UnitPoint& point);
 
 /// x^a y^b / B(a, b) for any positive finite shapes.
 double EvaluateBetaDensity(double a, double b, const UnitPoint& point);

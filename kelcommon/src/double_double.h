@@ -82,6 +82,13 @@ inline DoubleDouble Quotient(const DoubleDouble& a, const DoubleDouble& b) {
   return ExactSumOfSorted(quotient, (rest + (a.lo - quotient * b.lo)) / b.hi);
 }
 
+/// The square root of a positive number, by a step of Newton's method from that of its double.
+inline DoubleDouble SquareRoot(const DoubleDouble& a) {
+  const double root = std::sqrt(a.hi);
+  const double rest = -ProductRest(root, root, a.hi);
+  return ExactSumOfSorted(root, (rest + a.lo) / (2 * root));
+}
+
 }  // namespace KelMath
 
 #endif
