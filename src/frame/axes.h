@@ -14,7 +14,12 @@ struct Axis {
   std::optional<double> end = std::nullopt;  ///< the last position where it is set apart from the grid
   std::int32_t firstIndex = 0;               ///< 1 where the first position is start + step
 
-  double At(std::int32_t i) const { return end && i == count - 1 ? *end : (i + firstIndex) * step + start; }
+  double At(std::int32_t i) const {
+    if (end && i == count - 1) return *end;
+    // Rounded before the sum even where a compiler may fuse the two, so that a point meets the end of its range.
+    const volatile double distance = (i + firstIndex) * step;
+    return distance + start;
+  }
 };
 
 /// Which positions an axis between two ends has besides the whole steps below its end.
