@@ -12,6 +12,12 @@ POINTS = {
         (-9.45826725069807, 0.6544135886965259, -82.05397126945694),
         # An upper tail far out, by mirrored arguments.
         (-83.32140511898449, 1e5, -60.0), (83.32140511898449, 1e5, 60.0),
+        # x^2 is near to overflow.
+        (-1e150, 1.0, 1e-300), (-1e150, 0.5, 1.0), (1e150, 1.0, -1.0),
+    ],
+    "CdfBeta": [
+        # The least doubles have few digits, whose logarithm has all.
+        (1e-323, 0.00875265662885456, 1.2860247468396941),
     ],
     "NonCentralCdfF": [
         # With so many numerator degrees of freedom a sum from j = 0 on has more terms than any limit.
@@ -20,7 +26,17 @@ POINTS = {
         # Few denominator degrees of freedom, in the lower tail.
         (4.381326810060992, 20.31982724897139, 0.7719579085817929, 5621.337105137117),
     ],
+    "IdfF": [
+        # Whole degrees of freedom and a level at the median are often cases of their own, which end beside them.
+        (0.499999995, 4.00000004, 3.9999999999999996), (0.5000000000005, 4.00000004, 2.000000000002),
+        (0.499999995, 4.0, 3.99999996), (0.5000000000000001, 3.0, 3.0), (0.49999999999999994, 1.0000000000000002, 1.0),
+    ],
+    "IdfT": [
+        (0.24999999999999997, 1.0000000000000002), (0.25000000000000006, 0.999999999999), (0.7499999924999999, 3.0),
+    ],
     "IdfBeta": [
+        # The density is all but flat in the logit from -1000 to 1000.
+        (0.5, 0.001, 0.001), (0.75, 0.001, 1.0),
         # The quantile is near 1e-1375, and mirrored 1.
         (0.39260395588132657, 0.0002960181908180621, 873.5970025551417),
         (1 - 0.39260395588132657, 873.5970025551417, 0.0002960181908180621),

@@ -121,6 +121,9 @@ def beta(function):
 
 def f_quantiles():
     yield from product("IdfF", tails(), df1=bands(0.5, 4, 60, 1e4, 1e7), df2=bands(0.5, 4, 60, 1e4, 1e7))
+    for df1, df2 in itertools.product(bands(0.5, 60, 1e7), repeat=2):
+        yield Region("IdfF", f"near the median; df1 {df1}; df2 {df2}",
+                     {"from_half": Range(1e-12, 0.1, "signed log", False), "df1": df1, "df2": df2})
     every = Range(0.5, 1e7)
     yield from beyond(product("IdfF", tails(), df1=bands(1e-3, 0.5), df2=[every]))
     yield from beyond(product("IdfF", tails(), df1=[every], df2=bands(1e-3, 0.5)))

@@ -48,19 +48,28 @@ class Search:
                                                               self.options.relative))
 
     def anywhere(self):
-        size = len(self.region.ranges)
-        return [self.rng.random() for _ in range(size)], [self.rng.random() < 0.4 for _ in range(size)]
+        """At times on the border or in the middle of a range, or with equal coordinates, as of symmetric shapes."""
+        point = []
+        for _ in self.region.ranges:
+            kind = self.rng.random()
+            if kind < 0.1:
+                point.append(self.rng.choice([0.0, 0.5, 1.0]))
+            elif kind < 0.2 and point:
+                point.append(point[-1])
+            else:
+                point.append(self.rng.random())
+        return point, [self.rng.random() < 0.4 for _ in point]
 
     def start(self):
         point, whole = self.most_different(self.anywhere)
         return self.measure(point, whole), point, whole
 
     def neighbour(self, point):
-        """A step in one or in all coordinates, reflected at the borders."""
+        """A step in one or in all coordinates, as far as the borders."""
         size = 10 ** -self.rng.uniform(0.3, 9)
         chosen = self.rng.choice([None, *range(len(point))])
         steps = [self.rng.gauss(0, size) if chosen in (None, i) else 0 for i in range(len(point))]
-        return [min(abs(u + step), 2 - abs(u + step)) if abs(u + step) < 2 else u for u, step in zip(point, steps)]
+        return [min(max(u + step, 0.0), 1.0) for u, step in zip(point, steps)]
 
     def climb(self, finding, point, whole):
         for _ in range(self.options.steps):
