@@ -32,7 +32,10 @@ DoubleDouble PowerOf(const DoubleDouble& p, double e, double a) {
   const double power = std::pow(p.hi, exponent);
   if (power == 0 || std::isinf(power)) return {power, 0};
   const double rest = -ProductRest(exponent, a, e) / a;
-  return Product(DoubleDouble{power, 0}, std::exp(exponent * (p.lo / p.hi) + rest * std::log(p.hi)));
+  const double correction = std::exp(exponent * (p.lo / p.hi) + rest * std::log(p.hi));
+  const double corrected = power * correction;
+  if (corrected == 0 || std::isinf(corrected)) return {corrected, 0};
+  return ExactProduct(power, correction);
 }
 
 struct Series {
@@ -73,7 +76,7 @@ BetaPowerLaw::BetaPowerLaw(double a, double b, DoubleDouble p)
   x_ = pure;
   if (IsPure()) return;
   // Newton's method in log(x), within the range of the series.
-  const double end = std::min(0.5, mostArgument / b);
+  const double end = std::min(farthest, mostArgument / b);
   for (int i = 0; i < 30; ++i) {
     const double x = std::min(x_, end);
     const Series series = SumSeries(a, b, x);

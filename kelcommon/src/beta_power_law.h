@@ -12,7 +12,7 @@ public:
   BetaPowerLaw(double a, double b, DoubleDouble p);
 
   /// Whether the power series in x holds.
-  bool Holds() const { return x_ < 0.5 && b_ * x_ < mostArgument; }
+  bool Holds() const { return x_ < farthest && b_ * x_ < mostArgument; }
 
   /// Whether the power alone holds, to the last digit.
   bool IsPure() const { return x_ * (1 + b_) * a_ < 1e-17; }
@@ -24,6 +24,7 @@ public:
   double Ratio(double power) const;
 
 private:
+  static constexpr double farthest = 0.51;     // either end is nearer than this
   static constexpr double mostArgument = 0.7;  // of b x: up to it the series does not cancel
 
   double a_;

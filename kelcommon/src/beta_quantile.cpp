@@ -75,10 +75,11 @@ double StartingRatio(double a, double b, double p) {
     if (h + lambda > 0)
       return std::exp(2 * (z * std::sqrt(h + lambda) / h + (rb - ra) * (lambda + 5.0 / 6 - 2 / (3 * h))));
   }
-  // The leading term of the series at x = 0, and where that does not hold, at x = 1.
+  // The power law at x = 0 or else that at x = 1, and between them the mean.
   const BetaPowerLaw atZero(a, b, {p, 0});
   if (atZero.Point() < 0.5) return atZero.Ratio(1);
-  return BetaPowerLaw(b, a, ExactSum(1, -p)).Ratio(-1);
+  const BetaPowerLaw atOne(b, a, ExactSum(1, -p));
+  return atOne.Point() < 0.5 ? atOne.Ratio(-1) : 1;
 }
 
 // The density of the odds around x / y, divided by that there, as a power series in u, where the odds have grown by the
