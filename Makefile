@@ -3,6 +3,8 @@
 PRESET ?= release
 BUILD := build/$(PRESET)
 PREFIX ?= /usr/local
+# The last commit before the distributions were computed in plain doubles.
+BEFORE ?= 73ba671
 FUZZ := build/fuzz
 FUZZ_SECONDS ?= 60
 FUZZ_SEED ?= 0
@@ -14,7 +16,7 @@ CORE := kelcommon engine vectors frame anova means proportions correlation regre
 space := $() $()
 PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
 
-.PHONY: help run test test-core $(PLATFORMS) build bench bench-peers lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
+.PHONY: help run test test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
 
 run: build ## build and plan a real study
 	@sh tools/run_example.sh $(BUILD)/cli/kelpower
@@ -61,6 +63,18 @@ bench-peers: build ## measure speed beside pwr, base R and statsmodels and write
 	@sh tools/install_packages.sh peers
 	@sh tools/peers/unpack_statsmodels.sh build/peers/statsmodels || echo "statsmodels is left out"
 	@python3 -B tools/peers/measure.py . $(BUILD) build/peers/statsmodels docs/performance.md
+
+bench-before: build ## measure the distributions beside those of an earlier commit, BEFORE=COMMIT, and write it into docs/performance.md
+	@sh tools/install_packages.sh before
+	@sh tools/peers/build_before.sh $(BEFORE) build/before
+	@python3 -B tools/peers/before.py . $(BUILD) build/before/build $(BEFORE) docs/performance.md
+
+bench-wasm: configure-$(PRESET) ## measure speed as WebAssembly beside the native one and write it into docs/performance.md
+	@sh tools/install_packages.sh wasm
+	@cmake --preset wasm -Wno-dev --log-level=WARNING
+	@cmake --build $(BUILD) -j $(JOBS) --target kelpower_timing
+	@cmake --build --preset wasm -j $(JOBS) --target kelpower_timing
+	@python3 -B tools/peers/wasm.py $(BUILD) build/wasm docs/performance.md
 
 worst: build ## search the distributions for their largest errors and keep the worst points among the references
 	@python3 -m venv build/venv && build/venv/bin/pip install --quiet python-flint

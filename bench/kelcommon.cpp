@@ -31,6 +31,14 @@ void IdfT(benchmark::State& state) {
 }
 BENCHMARK(IdfT)->Arg(30)->Arg(2000);
 
+// A mean of the square far from 1: a sum with many terms, and an integral in the complex plane.
+void NonCentralCdfFFarOut(benchmark::State& state) {
+  const double noncentrality = static_cast<double>(state.range(0));
+  const double x = 1.01 * (3 + noncentrality) / 3;
+  for (auto _ : state) benchmark::DoNotOptimize(KelDistFun::NonCentralCdfF(x, 3, 2000, noncentrality, 1e-12));
+}
+BENCHMARK(NonCentralCdfFFarOut)->ArgName("noncentrality")->Arg(3000)->Arg(30000);
+
 // One sample and an effect of 2.8 standard errors, a power near 0.8.
 void NonCentralCdfT(benchmark::State& state) {
   const double df = static_cast<double>(state.range(0)) - 1;
@@ -38,6 +46,33 @@ void NonCentralCdfT(benchmark::State& state) {
   for (auto _ : state) benchmark::DoNotOptimize(KelDistFun::NonCentralCdfT(critical, df, 2.8, 1e-12));
 }
 BENCHMARK(NonCentralCdfT)->Arg(30)->Arg(2000);
+
+// The same design's probability of a rejection in the wrong direction.
+void NonCentralCdfTWrongSide(benchmark::State& state) {
+  const double df = static_cast<double>(state.range(0)) - 1;
+  const double critical = KelDistFun::IdfT(1 - alpha / 2, df, 1e-40, 1e-30);
+  for (auto _ : state) benchmark::DoNotOptimize(KelDistFun::NonCentralCdfT(-critical, df, 2.8, 1e-12));
+}
+BENCHMARK(NonCentralCdfTWrongSide)->Arg(30)->Arg(2000);
+
+// The power of a one-sided and of a two-sided t test: a quantile and one noncentral probability.
+void PowerOfT(benchmark::State& state) {
+  const double df = static_cast<double>(state.range(0)) - 1;
+  for (auto _ : state) {
+    const double critical = KelDistFun::IdfT(1 - alpha, df, 1e-40, 1e-30);
+    benchmark::DoNotOptimize(1 - KelDistFun::NonCentralCdfT(critical, df, 2.8, 1e-12));
+  }
+}
+BENCHMARK(PowerOfT)->Arg(30)->Arg(2000);
+
+void PowerOfTwoSidedT(benchmark::State& state) {
+  const double df = static_cast<double>(state.range(0)) - 1;
+  for (auto _ : state) {
+    const double critical = KelDistFun::IdfT(1 - alpha / 2, df, 1e-40, 1e-30);
+    benchmark::DoNotOptimize(1 - KelDistFun::NonCentralCdfF(critical * critical, 1, df, 2.8 * 2.8, 1e-12));
+  }
+}
+BENCHMARK(PowerOfTwoSidedT)->Arg(30)->Arg(2000);
 
 void CdfStdNorm(benchmark::State& state) {
   for (auto _ : state) benchmark::DoNotOptimize(KelDistFun::CdfStdNorm(-0.84));
@@ -63,6 +98,13 @@ void IdfBeta(benchmark::State& state) {
   for (auto _ : state) benchmark::DoNotOptimize(KelDistFun::IdfBeta(alpha / 2, successes, failures + 1));
 }
 BENCHMARK(IdfBeta)->Arg(50)->Arg(2000);
+
+// The upper limit of the interval of Jeffreys after no success.
+void IdfBetaSmallShape(benchmark::State& state) {
+  const double failures = static_cast<double>(state.range(0));
+  for (auto _ : state) benchmark::DoNotOptimize(KelDistFun::IdfBeta(1 - alpha / 2, 0.5, failures + 0.5));
+}
+BENCHMARK(IdfBetaSmallShape)->Arg(50)->Arg(2000);
 
 void CdfBin(benchmark::State& state) {
   const double size = static_cast<double>(state.range(0));

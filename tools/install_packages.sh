@@ -1,6 +1,6 @@
 #!/bin/sh
 # Installs the Debian packages of the named groups that are missing: build, clang, arm64, wasm, windows, lint, fuzz,
-# valgrind, peers.
+# valgrind, peers, before.
 # Says what it does, and is silent and quick when nothing is missing.
 set -eu
 
@@ -16,6 +16,7 @@ for group in "$@"; do
     lint) packages="$packages clang-format clang-tidy" ;;
     fuzz) packages="$packages clang libclang-rt-14-dev" ;;
     valgrind) packages="$packages valgrind" ;;
+    before) packages="$packages libboost1.81-dev" ;;
     peers) packages="$packages r-base-core r-cran-pwr" ;;
     *) echo "$0: unknown group '$group'" >&2; exit 2 ;;
   esac

@@ -56,11 +56,8 @@ double HillQuantile(double df, double p) {
 
 // The ratio near enough for the inverse series.
 double StartingRatio(double a, double b, double p) {
-  // The square of Student's t is a variable of F with one numerator degree of freedom.
-  if (a == 0.5 && b > 1 && b < 1e15 && p > 1e-12) {
-    const double t = HillQuantile(2 * b, 1 - p);
-    if (t > 0) return t * t;
-  }
+  // The square of Student's t is a variable of F with one numerator degree of freedom, its reciprocal one with one
+  // denominator degree. The lower half of the former comes of its power law and not here.
   if (b == 0.5 && a > 1 && a < 1e15) {
     const double t = HillQuantile(2 * a, p);
     if (t > 0) return 1 / (t * t);

@@ -14,6 +14,8 @@ import sys
 from pathlib import Path
 
 import page
+import sections
+from machine import machine
 
 TOOLS = Path(__file__).parent
 DEBIAN_PYTHON = "/usr/bin/python3"  # for which Debian's statsmodels is compiled
@@ -61,14 +63,6 @@ def measure_programs(build, environment, has_statsmodels):
             for command in commands]
 
 
-def machine():
-    """The processor by its own name, where the system tells it."""
-    for line in Path("/proc/cpuinfo").read_text().splitlines():
-        if line.startswith("model name"):
-            return line.partition(":")[2].strip()
-    return "unnamed processor"
-
-
 def main():
     source, build, statsmodels, target = map(Path, sys.argv[1:])
     environment = statsmodels_environment(statsmodels)
@@ -87,7 +81,8 @@ def main():
     context = {"machine": machine(), "version": (source / "VERSION").read_text().strip(),
                "compiler": json.loads(ours)["context"]["compiler"]}
     sources = {path.stem: path.read_text() for path in (source / "bench").glob("*.cpp")}
-    target.write_text(page.page(context, calls, versions, programs, page.read_benchmarks(benchmarks), sources))
+    kept = sections.kept(target.read_text()) if target.exists() else ""
+    target.write_text(page.page(context, calls, versions, programs, page.read_benchmarks(benchmarks), sources, kept))
     print(page.summary_table(calls))
 
 

@@ -4,6 +4,7 @@ import json
 import math
 import re
 import statistics
+import textwrap
 from dataclasses import dataclass, field
 
 PEERS = {"pwr": "pwr", "R": "base R", "statsmodels": "statsmodels"}
@@ -158,6 +159,11 @@ def words(name):
     return " ".join([parts[0]] + [part if part in PROPER_NAMES else part.lower() for part in parts[1:]])
 
 
+def paragraph(text):
+    """The text in lines of at most 120 characters."""
+    return textwrap.fill(" ".join(text.split()), 120, break_on_hyphens=False) + "\n"
+
+
 def table(head, rows):
     lines = ["| " + " | ".join(head) + " |", "|" + "---|" * len(head)]
     return "\n".join(lines + ["| " + " | ".join(row) + " |" for row in rows]) + "\n"
@@ -287,7 +293,8 @@ def versions_sentence(context, versions):
     return f"{context['machine']}; kelpower {context['version']} compiled by {context['compiler']}; {', '.join(parts)}"
 
 
-def page(context, calls, versions, programs, benchmarks, sources):
+def page(context, calls, versions, programs, benchmarks, sources, kept=""):
+    """`kept` are the sections that are measured by themselves."""
     missing = "" if "statsmodels" in versions else "\nstatsmodels could not be had on this machine and is left out.\n"
     return f"""# Speed
 
@@ -328,7 +335,7 @@ The same functions through `ctypes`, which converts the arguments at every call.
 From the start of a command to its end: the groups of a two-sample t test with d = 0.5 for a power of 0.8.
 
 {programs_table(programs)}
-## All benchmarks
+{kept}## All benchmarks
 
 What `make bench` measures, by family; the designs are in `bench/`. Arguments of distributions are the sample sizes of the
 designs they are taken from.

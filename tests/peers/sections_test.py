@@ -1,0 +1,94 @@
+"""The sections that are measured by themselves are replaced alone and survive a new page; their numbers are right."""
+
+import json
+import unittest
+
+import before
+import page
+import sections
+import wasm
+
+PAGE = "# Speed\n\nText.\n\n## All benchmarks\n\nTables.\n"
+
+
+class SectionsTest(unittest.TestCase):
+    def test_a_new_section_stands_before_the_benchmarks(self):
+        new = sections.replaced(PAGE, "before", "## Beside\n")
+        self.assertEqual(sections.body_of(new, "before"), "## Beside\n")
+        self.assertIsNone(sections.body_of(new, "webassembly"))
+        self.assertLess(new.index("## Beside"), new.index("## All benchmarks"))
+        self.assertEqual(new.replace(sections.kept(new), ""), PAGE)
+
+    def test_one_section_is_replaced_alone_and_in_order(self):
+        new = sections.replaced(PAGE, "webassembly", "wasm\n")
+        new = sections.replaced(new, "before", "old\n")
+        new = sections.replaced(new, "before", "new\n")
+        self.assertEqual([sections.body_of(new, name) for name in sections.NAMES], ["new\n", "wasm\n"])
+        self.assertNotIn("old\n", new)
+        self.assertLess(new.index("new\n"), new.index("wasm\n"))
+        self.assertEqual(new.count("Tables."), 1)
+
+    def test_a_page_without_its_place_is_refused(self):
+        with self.assertRaises(sections.NoPlace):
+            sections.replaced("# Speed\n", "before", "new\n")
+
+    def test_sections_survive_a_new_page(self):
+        old = sections.replaced(PAGE, "before", "measured\n")
+        context = {"machine": "m", "version": "v", "compiler": "c"}
+        calls = {(program, design, question): page.Call(1, 1e-6)
+                 for program in ("kelpower", "pwr") for design in page.DESIGNS for question in page.QUESTIONS}
+        new = page.page(context, calls, {}, [("kelpower", 1.0)], [], {}, sections.kept(old))
+        self.assertEqual(sections.body_of(new, "before"), "measured\n")
+        self.assertEqual(sections.body_of(sections.replaced(new, "before", "again\n"), "before"), "again\n")
+
+
+def report(**seconds):
+    entries = [{"run_name": name, "run_type": "iteration", "cpu_time": time, "time_unit": "us"}
+               for name, time in seconds.items()]
+    return json.dumps({"benchmarks": entries})
+
+
+class BeforeTest(unittest.TestCase):
+    def test_reads_processor_times(self):
+        self.assertEqual(before.seconds_by_benchmark(report(IdfT=2)), {"IdfT": 2e-6})
+
+    def test_takes_medians_of_the_rounds_of_each_side(self):
+        reports = {"before": [{"IdfT/n:30": 9e-6}, {"IdfT/n:30": 6e-6}, {"IdfT/n:30": 1e-6}],
+                   "now": [{"IdfT/n:30": 3e-6}, {"IdfT/n:30": 7e-6}, {"IdfT/n:30": 2e-6}]}
+        row, = before.rows_of(reports)
+        self.assertEqual(row, before.Row("IdfT", "n 30", 6e-6, 3e-6))
+        self.assertEqual(row.times_as_fast(), 2)
+
+    def test_the_section_has_the_range_of_the_ratios(self):
+        rows = [before.Row("A", "", 4e-6, 1e-6), before.Row("B", "", 1e-6, 2e-6), before.Row("C", "", 3e-6, 1e-6)]
+        context = {"commit": "abc", "subject": "s", "machine": "m", "compiler": "c", "rounds": 3}
+        text = before.section(rows, context)
+        self.assertIn("Now they are 0.50 to 4.0 times as fast, 3.0 times in the median.", " ".join(text.split()))
+        self.assertIn("| `B` |  | 1.0 µs | 2.0 µs | 0.50 |", text)
+
+    def test_finds_the_library_that_the_loader_takes(self):
+        listing = "\tlibc.so.6 => /lib/libc.so.6 (0x1)\n\tlibkelcommon.so.0 => /old/libkelcommon.so.0 (0x2)\n"
+        self.assertEqual(str(before.library_in(listing)), "/old/libkelcommon.so.0")
+        with self.assertRaises(before.WrongLibrary):
+            before.library_in("\tlibc.so.6 => /lib/libc.so.6 (0x1)\n")
+
+
+class WasmTest(unittest.TestCase):
+    def test_takes_medians_of_the_rounds_of_each_form(self):
+        timings = {"native": [wasm.read_timings(f"power\t0.8\t{time}e-06\n") for time in (1, 5, 2)],
+                   "wasm": [wasm.read_timings(f"power\t0.8000000000000003\t{time}e-06\n") for time in (9, 3, 4)]}
+        row, = wasm.rows_of(timings)
+        self.assertEqual(row, wasm.Row("power", 2e-6, 4e-6))
+        self.assertEqual(row.times_as_long(), 2)
+        self.assertIn("| power | 2.0 µs | 4.0 µs | 2.0 |",
+                      wasm.section([row], {"g++": "1", "emscripten": "2", "node": "3", "machine": "m", "rounds": 3}))
+
+    def test_other_answers_are_an_error(self):
+        timings = {"native": [wasm.read_timings("power\t0.8\t1e-06\n")],
+                   "wasm": [wasm.read_timings("power\t0.81\t1e-06\n")]}
+        with self.assertRaises(wasm.Disagreement):
+            wasm.rows_of(timings)
+
+
+if __name__ == "__main__":
+    unittest.main()
