@@ -16,8 +16,9 @@ constexpr double negligibleShape = 1e-20;
 // an end, and intermediate products stay finite.
 constexpr double largestShape = 1e280;
 
-// From this smaller shape on the quadrature is faster than the fraction, and rounds less.
-constexpr double quadratureShape = 1500;
+// From this smaller shape on the quadrature is faster than the fraction, whose terms grow like its cube root: to 480 at
+// the middle of two shapes of 5e5.
+constexpr double quadratureShape = 12000;
 
 double QuotientOfTail(const BetaPlace& place) {
   if (IsBetaSeriesShort(place)) return BetaQuotientBySeries(place);
@@ -29,12 +30,13 @@ double PreciseQuotientOfTail(const BetaPlace& place) {
   return IsBetaSeriesShort(place) ? BetaQuotientBySeriesPrecisely(place) : QuotientOfTail(place);
 }
 
-// Negative where no method gives it.
+// Negative where no method gives it, far beyond the mean.
 double LowerTail(const BetaPlace& place, double density) {
   return density > 0 ? std::min(density * QuotientOfTail(place), 1.0) : 0;
 }
 
 // The lower tail is computed first: its series is short, or x is not far above the mean, where the fraction is fast.
+// The tail that comes first always has its method.
 bool IsLowerFirst(const BetaPlace& place) {
   if (IsBetaSeriesShort(place)) return true;
   return place.excess + 2 * place.point.x.hi <= 1 && !IsBetaSeriesShort(place.Mirrored());

@@ -29,7 +29,7 @@ constexpr double straightShape = 20;
 // 2000, 30, 10) would err by 2e-12.
 constexpr double wideStepShape = 1000;
 
-// With b below, the integrand of the lower tail decays too slowly: F(0.48; 118, 0.0013, 0.6) would err by 1e-9 of
+// With b below, the integrand of the lower tail decays too slowly: F(5.4; 692, 0.0017, 4453) would err by 2e-6 of
 // itself.
 constexpr double leastLowerB = 0.1;
 

@@ -26,10 +26,12 @@ constexpr double negligible = 1e-17;
 // A Poisson mass this many standard deviations below the mean is negligible.
 constexpr double deviations = 9.3;
 
-// Above this many terms the contour integral is faster, and rounds less.
+// Above this many terms the contour integral is faster, and rounds less: F(6.97; 1326, 1007, 7932), of 1,200 terms, by
+// 2e-16 and not 1e-14.
 constexpr double mostTerms = 900;
 
-// With both shapes and the mean below, the integrand decays too slowly for the contour integral.
+// With both shapes and the mean below, the integrand decays too slowly for the contour integral: F(2; 0.6, 2.1, 45)
+// would err by 2e-11 of itself.
 constexpr double leastContourShape = 5;
 constexpr double leastContourMean = 60;
 

@@ -46,7 +46,7 @@ constexpr double largestDelta = 39;
 constexpr double leastShape = 1e-20;
 
 // (3) keeps fourteen digits while the difference is this part of the sums, which it is up to about this many standard
-// deviations.
+// deviations. With a tenth of the part, T(-242; 1.75, 2.1) would err by 6e-13 of itself.
 constexpr double leastDifference = 2e-2;
 constexpr double farthestDifference = 2.2;
 

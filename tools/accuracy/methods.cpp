@@ -8,30 +8,27 @@ namespace {
 const Method methods[] = {
     {"IdfF", "Quantile of F: `IdfF(p, df1, df2)`.",
      "The inverse series of the logarithm of the smaller beta tail in the log-odds, to its third term, within a "
-     "bracket; then, when near, the power series of the density's integral. "
-     "The tail is its density, by saddle-point form in extended precision, times a power series or a continued "
-     "fraction; "
-     "with both shapes above 30000 a contour integral.",
+     "bracket; then, when near, the power series of the density's integral. The tail is as in `CdfBeta`, the density "
+     "multiplied up in pairs of doubles and short series summed from the last term inwards. With less than two degrees "
+     "of freedom, near an end, the power law of the tail with its power series.",
      "A. DiDonato and A. Morris, Significant Digit Computation of the Incomplete Beta Function Ratios, ACM TOMS 18 "
-     "(1992), equations 4 and 9. Start: Abramowitz and Stegun 26.5.22."},
+     "(1992), equations 4 and 9. Start: Abramowitz and Stegun 26.5.22; power law: 26.5.4."},
     {"NonCentralCdfF", "Lower probability of noncentral F: `NonCentralCdfF(x, df1, df2, noncentrality, eps)`.",
-     "The Poisson mixture of beta tails, the lower tail summed by parts and the upper by the forward recurrence, all "
-     "terms positive; above 4000 terms, or a noncentrality above 2e6, the integral of the moment generating function "
-     "along a contour through its saddle point, by the trapezoidal rule.",
+     "The Poisson mixture of beta tails, the lower tail summed by parts and the upper by recurrences from its largest "
+     "term, all terms positive; above 900 terms, or a noncentrality above 2e6, the integral of the moment generating "
+     "function along a contour through its saddle point, by the trapezoidal rule.",
      "N. Johnson, S. Kotz and N. Balakrishnan, Continuous Univariate Distributions 2 (1995), equation 30.10; R. "
      "Lugannani and S. Rice, Saddle Point Approximation for the Distribution of the Sum of Independent Random "
-     "Variables "
-     "(1980)."},
+     "Variables (1980)."},
     {"IdfT", "Quantile of Student's t: `IdfT(p, df, a, b)`.",
-     "From the log-odds of a beta distribution, as `IdfF`: near the median from its lower tail, outside from its "
-     "upper. "
+     "As `IdfF`, of which the square of t is a variable: near the median from its lower tail, outside from its upper. "
      "With 1 and 2 degrees of freedom in closed form; above 1e18 the normal quantile.",
      "As `IdfF`. Start: G. Hill, Algorithm 396: Student's t-Quantiles (1970)."},
     {"NonCentralCdfT", "Lower probability of noncentral t: `NonCentralCdfT(x, df, noncentrality, tuning)`.",
      "Poisson mixtures of beta tails with shapes 1/2 and 1, summed by parts in the lower tail; beyond a noncentrality "
-     "of "
-     "10 the noncentral F distribution of the square. On the side away from the noncentrality, where the sum cancels, "
-     "the mean of the normal distribution over the chi distribution, by the trapezoidal rule in the logarithm.",
+     "of 10 the noncentral F distribution of the square. On the side away from the noncentrality, where the sum "
+     "cancels, the mean of the normal distribution over the chi distribution, by the trapezoidal rule in the "
+     "logarithm.",
      "W. Guenther, Evaluation of Probabilities for the Noncentral Distributions and the Difference of Two T Variables "
      "with a Desk Calculator (1978); D. Benton and K. Krishnamoorthy, Computing Discrete Mixtures of Continuous "
      "Distributions (2003), equation 3.2."},
@@ -44,14 +41,13 @@ const Method methods[] = {
      "After M. Wichura, Algorithm AS 241: The Percentage Points of the Normal Distribution, Applied Statistics 37 "
      "(1988)."},
     {"CdfBeta", "Lower probability of the beta distribution: `CdfBeta(x, a, b)`.",
-     "x^a (1 - x)^b / B(a, b) in saddle-point form with a compensated distance from the mean, times a power series, a "
-     "continued fraction, or above shapes of 1500 a Gauss-Legendre quadrature of the tail.",
+     "x^a (1 - x)^b / B(a, b) in saddle-point form, with the distance from the mean formed in pairs of doubles, times "
+     "a power series, a continued fraction evaluated from its far end, or above shapes of 12000 a Gauss-Legendre "
+     "quadrature of the tail.",
      "C. Loader, Fast and Accurate Computation of Binomial Probabilities (2000); A. DiDonato and A. Morris, "
-     "Significant "
-     "Digit Computation of the Incomplete Beta Function Ratios, ACM TOMS 18 (1992), equation 9."},
+     "Significant Digit Computation of the Incomplete Beta Function Ratios, ACM TOMS 18 (1992), equations 4 and 9."},
     {"IdfBeta", "Quantile of the beta distribution: `IdfBeta(p, a, b)`.",
-     "Halley's method on the logarithm of the smaller tail as a function of log(x / (1 - x)), within a bracket.",
-     "Start: Abramowitz and Stegun 26.5.22; W. Press and others, Numerical Recipes (3rd ed. 2007), 6.4."},
+     "As `IdfF`, whose variable is the odds x / (1 - x).", "As `IdfF`."},
     {"CdfBin", "Lower probability of the binomial distribution: `CdfBin(x, n, p, err)`.",
      "The upper probability of the beta distribution; with p = 1/2 and up to 53 trials the exact sum.",
      "As `CdfBeta`."},
