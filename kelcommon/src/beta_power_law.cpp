@@ -20,7 +20,7 @@ namespace {
 // (log(Gamma(z + a)) - log(Gamma(z))) / a - log(z + a) for z >= 1, a number of the order of 1 / z.
 double LogGammaGrowth(double z, double a) {
   const double ratio = a / z;
-  const double log1pOverA = ratio > 0 ? std::log1p(ratio) / ratio / z : 1 / z;
+  const double log1pOverA = std::log1p(ratio) / ratio / z;
   // (z - 1/2) log1p(a / z) / a - 1, of which the 1 is a part that cancels.
   const double first = ratio < 0.1 ? Log1pMinusArgument(ratio) / ratio : z * log1pOverA - 1;
   return first - log1pOverA / 2 + (LogScaledGamma(z + a) - LogScaledGamma(z)) / a;
