@@ -352,7 +352,8 @@ TEST(TAndF, AHugeNumeratorIsAConstant) {
   }
 }
 
-// Far out the upper tail of t falls like x^-df, and near 0 the probability of F grows like x^(df1 / 2).
+// Far out the upper tails of t and F fall like x^-df and x^-(df2 / 2); near 0 the probability of F grows like x^(df1 /
+// 2).
 TEST(TAndF, PowerLawsReachTheEndsOfTheRange) {
   for (double delta : {0.0, 1.0, 5.0, 20.0}) {
     const auto upperTail = [delta](double x) { return CdfT(-x, 1.0 / 128, -delta); };
@@ -363,7 +364,9 @@ TEST(TAndF, PowerLawsReachTheEndsOfTheRange) {
     const auto lowerTail = [lambda](int exponent) { return CdfF(std::ldexp(1, exponent), 1.0 / 64, 5, lambda); };
     for (int exponent : {-200, -500, -1000})
       ExpectRelative(lowerTail(exponent), lowerTail(-150) * std::exp2((exponent + 150) / 128.0), 1e-13);
-    EXPECT_EQ(CdfF(std::numeric_limits<double>::max(), 100, 5, lambda), 1);
+    const auto upperTail = [lambda](double x) { return 1 - CdfF(x, 100, 1.0 / 64, lambda); };
+    for (double digits : {50.0, 150.0, 308.0})
+      ExpectRelative(upperTail(std::pow(10, digits)), upperTail(1e30) * std::pow(10, -(digits - 30) / 128), 1e-13);
   }
 }
 
