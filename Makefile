@@ -64,8 +64,9 @@ bench-peers: build ## measure speed beside pwr, base R and statsmodels and write
 	@sh tools/peers/unpack_statsmodels.sh build/peers/statsmodels || echo "statsmodels is left out"
 	@python3 -B tools/peers/measure.py . $(BUILD) build/peers/statsmodels docs/performance.md
 
-bench-before: build ## measure the distributions beside those of an earlier commit, BEFORE=COMMIT, and write it into docs/performance.md
+bench-before: configure-$(PRESET) ## measure the distributions beside those of an earlier commit, BEFORE=COMMIT, and write it into docs/performance.md
 	@sh tools/install_packages.sh before
+	@cmake --build $(BUILD) -j $(JOBS) --target kelcommon_bench
 	@sh tools/peers/build_before.sh $(BEFORE) build/before
 	@python3 -B tools/peers/before.py . $(BUILD) build/before/build $(BEFORE) docs/performance.md
 

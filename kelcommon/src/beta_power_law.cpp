@@ -21,8 +21,8 @@ namespace {
 double LogGammaGrowth(double z, double a) {
   const double ratio = a / z;
   // (z - 1/2) log(1 + a / z) / a - 1, of which the 1 cancels.
-  const double log1pOverRatio = ratio > 0 ? std::log1p(ratio) / ratio : 1;
-  const double first = ratio > 0 ? Log1pMinusArgument(ratio) / ratio : 0;
+  const double log1pOverRatio = std::log1p(ratio) / ratio;
+  const double first = Log1pMinusArgument(ratio) / ratio;
   return first - log1pOverRatio / (2 * z) + (LogScaledGamma(z + a) - LogScaledGamma(z)) / a;
 }
 

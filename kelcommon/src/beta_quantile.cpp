@@ -69,8 +69,8 @@ double StartingRatio(double a, double b, double p) {
     const double ra = 1 / (2 * a - 1);
     const double rb = 1 / (2 * b - 1);
     const double h = 2 / (ra + rb);
-    if (h + lambda > 0)
-      return std::exp(2 * (z * std::sqrt(h + lambda) / h + (rb - ra) * (lambda + 5.0 / 6 - 2 / (3 * h))));
+    // h is 0.8 or more, lambda -0.5 or more.
+    return std::exp(2 * (z * std::sqrt(h + lambda) / h + (rb - ra) * (lambda + 5.0 / 6 - 2 / (3 * h))));
   }
   // The power law at x = 0 or else that at x = 1, and between them the mean.
   const BetaPowerLaw atZero(a, b, {p, 0});

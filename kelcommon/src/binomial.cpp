@@ -18,10 +18,10 @@ bool RejectsProbability(double p) { return p < 0 || p > 1; }
 // Up to here the sums of binomial coefficients are whole numbers that a double holds.
 constexpr double largestExactTrials = 53;
 
-// P(X <= k) with success probability 1/2, exactly, for whole k and n: the null distribution of the sign test, where
-// significance levels such as 1/32 meet the probability itself.
+// P(X <= k) with success probability 1/2, exactly, for whole k and n with 0 <= k < n: the null distribution of the sign
+// test, where significance levels such as 1/32 meet the probability itself.
 double SignTestProbability(double k, double n) {
-  if (2 * k >= n) return k >= n ? 1 : 1 - SignTestProbability(n - k - 1, n);
+  if (2 * k >= n) return 1 - SignTestProbability(n - k - 1, n);
   double coefficient = 1;
   double sum = 1;
   for (int i = 1; i <= static_cast<int>(k); ++i) {

@@ -39,13 +39,13 @@ struct Complex {
 };
 
 // log(1 + z) - z. With |1 + z|^2 = 1 + w the part of log(1 + w) / 2 that is linear in z cancels on paper. The argument
-// is multiplied by no more than the root of a shape, and its own error matters only in the second order.
+// is multiplied by no more than the root of a shape, and its own error matters only in the second order. On the contour
+// w = 2 s (c - 1) (s c - 1), c = cosh(u) and s > 0 the share of the way to the branch point, which is at least
+// -(1 - s)^2 / 2.
 Complex Log1pMinusArgument(const Complex& z) {
   const double square = z.real * z.real + z.imaginary * z.imaginary;
   const double w = 2 * z.real + square;
-  const double real =
-      w > -0.5 ? (KelMath::Log1pMinusArgument(w) + square) / 2 : std::log(std::hypot(1 + z.real, z.imaginary)) - z.real;
-  return {real, std::atan2(z.imaginary, 1 + z.real) - z.imaginary};
+  return {(KelMath::Log1pMinusArgument(w) + square) / 2, std::atan2(z.imaginary, 1 + z.real) - z.imaginary};
 }
 
 Complex Scaled(const Complex& z, double factor) { return {z.real * factor, z.imaginary * factor}; }

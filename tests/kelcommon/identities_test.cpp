@@ -106,6 +106,15 @@ TEST(Beta, HasTheClosedFormsOfAShapeOne) {
 }
 
 // Nearly all mass is at the ends, and between them the probability rises by less than a rounding error.
+TEST(Beta, TinyShapesPutTheMassAtTheEnds) {
+  for (double x : {1e-300, 0.25, 1 - 1e-16}) {
+    EXPECT_DOUBLE_EQ(KelDistFun::CdfBeta(x, 1e-30, 3e-30), 0.75);
+    EXPECT_DOUBLE_EQ(KelDistFun::CdfBeta(x, 3e-300, 1e-300), 0.25);
+    EXPECT_EQ(KelDistFun::CdfBeta(x, 1e-30, 1), 1);
+    EXPECT_EQ(KelDistFun::CdfBeta(x, 1, 1e-30), 0);
+  }
+}
+
 TEST(Beta, QuantilesOfTinyShapesAreInTheUnitInterval) {
   for (double shape = 1e-21; shape < 1e-9; shape *= 1.01)
     for (const double p : {0.3, 0.49999999999999994, 0.5, 0.50000000000000011, 0.7})

@@ -338,6 +338,38 @@ TEST(TAndF, TinyValuesOfLargeNoncentralities) {
   EXPECT_EQ(CdfT(3.8133500309928559e-15, 336.79829916113488, 744399.62936636899), 0);
 }
 
+// Beside a noncentrality or numerator degrees of freedom so large the numerator is a constant: the probability is that
+// of a chi-square variable, here of four degrees of freedom, to lie above a point.
+TEST(TAndF, AHugeNumeratorIsAConstant) {
+  const auto upperChiSquare4 = [](double x) { return std::exp(-x / 2) * (1 + x / 2); };
+  for (double share : {0.25, 1.0, 3.0}) {
+    ExpectRelative(CdfF(1e200 / share, 2, 4, 2e200), upperChiSquare4(4 * share), 1e-13);
+    ExpectRelative(CdfF(1e130 / share, 1e-10, 4, 1e120), upperChiSquare4(4 * share), 1e-13);
+    ExpectRelative(CdfF(1 / share, 1e250, 4, 100), upperChiSquare4(4 * share), 1e-13);
+    ExpectRelative(CdfF(2 / share, 1e250, 4, 1e250), upperChiSquare4(4 * share), 1e-13);
+    ExpectRelative(CdfT(1e60 / std::sqrt(share), 4, 1e60), upperChiSquare4(4 * share), 1e-13);
+    ExpectRelative(1 - CdfT(-1e90 / std::sqrt(share), 4, -1e90), upperChiSquare4(4 * share), 1e-13);
+  }
+}
+
+// Far out the upper tails of t and F fall like x^-df and x^-(df2 / 2); near 0 the probability of F grows like x^(df1 /
+// 2).
+TEST(TAndF, PowerLawsReachTheEndsOfTheRange) {
+  for (double delta : {0.0, 1.0, 5.0, 20.0}) {
+    const auto upperTail = [delta](double x) { return CdfT(-x, 1.0 / 128, -delta); };
+    for (double digits : {130.0, 150.0, 200.0, 300.0})
+      ExpectRelative(upperTail(std::pow(10, digits)), upperTail(1e100) * std::pow(10, -(digits - 100) / 128), 1e-14);
+  }
+  for (double lambda : {0.0, 1.0, 3.0}) {
+    const auto lowerTail = [lambda](int exponent) { return CdfF(std::ldexp(1, exponent), 1.0 / 64, 5, lambda); };
+    for (int exponent : {-200, -500, -1000})
+      ExpectRelative(lowerTail(exponent), lowerTail(-150) * std::exp2((exponent + 150) / 128.0), 1e-13);
+    const auto upperTail = [lambda](double x) { return 1 - CdfF(x, 100, 1.0 / 64, lambda); };
+    for (double digits : {50.0, 150.0, 308.0})
+      ExpectRelative(upperTail(std::pow(10, digits)), upperTail(1e30) * std::pow(10, -(digits - 30) / 128), 1e-13);
+  }
+}
+
 TEST(TAndF, EveryBitPatternHasAnAnswer) {
   std::mt19937_64 generator(20240611);
   const std::vector<double> special = {0,      -0.0, 1,    -1,    0.5,      5e-324,    1e-300,    1e308,
