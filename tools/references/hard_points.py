@@ -43,6 +43,21 @@ POINTS = {
     ],
 }
 
+BEYOND = {
+    "IdfF": [
+        # Near the largest double.
+        (0.9996526514112924, 3.0397211454143727, 0.02236032064481283),
+    ],
+    "NonCentralCdfT": [
+        # Far upper tails, by mirrored arguments: what is left out of a sum must be small beside the result.
+        (-51.690047082350624, 4328443.787022862, -20.398793036113027),
+        (-73.17143203206693, 998.095322762789, -11.104820964387173),
+        (-38.82656356211997, 57469.427122937035, -4.852764459228711),
+        # Hardly any degrees of freedom.
+        (0.5217366435071094, 0.001634375840187245, 76.81069252922045),
+    ],
+}
+
 
 def wrong_side_points():
     """The noncentral t at x < 0 < delta and mirrored, around the places where a method for it may change.
@@ -72,5 +87,8 @@ def hard_points():
     for function, points in POINTS.items():
         for arguments in points:
             yield function, arguments, HARD
+    for function, points in BEYOND.items():
+        for arguments in points:
+            yield function, arguments, "beyond planning: " + HARD
     for arguments in wrong_side_points():
         yield "NonCentralCdfT", arguments, "wrong side of 0"
