@@ -23,7 +23,7 @@ bool IsBetaSeriesShort(const BetaPlace& place);
 double BetaQuotientBySeries(const BetaPlace& place);
 
 /// The same to the last digit, in twice the time.
-double BetaQuotientBySeriesPrecisely(const BetaPlace& place);
+DoubleDouble BetaQuotientBySeriesPrecisely(const BetaPlace& place);
 
 /// What a method returns that would take too many terms.
 constexpr double noQuotient = -1;

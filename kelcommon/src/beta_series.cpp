@@ -49,20 +49,22 @@ double BetaQuotientBySeries(const BetaPlace& place) {
   return (1 + sum) / place.a;
 }
 
-// From the last term inwards each step damps the error of the one before.
-double BetaQuotientBySeriesPrecisely(const BetaPlace& place) {
+// From the last term inwards each step damps the error of the one before, and the first one is made in pairs of
+// doubles.
+DoubleDouble BetaQuotientBySeriesPrecisely(const BetaPlace& place) {
   const Ratio ratio(place);
   double ratios[mostTerms];
   double term = 1;
-  int count = 0;
+  int count = 1;
   while (count < mostTerms && term > 1e-18) {
     ratios[count] = ratio.At(count);
     term *= ratios[count];
     ++count;
   }
   double sum = 0;
-  while (count > 0) sum = ratios[--count] * (1 + sum);
-  return (1 + sum) / place.a;
+  while (count > 1) sum = ratios[--count] * (1 + sum);
+  const DoubleDouble first = Quotient(Product(place.point.x, ExactSum(place.a, place.b)), ExactSum(place.a, 1));
+  return Quotient(Sum(Product(first, ExactSum(1, sum)), 1), {place.a, 0});
 }
 
 }  // namespace KelMath

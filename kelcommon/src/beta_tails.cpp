@@ -26,8 +26,8 @@ double QuotientOfTail(const BetaPlace& place) {
   return BetaQuotientByFraction(place);
 }
 
-double PreciseQuotientOfTail(const BetaPlace& place) {
-  return IsBetaSeriesShort(place) ? BetaQuotientBySeriesPrecisely(place) : QuotientOfTail(place);
+DoubleDouble PreciseQuotientOfTail(const BetaPlace& place) {
+  return IsBetaSeriesShort(place) ? BetaQuotientBySeriesPrecisely(place) : DoubleDouble{QuotientOfTail(place), 0};
 }
 
 // Negative where no method gives it, far beyond the mean.
@@ -111,13 +111,15 @@ PreciseTail EvaluateLowerBeta(const PreciseBetaDensity& densityOfLogOdds, const 
   const double b = densityOfLogOdds.B();
   const BetaPlace place{a, b, point, BetaExcess(a, b, point)};
   const DoubleDouble density = densityOfLogOdds.At(point, place.excess);
-  const auto By = [&](double quotient) { return PreciseTail{Product(density, quotient), density.hi, place.excess}; };
+  const auto By = [&](const DoubleDouble& quotient) {
+    return PreciseTail{Product(density, quotient), density.hi, place.excess};
+  };
   if (density.hi == 0) return {{place.excess > 0 ? 1.0 : 0.0, 0}, 0, place.excess};
   if (IsLowerFirst(place)) return By(PreciseQuotientOfTail(place));
   PreciseTail tail = By(PreciseQuotientOfTail(place.Mirrored()));
   if (tail.lower.hi > subtrahendOfQuantile) {
-    const double quotient = PreciseQuotientOfTail(place);
-    if (quotient >= 0) return By(quotient);
+    const DoubleDouble quotient = PreciseQuotientOfTail(place);
+    if (quotient.hi >= 0) return By(quotient);
   }
   const DoubleDouble upper = tail.lower;
   tail.lower = ExactSum(1, -upper.hi);

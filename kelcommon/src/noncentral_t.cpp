@@ -195,7 +195,7 @@ double WrongSideTail(const Design& d) {
   if (z < farthestDifference) {
     const Halves halves = UpperHalves(d);
     const double tail = halves.even - halves.odd;
-    if (tail > leastDifference * halves.even) return tail;
+    if (tail > leastDifference * halves.even) return FarFactor(d) * tail;
   }
   return NoncentralTWrongSideIntegral(d.x, d.b, d.delta);
 }
