@@ -352,8 +352,8 @@ TEST(TAndF, AHugeNumeratorIsAConstant) {
   }
 }
 
-// Far out the upper tails of t and F fall like x^-df and x^-(df2 / 2); near 0 the probability of F grows like x^(df1 /
-// 2).
+// Far out the upper tails of t and F fall like x^-df and x^-(df2 / 2). Near 0 the probability of F grows like
+// x^(df1 / 2).
 TEST(TAndF, PowerLawsReachTheEndsOfTheRange) {
   for (double delta : {0.0, 1.0, 5.0, 20.0}) {
     const auto upperTail = [delta](double x) { return CdfT(-x, 1.0 / 128, -delta); };

@@ -12,7 +12,7 @@ class NoPlace(Exception):
 
 
 def marks(name):
-    return f"<!-- {name}: begin -->\n", f"<!-- {name}: end -->\n"
+    return f"<!-- {name}: begin -->\n", f"<!-- {name}: end -->\n\n"
 
 
 def body_of(page, name):
