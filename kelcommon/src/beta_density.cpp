@@ -21,11 +21,6 @@ namespace {
 constexpr double twoPi = 6.283185307179586477;
 constexpr double twoPiRest = 2.4492935982947064e-16;
 
-// Up to this shape r^a is a power, from then on exp(a (log(r) - d / a)) with the linear terms of both cancelled. The
-// exponential errs by its exponent times 2^-53: 3e-15 at a probability of 1e-12. Quantiles of small shapes magnify that
-// by 1 / a, so there the power is taken, which C libraries compute within one unit in the last place.
-constexpr double largestPowerShape = 16;
-
 // Below this a number or its product may be denormal.
 constexpr double leastFactor = 1e-290;
 
@@ -54,8 +49,8 @@ DoubleDouble PrecisePower(double a, const DoubleDouble& wholeOverA, const Double
 }
 
 // (a + b) / a, in one double where no power is taken of it.
-DoubleDouble WholeOver(double a, double b) {
-  return a < largestPowerShape ? Quotient(ExactSum(a, b), {a, 0}) : DoubleDouble{(a + b) / a, 0};
+DoubleDouble WholeOver(double a, double b, bool isPower) {
+  return isPower ? Quotient(ExactSum(a, b), {a, 0}) : DoubleDouble{(a + b) / a, 0};
 }
 
 }  // namespace
@@ -67,15 +62,15 @@ double BetaExcess(double a, double b, const UnitPoint& point) {
   return difference.hi + (difference.lo + (above.lo + below.lo + (b * point.x.lo - a * point.y.lo)));
 }
 
-BetaDensity::BetaDensity(double a, double b)
+BetaDensity::BetaDensity(double a, double b, double powerShape)
     : a_(a),
       b_(b),
-      aIsPower_(a < largestPowerShape),
-      bIsPower_(b < largestPowerShape),
+      aIsPower_(a <= powerShape),
+      bIsPower_(b <= powerShape),
       root_(std::sqrt(std::min(a, b) / twoPi * (std::max(a, b) / (a + b)))),
       logGammas_(LogScaledGamma(a + b) - (LogScaledGamma(a) + LogScaledGamma(b))),
-      wholeOverA_(WholeOver(a, b)),
-      wholeOverB_(WholeOver(b, a)) {}
+      wholeOverA_(WholeOver(a, b, aIsPower_)),
+      wholeOverB_(WholeOver(b, a, bIsPower_)) {}
 
 double BetaDensity::At(const UnitPoint& point, double excess) const {
   const double powers =
@@ -92,7 +87,7 @@ double BetaDensity::Exponent(const UnitPoint& point, double excess) const {
   return ofA + ofB;
 }
 
-PreciseBetaDensity::PreciseBetaDensity(double a, double b) : density_(a, b) {
+PreciseBetaDensity::PreciseBetaDensity(double a, double b) : density_(a, b, BetaDensity::largestPrecisePowerShape) {
   const DoubleDouble share = Quotient({std::max(a, b), 0}, ExactSum(a, b));
   const DoubleDouble root = SquareRoot(Product(Quotient({std::min(a, b), 0}, {twoPi, twoPiRest}), share));
   constant_ = Product(root, ExactSum(1, std::expm1(density_.logGammas_)));

@@ -205,8 +205,8 @@ double BetaQuantileRatio(double a, double b, double p, double power) {
     return std::pow(p * (a / b + 1) <= 1 ? 0 : std::numeric_limits<double>::infinity(), power);
   a = std::clamp(a, leastShape, mostShape);
   b = std::clamp(b, leastShape, mostShape);
-  // I_x(1, b) = 1 - y^b and I_x(a, 1) = x^a.
-  if (a == 1) return ToThePower(b * std::expm1(-std::log1p(-p) / b), power);
+  // I_x(1, b) = 1 - y^b and I_x(a, 1) = x^a, where that is not far from 1.
+  if (a == 1 && b >= 1) return ToThePower(b * std::expm1(-std::log1p(-p) / b), power);
   if (b == 1 && -std::log(p) < a) return ToThePower(1 / (a * std::expm1(-std::log(p) / a)), power);
   if (a < powerLawShape) {
     const BetaPowerLaw atZero(a, b, {p, 0});
