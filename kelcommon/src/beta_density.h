@@ -12,6 +12,9 @@ double BetaExcess(double a, double b, const UnitPoint& point);
 /// alone is formed once. Shapes lie between 1e-20 and 1e290.
 class BetaDensity {
 public:
+  /// Without the powers of small shapes: a third faster, and as accurate while the density is not far below 1.
+  static BetaDensity WithoutPowers(double a, double b) { return BetaDensity(a, b, 0); }
+
   BetaDensity(double a, double b) : BetaDensity(a, b, largestPowerShape) {}
 
   double At(const UnitPoint& point) const { return At(point, BetaExcess(a_, b_, point)); }

@@ -56,6 +56,9 @@ Tails TailsAt(const BetaPlace& place, double density) {
   return {lower, 1 - lower};
 }
 
+// Nearer to an end than this, products may be denormal.
+constexpr double denormalProducts = 1e-290;
+
 struct ScaledShapes {
   double a;
   double b;
@@ -130,7 +133,10 @@ PreciseTail EvaluateLowerBeta(const PreciseBetaDensity& densityOfLogOdds, const 
 double EvaluateBetaDensity(double a, double b, const UnitPoint& point) {
   if (a < negligibleShape || b < negligibleShape) return std::min(a, b) * (a > b ? a / (a + b) : b / (a + b));
   const ScaledShapes scaled = Scale(a, b, point);
-  return BetaDensity(scaled.a, scaled.b).At(scaled.point);
+  const bool isNearEnd = std::min(scaled.point.x.hi, scaled.point.y.hi) < denormalProducts;
+  const BetaDensity density =
+      isNearEnd ? BetaDensity(scaled.a, scaled.b) : BetaDensity::WithoutPowers(scaled.a, scaled.b);
+  return density.At(scaled.point);
 }
 
 }  // namespace KelMath

@@ -87,7 +87,7 @@ double SumOutwards(const Term& term, double step) {
     for (int i = 1; i < mostNodes; ++i) {
       const double value = term(direction * step * i);
       sum += value;
-      if (value < 1e-16 * sum) break;
+      if (value < 1e-15 * sum) break;
     }
   }
   return sum * step;
