@@ -30,7 +30,7 @@ inline DoubleDouble ExactSumOfSorted(double a, double b) {
   return {sum, b - (sum - a)};
 }
 
-/// The part of a b that its rounded `product` leaves out; exact for magnitudes from 1e-140 to 1e290.
+/// The part of a b that its rounded `product` leaves out; exact for a product from 1e-280 on.
 inline double ProductRest(double a, double b, double product) {
 #if defined(FP_FAST_FMA) || defined(__GLIBC__)
   return std::fma(a, b, -product);
@@ -39,6 +39,9 @@ inline double ProductRest(double a, double b, double product) {
   // whose products are exact. Where the C library has no fast fused operation its own takes several times as long, and
   // older ones round wrongly.
   constexpr double splitter = 0x1p27 + 1;
+  constexpr double large = 0x1p960;
+  if (std::fabs(a) > large) return ProductRest(a * 0x1p-64, b, product * 0x1p-64) * 0x1p64;
+  if (std::fabs(b) > large) return ProductRest(a, b * 0x1p-64, product * 0x1p-64) * 0x1p64;
   const double splitA = splitter * a;
   const double highA = splitA - (splitA - a);
   const double lowA = a - highA;
