@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "log_gamma.h"
+#include "power.h"
 #include "small_differences.h"
 
 // With d = (a + b) x - a the ratios of x to a / (a + b) and of y to b / (a + b) are r = 1 + d / a and s = 1 - d / b,
@@ -36,16 +37,14 @@ double Power(double a, const DoubleDouble& wholeOverA, const DoubleDouble& share
   // A product with a denormal number would lose digits: I_x(0.009, 1.3) at x = 1e-323.
   if (share.hi < leastFactor) return std::exp(a * (std::log(wholeOverA.hi) + std::log(share.hi)));
   if (a == 0.5) return std::sqrt(wholeOverA.hi * share.hi);
-  const DoubleDouble ratio = Product(wholeOverA, share);
-  return std::pow(ratio.hi, a) * (1 + a * (ratio.lo / ratio.hi));
+  return PowerOf(Product(wholeOverA, share), a);
 }
 
 DoubleDouble PrecisePower(double a, const DoubleDouble& wholeOverA, const DoubleDouble& share) {
   if (share.hi < leastFactor) return {Power(a, wholeOverA, share), 0};
   const DoubleDouble ratio = Product(wholeOverA, share);
   if (a == 0.5) return SquareRoot(ratio);
-  const double power = std::pow(ratio.hi, a);
-  return ExactSumOfSorted(power, power * (a * (ratio.lo / ratio.hi)));
+  return PrecisePowerOf(ratio, a);
 }
 
 // (a + b) / a, in one double where no power is taken of it.

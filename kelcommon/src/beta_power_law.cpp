@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "log_gamma.h"
+#include "power.h"
 #include "small_differences.h"
 
 // With C = Gamma(1+a) Gamma(1+b) / Gamma(1+a+b), so that a B(a, b) = C (a + b) / b, and
@@ -27,15 +28,9 @@ double LogGammaGrowth(double z, double a) {
 }
 
 // p^(e / a)
-DoubleDouble PowerOf(const DoubleDouble& p, double e, double a) {
+DoubleDouble RootOf(const DoubleDouble& p, double e, double a) {
   const double exponent = e / a;
-  const double power = std::pow(p.hi, exponent);
-  if (power == 0 || std::isinf(power)) return {power, 0};
-  const double rest = -ProductRest(exponent, a, e) / a;
-  const double correction = std::exp(exponent * (p.lo / p.hi) + rest * std::log(p.hi));
-  const double corrected = power * correction;
-  if (corrected == 0 || std::isinf(corrected)) return {corrected, 0};
-  return ExactProduct(power, correction);
+  return PrecisePowerOf(p, exponent, -ProductRest(exponent, a, e) / a);
 }
 
 struct Series {
@@ -72,7 +67,7 @@ BetaPowerLaw::BetaPowerLaw(double a, double b, DoubleDouble p)
       b_(b),
       share_(Product(p, Quotient(ExactSum(a, b), {b, 0}))),
       logScale_(LogGammaOf1PlusOver(a) - LogGammaGrowth(1 + b, a)) {
-  const double pure = PowerOf(share_, 1, a).hi * std::exp(logScale_) / (1 + b + a);
+  const double pure = RootOf(share_, 1, a).hi * std::exp(logScale_) / (1 + b + a);
   x_ = pure;
   if (IsPure()) return;
   // Newton's method in log(x), within the range of the series.
@@ -91,7 +86,7 @@ BetaPowerLaw::BetaPowerLaw(double a, double b, DoubleDouble p)
 }
 
 double BetaPowerLaw::Ratio(double power) const {
-  const DoubleDouble odds = PowerOf(share_, power, a_);
+  const DoubleDouble odds = RootOf(share_, power, a_);
   if (odds.hi == 0 || std::isinf(odds.hi)) return odds.hi;
   const DoubleDouble below = Product(Product(Sum(ExactSum(1, b_), a_), a_), ExactSum(1, -x_));
   const DoubleDouble scale = Quotient({b_, 0}, below);

@@ -5,6 +5,7 @@
 #include "beta_tails.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
+#include "power.h"
 
 namespace KelMath {
 
@@ -108,7 +109,7 @@ double KelDistFun::PdfBin(double x, double n, double p, long& err) noexcept {
   if (p == 0) return x == 0 ? 1 : 0;
   if (p == 1) return x == n ? 1 : 0;
   if (x == 0) return std::exp(n * std::log1p(-p));
-  if (x == n) return std::pow(p, n);
+  if (x == n) return PowerOf({p, 0}, n);
   return EvaluateBetaDensity(x, n - x, UnitPoint::FromX(p)) / x * (n / (n - x));
 }
 
@@ -120,7 +121,7 @@ double KelDistFun::PdfNegBin(double x, double r, double p, long& err) noexcept {
   if (p > 1) return KelMV::Missing();
   err = 0;
   if (x < 0) return 0;
-  if (x == 0) return std::pow(p, r);
+  if (x == 0) return PowerOf({p, 0}, r);
   if (p == 1 || std::isinf(x) || std::isinf(r)) return 0;
   return EvaluateBetaDensity(r, x, UnitPoint::FromX(p)) / x;
 }

@@ -8,6 +8,7 @@
 #include "noncentral_f.h"
 #include "noncentral_t_integral.h"
 #include "normal.h"
+#include "power.h"
 #include "small_differences.h"
 
 // For x, delta >= 0 let y = x^2 / (df + x^2), m = delta^2 / 2, b = df / 2,
@@ -91,18 +92,12 @@ double GammaRatio(double b) {
   return std::sqrt(b) * std::exp(logExcess);
 }
 
-// value^b for a value below 1, with the digits that the power of a double would lose.
-double Power(const DoubleDouble& value, double b) {
-  const double power = std::pow(value.hi, b);
-  return power > 0 ? power * std::exp(b * (value.lo / value.hi)) : 0;
-}
-
 // The pair of sequences A_j and B_j by their steps A_j - A_{j+1} and B_j - B_{j+1}, and of the weights p_j and q_j.
 // Weights are relative to e^-m.
 struct Sequences {
   // (1 - y)^b falls to exp(-x^2 / 2), of which an exponential would lose digits.
   explicit Sequences(const Design& d)
-      : design(d), weightA(1), weightB(d.delta * rootTwoOverPi), onlyTail(Power(d.point.y, d.b)) {
+      : design(d), weightA(1), weightB(d.delta * rootTwoOverPi), onlyTail(PowerOf(d.point.y, d.b)) {
     stepA = onlyTail * 2 * std::sqrt(d.y) * GammaRatio(d.b) / rootPi;
     stepB = onlyTail * d.y * d.b;
   }
