@@ -48,6 +48,9 @@ DoubleDouble Log(const DoubleDouble& base) {
 }
 
 DoubleDouble PowerOfPositive(const DoubleDouble& base, double exponent, double rest) {
+  // Small whole powers the library multiplies out, so that 1/4 squared is 1/16.
+  const bool isMultipliedOut = base.lo == 0 && exponent == std::floor(exponent) && exponent >= 0 && exponent < 64;
+  if (isMultipliedOut) return {std::pow(base.hi, exponent), 0};
   const DoubleDouble log = Log(base);
   const double product = log.hi * exponent;
   return Corrected(std::exp(product), ProductRest(log.hi, exponent, product) + (log.lo * exponent + log.hi * rest));
