@@ -8,6 +8,7 @@ namespace {
 
 DoubleDouble Corrected(double power, double correction) {
   if (power == 0 || std::isinf(power)) return {power, 0};
+  if (std::fabs(correction) < 1e-8) return ExactSumOfSorted(power, power * correction);
   const double factor = std::exp(correction);
   if (power * factor == 0 || std::isinf(power * factor)) return {power * factor, 0};
   return ExactProduct(power, factor);
