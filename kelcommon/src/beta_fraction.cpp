@@ -45,13 +45,16 @@ int FindTerms(const BetaPlace& place, Terms& terms) {
   double denominatorBefore = 0;
   double product = 1;
   double reciprocal = 1 / (a + 1);
+  const double aPlusB = a + b;
+  const double twoMinusX = 2 - x;
+  double n = 1;
   for (int first = 1; first + termsAtOnce <= mostTerms + 1; first += termsAtOnce) {
-    for (int n = first; n < first + termsAtOnce; ++n) {
+    for (int i = first; i < first + termsAtOnce; ++i, n += 1) {
       const double share = x * reciprocal;  // x / (a + 2n - 1)
-      reciprocal = 1 / (a + 2 * n + 1);
+      reciprocal = 1 / (a + (2 * n + 1));
       const double reduced = n * (b - n) * share;
-      const double alpha = ((a + n - 1) * share) * (a + b + n - 1) * reduced;
-      const double beta = n + reduced + (a + n) * reciprocal * (beforeMean + n * (2 - x));
+      const double alpha = ((a + (n - 1)) * share) * (aPlusB + (n - 1)) * reduced;
+      const double beta = n + reduced + (a + n) * reciprocal * (beforeMean + n * twoMinusX);
       const double nextNumerator = beta * numerator + alpha * numeratorBefore;
       const double nextDenominator = beta * denominator + alpha * denominatorBefore;
       numeratorBefore = numerator;
@@ -59,8 +62,8 @@ int FindTerms(const BetaPlace& place, Terms& terms) {
       numerator = nextNumerator;
       denominator = nextDenominator;
       product *= alpha;
-      terms.alpha[n] = alpha;
-      terms.beta[n] = beta;
+      terms.alpha[i] = alpha;
+      terms.beta[i] = beta;
     }
     if (std::fabs(product) <= negligible * std::fabs(numerator * denominatorBefore)) return first + termsAtOnce - 1;
     if (std::fabs(denominator) > large) {
@@ -82,10 +85,12 @@ double BetaQuotientByFraction(const BetaPlace& place) {
   if (count == 0) return noQuotient;
   double value = terms.beta[count];
   double valueBefore = 1;
-  for (int n = count - 1; n >= 0; --n) {
-    const double next = terms.beta[n] * value + terms.alpha[n + 1] * valueBefore;
-    valueBefore = value;
-    value = next;
+  for (int n = count - 1; n >= 0;) {
+    for (int i = 0; i < termsAtOnce && n >= 0; ++i, --n) {
+      const double next = terms.beta[n] * value + terms.alpha[n + 1] * valueBefore;
+      valueBefore = value;
+      value = next;
+    }
     if (std::fabs(value) > large) {
       value *= scale;
       valueBefore *= scale;

@@ -91,6 +91,11 @@ ScaledShapes Scale(double a, double b, const UnitPoint& point) {
   return scaled;
 }
 
+BetaDensity DensityFor(const ScaledShapes& scaled) {
+  const bool isNearEnd = std::min(scaled.point.x.hi, scaled.point.y.hi) < denormalProducts;
+  return isNearEnd ? BetaDensity(scaled.a, scaled.b) : BetaDensity::WithoutPowers(scaled.a, scaled.b);
+}
+
 // A distribution whose mass lies at the ends, b / (a + b) of it at 0.
 Tails TwoPointTails(double a, double b) {
   if (b >= negligibleShape) return {1, 0};
@@ -105,7 +110,7 @@ TailsAndDensity EvaluateBeta(double a, double b, const UnitPoint& point) {
   if (a < negligibleShape || b < negligibleShape) return {TwoPointTails(a, b), 0};
   const ScaledShapes scaled = Scale(a, b, point);
   const BetaPlace place{scaled.a, scaled.b, scaled.point, BetaExcess(scaled.a, scaled.b, scaled.point)};
-  const double density = BetaDensity(scaled.a, scaled.b).At(scaled.point, place.excess);
+  const double density = DensityFor(scaled).At(scaled.point, place.excess);
   return {IsLowerFirst(place) ? TailsAt(place, density) : TailsAt(place.Mirrored(), density).Mirrored(), density};
 }
 
@@ -133,9 +138,7 @@ PreciseTail EvaluateLowerBeta(const PreciseBetaDensity& densityOfLogOdds, const 
 double EvaluateBetaDensity(double a, double b, const UnitPoint& point) {
   if (a < negligibleShape || b < negligibleShape) return std::min(a, b) * (a > b ? a / (a + b) : b / (a + b));
   const ScaledShapes scaled = Scale(a, b, point);
-  const bool isNearEnd = std::min(scaled.point.x.hi, scaled.point.y.hi) < denormalProducts;
-  const BetaDensity density =
-      isNearEnd ? BetaDensity(scaled.a, scaled.b) : BetaDensity::WithoutPowers(scaled.a, scaled.b);
+  const BetaDensity density = DensityFor(scaled);
   return density.At(scaled.point);
 }
 
