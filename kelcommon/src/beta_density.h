@@ -12,7 +12,7 @@ double BetaExcess(double a, double b, const UnitPoint& point);
 /// alone is formed once. Shapes lie between 1e-20 and 1e290.
 class BetaDensity {
 public:
-  /// Without the powers of small shapes: a third faster, and as accurate while the density is not far below 1.
+  /// Without the powers of small shapes: an eighth faster. It errs by 3e-15 at a probability of 1e-12.
   static BetaDensity WithoutPowers(double a, double b) { return BetaDensity(a, b, 0); }
 
   BetaDensity(double a, double b) : BetaDensity(a, b, largestPowerShape) {}
