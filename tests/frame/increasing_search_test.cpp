@@ -10,12 +10,15 @@
 #include "frame/root_finders.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
+#include "support/answers.h"
 #include "support/stop_requests.h"
 
 namespace kelpower {
 namespace {
 
 using KelCommon::KelMV;
+using keltest::CountingStop;
+using keltest::OrMissing;
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
@@ -23,33 +26,30 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 struct Search {
   double size;
   int evaluations;
-  long questions;
+  std::int64_t questions;
 };
 
 /// A search as `solve` does it with a counted power and a stop request.
 template <typename Solve>
-Search Counted(FunctionView<double(double)> powerAt, long stopsAt, Solve solve) {
+Search Counted(FunctionView<double(double)> powerAt, std::int64_t stopsAt, Solve solve) {
   int evaluations = 0;
   CountingStop stop(stopsAt);
   const auto counted = [&](double x) {
     ++evaluations;
     return powerAt(x);
   };
-  const double size = solve(counted, &stop);
-  return {size, evaluations, stop.Asked()};
+  const Answer size = solve(counted, stop);
+  return {OrMissing(size), evaluations, stop.asked};
 }
 
-Search Fast(FunctionView<double(double)> powerAt, double target, long stopsAt = 0) {
-  return Counted(powerAt, stopsAt, [=](auto counted, StopRequest* stop) {
-    return SolveIncreasingPower(2, 400, 1e-9, counted, target, stop);
-  });
+Search Fast(FunctionView<double(double)> powerAt, double target, std::int64_t stopsAt = CountingStop::never) {
+  return Counted(powerAt, stopsAt,
+                 [=](auto counted, Stop stop) { return SolveIncreasingPower(2, 400, 1e-9, counted, target, stop); });
 }
 
-Search Plain(FunctionView<double(double)> powerAt, double target, long stopsAt = 0) {
-  return Counted(powerAt, stopsAt, [=](auto counted, StopRequest* stop) {
-    return SolveContinuous(
-        2, 400, 1e-9, [&](double x) { return counted(x) - target; }, stop);
-  });
+Search Plain(FunctionView<double(double)> powerAt, double target, std::int64_t stopsAt = CountingStop::never) {
+  return Counted(powerAt, stopsAt,
+                 [=](auto counted, Stop stop) { return SolvePower(2, 400, 1e-9, counted, target, stop); });
 }
 
 auto TwoSidedTest(double effectSize, double alpha) {
@@ -104,9 +104,9 @@ TEST(SolveIncreasingPower, ReturnsTheEndsThatThePlainSearchReturns) {
 
 TEST(SolveIncreasingPower, StopsAtEachQuestionAsThePlainSearchDoes) {
   const auto powerAt = TwoSidedTest(0.05, 0.05);  // widens four times
-  const long questions = Plain(powerAt, 0.8).questions;
+  const std::int64_t questions = Plain(powerAt, 0.8).questions;
   ASSERT_GT(questions, 40);
-  for (long stopsAt = 1; stopsAt <= questions; ++stopsAt) {
+  for (std::int64_t stopsAt = 1; stopsAt <= questions; ++stopsAt) {
     const Search fast = Fast(powerAt, 0.8, stopsAt);
     EXPECT_TRUE(KelMV::IsMissing(fast.size));
     EXPECT_EQ(fast.questions, stopsAt);
@@ -134,14 +134,10 @@ TEST(SolveIncreasingPower, TakesStepsMissingAndInvalidPowersAsThePlainSearchDoes
 }
 
 double PlainHalfWidth(const HalfWidthEquation& equation) {
-  return SolveContinuous(
-      2, 400, 1e-9,
-      [&](double n) {
-        const double t = IntervalQuantileT(equation.alpha, equation.dfAt(n));
-        return equation.slope * n - equation.weight * (t * t);
-      },
-      nullptr);
+  return OrMissing(SolveContinuous(2, 400, 1e-9, [&](double n) { return equation.Excess(n); }, {}));
 }
+
+double FastHalfWidth(const HalfWidthEquation& equation) { return OrMissing(SolveHalfWidth(2, 400, 1e-9, equation)); }
 
 TEST(SolveHalfWidth, IsThePlainSearchInAThirdOfTheEvaluations) {
   for (const double halfWidth : {0.03, 0.1, 0.25, 0.5, 1.0}) {
@@ -152,7 +148,7 @@ TEST(SolveHalfWidth, IsThePlainSearchInAThirdOfTheEvaluations) {
         return n - 1;
       };
       const HalfWidthEquation equation{halfWidth * halfWidth, 1, alpha, dfAt};
-      const double fast = SolveHalfWidth(2, 400, 1e-9, equation);
+      const double fast = FastHalfWidth(equation);
       const int fastEvaluations = std::exchange(evaluations, 0);
       EXPECT_EQ(fast, PlainHalfWidth(equation));
       EXPECT_LE(3 * fastEvaluations, evaluations) << halfWidth << ", " << alpha;
@@ -165,7 +161,7 @@ TEST(SolveHalfWidth, IsThePlainSearchWhereTheEquationMakesNoSense) {
   for (const double slope : {-1.0, 0.0, 0.01, std::numeric_limits<double>::infinity(), kNaN}) {
     for (const double weight : {-1.0, 0.0, 1.0, kNaN}) {
       const HalfWidthEquation equation{slope, weight, 0.05, dfAt};
-      EXPECT_EQ(SolveHalfWidth(2, 400, 1e-9, equation), PlainHalfWidth(equation)) << slope << ", " << weight;
+      EXPECT_EQ(FastHalfWidth(equation), PlainHalfWidth(equation)) << slope << ", " << weight;
     }
   }
 }
