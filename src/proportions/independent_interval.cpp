@@ -82,8 +82,11 @@ double IndependentInterval::HalfWidth(double size1, double size2) const {
 
 Answer IndependentInterval::FirstSizeFor(double halfWidth, double ratio, Stop stop) const {
   const auto& [method, p1, p2, alpha, isCorrected] = design_;
-  if (method == IndependentMethod::Wald)
-    return WaldSize(halfWidth, Variance(p1) + Variance(p2) / ratio, z_, isCorrected ? (ratio + 1) / ratio / 2 : 0);
+  if (method == IndependentMethod::Wald) {
+    const double variance = Variance(p1) + Variance(p2) / ratio;
+    return isCorrected ? CorrectedWaldSize(halfWidth, variance, z_, (ratio + 1) / ratio / 2)
+                       : WaldSize(halfWidth, variance, z_);
+  }
   const auto excess = [&](double size1) { return halfWidth - HalfWidth(size1, ratio * size1); };
   return SolveContinuous(2, 400, 1e-9, excess, stop);
 }

@@ -78,8 +78,10 @@ double OneSampleInterval::HalfWidth(double size) const {
 
 Answer OneSampleInterval::SizeFor(double halfWidth, Stop stop) const {
   const auto& [method, proportion, alpha, isCorrected] = design_;
-  if (method == OneSampleMethod::Wald)
-    return WaldSize(halfWidth, proportion * (1 - proportion), z_, isCorrected ? waldCorrection : 0);
+  if (method == OneSampleMethod::Wald) {
+    const double variance = proportion * (1 - proportion);
+    return isCorrected ? CorrectedWaldSize(halfWidth, variance, z_, waldCorrection) : WaldSize(halfWidth, variance, z_);
+  }
   const auto excess = [&](double size) { return halfWidth - HalfWidth(size); };
   return SolveContinuous(1, 400, 1e-9, excess, stop);
 }

@@ -41,8 +41,10 @@ double RelatedInterval::AdjustedHalfWidth(double size, double addedPairs) const 
 
 // The corrected size is that of |z|.
 Answer RelatedInterval::SizeFor(double halfWidth, Stop stop) const {
-  if (method_ == RelatedMethod::Wald)
-    return WaldSize(halfWidth, Variance(), std::fabs(z_), isCorrected_ ? waldCorrection : 0);
+  if (method_ == RelatedMethod::Wald) {
+    return isCorrected_ ? CorrectedWaldSize(halfWidth, Variance(), std::fabs(z_), waldCorrection)
+                        : WaldSize(halfWidth, Variance(), z_);
+  }
   return PairsForHalfWidth([this](double size) { return HalfWidth(size); }, halfWidth, stop);
 }
 

@@ -65,7 +65,7 @@ std::optional<Axis> EvenAxisByIndex(const Range& range, double stepFraction) {
 std::optional<Axis> CoarseAxis(const Range& range, double stepFraction) {
   if (!(stepFraction > 0)) return std::nullopt;
   const double count = std::ceil(0.5 / stepFraction) + 1;
-  const double step = count > 2 ? (range.end - range.start) * 2 * stepFraction : 0;
+  const double step = count > 2 ? (range.end - range.start) * (2 * stepFraction) : 0;
   return CountedAxis(count, range.start, step, range.end);
 }
 

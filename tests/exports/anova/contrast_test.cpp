@@ -184,4 +184,38 @@ TEST(PairwiseDiff, GroupNumbersThatNameNoGroupTouchNoMemory) {
             HalfCIPairwiseDiff(60, tiny, nullptr, 1, 2, 6, 2, 0.05));
 }
 
+// A group with a coefficient and no share has no estimate of its mean, at no total size.
+TEST(PowerReverseSC, OfAContrastWithAnEmptyGroupIsTwoEach) {
+  const std::vector<double> ratios = {0, 1, 1};
+  std::vector<double> contrast = {1, -1, 0};
+  DoubleVector sizes;
+  EXPECT_EQ(PowerReverseSCwES(3, 2, ratios.data(), contrast.data(), 0.8, sizes, 0, 0.05), 6);
+  EXPECT_EQ(sizes, (DoubleVector{2, 2, 2}));
+
+  const std::vector<double> means = {0, 3, 0};
+  const std::vector<double> middleEmpty = {1, 0, 1};
+  EXPECT_EQ(PowerReverseSC(3, means.data(), 1, middleEmpty.data(), contrast.data(), 0.8, sizes, 0, 0.05), 6);
+  EXPECT_EQ(PowerReversePairwiseDiff(3, means.data(), 1, middleEmpty.data(), 1, 2, 0.8, sizes, 0, 0.05), 6);
+  EXPECT_EQ(PowerReversebyHalfCISCTest(5, 3, middleEmpty.data(), contrast.data(), 1, sizes, 0.05), 6);
+  EXPECT_EQ(PowerReversebyHalfCIPairwiseDiff(5, 3, middleEmpty.data(), 1, 2, 1, sizes, 2, 0.05), 6);
+}
+
+TEST(PowerSC, DoesNotDependOnTheScaleOfTheCoefficients) {
+  const std::vector<double> means = {0, 1};
+  const std::vector<double> sizes = {10, 10};
+  std::vector<double> plain = {1, -1};
+  const double power = PowerSC(2, means.data(), 1, sizes.data(), plain.data(), 0, 0.05);
+  for (const double scale : {1e160, 1e-160, 1e300}) {
+    std::vector<double> scaled = {scale, -scale};
+    EXPECT_NEAR(PowerSC(2, means.data(), 1, sizes.data(), scaled.data(), 0, 0.05), power, 1e-14) << scale;
+  }
+}
+
+TEST(PowerSC, ReadsNoArrayOfInvalidInput) {
+  EXPECT_TRUE(KelMV::IsMissing(PowerSCwES(2, 0.5, nullptr, nullptr, 0, 2)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerSCwES(1, 0.5, nullptr, nullptr, 0, 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerSC(2, nullptr, 1, nullptr, nullptr, 0, 2)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerSC(1, nullptr, 1, nullptr, nullptr, 0, 0.05)));
+}
+
 }  // namespace

@@ -242,5 +242,24 @@ TEST(HalfCIOverallTest, WithoutDegreesOfFreedomComesBackAllTheSame) {
   EXPECT_LT(HalfCIOverallTest(3, 3, 6, 0.05), 0);  // what the missing quantile makes of it
 }
 
+TEST(RMSSEOverallTest, OfEqualMeansKeepsTheStandardDeviation) {
+  const std::vector<double> equal = {5, 5};
+  EXPECT_TRUE(std::isnan(RMSSEOverallTest(2, equal.data(), std::nan(""), kSizes.data(), 0.05)));
+}
+
+// Only the group without subjects lies apart, so the means do not differ, however small the standard deviation.
+TEST(PowerOverallTest, OfGroupsThatDifferWithoutWeightIsAlpha) {
+  const std::vector<double> means = {5, 1, 1};
+  const std::vector<double> sizes = {0, 10, 10};
+  EXPECT_NEAR(PowerOverallTest(3, means.data(), 1e-200, sizes.data(), 0.05), 0.05, 1e-15);
+}
+
+TEST(PowerReversebyHalfCIOverallTest, GivesTwoEachWhereTheQuantileIsInfinite) {
+  const std::vector<double> ratios = {1, 1};
+  DoubleVector sizes;
+  EXPECT_EQ(PowerReversebyHalfCIOverallTest(2, 2, ratios.data(), 1, sizes, 1e-17), 4);
+  EXPECT_EQ(sizes, (DoubleVector{2, 2}));
+}
+
 }  // namespace
 }  // namespace kelpower

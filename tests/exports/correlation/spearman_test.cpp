@@ -89,5 +89,11 @@ TEST(PowerReversebyHalfCIOneSampSpearman, GivesTheFirstWholeSizeThatIsNarrowEnou
   }
 }
 
+// The variance of Caruso and Cliff is infinite without cases.
+TEST(HalfCIOneSampSpearman, WithoutCasesIsTheWholeRange) {
+  EXPECT_EQ(HalfCIOneSampSpearman(0, 0.5, 2, 0.05), 1);
+  EXPECT_TRUE(std::isnan(HalfCIOneSampSpearman(0, 0, 2, 0.05)));
+}
+
 }  // namespace
 }  // namespace kelpower

@@ -12,8 +12,8 @@ namespace {
 
 TEST(PlotNOneSample, HoldsThePowerAtEverySize) {
   for (int directional : {0, 1, -7}) {
-    XYPlot raw = PlotNOneSample(99, 12, 4, 2, 10, directional, 10, 0.05);
-    XYPlot standardised = PlotNOneSampleFES(0.5, 2, 10, directional, 0.05);
+    const CurveRecord raw(PlotNOneSample(99, 12, 4, 2, 10, directional, 10, 0.05));
+    const CurveRecord standardised(PlotNOneSampleFES(0.5, 2, 10, directional, 0.05));
     ASSERT_EQ(raw.count, 9);
     ASSERT_EQ(standardised.count, 9);
     for (int i = 0; i < 9; ++i) {
@@ -24,8 +24,6 @@ TEST(PlotNOneSample, HoldsThePowerAtEverySize) {
       EXPECT_EQ(raw.y[i], Single(power));
       EXPECT_EQ(standardised.y[i], Single(power));
     }
-    FreeMemXYPlot(&raw);
-    FreeMemXYPlot(&standardised);
   }
 }
 
@@ -67,14 +65,13 @@ TEST(PlotESOneSample, IsEmptyForInvalidInput) {
 
 TEST(PlotESRelated, HoldsThePowerAtEveryEffectSize) {
   for (int directional : {0, 1}) {
-    XYPlot plot = PlotESRelated(20, 0.1, 1, directional, 0.05, 0.07);
+    const CurveRecord plot(PlotESRelated(20, 0.1, 1, directional, 0.05, 0.07));
     ASSERT_EQ(plot.count, 16);
     for (int i = 0; i < plot.count; ++i) {
       const double power = directional != 0 ? PowerRelatedDirectionalES(20, plot.x[i], 0.05)
                                             : PowerRelatedNondirectionalES(20, plot.x[i], 0.05);
       EXPECT_EQ(plot.y[i], Single(power));
     }
-    FreeMemXYPlot(&plot);
   }
 }
 
@@ -85,17 +82,16 @@ TEST(PlotNaESOneSample, TakesEverySecondSizeOfALongAxis) {
     double last;
   };
   for (const Case& c : std::vector<Case>{{1001, 1000, 1001}, {1002, 501, 1002}, {1003, 502, 1004}}) {
-    XYZPlot plot = PlotNaESOneSample(2, c.to, 0, 1, 1, 0.05, 1);
+    const SurfaceRecord plot(PlotNaESOneSample(2, c.to, 0, 1, 1, 0.05, 1));
     ASSERT_EQ(plot.yCount, c.count);
     EXPECT_EQ(plot.y[c.count - 1], c.last);
-    FreeMemXYZPlot(&plot);
   }
 }
 
 TEST(PlotNaESOneSample, HoldsThePowerAtEveryPoint) {
   for (int directional : {0, 1}) {
-    XYZPlot oneSample = PlotNaESOneSample(2, 8, 0.2, 1.3, directional, 0.05, 0.3);
-    XYZPlot paired = PlotNaESRelated(2, 8, 0.2, 1.3, directional, 0.05, 0.3);
+    const SurfaceRecord oneSample(PlotNaESOneSample(2, 8, 0.2, 1.3, directional, 0.05, 0.3));
+    const SurfaceRecord paired(PlotNaESRelated(2, 8, 0.2, 1.3, directional, 0.05, 0.3));
     ASSERT_EQ(oneSample.xCount, 5);
     ASSERT_EQ(oneSample.yCount, 7);
     ASSERT_EQ(paired.xCount * paired.yCount, 35);
@@ -110,8 +106,6 @@ TEST(PlotNaESOneSample, HoldsThePowerAtEveryPoint) {
       }
     }
     EXPECT_EQ(oneSample.x[4], 1.3);
-    FreeMemXYZPlot(&oneSample);
-    FreeMemXYZPlot(&paired);
   }
 }
 
@@ -125,14 +119,13 @@ TEST(PlotNaESRelated, IsEmptyForInvalidInput) {
 
 TEST(PlotNRelated, HoldsThePowerAtEverySize) {
   for (int directional : {0, 1}) {
-    XYPlot plot = PlotNRelated(99, 10, 4, 8, 3, 2, 10, 0.5, directional, 0.05);
+    const CurveRecord plot(PlotNRelated(99, 10, 4, 8, 3, 2, 10, 0.5, directional, 0.05));
     ASSERT_EQ(plot.count, 9);
     for (int i = 0; i < 9; ++i) {
       const double power = directional != 0 ? PowerRelatedDirectional(plot.x[i], 10, 4, 8, 3, 0.5, 0.05)
                                             : PowerRelatedNondirectional(plot.x[i], 10, 4, 8, 3, 0.5, 0.05);
       EXPECT_EQ(plot.y[i], Single(power));
     }
-    FreeMemXYPlot(&plot);
   }
 }
 
@@ -142,11 +135,10 @@ TEST(PlotNRelated, HasMissingPointsForACorrelationThatOnlyTheTestRefuses) {
     int directional;
   };
   for (const Case& c : std::vector<Case>{{1.5, 0}, {1.5, 1}, {1, 1}}) {
-    XYPlot plot = PlotNRelated(0, 10, 4, 8, 3, 2, 6, c.correlation, c.directional, 0.05);
+    const CurveRecord plot(PlotNRelated(0, 10, 4, 8, 3, 2, 6, c.correlation, c.directional, 0.05));
     ASSERT_EQ(plot.count, 5);
     // The missing value is beyond single precision.
     for (int i = 0; i < 5; ++i) EXPECT_EQ(plot.y[i], -std::numeric_limits<double>::infinity());
-    FreeMemXYPlot(&plot);
   }
 }
 

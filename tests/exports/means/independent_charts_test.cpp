@@ -47,9 +47,9 @@ TEST(PlotRatioIndependent, ChartsAnAutomaticRangeSymmetricAroundOne) {
 TEST(PlotRatioIndependent, HoldsThePowerAtEveryRatio) {
   for (int directional : {0, 1}) {
     const Sides sides = SidesOf(directional);
-    XYPlot pooled = PlotRatioIndependent(50, 0, 10, 5, 10, 0.5, 2, directional, 0.05, 0.3);
-    XYPlot standardised = PlotRatioIndependentFES(50, -0.5, 0.5, 2, directional, 0.05, 0.3);
-    XYPlot welch = PlotRatioIndependent(50, 0, 10, 5, 12, 0.5, 2, directional, 0.05, 0.3);
+    const CurveRecord pooled(PlotRatioIndependent(50, 0, 10, 5, 10, 0.5, 2, directional, 0.05, 0.3));
+    const CurveRecord standardised(PlotRatioIndependentFES(50, -0.5, 0.5, 2, directional, 0.05, 0.3));
+    const CurveRecord welch(PlotRatioIndependent(50, 0, 10, 5, 12, 0.5, 2, directional, 0.05, 0.3));
     ASSERT_EQ(pooled.count, 5);
     ASSERT_EQ(welch.count, 5);
     for (int i = 0; i < 5; ++i) {
@@ -62,27 +62,22 @@ TEST(PlotRatioIndependent, HoldsThePowerAtEveryRatio) {
       EXPECT_EQ(standardised.y[i], Single(power));
       EXPECT_EQ(welch.y[i], Single(PowerByTotal(sides, 50, ratio, -5, 10, 12)));
     }
-    FreeMemXYPlot(&pooled);
-    FreeMemXYPlot(&standardised);
-    FreeMemXYPlot(&welch);
   }
 }
 
 TEST(PlotRatioIndependent, RepeatsTheLeftNeighbourOfABadPoint) {
   // The least ratio passes the check of the range, but leaves the second group no more than 1 observation.
   const double least = std::nextafter(1.0 / 6, 1);
-  XYPlot bad = PlotRatioIndependentFES(7, 0.5, least, least, 0, 0.05, 0.5);
+  const CurveRecord bad(PlotRatioIndependentFES(7, 0.5, least, least, 0, 0.05, 0.5));
   ASSERT_EQ(bad.count, 3);
   for (int i = 0; i < 3; ++i) EXPECT_EQ(bad.y[i], -kInfinity);
-  FreeMemXYPlot(&bad);
 
   // The greatest leaves the first group no more than 1.
   const double greatest = std::nextafter(8.0, 0);
-  XYPlot last = PlotRatioIndependentFES(9, 0.5, 1, greatest, 0, 0.05, 0.5);
+  const CurveRecord last(PlotRatioIndependentFES(9, 0.5, 1, greatest, 0, 0.05, 0.5));
   ASSERT_EQ(last.count, 3);
   EXPECT_GT(last.y[1], 0.05);
   EXPECT_EQ(last.y[2], last.y[1]);
-  FreeMemXYPlot(&last);
 }
 
 TEST(PlotRatioIndependent, IsEmptyForInvalidInput) {
@@ -98,7 +93,7 @@ TEST(PlotRatioIndependent, IsEmptyForInvalidInput) {
 
 TEST(PlotESIndepended, HoldsThePowerAtEveryEffectSize) {
   for (int directional : {0, 1}) {
-    XYPlot plot = PlotESIndepended(20, 30, -5, 1, directional, 0.05, 0.3);
+    const CurveRecord plot(PlotESIndepended(20, 30, -5, 1, directional, 0.05, 0.3));
     ASSERT_EQ(plot.count, 5);
     EXPECT_EQ(plot.x[0], directional != 0 ? -5 : 0);
     for (int i = 0; i < 5; ++i) {
@@ -106,7 +101,6 @@ TEST(PlotESIndepended, HoldsThePowerAtEveryEffectSize) {
                                             : PowerIndependentNondirectionalES(20, 30, plot.x[i], 0.05);
       EXPECT_EQ(plot.y[i], Single(power));
     }
-    FreeMemXYPlot(&plot);
   }
 }
 
@@ -129,14 +123,13 @@ TEST(PlotMeanDiffIndepended, ChoosesItsRangeFromTheMeans) {
 
 TEST(PlotMeanDiffIndepended, IsInTheFormOfWelchAndOneSidedOnBothSidesOfZero) {
   for (double sd2 : {10.0, 12.0}) {
-    XYPlot plot = PlotMeanDiffIndepended(20, 5, 10, 30, 3, sd2, -4, 4, 1, 0.05, 1);
+    const CurveRecord plot(PlotMeanDiffIndepended(20, 5, 10, 30, 3, sd2, -4, 4, 1, 0.05, 1));
     ASSERT_EQ(plot.count, 9);
     for (int i = 0; i < 9; ++i) {
       EXPECT_EQ(plot.x[i], i - 4);
       EXPECT_EQ(plot.y[i], Single(PowerByTotal(Sides::One, 50, 1.5, plot.x[i], 10, sd2)));
       EXPECT_EQ(plot.y[i], plot.y[8 - i]);
     }
-    FreeMemXYPlot(&plot);
   }
 }
 
@@ -151,7 +144,7 @@ TEST(PlotMeanDiffIndepended, IsEmptyForInvalidInput) {
 }
 
 TEST(PlotRatioaESIndependent, HoldsThePowerAtEveryPoint) {
-  XYZPlot plot = PlotRatioaESIndependent(50, 0.5, 2, -5, 1, 0, 0.05, 0.3);
+  const SurfaceRecord plot(PlotRatioaESIndependent(50, 0.5, 2, -5, 1, 0, 0.05, 0.3));
   ASSERT_EQ(plot.xCount, 5);
   ASSERT_EQ(plot.yCount, 5);
   EXPECT_EQ(plot.y[0], 0);
@@ -162,12 +155,11 @@ TEST(PlotRatioaESIndependent, HoldsThePowerAtEveryPoint) {
       EXPECT_EQ(plot.z[i * 5 + j], Single(PowerIndependentNondirectionalES(n, n * plot.x[i], plot.y[j], 0.05)));
     }
   }
-  FreeMemXYZPlot(&plot);
 }
 
 TEST(PlotRatioaESIndependent, ReplacesValuesOutsideTheUnitInterval) {
   // With 20 in all, ratios of 0.01 and 30 leave a group one observation or less; 15 does not.
-  XYZPlot plot = PlotRatioaESIndependent(20, 0.01, 30, 0, 1, 0, 0.05, 0.5);
+  const SurfaceRecord plot(PlotRatioaESIndependent(20, 0.01, 30, 0, 1, 0, 0.05, 0.5));
   ASSERT_EQ(plot.xCount, 3);
   ASSERT_EQ(plot.yCount, 3);
   EXPECT_EQ(plot.z[0], -kInfinity);  // the first column keeps its value
@@ -177,7 +169,6 @@ TEST(PlotRatioaESIndependent, ReplacesValuesOutsideTheUnitInterval) {
   EXPECT_EQ(plot.z[6], -kInfinity);
   EXPECT_TRUE(KelMV::IsMissing(plot.z[7]));
   EXPECT_TRUE(KelMV::IsMissing(plot.z[8]));
-  FreeMemXYZPlot(&plot);
 }
 
 TEST(PlotRatioaESIndependent, IsEmptyForInvalidInput) {
@@ -191,7 +182,7 @@ TEST(PlotRatioaESIndependent, IsEmptyForInvalidInput) {
 }
 
 TEST(PlotRatioaMeanDiffIndependent, IsTwiceAsCoarseAlongTheDifferences) {
-  XYZPlot plot = PlotRatioaMeanDiffIndependent(50, 5, 10, 3, 12, 0.5, 2, 0, 0, 1, 0.05, 0.125);
+  const SurfaceRecord plot(PlotRatioaMeanDiffIndependent(50, 5, 10, 3, 12, 0.5, 2, 0, 0, 1, 0.05, 0.125));
   ASSERT_EQ(plot.xCount, 9);
   ASSERT_EQ(plot.yCount, 5);
   EXPECT_EQ(std::vector<double>(plot.y, plot.y + 5), (std::vector<double>{-10, -5, 0, 5, 10}));
@@ -200,7 +191,6 @@ TEST(PlotRatioaMeanDiffIndependent, IsTwiceAsCoarseAlongTheDifferences) {
       EXPECT_EQ(plot.z[i * 5 + j], Single(PowerByTotal(Sides::One, 50, plot.x[i], plot.y[j], 10, 12)));
     }
   }
-  FreeMemXYZPlot(&plot);
 }
 
 TEST(PlotRatioaMeanDiffIndependent, IsEmptyForInvalidInput) {
@@ -209,6 +199,27 @@ TEST(PlotRatioaMeanDiffIndependent, IsEmptyForInvalidInput) {
   EXPECT_TRUE(IsEmpty(PlotRatioaMeanDiffIndependent(50, 5, 0, 3, 12, 0.5, 2, 1, 4, 0, 0.05, 0.5)));
   EXPECT_TRUE(IsEmpty(PlotRatioaMeanDiffIndependent(50, 5, 10, 3, -1, 0.5, 2, 1, 4, 0, 0.05, 0.5)));
   EXPECT_TRUE(IsEmpty(PlotRatioaMeanDiffIndependent(50, 5, 10, 3, 12, 0.5, 2, 1, 4, 0, 0, 0.5)));
+}
+
+// The index multiplies the range before the fraction does; the last digits tell.
+TEST(PlotRatioaESIndependent, PlacesItsPositionsInTheStatedOrder) {
+  const SurfaceRecord plot(PlotRatioaESIndependent(60, 0.3, 1.7, 0.1, 0.93, 0, 0.05, 0.07));
+  ASSERT_EQ(plot.xCount, 16);
+  for (int i = 0; i < 15; ++i) {
+    EXPECT_EQ(plot.x[i], i * (1.7 - 0.3) * 0.07 + 0.3);
+    EXPECT_EQ(plot.y[i], i * (0.93 - 0.1) * 0.07 + 0.1);
+  }
+}
+
+TEST(SurfacesOverRatios, HaveTwoPositionsAtAnyLargeFraction) {
+  const SurfaceRecord effects(PlotRatioaESIndependent(30, 0.5, 2, 0, 1, 0, 0.05, 1.7e308));
+  ASSERT_EQ(effects.xCount, 2);
+  EXPECT_EQ(effects.x[0], 0.5);
+  EXPECT_EQ(effects.x[1], 2);
+  EXPECT_EQ(effects.y[0], 0);
+  const SurfaceRecord differences(PlotRatioaMeanDiffIndependent(30, 0, 1, 1, 1, 0.5, 2, -1, 1, 0, 0.05, 1e308));
+  ASSERT_EQ(differences.yCount, 2);
+  EXPECT_EQ(differences.y[0], -1);
 }
 
 }  // namespace

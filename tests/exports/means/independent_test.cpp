@@ -237,4 +237,21 @@ TEST(IndependentHalfWidth, IsReachedAtTheSizesFoundAndNotBefore) {
   }
 }
 
+TEST(PowerReversebyHalfCIIndependentMeans, IsMissingWhereNoSizeReachesTheHalfWidth) {
+  for (const double sd2 : {1.0, 2.0}) {
+    DoubleVector sizes;
+    PowerReversebyHalfCIIndependentMeans(2, 0, 1, sd2, sizes, 0.05);
+    EXPECT_EQ(sizes, (DoubleVector{KelMV::Missing(), KelMV::Missing()}));
+  }
+}
+
+// With little more than one subject in group 2, Welch's degrees of freedom are so few that the quantile of t overflows
+// and the power is 1, at a level above one half. What the power is there says nothing about larger sizes.
+TEST(PowerReverseIndependentDirectional, TakesNothingForGrantedAtALevelAboveOneHalf) {
+  DoubleVector sizes;
+  PowerReverseIndependentDirectional(.64388645773345288, .00020353021050115904, 1, 3.0355388521757156, 1,
+                                     .78533116551411286, sizes, .64388645773345288);
+  EXPECT_EQ(sizes, (DoubleVector{6400, 2}));
+}
+
 }  // namespace

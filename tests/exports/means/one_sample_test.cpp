@@ -196,4 +196,16 @@ TEST(OneSampleHalfWidth, OfZeroIsReachedByNoSize) {
   EXPECT_TRUE(KelMV::IsMissing(PowerReversebyHalfCIOneSampleMeans(0, 4, 0.05)));
 }
 
+TEST(PowerReversebyHalfCIOneSampleMeans, IsMissingWhereTheQuantileIsInfinite) {
+  EXPECT_TRUE(KelMV::IsMissing(PowerReversebyHalfCIOneSampleMeans(2, 1, 0)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerReversebyHalfCIRelatedMeans(2, 1, 0, 0, 0)));
+}
+
+// What the interface says of targets and arguments that are out of the ordinary.
+TEST(PowerReverseOneSampleNondirectionalES, OfATargetOfOneAndOfNaN) {
+  EXPECT_EQ(PowerReverseOneSampleNondirectionalES(1, 0.5, 0.05), 400);  // the first end at which the power rounds to 1
+  EXPECT_TRUE(KelMV::IsMissing(PowerReverseOneSampleNondirectionalES(1.5, 0.5, 0.05)));
+  EXPECT_EQ(PowerReverseOneSampleNondirectionalES(0.8, std::nan(""), 0.05), 2);
+}
+
 }  // namespace

@@ -15,6 +15,7 @@
 #include "kelpower.h"
 #include "proportions/independent_statistic.h"
 #include "support/answers.h"
+#include "support/chart_records.h"
 #include "support/stop_requests.h"
 
 namespace kelpower {
@@ -552,6 +553,50 @@ TEST(IndependentInterval, SizesAreMissingWhenStoppedOrOutOfReach) {
   }
   PowerReversebyHalfCIIndSampBinom(0.1, 0.3, 0.6, sizes, 1, 9, 0.05, 0, nullptr);
   EXPECT_EQ(sizes, (std::vector<double>{400, 400}));
+}
+
+// Arcsine tests at their smallest sizes, where a proportion less its correction is 0 and may round to less -------------
+
+TEST(IndependentArcsine, HasAPowerAtItsSmallestSizes) {
+  EXPECT_NEAR(Power(20, 5, 0.95, 0.9, 0, 3), Power(5, 20, 0.1, 0.05, 0, 3), 1e-14);
+  for (int i = 1; i < 100; ++i) {
+    for (int j = 1; j < 100; ++j) {
+      for (const double n : {1.0, 2.0, 5.0, 10.0, 25.0, 50.0})
+        ASSERT_GE(Power(n, 50, i / 100.0, j / 100.0, 0, 3), -1) << n << ' ' << i << ' ' << j;  // no NaN
+    }
+  }
+  const SurfaceRecord plot(PlotNIndSampBinom(20, 20, 0.95, 0.9, 0, 3, 0, 0.05, 0, 0, 5, 10, 5, 10));
+  for (int i = 0; i < plot.xCount * plot.yCount; ++i) EXPECT_FALSE(std::isnan(plot.z[i])) << i;
+}
+
+// A size below the limit of validity by more than rounding, but by less than sizes computed from a ratio may be off, has
+// no real arcsine.
+TEST(IndependentArcsine, IsNotANumberBelowItsSmallestSizes) {
+  EXPECT_TRUE(std::isnan(Power(1.9999999999995, 10, 0.25, 0.125, 0, 3)));
+}
+
+TEST(IndependentArcsine, SizesReachTheirPower) {
+  for (int i = 1; i < 100; i += 3) {
+    for (int j = 1; j < 100; ++j) {
+      if (i == j) continue;
+      for (const double ratio : {0.5, 1.0, 2.0, 3.0}) {
+        const double p1 = i / 100.0;
+        const double p2 = j / 100.0;
+        const std::vector<double> sizes = Sizes(0.8, p1, p2, 0, 3, {}, ratio);
+        ASSERT_GE(Power(sizes[0], sizes[1], p1, p2, 0, 3), 0.8 - 1e-9) << p1 << ' ' << p2 << ' ' << ratio;
+      }
+    }
+  }
+  EXPECT_EQ(Sizes(0.8, 0.53, 0.56, 0, 3, {}, 1), (std::vector<double>{4391, 4391}));
+  EXPECT_EQ(Sizes(0.8, 0.53, 0.58, 0, 3, {}, 2), (std::vector<double>{1192, 2384}));
+}
+
+TEST(IndependentPower, OfExactTestsIsNeverAboveOne) {
+  for (int n = 20; n <= 200; n += 20) {
+    for (const int method : {kZ, kT, kLikelihoodRatio, 3}) {
+      for (const double p2 : {0.02, 0.1, 0.3}) EXPECT_LE(Power(n, n, 0.999, p2, kExact, method), 1) << n << ' ' << p2;
+    }
+  }
 }
 
 }  // namespace

@@ -15,22 +15,20 @@ double Power(double n, double alternative, double null, int method, int oneSided
 
 TEST(PlotNOneSampBinom, HoldsThePowerAtEverySize) {
   for (int method : {0, 1}) {
-    XYPlot plot = PlotNOneSampBinom(30, 0.6, 0.45, method, 1, 0.05, 1, 120, 1);
+    const CurveRecord plot(PlotNOneSampBinom(30, 0.6, 0.45, method, 1, 0.05, 1, 120, 1));
     ASSERT_EQ(plot.count, 120);
     for (int i = 0; i < plot.count; ++i) {
       EXPECT_EQ(plot.x[i], 1 + i);
       EXPECT_EQ(plot.y[i], Single(Power(plot.x[i], 0.6, 0.45, method, 1)));
     }
-    FreeMemXYPlot(&plot);
   }
 }
 
 TEST(PlotNOneSampBinom, HasNoAutomaticRangeAndRejectsASingleSize) {
-  XYPlot plot = PlotNOneSampBinom(30, 0.6, 0.45, 1, 1, 0.05, 0, 0, 0);
+  const CurveRecord plot(PlotNOneSampBinom(30, 0.6, 0.45, 1, 1, 0.05, 0, 0, 0));
   ASSERT_EQ(plot.count, 1);
   EXPECT_EQ(plot.x[0], 0);
   EXPECT_EQ(plot.y[0], -1);
-  FreeMemXYPlot(&plot);
   EXPECT_EQ(PlotNOneSampBinom(30, 0.6, 0.45, 1, 1, 0.05, 3, 3, 0).x, nullptr);
   EXPECT_EQ(PlotNOneSampBinom(30, 0.6, 0.45, 1, 1, 0.05, 4998, 5001, 0).x, nullptr);
   EXPECT_EQ(PlotNOneSampBinom(30, 0.6, 0.45, 1, 1, 0.05, -1, 3, 0).x, nullptr);
@@ -38,40 +36,37 @@ TEST(PlotNOneSampBinom, HasNoAutomaticRangeAndRejectsASingleSize) {
 }
 
 TEST(PlotNullOneSampBinom, RunsOverTheProportionGrid) {
-  XYPlot plot = PlotNullOneSampBinom(25, 0.6, 1, 0, 0.05, 0, 0.1);
+  const CurveRecord plot(PlotNullOneSampBinom(25, 0.6, 1, 0, 0.05, 0, 0.1));
   ASSERT_EQ(plot.count, 9);
   for (int i = 0; i < 9; ++i) {
     EXPECT_EQ(plot.x[i], (i + 1) * 0.1);
     EXPECT_EQ(plot.y[i], Single(Power(25, 0.6, plot.x[i], 1, 0)));
   }
-  FreeMemXYPlot(&plot);
 }
 
 TEST(PlotAlterOneSampBinom, HasItsStepChecked) {
-  XYPlot plot = PlotAlterOneSampBinom(25, 0.6, 1, 0, 0.05, 0, 0.5);
+  const CurveRecord plot(PlotAlterOneSampBinom(25, 0.6, 1, 0, 0.05, 0, 0.5));
   ASSERT_EQ(plot.count, 1);
   EXPECT_EQ(plot.x[0], 0.5);
   EXPECT_EQ(plot.y[0], Single(Power(25, 0.5, 0.6, 1, 0)));
-  FreeMemXYPlot(&plot);
   for (double step : {0.6, 0.0, -0.1, std::nan("")}) {
     EXPECT_EQ(PlotAlterOneSampBinom(25, 0.6, 1, 0, 0.05, 0, step).x, nullptr) << step;
   }
 }
 
 TEST(PlotRiskDiffOneSampBionm, MeetsTheSameAlternatives) {
-  XYPlot plot = PlotRiskDiffOneSampBionm(25, 0.3, 1, 1, 0.05, 0, 0.125);
+  const CurveRecord plot(PlotRiskDiffOneSampBionm(25, 0.3, 1, 1, 0.05, 0, 0.125));
   ASSERT_EQ(plot.count, 7);
   for (int i = 0; i < 7; ++i) {
     EXPECT_EQ(plot.x[i], (i + 1) * 0.125 - 0.3);
     EXPECT_EQ(plot.y[i], Single(Power(25, plot.x[i] + 0.3, 0.3, 1, 1)));
   }
-  FreeMemXYPlot(&plot);
 }
 
 TEST(PlotNAlterOneSampBinom, HoldsThePowerAtEveryPoint) {
   for (int method : {0, 1}) {
     for (int oneSided : {0, 1}) {
-      XYZPlot plot = PlotNAlterOneSampBinom(30, 0.6, 0.45, method, oneSided, 0.05, 8, 40, 1, 0.05);
+      const SurfaceRecord plot(PlotNAlterOneSampBinom(30, 0.6, 0.45, method, oneSided, 0.05, 8, 40, 1, 0.05));
       ASSERT_EQ(plot.xCount, 33);
       ASSERT_EQ(plot.yCount, 19);
       for (int i = 0; i < plot.xCount; ++i) {
@@ -79,25 +74,23 @@ TEST(PlotNAlterOneSampBinom, HoldsThePowerAtEveryPoint) {
           EXPECT_EQ(plot.z[i * plot.yCount + j], Single(Power(plot.x[i], plot.y[j], 0.45, method, oneSided)));
         }
       }
-      FreeMemXYZPlot(&plot);
     }
   }
 }
 
 TEST(PlotNNullOneSampBinom, TakesItsSizesFromTheDesignWhenOneIsZero) {
   const double power = Power(30, 0.6, 0.45, 1, 0);
-  XYZPlot plot = PlotNNullOneSampBinom(30, 0.6, 0.45, 1, 0, 0.05, 0, 12, 1, 0.2);
+  const SurfaceRecord plot(PlotNNullOneSampBinom(30, 0.6, 0.45, 1, 0, 0.05, 0, 12, 1, 0.2));
   ASSERT_GT(plot.xCount, 1);
   EXPECT_EQ(plot.x[0], std::floor((1 - power) * 30));
   EXPECT_EQ(plot.x[plot.xCount - 1], std::ceil((2 - power) * 30));
   ASSERT_EQ(plot.yCount, 4);
   EXPECT_EQ(plot.z[5 * 4 + 2], Single(Power(plot.x[5], 0.6, plot.y[2], 1, 0)));
-  FreeMemXYZPlot(&plot);
   EXPECT_EQ(PlotNNullOneSampBinom(1e12, 0.6, 0.45, 1, 0, 0.05, 0, 0, 1, 0.2).x, nullptr);
 }
 
 TEST(PlotNRiskDiffOneSampBinom, HoldsThePowerAtEveryPoint) {
-  XYZPlot plot = PlotNRiskDiffOneSampBinom(30, 0.6, 0.25, 1, 1, 0.05, 20, 23, 1, 0.25);
+  const SurfaceRecord plot(PlotNRiskDiffOneSampBinom(30, 0.6, 0.25, 1, 1, 0.05, 20, 23, 1, 0.25));
   ASSERT_EQ(plot.xCount, 4);
   ASSERT_EQ(plot.yCount, 3);
   for (int i = 0; i < 4; ++i) {
@@ -105,17 +98,15 @@ TEST(PlotNRiskDiffOneSampBinom, HoldsThePowerAtEveryPoint) {
       EXPECT_EQ(plot.z[i * 3 + j], Single(Power(plot.x[i], plot.y[j] + 0.25, 0.25, 1, 1)));
     }
   }
-  FreeMemXYZPlot(&plot);
 }
 
 TEST(PlotNullAlterOneSampBinom, HasTheNullProportionAlongX) {
-  XYZPlot plot = PlotNullAlterOneSampBinom(30, 1, 1, 0.05, 0, 0.2);
+  const SurfaceRecord plot(PlotNullAlterOneSampBinom(30, 1, 1, 0.05, 0, 0.2));
   ASSERT_EQ(plot.xCount, 4);
   ASSERT_EQ(plot.yCount, 4);
   for (int i = 0; i < 4; ++i) {
     for (int j = 0; j < 4; ++j) EXPECT_EQ(plot.z[i * 4 + j], Single(Power(30, plot.y[j], plot.x[i], 1, 1)));
   }
-  FreeMemXYZPlot(&plot);
 }
 
 }  // namespace

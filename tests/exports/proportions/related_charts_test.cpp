@@ -15,62 +15,55 @@ double Power(double n, double p12, double p21, int exact = 1, int oneSided = 0) 
 
 TEST(PlotNRelSampBionm, HoldsThePowerAtEverySize) {
   for (int exact : {0, 1}) {
-    XYPlot plot = PlotNRelSampBionm(30, 0.3, 0.1, 0, 300, 0, exact, 0.05);
+    const CurveRecord plot(PlotNRelSampBionm(30, 0.3, 0.1, 0, 300, 0, exact, 0.05));
     ASSERT_EQ(plot.count, 301);
     for (int i = 0; i < plot.count; ++i) {
       EXPECT_EQ(plot.x[i], i);
       EXPECT_EQ(plot.y[i], Single(Power(i, 0.3, 0.1, exact)));
     }
     EXPECT_EQ(plot.y[1], -1);
-    FreeMemXYPlot(&plot);
   }
 }
 
 TEST(PlotNRelSampBionm, EndsAt2500) {
-  XYPlot plot = PlotNRelSampBionm(30, 0.3, 0.1, 0, 2500, 0, 1, 0.05);
+  const CurveRecord plot(PlotNRelSampBionm(30, 0.3, 0.1, 0, 2500, 0, 1, 0.05));
   EXPECT_EQ(plot.count, 2501);
-  FreeMemXYPlot(&plot);
   EXPECT_EQ(PlotNRelSampBionm(30, 0.3, 0.1, 0, 2501, 0, 1, 0.05).x, nullptr);
-  XYPlot single = PlotNRelSampBionm(30, 0.3, 0.1, 7, 7, 0, 1, 0.05);
+  const CurveRecord single(PlotNRelSampBionm(30, 0.3, 0.1, 7, 7, 0, 1, 0.05));
   EXPECT_EQ(single.count, 1);
-  FreeMemXYPlot(&single);
 }
 
 TEST(PlotRiskDiffRelSampBionm, KeepsTheSumBelowOne) {
-  XYPlot plot = PlotRiskDiffRelSampBionm(40, 0.3, 0, 1, 0.05, 0.1);
+  const CurveRecord plot(PlotRiskDiffRelSampBionm(40, 0.3, 0, 1, 0.05, 0.1));
   ASSERT_EQ(plot.count, 9);
   for (int i = 0; i < plot.count; ++i) {
     EXPECT_NEAR(plot.x[i], -0.4 + (i + 1) * 0.07, 1e-15);
     EXPECT_EQ(plot.y[i], Single(Power(40, 0.3, 0.3 - plot.x[i])));
     EXPECT_GE(plot.y[i], 0);
   }
-  FreeMemXYPlot(&plot);
   EXPECT_EQ(PlotRiskDiffRelSampBionm(40, 1, 0, 1, 0.05, 0.1).x, nullptr);
 }
 
 TEST(PlotRiskRatioRelSampBionm, HasAnAutomaticRange) {
-  XYPlot plot = PlotRiskRatioRelSampBionm(40, 0.3, 0.2, 0, 0, 0, 1, 0.05, 0.25);
+  const CurveRecord plot(PlotRiskRatioRelSampBionm(40, 0.3, 0.2, 0, 0, 0, 1, 0.05, 0.25));
   ASSERT_EQ(plot.count, 5);
   EXPECT_NEAR(plot.x[0], 3.0 / 7, 1e-15);
   EXPECT_NEAR(plot.x[4], 3, 1e-15);
   for (int i = 0; i < 5; ++i) EXPECT_EQ(plot.y[i], Single(Power(40, 0.3, 0.3 / plot.x[i])));
-  FreeMemXYPlot(&plot);
 }
 
 TEST(PlotRiskRatioRelSampBionm, MovesTheFirstProbabilityAboveOneHalf) {
-  XYPlot plot = PlotRiskRatioRelSampBionm(40, 0.6, 0.2, 0, 0, 0, 1, 0.05, 0.3);
+  const CurveRecord plot(PlotRiskRatioRelSampBionm(40, 0.6, 0.2, 0, 0, 0, 1, 0.05, 0.3));
   ASSERT_EQ(plot.count, 5);
   for (int i = 0; i < 4; ++i) EXPECT_EQ(plot.y[i], Single(Power(40, plot.x[i] * 0.2, 0.2)));
   EXPECT_GT(plot.x[4], 4);
   EXPECT_EQ(plot.y[4], Single(Power(40, 0.8, 0.2)));
-  FreeMemXYPlot(&plot);
 }
 
 TEST(PlotRiskRatioRelSampBionm, RejectsRatiosOutOfReach) {
   const auto isEmpty = [](double p12, double p21, double from, double to) {
-    XYPlot plot = PlotRiskRatioRelSampBionm(40, p12, p21, from, to, 0, 0, 0.05, 0.2);
+    const CurveRecord plot(PlotRiskRatioRelSampBionm(40, p12, p21, from, to, 0, 0, 0.05, 0.2));
     const bool empty = plot.x == nullptr;
-    FreeMemXYPlot(&plot);
     return empty;
   };
   EXPECT_FALSE(isEmpty(0.3, 0.2, 0.5, 2));
@@ -82,33 +75,30 @@ TEST(PlotRiskRatioRelSampBionm, RejectsRatiosOutOfReach) {
 }
 
 TEST(PlotOddsRatioRelSampBionm, HasAnAutomaticRange) {
-  XYPlot plot = PlotOddsRatioRelSampBionm(40, 0.5, 0, 2, 0, 1, 0.05, 0.2);
+  const CurveRecord plot(PlotOddsRatioRelSampBionm(40, 0.5, 0, 2, 0, 1, 0.05, 0.2));
   ASSERT_EQ(plot.count, 6);
   EXPECT_EQ(plot.x[0], 1);
   EXPECT_NEAR(plot.x[5], 4, 1e-14);
   for (int i = 0; i < 6; ++i) EXPECT_EQ(plot.y[i], Single(Power(40, 0.5, 0.5 / (0.5 * plot.x[i] + 0.5))));
-  FreeMemXYPlot(&plot);
   EXPECT_EQ(PlotOddsRatioRelSampBionm(40, 0.5, 0.9, 2, 0, 1, 0.05, 0.2).x, nullptr);
   EXPECT_EQ(PlotOddsRatioRelSampBionm(40, 0.5, 2, 11.1, 0, 1, 0.05, 0.2).x, nullptr);
   EXPECT_EQ(PlotOddsRatioRelSampBionm(40, 1, 0, 0, 0, 1, 0.05, 0.2).x, nullptr);
 }
 
 TEST(PlotCorrRelSampBionm, EndsAtTheLargestCorrelation) {
-  XYPlot plot = PlotCorrRelSampBionm(40, 0.5, 0.5, 0, 1, 0.05, 0.3);
+  const CurveRecord plot(PlotCorrRelSampBionm(40, 0.5, 0.5, 0, 1, 0.05, 0.3));
   ASSERT_EQ(plot.count, 8);
   EXPECT_EQ(plot.x[0], -1);
   EXPECT_EQ(plot.x[7], 1);
   for (int i = 0; i < 8; ++i) {
     EXPECT_EQ(plot.y[i], Single(PowerbyMargPRelSampBionm(40, 0.5, 0.5, plot.x[i], 0, 1, 0.05)));
   }
-  FreeMemXYPlot(&plot);
-  XYPlot unequal = PlotCorrRelSampBionm(40, 0.6, 0.4, 0, 1, 0.05, 0.5);
+  const CurveRecord unequal(PlotCorrRelSampBionm(40, 0.6, 0.4, 0, 1, 0.05, 0.5));
   EXPECT_NEAR(unequal.x[unequal.count - 1], 2.0 / 3, 1e-15);
-  FreeMemXYPlot(&unequal);
 }
 
 TEST(PlotPropRelSampBionm, IsZeroOnTheDiagonalAndBeyondOne) {
-  XYZPlot plot = PlotPropRelSampBionm(30, 0, 1, 0.05, 0.1);
+  const SurfaceRecord plot(PlotPropRelSampBionm(30, 0, 1, 0.05, 0.1));
   ASSERT_EQ(plot.xCount, 9);
   ASSERT_EQ(plot.yCount, 9);
   for (int i = 0; i < 9; ++i) {
@@ -117,11 +107,10 @@ TEST(PlotPropRelSampBionm, IsZeroOnTheDiagonalAndBeyondOne) {
       EXPECT_EQ(plot.z[i * 9 + j], isExcluded ? 0 : Single(Power(30, plot.x[i], plot.y[j])));
     }
   }
-  FreeMemXYZPlot(&plot);
 }
 
 TEST(PlotMargPropRelSampBionm, ComputesTheDiagonal) {
-  XYZPlot plot = PlotMargPropRelSampBionm(30, 0.2, 0, 1, 0.05, 0.2);
+  const SurfaceRecord plot(PlotMargPropRelSampBionm(30, 0.2, 0, 1, 0.05, 0.2));
   ASSERT_EQ(plot.xCount, 4);
   for (int i = 0; i < 4; ++i) {
     for (int j = 0; j < 4; ++j) {
@@ -131,15 +120,13 @@ TEST(PlotMargPropRelSampBionm, ComputesTheDiagonal) {
     }
   }
   EXPECT_GT(plot.z[0], 0);
-  FreeMemXYZPlot(&plot);
   EXPECT_EQ(PlotMargPropRelSampBionm(30, 1, 0, 1, 0.05, 0.2).x, nullptr);
 }
 
 TEST(PlotMargPropRelSampBionm, HasNoPointsForAStepOfOne) {
-  XYZPlot plot = PlotMargPropRelSampBionm(30, 0.2, 0, 1, 0.05, 1);
+  const SurfaceRecord plot(PlotMargPropRelSampBionm(30, 0.2, 0, 1, 0.05, 1));
   EXPECT_EQ(plot.xCount, 0);
   EXPECT_NE(plot.z, nullptr);
-  FreeMemXYZPlot(&plot);
   EXPECT_EQ(PlotMargPropRelSampBionm(30, 0.2, 0, 1, 0.05, 0).x, nullptr);
 }
 

@@ -1,0 +1,38 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "kelpower.h"
+#include "regression/f_test.h"
+
+namespace kelpower::regression {
+namespace {
+
+constexpr Model kFixed{6, 2, false, true, 0.05};
+constexpr Model kRandom{6, 2, true, true, 0.05};
+
+TEST(Regression, IsThatOfTheExports) {
+  const Effect partial = Effect::OfRSquared(0.3, 0.25);
+  EXPECT_EQ(*Power(kFixed, 80, partial), Powerbymlr(80, 6, 2, 0.3, 0.25, 0, 1, 0.05));
+  EXPECT_EQ(*Power(kRandom, 80, partial), Powerbymlr(80, 6, 2, 0.3, 0.25, 1, 1, 0.05));
+  EXPECT_EQ(*SizeForPower(kFixed, partial, 0.8), PowerReversebymlr(0.8, 6, 2, 0.3, 0.25, 0, 1, 0.05));
+  EXPECT_EQ(*SizeForPower(kRandom, Effect::OfFSquared(0.1), 0.8), PowerReversebymlrwES(0.8, 6, 2, 0.1, 1, 1, 0.05));
+}
+
+TEST(Regression, SaysWhyThereIsNoPowerOrSize) {
+  const Effect effect = Effect::OfFSquared(0.1);
+  EXPECT_EQ(Power(kFixed, 7, effect).Reason(), NoValue::Refused);
+  EXPECT_EQ(Power({6, 7, false, true, 0.05}, 80, effect).Reason(), NoValue::Refused);
+  EXPECT_EQ(Power({6, 2, false, true, 1}, 80, effect).Reason(), NoValue::Refused);
+  EXPECT_EQ(SizeForPower(kFixed, Effect::OfFSquared(0), 0.8).Reason(), NoValue::NotReached);
+}
+
+TEST(Effect, IsOneNumberInTwoForms) {
+  EXPECT_DOUBLE_EQ(Effect::OfFSquared(0.25).rhoSquared, 0.2);
+  EXPECT_DOUBLE_EQ(Effect::OfRhoSquared(0.2).fSquared, 0.25);
+  EXPECT_DOUBLE_EQ(Effect::OfRSquared(0.6, 0.5).rhoSquared, 0.2);
+  EXPECT_TRUE(std::isnan(Effect::OfFSquared(-0.1).rhoSquared));
+}
+
+}  // namespace
+}  // namespace kelpower::regression
