@@ -6,7 +6,7 @@ set -eu
 packages=""
 for group in "$@"; do
   case $group in
-    build) packages="$packages g++ cmake ninja-build pkg-config python3 libboost1.81-dev libcli11-dev libfmt-dev
+    build) packages="$packages g++ cmake ninja-build pkg-config python3 libfast-float-dev libcli11-dev libfmt-dev
                      nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev gnuplot-nox" ;;
     lint) packages="$packages clang-format clang-tidy" ;;
     fuzz) packages="$packages clang libclang-rt-14-dev" ;;

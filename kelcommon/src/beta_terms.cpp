@@ -1,11 +1,10 @@
 #include "beta_terms.h"
 
-#include <boost/math/special_functions/erf.hpp>
 #include <cmath>
 #include <limits>
 
-#include "boost_policy.h"
 #include "noncentral_f.h"
+#include "normal.h"
 #include "series.h"
 
 namespace KelMath {
@@ -43,7 +42,7 @@ constexpr long double halfIntegerLogScaledGammas[] = {
 
 double HalfDegrees(double df) { return std::fmax(df / 2, std::numeric_limits<double>::min()); }
 
-long double LogScaledGamma(double x) {
+long double ExtendedLogScaledGamma(double x) {
   if (x >= 16) return StirlingCorrection(x);
   if (2 * x == std::floor(2 * x)) return halfIntegerLogScaledGammas[static_cast<int>(2 * x) - 1];
   // Gamma(x) = Gamma(x + 16) / (x (x + 1) ... (x + 15)), with no more factors than needed.
@@ -67,7 +66,8 @@ struct BetaDensity {
   BetaDensity(double aIn, double bIn) : a(aIn), b(bIn) {
     root = std::sqrt(a / (a + b) * b / (2 * pi));
     const double sum = static_cast<double>(a + b);
-    logGammas = (std::isinf(sum) ? 0 : LogScaledGamma(sum)) - LogScaledGamma(aIn) - LogScaledGamma(bIn);
+    logGammas =
+        (std::isinf(sum) ? 0 : ExtendedLogScaledGamma(sum)) - ExtendedLogScaledGamma(aIn) - ExtendedLogScaledGamma(bIn);
   }
 
   // The logarithm of y^a (1-y)^b / B(a, b) over the root.
@@ -94,7 +94,7 @@ ScaledValue BetaStep(double a, double b, long double c) {
 ScaledValue PoissonMass(double k, double m) {
   if (k == 0) return {1, -static_cast<long double>(m)};
   const long double lk = k;
-  return {1 / std::sqrt(2 * pi * lk), lk * Log1pMinusArgument((m - lk) / lk) - LogScaledGamma(k)};
+  return {1 / std::sqrt(2 * pi * lk), lk * Log1pMinusArgument((m - lk) / lk) - ExtendedLogScaledGamma(k)};
 }
 
 namespace {
@@ -202,8 +202,6 @@ TailsAndDensity EvaluateBeta(const BetaDensity& densityOfLogOdds, double a, doub
 Tails BetaTails(double a, double b, long double c) { return EvaluateBeta(BetaDensity(a, b), a, b, c).tails; }
 
 namespace {
-
-double NormalUpperQuantile(double p) { return 1.41421356237309504880 * boost::math::erfc_inv(2 * p, QuietPolicy()); }
 
 // Student's quantile |t| with P(|T| > |t|) = p to about four digits: Hill (1970), Algorithm 396: Student's t-quantiles.
 double HillQuantile(double df, double p) {

@@ -11,7 +11,7 @@ namespace KelMath {
 double HalfDegrees(double df);
 
 /// The logarithm of the scaled gamma function Gamma(x) / (sqrt(2 pi / x) (x / e)^x), x > 0; tends to 0 for large x.
-long double LogScaledGamma(double x);
+long double ExtendedLogScaledGamma(double x);
 
 /// A positive number factor * exp(exponent), kept apart because the exponential alone may underflow.
 struct ScaledValue {

@@ -1,11 +1,11 @@
 #include "incomplete_beta.h"
 
 #include <algorithm>
-#include <boost/math/quadrature/gauss.hpp>
 #include <cmath>
 #include <limits>
 #include <utility>
 
+#include "gauss_legendre.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "series.h"
 
@@ -139,16 +139,15 @@ double TailExponent(const Place& place, double s) {
 // Lower probability over slope, by Gauss-Legendre quadrature of the tail in log(x / y), where the integrand lies
 // between an exponential and a normal density.
 double TailOverSlopeByQuadrature(const Place& place) {
-  using Rule = boost::math::quadrature::gauss<double, 30>;
   const double information = (place.a + place.b) * place.point.x * place.point.y;
   const double decay = std::max(-place.excess, 0.0);
   double end = 2 * tailCut / (decay + std::sqrt(decay * decay + 2 * tailCut * information));
   end *= std::sqrt(std::max(1.0, tailCut / TailExponent(place, end)));
   const double half = end / 2;
   double sum = 0;
-  for (std::size_t i = 0; i < Rule::abscissa().size(); ++i) {
-    const double offset = half * Rule::abscissa()[i];
-    sum += Rule::weights()[i] *
+  for (int i = 0; i < gaussLegendreCount; ++i) {
+    const double offset = half * gaussLegendreNodes[i];
+    sum += gaussLegendreWeights[i] *
            (std::exp(-TailExponent(place, half - offset)) + std::exp(-TailExponent(place, half + offset)));
   }
   return half * sum;

@@ -1,8 +1,8 @@
 #include "planner/value.h"
 
+#include <fast_float/fast_float.h>
 #include <fmt/format.h>
 
-#include <charconv>
 #include <cmath>
 
 namespace planner {
@@ -17,20 +17,26 @@ std::string Joined(const Numbers& numbers, const std::string& lastSeparator) {
   return text;
 }
 
+bool HasDigitAbove0(std::string_view number) {
+  return number.substr(0, number.find_first_of("eE")).find_first_of("123456789") != std::string_view::npos;
+}
+
 }  // namespace
 
 bool ParseNumber(std::string_view text, double& number) {
-  // from_chars takes no plus sign, and takes words such as "nan" and "inf".
+  // from_chars takes no plus sign, and takes words such as "nan" and "inf". The standard library's lacks doubles on
+  // some platforms.
   if (!text.empty() && text.front() == '+') {
     text.remove_prefix(1);
     if (!text.empty() && text.front() == '-') return false;
   }
   double parsed = 0;
   const char* end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, parsed);
+  const auto [stop, error] = fast_float::from_chars(text.data(), end, parsed);
   if (error != std::errc{}) return false;
   if (stop != end) return false;
   if (!std::isfinite(parsed)) return false;
+  if (parsed == 0 && HasDigitAbove0(text)) return false;  // too small for a double
   number = parsed;
   return true;
 }

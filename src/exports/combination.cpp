@@ -1,6 +1,7 @@
 #include <cmath>
 #include <limits>
 
+#include "frame/binomial_product.h"
 #include "kelpower.h"
 
 // exp|s1 - s2| with s1 the sum of log i for i = 1 ... m and s2 that of log j for the whole j from n - m + 1 to n, m the
@@ -17,12 +18,22 @@ extern "C" double Combination(double n, double k) {
   if (!(first <= last)) return 1.0;
 
   const double wholeM = m < 1 ? 0.0 : std::floor(m);
-  long double product = 1;
   // With a fractional m one j can be left over, which no i divides.
-  if (last - first + 1 > wholeM) product = first;
+  kelpower::BinomialProduct product(last - first + 1 > wholeM ? first : 1);
   const double offset = last - wholeM;
-  for (double i = 1; i <= wholeM && std::isfinite(static_cast<double>(product)); ++i) {
-    product = product * static_cast<long double>(offset + i) / static_cast<long double>(i);
+  // As many factors at once as have exact products; each i is at most its j.
+  constexpr double largestExact = 0x1p53;
+  double numerator = 1;
+  double denominator = 1;
+  for (double i = 1; i <= wholeM && std::isfinite(product.Value()); ++i) {
+    if (numerator * (offset + i) > largestExact) {
+      product.Multiply(numerator, denominator);
+      numerator = 1;
+      denominator = 1;
+    }
+    numerator *= offset + i;
+    denominator *= i;
   }
-  return static_cast<double>(product);
+  product.Multiply(numerator, denominator);
+  return product.Value();
 }

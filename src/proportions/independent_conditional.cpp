@@ -4,6 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include "frame/binomial_product.h"
+
 namespace kelpower::proportions {
 
 namespace {
@@ -15,12 +17,12 @@ constexpr std::int64_t unknown = -2;
 /// C(n, 0), C(n, 1), ..., C(n, n).
 std::vector<double> Coefficients(std::int64_t n) {
   std::vector<double> coefficients(static_cast<std::size_t>(n) + 1);
-  long double coefficient = 1;
+  BinomialProduct coefficient(1);
   for (std::int64_t k = 0; 2 * k <= n; ++k) {
-    const double rounded = static_cast<double>(coefficient);
+    const double rounded = coefficient.Value();
     coefficients[static_cast<std::size_t>(k)] = rounded;
     coefficients[static_cast<std::size_t>(n - k)] = rounded;
-    coefficient = coefficient * static_cast<long double>(n - k) / static_cast<long double>(k + 1);
+    coefficient.Multiply(static_cast<double>(n - k), static_cast<double>(k + 1));
   }
   return coefficients;
 }

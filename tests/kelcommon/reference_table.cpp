@@ -1,7 +1,6 @@
 #include "reference_table.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -226,7 +225,12 @@ std::string Describe(const ReferenceRow& row) {
 }
 
 std::string Shortest(double value) {
+  // Not by to_chars, which some standard libraries lack for doubles.
+  constexpr int enoughDigits = std::numeric_limits<double>::max_digits10;
   char text[32];
-  const std::to_chars_result result = std::to_chars(text, text + sizeof text, value);
-  return std::string(text, result.ptr);
+  for (int digits = 1; digits <= enoughDigits; ++digits) {
+    std::snprintf(text, sizeof text, "%.*g", digits, value);
+    if (std::strtod(text, nullptr) == value) break;
+  }
+  return text;
 }

@@ -13,6 +13,7 @@ TEST(ParseNumber, TakesDecimalNumbers) {
       {"-3", -3},    {".5", 0.5},
       {"5.", 5},     {"1e-3", 0.001},
       {"1E3", 1000}, {"-0.25", -0.25},
+      {"0e-999", 0}, {"5e-324", std::numeric_limits<double>::denorm_min()},
       {"0.1", 0.1},  {"1.7976931348623157e308", std::numeric_limits<double>::max()}};
   for (const auto& [text, expected] : cases) {
     double number = 0;
@@ -22,8 +23,9 @@ TEST(ParseNumber, TakesDecimalNumbers) {
 }
 
 TEST(ParseNumber, RefusesEverythingElse) {
-  for (const char* text : {"",     " ",        "+",     "-",    "+-3", "++3",   "3x",    "3 ",  " 3", "nan", "inf",
-                           "-inf", "infinity", "1e999", "0x10", "1,5", "1'000", "three", "--n", "1e", "\xff"}) {
+  for (const char* text :
+       {"",     " ",        "+",     "-",    "+-3", "++3",   "3x",    "3 ",  " 3", "nan",    "inf",
+        "-inf", "infinity", "1e999", "0x10", "1,5", "1'000", "three", "--n", "1e", "1e-400", "\xff"}) {
     double number = 7;
     EXPECT_FALSE(ParseNumber(text, number)) << text;
     EXPECT_EQ(number, 7) << text;

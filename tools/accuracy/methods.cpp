@@ -39,7 +39,10 @@ const Method methods[] = {
      "erfc(-z / sqrt 2) / 2, with the rounding of its argument undone by the derivative in the lower tail.",
      "Abramowitz and Stegun, Handbook of Mathematical Functions (1964), 7.1.13 and 26.2.29."},
     {"IdfStdNorm", "Quantile of the standard normal distribution: `IdfStdNorm(p)`.",
-     "The inverse of erfc by rational approximations.", "J. Maddock and others, Boost.Math 1.81, `erfc_inv`."},
+     "Rational approximations: around the median in the distance of p from 1/2, which is exact, and in the tails in "
+     "sqrt(-2 log p). The coefficients are made by `tools/references/rational_fits.py`.",
+     "After M. Wichura, Algorithm AS 241: The Percentage Points of the Normal Distribution, Applied Statistics 37 "
+     "(1988)."},
     {"CdfBeta", "Lower probability of the beta distribution: `CdfBeta(x, a, b)`.",
      "x^a (1 - x)^b / B(a, b) in saddle-point form with a compensated distance from the mean, times a power series, a "
      "continued fraction, or above shapes of 1500 a Gauss-Legendre quadrature of the tail.",
@@ -60,9 +63,11 @@ const Method methods[] = {
     {"PdfNegBin", "Mass of the negative binomial distribution: `PdfNegBin(x, r, p, err)`.", "The saddle-point form.",
      "C. Loader (2000), as `CdfBeta`."},
     {"orvadnlgam", "Logarithm of the absolute value of the gamma function: `orvadnlgam(x)`.",
-     "Rational approximations and the Lanczos sum; for negative arguments the reflection formula (Abramowitz and "
-     "Stegun 6.1.17).",
-     "J. Maddock and others, Boost.Math 1.81, `lgamma`."},
+     "Rational approximations with the zeros at 1 and 2 as factors; from 4 on Stirling's formula, its correction by a "
+     "table at whole and half arguments up to 31/2 and by a rational approximation between them; for negative "
+     "arguments "
+     "the reflection formula. The coefficients are made by `tools/references/rational_fits.py`.",
+     "Abramowitz and Stegun, Handbook of Mathematical Functions (1964), 6.1.17 and 6.1.40."},
 };
 
 }  // namespace

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Unpacks Debian's statsmodels into a folder, from where it is used through PYTHONPATH and LD_LIBRARY_PATH. To install it
-# would pull in a version of Boost that conflicts with ours.
+# would pull in Boost and much else that nothing here needs.
 # Usage: unpack_statsmodels.sh FOLDER
 set -eu
 folder=$1

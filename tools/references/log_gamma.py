@@ -31,6 +31,16 @@ def rows(rng):
         yield log_uniform(rng, 1e-300, 1e-3), "near 0"
     for _ in range(40):
         yield -(rng.randrange(0, 50) + rng.uniform(0.1, 0.4)), "negative"
+    for _ in range(40):
+        yield -(rng.randrange(0, 50) + rng.uniform(0.5, 0.95)), "negative"
+    for _ in range(40):
+        yield -log_uniform(rng, 1e-307, 0.5), "negative near 0"
+    for x in (5e-324, -5e-324, 3e-320, -3e-320, 2.0 ** -1022, -2.0 ** -1022):
+        yield x, "denormal arguments"
+    for x in (1 - 2.0 ** -53, 1 + 2.0 ** -52, 2 - 2.0 ** -52, 2 + 2.0 ** -51):
+        yield x, "near its zeros 1 and 2"
+    for x in (4 - 2.0 ** -51, 16 - 2.0 ** -49, 2.55e305):
+        yield x, "ordinary" if x < 100 else "huge"
 
 
 def main():

@@ -3,6 +3,7 @@
 
 Usage: normal.py [folder]        (needs mpmath and gmpy2)
 """
+import math
 import random
 import sys
 
@@ -59,6 +60,14 @@ def quantile_rows(rng):
         yield 1 - log_uniform(rng, 2.0 ** -52, 1e-3), "upper tail"
     for p in [5e-324, 1e-320, 3e-310, 2.0 ** -1022]:
         yield p, "denormal arguments"
+    # On both sides of where one approximation follows another, and in each of them.
+    for s in [2.8, 5, 9, 18]:
+        for factor in [1 - 1e-9, 1 + 1e-9]:
+            yield math.exp(-(s * factor) ** 2 / 2), "joints"
+    for p in [0.25, 0.25 + 2.0 ** -54, 0.75, 0.75 + 2.0 ** -53]:
+        yield p, "joints"
+    for _ in range(100):
+        yield log_uniform(rng, 1e-3, 0.3), "joints"
 
 
 def main():
