@@ -592,9 +592,15 @@ TEST(IndependentArcsine, SizesReachTheirPower) {
 }
 
 TEST(IndependentPower, OfExactTestsIsNeverAboveOne) {
-  for (int n = 20; n <= 200; n += 20) {
+  const Options oneSided{1, 0.011599387884959771, 0, 0};
+  EXPECT_EQ(
+      Power(79.326830636181043, 186, 0.13321620511778842, 0.98694341478576708, kExact, kLikelihoodRatio, oneSided), 1);
+  for (int n = 20; n <= 300; n += 20) {
     for (const int method : {kZ, kT, kLikelihoodRatio, 3}) {
-      for (const double p2 : {0.02, 0.1, 0.3}) EXPECT_LE(Power(n, n, 0.999, p2, kExact, method), 1) << n << ' ' << p2;
+      for (const double p1 : {0.9, 0.95, 0.999}) {
+        for (const double p2 : {0.02, 0.1, 0.16, 0.3})
+          EXPECT_LE(Power(n, n, p1, p2, kExact, method), 1) << n << ' ' << p1 << ' ' << p2 << ' ' << method;
+      }
     }
   }
 }
