@@ -592,7 +592,7 @@ TEST(IndependentArcsine, SizesReachTheirPower) {
 }
 
 TEST(IndependentPower, OfExactTestsIsNeverAboveOne) {
-  const Options oneSided{1, 0.011599387884959771, 0, 0};
+  const Options oneSided{true, 0.011599387884959771, 0, 0};
   EXPECT_EQ(
       Power(79.326830636181043, 186, 0.13321620511778842, 0.98694341478576708, kExact, kLikelihoodRatio, oneSided), 1);
   for (int n = 20; n <= 300; n += 20) {
