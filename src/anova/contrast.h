@@ -70,7 +70,7 @@ struct ContrastDesign {
   PerGroup weights;   ///< sizes or allocation ratios of the groups
   double effectSize;  ///< sum c_i m_i in standard deviations
   bool isOneSided;    ///< in the direction of the effect
-  double alpha;
+  double alpha;       ///< significance level
 };
 
 /// The power at a total size that is spread over the groups by their weights.

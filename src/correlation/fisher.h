@@ -14,7 +14,7 @@ namespace kelpower::correlation {
 struct Level {
   double alpha;
   bool isOneSided;
-  double critical;
+  double critical;  ///< normal quantile
 
   Level(double level, bool oneSided);
 

@@ -13,7 +13,7 @@ namespace kelpower::means {
 
 /// The sampling distribution of a difference of means.
 struct DifferenceDistribution {
-  double df;
+  double df;  ///< degrees of freedom of t
   double standardError;
 };
 
@@ -22,8 +22,8 @@ DifferenceDistribution WelchDifference(double n1, double sd1, double n2, double 
 
 /// How two groups scatter.
 struct GroupSpreads {
-  double sd1;
-  double sd2;
+  double sd1;     ///< standard deviation in group 1
+  double sd2;     ///< standard deviation in group 2
   bool isPooled;  ///< sd1 stands for both groups; otherwise the form of Welch
 
   DifferenceDistribution At(double n1, double n2) const;
@@ -34,7 +34,7 @@ struct TwoSampleDesign {
   double meanDifference;  ///< in the unit of the standard deviations
   GroupSpreads spreads;
   Sides sides;
-  double alpha;
+  double alpha;  ///< significance level
 };
 
 /// The test at two sizes, which takes differences of means. None for a size of 1 or less, a standard deviation that is

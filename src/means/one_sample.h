@@ -20,7 +20,7 @@ inline TTestOfAMean OneSampleTest(Sides sides, double size, double alpha) {
 struct OneSampleDesign {
   double effectSize;  ///< d, in standard deviations
   Sides sides;
-  double alpha;
+  double alpha;  ///< significance level
 };
 
 /// Refused for a size of 1 or less or a level outside (0, 1).

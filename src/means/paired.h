@@ -11,9 +11,9 @@ namespace kelpower::means {
 
 /// How two measurements scatter.
 struct PairedSpread {
-  double sd1;
-  double sd2;
-  double correlation;
+  double sd1;          ///< standard deviation of the first measurement
+  double sd2;          ///< standard deviation of the second
+  double correlation;  ///< between them
 };
 
 /// The variance of the differences is scale^2 * relative.

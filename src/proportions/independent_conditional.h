@@ -14,7 +14,7 @@ namespace kelpower::proportions {
 
 /// The exact power of the conditional test (Fisher's) at fixed group sizes. Given the total number of successes, the
 /// successes of group 1 are hypergeometric under equal proportions; each tail rejects as much of them as the level
-/// allows. The critical values do not depend on the proportions but for their order, and are kept.
+/// allows. The critical values depend on the proportions through their order alone, so they are kept.
 class ConditionalTest {
 public:
   ConditionalTest(const IndependentDesign& design, double sampleSize1, double sampleSize2);

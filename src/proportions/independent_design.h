@@ -9,9 +9,9 @@ enum class TwoProportionTest { Z, T, LikelihoodRatio, Arcsine, Conditional };
 /// How two independent proportions are tested.
 struct IndependentDesign {
   TwoProportionTest test;
-  bool isExact;  ///< by enumeration of all tables instead of the large-sample formula
-  bool isOneSided;
-  double alpha;
+  bool isExact;              ///< by enumeration of all tables instead of the large-sample formula
+  bool isOneSided;           ///< in the direction in which the proportions differ
+  double alpha;              ///< significance level
   bool isCorrected = false;  ///< for continuity; the z test only
   bool isPooled = false;     ///< the variance; the z test for large samples, and the t test
 

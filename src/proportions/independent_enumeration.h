@@ -12,7 +12,7 @@
 namespace kelpower::proportions {
 
 /// The exact power of the z, t and likelihood-ratio tests at fixed group sizes: the probability of the tables that the
-/// statistic rejects. The rejection region does not depend on the proportions but for their order, and is kept.
+/// statistic rejects. The rejection region depends on the proportions through their order alone, so it is kept.
 class EnumeratedTest {
 public:
   EnumeratedTest(const IndependentDesign& design, double sampleSize1, double sampleSize2);

@@ -97,7 +97,7 @@ double LargeSampleTest::PowerLikelihoodRatio(double p1, double p2) const {
 // (a' - b') / (sqrt(a' (1 - b')) + sqrt(b' (1 - a'))), for the plain difference has no digits left at large sizes.
 // At the smallest sizes a' or 1 - b' is 0, and may round to less: n1 = 0.5 / p1 with p1 = 0.56 gives b' = -3e-17.
 Answer LargeSampleTest::PowerArcsine(double p1, double p2) const {
-  constexpr double slack = 1e-12;  // a size that is exactly at its limit but for rounding is valid
+  constexpr double slack = 1e-12;  // a size that rounding has taken below its limit is valid
   if (p1 > p2 && (n1_ < 0.5 / p1 - slack || n2_ < 0.5 / (1 - p2) - slack)) return NoValue::Refused;
   if (p1 < p2 && (n1_ < 0.5 / (1 - p1) - slack || n2_ < 0.5 / p2 - slack)) return NoValue::Refused;
 

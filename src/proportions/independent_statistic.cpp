@@ -138,8 +138,8 @@ bool TableStatistic::Rejects(std::int64_t x1, std::int64_t x2) const {
 }
 
 // A statistic without sign turns where the proportions are equal; the table that is all successes belongs to the rising
-// part, for its proportions are moved off 1. A one-sided difference rises or falls throughout, but for the row in which
-// the added correction outweighs it.
+// part, for its proportions are moved off 1. A one-sided difference rises or falls throughout, except in the row in
+// which the added correction outweighs it.
 std::int64_t TableStatistic::Turn(std::int64_t x1) const {
   const double position = static_cast<double>(x1);
   const bool hasSign = alternative_ != Alternative::TwoSided && design_.test != TwoProportionTest::LikelihoodRatio;

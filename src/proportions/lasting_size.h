@@ -10,7 +10,8 @@ namespace kelpower::proportions {
 // The smallest size from which on every size reaches a power. The power of an exact test is a sawtooth in its size, so
 // this is often a few more than the smallest size that reaches it. `isExact` is taken for granted.
 
-/// Not reached for a power of 1 or more and without an effect; uncountable where the size would be above `largestCount`.
+/// Not reached for a power of 1 or more and without an effect; uncountable where the size would be above
+/// `largestCount`.
 Answer LastingSize(const OneSampleDesign& design, const OneSampleProportions& proportions, double power);
 
 /// The same; uncountable too where more than 100,000 discordant pairs would have to be tabulated.

@@ -14,8 +14,8 @@ namespace kelpower::proportions {
 
 /// The probabilities of the two kinds of discordant pairs.
 struct DiscordantPairs {
-  double p12;
-  double p21;
+  double p12;  ///< success first, failure second
+  double p21;  ///< the reverse
 
   /// Of two measures with given success proportions and correlation. A probability within 1e-14 of 0 is 0.
   static DiscordantPairs FromMarginals(double marginal1, double marginal2, double correlation);
@@ -26,9 +26,9 @@ bool RejectsMarginals(double marginal1, double marginal2);
 
 /// How the pairs are tested.
 struct McNemarDesign {
-  bool isExact;  ///< the sign test given the number of discordant pairs, instead of the normal distribution
-  bool isOneSided;
-  double alpha;
+  bool isExact;     ///< the sign test given the number of discordant pairs, instead of the normal distribution
+  bool isOneSided;  ///< in the direction of the difference
+  double alpha;     ///< significance level
 
   /// The level of one tail.
   double TailLevel() const { return isOneSided ? alpha : alpha / 2; }

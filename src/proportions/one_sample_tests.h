@@ -14,16 +14,16 @@ bool RejectsProportion(double proportion);
 
 /// How one proportion is tested against a null value.
 struct OneSampleDesign {
-  bool isExact;  ///< by the binomial distribution instead of the normal one
-  bool isOneSided;
-  double alpha;
+  bool isExact;              ///< by the binomial distribution instead of the normal one
+  bool isOneSided;           ///< in the direction of the alternative, downwards where it equals the null value
+  double alpha;              ///< significance level
   bool isCorrected = false;  ///< for continuity; the normal test only
 
   /// The level of one tail.
   double TailLevel() const { return isOneSided ? alpha : alpha / 2; }
 };
 
-/// The proportion that is tested, and the one that holds.
+/// The proportion that holds, and the one that is tested.
 struct OneSampleProportions {
   double alternative;
   double null;

@@ -18,7 +18,7 @@ struct Model {
   double tested;      ///< q, of them, at least 1
   bool isRandom;      ///< predictors are multivariate normal, not fixed by design
   bool hasIntercept;
-  double alpha;
+  double alpha;  ///< significance level
 
   double Intercept() const { return hasIntercept ? 1 : 0; }
 };

@@ -32,7 +32,7 @@ bool RejectsGridCurve(double sampleSize, double fixedProportion, double alpha, d
   return step > largestStep;
 }
 
-/// A range of one size is rejected, but for the one at 0.
+/// A range of one size is rejected, unless that size is 0.
 bool RejectsChartSizes(int from, int to) {
   if (from > to) return true;
   if (from == to && from != 0) return true;
