@@ -19,7 +19,7 @@ inline double OrMissing(Answer answer) { return answer.ValueOr(KelCommon::KelMV:
 /// Tells invalid input from an exact test that reports an error, is told to stop or cannot count so far.
 inline double OrSentinel(Answer answer) {
   if (answer) return *answer;
-  switch (answer.Reason()) {
+  switch (*answer.Reason()) {
     case NoValue::Refused: return invalid;
     case NoValue::NoDistribution: return noProbability;
     default: return KelCommon::KelMV::Missing();

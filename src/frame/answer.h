@@ -3,6 +3,7 @@
 
 #include <cassert>
 #include <limits>
+#include <optional>
 
 namespace kelpower {
 
@@ -18,28 +19,25 @@ enum class NoValue {
 /// A number, or why there is none.
 class Answer {
 public:
-  Answer(double value) : value_(value), hasValue_(true) {}  // NOLINT(google-explicit-constructor): a number is one
-  Answer(NoValue reason) : reason_(reason) {}               // NOLINT(google-explicit-constructor): so is a reason
+  Answer(double value) : value_(value) {}      // NOLINT(google-explicit-constructor): a number is one
+  Answer(NoValue reason) : reason_(reason) {}  // NOLINT(google-explicit-constructor): so is a reason
 
-  bool HasValue() const { return hasValue_; }
-  explicit operator bool() const { return hasValue_; }
+  explicit operator bool() const { return !reason_; }
 
   /// Only where there is one.
   double operator*() const {
-    assert(hasValue_);
+    assert(!reason_);
     return value_;
   }
-  NoValue Reason() const {
-    assert(!hasValue_);
-    return reason_;
-  }
 
-  double ValueOr(double otherwise) const { return hasValue_ ? value_ : otherwise; }
+  /// None where there is a number.
+  std::optional<NoValue> Reason() const { return reason_; }
+
+  double ValueOr(double otherwise) const { return reason_ ? otherwise : value_; }
 
 private:
   double value_ = 0;
-  NoValue reason_ = NoValue::Refused;
-  bool hasValue_ = false;
+  std::optional<NoValue> reason_;
 };
 
 /// What a search for a power takes for the power of a design that has none: less than every target.

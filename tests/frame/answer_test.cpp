@@ -13,6 +13,7 @@ TEST(Answer, IsANumberOrAReason) {
   EXPECT_TRUE(number);
   EXPECT_EQ(*number, 2.5);
   EXPECT_EQ(number.ValueOr(1), 2.5);
+  EXPECT_FALSE(number.Reason());
 
   const Answer none = NoValue::Stopped;
   EXPECT_FALSE(none);
