@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <ctime>
 
+#include "exports/proportions/independent_literal.h"
 #include "kelpower.h"
-#include "proportions/independent_literal.h"
+#include "proportions/independent_design.h"
 
 namespace {
 
@@ -31,7 +32,9 @@ double Seconds(int calls, Function function) {
 void ExactPowerAgainstItsDefinition(benchmark::State& state) {
   const int method = static_cast<int>(state.range(0));
   const double n = method == 3 ? 40 : 100;
-  const IndependentTest test = IndependentTest::Of(1, method, 0, 0.05, 0, 0);
+  using proportions::TwoProportionTest;
+  const auto tested = method == 3 ? TwoProportionTest::Conditional : TwoProportionTest(method);
+  const proportions::IndependentDesign test{tested, /*isExact=*/true, /*isOneSided=*/false, 0.05};
   const double literal =
       Seconds(5, [&] { benchmark::DoNotOptimize(LiteralExactPower(test, n, n, 0.3, 0.5, nullptr)); });
   constexpr int kMany = 100;  // the clock counts microseconds

@@ -6,7 +6,7 @@
 
 #include "kelcommon/kel_dist_fun.h"
 
-namespace kelpower {
+namespace kelpower::proportions {
 
 GroupSize GroupSize::Of(double size) {
   if (!(size >= 0) || IsUncountable(size)) return {size, -1, 0};
@@ -16,7 +16,7 @@ GroupSize GroupSize::Of(double size) {
 // From the mode outwards by the ratio of neighbours, mass(x + 1) / mass(x) = (n - x) / (x + 1) p / (1 - p), which holds
 // for fractional n too. The error of a step is a rounding, and what is far from the mode weighs little.
 BinomialMasses BinomialMasses::Of(const GroupSize& group, double p) {
-  constexpr double kSmallest = std::numeric_limits<double>::min();
+  constexpr double smallest = std::numeric_limits<double>::min();
   BinomialMasses masses;
   const double n = group.size;
   const double mode = std::clamp(std::floor((n + 1) * p), 0.0, static_cast<double>(group.whole));
@@ -29,7 +29,7 @@ BinomialMasses BinomialMasses::Of(const GroupSize& group, double p) {
   double mass = atMode;
   for (double x = mode; x >= 1; --x) {
     mass *= x / ((n - x + 1) * odds);
-    if (!(mass >= kSmallest)) break;
+    if (!(mass >= smallest)) break;
     masses.mass.push_back(mass);
   }
   masses.first = static_cast<std::int64_t>(mode) - static_cast<std::int64_t>(masses.mass.size());
@@ -38,7 +38,7 @@ BinomialMasses BinomialMasses::Of(const GroupSize& group, double p) {
   mass = atMode;
   for (double x = mode; x < static_cast<double>(group.whole); ++x) {
     mass *= (n - x) * odds / (x + 1);
-    if (!(mass >= kSmallest)) break;
+    if (!(mass >= smallest)) break;
     masses.mass.push_back(mass);
   }
   return masses;
@@ -56,4 +56,4 @@ std::size_t BinomialTails::Index(std::int64_t x) const {
   return static_cast<std::size_t>(std::clamp<std::int64_t>(x - first_, 0, last));
 }
 
-}  // namespace kelpower
+}  // namespace kelpower::proportions

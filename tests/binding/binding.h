@@ -13,27 +13,19 @@
 #include <vector>
 
 #include "kelpower.h"
+#include "support/stop_requests.h"
 
 namespace keltest {
 
-/// Counts how often it is asked, and answers true from a given question on.
-class CountingStopRequest : public StopRequest {
-public:
-  bool ShouldStop() override { return ++asked >= stopsAt; }
-
-  std::int64_t stopsAt = 0;
-  std::int64_t asked = 0;
-};
-
 /// One argument of a call. Which members count depends on its type; `array` holds the content after the call too.
 struct Argument {
-  double number = 0;                // d
-  std::int32_t integer = 0;         // i, b
-  bool isNull = false;              // p, P, s: pass a null pointer
-  std::vector<double> array;        // p, P, v
-  CountingStopRequest stopRequest;  // s
-  XYPlot* curve = nullptr;          // X
-  XYZPlot* surface = nullptr;       // Z
+  double number = 0;           // d
+  std::int32_t integer = 0;    // i, b
+  bool isNull = false;         // p, P, s: pass a null pointer
+  std::vector<double> array;   // p, P, v
+  CountingStop stopRequest;    // s
+  XYPlot* curve = nullptr;     // X
+  XYZPlot* surface = nullptr;  // Z
 };
 
 /// What a call returned. The member that `Function::result` names is set; the arrays of a record belong to the caller.

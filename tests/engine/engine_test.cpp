@@ -211,6 +211,23 @@ TEST(Engine, ReportsCasesThatDoNotFit) {
   EXPECT_THROW(ReadCases("no such file"), std::exception);
 }
 
+TEST(Engine, PutsWhatIsWantedInPlaceOfSupersededReferences) {
+  const std::string path = testing::TempDir() + "superseded.json";
+  std::ofstream(path) << R"([{"family": "echoes", "reason": "It was wrong.", "fn": "Echo", "args": [1.0], "ret": 1.0,
+                              "out": {}}])";
+  std::vector<VectorCase> cases = {ParseCase(R"({"fn": "Echo", "kind": "edge", "args": [1.0], "ret": 2.0})", 1),
+                                   ParseCase(R"({"fn": "Echo", "kind": "edge", "args": [2.0], "ret": 2.0})", 2)};
+  EXPECT_FALSE(RunCases(kFunctions, cases).at("Echo").findings.failures.empty());
+  Supersede(path, "others", cases);
+  EXPECT_FALSE(RunCases(kFunctions, cases).at("Echo").findings.failures.empty());
+  Supersede(path, "echoes", cases);
+  EXPECT_TRUE(RunCases(kFunctions, cases).at("Echo").findings.failures.empty());
+
+  cases.erase(cases.begin());
+  EXPECT_THROW(Supersede(path, "echoes", cases), std::exception);
+  EXPECT_THROW(Supersede("no such file", "echoes", cases), std::exception);
+}
+
 TEST(Engine, CallsButDoesNotCompareUncertainCases) {
   const Summary loose = RunText(R"({"fn": "Echo", "kind": "loose", "args": [1.0], "ret": 2.0})");
   EXPECT_EQ(loose.loose, 1u);

@@ -102,7 +102,7 @@ public:
   // A power that was told to stop is missing; a search may have found a size before.
   void SeeStop(const Result& result, const Arguments& after) {
     for (const Argument& argument : after) {
-      const CountingStopRequest& stop = argument.stopRequest;
+      const CountingStop& stop = argument.stopRequest;
       const bool isStopped = stop.asked > 0 && stop.asked >= stop.stopsAt;
       if (isStopped && IsPower(target_) && result.number != kMissing) Report("stopped, but not missing", result.number);
     }
@@ -205,7 +205,7 @@ private:
     if (!isSame && !isMissing) Report(name + " is half made");
   }
 
-  void SeeQuestions(const CountingStopRequest& stop) {
+  void SeeQuestions(const CountingStop& stop) {
     Append(static_cast<std::uint64_t>(stop.asked));
     const std::int64_t first = std::max<std::int64_t>(stop.stopsAt, 1);
     if (stop.asked - first > kLateQuestions) Report("goes on after a true answer", double(stop.asked - first));

@@ -2,8 +2,10 @@
 
 - Boost is included nowhere, so that the libraries build where it is not.
 - kelcommon knows nothing of kelpower.
-- A family of tests (a folder of src) includes its own headers, those of the frame, kelpower.h and kelcommon's.
-- The frame includes no family.
+- The frame (src/frame) includes kelcommon's headers alone.
+- The core of a family of tests (a folder of src) includes its own headers, those of the frame and kelcommon's.
+- The exports (src/exports) include those of all of them and kelpower.h. A folder of exports leaves the cores of other
+  families alone.
 """
 
 import re
@@ -30,9 +32,19 @@ def rejected(path, kind, header, is_own):
         return "" if top == "kelcommon" or is_own else "kelcommon includes what is not its own"
     if parts[0] == "include":
         return "a public header includes a private one"
-    if parts[0] == "src" and header != "kelpower.h" and not is_own:
-        return "" if top in ("frame", "kelcommon", parts[1]) else f"{parts[1]} includes {top}"
+    if parts[0] == "src":
+        return "" if is_own or top in allowed_in_src(parts, header) else f"{'/'.join(parts[1:-1])} includes {header}"
     return ""
+
+
+def allowed_in_src(parts, header):
+    """The first parts of the headers that a file of src may include."""
+    shared = {"frame", "kelcommon"}
+    if parts[1] != "exports":
+        return shared | {parts[1]}
+    family = parts[2] if len(parts) > 3 else ""
+    is_of_other_family = header.startswith("exports/") and header.count("/") > 1 and header.split("/")[1] != family
+    return shared | {"kelpower.h", family} | (set() if is_of_other_family else {"exports"})
 
 
 def check(path, text, exists=Path.exists):

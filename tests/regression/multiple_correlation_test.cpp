@@ -12,7 +12,7 @@
 #include "kelcommon/kel_dist_fun.h"
 #include "stated_series.h"
 
-namespace kelpower {
+namespace kelpower::regression {
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -123,4 +123,4 @@ TEST(SquaredMultipleCorrelation, AnswersAtTheEndsOfItsArguments) {
 }
 
 }  // namespace
-}  // namespace kelpower
+}  // namespace kelpower::regression

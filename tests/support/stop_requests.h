@@ -1,20 +1,33 @@
-#ifndef TESTS_SUPPORT_STOP_REQUESTS_H
-#define TESTS_SUPPORT_STOP_REQUESTS_H
+#ifndef KELPOWER_TESTS_SUPPORT_STOP_REQUESTS_H
+#define KELPOWER_TESTS_SUPPORT_STOP_REQUESTS_H
 
 #include <cstdint>
 
 #include "kelpower.h"
 
-/// Answers true from its n-th question on, never for n = 0, and counts the questions.
+namespace keltest {
+
+/// Counts how often it is asked, and answers true from a given question on, or to that one alone.
 class CountingStop : public StopRequest {
 public:
-  explicit CountingStop(std::int64_t trueFrom = 0) : trueFrom_(trueFrom) {}
-  bool ShouldStop() override { return ++asked_ >= trueFrom_ && trueFrom_ > 0; }
-  std::int64_t Asked() const { return asked_; }
+  static constexpr std::int64_t never = INT64_MAX;
 
-private:
-  std::int64_t trueFrom_;
-  std::int64_t asked_ = 0;
+  CountingStop() = default;
+  explicit CountingStop(std::int64_t from) : stopsAt(from) {}
+
+  bool ShouldStop() override {
+    ++asked;
+    return stopsOnce ? asked == stopsAt : asked >= stopsAt;
+  }
+
+  /// As the core asks it.
+  bool operator()() { return ShouldStop(); }
+
+  std::int64_t stopsAt = never;
+  bool stopsOnce = false;
+  std::int64_t asked = 0;
 };
+
+}  // namespace keltest
 
 #endif
