@@ -10,7 +10,9 @@ JOBS := $(shell nproc)
 
 .PHONY: run test build bench bench-peers lint format install accuracy fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
 
-run: build ## build and plan a real study
+run: configure-$(PRESET) ## build the program and plan a real study
+	@echo "Building the program; the first time this takes a minute or two ..."
+	@cmake --build $(BUILD) -j $(JOBS) --target kelpower_cli
 	@sh tools/run_example.sh $(BUILD)/cli/kelpower
 
 build: configure-$(PRESET)
