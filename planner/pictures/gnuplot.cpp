@@ -56,7 +56,7 @@ std::string MarkWithCaption(const Figure& figure) {
 }
 
 std::string Frame(const Figure& figure, const GnuplotTerminal& terminal) {
-  std::string text = "set terminal " + terminal.name + "\nset encoding utf8\nset datafile missing 'NaN'\n";
+  std::string text = "set terminal " + terminal.name + "\nset encoding utf8\n";
   text += fmt::format("set title \"{}\"\nset xlabel \"{}\"\n", figure.title, figure.axisTitles[0]);
   if (!terminal.showsCharactersOnly) {
     text +=
@@ -74,12 +74,14 @@ std::string CurveCommands(const Figure& figure, const GnuplotTerminal& terminal)
                             figure.series->x.back(), style);
 }
 
-/// The lines of equal power as data, each level for itself so that it can have its own style.
+/// The lines of equal power as data, each level for itself so that it can have its own style. A gap counts as no power
+/// here: gnuplot draws lines all over a grid that has gaps.
 std::string LevelData(const Figure& figure) {
   std::string text = "set contour base\nunset surface\n";
   for (std::size_t i = 0; i < figure.levels.size(); ++i) {
-    text += fmt::format("set cntrparam levels discrete {1}\nset table $level{0}\nsplot $chart\nunset table\n", i,
-                        figure.levels[i].power);
+    text += fmt::format(
+        "set cntrparam levels discrete {1}\nset table $level{0}\nsplot $chart using 1:2:(valid(3) ? $3 : 0)\nunset table\n",
+        i, figure.levels[i].power);
   }
   return text + "unset contour\nset surface\n";
 }
