@@ -44,7 +44,11 @@ Figure FigureOf(const ChartData& chart) {
                 .markAt = {},
                 .markText = {}};
   for (const Axis& axis : chart.chart->axes) figure.axisTitles.push_back(axis.title);
-  for (double power : drawnLevels) figure.levels.push_back({power, fmt::format("power {}", power)});
+  if (figure.IsSurface()) {
+    for (double power : drawnLevels) {
+      figure.levels.push_back({power, fmt::format("power {}", power), LevelLines(chart.series, power)});
+    }
+  }
   if (!chart.mark) return figure;
   figure.hasMark = true;
   figure.markAt = chart.mark->at;

@@ -4,13 +4,15 @@
 #include <vector>
 
 #include "model/chart.h"
+#include "pictures/level_lines.h"
 
 namespace planner {
 
-/// A line of equal power on a surface.
+/// The lines of equal power on a surface.
 struct PowerLevel {
   double power;
   std::string label;  // "power 0.8"
+  std::vector<Line> lines;
 };
 
 /// A chart with all that it takes to draw it, whatever draws it.

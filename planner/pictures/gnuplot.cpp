@@ -74,23 +74,32 @@ std::string CurveCommands(const Figure& figure, const GnuplotTerminal& terminal)
                             figure.series->x.back(), style);
 }
 
-/// The lines of equal power as data, each level for itself so that it can have its own style. A gap counts as no power
-/// here: gnuplot draws lines all over a grid that has gaps.
+/// The lines of equal power as data, each level for itself so that it can have its own style. Two blank lines keep lines
+/// of equal length from being joined to a net.
 std::string LevelData(const Figure& figure) {
-  std::string text = "set contour base\nunset surface\n";
+  std::string text;
   for (std::size_t i = 0; i < figure.levels.size(); ++i) {
-    text += fmt::format(
-        "set cntrparam levels discrete {1}\nset table $level{0}\nsplot $chart using 1:2:(valid(3) ? $3 : 0)\nunset table\n",
-        i, figure.levels[i].power);
+    text += fmt::format("$level{} << END\n", i);
+    if (figure.levels[i].lines.empty()) text += "NaN NaN\n";
+    for (const Line& line : figure.levels[i].lines) {
+      for (std::size_t k = 0; k < line.x.size(); ++k) text += fmt::format("{:.9g} {:.9g}\n", line.x[k], line.y[k]);
+      text += "\n\n";
+    }
+    text += "END\n";
   }
-  return text + "unset contour\nset surface\n";
+  return text;
+}
+
+/// The level in the key, where there is such a line.
+std::string TitleOf(const PowerLevel& level) {
+  return level.lines.empty() ? "notitle" : fmt::format("title '{}'", level.label);
 }
 
 /// The lines of equal power alone, each level drawn with a character of its own.
 std::string LinesInCharacters(const Figure& figure) {
   std::string plot;
   for (std::size_t i = 0; i < figure.levels.size(); ++i) {
-    plot += fmt::format("{} $level{} using 1:2 with lines title '{}'", i == 0 ? "" : ",", i, figure.levels[i].label);
+    plot += fmt::format("{} $level{} using 1:2 with lines {}", i == 0 ? "" : ",", i, TitleOf(figure.levels[i]));
   }
   return LevelData(figure) + "set key outside\nunset ylabel\nplot" + plot + "\n";
 }
@@ -100,8 +109,8 @@ std::string LinesInCharacters(const Figure& figure) {
 std::string Shades(const Figure& figure) {
   std::string lines;
   for (std::size_t i = 0; i < figure.levels.size(); ++i) {
-    lines += fmt::format(", $level{} using 1:2:(0) with lines {} lc rgb '#222222' title '{}'", i,
-                         levelStyles[i % std::size(levelStyles)], figure.levels[i].label);
+    lines += fmt::format(", $level{} using 1:2:(0) with lines {} lc rgb '#222222' {}", i,
+                         levelStyles[i % std::size(levelStyles)], TitleOf(figure.levels[i]));
   }
   return LevelData(figure) +
          "set view map\nset pm3d map\nset cbrange [0:1]\nset cblabel \"power\"\n"
