@@ -2,10 +2,10 @@
 
 #include <cstdio>
 
-#include "planner/render.h"
+#include "words/render.h"
 
 /// Colours when `stream` is a terminal that shows them and NO_COLOR is not set, else none.
-planner::Paint PaintFor(std::FILE* stream);
+planner::Highlights HighlightsFor(std::FILE* stream);
 
 struct TerminalSize {
   int columns;

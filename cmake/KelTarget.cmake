@@ -29,6 +29,13 @@ function(kel_compile_options target)
   endif()
 endfunction()
 
+# Reads the headers once for all sources of a target. A compiler cache goes without: it would miss at each change of one.
+function(kel_precompile target)
+  if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()
+
 # Makes the library `name` from SOURCES. Of a shared one only the names in the file EXPORTS are visible: one a line, a C
 # name or a demangled C++ signature. Blank lines and lines that start with # are skipped. The objects stand alone as
 # `<name>_objects`, so that tests reach the internal routines which the library hides.

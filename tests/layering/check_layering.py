@@ -6,6 +6,8 @@
 - The core of a family of tests (a folder of src) includes its own headers, those of the frame and kelcommon's.
 - The exports (src/exports) include those of all of them and kelpower.h. A folder of exports leaves the cores of other
   families alone.
+- A room of the planner (a folder of planner) includes the rooms that PLANNER_ROOMS names; the program includes the
+  planner's. Outside the catalogue and solve nothing of the planner includes the library.
 """
 
 import re
@@ -14,6 +16,35 @@ from pathlib import Path
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]', re.M)
 SOURCES = {".h", ".hpp", ".cpp", ".in"}
+
+
+# What each room of the planner may include besides itself: other rooms, and of the library "kelpower.h" or kelcommon.
+PLANNER_ROOMS = {
+    "model": set(),
+    "catalogue": {"model", "kelpower.h", "kelcommon"},
+    "solve": {"model", "kelpower.h", "kelcommon"},
+    "words": {"model", "solve", "catalogue"},
+    "pictures": {"model", "solve"},
+}
+# Packages that a room may include by angle brackets besides the standard library.
+PLANNER_PACKAGES = {"words": {"fast_float", "fmt", "nlohmann"}, "pictures": {"fmt"}}
+PACKAGES = {"CLI", "fast_float", "fmt", "nlohmann"}
+
+
+def rejected_in_planner(path, kind, header, is_own):
+    """Why a file of the planner or the program may not include `header`; empty when it may."""
+    top = header.split("/")[0]
+    room = path.parts[1]
+    if path.parts[0] == "cli":
+        if kind == "<" or is_own or header == "kelpower.h":
+            return ""
+        return "" if top in PLANNER_ROOMS else f"the program includes {top}"
+    if room not in PLANNER_ROOMS:
+        return f"{room} is no room of the planner"
+    if kind == "<":
+        forbidden = top in PACKAGES - PLANNER_PACKAGES.get(room, set())
+        return f"{room} includes the package {top}" if forbidden else ""
+    return "" if top in PLANNER_ROOMS[room] | {room} else f"{room} includes {top}"
 
 
 def rejected(path, kind, header, is_own):
@@ -26,6 +57,8 @@ def rejected(path, kind, header, is_own):
         return "includes what is private to kelcommon"
     if top == "boost":
         return "includes Boost"
+    if parts[0] in ("planner", "cli"):
+        return rejected_in_planner(path, kind, header, is_own)
     if kind == "<":
         return ""
     if parts[0] == "kelcommon":

@@ -25,6 +25,29 @@ class LayeringTest(unittest.TestCase):
         self.assertEqual(problems("kelcommon/src/a.cpp", "#include <cmath>"), 0)
         self.assertEqual(problems("kelcommon/src/a.cpp", '#include "own.h"'), 0)
 
+    def test_accepts_in_planner(self):
+        self.assertEqual(problems("planner/model/a.h", '#include "model/b.h"'), 0)
+        self.assertEqual(problems("planner/model/a.h", "#include <vector>"), 0)
+        self.assertEqual(problems("planner/catalogue/a.cpp", '#include "kelpower.h"'), 0)
+        self.assertEqual(problems("planner/solve/a.cpp", '#include "kelcommon/kel_mv.h"'), 0)
+        self.assertEqual(problems("planner/words/a.cpp", '#include "solve/b.h"'), 0)
+        self.assertEqual(problems("planner/words/a.cpp", "#include <fmt/format.h>"), 0)
+        self.assertEqual(problems("cli/a.cpp", '#include "own.h"'), 0)
+        self.assertEqual(problems("cli/a.cpp", '#include "words/b.h"'), 0)
+
+    def test_reports_in_planner(self):
+        self.assertEqual(problems("planner/model/a.h", '#include "solve/b.h"'), 1)
+        self.assertEqual(problems("planner/model/a.h", '#include "kelpower.h"'), 1)
+        self.assertEqual(problems("planner/model/a.h", "#include <fmt/format.h>"), 1)
+        self.assertEqual(problems("planner/catalogue/a.cpp", '#include "solve/b.h"'), 1)
+        self.assertEqual(problems("planner/solve/a.cpp", '#include "words/b.h"'), 1)
+        self.assertEqual(problems("planner/solve/a.cpp", "#include <fmt/format.h>"), 1)
+        self.assertEqual(problems("planner/pictures/a.cpp", '#include "words/b.h"'), 1)
+        self.assertEqual(problems("planner/words/a.cpp", '#include "kelpower.h"'), 1)
+        self.assertEqual(problems("planner/extra/a.cpp", '#include "model/b.h"'), 1)
+        self.assertEqual(problems("planner/words/a.cpp", '#include "own.h"'), 1)
+        self.assertEqual(problems("cli/a.cpp", '#include "anova/b.h"'), 1)
+
     def test_reports(self):
         self.assertEqual(problems("src/means/a.cpp", '#include "anova/b.h"'), 1)
         self.assertEqual(problems("src/means/a.cpp", '#include "absent.h"'), 1)

@@ -1,4 +1,4 @@
-#include "exact_proportions.h"
+#include "catalogue/exact_proportions.h"
 
 #include <gtest/gtest.h>
 

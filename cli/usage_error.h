@@ -1,0 +1,8 @@
+#pragma once
+
+#include <stdexcept>
+
+/// The command line itself is wrong, whatever the planner makes of its values. The text is one sentence.
+struct UsageError : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};

@@ -1,0 +1,219 @@
+#include "catalogue/axes.h"
+#include "catalogue/group_parameters.h"
+#include "catalogue/tests.h"
+#include "catalogue/words.h"
+#include "kelpower.h"
+
+namespace planner {
+namespace {
+
+constexpr int asF = 0;
+constexpr int asEtaSquared = 1;
+
+Parameter EffectF() {
+  return Number("effect-f", "effect size f", "standard deviation of the group means over that within the groups")
+      .AtLeast(0)
+      .AtMost(1e6);
+}
+
+Parameter EtaSquared() {
+  return Number("eta-squared", "eta squared", "proportion of variance explained by the groups").AtLeast(0).Below(1);
+}
+
+double PowerOfMeans(const Inputs& in) {
+  return PowerOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(), in.Alpha());
+}
+
+double PowerOfEffect(const Inputs& in, Name effect, int kind) {
+  return PowerOverallTestwES(in.Groups(), in.Number(effect), kind, in.List("n").data(), in.Alpha());
+}
+
+Numbers SizesOfMeans(const Inputs& in) {
+  Numbers sizes;
+  PowerReverseOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.Weights().data(),
+                          in.Number("power"), sizes, in.Alpha());
+  return sizes;
+}
+
+Numbers SizesOfEffect(const Inputs& in, Name effect, int kind) {
+  Numbers sizes;
+  PowerReverseOverallTestwES(in.Groups(), in.Number(effect), kind, in.Weights().data(), in.Number("power"), sizes,
+                             in.Alpha());
+  return sizes;
+}
+
+double HalfWidth(const Inputs& in) {
+  return HalfCIOverallTest(TotalSize(in), in.Groups(), in.Number("sd"), in.Alpha());
+}
+
+Numbers SizesForHalfWidth(const Inputs& in) {
+  Numbers sizes;
+  PowerReversebyHalfCIOverallTest(in.Number("half-width"), in.Groups(), in.Weights().data(), in.Number("sd"), sizes,
+                                  in.Alpha());
+  return sizes;
+}
+
+bool MeansDiffer(const Inputs& in) {
+  for (double mean : in.List("means")) {
+    if (mean != in.List("means").front()) return true;
+  }
+  return false;
+}
+
+std::vector<Route> Routes() {
+  return {
+      {.question = Question::Power,
+       .needs = {"means", "sd", "n"},
+       .accepts = {"groups"},
+       .exportName = "PowerOverallTest",
+       .value = PowerOfMeans},
+      {.question = Question::Power,
+       .needs = {"effect-f", "n"},
+       .accepts = {"groups"},
+       .exportName = "PowerOverallTestwES",
+       .value = [](const Inputs& in) { return PowerOfEffect(in, "effect-f", asF); }},
+      {.question = Question::Power,
+       .needs = {"eta-squared", "n"},
+       .accepts = {"groups"},
+       .exportName = "PowerOverallTestwES",
+       .value = [](const Inputs& in) { return PowerOfEffect(in, "eta-squared", asEtaSquared); }},
+      {.question = Question::SampleSize,
+       .needs = {"means", "sd"},
+       .accepts = {"ratios", "groups"},
+       .exportName = "PowerReverseOverallTest",
+       .sizes = SizesOfMeans},
+      {.question = Question::SampleSize,
+       .needs = {"effect-f"},
+       .accepts = {"ratios", "groups"},
+       .exportName = "PowerReverseOverallTestwES",
+       .sizes = [](const Inputs& in) { return SizesOfEffect(in, "effect-f", asF); }},
+      {.question = Question::SampleSize,
+       .needs = {"eta-squared"},
+       .accepts = {"ratios", "groups"},
+       .exportName = "PowerReverseOverallTestwES",
+       .sizes = [](const Inputs& in) { return SizesOfEffect(in, "eta-squared", asEtaSquared); }},
+      {.question = Question::HalfWidth,
+       .needs = {"sd", "n"},
+       .accepts = {"groups"},
+       .exportName = "HalfCIOverallTest",
+       .value = HalfWidth},
+      {.question = Question::SampleSizeForHalfWidth,
+       .needs = {"sd"},
+       .accepts = {"ratios", "groups"},
+       .exportName = "PowerReversebyHalfCIOverallTest",
+       .sizes = SizesForHalfWidth},
+  };
+}
+
+std::vector<Condition> SizeExists() {
+  constexpr const char* noEffect = "The effect size is zero: without an effect, no sample size reaches the power.";
+  return {
+      {.code = "no-effect",
+       .about = {"means"},
+       .holds = MeansDiffer,
+       .sentence = "The means are all equal: without an effect, no sample size reaches the power."},
+      {.code = "no-effect",
+       .about = {"effect-f"},
+       .holds = [](const Inputs& in) { return in.Number("effect-f") > 0; },
+       .sentence = noEffect},
+      {.code = "no-effect",
+       .about = {"eta-squared"},
+       .holds = [](const Inputs& in) { return in.Number("eta-squared") > 0; },
+       .sentence = noEffect},
+  };
+}
+
+/// At an eta squared of 1 there is no test.
+Axis EtaSquaredAxis() {
+  Axis axis = ParameterAxis(EtaSquared(), "eta squared", [](const Inputs&, double) -> Range { return {0, 1}; });
+  axis.scale = [](const Inputs&) -> Range { return {0, 1}; };
+  axis.scaleEnds = ScaleEnds::First;
+  return axis;
+}
+
+std::vector<Chart> Charts() {
+  const Axis size = TotalSizeAxis();
+  const Axis sd = WithinSdAxis();
+  const Axis f = ParameterAxis(EffectF(), "f", [](const Inputs&, double) -> Range { return {0, 2}; });
+  const Axis eta = EtaSquaredAxis();
+  return {
+      {.name = "n",
+       .axes = {size},
+       .needs = {"means", "sd", "n"},
+       .accepts = {"groups"},
+       .example = "anova --means 10,12,15 --sd 6 --n 20,20,20 --chart n"},
+      {.name = "n",
+       .axes = {size},
+       .needs = {"effect-f", "n"},
+       .accepts = {"groups"},
+       .example = "anova --effect-f 0.25 --n 30,30,40 --chart n --from 30 --to 300"},
+      {.name = "n",
+       .axes = {size},
+       .needs = {"eta-squared", "n"},
+       .accepts = {"groups"},
+       .example = "anova --eta-squared 0.06 --n 30 --groups 4 --chart n",
+       .isAnotherWay = true},
+      {.name = "effect",
+       .axes = {f},
+       .needs = {"effect-f", "n"},
+       .accepts = {"groups"},
+       .example = "anova --effect-f 0.25 --n 30,30,40 --chart effect --from 0 --to 1"},
+      {.name = "effect",
+       .axes = {eta},
+       .needs = {"eta-squared", "n"},
+       .accepts = {"groups"},
+       .example = "anova --eta-squared 0.06 --n 30 --groups 4 --chart effect",
+       .isAnotherWay = true},
+      {.name = "sd",
+       .axes = {sd},
+       .needs = {"means", "sd", "n"},
+       .accepts = {"groups"},
+       .example = "anova --means 10,12,15 --sd 6 --n 20,20,20 --chart sd --from 2 --to 12"},
+      {.name = "n-sd",
+       .axes = {size, sd},
+       .needs = {"means", "sd", "n"},
+       .accepts = {"groups"},
+       .example = "anova --means 10,12,15 --sd 6 --n 20,20,20 --chart n-sd --from 12,2 --to 150,12"},
+      {.name = "n-effect",
+       .axes = {size, f},
+       .needs = {"effect-f", "n"},
+       .accepts = {"groups"},
+       .example = "anova --effect-f 0.25 --n 30,30,40 --chart n-effect --from 12,0 --to 200,1"},
+      {.name = "n-effect",
+       .axes = {size, eta},
+       .needs = {"eta-squared", "n"},
+       .accepts = {"groups"},
+       .example = "anova --eta-squared 0.06 --n 30 --groups 4 --chart n-effect",
+       .isAnotherWay = true},
+  };
+}
+
+}  // namespace
+
+Test AnovaTest() {
+  Test test{.name = "anova",
+            .title = "One-way analysis of variance: overall F test",
+            .about = "Tests whether the means of several independent groups are all equal.",
+            .groups = groupsFromInputs};
+  test.parameters = {
+      GroupMeans(), WithinSd(), EffectF(), EtaSquared(), GroupSizes(), AllocationRatios(), GroupCount(),
+  };
+  test.routes = Routes();
+  test.conditions = {ErrorDegrees()};
+  test.sizeExists = SizeExists();
+  test.derived = {
+      {.name = "rmsse",
+       .label = "root-mean-square standardized effect",
+       .needs = {"means", "sd"},
+       .call =
+           [](const Inputs& in) {
+             return RMSSEOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.Weights().data(),
+                                     in.Alpha());
+           }},
+  };
+  test.charts = Charts();
+  AddWordsOfAnova(test);
+  return WithCommonParameters(std::move(test));
+}
+
+}  // namespace planner

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "model/test.h"
+
+// What the descriptions of the tests of one correlation share.
+namespace planner {
+
+Parameter Correlation(std::string meaning);
+Parameter NullCorrelation();
+Parameter CaseCount(double smallest);
+Parameter TowardsCorrelation();
+
+/// Refuses to search a size for the power of no effect.
+Condition CorrelationsDiffer();
+
+}  // namespace planner

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "model/chart.h"
+#include "model/test.h"
+
+// What the tests of several groups share.
+namespace planner {
+
+Parameter GroupMeans();
+Parameter WithinSd();
+Parameter GroupSizes();
+Parameter AllocationRatios();
+Parameter GroupCount();
+
+/// Observations are left over once every group has its mean.
+Condition ErrorDegrees();
+
+/// An axis of standard deviations within the groups, around the distance of the means.
+Axis WithinSdAxis();
+
+}  // namespace planner

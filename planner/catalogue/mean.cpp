@@ -1,0 +1,136 @@
+#include <cmath>
+#include <utility>
+
+#include "catalogue/axes.h"
+#include "catalogue/mean_parameters.h"
+#include "catalogue/tests.h"
+#include "catalogue/words.h"
+#include "kelpower.h"
+
+namespace planner {
+namespace {
+
+double PowerOfMean(const Inputs& in) {
+  const auto power = in.Flag("one-sided") ? PowerOneSampleDirectional : PowerOneSampleNondirectional;
+  return power(in.Number("n"), in.Number("mean"), in.Number("sd"), in.Number("test-value"), in.Alpha());
+}
+
+double PowerOfEffect(const Inputs& in) {
+  const auto power = in.Flag("one-sided") ? PowerOneSampleDirectionalES : PowerOneSampleNondirectionalES;
+  return power(in.Number("n"), in.Number("effect-d"), in.Alpha());
+}
+
+Numbers SizeOfMean(const Inputs& in) {
+  const auto size = in.Flag("one-sided") ? PowerReverseOneSampleDirectional : PowerReverseOneSampleNondirectional;
+  return {std::ceil(size(in.Number("power"), in.Number("mean"), in.Number("sd"), in.Number("test-value"), in.Alpha()))};
+}
+
+Numbers SizeOfEffect(const Inputs& in) {
+  const auto size = in.Flag("one-sided") ? PowerReverseOneSampleDirectionalES : PowerReverseOneSampleNondirectionalES;
+  return {std::ceil(size(in.Number("power"), in.Number("effect-d"), in.Alpha()))};
+}
+
+std::vector<Route> Routes() {
+  return {
+      {.question = Question::Power,
+       .needs = {"mean", "sd", "n"},
+       .accepts = {"test-value", "one-sided"},
+       .exportName = "PowerOneSampleNondirectional",
+       .oneSidedExport = "PowerOneSampleDirectional",
+       .value = PowerOfMean},
+      {.question = Question::Power,
+       .needs = {"effect-d", "n"},
+       .accepts = {"one-sided"},
+       .exportName = "PowerOneSampleNondirectionalES",
+       .oneSidedExport = "PowerOneSampleDirectionalES",
+       .value = PowerOfEffect},
+      {.question = Question::SampleSize,
+       .needs = {"mean", "sd"},
+       .accepts = {"test-value", "one-sided"},
+       .exportName = "PowerReverseOneSampleNondirectional",
+       .oneSidedExport = "PowerReverseOneSampleDirectional",
+       .sizes = SizeOfMean},
+      {.question = Question::SampleSize,
+       .needs = {"effect-d"},
+       .accepts = {"one-sided"},
+       .exportName = "PowerReverseOneSampleNondirectionalES",
+       .oneSidedExport = "PowerReverseOneSampleDirectionalES",
+       .sizes = SizeOfEffect},
+      {.question = Question::HalfWidth,
+       .needs = {"sd", "n"},
+       .exportName = "HalfCIOneSampleMeans",
+       .value = [](const Inputs& in) { return HalfCIOneSampleMeans(in.Number("n"), in.Number("sd"), in.Alpha()); }},
+      {.question = Question::SampleSizeForHalfWidth,
+       .needs = {"sd"},
+       .exportName = "PowerReversebyHalfCIOneSampleMeans",
+       .sizes =
+           [](const Inputs& in) {
+             return Numbers{PowerReversebyHalfCIOneSampleMeans(in.Number("half-width"), in.Number("sd"), in.Alpha())};
+           }},
+  };
+}
+
+std::vector<Chart> Charts() {
+  const Axis size = SizeAxis("sample size (observations)", 2, 1e9, UpToTwiceSize);
+  const Axis effect = EffectDAxis();
+  return {
+      {.name = "n",
+       .axes = {size},
+       .needs = {"mean", "sd", "n"},
+       .accepts = {"test-value", "one-sided"},
+       .example = "mean --mean 104 --test-value 100 --sd 10 --n 40 --chart n"},
+      {.name = "n",
+       .axes = {size},
+       .needs = {"effect-d", "n"},
+       .accepts = {"one-sided"},
+       .example = "mean --effect-d 0.4 --n 40 --chart n"},
+      {.name = "effect",
+       .axes = {effect},
+       .needs = {"effect-d", "n"},
+       .accepts = {"one-sided"},
+       .example = "mean --effect-d 0.4 --n 40 --chart effect --from 0 --to 1"},
+      {.name = "effect-n",
+       .axes = {effect, size},
+       .needs = {"effect-d", "n"},
+       .accepts = {"one-sided"},
+       .example = "mean --effect-d 0.4 --n 40 --one-sided --chart effect-n --from 0,5 --to 1,80"},
+  };
+}
+
+}  // namespace
+
+Test MeanTest() {
+  Test test{.name = "mean",
+            .title = "One-sample t test of a mean",
+            .about = "Tests whether the mean of a population is a fixed value."};
+  test.parameters = {
+      Number("mean", "mean", "mean expected in the population"),
+      Number("test-value", "test value", "mean under the null hypothesis").Default(0.0),
+      Number("sd", "standard deviation", "standard deviation in the population").Above(0),
+      EffectD("difference of the mean from the test value over the standard deviation"),
+      SingleSize("observations in the sample"),
+      OneSided(),
+  };
+  test.routes = Routes();
+  test.sizeExists = {
+      {.code = "no-effect",
+       .about = {"mean", "test-value"},
+       .holds = [](const Inputs& in) { return in.Number("mean") != in.Number("test-value"); },
+       .sentence = "The mean is the test value: without a difference, no sample size reaches the power."},
+      HasEffectD(),
+  };
+  test.derived = {
+      {.name = "effect-d",
+       .label = "effect size d",
+       .needs = {"mean", "test-value", "sd"},
+       .call =
+           [](const Inputs& in) {
+             return EffectSizeOneSample(in.Number("mean"), in.Number("sd"), in.Number("test-value"));
+           }},
+  };
+  test.charts = Charts();
+  AddWordsOfMean(test);
+  return WithCommonParameters(std::move(test));
+}
+
+}  // namespace planner

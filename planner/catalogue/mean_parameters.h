@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include "model/chart.h"
+#include "model/test.h"
+
+// What the tests of means share.
+namespace planner {
+
+/// The size of a single sample; `meaning` says what it counts.
+Parameter SingleSize(std::string meaning);
+Parameter EffectD(std::string meaning);
+Parameter OneSided();
+
+/// The condition for a size that the effect size is not zero.
+Condition HasEffectD();
+
+/// An axis of effect sizes of either direction, whose design is `effect-d`: from 0 to twice the design's, or to 1.5 for
+/// a design without an effect.
+Axis EffectDAxis();
+
+}  // namespace planner

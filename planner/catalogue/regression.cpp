@@ -1,0 +1,234 @@
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "catalogue/axes.h"
+#include "catalogue/correlation_parameters.h"
+#include "catalogue/tests.h"
+#include "catalogue/words.h"
+#include "kelpower.h"
+
+namespace planner {
+namespace {
+
+constexpr double mostPredictors = 1e5;
+
+double Predictors(const Inputs& in) { return in.Number("predictors"); }
+
+double Tested(const Inputs& in) { return in.Has("tested") ? in.Number("tested") : Predictors(in); }
+
+bool Intercept(const Inputs& in) { return !in.Flag("no-intercept"); }
+
+double SmallestSize(const Inputs& in) { return Predictors(in) + (Intercept(in) ? 2 : 1); }
+
+double Reduced(const Inputs& in) { return in.Has("r-squared-reduced") ? in.Number("r-squared-reduced") : 0; }
+
+/// The library takes R where there is no reduced model, and R squared where there is one.
+double Fit(const Inputs& in) {
+  const double rSquared = in.Number("r-squared");
+  return Reduced(in) == 0 ? std::sqrt(rSquared) : rSquared;
+}
+
+double EffectOfFits(const Inputs& in) { return (in.Number("r-squared") - Reduced(in)) / (1 - in.Number("r-squared")); }
+
+double PowerOfFits(const Inputs& in) {
+  return Powerbymlr(in.Number("n"), Predictors(in), Tested(in), Fit(in), Reduced(in), in.Flag("random"), Intercept(in),
+                    in.Alpha());
+}
+
+double PowerOfEffect(const Inputs& in) {
+  return PowerbymlrwES(in.Number("n"), Predictors(in), Tested(in), in.Number("effect-f2"), in.Flag("random"),
+                       Intercept(in), in.Alpha());
+}
+
+Numbers SizeForFits(const Inputs& in) {
+  return {std::ceil(PowerReversebymlr(in.Number("power"), Predictors(in), Tested(in), Fit(in), Reduced(in),
+                                      in.Flag("random"), Intercept(in), in.Alpha()))};
+}
+
+Numbers SizeForEffect(const Inputs& in) {
+  return {std::ceil(PowerReversebymlrwES(in.Number("power"), Predictors(in), Tested(in), in.Number("effect-f2"),
+                                         in.Flag("random"), Intercept(in), in.Alpha()))};
+}
+
+std::vector<Parameter> Parameters() {
+  return {
+      Number("r-squared", "R squared", "proportion of variance that all predictors explain").AtLeast(0).Below(1),
+      Number("r-squared-reduced", "R squared without those tested",
+             "proportion of variance that the predictors that are not tested explain")
+          .AtLeast(0)
+          .Below(1),
+      Number("effect-f2", "effect size f2", "variance explained by the tested predictors over the unexplained one")
+          .AtLeast(0)
+          .AtMost(1e3),
+      Number("predictors", "predictors", "number of predictors in the model").Whole().AtLeast(1).AtMost(mostPredictors),
+      Number("tested", "predictors tested", "number of predictors tested, unless all are")
+          .Whole()
+          .AtLeast(1)
+          .AtMost(mostPredictors),
+      CaseCount(2),
+      Flag("random", "random predictors", "predictors vary from sample to sample, normally, rather than being fixed"),
+      Flag("no-intercept", "without intercept", "the model has no intercept"),
+  };
+}
+
+std::vector<Route> Routes() {
+  const Names ofFits{"r-squared-reduced", "tested", "random", "no-intercept"};
+  const Names ofEffect{"tested", "random", "no-intercept"};
+  return {
+      {.question = Question::Power,
+       .needs = {"r-squared", "predictors", "n"},
+       .accepts = ofFits,
+       .exportName = "Powerbymlr",
+       .value = PowerOfFits},
+      {.question = Question::Power,
+       .needs = {"effect-f2", "predictors", "n"},
+       .accepts = ofEffect,
+       .exportName = "PowerbymlrwES",
+       .value = PowerOfEffect},
+      {.question = Question::SampleSize,
+       .needs = {"r-squared", "predictors"},
+       .accepts = ofFits,
+       .exportName = "PowerReversebymlr",
+       .sizes = SizeForFits},
+      {.question = Question::SampleSize,
+       .needs = {"effect-f2", "predictors"},
+       .accepts = ofEffect,
+       .exportName = "PowerReversebymlrwES",
+       .sizes = SizeForEffect},
+  };
+}
+
+std::vector<Condition> Conditions() {
+  return {
+      {.code = "tested-predictors",
+       .about = {"predictors", "tested"},
+       .holds = [](const Inputs& in) { return Tested(in) <= Predictors(in); },
+       .sentence = "{tested} must not exceed {predictors}."},
+      {.code = "reduced-fit",
+       .about = {"r-squared", "r-squared-reduced"},
+       .holds = [](const Inputs& in) { return Reduced(in) <= in.Number("r-squared"); },
+       .sentence =
+           "{r-squared-reduced} must not exceed {r-squared}: predictors cannot explain less than some of them."},
+      {.code = "reduced-model",
+       .about = {"r-squared-reduced", "predictors"},
+       .holds = [](const Inputs& in) { return Reduced(in) == 0 || Tested(in) < Predictors(in); },
+       .sentence =
+           "{r-squared-reduced} above 0 needs predictors that are not tested: give {tested}, below {predictors}."},
+      {.code = "error-degrees",
+       .about = {"predictors", "n"},
+       .holds = [](const Inputs& in) { return in.Number("n") >= SmallestSize(in); },
+       .sentence =
+           "{n} leaves nothing to estimate the error variance from: it must exceed {predictors} by 2, or by 1 without "
+           "an intercept."},
+  };
+}
+
+std::vector<Condition> SizeExists() {
+  return {
+      {.code = "no-effect",
+       .about = {"r-squared"},
+       .holds = [](const Inputs& in) { return in.Number("r-squared") > Reduced(in); },
+       .sentence = "The predictors tested explain nothing: without an effect, no sample size reaches the power."},
+      {.code = "no-effect",
+       .about = {"effect-f2"},
+       .holds = [](const Inputs& in) { return in.Number("effect-f2") > 0; },
+       .sentence = "The effect size is zero: without an effect, no sample size reaches the power."},
+  };
+}
+
+constexpr double sizesBeyondPredictors = 5000;
+
+Range DrawnSizes(const Inputs& in) { return {SmallestSize(in), Predictors(in) + sizesBeyondPredictors}; }
+
+Axis CaseAxis() {
+  Axis axis = SizeAxis("sample size (cases)", 2, mostPredictors + sizesBeyondPredictors,
+                       [](const Inputs& in, double) { return SizesAround(in.Number("n"), DrawnSizes(in)); });
+  axis.refuse = [](const Inputs& in, const Range& sizes) { return RefuseSizes(sizes, DrawnSizes(in)); };
+  return axis;
+}
+
+Range ZeroToOne(const Inputs&) { return {0, 1}; }
+
+Axis EffectAxis() {
+  return {.title = "effect size f2",
+          .symbol = "f2",
+          .limits = {0, 1, true, true, false},
+          .input = Name("effect-f2"),
+          .usual = [](const Inputs& in, double) { return ZeroToOne(in); },
+          .scale = ZeroToOne,
+          .scaleEnds = ScaleEnds::None};
+}
+
+/// The power is the same for R and -R, so that the usual range leaves out the negative ones.
+Axis CorrelationAxis() {
+  return {.title = "multiple correlation R",
+          .symbol = "R",
+          .limits = {-1, 1, true, true, false},
+          .design = [](const Inputs& in) { return std::sqrt(in.Number("r-squared")); },
+          .vary = [](Inputs& in, const Inputs&, double at) { in.Set("r-squared", at * at); },
+          .usual = [](const Inputs& in, double) { return ZeroToOne(in); },
+          .scale = [](const Inputs&) -> Range {
+            return {-1, 1};
+          },
+          .scaleEnds = ScaleEnds::None};
+}
+
+std::vector<Chart> Charts() {
+  const Names ofEffect{"effect-f2", "predictors", "n"};
+  const Names ofFit{"r-squared", "predictors", "n"};
+  const Names options{"tested", "random", "no-intercept"};
+  return {
+      {.name = "n",
+       .axes = {CaseAxis()},
+       .needs = ofFit,
+       .accepts = {"r-squared-reduced", "tested", "random", "no-intercept"},
+       .example = "regression --r-squared 0.3 --r-squared-reduced 0.2 --predictors 5 --tested 2 --n 80 --chart n"},
+      {.name = "n",
+       .axes = {CaseAxis()},
+       .needs = ofEffect,
+       .accepts = options,
+       .example = "regression --effect-f2 0.15 --predictors 5 --n 80 --random --chart n"},
+      {.name = "effect",
+       .axes = {EffectAxis()},
+       .needs = ofEffect,
+       .accepts = options,
+       .example = "regression --effect-f2 0.15 --predictors 5 --n 80 --chart effect --from 0 --to 0.4"},
+      {.name = "r",
+       .axes = {CorrelationAxis()},
+       .needs = ofFit,
+       .accepts = options,
+       .example = "regression --r-squared 0.1 --predictors 5 --n 95 --random --chart r"},
+      {.name = "n-r",
+       .axes = {CaseAxis(), CorrelationAxis()},
+       .needs = ofFit,
+       .accepts = options,
+       .example = "regression --r-squared 0.1 --predictors 5 --n 95 --chart n-r"},
+      {.name = "n-effect",
+       .axes = {CaseAxis(), EffectAxis()},
+       .needs = ofEffect,
+       .accepts = options,
+       .example = "regression --effect-f2 0.15 --predictors 5 --n 80 --chart n-effect --from 20,0 --to 160,0.5"},
+  };
+}
+
+}  // namespace
+
+Test RegressionTest() {
+  Test test{.name = "regression",
+            .title = "F test of predictors in multiple linear regression",
+            .about = "Tests whether some or all predictors of a multiple linear regression add nothing.",
+            .counted = "cases"};
+  test.parameters = Parameters();
+  test.routes = Routes();
+  test.conditions = Conditions();
+  test.sizeExists = SizeExists();
+  test.derived = {
+      {.name = "effect-f2", .label = "effect size f2", .needs = {"r-squared", "predictors"}, .call = EffectOfFits},
+  };
+  test.charts = Charts();
+  AddWordsOfRegression(test);
+  return WithCommonParameters(std::move(test));
+}
+
+}  // namespace planner

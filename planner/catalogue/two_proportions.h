@@ -1,0 +1,49 @@
+#pragma once
+
+#include <vector>
+
+#include "model/chart.h"
+#include "model/inputs.h"
+#include "model/test.h"
+
+// What the questions about two independent proportions and their charts share.
+namespace planner {
+
+constexpr int zTest = 0;
+constexpr int tTest = 1;
+constexpr int arcsineTest = 3;
+constexpr int conditionalTest = 4;  // 3 would let the search of sizes end by the z test
+
+// An exact power counts tables: these groups take less than a second.
+constexpr double largestExactGroup = 10000;
+
+bool IsConditional(const Inputs& in);
+bool IsExact(const Inputs& in);
+
+/// The proportions, whichever way their difference is given.
+double FirstProportion(const Inputs& in);
+double SecondProportion(const Inputs& in);
+
+double RiskDifference(const Inputs& in);
+double RiskRatio(const Inputs& in);
+double OddsRatio(const Inputs& in);
+
+/// The second proportion that a first one has with an odds ratio.
+double SecondOfOddsRatio(double first, double oddsRatio);
+
+/// The ways to give the two proportions: the inputs of each.
+std::vector<Names> EffectsOfTwoProportions();
+
+/// The inputs that choose the test.
+Names OptionsOfTwoProportions();
+
+/// The names and one more.
+Names With(Names names, Name name);
+
+std::vector<Parameter> ParametersOfTwoProportions();
+std::vector<Route> RoutesOfTwoProportions();
+std::vector<Condition> ConditionsOfTwoProportions();
+std::vector<Condition> SizeExistsForTwoProportions();
+std::vector<Chart> ChartsOfTwoProportions();
+
+}  // namespace planner

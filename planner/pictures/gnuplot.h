@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "pictures/figure.h"
+
+namespace planner {
+
+/// Where gnuplot puts a picture.
+struct GnuplotTerminal {
+  std::string name;  // with its options
+  bool showsCharactersOnly;
+};
+
+/// A figure as commands for gnuplot, data included, which put it to the standard output.
+std::string GnuplotCommands(const Figure& figure, const GnuplotTerminal& terminal);
+
+}  // namespace planner

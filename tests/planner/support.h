@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "catalogue/catalogue.h"
+#include "model/problem.h"
+#include "solve/chart.h"
+#include "solve/solve.h"
+#include "words/problem.h"
+#include "words/report.h"
+
+// What the tests of the planner share.
+namespace planner {
+
+/// The worded answer.
+inline Report Solved(const Test& test, const InputValues& values, StopRequest* stop = nullptr) {
+  return MakeReport(Solve(test, values, stop));
+}
+
+/// The sentence of a failure, with inputs named as options.
+inline std::string Said(const Failure& failure) {
+  return Sentence(failure.problem, [](std::string_view name) { return "--" + std::string(name); });
+}
+
+}  // namespace planner
