@@ -1,14 +1,14 @@
+#include "anova/overall.h"
 #include "catalogue/axes.h"
+#include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
-#include "kelpower.h"
 
 namespace planner {
 namespace {
 
-constexpr int asF = 0;
-constexpr int asEtaSquared = 1;
+namespace anova = kelpower::anova;
 
 Parameter EffectF() {
   return Number("effect-f", "effect size f", "standard deviation of the group means over that within the groups")
@@ -21,36 +21,38 @@ Parameter EtaSquared() {
 }
 
 double PowerOfMeans(const Inputs& in) {
-  return PowerOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(), in.Alpha());
+  const auto spread = anova::GroupSpread::Of(in.List("means"), in.List("n"));
+  return OrNaN(anova::PowerOfMeans(spread, in.Number("sd"), in.Groups(), TotalSize(in), in.Alpha()));
 }
 
-double PowerOfEffect(const Inputs& in, Name effect, int kind) {
-  return PowerOverallTestwES(in.Groups(), in.Number(effect), kind, in.List("n").data(), in.Alpha());
+anova::EffectSize EffectOf(const Inputs& in) {
+  if (in.Has("eta-squared")) return {.value = in.Number("eta-squared"), .isEtaSquared = true};
+  return {.value = in.Number("effect-f"), .isEtaSquared = false};
+}
+
+double PowerOfEffect(const Inputs& in) {
+  return OrNaN(anova::PowerOfEffect(EffectOf(in), in.Groups(), TotalSize(in), in.Alpha()));
 }
 
 Numbers SizesOfMeans(const Inputs& in) {
-  Numbers sizes;
-  PowerReverseOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.Weights().data(),
-                          in.Number("power"), sizes, in.Alpha());
-  return sizes;
+  const Numbers weights = in.Weights();
+  return SpreadByShares(
+      anova::TotalForPowerOfMeans(in.List("means"), in.Number("sd"), weights, in.Number("power"), in.Alpha()), weights);
 }
 
-Numbers SizesOfEffect(const Inputs& in, Name effect, int kind) {
-  Numbers sizes;
-  PowerReverseOverallTestwES(in.Groups(), in.Number(effect), kind, in.Weights().data(), in.Number("power"), sizes,
-                             in.Alpha());
-  return sizes;
+Numbers SizesOfEffect(const Inputs& in) {
+  return SpreadByShares(anova::TotalForPowerOfEffect(EffectOf(in), in.Groups(), in.Number("power"), in.Alpha()),
+                        in.Weights());
 }
 
 double HalfWidth(const Inputs& in) {
-  return HalfCIOverallTest(TotalSize(in), in.Groups(), in.Number("sd"), in.Alpha());
+  return anova::HalfWidthOfGrandMean(in.Groups(), TotalSize(in), in.Number("sd"), in.Alpha());
 }
 
 Numbers SizesForHalfWidth(const Inputs& in) {
-  Numbers sizes;
-  PowerReversebyHalfCIOverallTest(in.Number("half-width"), in.Groups(), in.Weights().data(), in.Number("sd"), sizes,
-                                  in.Alpha());
-  return sizes;
+  return SpreadByRatios(
+      anova::TotalForHalfWidthOfGrandMean(in.Number("half-width"), in.Groups(), in.Number("sd"), in.Alpha()),
+      in.Weights());
 }
 
 bool MeansDiffer(const Inputs& in) {
@@ -71,12 +73,12 @@ std::vector<Route> Routes() {
        .needs = {"effect-f", "n"},
        .accepts = {"groups"},
        .exportName = "PowerOverallTestwES",
-       .value = [](const Inputs& in) { return PowerOfEffect(in, "effect-f", asF); }},
+       .value = PowerOfEffect},
       {.question = Question::Power,
        .needs = {"eta-squared", "n"},
        .accepts = {"groups"},
        .exportName = "PowerOverallTestwES",
-       .value = [](const Inputs& in) { return PowerOfEffect(in, "eta-squared", asEtaSquared); }},
+       .value = PowerOfEffect},
       {.question = Question::SampleSize,
        .needs = {"means", "sd"},
        .accepts = {"ratios", "groups"},
@@ -86,12 +88,12 @@ std::vector<Route> Routes() {
        .needs = {"effect-f"},
        .accepts = {"ratios", "groups"},
        .exportName = "PowerReverseOverallTestwES",
-       .sizes = [](const Inputs& in) { return SizesOfEffect(in, "effect-f", asF); }},
+       .sizes = SizesOfEffect},
       {.question = Question::SampleSize,
        .needs = {"eta-squared"},
        .accepts = {"ratios", "groups"},
        .exportName = "PowerReverseOverallTestwES",
-       .sizes = [](const Inputs& in) { return SizesOfEffect(in, "eta-squared", asEtaSquared); }},
+       .sizes = SizesOfEffect},
       {.question = Question::HalfWidth,
        .needs = {"sd", "n"},
        .accepts = {"groups"},
@@ -207,8 +209,7 @@ Test AnovaTest() {
        .needs = {"means", "sd"},
        .call =
            [](const Inputs& in) {
-             return RMSSEOverallTest(in.Groups(), in.List("means").data(), in.Number("sd"), in.Weights().data(),
-                                     in.Alpha());
+             return anova::RootMeanSquareEffect(in.List("means"), in.Weights(), in.Number("sd"));
            }},
   };
   test.charts = Charts();

@@ -1,16 +1,20 @@
+#include "anova/contrast.h"
+
 #include <cmath>
 #include <utility>
 
 #include "catalogue/axes.h"
+#include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
-#include "kelpower.h"
 
 namespace planner {
 namespace {
 
-/// The coefficients with the last one set so that they sum to zero to the last digit, as the library wants them.
+namespace anova = kelpower::anova;
+
+/// The coefficients with the last one set so that they sum to zero to the last digit.
 Numbers Coefficients(const Inputs& in) {
   Numbers coefficients = in.List("coefficients");
   double others = 0;
@@ -20,43 +24,33 @@ Numbers Coefficients(const Inputs& in) {
 }
 
 double EffectOfMeans(const Inputs& in) {
-  return EffectSizeSC(in.Groups(), in.List("means").data(), in.Number("sd"), Coefficients(in).data());
+  return anova::ContrastValue(Coefficients(in), in.List("means")) / in.Number("sd");
 }
 
-double PowerOfMeans(const Inputs& in) {
-  return PowerSC(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(), Coefficients(in).data(),
-                 in.Flag("one-sided"), in.Alpha());
+double Effect(const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : EffectOfMeans(in); }
+
+double Power(const Inputs& in) {
+  const Numbers coefficients = Coefficients(in);
+  return OrNaN(anova::Power({coefficients, in.List("n"), Effect(in), in.Flag("one-sided"), in.Alpha()}, TotalSize(in)));
 }
 
-double PowerOfEffect(const Inputs& in) {
-  return PowerSCwES(in.Groups(), in.Number("effect-d"), in.List("n").data(), Coefficients(in).data(),
-                    in.Flag("one-sided"), in.Alpha());
-}
-
-Numbers SizesOfMeans(const Inputs& in) {
-  Numbers sizes;
-  PowerReverseSC(in.Groups(), in.List("means").data(), in.Number("sd"), in.Weights().data(), Coefficients(in).data(),
-                 in.Number("power"), sizes, in.Flag("one-sided"), in.Alpha());
-  return sizes;
-}
-
-Numbers SizesOfEffect(const Inputs& in) {
-  Numbers sizes;
-  PowerReverseSCwES(in.Groups(), in.Number("effect-d"), in.Weights().data(), Coefficients(in).data(),
-                    in.Number("power"), sizes, in.Flag("one-sided"), in.Alpha());
-  return sizes;
+Numbers Sizes(const Inputs& in) {
+  const Numbers coefficients = Coefficients(in);
+  const Numbers weights = in.Weights();
+  const anova::ContrastDesign design{coefficients, weights, Effect(in), in.Flag("one-sided"), in.Alpha()};
+  return SpreadByShares(anova::TotalForPower(design, in.Number("power")), weights);
 }
 
 double HalfWidth(const Inputs& in) {
-  return HalfCISCTest(TotalSize(in), in.Groups(), in.List("n").data(), Coefficients(in).data(), in.Number("sd"),
-                      in.Alpha());
+  const Numbers coefficients = Coefficients(in);
+  return anova::HalfWidth({coefficients, in.List("n"), in.Number("sd"), in.Alpha()}, TotalSize(in));
 }
 
 Numbers SizesForHalfWidth(const Inputs& in) {
-  Numbers sizes;
-  PowerReversebyHalfCISCTest(in.Number("half-width"), in.Groups(), in.Weights().data(), Coefficients(in).data(),
-                             in.Number("sd"), sizes, in.Alpha());
-  return sizes;
+  const Numbers coefficients = Coefficients(in);
+  const Numbers weights = in.Weights();
+  const anova::ContrastInterval interval{coefficients, weights, in.Number("sd"), in.Alpha()};
+  return SpreadByRatios(anova::TotalForHalfWidth(interval, in.Number("half-width")), weights);
 }
 
 bool SumToZero(const Inputs& in) {
@@ -76,22 +70,22 @@ std::vector<Route> Routes() {
        .needs = {"coefficients", "means", "sd", "n"},
        .accepts = {"one-sided"},
        .exportName = "PowerSC",
-       .value = PowerOfMeans},
+       .value = Power},
       {.question = Question::Power,
        .needs = {"coefficients", "effect-d", "n"},
        .accepts = {"one-sided"},
        .exportName = "PowerSCwES",
-       .value = PowerOfEffect},
+       .value = Power},
       {.question = Question::SampleSize,
        .needs = {"coefficients", "means", "sd"},
        .accepts = {"ratios", "one-sided"},
        .exportName = "PowerReverseSC",
-       .sizes = SizesOfMeans},
+       .sizes = Sizes},
       {.question = Question::SampleSize,
        .needs = {"coefficients", "effect-d"},
        .accepts = {"ratios", "one-sided"},
        .exportName = "PowerReverseSCwES",
-       .sizes = SizesOfEffect},
+       .sizes = Sizes},
       {.question = Question::HalfWidth,
        .needs = {"coefficients", "sd", "n"},
        .exportName = "HalfCISCTest",

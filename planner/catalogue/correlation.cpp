@@ -16,9 +16,6 @@ Names Joined(Names names, const Names& more) {
 Names Effect(const CorrelationKind& kind) { return Joined({"r"}, kind.needs); }
 
 std::vector<Route> Routes(const CorrelationKind& kind) {
-  const auto Rounded = [](double (*size)(const Inputs&)) {
-    return [=](const Inputs& in) { return Numbers{std::ceil(size(in))}; };
-  };
   const Names effect = Effect(kind);
   const Names design = CorrelationDesign(kind);
   const Names options = CorrelationOptions(kind);
@@ -32,7 +29,7 @@ std::vector<Route> Routes(const CorrelationKind& kind) {
        .needs = effect,
        .accepts = options,
        .exportName = "PowerReversebyOneSamp" + kind.exports,
-       .sizes = Rounded(kind.size)},
+       .sizes = kind.size},
       {.question = Question::HalfWidth,
        .needs = design,
        .accepts = kind.accepts,
@@ -42,7 +39,7 @@ std::vector<Route> Routes(const CorrelationKind& kind) {
        .needs = effect,
        .accepts = kind.accepts,
        .exportName = "PowerReversebyHalfCIOneSamp" + kind.exports,
-       .sizes = Rounded(kind.sizeForHalfWidth)},
+       .sizes = kind.sizeForHalfWidth},
   };
 }
 

@@ -21,11 +21,11 @@ struct CorrelationKind {
   Names accepts = {};                 // inputs of the method
   double mostPartialledOut = 0;
 
-  // The exports, called with the inputs of the test.
+  // The core, called with the inputs of the test.
   double (*power)(const Inputs&);
-  double (*size)(const Inputs&);
+  Numbers (*size)(const Inputs&);
   double (*halfWidth)(const Inputs&);
-  double (*sizeForHalfWidth)(const Inputs&);
+  Numbers (*sizeForHalfWidth)(const Inputs&);
 
   /// The problem of sizes that the charts cannot draw with these inputs; null: they draw all.
   std::optional<Problem> (*refuseSizes)(const Inputs&, const Range&) = nullptr;

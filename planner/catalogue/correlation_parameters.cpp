@@ -18,6 +18,8 @@ Parameter TowardsCorrelation() {
   return Flag("one-sided", "one-sided test", "test in the direction of the correlation expected only");
 }
 
+kelpower::correlation::Hypotheses HypothesesOf(const Inputs& in) { return {in.Number("r"), in.Number("null")}; }
+
 Condition CorrelationsDiffer() {
   return {.code = "no-effect",
           .about = {"r", "null"},

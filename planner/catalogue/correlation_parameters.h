@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "correlation/fisher.h"
+#include "model/inputs.h"
 #include "model/test.h"
 
 // What the descriptions of the tests of one correlation share.
@@ -11,6 +13,8 @@ Parameter Correlation(std::string meaning);
 Parameter NullCorrelation();
 Parameter CaseCount(double smallest);
 Parameter TowardsCorrelation();
+
+kelpower::correlation::Hypotheses HypothesesOf(const Inputs& in);
 
 /// Refuses to search a size for the power of no effect.
 Condition CorrelationsDiffer();

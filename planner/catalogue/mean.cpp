@@ -1,33 +1,33 @@
-#include <cmath>
 #include <utility>
 
 #include "catalogue/axes.h"
+#include "catalogue/core.h"
 #include "catalogue/mean_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
-#include "kelpower.h"
+#include "means/one_sample.h"
 
 namespace planner {
 namespace {
 
-double PowerOfMean(const Inputs& in) {
-  const auto power = in.Flag("one-sided") ? PowerOneSampleDirectional : PowerOneSampleNondirectional;
-  return power(in.Number("n"), in.Number("mean"), in.Number("sd"), in.Number("test-value"), in.Alpha());
+namespace means = kelpower::means;
+
+double EffectSize(const Inputs& in) { return (in.Number("mean") - in.Number("test-value")) / in.Number("sd"); }
+
+means::OneSampleDesign DesignOf(const Inputs& in) {
+  return {in.Has("effect-d") ? in.Number("effect-d") : EffectSize(in), SidesOf(in), in.Alpha()};
 }
 
-double PowerOfEffect(const Inputs& in) {
-  const auto power = in.Flag("one-sided") ? PowerOneSampleDirectionalES : PowerOneSampleNondirectionalES;
-  return power(in.Number("n"), in.Number("effect-d"), in.Alpha());
-}
+double Power(const Inputs& in) { return OrNaN(means::Power(DesignOf(in), in.Number("n"))); }
 
-Numbers SizeOfMean(const Inputs& in) {
-  const auto size = in.Flag("one-sided") ? PowerReverseOneSampleDirectional : PowerReverseOneSampleNondirectional;
-  return {std::ceil(size(in.Number("power"), in.Number("mean"), in.Number("sd"), in.Number("test-value"), in.Alpha()))};
-}
+Numbers Size(const Inputs& in) { return RoundedUp(means::SizeForPower(DesignOf(in), in.Number("power"))); }
 
-Numbers SizeOfEffect(const Inputs& in) {
-  const auto size = in.Flag("one-sided") ? PowerReverseOneSampleDirectionalES : PowerReverseOneSampleNondirectionalES;
-  return {std::ceil(size(in.Number("power"), in.Number("effect-d"), in.Alpha()))};
+means::MeanInterval IntervalOf(const Inputs& in) { return {in.Number("sd"), in.Alpha()}; }
+
+double HalfWidth(const Inputs& in) { return means::HalfWidth(IntervalOf(in), in.Number("n")); }
+
+Numbers SizeForHalfWidth(const Inputs& in) {
+  return RoundedUp(means::SizeForHalfWidth(IntervalOf(in), in.Number("half-width")));
 }
 
 std::vector<Route> Routes() {
@@ -37,36 +37,30 @@ std::vector<Route> Routes() {
        .accepts = {"test-value", "one-sided"},
        .exportName = "PowerOneSampleNondirectional",
        .oneSidedExport = "PowerOneSampleDirectional",
-       .value = PowerOfMean},
+       .value = Power},
       {.question = Question::Power,
        .needs = {"effect-d", "n"},
        .accepts = {"one-sided"},
        .exportName = "PowerOneSampleNondirectionalES",
        .oneSidedExport = "PowerOneSampleDirectionalES",
-       .value = PowerOfEffect},
+       .value = Power},
       {.question = Question::SampleSize,
        .needs = {"mean", "sd"},
        .accepts = {"test-value", "one-sided"},
        .exportName = "PowerReverseOneSampleNondirectional",
        .oneSidedExport = "PowerReverseOneSampleDirectional",
-       .sizes = SizeOfMean},
+       .sizes = Size},
       {.question = Question::SampleSize,
        .needs = {"effect-d"},
        .accepts = {"one-sided"},
        .exportName = "PowerReverseOneSampleNondirectionalES",
        .oneSidedExport = "PowerReverseOneSampleDirectionalES",
-       .sizes = SizeOfEffect},
-      {.question = Question::HalfWidth,
-       .needs = {"sd", "n"},
-       .exportName = "HalfCIOneSampleMeans",
-       .value = [](const Inputs& in) { return HalfCIOneSampleMeans(in.Number("n"), in.Number("sd"), in.Alpha()); }},
+       .sizes = Size},
+      {.question = Question::HalfWidth, .needs = {"sd", "n"}, .exportName = "HalfCIOneSampleMeans", .value = HalfWidth},
       {.question = Question::SampleSizeForHalfWidth,
        .needs = {"sd"},
        .exportName = "PowerReversebyHalfCIOneSampleMeans",
-       .sizes =
-           [](const Inputs& in) {
-             return Numbers{PowerReversebyHalfCIOneSampleMeans(in.Number("half-width"), in.Number("sd"), in.Alpha())};
-           }},
+       .sizes = SizeForHalfWidth},
   };
 }
 
@@ -120,13 +114,7 @@ Test MeanTest() {
       HasEffectD(),
   };
   test.derived = {
-      {.name = "effect-d",
-       .label = "effect size d",
-       .needs = {"mean", "test-value", "sd"},
-       .call =
-           [](const Inputs& in) {
-             return EffectSizeOneSample(in.Number("mean"), in.Number("sd"), in.Number("test-value"));
-           }},
+      {.name = "effect-d", .label = "effect size d", .needs = {"mean", "test-value", "sd"}, .call = EffectSize},
   };
   test.charts = Charts();
   AddWordsOfMean(test);

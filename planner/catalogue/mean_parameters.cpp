@@ -17,6 +17,11 @@ Parameter OneSided() {
   return Flag("one-sided", "one-sided test", "test in the direction of the effect only").ShownOnlySet();
 }
 
+kelpower::means::Sides SidesOf(const Inputs& in) {
+  using kelpower::means::Sides;
+  return in.Flag("one-sided") ? Sides::One : Sides::Two;
+}
+
 Condition HasEffectD() {
   return {.code = "no-effect",
           .about = {"effect-d"},

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "means/t_test_of_a_mean.h"
 #include "model/chart.h"
 #include "model/test.h"
 
@@ -12,6 +13,9 @@ namespace planner {
 Parameter SingleSize(std::string meaning);
 Parameter EffectD(std::string meaning);
 Parameter OneSided();
+
+/// The alternative that `one-sided` chooses.
+kelpower::means::Sides SidesOf(const Inputs& in);
 
 /// The condition for a size that the effect size is not zero.
 Condition HasEffectD();

@@ -2,73 +2,47 @@
 #include <utility>
 
 #include "catalogue/axes.h"
+#include "catalogue/core.h"
 #include "catalogue/mean_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
-#include "kelpower.h"
+#include "means/one_sample.h"
+#include "means/paired.h"
 
 namespace planner {
 namespace {
 
-/// Two measurements on the same units. Where the differences are described themselves, the second one has no spread,
-/// which the library reads so; any correlation that it accepts will do then.
-struct Pair {
-  double mean1 = 0;
-  double sd1;
-  double mean2 = 0;
-  double sd2;
-  double correlation;
-};
+namespace means = kelpower::means;
 
-Pair PairOf(const Inputs& in) {
-  if (in.Has("sd-difference")) {
-    const double difference = in.Has("mean-difference") ? in.Number("mean-difference") : 0;
-    return {.mean1 = difference, .sd1 = in.Number("sd-difference"), .sd2 = 0, .correlation = 0.5};
-  }
-  const Numbers& sds = in.List("sds");
-  Pair pair{.sd1 = sds[0], .sd2 = sds[1], .correlation = in.Number("correlation")};
-  if (!in.Has("means")) return pair;
-  pair.mean1 = in.List("means")[0];
-  pair.mean2 = in.List("means")[1];
-  return pair;
+/// Where the spread of the differences is given itself, it is that of a first measurement whose second one has none.
+means::PairedSpread SpreadOf(const Inputs& in) {
+  if (in.Has("sd-difference")) return {in.Number("sd-difference"), 0, 0};
+  return {in.List("sds")[0], in.List("sds")[1], in.Number("correlation")};
 }
 
-double PowerOfMeans(const Inputs& in) {
-  const Pair pair = PairOf(in);
-  const auto power = in.Flag("one-sided") ? PowerRelatedDirectional : PowerRelatedNondirectional;
-  return power(in.Number("n"), pair.mean1, pair.sd1, pair.mean2, pair.sd2, pair.correlation, in.Alpha());
+double MeanDifference(const Inputs& in) {
+  return in.Has("means") ? in.List("means")[0] - in.List("means")[1] : in.Number("mean-difference");
 }
 
-double PowerOfEffect(const Inputs& in) {
-  const auto power = in.Flag("one-sided") ? PowerRelatedDirectionalES : PowerRelatedNondirectionalES;
-  return power(in.Number("n"), in.Number("effect-d"), in.Alpha());
+/// The mean of the differences over their standard deviation.
+double EffectSize(const Inputs& in) {
+  return MeanDifference(in) / means::DifferenceVariance::Of(SpreadOf(in)).StandardDeviation();
 }
 
-Numbers SizeOfMeans(const Inputs& in) {
-  const Pair pair = PairOf(in);
-  const auto size = in.Flag("one-sided") ? PowerReverseRelatedDirectional : PowerReverseRelatedNondirectional;
-  return {
-      std::ceil(size(in.Number("power"), pair.mean1, pair.sd1, pair.mean2, pair.sd2, pair.correlation, in.Alpha()))};
+means::OneSampleDesign DesignOf(const Inputs& in) {
+  return {in.Has("effect-d") ? in.Number("effect-d") : EffectSize(in), SidesOf(in), in.Alpha()};
 }
 
-Numbers SizeOfEffect(const Inputs& in) {
-  const auto size = in.Flag("one-sided") ? PowerReverseRelatedDirectionalES : PowerReverseRelatedNondirectionalES;
-  return {std::ceil(size(in.Number("power"), in.Number("effect-d"), in.Alpha()))};
-}
+double Power(const Inputs& in) { return OrNaN(means::Power(DesignOf(in), in.Number("n"))); }
+
+Numbers Size(const Inputs& in) { return RoundedUp(means::SizeForPower(DesignOf(in), in.Number("power"))); }
 
 double HalfWidth(const Inputs& in) {
-  const Pair pair = PairOf(in);
-  return HalfCIRelatedMeans(in.Number("n"), pair.sd1, pair.sd2, pair.correlation, in.Alpha());
+  return means::HalfWidth(means::PairedInterval{SpreadOf(in), in.Alpha()}, in.Number("n"));
 }
 
 Numbers SizeForHalfWidth(const Inputs& in) {
-  const Pair pair = PairOf(in);
-  return {PowerReversebyHalfCIRelatedMeans(in.Number("half-width"), pair.sd1, pair.sd2, pair.correlation, in.Alpha())};
-}
-
-double EffectSize(const Inputs& in) {
-  const Pair pair = PairOf(in);
-  return EffectSizeRelated(pair.mean1, pair.sd1, pair.mean2, pair.sd2, pair.correlation);
+  return RoundedUp(means::SizeForHalfWidth(means::PairedInterval{SpreadOf(in), in.Alpha()}, in.Number("half-width")));
 }
 
 std::vector<Parameter> Parameters() {
@@ -90,7 +64,7 @@ Route PowerRoute(Names needs) {
           .accepts = {"one-sided"},
           .exportName = "PowerRelatedNondirectional",
           .oneSidedExport = "PowerRelatedDirectional",
-          .value = PowerOfMeans};
+          .value = Power};
 }
 
 Route SizeRoute(Names needs) {
@@ -99,7 +73,7 @@ Route SizeRoute(Names needs) {
           .accepts = {"one-sided"},
           .exportName = "PowerReverseRelatedNondirectional",
           .oneSidedExport = "PowerReverseRelatedDirectional",
-          .sizes = SizeOfMeans};
+          .sizes = Size};
 }
 
 Route HalfWidthRoute(Names needs) {
@@ -125,7 +99,7 @@ std::vector<Route> Routes() {
        .accepts = {"one-sided"},
        .exportName = "PowerRelatedNondirectionalES",
        .oneSidedExport = "PowerRelatedDirectionalES",
-       .value = PowerOfEffect},
+       .value = Power},
       SizeRoute({"means", "sds", "correlation"}),
       SizeRoute({"mean-difference", "sd-difference"}),
       {.question = Question::SampleSize,
@@ -133,7 +107,7 @@ std::vector<Route> Routes() {
        .accepts = {"one-sided"},
        .exportName = "PowerReverseRelatedNondirectionalES",
        .oneSidedExport = "PowerReverseRelatedDirectionalES",
-       .sizes = SizeOfEffect},
+       .sizes = Size},
       HalfWidthRoute({"sds", "correlation", "n"}),
       HalfWidthRoute({"sd-difference", "n"}),
       SizeForHalfWidthRoute({"sds", "correlation"}),

@@ -1,55 +1,67 @@
 #include "catalogue/paired_proportions.h"
 
-#include <cmath>
 #include <utility>
 
-#include "catalogue/exact_proportions.h"
+#include "catalogue/core.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
-#include "kelpower.h"
+#include "proportions/lasting_size.h"
+#include "proportions/mcnemar.h"
+#include "proportions/related_interval.h"
 
 namespace planner {
 namespace {
 
-constexpr int wald = 0;
-constexpr int largeSample = 0;
-constexpr int exact = 1;
+namespace proportions = kelpower::proportions;
+using proportions::RelatedMethod;
 
-DiscordantProportions Hypotheses(const Inputs& in) {
-  return {in.Number("p12"), in.Number("p21"), in.Flag("one-sided"), in.Alpha()};
+proportions::McNemarDesign DesignOf(const Inputs& in) { return {in.Flag("exact"), in.Flag("one-sided"), in.Alpha()}; }
+
+/// The discordant pairs, whichever way they are given.
+proportions::DiscordantPairs PairsOf(const Inputs& in) {
+  if (in.Has("p12")) return {in.Number("p12"), in.Number("p21")};
+  return proportions::DiscordantPairs::FromMarginals(in.Number("proportion1"), in.Number("proportion2"),
+                                                     in.Number("correlation"));
 }
 
-// The exact test is handed no stop request, which it would ask once for each pair: that takes up to some hundred times
-// as long as the power, and a search ends by itself within a second or so.
-double PowerOfPairs(const Inputs& in, int method) {
-  return PowerbyPRelSampBionm(in.Number("n"), in.Number("p12"), in.Number("p21"), in.Flag("one-sided"), method,
-                              in.Alpha(), nullptr);
+/// The power; designs at one level share the test, which keeps its critical values.
+///
+/// The exact test is handed no stop request. It would ask it once for each pair, which takes up to some hundred times
+/// as long as the power, and a search ends by itself within a second or so.
+class PowerOfMcNemar {
+public:
+  double operator()(const Inputs& in) {
+    const proportions::McNemarDesign design = DesignOf(in);
+    proportions::McNemarTest& test =
+        kept_.For({double(design.isExact), double(design.isOneSided), design.alpha}, design);
+    return OrNaN(test.Power(in.Number("n"), PairsOf(in)));
+  }
+
+private:
+  Kept<proportions::McNemarTest, 3> kept_;
+};
+
+Numbers Size(const Inputs& in) {
+  return RoundedUp(proportions::SizeForPower(DesignOf(in), PairsOf(in), in.Number("power")));
 }
 
-double PowerOfMarginals(const Inputs& in, double n, int method) {
-  return PowerbyMargPRelSampBionm(n, in.Number("proportion1"), in.Number("proportion2"), in.Number("correlation"),
-                                  in.Flag("one-sided"), method, in.Alpha());
+proportions::RelatedInterval IntervalOf(const Inputs& in) {
+  return proportions::RelatedInterval(
+      {RelatedMethod(in.Choice("interval-method")), PairsOf(in), in.Alpha(), in.Flag("correction")});
 }
 
-Numbers SizeOfPairs(const Inputs& in, int method) {
-  return {std::ceil(PowerReversebyPRelSampBionm(in.Number("power"), in.Number("p12"), in.Number("p21"),
-                                                in.Flag("one-sided"), method, in.Alpha(), nullptr))};
-}
-
-Numbers SizeOfMarginals(const Inputs& in, int method) {
-  return {std::ceil(PowerReversebyMargPRelSampBionm(in.Number("power"), in.Number("proportion1"),
-                                                    in.Number("proportion2"), in.Number("correlation"),
-                                                    in.Flag("one-sided"), method, in.Alpha(), nullptr))};
-}
-
-double HalfWidth(const Inputs& in) {
-  return HalfCIRelSampBinom(in.Number("n"), in.Number("p12"), in.Number("p21"), in.Choice("interval-method"),
-                            in.Alpha(), in.Flag("correction"));
-}
+double HalfWidth(const Inputs& in) { return IntervalOf(in).HalfWidth(in.Number("n")); }
 
 Numbers SizeForHalfWidth(const Inputs& in) {
-  return {PowerReversebyHalfCIRelSampBinom(in.Number("half-width"), in.Number("p12"), in.Number("p21"),
-                                           in.Choice("interval-method"), in.Alpha(), in.Flag("correction"), in.Stop())};
+  return RoundedUp(IntervalOf(in).SizeFor(in.Number("half-width"), StopOf(in)));
+}
+
+double AttainedLevel(const Inputs& in) {
+  return OrNaN(proportions::McNemarTest(DesignOf(in)).AttainedLevel(in.Number("n"), PairsOf(in)));
+}
+
+double LastingSize(const Inputs& in) {
+  return OrNaN(proportions::LastingSize(DesignOf(in), PairsOf(in), in.Number("power")));
 }
 
 std::vector<Parameter> Parameters() {
@@ -68,7 +80,9 @@ std::vector<Parameter> Parameters() {
       Flag("one-sided", "one-sided test", "test in the direction of the difference only"),
       Flag("correction", "continuity correction", "correct the interval for continuity"),
       OneOf("interval-method", "interval", "confidence interval of the difference",
-            {{"wald", wald, "Wald"}, {"agresti-min", 1, "Agresti-Min"}, {"bonett-price", 2, "Bonett-Price"}})
+            {{"wald", CodeOf(RelatedMethod::Wald), "Wald"},
+             {"agresti-min", CodeOf(RelatedMethod::AgrestiMin), "Agresti-Min"},
+             {"bonett-price", CodeOf(RelatedMethod::BonettPrice), "Bonett-Price"}})
           .Default("wald"),
   };
 }
@@ -79,22 +93,22 @@ std::vector<Route> PowerRoutes() {
        .needs = {"p12", "p21", "n"},
        .accepts = {"one-sided"},
        .exportName = "PowerbyPRelSampBionm",
-       .value = [](const Inputs& in) { return PowerOfPairs(in, largeSample); }},
+       .value = PowerOfMcNemar()},
       {.question = Question::Power,
        .needs = {"p12", "p21", "n", "exact"},
        .accepts = {"one-sided"},
        .exportName = "PowerbyPRelSampBionm",
-       .value = [](const Inputs& in) { return PowerOfPairs(in, exact); }},
+       .value = PowerOfMcNemar()},
       {.question = Question::Power,
        .needs = {"proportion1", "proportion2", "correlation", "n"},
        .accepts = {"one-sided"},
        .exportName = "PowerbyMargPRelSampBionm",
-       .value = [](const Inputs& in) { return PowerOfMarginals(in, in.Number("n"), largeSample); }},
+       .value = PowerOfMcNemar()},
       {.question = Question::Power,
        .needs = {"proportion1", "proportion2", "correlation", "n", "exact"},
        .accepts = {"one-sided"},
        .exportName = "PowerbyMargPRelSampBionm",
-       .value = [](const Inputs& in) { return PowerOfMarginals(in, in.Number("n"), exact); }},
+       .value = PowerOfMcNemar()},
   };
 }
 
@@ -104,22 +118,22 @@ std::vector<Route> SizeRoutes() {
        .needs = {"p12", "p21"},
        .accepts = {"one-sided"},
        .exportName = "PowerReversebyPRelSampBionm",
-       .sizes = [](const Inputs& in) { return SizeOfPairs(in, largeSample); }},
+       .sizes = Size},
       {.question = Question::SampleSize,
        .needs = {"p12", "p21", "exact"},
        .accepts = {"one-sided", "power"},
        .exportName = "PowerReversebyPRelSampBionm",
-       .sizes = [](const Inputs& in) { return SizeOfPairs(in, exact); }},
+       .sizes = Size},
       {.question = Question::SampleSize,
        .needs = {"proportion1", "proportion2", "correlation"},
        .accepts = {"one-sided"},
        .exportName = "PowerReversebyMargPRelSampBionm",
-       .sizes = [](const Inputs& in) { return SizeOfMarginals(in, largeSample); }},
+       .sizes = Size},
       {.question = Question::SampleSize,
        .needs = {"proportion1", "proportion2", "correlation", "exact"},
        .accepts = {"one-sided"},
        .exportName = "PowerReversebyMargPRelSampBionm",
-       .sizes = [](const Inputs& in) { return SizeOfMarginals(in, exact); }},
+       .sizes = Size},
   };
 }
 
@@ -139,9 +153,15 @@ std::vector<Route> Routes() {
   return routes;
 }
 
-bool HaveACommonDistribution(const Inputs& in) { return PowerOfMarginals(in, 2, largeSample) != -1; }
+bool HaveACommonDistribution(const Inputs& in) {
+  if (proportions::RejectsMarginals(in.Number("proportion1"), in.Number("proportion2"))) return false;
+  const proportions::DiscordantPairs pairs = PairsOf(in);
+  return pairs.p12 >= 0 && pairs.p21 >= 0 && pairs.p12 + pairs.p21 <= 1;
+}
 
-bool CorrectsWhatCanBe(const Inputs& in) { return !in.Flag("correction") || in.Choice("interval-method") == wald; }
+bool CorrectsWhatCanBe(const Inputs& in) {
+  return !in.Flag("correction") || in.Choice("interval-method") == CodeOf(RelatedMethod::Wald);
+}
 
 std::vector<Condition> Conditions() {
   return {
@@ -189,11 +209,11 @@ Test PairedProportionsTest() {
       {.name = "attained-level",
        .label = "significance level attained",
        .needs = {"p12", "p21", "n", "exact"},
-       .call = [](const Inputs& in) { return AttainedLevel(Hypotheses(in), in.Number("n")); }},
+       .call = AttainedLevel},
       {.name = "lasting-n",
        .label = "from here on every sample size reaches the power",
        .needs = {"p12", "p21", "exact", "power"},
-       .call = [](const Inputs& in) { return LastingSize(Hypotheses(in), in.Number("power")); }},
+       .call = LastingSize},
   };
   test.charts = ChartsOfPairedProportions();
   AddWordsOfPairedProportions(test);

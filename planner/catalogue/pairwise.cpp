@@ -1,46 +1,57 @@
 #include <algorithm>
 #include <utility>
 
+#include "anova/contrast.h"
 #include "catalogue/axes.h"
+#include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
-#include "kelpower.h"
 
 namespace planner {
 namespace {
 
-// The library wants the smaller group number first; the test does not depend on the order.
-int First(const Inputs& in) { return static_cast<int>(std::min(in.List("pair")[0], in.List("pair")[1])); }
+namespace anova = kelpower::anova;
 
-int Second(const Inputs& in) { return static_cast<int>(std::max(in.List("pair")[0], in.List("pair")[1])); }
+/// The mean with the smaller number less the other one.
+Numbers Contrast(const Inputs& in) {
+  const auto [first, second] = std::minmax(in.List("pair")[0], in.List("pair")[1]);
+  return anova::PairContrast(in.Groups(), static_cast<int>(first), static_cast<int>(second));
+}
 
 double EffectOfMeans(const Inputs& in) {
-  return EffectSizePairwiseDiff(in.Groups(), in.List("means").data(), in.Number("sd"), nullptr, First(in), Second(in));
+  return anova::ContrastValue(Contrast(in), in.List("means")) / in.Number("sd");
 }
 
-double PowerOfMeans(const Inputs& in) {
-  return PowerPairwiseDiff(in.Groups(), in.List("means").data(), in.Number("sd"), in.List("n").data(), First(in),
-                           Second(in), in.Choice("adjust"), in.Alpha());
+/// The level of the one comparison.
+double Level(const Inputs& in) {
+  return anova::AdjustedAlpha(anova::Adjustment(in.Choice("adjust")), in.Groups(), in.Alpha());
 }
 
-Numbers SizesOfMeans(const Inputs& in) {
-  Numbers sizes;
-  PowerReversePairwiseDiff(in.Groups(), in.List("means").data(), in.Number("sd"), in.Weights().data(), First(in),
-                           Second(in), in.Number("power"), sizes, in.Choice("adjust"), in.Alpha());
-  return sizes;
+constexpr bool oneSided = false;
+
+double Power(const Inputs& in) {
+  const Numbers contrast = Contrast(in);
+  return OrNaN(anova::Power({contrast, in.List("n"), EffectOfMeans(in), oneSided, Level(in)}, TotalSize(in)));
+}
+
+Numbers Sizes(const Inputs& in) {
+  const Numbers contrast = Contrast(in);
+  const Numbers weights = in.Weights();
+  const anova::ContrastDesign design{contrast, weights, EffectOfMeans(in), oneSided, Level(in)};
+  return SpreadByShares(anova::TotalForPower(design, in.Number("power")), weights);
 }
 
 double HalfWidth(const Inputs& in) {
-  return HalfCIPairwiseDiff(TotalSize(in), in.Groups(), in.List("n").data(), First(in), Second(in), in.Number("sd"),
-                            in.Choice("adjust"), in.Alpha());
+  const Numbers contrast = Contrast(in);
+  return anova::HalfWidth({contrast, in.List("n"), in.Number("sd"), Level(in)}, TotalSize(in));
 }
 
 Numbers SizesForHalfWidth(const Inputs& in) {
-  Numbers sizes;
-  PowerReversebyHalfCIPairwiseDiff(in.Number("half-width"), in.Groups(), in.Weights().data(), First(in), Second(in),
-                                   in.Number("sd"), sizes, in.Choice("adjust"), in.Alpha());
-  return sizes;
+  const Numbers contrast = Contrast(in);
+  const Numbers weights = in.Weights();
+  const anova::ContrastInterval interval{contrast, weights, in.Number("sd"), Level(in)};
+  return SpreadByRatios(anova::TotalForHalfWidth(interval, in.Number("half-width")), weights);
 }
 
 std::vector<Parameter> Parameters() {
@@ -65,12 +76,12 @@ std::vector<Route> Routes() {
        .needs = {"pair", "means", "sd", "n"},
        .accepts = {"groups", "adjust"},
        .exportName = "PowerPairwiseDiff",
-       .value = PowerOfMeans},
+       .value = Power},
       {.question = Question::SampleSize,
        .needs = {"pair", "means", "sd"},
        .accepts = {"ratios", "groups", "adjust"},
        .exportName = "PowerReversePairwiseDiff",
-       .sizes = SizesOfMeans},
+       .sizes = Sizes},
       {.question = Question::HalfWidth,
        .needs = {"pair", "sd", "n"},
        .accepts = {"groups", "adjust"},
@@ -88,11 +99,11 @@ std::vector<Condition> Conditions() {
   return {
       {.code = "pair-differs",
        .about = {"pair"},
-       .holds = [](const Inputs& in) { return First(in) < Second(in); },
+       .holds = [](const Inputs& in) { return in.List("pair")[0] != in.List("pair")[1]; },
        .sentence = "{pair} must name two different groups."},
       {.code = "pair-exists",
        .about = {"pair"},
-       .holds = [](const Inputs& in) { return Second(in) <= in.Groups(); },
+       .holds = [](const Inputs& in) { return std::max(in.List("pair")[0], in.List("pair")[1]) <= in.Groups(); },
        .sentence = "{pair} names a group beyond the number of groups."},
       ErrorDegrees(),
   };

@@ -1,14 +1,17 @@
 #include <algorithm>
 #include <utility>
 
+#include "catalogue/core.h"
 #include "catalogue/correlation.h"
 #include "catalogue/correlation_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
-#include "kelpower.h"
+#include "correlation/pearson.h"
 
 namespace planner {
 namespace {
+
+namespace correlation = kelpower::correlation;
 
 constexpr double mostPartialledOut = 1e5;
 
@@ -16,23 +19,25 @@ double PartialledOut(const Inputs& in) { return in.Number("partialled-out"); }
 
 double SmallestSize(const Inputs& in) { return PartialledOut(in) + 4; }
 
-double Power(const Inputs& in) {
-  return PowerbyOneSampPartial(in.Number("n"), PartialledOut(in), in.Number("r"), in.Number("null"),
-                               in.Flag("one-sided"), in.Alpha());
+/// The test of a partial correlation corrects the bias, and its interval does not.
+correlation::PearsonTest TestOf(const Inputs& in) {
+  return {{in.Alpha(), in.Flag("one-sided")}, PartialledOut(in), true};
 }
 
-double Size(const Inputs& in) {
-  return PowerReversebyOneSampPartial(in.Number("power"), PartialledOut(in), in.Number("r"), in.Number("null"),
-                                      in.Flag("one-sided"), in.Alpha());
+correlation::PearsonInterval IntervalOf(const Inputs& in) {
+  return {correlation::Confidence(in.Alpha()), in.Number("r"), PartialledOut(in), false};
 }
 
-double HalfWidth(const Inputs& in) {
-  return HalfCIOneSampPartial(in.Number("n"), PartialledOut(in), in.Number("r"), in.Alpha());
+double Power(const Inputs& in) { return OrNaN(correlation::Power(TestOf(in), in.Number("n"), HypothesesOf(in))); }
+
+Numbers Size(const Inputs& in) {
+  return RoundedUp(correlation::SizeForPower(TestOf(in), HypothesesOf(in), in.Number("power"), StopOf(in)));
 }
 
-double SizeForHalfWidth(const Inputs& in) {
-  return PowerReversebyHalfCIOneSampPartial(in.Number("half-width"), PartialledOut(in), in.Number("r"), in.Alpha(),
-                                            in.Stop());
+double HalfWidth(const Inputs& in) { return correlation::HalfWidth(IntervalOf(in), in.Number("n")); }
+
+Numbers SizeForHalfWidth(const Inputs& in) {
+  return RoundedUp(correlation::SizeForHalfWidth(IntervalOf(in), in.Number("half-width"), StopOf(in)));
 }
 
 std::optional<Problem> RefuseDrawnSizes(const Inputs& in, const Range& sizes) {

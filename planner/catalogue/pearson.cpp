@@ -1,31 +1,36 @@
+#include "correlation/pearson.h"
+
 #include <utility>
 
+#include "catalogue/core.h"
 #include "catalogue/correlation.h"
 #include "catalogue/correlation_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
-#include "kelpower.h"
 
 namespace planner {
 namespace {
 
-double Power(const Inputs& in) {
-  return PowerbyOneSampPearson(in.Number("n"), in.Number("r"), in.Number("null"), in.Flag("one-sided"),
-                               in.Flag("adjust-bias"), in.Alpha());
+namespace correlation = kelpower::correlation;
+
+correlation::PearsonTest TestOf(const Inputs& in) {
+  return {{in.Alpha(), in.Flag("one-sided")}, 0, in.Flag("adjust-bias")};
 }
 
-double Size(const Inputs& in) {
-  return PowerReversebyOneSampPearson(in.Number("power"), in.Number("r"), in.Number("null"), in.Flag("one-sided"),
-                                      in.Flag("adjust-bias"), in.Alpha(), in.Stop());
+correlation::PearsonInterval IntervalOf(const Inputs& in) {
+  return {correlation::Confidence(in.Alpha()), in.Number("r"), 0, in.Flag("adjust-bias")};
 }
 
-double HalfWidth(const Inputs& in) {
-  return HalfCIOneSampPearson(in.Number("n"), in.Number("r"), in.Flag("adjust-bias"), in.Alpha());
+double Power(const Inputs& in) { return OrNaN(correlation::Power(TestOf(in), in.Number("n"), HypothesesOf(in))); }
+
+Numbers Size(const Inputs& in) {
+  return RoundedUp(correlation::SizeForPower(TestOf(in), HypothesesOf(in), in.Number("power"), StopOf(in)));
 }
 
-double SizeForHalfWidth(const Inputs& in) {
-  return PowerReversebyHalfCIOneSampPearson(in.Number("half-width"), in.Number("r"), in.Flag("adjust-bias"), in.Alpha(),
-                                            in.Stop());
+double HalfWidth(const Inputs& in) { return correlation::HalfWidth(IntervalOf(in), in.Number("n")); }
+
+Numbers SizeForHalfWidth(const Inputs& in) {
+  return RoundedUp(correlation::SizeForHalfWidth(IntervalOf(in), in.Number("half-width"), StopOf(in)));
 }
 
 }  // namespace

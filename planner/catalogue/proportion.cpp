@@ -3,61 +3,86 @@
 #include <utility>
 
 #include "catalogue/axes.h"
-#include "catalogue/exact_proportions.h"
+#include "catalogue/core.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
-#include "kelcommon/kel_mv.h"
-#include "kelpower.h"
+#include "proportions/lasting_size.h"
+#include "proportions/one_sample_interval.h"
+#include "proportions/one_sample_tests.h"
 
 namespace planner {
 namespace {
 
-constexpr int wald = 0;
-constexpr int wilson = 5;
-constexpr int normal = 0;
-constexpr int exact = 1;
+namespace proportions = kelpower::proportions;
+using proportions::OneSampleMethod;
 
-OneProportion Hypotheses(const Inputs& in) {
-  return {in.Number("proportion"), in.Number("null"), in.Flag("one-sided"), in.Alpha()};
+proportions::OneSampleDesign DesignOf(const Inputs& in) {
+  return {in.Flag("exact"), in.Flag("one-sided"), in.Alpha(), in.Flag("correction")};
 }
 
-// The exact test is handed no stop request, which it would ask once for each count below the size: that takes up to
-// some thousand times as long as the power, and a search ends by itself in well under a second.
-double PowerAt(const Inputs& in, int method) {
-  return PowerOneSampBinom(in.Number("n"), in.Number("proportion"), in.Number("null"), method, in.Flag("one-sided"),
-                           in.Alpha(), in.Flag("correction"), nullptr);
+proportions::OneSampleProportions ProportionsOf(const Inputs& in) {
+  return {in.Number("proportion"), in.Number("null")};
 }
 
-Numbers SizeOf(const Inputs& in, int method) {
-  return {std::ceil(PowerReverseOneSampBinom(in.Number("power"), in.Number("proportion"), in.Number("null"), method,
-                                             in.Flag("one-sided"), in.Alpha(), in.Flag("correction"), nullptr))};
+/// The power; designs at one level share the test, which keeps the critical values of a size.
+///
+/// The exact test is handed no stop request. It would ask it once for each count below the size, which takes up to some
+/// thousand times as long as the power, and a search ends by itself in well under a second.
+class PowerOfProportion {
+public:
+  double operator()(const Inputs& in) {
+    const proportions::OneSampleDesign design = DesignOf(in);
+    const auto& [isExact, isOneSided, alpha, isCorrected] = design;
+    proportions::OneSampleTest& test =
+        kept_.For({double(isExact), double(isOneSided), alpha, double(isCorrected)}, design);
+    return OrNaN(test.Power(in.Number("n"), ProportionsOf(in)));
+  }
+
+private:
+  Kept<proportions::OneSampleTest, 4> kept_;
+};
+
+Numbers Size(const Inputs& in) {
+  return RoundedUp(proportions::SizeForPower(DesignOf(in), ProportionsOf(in), in.Number("power")));
 }
 
-double HalfWidth(const Inputs& in) {
-  return HalfCIOneSampBinom(in.Number("n"), in.Number("proportion"), in.Choice("interval-method"), in.Alpha(),
-                            in.Flag("correction"));
+proportions::OneSampleInterval IntervalOf(const Inputs& in) {
+  return proportions::OneSampleInterval(
+      {OneSampleMethod(in.Choice("interval-method")), in.Number("proportion"), in.Alpha(), in.Flag("correction")});
 }
+
+double HalfWidth(const Inputs& in) { return IntervalOf(in).HalfWidth(in.Number("n")); }
 
 Numbers SizeForHalfWidth(const Inputs& in) {
-  return {std::ceil(PowerReversebyHalfCIOneSampBinom(in.Number("half-width"), in.Number("proportion"),
-                                                     in.Choice("interval-method"), in.Alpha(), in.Flag("correction"),
-                                                     in.Stop()))};
+  return RoundedUp(IntervalOf(in).SizeFor(in.Number("half-width"), StopOf(in)));
 }
 
-// Missing, and so not reported, where no count in that tail rejects.
+proportions::CriticalRegion RegionOf(const Inputs& in) {
+  return proportions::OneSampleTest(DesignOf(in)).Region(in.Number("n"), ProportionsOf(in));
+}
+
+// No number, and so not reported, where no count in that tail rejects.
 double LargestLowRejection(const Inputs& in) {
-  const double count = CriticalCounts(Hypotheses(in), in.Number("n")).lower;
-  return count < 0 ? KelCommon::KelMV::Missing() : count;
+  const double count = RegionOf(in).lower;
+  return count < 0 ? OrNaN(kelpower::NoValue::NotReached) : count;
 }
 
 double SmallestHighRejection(const Inputs& in) {
-  const double count = CriticalCounts(Hypotheses(in), in.Number("n")).upper;
-  return count > in.Number("n") ? KelCommon::KelMV::Missing() : count;
+  const double count = RegionOf(in).upper;
+  return count > in.Number("n") ? OrNaN(kelpower::NoValue::NotReached) : count;
+}
+
+double AttainedLevel(const Inputs& in) {
+  return proportions::OneSampleTest(DesignOf(in)).AttainedLevel(in.Number("n"), ProportionsOf(in));
+}
+
+double LastingSize(const Inputs& in) {
+  return OrNaN(proportions::LastingSize(DesignOf(in), ProportionsOf(in), in.Number("power")));
 }
 
 bool CorrectsWhatCanBe(const Inputs& in) {
-  const int method = in.Choice("interval-method");
-  return !in.Flag("correction") || method == wald || method == wilson;
+  const auto method = OneSampleMethod(in.Choice("interval-method"));
+  return !in.Flag("correction") || method == OneSampleMethod::Wald || method == OneSampleMethod::Wilson;
 }
 
 std::vector<Parameter> Parameters() {
@@ -69,13 +94,13 @@ std::vector<Parameter> Parameters() {
       Flag("one-sided", "one-sided test", "test in the direction of the proportion expected only"),
       Flag("correction", "continuity correction", "correct the normal approximation for continuity"),
       OneOf("interval-method", "interval", "confidence interval of the proportion",
-            {{"wald", wald, "Wald"},
-             {"adjusted-logit", 1, "adjusted logit"},
-             {"logit", 2, "logit"},
-             {"clopper-pearson", 3, "Clopper-Pearson"},
-             {"jeffreys", 4, "Jeffreys"},
-             {"wilson", wilson, "Wilson"},
-             {"agresti-coull", 6, "Agresti-Coull"}})
+            {{"wald", CodeOf(OneSampleMethod::Wald), "Wald"},
+             {"adjusted-logit", CodeOf(OneSampleMethod::LogitAdjusted), "adjusted logit"},
+             {"logit", CodeOf(OneSampleMethod::Logit), "logit"},
+             {"clopper-pearson", CodeOf(OneSampleMethod::ClopperPearson), "Clopper-Pearson"},
+             {"jeffreys", CodeOf(OneSampleMethod::Jeffreys), "Jeffreys"},
+             {"wilson", CodeOf(OneSampleMethod::Wilson), "Wilson"},
+             {"agresti-coull", CodeOf(OneSampleMethod::AgrestiCoull), "Agresti-Coull"}})
           .Default("wilson"),
   };
 }
@@ -86,22 +111,22 @@ std::vector<Route> Routes() {
        .needs = {"proportion", "null", "n"},
        .accepts = {"one-sided", "correction"},
        .exportName = "PowerOneSampBinom",
-       .value = [](const Inputs& in) { return PowerAt(in, normal); }},
+       .value = PowerOfProportion()},
       {.question = Question::Power,
        .needs = {"proportion", "null", "n", "exact"},
        .accepts = {"one-sided"},
        .exportName = "PowerOneSampBinom",
-       .value = [](const Inputs& in) { return PowerAt(in, exact); }},
+       .value = PowerOfProportion()},
       {.question = Question::SampleSize,
        .needs = {"proportion", "null"},
        .accepts = {"one-sided", "correction"},
        .exportName = "PowerReverseOneSampBinom",
-       .sizes = [](const Inputs& in) { return SizeOf(in, normal); }},
+       .sizes = Size},
       {.question = Question::SampleSize,
        .needs = {"proportion", "null", "exact"},
        .accepts = {"one-sided", "power"},
        .exportName = "PowerReverseOneSampBinom",
-       .sizes = [](const Inputs& in) { return SizeOf(in, exact); }},
+       .sizes = Size},
       {.question = Question::HalfWidth,
        .needs = {"proportion", "n"},
        .accepts = {"interval-method", "correction"},
@@ -193,11 +218,11 @@ std::vector<Derived> DerivedFigures() {
       {.name = "attained-level",
        .label = "significance level attained",
        .needs = {"proportion", "null", "n", "exact"},
-       .call = [](const Inputs& in) { return AttainedLevel(Hypotheses(in), in.Number("n")); }},
+       .call = AttainedLevel},
       {.name = "lasting-n",
        .label = "from here on every sample size reaches the power",
        .needs = {"proportion", "null", "exact", "power"},
-       .call = [](const Inputs& in) { return LastingSize(Hypotheses(in), in.Number("power")); }},
+       .call = LastingSize},
   };
 }
 

@@ -3,13 +3,16 @@
 #include <utility>
 
 #include "catalogue/axes.h"
+#include "catalogue/core.h"
 #include "catalogue/correlation_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
-#include "kelpower.h"
+#include "regression/f_test.h"
 
 namespace planner {
 namespace {
+
+namespace regression = kelpower::regression;
 
 constexpr double mostPredictors = 1e5;
 
@@ -23,32 +26,21 @@ double SmallestSize(const Inputs& in) { return Predictors(in) + (Intercept(in) ?
 
 double Reduced(const Inputs& in) { return in.Has("r-squared-reduced") ? in.Number("r-squared-reduced") : 0; }
 
-/// The library takes R where there is no reduced model, and R squared where there is one.
-double Fit(const Inputs& in) {
-  const double rSquared = in.Number("r-squared");
-  return Reduced(in) == 0 ? std::sqrt(rSquared) : rSquared;
-}
-
 double EffectOfFits(const Inputs& in) { return (in.Number("r-squared") - Reduced(in)) / (1 - in.Number("r-squared")); }
 
-double PowerOfFits(const Inputs& in) {
-  return Powerbymlr(in.Number("n"), Predictors(in), Tested(in), Fit(in), Reduced(in), in.Flag("random"), Intercept(in),
-                    in.Alpha());
+regression::Model ModelOf(const Inputs& in) {
+  return {Predictors(in), Tested(in), in.Flag("random"), Intercept(in), in.Alpha()};
 }
 
-double PowerOfEffect(const Inputs& in) {
-  return PowerbymlrwES(in.Number("n"), Predictors(in), Tested(in), in.Number("effect-f2"), in.Flag("random"),
-                       Intercept(in), in.Alpha());
+regression::Effect EffectOf(const Inputs& in) {
+  if (in.Has("effect-f2")) return regression::Effect::OfFSquared(in.Number("effect-f2"));
+  return regression::Effect::OfRSquared(in.Number("r-squared"), Reduced(in));
 }
 
-Numbers SizeForFits(const Inputs& in) {
-  return {std::ceil(PowerReversebymlr(in.Number("power"), Predictors(in), Tested(in), Fit(in), Reduced(in),
-                                      in.Flag("random"), Intercept(in), in.Alpha()))};
-}
+double Power(const Inputs& in) { return OrNaN(regression::Power(ModelOf(in), in.Number("n"), EffectOf(in))); }
 
-Numbers SizeForEffect(const Inputs& in) {
-  return {std::ceil(PowerReversebymlrwES(in.Number("power"), Predictors(in), Tested(in), in.Number("effect-f2"),
-                                         in.Flag("random"), Intercept(in), in.Alpha()))};
+Numbers Size(const Inputs& in) {
+  return RoundedUp(regression::SizeForPower(ModelOf(in), EffectOf(in), in.Number("power")));
 }
 
 std::vector<Parameter> Parameters() {
@@ -80,22 +72,22 @@ std::vector<Route> Routes() {
        .needs = {"r-squared", "predictors", "n"},
        .accepts = ofFits,
        .exportName = "Powerbymlr",
-       .value = PowerOfFits},
+       .value = Power},
       {.question = Question::Power,
        .needs = {"effect-f2", "predictors", "n"},
        .accepts = ofEffect,
        .exportName = "PowerbymlrwES",
-       .value = PowerOfEffect},
+       .value = Power},
       {.question = Question::SampleSize,
        .needs = {"r-squared", "predictors"},
        .accepts = ofFits,
        .exportName = "PowerReversebymlr",
-       .sizes = SizeForFits},
+       .sizes = Size},
       {.question = Question::SampleSize,
        .needs = {"effect-f2", "predictors"},
        .accepts = ofEffect,
        .exportName = "PowerReversebymlrwES",
-       .sizes = SizeForEffect},
+       .sizes = Size},
   };
 }
 

@@ -1,43 +1,47 @@
+#include "correlation/spearman.h"
+
 #include <utility>
 
+#include "catalogue/core.h"
 #include "catalogue/correlation.h"
 #include "catalogue/correlation_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
-#include "kelpower.h"
 
 namespace planner {
 namespace {
 
-constexpr int carusoCliff = 2;
+namespace correlation = kelpower::correlation;
+using correlation::RankVariance;
+
+RankVariance VarianceOf(const Inputs& in) { return RankVariance(in.Choice("variance")); }
 
 // The other variances divide by the size less 3.
-double SmallestSize(const Inputs& in) { return in.Choice("variance") == carusoCliff ? 3 : 4; }
+double SmallestSize(const Inputs& in) { return VarianceOf(in) == RankVariance::CarusoCliff ? 3 : 4; }
 
-double Power(const Inputs& in) {
-  return PowerbyOneSampSpearman(in.Number("n"), in.Number("r"), in.Number("null"), in.Choice("variance"),
-                                in.Flag("one-sided"), in.Alpha());
+correlation::SpearmanTest TestOf(const Inputs& in) { return {{in.Alpha(), in.Flag("one-sided")}, VarianceOf(in)}; }
+
+correlation::SpearmanInterval IntervalOf(const Inputs& in) {
+  return {correlation::Confidence(in.Alpha()), in.Number("r"), VarianceOf(in)};
 }
 
-double Size(const Inputs& in) {
-  return PowerReversebyOneSampSpearman(in.Number("power"), in.Number("r"), in.Number("null"), in.Choice("variance"),
-                                       in.Flag("one-sided"), in.Alpha());
+double Power(const Inputs& in) { return OrNaN(correlation::Power(TestOf(in), in.Number("n"), HypothesesOf(in))); }
+
+Numbers Size(const Inputs& in) {
+  return RoundedUp(correlation::SizeForPower(TestOf(in), HypothesesOf(in), in.Number("power"), StopOf(in)));
 }
 
-double HalfWidth(const Inputs& in) {
-  return HalfCIOneSampSpearman(in.Number("n"), in.Number("r"), in.Choice("variance"), in.Alpha());
-}
+double HalfWidth(const Inputs& in) { return correlation::HalfWidth(IntervalOf(in), in.Number("n")); }
 
-double SizeForHalfWidth(const Inputs& in) {
-  return PowerReversebyHalfCIOneSampSpearman(in.Number("half-width"), in.Number("r"), in.Choice("variance"), in.Alpha(),
-                                             in.Stop());
+Numbers SizeForHalfWidth(const Inputs& in) {
+  return RoundedUp(correlation::SizeForHalfWidth(IntervalOf(in), in.Number("half-width"), StopOf(in)));
 }
 
 Parameter Variance() {
   return OneOf("variance", "variance of z", "approximation of the variance of Fisher's z of a rank correlation",
-               {{"bonett-wright", 0, "Bonett and Wright"},
-                {"fieller", 1, "Fieller, Hartley and Pearson"},
-                {"caruso-cliff", carusoCliff, "Caruso and Cliff"}})
+               {{"bonett-wright", CodeOf(RankVariance::BonettWright), "Bonett and Wright"},
+                {"fieller", CodeOf(RankVariance::FiellerHartleyPearson), "Fieller, Hartley and Pearson"},
+                {"caruso-cliff", CodeOf(RankVariance::CarusoCliff), "Caruso and Cliff"}})
       .Default("bonett-wright");
 }
 

@@ -3,67 +3,59 @@
 #include <utility>
 
 #include "catalogue/axes.h"
+#include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/mean_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/two_groups.h"
 #include "catalogue/words.h"
-#include "kelpower.h"
+#include "means/independent.h"
 
 namespace planner {
 namespace {
 
-double PowerOfMeans(const Inputs& in) {
-  const Numbers& n = in.List("n");
-  const Numbers& means = in.List("means");
-  const Numbers& sds = in.List("sd");
-  const auto power = in.Flag("one-sided") ? PowerIndependentDirectional : PowerIndependentNondirectional;
-  return power(n[0], means[0], sds[0], n[1], means[1], sds[1], in.Alpha());
+namespace means = kelpower::means;
+
+double Difference(const Inputs& in) { return in.List("means")[0] - in.List("means")[1]; }
+
+/// Equal standard deviations select the pooled test.
+means::GroupSpreads SpreadsOf(double sd1, double sd2) { return {sd1, sd2, sd1 == sd2}; }
+
+means::GroupSpreads SpreadsOf(const Inputs& in) { return SpreadsOf(in.List("sd")[0], in.List("sd")[1]); }
+
+/// An effect size is a difference in the unit of the standard deviation.
+means::TwoSampleDesign DesignOf(const Inputs& in) {
+  if (in.Has("effect-d")) return {in.Number("effect-d"), SpreadsOf(1, 1), SidesOf(in), in.Alpha()};
+  return {Difference(in), SpreadsOf(in), SidesOf(in), in.Alpha()};
 }
 
-double PowerOfEffect(const Inputs& in) {
-  const auto power = in.Flag("one-sided") ? PowerIndependentDirectionalES : PowerIndependentNondirectionalES;
-  return power(in.List("n")[0], in.List("n")[1], in.Number("effect-d"), in.Alpha());
-}
+constexpr double smallestSecond = 2;
 
-Numbers SizesOfMeans(const Inputs& in) {
-  const Numbers& means = in.List("means");
-  const Numbers& sds = in.List("sd");
-  const auto find = in.Flag("one-sided") ? PowerReverseIndependentDirectional : PowerReverseIndependentNondirectional;
-  Numbers sizes;
-  find(in.Number("power"), in.Number("ratio"), means[0], sds[0], means[1], sds[1], sizes, in.Alpha());
-  return sizes;
-}
+double Power(const Inputs& in) { return OrNaN(means::Power(DesignOf(in), in.List("n")[0], in.List("n")[1])); }
 
-Numbers SizesOfEffect(const Inputs& in) {
-  const auto find =
-      in.Flag("one-sided") ? PowerReverseIndependentDirectionalES : PowerReverseIndependentNondirectionalES;
-  Numbers sizes;
-  find(in.Number("power"), in.Number("ratio"), in.Number("effect-d"), sizes, in.Alpha());
-  return sizes;
+Numbers Sizes(const Inputs& in) {
+  const double ratio = in.Number("ratio");
+  return RoundedUp(means::FirstSizeForPower(DesignOf(in), ratio, in.Number("power")), ratio, smallestSecond);
 }
 
 double HalfWidth(const Inputs& in) {
-  const Numbers& n = in.List("n");
-  const Numbers& sds = in.List("sd");
-  return HalfCIIndependentMeans(n[0], sds[0], n[1], sds[1], in.Alpha());
+  return means::HalfWidth({SpreadsOf(in), in.Alpha()}, in.List("n")[0], in.List("n")[1]);
 }
 
-/// Asked in units of the larger standard deviation: the library's search ends at a fixed distance in the unit given.
+/// Asked in units of the larger standard deviation: the core's search ends at a fixed distance in the unit given.
 Numbers SizesForHalfWidth(const Inputs& in) {
   const Numbers& sds = in.List("sd");
   const double unit = std::max(sds[0], sds[1]);
-  Numbers sizes;
-  PowerReversebyHalfCIIndependentMeans(in.Number("half-width") / unit, in.Number("ratio"), sds[0] / unit, sds[1] / unit,
-                                       sizes, in.Alpha());
-  return sizes;
+  const double ratio = in.Number("ratio");
+  const means::TwoSampleInterval interval{SpreadsOf(sds[0] / unit, sds[1] / unit), in.Alpha()};
+  return RoundedUp(means::FirstSizeForHalfWidth(interval, ratio, in.Number("half-width") / unit), ratio,
+                   smallestSecond);
 }
 
 /// Over the root mean square of the standard deviations (Cohen 1988, formula 2.3.2).
 double EffectSize(const Inputs& in) {
-  const Numbers& means = in.List("means");
   const Numbers& sds = in.List("sd");
-  return EffectSizeIndependent(means[0], means[1], std::hypot(sds[0], sds[1]) / std::sqrt(2.0));
+  return Difference(in) / (std::hypot(sds[0], sds[1]) / std::sqrt(2.0));
 }
 
 std::vector<Parameter> Parameters() {
@@ -84,25 +76,25 @@ std::vector<Route> Routes() {
        .accepts = {"one-sided"},
        .exportName = "PowerIndependentNondirectional",
        .oneSidedExport = "PowerIndependentDirectional",
-       .value = PowerOfMeans},
+       .value = Power},
       {.question = Question::Power,
        .needs = {"effect-d", "n"},
        .accepts = {"one-sided"},
        .exportName = "PowerIndependentNondirectionalES",
        .oneSidedExport = "PowerIndependentDirectionalES",
-       .value = PowerOfEffect},
+       .value = Power},
       {.question = Question::SampleSize,
        .needs = {"means", "sd"},
        .accepts = {"ratio", "one-sided"},
        .exportName = "PowerReverseIndependentNondirectional",
        .oneSidedExport = "PowerReverseIndependentDirectional",
-       .sizes = SizesOfMeans},
+       .sizes = Sizes},
       {.question = Question::SampleSize,
        .needs = {"effect-d"},
        .accepts = {"ratio", "one-sided"},
        .exportName = "PowerReverseIndependentNondirectionalES",
        .oneSidedExport = "PowerReverseIndependentDirectionalES",
-       .sizes = SizesOfEffect},
+       .sizes = Sizes},
       {.question = Question::HalfWidth,
        .needs = {"sd", "n"},
        .exportName = "HalfCIIndependentMeans",
@@ -128,8 +120,6 @@ std::optional<Problem> RefuseRatios(const Inputs& in, const Range& ratios) {
   if (ratios.from > 1 / most && ratios.to < most) return std::nullopt;
   return Problem{.code = Code::ChartEmpty};
 }
-
-double Difference(const Inputs& in) { return in.List("means")[0] - in.List("means")[1]; }
 
 /// From -5 to 5 times the design's difference, or -100 to 100 for a design without one.
 Axis DifferenceAxis() {

@@ -2,14 +2,21 @@
 
 #include <utility>
 
+#include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/two_groups.h"
 #include "catalogue/words.h"
+#include "proportions/independent_interval.h"
 
 namespace planner {
 
-bool IsConditional(const Inputs& in) { return in.Choice("test") == conditionalTest; }
+using kelpower::proportions::IndependentMethod;
+using kelpower::proportions::TwoProportionTest;
+
+TwoProportionTest TestOf(const Inputs& in) { return TwoProportionTest(in.Choice("test")); }
+
+bool IsConditional(const Inputs& in) { return TestOf(in) == TwoProportionTest::Conditional; }
 
 bool IsExact(const Inputs& in) { return in.Flag("exact") || IsConditional(in); }
 
@@ -61,23 +68,23 @@ std::vector<Parameter> ParametersOfTwoProportions() {
       GroupSizes().AtLeast(2),
       RatioOfSizes(),
       OneOf("test", "test", "test of the difference; conditional is always exact",
-            {{"z", zTest, "z test"},
-             {"t", tTest, "t test"},
-             {"likelihood-ratio", 2, "likelihood-ratio test"},
-             {"arcsine", arcsineTest, "arcsine test"},
-             {"conditional", conditionalTest, "conditional (Fisher) test"}})
+            {{"z", CodeOf(TwoProportionTest::Z), "z test"},
+             {"t", CodeOf(TwoProportionTest::T), "t test"},
+             {"likelihood-ratio", CodeOf(TwoProportionTest::LikelihoodRatio), "likelihood-ratio test"},
+             {"arcsine", CodeOf(TwoProportionTest::Arcsine), "arcsine test"},
+             {"conditional", CodeOf(TwoProportionTest::Conditional), "conditional (Fisher) test"}})
           .Default("z"),
       Flag("exact", "exact power", "sum over all tables in place of the large-sample formula"),
       Flag("pooled", "pooled variance", "standard error under equal proportions (z), pooled variance (t)"),
       Flag("continuity-correction", "continuity correction", "correct the z test or the interval for continuity"),
       Flag("one-sided", "one-sided test", "test in the direction of the difference only"),
       OneOf("interval-method", "interval", "confidence interval of the difference",
-            {{"wald", 0, "Wald"},
-             {"agresti-caffo", 1, "Agresti-Caffo"},
-             {"uniform-prior", 2, "uniform-prior"},
-             {"brown-li-jeffreys", 3, "Brown-Li-Jeffreys"},
-             {"hauck-anderson", 4, "Hauck-Anderson"},
-             {"newcombe", 5, "Newcombe"}})
+            {{"wald", CodeOf(IndependentMethod::Wald), "Wald"},
+             {"agresti-caffo", CodeOf(IndependentMethod::AgrestiCaffo), "Agresti-Caffo"},
+             {"uniform-prior", CodeOf(IndependentMethod::AgrestiCaffoUnbiased), "uniform-prior"},
+             {"brown-li-jeffreys", CodeOf(IndependentMethod::HalfAdded), "Brown-Li-Jeffreys"},
+             {"hauck-anderson", CodeOf(IndependentMethod::UnbiasedCorrected), "Hauck-Anderson"},
+             {"newcombe", CodeOf(IndependentMethod::Newcombe), "Newcombe"}})
           .Default("newcombe"),
   };
 }

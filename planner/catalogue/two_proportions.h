@@ -5,18 +5,15 @@
 #include "model/chart.h"
 #include "model/inputs.h"
 #include "model/test.h"
+#include "proportions/independent_design.h"
 
 // What the questions about two independent proportions and their charts share.
 namespace planner {
 
-constexpr int zTest = 0;
-constexpr int tTest = 1;
-constexpr int arcsineTest = 3;
-constexpr int conditionalTest = 4;  // 3 would let the search of sizes end by the z test
-
 // An exact power counts tables: these groups take less than a second.
 constexpr double largestExactGroup = 10000;
 
+kelpower::proportions::TwoProportionTest TestOf(const Inputs& in);
 bool IsConditional(const Inputs& in);
 bool IsExact(const Inputs& in);
 

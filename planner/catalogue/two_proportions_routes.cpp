@@ -2,14 +2,18 @@
 #include <cmath>
 #include <utility>
 
+#include "catalogue/core.h"
 #include "catalogue/two_proportions.h"
-#include "kelpower.h"
+#include "proportions/independent_interval.h"
+#include "proportions/independent_power.h"
+#include "proportions/independent_sizes.h"
 
 namespace planner {
 namespace {
 
-constexpr int wald = 0;
-constexpr int newcombe = 5;
+namespace proportions = kelpower::proportions;
+using proportions::IndependentMethod;
+using proportions::TwoProportionTest;
 
 // A search takes some hundred powers, and the work of the conditional test grows with the square of the size.
 constexpr double largestExactSearch = 5000;
@@ -17,77 +21,92 @@ constexpr double largestExactSearch = 5000;
 // Rounding in the sum over the tables must not keep a search from its target.
 constexpr double largestExactPower = 0.9999;
 
+proportions::IndependentDesign DesignOf(const Inputs& in) {
+  return {TestOf(in),       IsExact(in), in.Flag("one-sided"), in.Alpha(), in.Flag("continuity-correction"),
+          in.Flag("pooled")};
+}
+
 /// The stop request of the conditional test. The other exact tests ask it once a table, which takes up to some hundred
 /// times as long as their power; they end in a tenth of a second without it.
-StopRequest* StopOfTables(const Inputs& in) { return IsConditional(in) ? in.Stop() : nullptr; }
+kelpower::Stop StopOfTables(const Inputs& in) { return IsConditional(in) ? StopOf(in) : kelpower::Stop(); }
 
-double Power(const Inputs& in) {
-  const Numbers& n = in.List("n");
-  return PowerIndSampBinom(n[0], n[1], FirstProportion(in), SecondProportion(in), IsExact(in), in.Choice("test"),
-                           in.Flag("one-sided"), in.Alpha(), in.Flag("continuity-correction"), in.Flag("pooled"),
-                           StopOfTables(in));
-}
-
-Numbers FoundSizes(const Inputs& in, bool exact, int method) {
-  Numbers sizes;
-  PowerReverseIndSampBinom(in.Number("power"), FirstProportion(in), SecondProportion(in), sizes, in.Number("ratio"),
-                           exact, method, in.Flag("one-sided"), in.Alpha(), in.Flag("continuity-correction"),
-                           in.Flag("pooled"), exact ? StopOfTables(in) : nullptr);
-  return sizes;
-}
-
-/// The library squares the first size in the second one where all of these flags are set, so it is made here instead.
-Numbers LargeSampleSizes(const Inputs& in, int method) {
-  Numbers sizes = FoundSizes(in, false, method);
-  if (method == zTest && in.Flag("one-sided") && in.Flag("continuity-correction") && in.Flag("pooled")) {
-    sizes[1] = std::ceil(in.Number("ratio") * sizes[0]);
+/// The power; designs that differ in their proportions alone share the test, which keeps its rejection region.
+class PowerOfTwoProportions {
+public:
+  double operator()(const Inputs& in) {
+    const proportions::IndependentDesign design = DesignOf(in);
+    const Numbers& n = in.List("n");
+    const auto& [test, isExact, isOneSided, alpha, isCorrected, isPooled] = design;
+    const Kept<proportions::IndependentPower, 8>::Key key{
+        double(test), double(isExact), double(isOneSided), alpha, double(isCorrected), double(isPooled), n[0], n[1]};
+    proportions::IndependentPower& power = kept_.For(key, design, n[0], n[1]);
+    return OrNaN(power.At(FirstProportion(in), SecondProportion(in), StopOfTables(in)));
   }
-  return sizes;
+
+private:
+  Kept<proportions::IndependentPower, 8> kept_;
+};
+
+proportions::IndependentSizes WantedOf(const Inputs& in) {
+  return {FirstProportion(in), SecondProportion(in), in.Number("ratio")};
 }
 
-Numbers Sizes(const Inputs& in) {
-  return IsExact(in) ? FoundSizes(in, true, in.Choice("test")) : LargeSampleSizes(in, in.Choice("test"));
+Numbers LargeSampleSizes(const Inputs& in, TwoProportionTest test) {
+  constexpr double smallestSecond = 1;
+  proportions::IndependentDesign design = DesignOf(in);
+  design.test = test;
+  design.isExact = false;
+  const proportions::IndependentSizes wanted = WantedOf(in);
+  return RoundedUp(proportions::FirstSizeForPower(design, wanted, in.Number("power")), wanted.ratio, smallestSecond);
 }
+
+Numbers ExactSizes(const Inputs& in) {
+  const proportions::IndependentSizes wanted = WantedOf(in);
+  const auto first = proportions::FirstSizeForPower(DesignOf(in), wanted, in.Number("power"), StopOfTables(in));
+  return first ? Numbers{*first, proportions::WholeSecondSize(wanted.ratio, *first)} : Numbers{};
+}
+
+Numbers Sizes(const Inputs& in) { return IsExact(in) ? ExactSizes(in) : LargeSampleSizes(in, TestOf(in)); }
 
 /// The large-sample sizes tell whether an exact search is short enough to start.
 bool IsShortSearch(const Inputs& in) {
   if (!IsExact(in)) return true;
-  const Numbers sizes = LargeSampleSizes(in, IsConditional(in) ? zTest : in.Choice("test"));
-  return std::all_of(sizes.begin(), sizes.end(), [](double size) { return size > 0 && size <= largestExactSearch; });
+  const Numbers sizes = LargeSampleSizes(in, IsConditional(in) ? TwoProportionTest::Z : TestOf(in));
+  return !sizes.empty() && std::max(sizes[0], sizes[1]) <= largestExactSearch;
 }
 
-double HalfWidth(const Inputs& in) {
-  const Numbers& n = in.List("n");
-  return HalfCIIndSampBinom(n[0], n[1], FirstProportion(in), SecondProportion(in), in.Choice("interval-method"),
-                            in.Alpha(), in.Flag("continuity-correction"));
+proportions::IndependentInterval IntervalOf(const Inputs& in) {
+  return proportions::IndependentInterval({IndependentMethod(in.Choice("interval-method")), FirstProportion(in),
+                                           SecondProportion(in), in.Alpha(), in.Flag("continuity-correction")});
 }
+
+double HalfWidth(const Inputs& in) { return IntervalOf(in).HalfWidth(in.List("n")[0], in.List("n")[1]); }
 
 Numbers SizesForHalfWidth(const Inputs& in) {
-  Numbers sizes;
-  PowerReversebyHalfCIIndSampBinom(in.Number("half-width"), FirstProportion(in), SecondProportion(in), sizes,
-                                   in.Number("ratio"), in.Choice("interval-method"), in.Alpha(),
-                                   in.Flag("continuity-correction"), in.Stop());
-  return sizes;
+  constexpr double smallestSecond = 2;
+  const double ratio = in.Number("ratio");
+  return RoundedUp(IntervalOf(in).FirstSizeFor(in.Number("half-width"), ratio, StopOf(in)), ratio, smallestSecond);
 }
 
 bool HasSecond(const Inputs& in) { return SecondProportion(in) > 0 && SecondProportion(in) < 1; }
 
-bool ExactWhereItCanBe(const Inputs& in) { return !in.Flag("exact") || in.Choice("test") != arcsineTest; }
+bool ExactWhereItCanBe(const Inputs& in) { return !in.Flag("exact") || TestOf(in) != TwoProportionTest::Arcsine; }
 
 bool PooledWhereItCanBe(const Inputs& in) {
-  if (!in.Flag("pooled") || in.Choice("test") == tTest) return true;
-  return in.Choice("test") == zTest && !IsExact(in);
+  if (!in.Flag("pooled") || TestOf(in) == TwoProportionTest::T) return true;
+  return TestOf(in) == TwoProportionTest::Z && !IsExact(in);
 }
 
 bool AsksForInterval(const Inputs& in) { return in.Has("half-width") || in.Flag("interval"); }
 
 bool CorrectsATestThatCanBe(const Inputs& in) {
-  return AsksForInterval(in) || !in.Flag("continuity-correction") || in.Choice("test") == zTest;
+  return AsksForInterval(in) || !in.Flag("continuity-correction") || TestOf(in) == TwoProportionTest::Z;
 }
 
 bool CorrectsAnIntervalThatCanBe(const Inputs& in) {
   if (!AsksForInterval(in) || !in.Flag("continuity-correction")) return true;
-  return in.Choice("interval-method") == wald || in.Choice("interval-method") == newcombe;
+  const auto method = IndependentMethod(in.Choice("interval-method"));
+  return method == IndependentMethod::Wald || method == IndependentMethod::Newcombe;
 }
 
 bool CanCountTables(const Inputs& in) {
@@ -101,7 +120,9 @@ bool ExactCanReach(const Inputs& in) {
 }
 
 /// Half an observation is moved between the outcomes of each group.
-bool LeavesArcsineItsCorrection(const Inputs& in) { return in.Choice("test") != arcsineTest || Power(in) != -1; }
+bool LeavesArcsineItsCorrection(const Inputs& in) {
+  return TestOf(in) != TwoProportionTest::Arcsine || !std::isnan(PowerOfTwoProportions()(in));
+}
 
 }  // namespace
 
@@ -114,7 +135,7 @@ std::vector<Route> RoutesOfTwoProportions() {
                       .needs = With(effect, "n"),
                       .accepts = testing,
                       .exportName = "PowerIndSampBinom",
-                      .value = Power});
+                      .value = PowerOfTwoProportions()});
     routes.push_back({.question = Question::SampleSize,
                       .needs = effect,
                       .accepts = With(testing, "ratio"),

@@ -4,9 +4,8 @@
 
 #include "model/name.h"
 #include "model/parameter.h"
+#include "model/stop_request.h"
 #include "model/value.h"
-
-class StopRequest;
 
 namespace planner {
 

@@ -9,6 +9,10 @@
 
 namespace planner {
 
+/// Gives a power or a half-width, NaN where there is none. It may keep what successive designs share; a copy starts
+/// afresh.
+using Evaluation = std::function<double(const Inputs&)>;
+
 /// One way to an answer: the question, the inputs it needs and those it may take besides, the export that answers it,
 /// and the call. Which questions a test answers, which inputs go together and what is still missing are read off its
 /// routes. A route serves both the two-sided and the one-sided form of a test.
@@ -18,8 +22,8 @@ struct Route {
   Names accepts = {};
   std::string exportName;
   std::string oneSidedExport = {};                   // where the one-sided form is an export of its own
-  std::function<double(const Inputs&)> value = {};   // the power or the half-width
-  std::function<Numbers(const Inputs&)> sizes = {};  // of the other questions: a whole size for each group
+  Evaluation value = {};                             // of a question about a power or a half-width
+  std::function<Numbers(const Inputs&)> sizes = {};  // of the others: a whole size for each group, empty for none
 
   bool Takes(Name name) const { return Contains(needs, name) || Contains(accepts, name); }
 

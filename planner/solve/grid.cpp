@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "kelpower.h"
-
 namespace planner {
 namespace {
 

@@ -5,8 +5,6 @@
 #include <limits>
 #include <utility>
 
-#include "kelcommon/kel_mv.h"
-#include "kelpower.h"
 #include "solve/checks.h"
 #include "solve/choose_route.h"
 #include "solve/make_inputs.h"
@@ -23,9 +21,6 @@ constexpr double largestMiss = 0.05;
 // The library gives every group at least two, and just that when its search finds nothing.
 constexpr double smallestGroup = 2;
 
-// The power of an exact test is a sum over many outcomes, which rounding may carry past 1.
-constexpr double sumRounding = 1e-9;
-
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 constexpr Row refused{RowStatus::InputRefused, notANumber};
@@ -37,7 +32,8 @@ bool IsPower(double value) { return value >= 0 && value <= 1; }
 bool IsHalfWidth(double value) { return value >= 0 && std::isfinite(value); }
 
 bool AreSizes(const Numbers& sizes) {
-  return std::all_of(sizes.begin(), sizes.end(), [](double size) { return size > 0 && std::isfinite(size); });
+  return !sizes.empty() &&
+         std::all_of(sizes.begin(), sizes.end(), [](double size) { return size > 0 && std::isfinite(size); });
 }
 
 /// A power below alpha is reached without any effect; at alpha itself rounding would decide.
@@ -84,7 +80,7 @@ std::vector<DerivedFigure> DerivedFigures(const Test& test, const Route& route, 
     const auto has = [&](Name name) { return inputs.Has(name) && route.Takes(name); };
     if (!std::all_of(derived.needs.begin(), derived.needs.end(), has)) continue;
     const double value = derived.call(inputs);
-    if (!KelCommon::KelMV::IsMissing(value)) figures.push_back({&derived, value});
+    if (!std::isnan(value)) figures.push_back({&derived, value});
   }
   return figures;
 }
@@ -94,9 +90,12 @@ std::vector<DerivedFigure> DerivedFigures(const Test& test, const Route& route, 
 PreparedQuestion::PreparedQuestion(const Test& test, const InputValues& values, StopRequest* stop)
     : test_(test), route_(CheckedRoute(test, values)), inputs_(MakeInputs(test, values, stop)) {
   conditions_ = Applicable(test.conditions, inputs_);
-  if (!AsksForSizes(route_.question)) return;
+  if (!AsksForSizes(route_.question)) {
+    value_ = route_.value;
+    return;
+  }
   effects_ = Applicable(test.sizeExists, inputs_);
-  valueRoute_ = &RouteAtSizes(test, ValueQuestion(route_.question), GivenNames(test, values));
+  value_ = RouteAtSizes(test, ValueQuestion(route_.question), GivenNames(test, values)).value;
 }
 
 void PreparedQuestion::SetColumns(std::vector<Column> columns) {
@@ -165,7 +164,7 @@ const Condition* PreparedQuestion::FailingEffect(const Inputs& inputs) const {
 }
 
 Row PreparedQuestion::Checked(const Inputs& inputs) {
-  return AsksForSizes(route_.question) ? FindSizes(inputs) : ValueOf(route_, inputs);
+  return AsksForSizes(route_.question) ? FindSizes(inputs) : ValueOf(inputs);
 }
 
 bool PreparedQuestion::IsStopped() const {
@@ -173,13 +172,11 @@ bool PreparedQuestion::IsStopped() const {
   return stop && stop->ShouldStop();
 }
 
-/// A stopped export gives missing values, or sizes that are not final.
-Row PreparedQuestion::ValueOf(const Route& route, const Inputs& inputs) const {
-  double value = route.value(inputs);
+/// A computation that is stopped gives no value, or sizes that are not final.
+Row PreparedQuestion::ValueOf(const Inputs& inputs) const {
+  const double value = value_(inputs);
   if (IsStopped()) return stopped;
-  const bool isPower = route.question == Question::Power;
-  if (isPower && value > 1 && value <= 1 + sumRounding) value = 1;
-  const bool good = isPower ? IsPower(value) : IsHalfWidth(value);
+  const bool good = IsAboutPower(route_.question) ? IsPower(value) : IsHalfWidth(value);
   return good ? Row{RowStatus::Answered, value} : unanswered;
 }
 
@@ -187,7 +184,7 @@ Row PreparedQuestion::FindSizes(const Inputs& inputs) {
   sizes_ = route_.sizes(inputs);
   if (IsStopped()) return stopped;
   if (!AreSizes(sizes_)) return unanswered;
-  const Row row = ValueOf(*valueRoute_, AtSizes(test_, inputs, sizes_));
+  const Row row = ValueOf(AtSizes(test_, inputs, sizes_));
   if (row.status != RowStatus::Answered) return row;
   const double miss = Miss(route_.question, row.value, inputs);
   const bool smallest = std::all_of(sizes_.begin(), sizes_.end(), [](double size) { return size <= smallestGroup; });

@@ -68,18 +68,18 @@ private:
 
   const Condition* FailingEffect(const Inputs& inputs) const;
   Row Checked(const Inputs& inputs);
-  Row ValueOf(const Route& route, const Inputs& inputs) const;
+  Row ValueOf(const Inputs& inputs) const;
   Row FindSizes(const Inputs& inputs);
   bool IsStopped() const;
 
   const Test& test_;
   const Route& route_;
-  const Route* valueRoute_ = nullptr;  // answers for the sizes found
   Inputs inputs_;
   std::vector<const Condition*> conditions_;
   std::vector<const Condition*> effects_;
   std::vector<BoundColumn> columns_;
   Numbers sizes_;
+  Evaluation value_;       // a copy of the route's own, which may keep something between its calls
   bool isMissed_ = false;  // the target, by a little
 };
 

@@ -7,7 +7,7 @@
 - The exports (src/exports) include those of all of them and kelpower.h. A folder of exports leaves the cores of other
   families alone.
 - A room of the planner (a folder of planner) includes the rooms that PLANNER_ROOMS names; the program includes the
-  planner's. Outside the catalogue and solve nothing of the planner includes the library.
+  planner's. Of the library they include the core: the catalogue its families and frame, solve its frame.
 """
 
 import re
@@ -18,11 +18,13 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]', re.M)
 SOURCES = {".h", ".hpp", ".cpp", ".in"}
 
 
-# What each room of the planner may include besides itself: other rooms, and of the library "kelpower.h" or kelcommon.
+FAMILIES = {"anova", "correlation", "means", "proportions", "regression"}
+
+# What each room of the planner may include besides itself: other rooms, and folders of the core.
 PLANNER_ROOMS = {
     "model": set(),
-    "catalogue": {"model", "kelpower.h", "kelcommon"},
-    "solve": {"model", "kelpower.h", "kelcommon"},
+    "catalogue": {"model", "frame"} | FAMILIES,
+    "solve": {"model", "frame"},
     "words": {"model", "solve", "catalogue"},
     "pictures": {"model", "solve"},
 }
@@ -36,7 +38,7 @@ def rejected_in_planner(path, kind, header, is_own):
     top = header.split("/")[0]
     room = path.parts[1]
     if path.parts[0] == "cli":
-        if kind == "<" or is_own or header == "kelpower.h":
+        if kind == "<" or is_own:
             return ""
         return "" if top in PLANNER_ROOMS else f"the program includes {top}"
     if room not in PLANNER_ROOMS:

@@ -28,8 +28,9 @@ class LayeringTest(unittest.TestCase):
     def test_accepts_in_planner(self):
         self.assertEqual(problems("planner/model/a.h", '#include "model/b.h"'), 0)
         self.assertEqual(problems("planner/model/a.h", "#include <vector>"), 0)
-        self.assertEqual(problems("planner/catalogue/a.cpp", '#include "kelpower.h"'), 0)
-        self.assertEqual(problems("planner/solve/a.cpp", '#include "kelcommon/kel_mv.h"'), 0)
+        self.assertEqual(problems("planner/catalogue/a.cpp", '#include "means/b.h"'), 0)
+        self.assertEqual(problems("planner/catalogue/a.cpp", '#include "frame/b.h"'), 0)
+        self.assertEqual(problems("planner/solve/a.cpp", '#include "frame/b.h"'), 0)
         self.assertEqual(problems("planner/words/a.cpp", '#include "solve/b.h"'), 0)
         self.assertEqual(problems("planner/words/a.cpp", "#include <fmt/format.h>"), 0)
         self.assertEqual(problems("cli/a.cpp", '#include "own.h"'), 0)
@@ -39,7 +40,12 @@ class LayeringTest(unittest.TestCase):
         self.assertEqual(problems("planner/model/a.h", '#include "solve/b.h"'), 1)
         self.assertEqual(problems("planner/model/a.h", '#include "kelpower.h"'), 1)
         self.assertEqual(problems("planner/model/a.h", "#include <fmt/format.h>"), 1)
+        self.assertEqual(problems("planner/model/a.h", '#include "frame/b.h"'), 1)
         self.assertEqual(problems("planner/catalogue/a.cpp", '#include "solve/b.h"'), 1)
+        self.assertEqual(problems("planner/catalogue/a.cpp", '#include "kelpower.h"'), 1)
+        self.assertEqual(problems("planner/catalogue/a.cpp", '#include "kelcommon/kel_mv.h"'), 1)
+        self.assertEqual(problems("planner/catalogue/a.cpp", '#include "exports/b.h"'), 1)
+        self.assertEqual(problems("planner/solve/a.cpp", '#include "means/b.h"'), 1)
         self.assertEqual(problems("planner/solve/a.cpp", '#include "words/b.h"'), 1)
         self.assertEqual(problems("planner/solve/a.cpp", "#include <fmt/format.h>"), 1)
         self.assertEqual(problems("planner/pictures/a.cpp", '#include "words/b.h"'), 1)
@@ -47,6 +53,7 @@ class LayeringTest(unittest.TestCase):
         self.assertEqual(problems("planner/extra/a.cpp", '#include "model/b.h"'), 1)
         self.assertEqual(problems("planner/words/a.cpp", '#include "own.h"'), 1)
         self.assertEqual(problems("cli/a.cpp", '#include "anova/b.h"'), 1)
+        self.assertEqual(problems("cli/a.cpp", '#include "kelpower.h"'), 1)
 
     def test_reports(self):
         self.assertEqual(problems("src/means/a.cpp", '#include "anova/b.h"'), 1)

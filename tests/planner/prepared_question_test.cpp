@@ -51,6 +51,23 @@ TEST(PreparedQuestion, TakesNoMemoryForARow) {
   EXPECT_EQ(allocations, before);
 }
 
+// Rows may share what an exact test computes once: its regions at given sizes and level.
+TEST(PreparedQuestion, KeepsOfAnExactTestOnlyWhatItsDesignsShare) {
+  PreparedQuestion question(*FindTest("two-proportions"),
+                            {{"proportions", Numbers{0.3, 0.5}}, {"n", Numbers{20, 30}}, {"exact", true}});
+  question.SetColumns({{"proportions", 1}, {"n", 0}, {"alpha"}});
+  for (double p2 : {0.5, 0.6}) {
+    for (double n1 : {20.0, 25.0}) {
+      for (double alpha : {0.05, 0.01}) {
+        EXPECT_EQ(question.Evaluate(Numbers{p2, n1, alpha}).value,
+                  PowerIndSampBinom(n1, 30, 0.3, p2, 1, 0, 0, alpha, 0, 0, nullptr));
+        EXPECT_EQ(PreparedQuestion(question).Evaluate(Numbers{0.1, 40, alpha}).value,
+                  PowerIndSampBinom(40, 30, 0.3, 0.1, 1, 0, 0, alpha, 0, 0, nullptr));
+      }
+    }
+  }
+}
+
 TEST(PreparedQuestion, RefusesARowAndAnswersTheNext) {
   PreparedQuestion question(*FindTest("anova"), {{"effect-f", 0.25}, {"n", Numbers{20, 20, 20}}});
   question.SetColumns({{"effect-f"}, {"n", 2}});

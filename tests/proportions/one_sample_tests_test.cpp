@@ -31,6 +31,16 @@ TEST(OneSampleTest, HasTheRegionOfTheTextbook) {
   EXPECT_NEAR(test.AttainedLevel(20, {0.80, 0.65}), 0.044376, 5e-7);
 }
 
+// 5 successes of 5, and none, have the probability 1/32 under the null hypothesis.
+TEST(OneSampleTest, RejectsACountWhoseProbabilityIsTheLevel) {
+  constexpr double level = 1.0 / 32;
+  OneSampleTest test({true, true, level});
+  EXPECT_EQ(test.Region(5, {0.9, 0.5}).upper, 5);
+  EXPECT_EQ(test.Region(5, {0.1, 0.5}).lower, 0);
+  EXPECT_EQ(test.AttainedLevel(5, {0.9, 0.5}), level);
+  EXPECT_NEAR(*test.Power(5, {0.9, 0.5}), std::pow(0.9, 5), 1e-15);
+}
+
 // Its power where the null hypothesis is true is the level that it attains.
 TEST(OneSampleTest, AttainsALevelUpToItsOwn) {
   for (const double alpha : {0.01, 0.05, 0.2}) {

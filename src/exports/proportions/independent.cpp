@@ -1,7 +1,5 @@
 #include <algorithm>
 #include <cmath>
-#include <optional>
-#include <vector>
 
 #include "exports/proportions/designs.h"
 #include "exports/sentinels.h"
@@ -9,6 +7,7 @@
 #include "kelcommon/kel_mv.h"
 #include "kelpower.h"
 #include "proportions/independent_power.h"
+#include "proportions/independent_sizes.h"
 
 using namespace kelpower;
 using namespace kelpower::proportions;
@@ -32,7 +31,6 @@ struct SizeSearch {
   Stop stop;
 
   double SecondSize(double n1) const { return std::max(1.0, sizeRatio * n1); }
-  double WholeSecondSize(double n1) const { return std::max(1.0, std::floor(sizeRatio * n1 + 0.5)); }
 
   IndependentDesign DesignOf(int usedMethod) const {
     return IndependentDesignOf(exact, usedMethod, oneSided, alpha, continuityCorrection, pooledVariance);
@@ -42,8 +40,10 @@ struct SizeSearch {
     return OrSentinel(IndependentPower(DesignOf(usedMethod), n1, n2).At(p1, p2, stop));
   }
 
-  /// The power at a real size. In an exact search it is, for method 4, that of the z test, deliberately.
-  double PowerAt(double n1) const { return PowerAt(n1, SecondSize(n1), exact == 1 && method == 4 ? 0 : method); }
+  /// The method whose power real sizes are searched by. In an exact search it is, for method 4, the z test, deliberately.
+  int SearchedMethod() const { return exact == 1 && method == 4 ? 0 : method; }
+
+  double PowerAt(double n1) const { return PowerAt(n1, SecondSize(n1), SearchedMethod()); }
 
   Answer SolveFirstSize(double lower, double upper) const {
     const bool neverFalls = exact == 0 && NeverFalls(DesignOf(method), sizeRatio);
@@ -59,21 +59,6 @@ double LowerStart(const SizeSearch& search) {
 
 double UpperStart(const SizeSearch& search, double lower) { return search.method == 3 ? lower + 400 : 400; }
 
-/// Repeats the search below the size last found while that gives new sizes, because the exact power is not monotone.
-/// No value when the stop request answers true.
-std::optional<double> SmallestFirstSize(const SizeSearch& search, double n1) {
-  std::vector<double> found{n1};
-  while (true) {
-    if (AnswersStop(search.stop)) return std::nullopt;
-    const Answer unrounded = search.SolveFirstSize(1, found.back());
-    if (!unrounded) break;
-    const double next = std::ceil(*unrounded);
-    if (std::find(found.begin(), found.end(), next) != found.end()) break;
-    found.push_back(next);
-  }
-  return *std::min_element(found.begin(), found.end());
-}
-
 struct GroupSizes {
   double n1;
   double n2;
@@ -85,16 +70,12 @@ GroupSizes MissingSizes() { return {KelMV::Missing(), KelMV::Missing()}; }
 /// request answers true, and become missing when the tables can no longer be counted.
 GroupSizes Refined(SizeSearch search, const GroupSizes& found) {
   if (search.method == 3) search.method = 0;  // deliberately: the refinement of the conditional test goes by the z test
-  const std::optional<double> smallest = SmallestFirstSize(search, found.n1);
-  if (!smallest) return found;
-
-  double n1 = *smallest;
-  while (search.PowerAt(n1, search.WholeSecondSize(n1), search.method) < search.power) {
-    if (AnswersStop(search.stop)) return found;
-    if (IsUncountable(n1) || IsUncountable(search.WholeSecondSize(n1))) return MissingSizes();
-    n1 += 1;
-  }
-  return {n1, search.WholeSecondSize(n1)};
+  const auto searched = [&](double n1, double n2) { return search.PowerAt(n1, n2, search.SearchedMethod()); };
+  const auto reached = [&](double n1, double n2) { return search.PowerAt(n1, n2, search.method); };
+  const Answer n1 =
+      ExactSizeSearch{searched, reached, search.sizeRatio, search.power, search.stop}.WholeFirstSize(found.n1);
+  if (n1) return {*n1, WholeSecondSize(search.sizeRatio, *n1)};
+  return n1.Reason() == NoValue::Stopped ? found : MissingSizes();
 }
 
 GroupSizes FindSizes(const SizeSearch& search) {
