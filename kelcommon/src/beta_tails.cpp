@@ -101,8 +101,20 @@ ScaledShapes Scale(double a, double b, const UnitPoint& point) {
 
 bool IsNearEnd(const UnitPoint& point) { return std::min(point.x.hi, point.y.hi) < denormalProducts; }
 
+bool IsOrdinary(double a, double b, const UnitPoint& point) {
+  return std::max(a, b) <= largestShape && !IsNearEnd(point);
+}
+
 BetaDensity DensityFor(const ScaledShapes& scaled) {
   return IsNearEnd(scaled.point) ? BetaDensity(scaled.a, scaled.b) : BetaDensity::WithoutPowers(scaled.a, scaled.b);
+}
+
+TailsAndDensity EvaluateAt(const BetaDensity& densityOfLogOdds, const UnitPoint& point) {
+  const double a = densityOfLogOdds.A();
+  const double b = densityOfLogOdds.B();
+  const BetaPlace place{a, b, point, BetaExcess(a, b, point)};
+  const double density = densityOfLogOdds.At(point, place.excess);
+  return {IsLowerFirst(place) ? TailsAt(place, density) : TailsAt(place.Mirrored(), density).Mirrored(), density};
 }
 
 // A distribution whose mass lies at the ends, b / (a + b) of it at 0.
@@ -117,10 +129,9 @@ Tails TwoPointTails(double a, double b) {
 
 TailsAndDensity EvaluateBeta(double a, double b, const UnitPoint& point) {
   if (a < negligibleShape || b < negligibleShape) return {TwoPointTails(a, b), 0};
+  if (IsOrdinary(a, b, point)) return EvaluateAt(BetaDensity::WithoutPowers(a, b), point);
   const ScaledShapes scaled = Scale(a, b, point);
-  const BetaPlace place{scaled.a, scaled.b, scaled.point, BetaExcess(scaled.a, scaled.b, scaled.point)};
-  const double density = DensityFor(scaled).At(scaled.point, place.excess);
-  return {IsLowerFirst(place) ? TailsAt(place, density) : TailsAt(place.Mirrored(), density).Mirrored(), density};
+  return EvaluateAt(DensityFor(scaled), scaled.point);
 }
 
 PreciseTail EvaluateLowerBeta(const PreciseBetaDensity& densityOfLogOdds, const UnitPoint& point, double expected) {
@@ -146,10 +157,9 @@ PreciseTail EvaluateLowerBeta(const PreciseBetaDensity& densityOfLogOdds, const 
 
 double EvaluateBetaDensity(double a, double b, const UnitPoint& point) {
   if (a < negligibleShape || b < negligibleShape) return std::min(a, b) * (a > b ? a / (a + b) : b / (a + b));
-  if (std::max(a, b) <= largestShape && !IsNearEnd(point)) return BetaDensity::WithoutPowers(a, b).At(point);
+  if (IsOrdinary(a, b, point)) return BetaDensity::WithoutPowers(a, b).At(point);
   const ScaledShapes scaled = Scale(a, b, point);
-  const BetaDensity density = DensityFor(scaled);
-  return density.At(scaled.point);
+  return DensityFor(scaled).At(scaled.point);
 }
 
 }  // namespace KelMath
