@@ -94,7 +94,7 @@ BENCHMARK(SizeSolve)->Name("planner/size/solve");
 
 void Surface(benchmark::State& state) {
   for (auto _ : state) {
-    benchmark::DoNotOptimize(planner::ComputeChart(TwoMeans(), {.name = "ratio-difference"}, design).series.power);
+    benchmark::DoNotOptimize(planner::ComputeChart(TwoMeans(), {.name = "ratio-difference"}, design).First().value);
   }
 }
 BENCHMARK(Surface)->Name("planner/chart/surface_of_101_by_101")->Unit(benchmark::kMillisecond);

@@ -7,6 +7,8 @@
 #include "catalogue/catalogue.h"
 #include "nearest.h"
 #include "usage_error.h"
+#include "words/alternatives.h"
+#include "words/numbers.h"
 #include "words/parse.h"
 
 namespace {
@@ -36,12 +38,13 @@ CLI::App* AddCommand(CLI::App& app, const std::string& name) {
 
 std::string NameOf(const Parameter& parameter) { return fmt::format("--{}", parameter.name.Text()); }
 
-const std::vector<std::string> rangeOptions{"from", "to", "step", "output"};
+/// Options that have a use only with a chart.
+const std::vector<std::string> chartOptions{"from", "to", "step", "y", "title", "width", "height", "dpi", "output"};
 
 void AddTest(CLI::App& app, const Test& test) {
   CLI::App* command = AddCommand(app, test.name);
   AddOption(*command, "--chart");
-  for (const std::string& name : rangeOptions) AddOption(*command, "--" + name);
+  for (const std::string& name : chartOptions) AddOption(*command, "--" + name);
   for (const Parameter& parameter : test.parameters) {
     std::string names = NameOf(parameter);
     for (const std::string& alias : parameter.aliases) names += ",--" + alias;
@@ -78,6 +81,34 @@ Format FormatOf(const CLI::App& command) {
   throw UsageError(fmt::format("--format is \"{}\", but must be text, json, csv or markdown.", *text));
 }
 
+/// Sets an input of a chart. One of them may have several values.
+void SetChartInput(const CLI::App& command, const Parameter& parameter, Request& request) {
+  const std::string name(parameter.name.Text());
+  const std::vector<std::string> texts = command.get_option("--" + name)->results();
+  std::vector<planner::Value> values = planner::ParseAlternatives(parameter, texts);
+  if (values.size() == 1) {
+    request.values[name] = values.front();
+    return;
+  }
+  std::optional<planner::Alternatives>& alternatives = request.chart.alternatives;
+  if (alternatives) {
+    throw UsageError(
+        fmt::format("--{} and --{} both have several values, but a chart varies one.", alternatives->input, name));
+  }
+  alternatives = planner::Alternatives{name, std::move(values)};
+}
+
+void ReadChartInputs(const CLI::App& command, Request& request) {
+  for (const Parameter& parameter : request.test->parameters) {
+    const std::string name(parameter.name.Text());
+    if (parameter.kind == Kind::Flag) {
+      if (FlagOf(command, name)) request.values[name] = true;
+    } else if (command.get_option("--" + name)->count() > 0) {
+      SetChartInput(command, parameter, request);
+    }
+  }
+}
+
 planner::InputValues ValuesOf(const CLI::App& command, const Test& test) {
   planner::InputValues values;
   for (const Parameter& parameter : test.parameters) {
@@ -101,11 +132,32 @@ planner::ChartRequest ChartOf(const CLI::App& command, const std::string& name) 
   if (const std::string* text = TextOf(command, "to")) chart.to = Ends("to", *text);
   if (const std::string* text = TextOf(command, "step"))
     chart.step = std::get<double>(planner::Parse(planner::Number("step", "", ""), *text));
+  if (const std::string* text = TextOf(command, "y")) {
+    if (*text != "n") throw UsageError(fmt::format("--y is \"{}\", but must be n.", *text));
+    chart.showsSizes = true;
+  }
   return chart;
 }
 
-void RejectRangeOptions(const CLI::App& command) {
-  for (const std::string& name : rangeOptions) {
+std::optional<double> LengthOf(const CLI::App& command, const std::string& name, double least, double most) {
+  const std::string* text = TextOf(command, name);
+  if (!text) return std::nullopt;
+  double number = 0;
+  if (planner::ParseNumber(*text, number) && number >= least && number <= most) return number;
+  throw UsageError(fmt::format("--{} is \"{}\", but must be a number from {} to {}.", name, *text, least, most));
+}
+
+PictureOptions PictureOf(const CLI::App& command) {
+  PictureOptions picture;
+  if (const std::string* text = TextOf(command, "title")) picture.title = *text;
+  picture.width = LengthOf(command, "width", 200, 5000);
+  picture.height = LengthOf(command, "height", 150, 5000);
+  picture.dpi = LengthOf(command, "dpi", 30, 600);
+  return picture;
+}
+
+void RejectChartOptions(const CLI::App& command) {
+  for (const std::string& name : chartOptions) {
     if (TextOf(command, name)) throw UsageError(fmt::format("--{} has a use only together with --chart.", name));
   }
 }
@@ -136,11 +188,15 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
 }
 
 void ReadTest(const CLI::App& command, Request& request) {
-  request.values = ValuesOf(command, *request.test);
   const std::string* chart = TextOf(command, "chart");
-  if (!chart) return RejectRangeOptions(command);
+  if (!chart) {
+    request.values = ValuesOf(command, *request.test);
+    return RejectChartOptions(command);
+  }
   request.command = Command::Chart;
   request.chart = ChartOf(command, *chart);
+  request.picture = PictureOf(command);
+  ReadChartInputs(command, request);
   if (const std::string* output = TextOf(command, "output")) {
     if (output->empty()) throw UsageError("--output is empty, but must name a file.");
     request.output = *output;
@@ -164,6 +220,7 @@ Request RequestOf(const CLI::App& app) {
     return request;
   }
   request.format = FormatOf(command);
+  request.isFormatGiven = TextOf(command, "format") != nullptr;
   request.command = request.test ? Command::Solve : Command::List;
   if (request.test) ReadTest(command, request);
   if (const auto extras = app.remaining(true); !extras.empty()) RejectExtra(command, extras.front());

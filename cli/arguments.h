@@ -4,6 +4,7 @@
 
 #include "model/chart.h"
 #include "model/test.h"
+#include "picture.h"
 
 enum class Command { Overview, Version, List, TestHelp, Solve, Chart };
 
@@ -13,10 +14,12 @@ enum class Format { Text, Json, Csv, Markdown };
 struct Request {
   Command command = Command::Overview;
   Format format = Format::Text;
+  bool isFormatGiven = false;
   const planner::Test* test = nullptr;  // of TestHelp, Solve and Chart
   planner::InputValues values;          // of Solve and Chart
   planner::ChartRequest chart;
-  std::string output;  // the file of a chart; empty for the standard output
+  PictureOptions picture;  // of a chart
+  std::string output;      // the file of a chart; empty for the standard output
 };
 
 /// Reads the command line; throws a UsageError or a planner::InputError when it is wrong.

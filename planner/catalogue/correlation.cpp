@@ -17,8 +17,8 @@ Names Effect(const CorrelationKind& kind) { return Joined({"r"}, kind.needs); }
 
 std::vector<Route> Routes(const CorrelationKind& kind) {
   const Names effect = Effect(kind);
-  const Names design = CorrelationDesign(kind);
-  const Names options = CorrelationOptions(kind);
+  const Names design = Joined(effect, {"n"});
+  const Names options = Joined({"null", "one-sided"}, kind.accepts);
   return {
       {.question = Question::Power,
        .needs = design,
@@ -62,11 +62,23 @@ std::vector<ReportSentence> Sentences(const CorrelationKind& kind) {
   };
 }
 
+double Difference(const Inputs& in) { return in.Number("r") - in.Number("null"); }
+
+/// The differences that the null correlation leaves.
+Range AllDifferences(const Inputs& in) { return {-1 - in.Number("null"), 1 - in.Number("null")}; }
+
+Axis DifferenceAxis() {
+  return {.name = "difference",
+          .title = "difference of the correlation from the null",
+          .symbol = "difference",
+          .needs = {"r", "null"},
+          .limits = {-2, 2, true, true, false},
+          .design = Difference,
+          .vary = [](Inputs& in, const Inputs& design, double at) { in.Set("r", at + design.Number("null")); },
+          .scale = AllDifferences};
+}
+
 }  // namespace
-
-Names CorrelationDesign(const CorrelationKind& kind) { return Joined(Effect(kind), {"n"}); }
-
-Names CorrelationOptions(const CorrelationKind& kind) { return Joined({"null", "one-sided"}, kind.accepts); }
 
 Test CorrelationTest(const CorrelationKind& kind) {
   return {.name = kind.name,
@@ -76,7 +88,8 @@ Test CorrelationTest(const CorrelationKind& kind) {
           .routes = Routes(kind),
           .sizeExists = {CorrelationsDiffer()},
           .sentences = Sentences(kind),
-          .charts = CorrelationCharts(kind)};
+          .axes = {DifferenceAxis()},
+          .effect = Difference};
 }
 
 }  // namespace planner

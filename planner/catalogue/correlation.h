@@ -16,29 +16,18 @@ struct CorrelationKind {
   std::string definition;             // what the correlation is of, in the words of `about`
   std::string method = "Fisher's z";  // in sentences
   std::string given = {};             // "given {partialled-out} variables", after a space
-  std::string exampleArguments = {};  // that every example needs besides --r and --n, after a space
   Names needs = {};                   // inputs besides `r` and `n`
   Names accepts = {};                 // inputs of the method
-  double mostPartialledOut = 0;
 
   // The core, called with the inputs of the test.
   double (*power)(const Inputs&);
   Numbers (*size)(const Inputs&);
   double (*halfWidth)(const Inputs&);
   Numbers (*sizeForHalfWidth)(const Inputs&);
-
-  /// The problem of sizes that the charts cannot draw with these inputs; null: they draw all.
-  std::optional<Problem> (*refuseSizes)(const Inputs&, const Range&) = nullptr;
 };
 
-/// The description of the test of a correlation: routes, sentences and charts; parameters, conditions and examples are
+/// The description of the test of a correlation: routes, sentences and axes; parameters, conditions and examples are
 /// the caller's to add.
 Test CorrelationTest(const CorrelationKind& kind);
-
-std::vector<Chart> CorrelationCharts(const CorrelationKind& kind);
-
-/// The inputs of a design and those that choose the test.
-Names CorrelationDesign(const CorrelationKind& kind);
-Names CorrelationOptions(const CorrelationKind& kind);
 
 }  // namespace planner

@@ -15,7 +15,4 @@ Parameter GroupCount();
 /// Observations are left over once every group has its mean.
 Condition ErrorDegrees();
 
-/// An axis of standard deviations within the groups, around the distance of the means.
-Axis WithinSdAxis();
-
 }  // namespace planner

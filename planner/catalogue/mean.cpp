@@ -14,9 +14,9 @@ namespace means = kelpower::means;
 
 double EffectSize(const Inputs& in) { return (in.Number("mean") - in.Number("test-value")) / in.Number("sd"); }
 
-means::OneSampleDesign DesignOf(const Inputs& in) {
-  return {in.Has("effect-d") ? in.Number("effect-d") : EffectSize(in), SidesOf(in), in.Alpha()};
-}
+double Effect(const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : EffectSize(in); }
+
+means::OneSampleDesign DesignOf(const Inputs& in) { return {Effect(in), SidesOf(in), in.Alpha()}; }
 
 double Power(const Inputs& in) { return OrNaN(means::Power(DesignOf(in), in.Number("n"))); }
 
@@ -64,33 +64,6 @@ std::vector<Route> Routes() {
   };
 }
 
-std::vector<Chart> Charts() {
-  const Axis size = SizeAxis("sample size (observations)", 2, 1e9, UpToTwiceSize);
-  const Axis effect = EffectDAxis();
-  return {
-      {.name = "n",
-       .axes = {size},
-       .needs = {"mean", "sd", "n"},
-       .accepts = {"test-value", "one-sided"},
-       .example = "mean --mean 104 --test-value 100 --sd 10 --n 40 --chart n"},
-      {.name = "n",
-       .axes = {size},
-       .needs = {"effect-d", "n"},
-       .accepts = {"one-sided"},
-       .example = "mean --effect-d 0.4 --n 40 --chart n"},
-      {.name = "effect",
-       .axes = {effect},
-       .needs = {"effect-d", "n"},
-       .accepts = {"one-sided"},
-       .example = "mean --effect-d 0.4 --n 40 --chart effect --from 0 --to 1"},
-      {.name = "effect-n",
-       .axes = {effect, size},
-       .needs = {"effect-d", "n"},
-       .accepts = {"one-sided"},
-       .example = "mean --effect-d 0.4 --n 40 --one-sided --chart effect-n --from 0,5 --to 1,80"},
-  };
-}
-
 }  // namespace
 
 Test MeanTest() {
@@ -116,7 +89,7 @@ Test MeanTest() {
   test.derived = {
       {.name = "effect-d", .label = "effect size d", .needs = {"mean", "test-value", "sd"}, .call = EffectSize},
   };
-  test.charts = Charts();
+  test.effect = Effect;
   AddWordsOfMean(test);
   return WithCommonParameters(std::move(test));
 }

@@ -29,17 +29,4 @@ Condition HasEffectD() {
           .sentence = "The effect size is zero: without an effect, no sample size reaches the power."};
 }
 
-Axis EffectDAxis() {
-  const auto usual = [](const Inputs& in, double) -> Range {
-    const double effect = std::abs(in.Number("effect-d"));
-    return {0, effect > 0 ? 2 * effect : 1.5};
-  };
-  return {.title = "effect size d",
-          .symbol = "d",
-          .limits = {0, 1e6, true, true, false},
-          .design = [](const Inputs& in) { return std::abs(in.Number("effect-d")); },
-          .vary = [](Inputs& in, const Inputs&, double at) { in.Set("effect-d", at); },
-          .usual = usual};
-}
-
 }  // namespace planner

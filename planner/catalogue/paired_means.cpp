@@ -29,9 +29,9 @@ double EffectSize(const Inputs& in) {
   return MeanDifference(in) / means::DifferenceVariance::Of(SpreadOf(in)).StandardDeviation();
 }
 
-means::OneSampleDesign DesignOf(const Inputs& in) {
-  return {in.Has("effect-d") ? in.Number("effect-d") : EffectSize(in), SidesOf(in), in.Alpha()};
-}
+double Effect(const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : EffectSize(in); }
+
+means::OneSampleDesign DesignOf(const Inputs& in) { return {Effect(in), SidesOf(in), in.Alpha()}; }
 
 double Power(const Inputs& in) { return OrNaN(means::Power(DesignOf(in), in.Number("n"))); }
 
@@ -152,39 +152,6 @@ std::vector<Condition> SizeExists() {
   };
 }
 
-std::vector<Chart> Charts() {
-  const Axis size = SizeAxis("number of pairs", 2, 1e9, UpToTwiceSize);
-  const Axis effect = EffectDAxis();
-  return {
-      {.name = "n",
-       .axes = {size},
-       .needs = {"means", "sds", "correlation", "n"},
-       .accepts = {"one-sided"},
-       .example = "paired-means --means 25,21 --sds 8,7 --correlation 0.6 --n 30 --chart n"},
-      {.name = "n",
-       .axes = {size},
-       .needs = {"mean-difference", "sd-difference", "n"},
-       .accepts = {"one-sided"},
-       .example = "paired-means --mean-difference 4 --sd-difference 8 --n 44 --chart n --from 10 --to 100",
-       .isAnotherWay = true},
-      {.name = "n",
-       .axes = {size},
-       .needs = {"effect-d", "n"},
-       .accepts = {"one-sided"},
-       .example = "paired-means --effect-d 0.4 --n 40 --chart n"},
-      {.name = "effect",
-       .axes = {effect},
-       .needs = {"effect-d", "n"},
-       .accepts = {"one-sided"},
-       .example = "paired-means --effect-d 0.4 --n 40 --chart effect --from 0 --to 1"},
-      {.name = "effect-n",
-       .axes = {effect, size},
-       .needs = {"effect-d", "n"},
-       .accepts = {"one-sided"},
-       .example = "paired-means --effect-d 0.4 --n 40 --one-sided --chart effect-n --from 0,5 --to 1,80"},
-  };
-}
-
 }  // namespace
 
 Test PairedMeansTest() {
@@ -200,7 +167,8 @@ Test PairedMeansTest() {
       {.name = "effect-d", .label = "effect size d", .needs = {"means", "sds", "correlation"}, .call = EffectSize},
       {.name = "effect-d", .label = "effect size d", .needs = {"mean-difference", "sd-difference"}, .call = EffectSize},
   };
-  test.charts = Charts();
+  test.effect = Effect;
+  test.axes = {MeanDifferenceAxis()};
   AddWordsOfPairedMeans(test);
   return WithCommonParameters(std::move(test));
 }

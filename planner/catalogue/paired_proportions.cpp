@@ -41,6 +41,11 @@ private:
   Kept<proportions::McNemarTest, 3> kept_;
 };
 
+double EffectOfPairs(const Inputs& in) {
+  const proportions::DiscordantPairs pairs = PairsOf(in);
+  return pairs.p12 - pairs.p21;
+}
+
 Numbers Size(const Inputs& in) {
   return RoundedUp(proportions::SizeForPower(DesignOf(in), PairsOf(in), in.Number("power")));
 }
@@ -215,7 +220,8 @@ Test PairedProportionsTest() {
        .needs = {"p12", "p21", "exact", "power"},
        .call = LastingSize},
   };
-  test.charts = ChartsOfPairedProportions();
+  test.effect = EffectOfPairs;
+  test.axes = AxesOfPairedProportions();
   AddWordsOfPairedProportions(test);
   return WithCommonParameters(std::move(test));
 }

@@ -6,6 +6,6 @@
 
 namespace planner {
 
-std::vector<Chart> ChartsOfPairedProportions();
+std::vector<Axis> AxesOfPairedProportions();
 
 }  // namespace planner

@@ -14,6 +14,6 @@ Parameter RatioOfSizes();
 double SizeRatio(const Inputs& in);
 
 /// An axis of ratios of the sizes, which keep their total.
-Axis SizeRatioAxis(UsualRange usual);
+Axis SizeRatioAxis();
 
 }  // namespace planner

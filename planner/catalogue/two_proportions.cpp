@@ -104,7 +104,9 @@ Test TwoProportionsTest() {
       {.name = "risk-ratio", .label = "risk ratio", .needs = {"proportions"}, .call = RiskRatio},
       {.name = "odds-ratio", .label = "odds ratio", .needs = {"proportions"}, .call = OddsRatio},
   };
-  test.charts = ChartsOfTwoProportions();
+  test.axes = AxesOfTwoProportions();
+  test.effect = RiskDifference;
+  test.steps = StepsOfPower;
   AddWordsOfTwoProportions(test);
   return WithCommonParameters(std::move(test));
 }

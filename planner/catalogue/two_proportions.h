@@ -41,6 +41,9 @@ std::vector<Parameter> ParametersOfTwoProportions();
 std::vector<Route> RoutesOfTwoProportions();
 std::vector<Condition> ConditionsOfTwoProportions();
 std::vector<Condition> SizeExistsForTwoProportions();
-std::vector<Chart> ChartsOfTwoProportions();
+std::vector<Axis> AxesOfTwoProportions();
+
+/// About how many steps a power takes.
+double StepsOfPower(const Inputs& in);
 
 }  // namespace planner

@@ -70,7 +70,13 @@ struct Test {
   std::vector<Phrase> phrases = {};
   std::vector<ReportSentence> sentences = {};
   std::vector<Example> examples = {};
-  std::vector<Chart> charts = {};
+  std::vector<Axis> axes = {};  // of charts, over figures that are no inputs
+
+  /// The effect with its sign, whose direction a one-sided test has; null where it has none.
+  double (*effect)(const Inputs&) = nullptr;
+
+  /// About how many steps one power takes, where many may take long.
+  double (*steps)(const Inputs&) = nullptr;
 };
 
 /// The test with the parameters that every test has: `alpha`, and `power`, `half-width` and `interval` as its routes

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/inputs.h"
+#include "model/problem.h"
 #include "model/test.h"
 
 namespace planner {
