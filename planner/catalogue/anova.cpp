@@ -34,6 +34,21 @@ double PowerOfEffect(const Inputs& in) {
   return OrNaN(anova::PowerOfEffect(EffectOf(in), in.Groups(), TotalSize(in), in.Alpha()));
 }
 
+/// Powers over many effects at the same sizes.
+class PowersOverEffects {
+public:
+  double operator()(const Inputs& in) {
+    const double total = TotalSize(in);
+    anova::OverallTest& test = kept_.For({double(in.Groups()), total, in.Alpha()}, in.Groups(), total, in.Alpha());
+    if (!in.Has("means")) return OrNaN(test.PowerOfMany(EffectOf(in).Noncentrality(total)));
+    const auto spread = anova::GroupSpread::Of(in.List("means"), in.List("n"));
+    return OrNaN(test.PowerOfMany(spread.Noncentrality(in.Number("sd"), total)));
+  }
+
+private:
+  Kept<anova::OverallTest, 3> kept_;
+};
+
 Numbers SizesOfMeans(const Inputs& in) {
   const Numbers weights = in.Weights();
   return SpreadByShares(
@@ -68,17 +83,20 @@ std::vector<Route> Routes() {
        .needs = {"means", "sd", "n"},
        .accepts = {"groups"},
        .exportName = "PowerOverallTest",
-       .value = PowerOfMeans},
+       .value = PowerOfMeans,
+       .surfaceValue = PowersOverEffects()},
       {.question = Question::Power,
        .needs = {"effect-f", "n"},
        .accepts = {"groups"},
        .exportName = "PowerOverallTestwES",
-       .value = PowerOfEffect},
+       .value = PowerOfEffect,
+       .surfaceValue = PowersOverEffects()},
       {.question = Question::Power,
        .needs = {"eta-squared", "n"},
        .accepts = {"groups"},
        .exportName = "PowerOverallTestwES",
-       .value = PowerOfEffect},
+       .value = PowerOfEffect,
+       .surfaceValue = PowersOverEffects()},
       {.question = Question::SampleSize,
        .needs = {"means", "sd"},
        .accepts = {"ratios", "groups"},

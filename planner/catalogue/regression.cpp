@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 #include "catalogue/axes.h"
@@ -39,6 +40,29 @@ regression::Effect EffectOf(const Inputs& in) {
 
 double Power(const Inputs& in) { return OrNaN(regression::Power(ModelOf(in), in.Number("n"), EffectOf(in))); }
 
+/// Powers over many effects at the same size.
+class PowersOverEffects {
+public:
+  double operator()(const Inputs& in) {
+    const regression::Model model = ModelOf(in);
+    const double size = in.Number("n");
+    auto& test = kept_
+                     .For({model.predictors, model.tested, double(model.isRandom), double(model.hasIntercept),
+                           model.alpha, size},
+                          model, size)
+                     .test;
+    return test ? test->PowerOfMany(EffectOf(in)) : OrNaN(kelpower::NoValue::Refused);
+  }
+
+private:
+  struct TestOfSize {
+    TestOfSize(const regression::Model& model, double size) : test(regression::RegressionTest::Checked(model, size)) {}
+    std::optional<regression::RegressionTest> test;
+  };
+
+  Kept<TestOfSize, 6> kept_;
+};
+
 Numbers Size(const Inputs& in) {
   return RoundedUp(regression::SizeForPower(ModelOf(in), EffectOf(in), in.Number("power")));
 }
@@ -72,12 +96,14 @@ std::vector<Route> Routes() {
        .needs = {"r-squared", "predictors", "n"},
        .accepts = ofFits,
        .exportName = "Powerbymlr",
-       .value = Power},
+       .value = Power,
+       .surfaceValue = PowersOverEffects()},
       {.question = Question::Power,
        .needs = {"effect-f2", "predictors", "n"},
        .accepts = ofEffect,
        .exportName = "PowerbymlrwES",
-       .value = Power},
+       .value = Power,
+       .surfaceValue = PowersOverEffects()},
       {.question = Question::SampleSize,
        .needs = {"r-squared", "predictors"},
        .accepts = ofFits,

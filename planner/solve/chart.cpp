@@ -223,6 +223,7 @@ void FillSurface(const std::vector<Axis>& axes, Series& series, ChartDesign& des
   const Numbers& outerPoints = isTurned ? series.y : series.x;
   const Numbers& innerPoints = isTurned ? series.x : series.y;
   series.value.assign(series.x.size() * series.y.size(), 0);
+  design.question.ExpectSharedSizes();
   const Inputs planned = design.Design();
   Inputs base = planned;
   Inputs moved = planned;
