@@ -63,7 +63,8 @@ std::string RenderCsv(const ChartData& chart) {
   std::string text;
   for (const Axis& axis : chart.axes) text += CsvField(axis.title) + ',';
   for (std::size_t k = 0; k < chart.curves.size(); ++k) {
-    text += (k == 0 ? "" : ",") + CsvField(ColumnOf(chart, chart.curves[k]));
+    if (k > 0) text += ',';
+    text += CsvField(ColumnOf(chart, chart.curves[k]));
   }
   text += '\n';
   for (std::size_t i = 0; i < series.x.size(); ++i) {
