@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "effects/noncentrality.h"
+#include "frame/gamma_ratio.h"
 #include "frame/scale.h"
 
 namespace kelpower::effects {
@@ -52,17 +53,9 @@ std::optional<Estimate> CohensDOfOneSampleT(double t, double size, double alpha)
   return StandardisedBy(std::sqrt(size), t, size - 1, alpha);
 }
 
-// The logarithms of gamma functions lose digits as they grow. From z = (df - 1) / 2 = 20 on
-//   ln(Gamma(z + 1 / 2) / (sqrt(z) Gamma(z))) = -1 / 8z + 1 / 192z^3 - 1 / 640z^5 + 17 / 14336z^7 - 31 / 18432z^9 + ...
 double HedgesFactor(double df) {
-  constexpr double enough = 20;
   if (!(df > 1)) return nan;
-  const double z = (df - 1) / 2;
-  if (z < enough) return std::exp(KelDistFun::orvadnlgam(df / 2) - KelDistFun::orvadnlgam(z)) / std::sqrt(df / 2);
-  const double w = 1 / z;
-  const double w2 = w * w;
-  const double series = -1.0 / 8 + w2 * (1.0 / 192 + w2 * (-1.0 / 640 + w2 * (17.0 / 14336 - w2 * (31.0 / 18432))));
-  return std::sqrt(1 - 1 / df) * std::exp(w * series);
+  return std::sqrt(1 - 1 / df) * GammaRatio((df - 1) / 2);
 }
 
 std::optional<Estimate> HedgesG(const Estimate& d, double df) {
