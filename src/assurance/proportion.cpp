@@ -141,6 +141,7 @@ bool RejectsSearch(const ProportionWish& wish, double assurance, double largest)
 Answer Assurance(const ProportionWish& wish, double size) {
   if (RejectsProportion(wish.proportion)) return NoValue::Refused;
   if (RejectsSize(size)) return NoValue::Refused;
+  if (std::isnan(wish.proportion)) return wish.proportion;
   return Proportion(wish).Assurance(size);
 }
 
