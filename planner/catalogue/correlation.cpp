@@ -78,6 +78,32 @@ Axis DifferenceAxis() {
           .scale = AllDifferences};
 }
 
+std::vector<Unknown> Unknowns() {
+  constexpr const char* reason = "Fisher's z grows with the correlation, and faster than its standard error";
+  return {
+      {.input = "r",
+       .target = Question::Power,
+       .trend = Trend::Rises,
+       .reason = reason,
+       .piece = [](const Inputs& in) -> Piece {
+         return {in.Number("null"), 1};
+       },
+       .pieceBelow = [](const Inputs& in) -> Piece {
+         return {-1, in.Number("null")};
+       }},
+      {.input = "null",
+       .target = Question::Power,
+       .trend = Trend::Falls,
+       .reason = reason,
+       .piece = [](const Inputs& in) -> Piece {
+         return {-1, in.Number("r")};
+       },
+       .pieceBelow = [](const Inputs& in) -> Piece {
+         return {in.Number("r"), 1};
+       }},
+  };
+}
+
 }  // namespace
 
 Test CorrelationTest(const CorrelationKind& kind) {
@@ -86,6 +112,7 @@ Test CorrelationTest(const CorrelationKind& kind) {
           .about = "Tests whether the " + kind.wording + " correlation of " + kind.definition + " is a given value.",
           .counted = "cases",
           .routes = Routes(kind),
+          .unknowns = Unknowns(),
           .sizeExists = {CorrelationsDiffer()},
           .sentences = Sentences(kind),
           .axes = {DifferenceAxis()},

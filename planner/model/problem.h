@@ -30,6 +30,10 @@ enum class Code {
   TooManyGroups = 209,
   WrongLength = 210,
   ConditionFails = 211,
+  SolvedForIsGiven = 212,
+  NotSolvedFor = 213,
+  NothingUnknown = 214,
+  SolvesWithoutTarget = 215,
   // Charts.
   ChartEndNotAllowed = 305,
   ChartEndsDescend = 306,
@@ -52,6 +56,8 @@ enum class Code {
   NoEffect = 400,
   SizesNotFound = 401,
   NotComputable = 402,
+  TargetNotReached = 403,
+  TargetReachedAlways = 404,
   // Ends that are no fault of the inputs.
   Stopped = 500,
 };

@@ -30,7 +30,7 @@ std::string Shown(const Parameter& parameter, const Value& value) {
 }
 
 /// "effect size d 0.2"; of a choice its wording alone, which says what it is.
-std::string Piece(const Parameter& parameter, const Value& value) {
+std::string Worded(const Parameter& parameter, const Value& value) {
   if (parameter.kind == Kind::Choice) return Shown(parameter, value);
   return parameter.label + " " + Shown(parameter, value);
 }
@@ -76,7 +76,7 @@ std::string PieceOf(const ChartData& chart, const ChartCurve& curve, const Param
     return first.Alpha() == last.Alpha() ? fmt::format("confidence {:.6g}%", 100 * (1 - first.Alpha())) : "";
   }
   const Value value = first.ValueOf(parameter);
-  if (value == last.ValueOf(parameter)) return Piece(parameter, value);
+  if (value == last.ValueOf(parameter)) return Worded(parameter, value);
   if (!parameter.IsList()) return "";
   const Numbers& from = first.List(name);
   const Numbers& to = last.List(name);
@@ -113,7 +113,7 @@ std::vector<std::string> HeldFixed(const ChartData& chart) {
 std::string LabelOf(const ChartData& chart, const ChartCurve& curve) {
   if (!curve.alternative) return NameOf(chart.quantity);
   const Parameter& varied = *FindParameter(*chart.test, *chart.varied);
-  std::string label = Piece(varied, *curve.alternative);
+  std::string label = Worded(varied, *curve.alternative);
   for (const Parameter& parameter : chart.test->parameters) {
     if (parameter.name == chart.varied) continue;
     const std::string piece = PieceOf(chart, curve, parameter);

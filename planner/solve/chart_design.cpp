@@ -38,9 +38,22 @@ double Side(const Test& test, const Inputs& inputs) {
   return isOneSided && test.effect ? test.effect(inputs) : 0;
 }
 
+/// The question about the value with the number found, from the same inputs.
+InputValues WithFound(const PreparedQuestion& asked, InputValues values) {
+  const Question question = asked.ChosenRoute().question;
+  for (const char* name : {"power", "half-width", "solve", "below"}) values.erase(name);
+  values[std::string(asked.SolvedFor()->input.Text())] = asked.FoundUnknown();
+  if (question == Question::HalfWidth) values["interval"] = true;
+  return values;
+}
+
 PreparedQuestion QuestionOf(const Test& test, const ChartRequest& request, const InputValues& values,
                             StopRequest* stop) {
   PreparedQuestion asked(test, values, stop);
+  if (asked.SolvedFor() && !request.showsSizes) {
+    asked.Solve();
+    return {test, WithFound(asked, values), stop};
+  }
   const Question question = asked.ChosenRoute().question;
   if (request.showsSizes && !AsksForSizes(question)) {
     throw InputError({.code = Code::ChartSizesNeedTarget, .inputs = {"y", "power"}});

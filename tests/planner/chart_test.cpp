@@ -224,6 +224,13 @@ TEST(Chart, SizesFoundAreTheDesign) {
   EXPECT_EQ(At(chart, 48), MarkOf(chart).value);
 }
 
+TEST(Chart, TheEffectFoundIsTheDesign) {
+  const ChartData chart = Computed("two-means", Named("n"), {{"n", Numbers{40}}, {"power", 0.8}});
+  EXPECT_NEAR(chart.curves.front().design.Number("effect-d"), 0.6343, 1e-4);
+  EXPECT_EQ(MarkOf(chart).at, Numbers{40});
+  EXPECT_NEAR(MarkOf(chart).value, 0.8, 1e-9);
+}
+
 TEST(Chart, SeveralValuesMakeSeveralCurves) {
   ChartRequest request = Named("n");
   request.alternatives = Alternatives{"effect-d", {0.2, 0.5, 0.8}};
