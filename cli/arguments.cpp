@@ -3,6 +3,8 @@
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <utility>
 
 #include "catalogue/catalogue.h"
 #include "nearest.h"
@@ -16,7 +18,7 @@ using planner::Parameter;
 using planner::Test;
 
 const std::vector<std::pair<std::string, Format>> formats{
-    {"text", Format::Text}, {"json", Format::Json}, {"csv", Format::Csv}, {"markdown", Format::Markdown}};
+    {"text", Format::Text}, {"json", Format::Json}, {"csv", Format::Csv}, {"markdown", Format::Markdown}, {"ndjson", Format::Ndjson}};
 
 CLI::Option* AddOption(CLI::App& app, const std::string& names) {
   CLI::Option* option = app.add_option(names);
@@ -38,10 +40,17 @@ std::string NameOf(const Parameter& parameter) { return fmt::format("--{}", para
 
 const std::vector<std::string> rangeOptions{"from", "to", "step", "output"};
 
+void AddRun(CLI::App& app) {
+  CLI::App* command = AddCommand(app, "run");
+  AddOption(*command, "file");
+  for (const char* name : {"--test", "--output", "--jobs"}) AddOption(*command, name);
+}
+
 void AddTest(CLI::App& app, const Test& test) {
   CLI::App* command = AddCommand(app, test.name);
   AddOption(*command, "--chart");
   for (const std::string& name : rangeOptions) AddOption(*command, "--" + name);
+  for (const char* name : {"--save", "--jobs"}) AddOption(*command, name);
   for (const Parameter& parameter : test.parameters) {
     std::string names = NameOf(parameter);
     for (const std::string& alias : parameter.aliases) names += ",--" + alias;
@@ -75,20 +84,65 @@ Format FormatOf(const CLI::App& command) {
   for (const auto& [word, format] : formats) {
     if (word == *text) return format;
   }
-  throw UsageError(fmt::format("--format is \"{}\", but must be text, json, csv or markdown.", *text));
+  throw UsageError(fmt::format("--format is \"{}\", but must be text, json, csv, markdown or ndjson.", *text));
 }
 
-planner::InputValues ValuesOf(const CLI::App& command, const Test& test) {
-  planner::InputValues values;
-  for (const Parameter& parameter : test.parameters) {
-    const std::string name(parameter.name.Text());
-    if (parameter.kind == Kind::Flag) {
-      if (FlagOf(command, name)) values[name] = true;
-    } else if (const std::string* text = TextOf(command, name)) {
-      values[name] = planner::Parse(parameter, *text);
+/// All that is given for an option: several times, and several values at a time.
+planner::Alternatives AlternativesOf(const Parameter& parameter, const CLI::Option& option) {
+  planner::Alternatives alternatives{&parameter, {}};
+  for (const std::string& text : option.results()) {
+    for (planner::Value& value : planner::ParseAlternatives(parameter, text)) {
+      alternatives.values.push_back(std::move(value));
     }
   }
+  return alternatives;
+}
+
+/// What is given for the inputs, in the order of the command line.
+std::vector<planner::Alternatives> AlternativesOf(const CLI::App& command, const Test& test) {
+  std::vector<planner::Alternatives> all;
+  std::vector<const CLI::Option*> seen;
+  for (const CLI::Option* option : command.parse_order()) {
+    if (std::find(seen.begin(), seen.end(), option) != seen.end()) continue;
+    seen.push_back(option);
+    const Parameter* parameter = planner::FindParameter(test, std::string_view(option->get_lnames().front()));
+    if (!parameter) continue;
+    if (parameter->kind != Kind::Flag) {
+      all.push_back(AlternativesOf(*parameter, *option));
+    } else if (FlagOf(command, option->get_lnames().front())) {
+      all.push_back({parameter, {true}});
+    }
+  }
+  return all;
+}
+
+/// The values of a single design.
+planner::InputValues ValuesOf(const std::vector<planner::Alternatives>& alternatives) {
+  planner::InputValues values;
+  for (const auto& [parameter, all] : alternatives) values[std::string(parameter->name.Text())] = all.front();
   return values;
+}
+
+/// What has several values, or null.
+const Parameter* Varying(const std::vector<planner::Alternatives>& alternatives) {
+  for (const auto& [parameter, all] : alternatives) {
+    if (all.size() > 1) return parameter;
+  }
+  return nullptr;
+}
+
+unsigned JobsOf(const CLI::App& command) {
+  const std::string* text = TextOf(command, "jobs");
+  if (!text) return 0;
+  return static_cast<unsigned>(
+      std::get<double>(planner::Parse(planner::Number("jobs", "", "").Whole().AtLeast(1).AtMost(1024), *text)));
+}
+
+/// The file that an option names; empty without it.
+std::string FileOf(const CLI::App& command, const std::string& name) {
+  const std::string* text = TextOf(command, name);
+  if (text && text->empty()) throw UsageError(fmt::format("--{} is empty, but must name a file.", name));
+  return text ? *text : "";
 }
 
 planner::Numbers Ends(planner::Name name, const std::string& text) {
@@ -128,7 +182,7 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
 }
 
 [[noreturn]] void RejectCommand(const std::string& word) {
-  std::vector<std::string> names{"list"};
+  std::vector<std::string> names{"list", "run"};
   for (const Test& test : planner::Tests()) names.push_back(test.name);
   const std::string nearest = Nearest(word, names);
   if (!nearest.empty()) throw UsageError(fmt::format("\"{}\" is not a test; did you mean {}?", word, nearest));
@@ -136,15 +190,34 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
 }
 
 void ReadTest(const CLI::App& command, Request& request) {
-  request.values = ValuesOf(command, *request.test);
+  request.alternatives = AlternativesOf(command, *request.test);
+  request.values = ValuesOf(request.alternatives);
+  request.jobs = JobsOf(command);
+  request.save = FileOf(command, "save");
+  const Parameter* varying = Varying(request.alternatives);
   const std::string* chart = TextOf(command, "chart");
-  if (!chart) return RejectRangeOptions(command);
+  if (!chart) {
+    if (varying || request.format == Format::Ndjson) request.command = Command::Table;
+    return RejectRangeOptions(command);
+  }
+  if (varying) throw UsageError(fmt::format("{} has several values, but a chart is of one design.", NameOf(*varying)));
+  if (!request.save.empty()) throw UsageError("--save has no use together with --chart.");
   request.command = Command::Chart;
   request.chart = ChartOf(command, *chart);
-  if (const std::string* output = TextOf(command, "output")) {
-    if (output->empty()) throw UsageError("--output is empty, but must name a file.");
-    request.output = *output;
+  request.output = FileOf(command, "output");
+}
+
+void ReadRun(const CLI::App& command, Request& request) {
+  request.command = Command::Run;
+  const CLI::Option* file = command.get_option("file");
+  if (file->count() == 0) throw UsageError("No file is named; \"kelpower run --help\" says how.");
+  request.input = file->results().front();
+  if (const std::string* name = TextOf(command, "test")) {
+    request.test = planner::FindTest(*name);
+    if (!request.test) RejectCommand(*name);
   }
+  request.output = FileOf(command, "output");
+  request.jobs = JobsOf(command);
 }
 
 Request RequestOf(const CLI::App& app) {
@@ -157,15 +230,21 @@ Request RequestOf(const CLI::App& app) {
     return request;
   }
   const CLI::App& command = *app.get_subcommands().front();
-  request.test = planner::FindTest(command.get_name());
+  const bool isRun = command.get_name() == "run";
+  if (!isRun) request.test = planner::FindTest(command.get_name());
   const bool help = FlagOf(command, "help");
   if (help || FlagOf(app, "help")) {
-    request.command = request.test ? Command::TestHelp : Command::Overview;
+    request.command = request.test ? Command::TestHelp : isRun ? Command::RunHelp : Command::Overview;
     return request;
   }
   request.format = FormatOf(command);
+  if (TextOf(command, "format")) request.formatGiven = request.format;
   request.command = request.test ? Command::Solve : Command::List;
-  if (request.test) ReadTest(command, request);
+  if (isRun) {
+    ReadRun(command, request);
+  } else if (request.test) {
+    ReadTest(command, request);
+  }
   if (const auto extras = app.remaining(true); !extras.empty()) RejectExtra(command, extras.front());
   return request;
 }
@@ -180,6 +259,7 @@ Request ParseArguments(int argc, const char* const* argv) {
   app.add_flag("--help,-h");
   app.add_flag("--version");
   AddCommand(app, "list");
+  AddRun(app);
   for (const Test& test : planner::Tests()) AddTest(app, test);
   try {
     app.parse(argc, argv);

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "model/stop_request.h"
+#include "status_line.h"
 
 /// A computation that may take long. While it lives, Ctrl-C makes it answer that the library should stop, and a second
 /// Ctrl-C ends the program at once. Where the error stream is a terminal, a line tells how long it has been going on;
@@ -25,8 +26,7 @@ private:
   void LookAtTheClock();
 
   std::string what_;
-  bool isShown_;                 // the error stream is a terminal
-  std::size_t shownWidth_ = 0;   // of the line that stands there
+  StatusLine line_;
   std::uint32_t questionsLeft_;  // until the clock is looked at
   Clock::time_point start_ = Clock::now();
   Clock::time_point nextLine_;

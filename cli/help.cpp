@@ -105,7 +105,9 @@ std::string OptionLines(const Test& test) {
       text += fmt::format("  {:<{}}{}\n", "", width, details);
     }
   }
-  text += fmt::format("  {:<{}}  text (default), json, csv or markdown\n", "--format WORD", width);
+  text += fmt::format("  {:<{}}  text (default), json, csv, markdown or ndjson\n", "--format WORD", width);
+  text += fmt::format("  {:<{}}  keep the design for \"kelpower run\"\n", "--save FILE.json", width);
+  text += fmt::format("  {:<{}}  threads for a table of many designs; default one on each core\n", "--jobs NUMBER", width);
   text += fmt::format("  {:<{}}  this help\n", "--help", width);
   return text;
 }
@@ -125,6 +127,26 @@ std::string HelpOf(const Test& test, const Highlights& highlights) {
                         example.sentence);
   }
   return text;
+}
+
+std::string HelpOfRun(const Highlights& highlights) {
+  return fmt::format(
+      "{0}Answers a file of designs{1}\n"
+      "Each row is a design and gets its answer, in the order of the file. What a row leaves out is what is solved for.\n\n"
+      "  kelpower run FILE.csv|FILE.ndjson|FILE.json [--test NAME] [--format WORD] [--output FILE] [--jobs NUMBER]\n\n"
+      "{0}The file{1}\n"
+      "  The column \"test\" names the test, the others are its options without dashes. An empty field is not given.\n"
+      "  In csv a list is separated by spaces, and a flag is true or false. In json a file is an array of objects, or one.\n"
+      "  The answers are the rows with the results, a note where one is due, and the error of a row that has no answer.\n\n"
+      "{0}Options{1}\n"
+      "  FILE           .csv, .ndjson or .json; - for the standard input\n"
+      "  --test NAME    the test of all rows, where no column names it\n"
+      "  --format WORD  csv, ndjson or json; default that of the file\n"
+      "  --output FILE  the file of the answers; default the standard output\n"
+      "  --jobs NUMBER  threads; default one on each core\n"
+      "  --help         this help\n\n"
+      "{0}Example{1}: kelpower run designs.csv --output answers.csv\n",
+      highlights.heading, highlights.end);
 }
 
 std::string ListOfTests(const Highlights& highlights) {

@@ -20,6 +20,9 @@ TerminalSize SizeOf(std::FILE* stream);
 /// Lets the standard streams take text as it is. To be called first.
 void PrepareStandardStreams();
 
+/// Lets the standard input give its bytes as they are.
+void PrepareStandardInput();
+
 /// Whether `stream` is a terminal.
 bool IsTerminal(std::FILE* stream);
 

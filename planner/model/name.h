@@ -46,6 +46,7 @@ private:
       "half-width",
       "interval",
       "interval-method",
+      "jobs",
       "mean",
       "mean-difference",
       "means",

@@ -54,6 +54,19 @@ enum class Code {
   NoEffect = 400,
   SizesNotFound = 401,
   NotComputable = 402,
+  // Designs in files and tables.
+  TestNowhere = 600,
+  TestMissing = 601,
+  TestUnknown = 602,
+  ColumnUnknown = 603,
+  ColumnRepeated = 604,
+  FieldsDisagree = 605,
+  NotAnObject = 606,
+  ColumnsMissing = 607,
+  NotDesigns = 608,
+  RangeUseless = 609,
+  TooManyDesigns = 610,
+  FieldLate = 611,
   // Ends that are no fault of the inputs.
   Stopped = 500,
 };

@@ -39,7 +39,8 @@ public:
   /// true it must go on to.
   PreparedQuestion(const Test& test, const InputValues& values, StopRequest* stop = nullptr);
 
-  /// Says which inputs the rows give. Throws an InputError when one is no number that was given.
+  /// Says which inputs the rows give. Throws an InputError when one is no number that was given, or is the number of
+  /// groups, which decides how long the lists are.
   void SetColumns(std::vector<Column> columns);
 
   /// Answers the design whose varying inputs are the entries of `row`, in the order of the columns.
@@ -51,6 +52,12 @@ public:
 
   /// The sizes that the last answer found.
   const Numbers& Sizes() const { return sizes_; }
+
+  /// The sizes of the last answer of a test of groups, or those that it found.
+  const Numbers& SizesOfAnswer() const { return AsksForSizes(route_.question) ? sizes_ : inputs_.List("n"); }
+
+  /// Whether the sizes that the last answer found miss the target by a little.
+  bool MissesTarget() const { return AsksForSizes(route_.question) && isMissed_; }
 
   /// The whole answer for the inputs as they are. Throws an InputError, a NoSolution, or Stopped.
   Answer Solve();

@@ -3,28 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "words/csv.h"
 #include "words/numbers.h"
 #include "words/render.h"
 
 namespace planner {
 namespace {
-
-/// A value with all its digits, lists separated by spaces.
-std::string CsvValue(const Value& value) {
-  const auto* numbers = std::get_if<Numbers>(&value);
-  return numbers ? ListedWithSpaces(*numbers) : Shown(value);
-}
-
-/// A field of a CSV line, quoted where its content asks for it.
-std::string CsvField(const std::string& text) {
-  if (text.find_first_of(",\"\n") == std::string::npos) return text;
-  std::string quoted = "\"";
-  for (char letter : text) {
-    if (letter == '"') quoted += '"';
-    quoted += letter;
-  }
-  return quoted + '"';
-}
 
 std::string Cell(double power) { return std::isnan(power) ? "" : Shortest(power); }
 

@@ -12,11 +12,6 @@
 namespace planner {
 namespace {
 
-std::optional<Value> ReadFlag(std::string_view text) {
-  if (text != "yes" && text != "no") return std::nullopt;
-  return text == "yes";
-}
-
 std::optional<Value> ReadNumber(std::string_view text) {
   double number = 0;
   if (!ParseNumber(text, number)) return std::nullopt;
@@ -36,13 +31,23 @@ std::optional<Value> ReadNumbers(std::string_view text) {
 }
 
 std::optional<Value> Read(const Parameter& parameter, std::string_view text) {
-  if (parameter.kind == Kind::Flag) return ReadFlag(text);
+  if (parameter.kind == Kind::Flag) return ParseFlag(text);
   if (parameter.kind == Kind::Number) return ReadNumber(text);
   if (parameter.IsList()) return ReadNumbers(text);
   return std::string(text);
 }
 
 }  // namespace
+
+std::optional<bool> ParseFlag(std::string_view text) {
+  for (const char* yes : {"true", "yes", "TRUE"}) {
+    if (text == yes) return true;
+  }
+  for (const char* no : {"false", "no", "FALSE"}) {
+    if (text == no) return false;
+  }
+  return std::nullopt;
+}
 
 std::string Text(const Limits& limits) {
   const auto& [low, high, lowAllowed, highAllowed, whole] = limits;
@@ -67,7 +72,7 @@ std::string Allowed(const Parameter& parameter) {
   std::vector<std::string> words;
   for (const Choice& choice : parameter.choices) words.push_back(choice.word);
   switch (parameter.kind) {
-    case Kind::Flag: return "yes or no";
+    case Kind::Flag: return "true or false";
     case Kind::Choice: return Joined(words, " or ");
     case Kind::Number: return each;
     case Kind::List:

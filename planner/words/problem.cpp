@@ -59,6 +59,7 @@ private:
   std::string SizesNotFound() const;
   std::string OfCondition() const;
   std::string ChartSentence() const;
+  std::string SentenceOnDesigns() const;
 
   const Problem& problem_;
   const NameOfInput& name_;
@@ -168,6 +169,31 @@ std::string Words::ChartSentence() const {
   }
 }
 
+std::string Words::SentenceOnDesigns() const {
+  switch (problem_.code) {
+    case Code::TestNowhere: return "No column \"test\" names the test of each design, and none is named for all of them.";
+    case Code::TestMissing: return "The row names no test.";
+    case Code::TestUnknown: return fmt::format("\"{}\" is not a test.", problem_.words[0]);
+    case Code::ColumnUnknown:
+      return fmt::format("The column \"{}\" is not an input of {}.", problem_.words[0],
+                         problem_.words.size() > 1 ? problem_.words[1] : "any test");
+    case Code::ColumnRepeated: return fmt::format("The column \"{}\" is there more than once.", problem_.words[0]);
+    case Code::FieldsDisagree:
+      return fmt::format("The row has {} fields, but there are {} columns.", Figure(0), Figure(1));
+    case Code::NotAnObject: return "The line is not an object of JSON that describes a design.";
+    case Code::ColumnsMissing: return "There is no line that names the columns.";
+    case Code::NotDesigns: return "This is not JSON of one design or an array of designs.";
+    case Code::RangeUseless:
+      return fmt::format("{} is \"{}\", but a range must be three numbers from:to:step with a step that leads from the "
+                         "one end to the other.",
+                         Input(0), Figure(0));
+    case Code::FieldLate:
+      return fmt::format("The field \"{}\" has no column here, since the first rows lack it.", problem_.words[0]);
+    case Code::TooManyDesigns: return fmt::format("These are more than {} designs.", Figure(0));
+    default: return ChartSentence();
+  }
+}
+
 std::string Words::Sentence() const {
   switch (problem_.code) {
     case Code::NotAnInput: return fmt::format("{} is not an option of {}.", Input(0), problem_.words[0]);
@@ -193,7 +219,7 @@ std::string Words::Sentence() const {
     case Code::NotComputable:
       return fmt::format("These inputs have no answer: {} cannot be computed.", Wording(*problem_.question));
     case Code::Stopped: return "The computation was stopped; there is no answer.";
-    default: return ChartSentence();
+    default: return SentenceOnDesigns();
   }
 }
 

@@ -3,8 +3,9 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
-#include <numeric>
+#include <limits>
 
 #include "words/expand.h"
 #include "words/numbers.h"
@@ -31,18 +32,16 @@ Numbers Readable(Numbers sizes) {
 
 std::string Readable(double size) { return Shortest(Readable(Numbers{size}).front()); }
 
-double Total(const Numbers& sizes) { return std::accumulate(sizes.begin(), sizes.end(), 0.0); }
-
 /// "20 observations in each of 3 groups (60 in total)"
 std::string SizesInSentence(const Test& test, const Numbers& sizes) {
   if (test.groups == 1) return fmt::format("{} {}", Readable(sizes.front()), test.counted);
   const bool equal = std::adjacent_find(sizes.begin(), sizes.end(), std::not_equal_to<>()) == sizes.end();
   if (equal) {
     return fmt::format("{} {} in each of {} groups ({} in total)", Readable(sizes.front()), test.counted, sizes.size(),
-                       Readable(Total(sizes)));
+                       Readable(TotalOf(sizes)));
   }
   return fmt::format("{} {} in {} groups ({} in total)", ListedInSentence(Readable(sizes)), test.counted, sizes.size(),
-                     Readable(Total(sizes)));
+                     Readable(TotalOf(sizes)));
 }
 
 std::string ChoiceWording(const Parameter& parameter, const std::string& word) {
@@ -64,7 +63,7 @@ public:
 private:
   std::string LookUp(std::string_view name) const {
     if (name == "sizes") return SizesInSentence(test_, answer_.sizes);
-    if (name == "total") return Readable(Total(answer_.sizes));
+    if (name == "total") return Readable(TotalOf(answer_.sizes));
     if (name == "groups") return Shortest(inputs_.Groups());
     if (name == "power") return ShownPower(answer_.value);
     if (name == "half-width") return ShownHalfWidth(answer_.value);
@@ -105,40 +104,40 @@ private:
 
 std::vector<Entry> InputEntries(const Answer& answer) {
   std::vector<Entry> entries;
-  const Route& route = *answer.route;
-  for (const Parameter& parameter : answer.test->parameters) {
-    const Name name = parameter.name;
-    if (!answer.inputs.Has(name)) continue;
-    if (parameter.shownOnlySet && !answer.inputs.Flag(name)) continue;
-    const bool isTarget = name == AskedBy(route.question) && name != Name("interval");
-    if (!route.Takes(name) && !isTarget && name != Name("alpha")) continue;
-    const Value value = answer.inputs.ValueOf(parameter);
-    entries.push_back({std::string(name.Text()), parameter.label, value, Shown(value)});
+  for (const Parameter* parameter : ListedParameters(*answer.test, *answer.route, answer.inputs)) {
+    const Value value = answer.inputs.ValueOf(*parameter);
+    entries.push_back({std::string(parameter->name.Text()), parameter->label, value, Shown(value)});
   }
   return entries;
 }
 
+double FigureOf(const Answer& answer, const Derived* derived) {
+  for (const DerivedFigure& figure : answer.derived) {
+    if (figure.derived == derived) return figure.value;
+  }
+  return std::numeric_limits<double>::quiet_NaN();
+}
+
+double ResultOf(const Answer& answer, const ResultColumn& column) {
+  switch (column.reading) {
+    case Reading::Figure: return FigureOf(answer, column.derived);
+    case Reading::Size:
+    case Reading::Sizes: return TotalOf(answer.sizes);
+    case Reading::Power:
+    case Reading::HalfWidth: return answer.value;
+  }
+  return answer.value;
+}
+
 std::vector<Entry> ResultEntries(const Answer& answer) {
   std::vector<Entry> entries;
-  const bool grouped = answer.test->groups != 1;
-  for (const auto& [derived, figure] : answer.derived) {
-    entries.push_back({derived->name, derived->label, figure, fmt::format("{:.4g}", figure)});
-  }
-  if (answer.SizesFound() && grouped) {
-    entries.push_back({"sizes", "group sizes", answer.sizes, Listed(Readable(answer.sizes))});
-  }
-  if (answer.SizesFound() && !grouped) {
-    entries.push_back({"n", "sample size", answer.sizes.front(), Readable(answer.sizes.front())});
-  }
-  if (grouped) {
-    const double total = Total(answer.sizes);
-    entries.push_back({"total", "total sample size", total, Readable(total)});
-  }
-  const std::string suffix = answer.SizesFound() ? " at these sizes" : "";
-  if (IsAboutPower(answer.Asked())) {
-    entries.push_back({"power", "power" + suffix, answer.value, ShownPower(answer.value)});
-  } else {
-    entries.push_back({"half-width", "half-width" + suffix, answer.value, ShownHalfWidth(answer.value)});
+  for (const ResultColumn& column : ResultColumns(*answer.test, *answer.route)) {
+    const double value = ResultOf(answer, column);
+    if (column.reading == Reading::Sizes) {
+      entries.push_back({column.name, column.label, answer.sizes, ShownSizes(answer.sizes)});
+    } else if (!std::isnan(value)) {
+      entries.push_back({column.name, column.label, value, ShownResult(column.reading, value)});
+    }
   }
   return entries;
 }
@@ -157,13 +156,39 @@ std::string Wording(Note note) {
   return "";
 }
 
+}  // namespace
+
+std::vector<const Parameter*> ListedParameters(const Test& test, const Route& route, const Inputs& inputs) {
+  std::vector<const Parameter*> listed;
+  for (const Parameter& parameter : test.parameters) {
+    const Name name = parameter.name;
+    if (!inputs.Has(name)) continue;
+    if (parameter.shownOnlySet && !inputs.Flag(name)) continue;
+    const bool isTarget = name == AskedBy(route.question) && name != Name("interval");
+    if (!route.Takes(name) && !isTarget && name != Name("alpha")) continue;
+    listed.push_back(&parameter);
+  }
+  return listed;
+}
+
+std::string ShownResult(Reading reading, double value) {
+  switch (reading) {
+    case Reading::Power: return ShownPower(value);
+    case Reading::HalfWidth: return ShownHalfWidth(value);
+    case Reading::Size:
+    case Reading::Sizes: return Readable(value);
+    case Reading::Figure: break;
+  }
+  return fmt::format("{:.4g}", value);
+}
+
+std::string ShownSizes(const Numbers& sizes) { return Listed(Readable(sizes)); }
+
 std::string WordingOf(const std::vector<Note>& notes) {
   std::vector<std::string> sentences;
   for (Note note : notes) sentences.push_back(Wording(note));
   return Joined(sentences, " ", " ");
 }
-
-}  // namespace
 
 Report MakeReport(const Answer& answer) {
   return {.test = answer.test,

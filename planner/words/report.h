@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "model/answer.h"
+#include "solve/results.h"
 
 namespace planner {
 
@@ -27,5 +28,15 @@ struct Report {
 };
 
 Report MakeReport(const Answer& answer);
+
+/// The parameters that a report of the route's answers lists, where these inputs have a value.
+std::vector<const Parameter*> ListedParameters(const Test& test, const Route& route, const Inputs& inputs);
+
+/// A result for reading.
+std::string ShownResult(Reading reading, double value);
+std::string ShownSizes(const Numbers& sizes);
+
+/// What the reader should be warned of; mostly empty.
+std::string WordingOf(const std::vector<Note>& notes);
 
 }  // namespace planner

@@ -1,0 +1,31 @@
+#include "solve/results.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace planner {
+
+std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route) {
+  std::vector<ResultColumn> columns;
+  for (const Derived& derived : test.derived) {
+    const auto takes = [&](Name name) { return route.Takes(name); };
+    if (!std::all_of(derived.needs.begin(), derived.needs.end(), takes)) continue;
+    columns.push_back({derived.name, derived.label, Reading::Figure, &derived});
+  }
+  const bool findsSizes = AsksForSizes(route.question);
+  const bool isGrouped = test.groups != 1;
+  if (findsSizes && isGrouped) columns.push_back({"sizes", "group sizes", Reading::Sizes});
+  if (findsSizes && !isGrouped) columns.push_back({"n", "sample size", Reading::Size});
+  if (isGrouped) columns.push_back({"total", "total sample size", Reading::Size});
+  const std::string suffix = findsSizes ? " at these sizes" : "";
+  if (IsAboutPower(route.question)) {
+    columns.push_back({"power", "power" + suffix, Reading::Power});
+  } else {
+    columns.push_back({"half-width", "half-width" + suffix, Reading::HalfWidth});
+  }
+  return columns;
+}
+
+double TotalOf(const Numbers& sizes) { return std::accumulate(sizes.begin(), sizes.end(), 0.0); }
+
+}  // namespace planner

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "model/test.h"
+
+namespace planner {
+
+/// How a result is read.
+enum class Reading {
+  Figure,     // a number of some scale
+  Size,       // a count
+  Sizes,      // a list of counts, one for each group
+  Power,      // a probability
+  HalfWidth,  // in the unit of the data
+};
+
+/// A result that the answers of a route have, known before any of them is computed.
+struct ResultColumn {
+  std::string name;
+  std::string label;
+  Reading reading;
+  const Derived* derived = nullptr;  // the figure it is, if it is one
+};
+
+/// The results of the route's answers, in the order of a report. Figures may be missing in an answer.
+std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route);
+
+double TotalOf(const Numbers& sizes);
+
+}  // namespace planner
