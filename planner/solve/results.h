@@ -7,11 +7,11 @@
 
 namespace planner {
 
-/// How a result is read.
+/// How a result is read. Results come in this order.
 enum class Reading {
   Figure,     // a number of some scale
-  Size,       // a count
   Sizes,      // a list of counts, one for each group
+  Size,       // a count
   Power,      // a probability
   HalfWidth,  // in the unit of the data
 };

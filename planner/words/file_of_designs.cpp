@@ -74,6 +74,7 @@ void FileOfDesigns::RejectColumns() const {
 }
 
 void FileOfDesigns::FindResults() {
+  std::vector<ResultColumn> all;
   for (const Test& test : Tests()) {
     if (testColumn_ == columns_.size() && test_ && test_ != &test) continue;
     Names names;
@@ -82,10 +83,13 @@ void FileOfDesigns::FindResults() {
     }
     for (const Route& route : test.routes) {
       if (!IsPossible(route, names)) continue;
-      for (const ResultColumn& column : ResultColumns(test, route)) {
-        if (!IsAmong(results_, column.name)) results_.push_back(column.name);
-      }
+      for (ResultColumn& column : ResultColumns(test, route)) all.push_back(std::move(column));
     }
+  }
+  std::stable_sort(all.begin(), all.end(),
+                   [](const ResultColumn& a, const ResultColumn& b) { return a.reading < b.reading; });
+  for (const ResultColumn& column : all) {
+    if (!IsAmong(results_, column.name)) results_.push_back(column.name);
   }
 }
 
