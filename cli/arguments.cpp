@@ -17,8 +17,11 @@ using planner::Kind;
 using planner::Parameter;
 using planner::Test;
 
-const std::vector<std::pair<std::string, Format>> formats{
-    {"text", Format::Text}, {"json", Format::Json}, {"csv", Format::Csv}, {"markdown", Format::Markdown}, {"ndjson", Format::Ndjson}};
+const std::vector<std::pair<std::string, Format>> formats{{"text", Format::Text},
+                                                          {"json", Format::Json},
+                                                          {"csv", Format::Csv},
+                                                          {"markdown", Format::Markdown},
+                                                          {"ndjson", Format::Ndjson}};
 
 CLI::Option* AddOption(CLI::App& app, const std::string& names) {
   CLI::Option* option = app.add_option(names);

@@ -15,9 +15,7 @@ constexpr std::chrono::seconds linePeriod{1};
 }  // namespace
 
 Computation::Computation(std::string what)
-    : what_(std::move(what)),
-      questionsLeft_(questionsPerLook),
-      nextLine_(start_ + linePeriod) {
+    : what_(std::move(what)), questionsLeft_(questionsPerLook), nextLine_(start_ + linePeriod) {
   NoteInterrupts();
 }
 

@@ -71,6 +71,4 @@ void ProgressBar::Show(double done) {
   line_.Show(fmt::format("Designs [{:<20}] {:3.0f}%", bar, 100 * share));
 }
 
-unsigned ThreadCount(unsigned jobs) {
-  return jobs > 0 ? jobs : std::max(1U, std::thread::hardware_concurrency());
-}
+unsigned ThreadCount(unsigned jobs) { return jobs > 0 ? jobs : std::max(1U, std::thread::hardware_concurrency()); }

@@ -107,7 +107,8 @@ std::string OptionLines(const Test& test) {
   }
   text += fmt::format("  {:<{}}  text (default), json, csv, markdown or ndjson\n", "--format WORD", width);
   text += fmt::format("  {:<{}}  keep the design for \"kelpower run\"\n", "--save FILE.json", width);
-  text += fmt::format("  {:<{}}  threads for a table of many designs; default one on each core\n", "--jobs NUMBER", width);
+  text +=
+      fmt::format("  {:<{}}  threads for a table of many designs; default one on each core\n", "--jobs NUMBER", width);
   text += fmt::format("  {:<{}}  this help\n", "--help", width);
   return text;
 }

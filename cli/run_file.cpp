@@ -52,7 +52,7 @@ FileOfDesigns FileOf(RowsInput& input, const Request& request) {
   } else if (answers == DesignFormat::Csv) {
     columns = planner::FieldsOfLines(input.Ahead());
   }
-  return FileOfDesigns(input.Format(), answers, std::move(columns), request.test);
+  return FileOfDesigns(input.Format(), answers, std::move(columns), request.test, input.Ahead());
 }
 
 bool Answer(RowsInput& input, const FileOfDesigns& file, const Request& request) {

@@ -73,6 +73,7 @@ std::vector<Parameter> ParametersOfTwoProportions() {
              {"likelihood-ratio", CodeOf(TwoProportionTest::LikelihoodRatio), "likelihood-ratio test"},
              {"arcsine", CodeOf(TwoProportionTest::Arcsine), "arcsine test"},
              {"conditional", CodeOf(TwoProportionTest::Conditional), "conditional (Fisher) test"}})
+          .Alias("statistic")
           .Default("z"),
       Flag("exact", "exact power", "sum over all tables in place of the large-sample formula"),
       Flag("pooled", "pooled variance", "standard error under equal proportions (z), pooled variance (t)"),
@@ -96,6 +97,7 @@ Test TwoProportionsTest() {
             .groups = 2};
   test.parameters = ParametersOfTwoProportions();
   test.routes = RoutesOfTwoProportions();
+  test.unknowns = UnknownsOfTwoProportions();
   test.conditions = ConditionsOfTwoProportions();
   test.sizeExists = SizeExistsForTwoProportions();
   test.derived = {

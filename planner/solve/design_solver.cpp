@@ -12,6 +12,8 @@ namespace {
 // A file may have as many shapes as designs; beyond this all are prepared anew.
 constexpr std::size_t mostShapes = 256;
 
+constexpr double none = std::numeric_limits<double>::quiet_NaN();
+
 bool AreInOrder(const std::vector<std::size_t>& sources) {
   for (std::size_t i = 0; i < sources.size(); ++i) {
     if (sources[i] != i) return false;
@@ -23,7 +25,7 @@ bool AreInOrder(const std::vector<std::size_t>& sources) {
 
 DesignSolver::Shape::Shape(const DesignRow& row, StopRequest* stop)
     : question(row.AskedTest(), row.Values(), stop),
-      columns(ResultColumns(row.AskedTest(), question.ChosenRoute())) {
+      columns(ResultColumns(row.AskedTest(), question.ChosenRoute(), question.SolvedFor())) {
   std::vector<Column> inputs;
   for (const auto& [parameter, first, count] : row.NumbersGiven()) {
     if (parameter->name == Name("groups")) continue;
@@ -82,9 +84,9 @@ Row DesignSolver::Evaluate(Shape& shape, const DesignRow& row) {
   return shape.question.Evaluate(arranged_);
 }
 
-void DesignSolver::Collect(const Shape& shape, double value) {
-  constexpr double none = std::numeric_limits<double>::quiet_NaN();
-  const PreparedQuestion& question = shape.question;
+void DesignSolver::Collect(Shape& shape, double value) {
+  PreparedQuestion& question = shape.question;
+  question.TakeUnknown();
   const Inputs& inputs = question.Design();
   answer_.problem.reset();
   answer_.shape = shape.number;
@@ -94,7 +96,10 @@ void DesignSolver::Collect(const Shape& shape, double value) {
   for (std::size_t i = 0; i < shape.columns.size(); ++i) {
     const ResultColumn& column = shape.columns[i];
     switch (column.reading) {
-      case Reading::Figure: answer_.values.push_back(shape.hasFigure[i] ? column.derived->call(inputs) : none); break;
+      case Reading::Figure:
+        if (!column.derived) answer_.values.push_back(question.FoundUnknown());
+        if (column.derived) answer_.values.push_back(shape.hasFigure[i] ? column.derived->call(inputs) : none);
+        break;
       case Reading::Sizes: answer_.values.push_back(none); break;
       case Reading::Size: answer_.values.push_back(TotalOf(*answer_.sizes)); break;
       case Reading::Power:

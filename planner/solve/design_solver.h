@@ -16,10 +16,10 @@ namespace planner {
 /// The answer to one design among many, or why it has none. It is good until the next design is answered.
 struct DesignAnswer {
   std::optional<Problem> problem;
-  std::size_t shape = 0;                         // designs with the same have the same columns
+  std::size_t shape = 0;                          // designs with the same have the same columns
   const std::vector<ResultColumn>* columns = {};  // null with a problem
-  Numbers values;                                // one for each column, NaN where a figure is missing
-  const Numbers* sizes = nullptr;                // in place of the value of a column of sizes
+  Numbers values;                                 // one for each column, NaN where a figure is missing
+  const Numbers* sizes = nullptr;                 // in place of the value of a column of sizes
   std::vector<Note> notes;
 
   bool IsAnswered() const { return !problem; }
@@ -41,13 +41,13 @@ private:
     PreparedQuestion question;
     std::vector<std::size_t> sources;  // of each column of the question, among the numbers of a row; empty for the same
     std::vector<ResultColumn> columns;
-    std::vector<bool> hasFigure;  // of each column, as far as the inputs tell
+    std::vector<bool> hasFigure;  // of each column of one, as far as the inputs tell
     std::size_t number = 0;
   };
 
   Shape& ShapeOf(const DesignRow& row);
   Row Evaluate(Shape& shape, const DesignRow& row);
-  void Collect(const Shape& shape, double value);
+  void Collect(Shape& shape, double value);
   void Refuse(Problem problem);
 
   StopRequest* stop_;

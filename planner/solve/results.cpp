@@ -5,8 +5,12 @@
 
 namespace planner {
 
-std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route) {
+std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, const Unknown* unknown) {
   std::vector<ResultColumn> columns;
+  if (unknown) {
+    const Parameter& parameter = *FindParameter(test, unknown->input);
+    columns.push_back({std::string(parameter.name.Text()), parameter.label, Reading::Figure});
+  }
   for (const Derived& derived : test.derived) {
     const auto takes = [&](Name name) { return route.Takes(name); };
     if (!std::all_of(derived.needs.begin(), derived.needs.end(), takes)) continue;

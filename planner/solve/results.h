@@ -21,11 +21,12 @@ struct ResultColumn {
   std::string name;
   std::string label;
   Reading reading;
-  const Derived* derived = nullptr;  // the figure it is, if it is one
+  const Derived* derived = nullptr;  // of a figure; null for the number that is solved for
 };
 
-/// The results of the route's answers, in the order of a report. Figures may be missing in an answer.
-std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route);
+/// The results of the route's answers, in the order of a report. `unknown` is what is solved for with the route, or null.
+/// Figures may be missing in an answer.
+std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, const Unknown* unknown = nullptr);
 
 double TotalOf(const Numbers& sizes);
 

@@ -1,9 +1,10 @@
+#include "words/csv.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <cmath>
 
-#include "words/csv.h"
 #include "words/numbers.h"
 #include "words/render.h"
 

@@ -7,6 +7,7 @@
 #include "model/problem.h"
 #include "solve/results.h"
 #include "words/csv.h"
+#include "words/read_design.h"
 
 namespace planner {
 namespace {
@@ -29,16 +30,45 @@ bool IsPossible(const Route& route, const Names& names) {
   return std::all_of(route.needs.begin(), route.needs.end(), isThere);
 }
 
+/// Whether such a design may solve for the unknown with the route.
+bool IsPossible(const Unknown& unknown, const Route& route, const Names& names) {
+  if (route.question != unknown.target) return false;
+  if (!Contains(names, unknown.target == Question::Power ? Name("power") : Name("half-width"))) return false;
+  const bool needsName = unknown.set || unknown.input == Name("alpha");
+  if (needsName && !Contains(names, "solve")) return false;
+  return std::all_of(route.needs.begin(), route.needs.end(),
+                     [&](Name name) { return name == unknown.input || Contains(names, name); });
+}
+
+/// The results that designs with values for these parameters may have.
+std::vector<ResultColumn> PossibleResults(const Test& test, const std::vector<const Parameter*>& parameters) {
+  Names names;
+  for (const Parameter* parameter : parameters) {
+    if (parameter) names.push_back(parameter->name);
+  }
+  std::vector<ResultColumn> results;
+  for (const Route& route : test.routes) {
+    const auto add = [&](const Unknown* unknown) {
+      for (ResultColumn& column : ResultColumns(test, route, unknown)) results.push_back(std::move(column));
+    };
+    if (IsPossible(route, names)) add(nullptr);
+    for (const Unknown& unknown : test.unknowns) {
+      if (IsPossible(unknown, route, names)) add(&unknown);
+    }
+  }
+  return results;
+}
+
 }  // namespace
 
 FileOfDesigns::FileOfDesigns(DesignFormat format, DesignFormat answers, std::vector<std::string> columns,
-                             const Test* test)
+                             const Test* test, std::string_view ahead)
     : format_(format), answers_(answers), columns_(std::move(columns)), test_(test) {
   testColumn_ = static_cast<std::size_t>(std::find(columns_.begin(), columns_.end(), "test") - columns_.begin());
   const bool isTestNamed = test_ || testColumn_ < columns_.size();
   if (format_ == DesignFormat::Csv && !isTestNamed) throw InputError({.code = Code::TestNowhere});
   FindParameters();
-  FindResults();
+  if (answers_ == DesignFormat::Csv) FindResults(ahead);
 }
 
 void FileOfDesigns::FindParameters() {
@@ -73,17 +103,16 @@ void FileOfDesigns::RejectColumns() const {
   }
 }
 
-void FileOfDesigns::FindResults() {
+void FileOfDesigns::FindResults(std::string_view ahead) {
+  const bool isOne = test_ && testColumn_ == columns_.size();
+  const std::set<std::string, std::less<>> tests =
+      isOne ? std::set<std::string, std::less<>>{test_->name} : TestsAhead(ahead);
   std::vector<ResultColumn> all;
   for (const Test& test : Tests()) {
-    if (testColumn_ == columns_.size() && test_ && test_ != &test) continue;
-    Names names;
-    for (const Parameter* parameter : ParametersOf(test)) {
-      if (parameter) names.push_back(parameter->name);
-    }
-    for (const Route& route : test.routes) {
-      if (!IsPossible(route, names)) continue;
-      for (ResultColumn& column : ResultColumns(test, route)) all.push_back(std::move(column));
+    if (isOne && test_ != &test) continue;
+    const bool isAhead = tests.count(test.name) > 0 || test_ == &test;
+    for (ResultColumn& column : PossibleResults(test, ParametersOf(test))) {
+      if (isAhead || column.reading != Reading::Figure) all.push_back(std::move(column));
     }
   }
   std::stable_sort(all.begin(), all.end(),
@@ -91,6 +120,24 @@ void FileOfDesigns::FindResults() {
   for (const ResultColumn& column : all) {
     if (!IsAmong(results_, column.name)) results_.push_back(column.name);
   }
+}
+
+/// The names of tests in the first rows.
+std::set<std::string, std::less<>> FileOfDesigns::TestsAhead(std::string_view ahead) const {
+  std::set<std::string, std::less<>> tests;
+  CsvRecord record;
+  while (!ahead.empty()) {
+    const std::size_t end =
+        std::min(format_ == DesignFormat::Csv ? CsvRecordEnd(ahead, 0) : ahead.find('\n'), ahead.size());
+    if (format_ == DesignFormat::Csv) {
+      record.Split(ahead.substr(0, end));
+      if (record.Count() > testColumn_) tests.emplace(Trimmed(record.Fields()[testColumn_]));
+    } else {
+      tests.insert(TestOfLine(ahead.substr(0, end)));
+    }
+    ahead.remove_prefix(std::min(std::max<std::size_t>(end, 1), ahead.size()));
+  }
+  return tests;
 }
 
 std::string FileOfDesigns::NameOfResult(const std::string& result) const {
@@ -103,6 +150,11 @@ std::string FileOfDesigns::Head() const {
   for (const std::string& column : columns_) head += CsvField(column) + ',';
   for (const std::string& result : results_) head += CsvField(NameOfResult(result)) + ',';
   return head + "note,error\n";
+}
+
+std::string NameOfColumn(const Parameter& parameter) {
+  const std::string name(parameter.name.Text());
+  return name == "test" && !parameter.aliases.empty() ? parameter.aliases.front() : name;
 }
 
 std::vector<std::string> ColumnsOf(std::string_view line) {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,8 +20,10 @@ enum class DesignFormat { Csv, Ndjson, Json };
 class FileOfDesigns {
 public:
   /// `columns` names those of CSV, or the fields that are known to occur where answers in CSV are wanted. `test` is that
-  /// of all rows; it may be null when a column or field names it. Throws an InputError when a column is no input.
-  FileOfDesigns(DesignFormat format, DesignFormat answers, std::vector<std::string> columns, const Test* test);
+  /// of all rows; it may be null when a column or field names it. `ahead` are the first rows, whose tests tell the columns
+  /// of results. Throws an InputError when a column is no input.
+  FileOfDesigns(DesignFormat format, DesignFormat answers, std::vector<std::string> columns, const Test* test,
+                std::string_view ahead);
 
   DesignFormat Format() const { return format_; }
   DesignFormat AnswerFormat() const { return answers_; }
@@ -32,7 +36,8 @@ public:
   /// The parameter of each column, null where the test has none.
   const std::vector<const Parameter*>& ParametersOf(const Test& test) const { return parameters_.at(&test); }
 
-  /// The names of all results that rows with these columns may have. One that is also a column is told apart.
+  /// The names of all results that rows with these columns may have, of figures those of the first rows' tests. One that
+  /// is also a column is told apart.
   const std::vector<std::string>& Results() const { return results_; }
   std::string NameOfResult(const std::string& result) const;
 
@@ -42,7 +47,8 @@ public:
 private:
   void FindParameters();
   void RejectColumns() const;
-  void FindResults();
+  void FindResults(std::string_view ahead);
+  std::set<std::string, std::less<>> TestsAhead(std::string_view ahead) const;
 
   DesignFormat format_;
   DesignFormat answers_;
@@ -52,6 +58,9 @@ private:
   std::map<const Test*, std::vector<const Parameter*>> parameters_;
   std::vector<std::string> results_;
 };
+
+/// The name of an input's column or field. `test` names the test, so that an input of this name goes by its other one.
+std::string NameOfColumn(const Parameter& parameter);
 
 /// The lines of NDJSON that a document of JSON is, an array of designs or a single one. Throws an InputError.
 std::string LinesOfJson(std::string_view document);

@@ -24,9 +24,8 @@ constexpr double rounding = 1e-9;
 }
 
 [[noreturn]] void RejectRange(const Parameter& parameter, std::string_view text) {
-  throw InputError({.code = Code::RangeUseless,
-                    .inputs = {std::string(parameter.name.Text())},
-                    .values = {std::string(text)}});
+  throw InputError(
+      {.code = Code::RangeUseless, .inputs = {std::string(parameter.name.Text())}, .values = {std::string(text)}});
 }
 
 /// The number without the last digit, which the sum of many steps rounds: 0.3 and not 0.30000000000000004.

@@ -38,6 +38,9 @@ private:
 
   std::string Figure(std::size_t i) const { return Shown(problem_.values[i]); }
 
+  /// To four digits.
+  std::string Rounded(std::size_t i) const { return fmt::format("{:.4g}", std::get<double>(problem_.values[i])); }
+
   /// "--sd and --n, or --effect-f and --n"
   std::string Ways(const std::string& last, const std::string& other) const {
     std::vector<std::string> ways;
@@ -57,6 +60,8 @@ private:
   std::string TooLarge() const;
   std::string TooSlow() const;
   std::string SizesNotFound() const;
+  std::string NothingUnknown() const;
+  std::string TargetNotReached() const;
   std::string OfCondition() const;
   std::string ChartSentence() const;
   std::string SentenceOnDesigns() const;
@@ -107,6 +112,17 @@ std::string Words::TooLarge() const {
 
 std::string Words::SizesNotFound() const {
   return fmt::format("No sample size was found that reaches a {} of {}.", problem_.inputs[0], Figure(0));
+}
+
+std::string Words::NothingUnknown() const {
+  return fmt::format("{} and {} are given with all the rest, so nothing is left to solve for: leave one input out.",
+                     Input(0), Input(1));
+}
+
+std::string Words::TargetNotReached() const {
+  const bool isPower = problem_.inputs[0] == "power";
+  return fmt::format("{} {} is not reached by any {}: {} is at {} {}, at {}.", Input(0), Figure(0), Input(1),
+                     isPower ? "the power" : "the half-width", isPower ? "most" : "least", Rounded(1), Rounded(2));
 }
 
 std::string Words::TooSlow() const {
@@ -171,7 +187,8 @@ std::string Words::ChartSentence() const {
 
 std::string Words::SentenceOnDesigns() const {
   switch (problem_.code) {
-    case Code::TestNowhere: return "No column \"test\" names the test of each design, and none is named for all of them.";
+    case Code::TestNowhere:
+      return "No column \"test\" names the test of each design, and none is named for all of them.";
     case Code::TestMissing: return "The row names no test.";
     case Code::TestUnknown: return fmt::format("\"{}\" is not a test.", problem_.words[0]);
     case Code::ColumnUnknown:
@@ -184,11 +201,15 @@ std::string Words::SentenceOnDesigns() const {
     case Code::ColumnsMissing: return "There is no line that names the columns.";
     case Code::NotDesigns: return "This is not JSON of one design or an array of designs.";
     case Code::RangeUseless:
-      return fmt::format("{} is \"{}\", but a range must be three numbers from:to:step with a step that leads from the "
-                         "one end to the other.",
-                         Input(0), Figure(0));
+      return fmt::format(
+          "{} is \"{}\", but a range must be three numbers from:to:step with a step that leads from the "
+          "one end to the other.",
+          Input(0), Figure(0));
     case Code::FieldLate:
       return fmt::format("The field \"{}\" has no column here, since the first rows lack it.", problem_.words[0]);
+    case Code::ResultLate:
+      return fmt::format("The result \"{}\" has no column here, since the first rows are of other tests.",
+                         problem_.words[0]);
     case Code::TooManyDesigns: return fmt::format("These are more than {} designs.", Figure(0));
     default: return ChartSentence();
   }
@@ -215,6 +236,15 @@ std::string Words::Sentence() const {
     case Code::TooManyGroups:
       return fmt::format("{} tells {} groups, but at most {} are allowed.", Input(0), Figure(0), Figure(1));
     case Code::WrongLength: return WrongLength();
+    case Code::SolvedForIsGiven: return fmt::format("{} is given, so {} cannot ask for it.", Input(0), Input(1));
+    case Code::NotSolvedFor: return fmt::format("{} cannot be solved for with {}.", Input(0), Input(1));
+    case Code::NothingUnknown: return NothingUnknown();
+    case Code::SolvesWithoutTarget:
+      return fmt::format("{} has a use only where the power or half-width to reach is given besides the sizes.",
+                         Input(0));
+    case Code::TargetNotReached: return TargetNotReached();
+    case Code::TargetReachedAlways:
+      return fmt::format("{} {} is reached whatever {} is.", Input(0), Figure(0), Input(1));
     case Code::SizesNotFound: return SizesNotFound();
     case Code::NotComputable:
       return fmt::format("These inputs have no answer: {} cannot be computed.", Wording(*problem_.question));

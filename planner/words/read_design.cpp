@@ -119,6 +119,13 @@ std::optional<Problem> ReadObject(std::string_view line, Json& object) {
   return Problem{.code = Code::NotAnObject};
 }
 
+std::string TestOfLine(std::string_view line) {
+  Json object;
+  if (ReadObject(line, object)) return "";
+  const auto test = object.find("test");
+  return test != object.end() && test->is_string() ? test->get<std::string>() : "";
+}
+
 std::string LinesOfJson(std::string_view document) {
   const Json json = IsShallow(document) ? Json::parse(document, nullptr, false) : Json(Json::value_t::discarded);
   std::string lines;

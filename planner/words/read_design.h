@@ -2,6 +2,7 @@
 
 #include <nlohmann/json_fwd.hpp>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "model/problem.h"
@@ -19,5 +20,8 @@ std::optional<Problem> AddField(DesignRow& row, const Parameter& parameter, cons
 
 /// The object of a line, or a problem when it is none. Nothing in it is nested deeply.
 std::optional<Problem> ReadObject(std::string_view line, nlohmann::ordered_json& object);
+
+/// The name of the test in a line of NDJSON; empty where there is none.
+std::string TestOfLine(std::string_view line);
 
 }  // namespace planner

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <optional>
 
 #include "words/expand.h"
 #include "words/numbers.h"
@@ -47,6 +48,13 @@ std::string SizesInSentence(const Test& test, const Numbers& sizes) {
 std::string ChoiceWording(const Parameter& parameter, const std::string& word) {
   const auto& choices = parameter.choices;
   return std::find_if(choices.begin(), choices.end(), [&](const auto& choice) { return choice.word == word; })->wording;
+}
+
+/// What was solved for: of a list, whose entries are the same, one of them.
+double NumberOf(const Answer& answer) {
+  const Name name = answer.unknown->input;
+  const bool isList = FindParameter(*answer.test, name)->IsList();
+  return isList ? answer.inputs.List(name).front() : answer.inputs.Number(name);
 }
 
 /// Gives the words of a sentence's braces.
@@ -91,6 +99,7 @@ private:
   std::string OfInput(std::string_view name) const {
     const Parameter* parameter = FindParameter(test_, name);
     if (!parameter || !inputs_.Has(parameter->name)) return "";
+    if (answer_.unknown && parameter->name == answer_.unknown->input) return fmt::format("{:.4g}", NumberOf(answer_));
     const Value value = inputs_.ValueOf(*parameter);
     if (const auto* word = std::get_if<std::string>(&value)) return ChoiceWording(*parameter, *word);
     if (const auto* numbers = std::get_if<Numbers>(&value)) return ListedInSentence(*numbers);
@@ -102,9 +111,15 @@ private:
   const Answer& answer_;
 };
 
+/// The power or half-width to reach, if there is one.
+std::optional<Name> TargetOf(const Route& route, const Unknown* unknown) {
+  if (unknown) return unknown->target == Question::Power ? Name("power") : Name("half-width");
+  return AsksForSizes(route.question) ? AskedBy(route.question) : std::nullopt;
+}
+
 std::vector<Entry> InputEntries(const Answer& answer) {
   std::vector<Entry> entries;
-  for (const Parameter* parameter : ListedParameters(*answer.test, *answer.route, answer.inputs)) {
+  for (const Parameter* parameter : ListedParameters(*answer.test, *answer.route, answer.unknown, answer.inputs)) {
     const Value value = answer.inputs.ValueOf(*parameter);
     entries.push_back({std::string(parameter->name.Text()), parameter->label, value, Shown(value)});
   }
@@ -120,7 +135,7 @@ double FigureOf(const Answer& answer, const Derived* derived) {
 
 double ResultOf(const Answer& answer, const ResultColumn& column) {
   switch (column.reading) {
-    case Reading::Figure: return FigureOf(answer, column.derived);
+    case Reading::Figure: return column.derived ? FigureOf(answer, column.derived) : NumberOf(answer);
     case Reading::Size:
     case Reading::Sizes: return TotalOf(answer.sizes);
     case Reading::Power:
@@ -131,7 +146,7 @@ double ResultOf(const Answer& answer, const ResultColumn& column) {
 
 std::vector<Entry> ResultEntries(const Answer& answer) {
   std::vector<Entry> entries;
-  for (const ResultColumn& column : ResultColumns(*answer.test, *answer.route)) {
+  for (const ResultColumn& column : ResultColumns(*answer.test, *answer.route, answer.unknown)) {
     const double value = ResultOf(answer, column);
     if (column.reading == Reading::Sizes) {
       entries.push_back({column.name, column.label, answer.sizes, ShownSizes(answer.sizes)});
@@ -158,14 +173,16 @@ std::string Wording(Note note) {
 
 }  // namespace
 
-std::vector<const Parameter*> ListedParameters(const Test& test, const Route& route, const Inputs& inputs) {
+std::vector<const Parameter*> ListedParameters(const Test& test, const Route& route, const Unknown* unknown,
+                                               const Inputs& inputs) {
+  const std::optional<Name> target = TargetOf(route, unknown);
   std::vector<const Parameter*> listed;
   for (const Parameter& parameter : test.parameters) {
     const Name name = parameter.name;
     if (!inputs.Has(name)) continue;
     if (parameter.shownOnlySet && !inputs.Flag(name)) continue;
-    const bool isTarget = name == AskedBy(route.question) && name != Name("interval");
-    if (!route.Takes(name) && !isTarget && name != Name("alpha")) continue;
+    if (unknown && name == unknown->input) continue;
+    if (!route.Takes(name) && name != target && name != Name("alpha")) continue;
     listed.push_back(&parameter);
   }
   return listed;

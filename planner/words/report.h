@@ -29,8 +29,10 @@ struct Report {
 
 Report MakeReport(const Answer& answer);
 
-/// The parameters that a report of the route's answers lists, where these inputs have a value.
-std::vector<const Parameter*> ListedParameters(const Test& test, const Route& route, const Inputs& inputs);
+/// The parameters that a report of the route's answers lists, where these inputs have a value. `unknown` is what is
+/// solved for with the route, or null.
+std::vector<const Parameter*> ListedParameters(const Test& test, const Route& route, const Unknown* unknown,
+                                               const Inputs& inputs);
 
 /// A result for reading.
 std::string ShownResult(Reading reading, double value);

@@ -29,9 +29,12 @@ std::string_view Trimmed(std::string_view text) {
   return text.substr(0, text.find_last_not_of(blanks) + 1);
 }
 
-/// The problem in the names of the columns.
+/// The problem in the names of the columns, in one line whatever a field holds.
 std::string SentenceOf(const Problem& problem) {
-  return Sentence(problem, [](std::string_view name) { return std::string(name); });
+  std::string sentence = Sentence(problem, [](std::string_view name) { return std::string(name); });
+  const auto isControl = [](char letter) { return static_cast<unsigned char>(letter) < ' '; };
+  std::replace_if(sentence.begin(), sentence.end(), isControl, ' ');
+  return sentence;
 }
 
 /// A value of JSON as a field of CSV.
@@ -160,11 +163,20 @@ private:
       if (answer && places_[i] < answer->columns->size()) AppendCsvResult(*answer, places_[i], out);
       out += ',';
     }
-    if (answer && !answer->notes.empty()) out += CsvField(WordingOf(answer->notes));
+    if (answer) out += CsvField(NoteOf(*answer));
     out += ',';
     if (problem) out += CsvField(SentenceOf(*problem));
     if (!IsCsv() && !problem) out += ErrorOfFields();
     out += '\n';
+  }
+
+  std::string NoteOf(const DesignAnswer& answer) const {
+    std::string note = WordingOf(answer.notes);
+    for (const std::string& result : late_) {
+      if (!note.empty()) note += ' ';
+      note += SentenceOf({.code = Code::ResultLate, .words = {result}});
+    }
+    return note;
   }
 
   /// The record as it was, with as many fields as there are columns.
@@ -200,6 +212,10 @@ private:
       const auto found = std::find_if(answer.columns->begin(), answer.columns->end(),
                                       [&](const ResultColumn& column) { return column.name == result; });
       places_.push_back(static_cast<std::size_t>(found - answer.columns->begin()));
+    }
+    late_.clear();
+    for (const ResultColumn& column : *answer.columns) {
+      if (std::count(file_.Results().begin(), file_.Results().end(), column.name) == 0) late_.push_back(column.name);
     }
   }
 
@@ -274,6 +290,7 @@ private:
   std::vector<const Parameter*> given_;
   std::size_t arrangedShape_ = 0;
   std::vector<std::size_t> places_;  // of each result of the file among the columns of an answer
+  std::vector<std::string> late_;    // results of the answer that the file has no column for
 };
 
 RowAnswers::RowAnswers(const FileOfDesigns& file, StopRequest* stop) : reader_(std::make_unique<Reader>(file, stop)) {}

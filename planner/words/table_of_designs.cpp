@@ -9,6 +9,7 @@
 #include "solve/design_solver.h"
 #include "solve/prepared_question.h"
 #include "words/csv.h"
+#include "words/file_of_designs.h"
 #include "words/json_values.h"
 #include "words/numbers.h"
 #include "words/report.h"
@@ -29,8 +30,8 @@ void TableOfDesigns::FindColumns() {
     designs_.Fill(i, row);
     try {
       const PreparedQuestion question(designs_.AskedTest(), row.Values());
-      results_ = ResultColumns(designs_.AskedTest(), question.ChosenRoute());
-      return ListInputs(question.Design(), question.ChosenRoute());
+      results_ = ResultColumns(designs_.AskedTest(), question.ChosenRoute(), question.SolvedFor());
+      return ListInputs(question);
     } catch (const InputError& error) {
       if (!first) first = error;
     }
@@ -38,9 +39,11 @@ void TableOfDesigns::FindColumns() {
   throw *first;
 }
 
-void TableOfDesigns::ListInputs(const Inputs& inputs, const Route& route) {
+void TableOfDesigns::ListInputs(const PreparedQuestion& question) {
   const auto& given = designs_.Inputs();
-  for (const Parameter* parameter : ListedParameters(designs_.AskedTest(), route, inputs)) {
+  const Inputs& inputs = question.Design();
+  for (const Parameter* parameter :
+       ListedParameters(designs_.AskedTest(), question.ChosenRoute(), question.SolvedFor(), inputs)) {
     const auto found = std::find_if(given.begin(), given.end(),
                                     [&](const Alternatives& input) { return input.parameter == parameter; });
     inputs_.push_back({parameter, static_cast<std::size_t>(found - given.begin()), inputs.ValueOf(*parameter)});
@@ -53,9 +56,9 @@ const Value& TableOfDesigns::ValueOf(const Input& input, std::size_t design) con
 
 /// An input and a result may share a name: the power that is asked for and the one that is reached.
 std::string TableOfDesigns::NameOf(const Input& input) const {
-  const std::string name(input.parameter->name.Text());
-  const bool isResult = std::any_of(results_.begin(), results_.end(),
-                                    [&](const ResultColumn& column) { return column.name == name; });
+  const std::string name = NameOfColumn(*input.parameter);
+  const bool isResult =
+      std::any_of(results_.begin(), results_.end(), [&](const ResultColumn& column) { return column.name == name; });
   return (isResult ? "target-" : "") + name;
 }
 
@@ -103,8 +106,7 @@ public:
     table_.designs_.Fill(design, row_);
     const DesignAnswer& answer = solver_.Solve(row_);
     if (!answer.IsAnswered() && answer.problem->code == Code::Stopped) return false;
-    const std::string note =
-        answer.IsAnswered() ? WordingOf(answer.notes) : Sentence(*answer.problem, table_.name_);
+    const std::string note = answer.IsAnswered() ? WordingOf(answer.notes) : Sentence(*answer.problem, table_.name_);
     switch (table_.format_) {
       case TableFormat::Text:
       case TableFormat::Markdown: AppendCells(design, answer, note, out); break;
@@ -179,7 +181,7 @@ std::string RenderDesigns(const Designs& designs) {
     OpenObject object(text);
     object.AddText("test", designs.AskedTest().name);
     for (std::size_t input = 0; input < designs.Inputs().size(); ++input) {
-      object.Add(designs.Inputs()[input].parameter->name.Text(), designs.ValueOf(input, i));
+      object.Add(NameOfColumn(*designs.Inputs()[input].parameter), designs.ValueOf(input, i));
     }
     object.Close();
   }

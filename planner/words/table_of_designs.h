@@ -7,6 +7,7 @@
 
 #include "model/stop_request.h"
 #include "solve/designs.h"
+#include "solve/prepared_question.h"
 #include "solve/results.h"
 #include "words/problem.h"
 #include "words/render.h"
@@ -53,13 +54,11 @@ private:
     Value fallback;
 
     bool IsGiven(const Designs& designs) const { return index < designs.Inputs().size(); }
-    bool Varies(const Designs& designs) const {
-      return IsGiven(designs) && designs.Inputs()[index].values.size() > 1;
-    }
+    bool Varies(const Designs& designs) const { return IsGiven(designs) && designs.Inputs()[index].values.size() > 1; }
   };
 
   void FindColumns();
-  void ListInputs(const Inputs& inputs, const Route& route);
+  void ListInputs(const PreparedQuestion& question);
   const Value& ValueOf(const Input& input, std::size_t design) const;
   std::string NameOf(const Input& input) const;
   std::string HeldFixed() const;

@@ -57,7 +57,7 @@ TEST_F(Designs, AreAnsweredTheSameByAnyNumberOfThreads) {
   EXPECT_EQ(RunProgram({"run", file, "--jobs", "7"}).out, one.out);
   EXPECT_EQ(RunProgram({"run", file, "--output", Path("answers.csv")}).out, "");
   EXPECT_EQ(Read(Path("answers.csv")), one.out);
-  // 6667 of the rows have an open field of two lines, besides the line of names.
+  // A third of the rows have a field of two lines; one line names the columns.
   EXPECT_EQ(std::count(one.out.begin(), one.out.end(), '\n'), 20000 + 6666 + 1);
 }
 
@@ -81,7 +81,8 @@ TEST_F(Designs, BearOddFiles) {
   };
   EXPECT_EQ(out("\xEF\xBB\xBF" + design + "\n"), plain) << "a byte-order mark";
   EXPECT_EQ(out("\"effect-d\",n\n\n0.5,40\n\r\n\n"), plain) << "quotes and empty lines";
-  EXPECT_EQ(out("effect-d , n\n 0.5, 40 \n").find(" 0.5, 40 ,80,0.59"), out("effect-d , n\n 0.5, 40 \n").find('\n') + 1);
+  EXPECT_EQ(out("effect-d , n\n 0.5, 40 \n").find(" 0.5, 40 ,80,0.59"),
+            out("effect-d , n\n 0.5, 40 \n").find('\n') + 1);
   EXPECT_EQ(out("effect-d,n\n"), "effect-d,n,total,power,note,error\n");
 }
 
@@ -96,10 +97,16 @@ TEST_F(Designs, RefuseFilesThatAreNone) {
   EXPECT_EQ(refused("a.csv", ""), "kelpower: There is no line that names the columns.\n");
   EXPECT_EQ(refused("a.csv", "test,sex\n"), "kelpower: The column \"sex\" is not an input of any test.\n");
   EXPECT_EQ(refused("a.json", "{"), "kelpower: This is not JSON of one design or an array of designs.\n");
-  EXPECT_NE(refused("a.csv", "test,n\nmean,\"" + std::string(3000000, 'x')).find("is a quote missing?"),
-            std::string::npos);
   refused("a.csv", std::string(100, '\0'));
   refused("a.json", std::string(1000000, '['));
+}
+
+TEST_F(Designs, EndAtARowThatIsNone) {
+  const std::string open = "test,effect-d,n\nmean,0.5,20\nmean,\"" + std::string(3000000, 'x');
+  const Outcome run = RunProgram({"run", Write("a.csv", open)});
+  EXPECT_EQ(run.status, 2);
+  EXPECT_NE(run.err.find("is a quote missing?"), std::string::npos) << run.err;
+  EXPECT_EQ(run.out.rfind("test,effect-d,n,total,power,note,error\nmean,0.5,20,,0.56", 0), 0U) << run.out;
 }
 
 TEST_F(Designs, DoNotOverwriteTheirOwnFile) {
@@ -151,11 +158,10 @@ TEST(Table, IsTheSameForAnyNumberOfThreads) {
 }
 
 TEST(Table, IsJsonInBothForms) {
-  const auto rows = nlohmann::json::parse(
-      RunProgram(Words("proportion --proportion 0.6,0.7 --null 0.5 --n 40 --format json")).out);
+  const auto rows =
+      nlohmann::json::parse(RunProgram(Words("proportion --proportion 0.6,0.7 --null 0.5 --n 40 --format json")).out);
   ASSERT_EQ(rows.size(), 2U);
-  const std::string lines =
-      RunProgram(Words("proportion --proportion 0.6,0.7 --null 0.5 --n 40 --format ndjson")).out;
+  const std::string lines = RunProgram(Words("proportion --proportion 0.6,0.7 --null 0.5 --n 40 --format ndjson")).out;
   EXPECT_EQ(nlohmann::json::parse(lines.substr(0, lines.find('\n'))), rows[0]);
   const std::string single = RunProgram(Words("proportion --proportion 0.6 --null 0.5 --n 40 --format ndjson")).out;
   EXPECT_EQ(nlohmann::json::parse(single), rows[0]);

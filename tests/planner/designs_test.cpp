@@ -1,10 +1,11 @@
+#include "solve/designs.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <sstream>
 
 #include "solve/design_solver.h"
-#include "solve/designs.h"
 #include "support.h"
 #include "words/parse.h"
 #include "words/table_of_designs.h"
@@ -195,8 +196,8 @@ std::string TableIn(TableFormat format, const Designs& designs) {
 }
 
 TEST(TableOfDesigns, HasANoteWhereThereIsNoAnswer) {
-  const Designs designs(*FindTest("mean"), {{&ParameterOf("mean", "effect-d"), {0.5, 0.0}},
-                                            {&ParameterOf("mean", "power"), {0.8}}});
+  const Designs designs(*FindTest("mean"),
+                        {{&ParameterOf("mean", "effect-d"), {0.5, 0.0}}, {&ParameterOf("mean", "power"), {0.8}}});
   const std::string csv = TableIn(TableFormat::Csv, designs);
   EXPECT_NE(csv.find("\nmean,0,0.8,"), std::string::npos) << csv;
   EXPECT_NE(csv.find(",,,\"The effect size is zero"), std::string::npos) << csv;
@@ -206,8 +207,8 @@ TEST(TableOfDesigns, HasANoteWhereThereIsNoAnswer) {
 }
 
 TEST(TableOfDesigns, HasNoColumnOfNotesWithoutOne) {
-  const Designs designs(*FindTest("mean"), {{&ParameterOf("mean", "effect-d"), {0.5, 0.6}},
-                                            {&ParameterOf("mean", "n"), {20.0}}});
+  const Designs designs(*FindTest("mean"),
+                        {{&ParameterOf("mean", "effect-d"), {0.5, 0.6}}, {&ParameterOf("mean", "n"), {20.0}}});
   EXPECT_EQ(TableIn(TableFormat::Text, designs),
             "One-sample t test of a mean\n\n"
             "  effect size d   power\n"

@@ -56,10 +56,10 @@ std::string Answered(const FileOfDesigns& file, std::string_view rows) {
   return text;
 }
 
-std::string AnsweredCsv(const std::string& text, const Test* test = nullptr,
-                        DesignFormat format = DesignFormat::Csv) {
+std::string AnsweredCsv(const std::string& text, const Test* test = nullptr, DesignFormat format = DesignFormat::Csv) {
   const std::size_t end = text.find('\n') + 1;
-  const FileOfDesigns file(DesignFormat::Csv, format, ColumnsOf(text.substr(0, end)), test);
+  const FileOfDesigns file(DesignFormat::Csv, format, ColumnsOf(text.substr(0, end)), test,
+                           std::string_view(text).substr(end));
   return file.Head() + Answered(file, std::string_view(text).substr(end));
 }
 
@@ -80,6 +80,17 @@ TEST(FileOfDesigns, AnswersRowsOfSeveralTests) {
                          PowerOf("mean", {{"effect-d", 0.5}, {"n", 40.0}}) + ",,\n");
 }
 
+TEST(FileOfDesigns, HasFiguresOfTheTestsOfTheFirstRows) {
+  const std::string head = "test,means,sd,n";
+  const std::string first = "two-means,52 47,10,40\n";
+  const FileOfDesigns file(DesignFormat::Csv, DesignFormat::Csv, ColumnsOf(head), nullptr, first);
+  EXPECT_EQ(file.Head(), head + ",effect-d,total,power,note,error\n");
+  const std::string answers = Answered(file, first + "anova,1 2 3,2,10\n" + first);
+  EXPECT_NE(answers.find("\nanova,1 2 3,2,10,,30,0.4"), std::string::npos) << answers;
+  EXPECT_NE(answers.find("The result \"\"rmsse\"\" has no column here"), std::string::npos) << answers;
+  EXPECT_EQ(answers.find("two-means,52 47,10,40,0.5,80,"), 0U);
+}
+
 TEST(FileOfDesigns, TellsAResultApartFromAColumnOfItsName) {
   const std::string answers = AnsweredCsv("effect-d,power\n0.5,0.8\n", FindTest("two-means"));
   EXPECT_EQ(answers.substr(0, answers.find('\n')), "effect-d,power,sizes,total,result-power,note,error");
@@ -92,14 +103,15 @@ TEST(FileOfDesigns, AnswersTheSameInEveryFormat) {
   const std::string csv = "effect-d,n,one-sided\n0.5,40,\n";
   EXPECT_EQ(AnsweredCsv(csv, FindTest("two-means"), DesignFormat::Ndjson), "{" + row + results + "\n");
   EXPECT_EQ(AnsweredCsv(csv, FindTest("two-means"), DesignFormat::Json), ",\n{" + row + results);
-  const FileOfDesigns lines(DesignFormat::Ndjson, DesignFormat::Ndjson, {}, FindTest("two-means"));
+  const FileOfDesigns lines(DesignFormat::Ndjson, DesignFormat::Ndjson, {}, FindTest("two-means"), "");
   EXPECT_EQ(Answered(lines, "  { " + row + " } \r\n\n"), "{ " + row + results + "\n");
   const std::string object = "{" + row + "}\n";
-  const FileOfDesigns toCsv(DesignFormat::Ndjson, DesignFormat::Csv, FieldsOfLines(object), FindTest("two-means"));
-  EXPECT_EQ(toCsv.Head() + Answered(toCsv, object),
-            "effect-d,n,total,power,note,error\n0.5,40,80," + power40 + ",,\n");
-  EXPECT_EQ(Answered(toCsv, "{\"effect-d\":0.5,\"n\":40,\"one-sided\":false}\n"),
-            "0.5,40,80," + power40 + ",,\"The field \"\"one-sided\"\" has no column here, since the first rows lack it.\"\n");
+  const FileOfDesigns toCsv(DesignFormat::Ndjson, DesignFormat::Csv, FieldsOfLines(object), FindTest("two-means"),
+                            object);
+  EXPECT_EQ(toCsv.Head() + Answered(toCsv, object), "effect-d,n,total,power,note,error\n0.5,40,80," + power40 + ",,\n");
+  EXPECT_EQ(
+      Answered(toCsv, "{\"effect-d\":0.5,\"n\":40,\"one-sided\":false}\n"),
+      "0.5,40,80," + power40 + ",,\"The field \"\"one-sided\"\" has no column here, since the first rows lack it.\"\n");
 }
 
 TEST(FileOfDesigns, ReadsADocumentOfJson) {
@@ -146,13 +158,12 @@ TEST(FileOfDesigns, SaysOfARowWhatIsWrong) {
 }
 
 TEST(FileOfDesigns, SaysOfALineOfJsonWhatIsWrong) {
-  const FileOfDesigns file(DesignFormat::Ndjson, DesignFormat::Ndjson, {}, FindTest("two-means"));
+  const FileOfDesigns file(DesignFormat::Ndjson, DesignFormat::Ndjson, {}, FindTest("two-means"), "");
   const BadRow rows[] = {
       {"{\"effect-d\":0.5,\"n\":40", "The line is not an object of JSON that describes a design."},
       {"[1]", "The line is not an object of JSON that describes a design."},
       {"\xff\xfe", "The line is not an object of JSON that describes a design."},
-      {"{\"effect-d\":\"0.5\",\"n\":40}",
-       "effect-d is \"0.5\", but must be a number from -1000000 to 1000000."},
+      {"{\"effect-d\":\"0.5\",\"n\":40}", "effect-d is \"0.5\", but must be a number from -1000000 to 1000000."},
       {"{\"effect-d\":[0.5],\"n\":40}", "effect-d is 0.5, but must be a number from -1000000 to 1000000."},
       {"{\"effect-d\":0.5,\"n\":{\"a\":1}}",
        "n is \"{\"a\":1}\", but must be a whole number from 2 to 1000000000, or a list of such, one for each group."},
@@ -169,7 +180,7 @@ TEST(FileOfDesigns, SaysOfALineOfJsonWhatIsWrong) {
 
 std::string Refused(const std::string& line, const Test* test = nullptr) {
   try {
-    FileOfDesigns(DesignFormat::Csv, DesignFormat::Csv, ColumnsOf(line), test);
+    FileOfDesigns(DesignFormat::Csv, DesignFormat::Csv, ColumnsOf(line), test, "");
   } catch (const InputError& error) {
     return Sentence(error.problem, [](std::string_view name) { return std::string(name); });
   }
@@ -181,7 +192,8 @@ TEST(FileOfDesigns, RefusesColumnsThatAreNone) {
   EXPECT_EQ(Refused("n,groups\n", FindTest("two-means")), "The column \"groups\" is not an input of two-means.");
   EXPECT_EQ(Refused("test,n,n\n"), "The column \"n\" is there more than once.");
   EXPECT_EQ(Refused("n,group-sizes\n", FindTest("two-means")), "The column \"n\" is there more than once.");
-  EXPECT_EQ(Refused("effect-d,n\n"), "No column \"test\" names the test of each design, and none is named for all of them.");
+  EXPECT_EQ(Refused("effect-d,n\n"),
+            "No column \"test\" names the test of each design, and none is named for all of them.");
   EXPECT_EQ(Refused("\n"), "There is no line that names the columns.");
   EXPECT_EQ(Refused("test,n\n"), "");
 }
@@ -216,9 +228,9 @@ TEST(FileOfDesigns, BearsAnyBytes) {
         at = end;
       }
     }
-    const FileOfDesigns lines(DesignFormat::Ndjson, DesignFormat::Csv, FieldsOfLines(rows), nullptr);
+    const FileOfDesigns lines(DesignFormat::Ndjson, DesignFormat::Csv, FieldsOfLines(rows), nullptr, rows);
     Answered(lines, rows);
-    Answered(FileOfDesigns(DesignFormat::Ndjson, DesignFormat::Json, {}, nullptr), rows);
+    Answered(FileOfDesigns(DesignFormat::Ndjson, DesignFormat::Json, {}, nullptr, rows), rows);
   }
 }
 
