@@ -40,6 +40,7 @@ const std::vector<std::string> rangeOptions{"from", "to", "step", "output"};
 
 void AddTest(CLI::App& app, const Test& test) {
   CLI::App* command = AddCommand(app, test.name);
+  command->add_flag("--explain");
   AddOption(*command, "--chart");
   for (const std::string& name : rangeOptions) AddOption(*command, "--" + name);
   for (const Parameter& parameter : test.parameters) {
@@ -138,6 +139,11 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
 void ReadTest(const CLI::App& command, Request& request) {
   request.values = ValuesOf(command, *request.test);
   const std::string* chart = TextOf(command, "chart");
+  request.isExplained = FlagOf(command, "explain");
+  if (request.isExplained && chart) throw UsageError("--explain and --chart exclude each other.");
+  if (request.isExplained && request.format == Format::Csv) {
+    throw UsageError("--explain does not go with --format csv: text, json and markdown have room for it.");
+  }
   if (!chart) return RejectRangeOptions(command);
   request.command = Command::Chart;
   request.chart = ChartOf(command, *chart);

@@ -15,6 +15,7 @@ struct Request {
   Format format = Format::Text;
   const planner::Test* test = nullptr;  // of TestHelp, Solve and Chart
   planner::InputValues values;          // of Solve and Chart
+  bool isExplained = false;             // of Solve: what is behind the answer is told too
   planner::ChartRequest chart;
   std::string output;  // the file of a chart; empty for the standard output
 };

@@ -106,6 +106,8 @@ std::string OptionLines(const Test& test) {
     }
   }
   text += fmt::format("  {:<{}}  text (default), json, csv or markdown\n", "--format WORD", width);
+  text += fmt::format("  {:<{}}  also tell what is behind the answer, and how other programs are asked the same\n",
+                      "--explain", width);
   text += fmt::format("  {:<{}}  this help\n", "--help", width);
   return text;
 }

@@ -1,8 +1,10 @@
+#include "catalogue/details.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfAnova(Test& test) {
+  test.details = DetailsOfAnova;
   test.phrases = {
       {"effect",
        {{"means", "group means of {means} with a standard deviation of {sd} within the groups"},

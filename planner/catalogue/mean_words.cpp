@@ -1,8 +1,10 @@
+#include "catalogue/details.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfMean(Test& test) {
+  test.details = DetailsOfMean;
   test.phrases = {
       {"effect",
        {{"mean", "a mean of {mean} against {test-value} with a standard deviation of {sd}"},

@@ -1,8 +1,10 @@
+#include "catalogue/details.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfPairedMeans(Test& test) {
+  test.details = DetailsOfPairedMeans;
   test.phrases = {
       {"effect",
        {{"means", "means of {means} {spread}"},

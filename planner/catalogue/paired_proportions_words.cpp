@@ -1,8 +1,10 @@
+#include "catalogue/details.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfPairedProportions(Test& test) {
+  test.details = DetailsOfPairedProportions;
   test.phrases = {
       {"effect",
        {{"p12", "discordant pairs with proportions of {p12} and {p21}"},

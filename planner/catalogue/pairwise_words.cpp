@@ -1,8 +1,10 @@
+#include "catalogue/details.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfPairwise(Test& test) {
+  test.details = DetailsOfPairwise;
   test.sentences = {
       {Question::Power,
        "With {sizes}, the test of the difference between groups {pair} at a significance level of {alpha} {adjust} "

@@ -1,8 +1,10 @@
+#include "catalogue/details.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfPartial(Test& test) {
+  test.details = DetailsOfPartial;
   test.examples = {
       {"partial --r 0.3 --partialled-out 3 --n 84",
        "With 84 cases, the two-sided test of a partial correlation of 0 by Fisher's z at a significance level of "

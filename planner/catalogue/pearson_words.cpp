@@ -1,8 +1,10 @@
+#include "catalogue/details.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfPearson(Test& test) {
+  test.details = DetailsOfPearson;
   test.examples = {
       {"pearson --r 0.3 --n 84",
        "With 84 cases, the two-sided test of a Pearson correlation of 0 by Fisher's z at a significance level of "

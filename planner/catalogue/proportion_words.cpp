@@ -1,8 +1,10 @@
+#include "catalogue/details.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfProportion(Test& test) {
+  test.details = DetailsOfProportion;
   test.sentences = {
       {Question::Power,
        "With {sizes}, the {one-sided?one-sided:two-sided} {exact?exact test:normal approximation to the test} of a "

@@ -1,8 +1,10 @@
+#include "catalogue/details.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfRegression(Test& test) {
+  test.details = DetailsOfRegression;
   test.phrases = {
       {"effect",
        {{"r-squared-reduced", "an R squared of {r-squared} against {r-squared-reduced} without the predictors tested"},

@@ -1,8 +1,10 @@
+#include "catalogue/details.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfSpearman(Test& test) {
+  test.details = DetailsOfSpearman;
   test.examples = {
       {"spearman --r 0.3 --n 84",
        "With 84 cases, the two-sided test of a Spearman correlation of 0 by Fisher's z with the variance of Bonett "

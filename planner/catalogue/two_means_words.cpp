@@ -1,8 +1,10 @@
+#include "catalogue/details.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfTwoMeans(Test& test) {
+  test.details = DetailsOfTwoMeans;
   test.phrases = {
       {"effect",
        {{"means", "means of {means} with standard deviations of {sd}"},

@@ -21,6 +21,12 @@ bool IsExact(const Inputs& in);
 double FirstProportion(const Inputs& in);
 double SecondProportion(const Inputs& in);
 
+/// The proportion of all observations together, which an exact test's attained level is taken at.
+double CommonProportion(const Inputs& in);
+
+/// NaN for a large-sample test.
+double AttainedLevelOfTwoProportions(const Inputs& in);
+
 double RiskDifference(const Inputs& in);
 double RiskRatio(const Inputs& in);
 double OddsRatio(const Inputs& in);

@@ -1,8 +1,10 @@
+#include "catalogue/details.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfTwoProportions(Test& test) {
+  test.details = DetailsOfTwoProportions;
   test.phrases = {
       {"effect",
        {{"proportions", "proportions of {proportions}"},

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "model/chart.h"
+#include "model/details.h"
 #include "model/inputs.h"
 #include "model/parameter.h"
 #include "model/route.h"
@@ -71,6 +72,8 @@ struct Test {
   std::vector<ReportSentence> sentences = {};
   std::vector<Example> examples = {};
   std::vector<Chart> charts = {};
+  /// What is behind the answer of a question, from the inputs at the sizes given or found.
+  Details (*details)(Question question, const Inputs& atSizes) = nullptr;
 };
 
 /// The test with the parameters that every test has: `alpha`, and `power`, `half-width` and `interval` as its routes

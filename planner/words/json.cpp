@@ -33,6 +33,21 @@ Json ToJson(const std::vector<Entry>& entries) {
   return object;
 }
 
+Json ToJson(const Explanation& explanation) {
+  Json object;
+  object["figures"] = Json::object();
+  for (const auto& figure : explanation.figures) object["figures"][figure.name] = ToJson(figure.value);
+  object["formula"] = explanation.formula;
+  object["source"] = explanation.source;
+  object["programs"] = Json::array();
+  for (const auto& [program, call, isSame, remark] : explanation.programs) {
+    Json entry{{"program", program}, {"call", call}, {"same", isSame}};
+    if (!remark.empty()) entry["remark"] = remark;
+    object["programs"].push_back(std::move(entry));
+  }
+  return object;
+}
+
 const char* TextOf(Kind kind) {
   switch (kind) {
     case Kind::Number: return "number";
@@ -147,6 +162,7 @@ std::string RenderJson(const Report& report) {
   object["sentence"] = report.sentence;
   if (!report.note.empty()) object["note"] = report.note;
   object["export"] = report.exportName;
+  if (report.explanation) object["details"] = ToJson(*report.explanation);
   return Text(object);
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "model/answer.h"
+#include "words/explain.h"
 
 namespace planner {
 
@@ -24,6 +26,7 @@ struct Report {
   std::vector<Entry> results;
   std::string sentence;
   std::string note;  // what the reader should be warned of; mostly empty
+  std::optional<Explanation> explanation = {};  // where it is asked for
 };
 
 Report MakeReport(const Answer& answer);

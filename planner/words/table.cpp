@@ -30,6 +30,7 @@ std::string RenderText(const Report& report, const Highlights& highlights) {
   }
   text += fmt::format("\n{}\n", report.sentence);
   if (!report.note.empty()) text += fmt::format("Note: {}\n", report.note);
+  if (report.explanation) text += RenderText(*report.explanation, highlights.heading, highlights.end);
   return text;
 }
 
@@ -39,6 +40,7 @@ std::string RenderMarkdown(const Report& report) {
   for (const Entry& entry : report.results) text += MarkdownRow(entry, "**");
   text += fmt::format("\n{}\n", report.sentence);
   if (!report.note.empty()) text += fmt::format("\n{}\n", report.note);
+  if (report.explanation) text += RenderMarkdown(*report.explanation);
   return text;
 }
 

@@ -157,15 +157,20 @@ Answer McNemarTest::AttainedLevel(double size, const DiscordantPairs& pairs) {
 // Connor, R. J. (1987), Sample size for testing differences in proportions for the paired-sample design, Biometrics 43,
 // 207-211: the standard deviation is sqrt(pd) under the null hypothesis, sqrt(pd - (p12 - p21)^2) under the
 // alternative.
-Answer McNemarTest::NormalPower(double size, const DiscordantPairs& pairs) const {
+PairedStatistic McNemarTest::Statistic(double size, const DiscordantPairs& pairs) const {
   const double discordant = pairs.p12 + pairs.p21;
   const double difference = pairs.p12 - pairs.p21;
   const double shift = std::sqrt(size) * difference;
   const double s0 = std::sqrt(discordant);
   const double s1 = std::fabs(std::sqrt(discordant - difference * difference));
+  return {shift, s0, s1, tail_.z};
+}
 
-  const auto above = [&] { return KelDistFun::CdfStdNorm((shift - s0 * tail_.z) / s1); };
-  const auto below = [&] { return 1 - KelDistFun::CdfStdNorm((s0 * tail_.z + shift) / s1); };
+Answer McNemarTest::NormalPower(double size, const DiscordantPairs& pairs) const {
+  const PairedStatistic of = Statistic(size, pairs);
+  const double margin = of.nullSd * of.critical;
+  const auto above = [&] { return KelDistFun::CdfStdNorm((of.shift - margin) / of.sd); };
+  const auto below = [&] { return 1 - KelDistFun::CdfStdNorm((margin + of.shift) / of.sd); };
   if (!design_.isOneSided) return above() + below();
   return pairs.p12 > pairs.p21 ? above() : below();
 }

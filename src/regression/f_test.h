@@ -49,6 +49,11 @@ public:
 
   double Power(const Effect& effect) const;
 
+  /// N f^2, of fixed predictors.
+  double Noncentrality(const Effect& effect) const { return size_ * effect.fSquared; }
+
+  const FTest& AtCriticalValue() const { return test_; }
+
 private:
   RegressionTest(const Model& model, double size);
 
