@@ -3,6 +3,7 @@
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/tests.h"
+#include "catalogue/unknowns.h"
 #include "catalogue/words.h"
 
 namespace planner {
@@ -201,6 +202,7 @@ Test AnovaTest() {
       GroupMeans(), WithinSd(), EffectF(), EtaSquared(), GroupSizes(), AllocationRatios(), GroupCount(),
   };
   test.routes = Routes();
+  test.unknowns = {UnknownEffect("effect-f"), UnknownEffect("eta-squared"), UnknownSd("sd"), UnknownSdOfInterval("sd")};
   test.conditions = {ErrorDegrees()};
   test.sizeExists = SizeExists();
   test.derived = {

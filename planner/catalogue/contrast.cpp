@@ -7,6 +7,7 @@
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/tests.h"
+#include "catalogue/unknowns.h"
 #include "catalogue/words.h"
 
 namespace planner {
@@ -165,6 +166,7 @@ Test ContrastTest() {
             .groups = groupsFromInputs};
   test.parameters = Parameters();
   test.routes = Routes();
+  test.unknowns = {UnknownEffectD(), UnknownSd("sd"), UnknownSdOfInterval("sd")};
   test.conditions = {
       {.code = "coefficients-sum",
        .about = {"coefficients"},

@@ -62,6 +62,32 @@ std::vector<ReportSentence> Sentences(const CorrelationKind& kind) {
   };
 }
 
+std::vector<Unknown> Unknowns() {
+  constexpr const char* reason = "Fisher's z grows with the correlation, and faster than its standard error";
+  return {
+      {.input = "r",
+       .target = Question::Power,
+       .trend = Trend::Rises,
+       .reason = reason,
+       .piece = [](const Inputs& in) -> Piece {
+         return {in.Number("null"), 1};
+       },
+       .pieceBelow = [](const Inputs& in) -> Piece {
+         return {-1, in.Number("null")};
+       }},
+      {.input = "null",
+       .target = Question::Power,
+       .trend = Trend::Falls,
+       .reason = reason,
+       .piece = [](const Inputs& in) -> Piece {
+         return {-1, in.Number("r")};
+       },
+       .pieceBelow = [](const Inputs& in) -> Piece {
+         return {in.Number("r"), 1};
+       }},
+  };
+}
+
 }  // namespace
 
 Names CorrelationDesign(const CorrelationKind& kind) { return Joined(Effect(kind), {"n"}); }
@@ -74,6 +100,7 @@ Test CorrelationTest(const CorrelationKind& kind) {
           .about = "Tests whether the " + kind.wording + " correlation of " + kind.definition + " is a given value.",
           .counted = "cases",
           .routes = Routes(kind),
+          .unknowns = Unknowns(),
           .sizeExists = {CorrelationsDiffer()},
           .sentences = Sentences(kind),
           .charts = CorrelationCharts(kind)};

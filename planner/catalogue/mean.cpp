@@ -1,9 +1,11 @@
+#include <limits>
 #include <utility>
 
 #include "catalogue/axes.h"
 #include "catalogue/core.h"
 #include "catalogue/mean_parameters.h"
 #include "catalogue/tests.h"
+#include "catalogue/unknowns.h"
 #include "catalogue/words.h"
 #include "means/one_sample.h"
 
@@ -91,6 +93,36 @@ std::vector<Chart> Charts() {
   };
 }
 
+std::vector<Unknown> Unknowns() {
+  constexpr double infinity = std::numeric_limits<double>::infinity();
+  constexpr const char* reason = "the noncentrality grows with the distance of the mean from the test value";
+  return {
+      UnknownEffectD(),
+      {.input = "mean",
+       .target = Question::Power,
+       .trend = Trend::Rises,
+       .reason = reason,
+       .piece = [](const Inputs& in) -> Piece {
+         return {in.Number("test-value"), infinity};
+       },
+       .pieceBelow = [](const Inputs& in) -> Piece {
+         return {-infinity, in.Number("test-value")};
+       }},
+      UnknownSd("sd"),
+      {.input = "test-value",
+       .target = Question::Power,
+       .trend = Trend::Falls,
+       .reason = reason,
+       .piece = [](const Inputs& in) -> Piece {
+         return {-infinity, in.Number("mean")};
+       },
+       .pieceBelow = [](const Inputs& in) -> Piece {
+         return {in.Number("mean"), infinity};
+       }},
+      UnknownSdOfInterval("sd"),
+  };
+}
+
 }  // namespace
 
 Test MeanTest() {
@@ -106,6 +138,7 @@ Test MeanTest() {
       OneSided(),
   };
   test.routes = Routes();
+  test.unknowns = Unknowns();
   test.sizeExists = {
       {.code = "no-effect",
        .about = {"mean", "test-value"},

@@ -1,10 +1,12 @@
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "catalogue/axes.h"
 #include "catalogue/core.h"
 #include "catalogue/mean_parameters.h"
 #include "catalogue/tests.h"
+#include "catalogue/unknowns.h"
 #include "catalogue/words.h"
 #include "means/one_sample.h"
 #include "means/paired.h"
@@ -185,6 +187,24 @@ std::vector<Chart> Charts() {
   };
 }
 
+std::vector<Unknown> Unknowns() {
+  constexpr const char* spread = "the differences spread less, the closer the two measurements are correlated";
+  return {
+      UnknownEffectD(),
+      {.input = "mean-difference",
+       .target = Question::Power,
+       .trend = Trend::Rises,
+       .reason = "the noncentrality grows with the difference",
+       .piece = [](const Inputs&) -> Piece {
+         return {0, std::numeric_limits<double>::infinity()};
+       }},
+      UnknownSd("sd-difference"),
+      {.input = "correlation", .target = Question::Power, .trend = Trend::Rises, .reason = spread},
+      UnknownSdOfInterval("sd-difference"),
+      {.input = "correlation", .target = Question::HalfWidth, .trend = Trend::Falls, .reason = spread},
+  };
+}
+
 }  // namespace
 
 Test PairedMeansTest() {
@@ -194,6 +214,7 @@ Test PairedMeansTest() {
             .counted = "pairs"};
   test.parameters = Parameters();
   test.routes = Routes();
+  test.unknowns = Unknowns();
   test.conditions = Conditions();
   test.sizeExists = SizeExists();
   test.derived = {

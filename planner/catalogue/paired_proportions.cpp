@@ -153,6 +153,60 @@ std::vector<Route> Routes() {
   return routes;
 }
 
+bool IsExact(const Inputs& in) { return in.Flag("exact"); }
+
+std::vector<Unknown> Unknowns() {
+  constexpr const char* reason = "the difference grows faster than its standard error";
+  const auto discordant = [&](Name input, Piece (*piece)(const Inputs&), Piece (*below)(const Inputs&)) {
+    return Unknown{.input = input,
+                   .target = Question::Power,
+                   .trend = Trend::Rises,
+                   .reason = reason,
+                   .piece = piece,
+                   .pieceBelow = below,
+                   .isUneven = IsExact};
+  };
+  return {
+      discordant(
+          "p12",
+          [](const Inputs& in) -> Piece {
+            return {in.Number("p21"), 1 - in.Number("p21")};
+          },
+          [](const Inputs& in) -> Piece {
+            return {0, in.Number("p21")};
+          }),
+      discordant(
+          "p21",
+          [](const Inputs& in) -> Piece {
+            return {in.Number("p12"), 1 - in.Number("p12")};
+          },
+          [](const Inputs& in) -> Piece {
+            return {0, in.Number("p12")};
+          }),
+      discordant(
+          "proportion1",
+          [](const Inputs& in) -> Piece {
+            return {in.Number("proportion2"), 1};
+          },
+          [](const Inputs& in) -> Piece {
+            return {0, in.Number("proportion2")};
+          }),
+      discordant(
+          "proportion2",
+          [](const Inputs& in) -> Piece {
+            return {in.Number("proportion1"), 1};
+          },
+          [](const Inputs& in) -> Piece {
+            return {0, in.Number("proportion1")};
+          }),
+      {.input = "correlation",
+       .target = Question::Power,
+       .trend = Trend::Rises,
+       .reason = "fewer pairs are discordant, of which as many more are of one kind",
+       .isUneven = IsExact},
+  };
+}
+
 bool HaveACommonDistribution(const Inputs& in) {
   if (proportions::RejectsMarginals(in.Number("proportion1"), in.Number("proportion2"))) return false;
   const proportions::DiscordantPairs pairs = PairsOf(in);
@@ -203,6 +257,7 @@ Test PairedProportionsTest() {
             .counted = "pairs"};
   test.parameters = Parameters();
   test.routes = Routes();
+  test.unknowns = Unknowns();
   test.conditions = Conditions();
   test.sizeExists = SizeExists();
   test.derived = {

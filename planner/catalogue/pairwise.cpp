@@ -5,7 +5,9 @@
 #include "catalogue/axes.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
+#include "catalogue/mean_parameters.h"
 #include "catalogue/tests.h"
+#include "catalogue/unknowns.h"
 #include "catalogue/words.h"
 
 namespace planner {
@@ -28,17 +30,19 @@ double Level(const Inputs& in) {
   return anova::AdjustedAlpha(anova::Adjustment(in.Choice("adjust")), in.Groups(), in.Alpha());
 }
 
+double EffectOf(const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : EffectOfMeans(in); }
+
 constexpr bool oneSided = false;
 
 double Power(const Inputs& in) {
   const Numbers contrast = Contrast(in);
-  return OrNaN(anova::Power({contrast, in.List("n"), EffectOfMeans(in), oneSided, Level(in)}, TotalSize(in)));
+  return OrNaN(anova::Power({contrast, in.List("n"), EffectOf(in), oneSided, Level(in)}, TotalSize(in)));
 }
 
 Numbers Sizes(const Inputs& in) {
   const Numbers contrast = Contrast(in);
   const Numbers weights = in.Weights();
-  const anova::ContrastDesign design{contrast, weights, EffectOfMeans(in), oneSided, Level(in)};
+  const anova::ContrastDesign design{contrast, weights, EffectOf(in), oneSided, Level(in)};
   return SpreadByShares(anova::TotalForPower(design, in.Number("power")), weights);
 }
 
@@ -59,6 +63,9 @@ std::vector<Parameter> Parameters() {
       List("pair", "groups compared", "numbers of the two groups compared").Length(2).Whole().AtLeast(1).AtMost(10000),
       GroupMeans(),
       WithinSd(),
+      Number("effect-d", "standardized difference d", "difference of the two means over the standard deviation")
+          .AtLeast(-1e6)
+          .AtMost(1e6),
       GroupSizes(),
       AllocationRatios(),
       GroupCount(),
@@ -77,6 +84,16 @@ std::vector<Route> Routes() {
        .accepts = {"groups", "adjust"},
        .exportName = "PowerPairwiseDiff",
        .value = Power},
+      {.question = Question::Power,
+       .needs = {"pair", "effect-d", "n"},
+       .accepts = {"groups", "adjust"},
+       .exportName = "PowerSCwES",
+       .value = Power},
+      {.question = Question::SampleSize,
+       .needs = {"pair", "effect-d"},
+       .accepts = {"ratios", "groups", "adjust"},
+       .exportName = "PowerReverseSCwES",
+       .sizes = Sizes},
       {.question = Question::SampleSize,
        .needs = {"pair", "means", "sd"},
        .accepts = {"ratios", "groups", "adjust"},
@@ -142,12 +159,14 @@ Test PairwiseTest() {
             .groups = groupsFromInputs};
   test.parameters = Parameters();
   test.routes = Routes();
+  test.unknowns = {UnknownEffectD(), UnknownSd("sd"), UnknownSdOfInterval("sd")};
   test.conditions = Conditions();
   test.sizeExists = {
       {.code = "no-effect",
        .about = {"means"},
        .holds = [](const Inputs& in) { return EffectOfMeans(in) != 0; },
        .sentence = "The two means are equal: without a difference, no sample size reaches the power."},
+      HasEffectD(),
   };
   test.derived = {
       {.name = "effect-d",

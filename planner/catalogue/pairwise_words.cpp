@@ -5,13 +5,17 @@ namespace planner {
 
 void AddWordsOfPairwise(Test& test) {
   test.details = DetailsOfPairwise;
+  test.phrases = {
+      {"effect",
+       {{"means", "group means of {means} with a standard deviation of {sd} within the groups"},
+        {"effect-d", "a standardized difference of {effect-d}"}}},
+  };
   test.sentences = {
       {Question::Power,
        "With {sizes}, the test of the difference between groups {pair} at a significance level of {alpha} {adjust} "
-       "has a power of {power} to detect group means of {means} with a standard deviation of {sd} within the groups."},
+       "has a power of {power} to detect {effect}."},
       {Question::SampleSize,
-       "To detect group means of {means} with a standard deviation of {sd} within the groups with a power of "
-       "{target-power}, the test of the difference between groups {pair} at a significance level of {alpha} {adjust} "
+       "To detect {effect} with a power of {target-power}, the test of the difference between groups {pair} at a significance level of {alpha} {adjust} "
        "needs {sizes}; its power is then {power}."},
       {Question::HalfWidth,
        "With {sizes} and a standard deviation of {sd} within the groups, the {confidence} confidence interval of the "

@@ -140,6 +140,36 @@ std::vector<Route> Routes() {
   };
 }
 
+bool IsExact(const Inputs& in) { return in.Flag("exact"); }
+
+std::vector<Unknown> Unknowns() {
+  constexpr const char* reason = "the more the proportions differ, the more of the outcomes are in the critical region";
+  return {
+      {.input = "proportion",
+       .target = Question::Power,
+       .trend = Trend::Rises,
+       .reason = reason,
+       .piece = [](const Inputs& in) -> Piece {
+         return {in.Number("null"), 1};
+       },
+       .pieceBelow = [](const Inputs& in) -> Piece {
+         return {0, in.Number("null")};
+       },
+       .isUneven = IsExact},
+      {.input = "null",
+       .target = Question::Power,
+       .trend = Trend::Falls,
+       .reason = reason,
+       .piece = [](const Inputs& in) -> Piece {
+         return {0, in.Number("proportion")};
+       },
+       .pieceBelow = [](const Inputs& in) -> Piece {
+         return {in.Number("proportion"), 1};
+       },
+       .isUneven = IsExact},
+  };
+}
+
 std::vector<Condition> Conditions() {
   return {
       {.code = "corrected-interval",
@@ -234,6 +264,7 @@ Test ProportionTest() {
             .about = "Tests whether a proportion differs from a given value."};
   test.parameters = Parameters();
   test.routes = Routes();
+  test.unknowns = Unknowns();
   test.conditions = Conditions();
   test.sizeExists = {
       {.code = "no-effect",

@@ -23,6 +23,9 @@ void AddWordsOfProportion(Test& test) {
   };
 
   test.examples = {
+      {"proportion --null 0.5 --n 60 --power 0.8 --below",
+       "With 60 observations, the two-sided normal approximation to the test of a proportion of 0.5 at a significance "
+       "level of 0.05 has a power of 0.8000 to detect a proportion of 0.3227."},
       {"proportion --proportion 0.65 --null 0.5 --n 60",
        "With 60 observations, the two-sided normal approximation to the test of a proportion of 0.5 at a "
        "significance level of 0.05 has a power of 0.6485 to detect a proportion of 0.65."},

@@ -6,6 +6,7 @@
 #include "catalogue/core.h"
 #include "catalogue/correlation_parameters.h"
 #include "catalogue/tests.h"
+#include "catalogue/unknowns.h"
 #include "catalogue/words.h"
 #include "regression/f_test.h"
 
@@ -88,6 +89,27 @@ std::vector<Route> Routes() {
        .accepts = ofEffect,
        .exportName = "PowerReversebymlrwES",
        .sizes = Size},
+  };
+}
+
+std::vector<Unknown> Unknowns() {
+  constexpr const char* reason = "the noncentrality grows with what the predictors tested explain";
+  return {
+      {.input = "r-squared",
+       .target = Question::Power,
+       .trend = Trend::Rises,
+       .reason = reason,
+       .piece = [](const Inputs& in) -> Piece {
+         return {Reduced(in), 1};
+       }},
+      UnknownEffect("effect-f2"),
+      {.input = "r-squared-reduced",
+       .target = Question::Power,
+       .trend = Trend::Falls,
+       .reason = reason,
+       .piece = [](const Inputs& in) -> Piece {
+         return {0, in.Number("r-squared")};
+       }},
   };
 }
 
@@ -213,6 +235,7 @@ Test RegressionTest() {
             .counted = "cases"};
   test.parameters = Parameters();
   test.routes = Routes();
+  test.unknowns = Unknowns();
   test.conditions = Conditions();
   test.sizeExists = SizeExists();
   test.derived = {

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "catalogue/axes.h"
@@ -8,6 +9,7 @@
 #include "catalogue/mean_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/two_groups.h"
+#include "catalogue/unknowns.h"
 #include "catalogue/words.h"
 #include "means/independent.h"
 
@@ -16,7 +18,9 @@ namespace {
 
 namespace means = kelpower::means;
 
-double Difference(const Inputs& in) { return in.List("means")[0] - in.List("means")[1]; }
+double Difference(const Inputs& in) {
+  return in.Has("means") ? in.List("means")[0] - in.List("means")[1] : in.Number("mean-difference");
+}
 
 /// Equal standard deviations select the pooled test.
 means::GroupSpreads SpreadsOf(double sd1, double sd2) { return {sd1, sd2, sd1 == sd2}; }
@@ -61,6 +65,9 @@ double EffectSize(const Inputs& in) {
 std::vector<Parameter> Parameters() {
   return {
       GroupMeans(),
+      Number("mean-difference", "difference of the means", "first mean minus the second, in place of {means}")
+          .Alias("difference")
+          .Alias("delta"),
       PerGroup("sd", "standard deviations", "standard deviation in each group").Alias("sds").Spreads().Above(0),
       EffectD("difference of the means over the common standard deviation"),
       GroupSizes().AtLeast(2),
@@ -78,6 +85,12 @@ std::vector<Route> Routes() {
        .oneSidedExport = "PowerIndependentDirectional",
        .value = Power},
       {.question = Question::Power,
+       .needs = {"mean-difference", "sd", "n"},
+       .accepts = {"one-sided"},
+       .exportName = "PowerIndependentNondirectional",
+       .oneSidedExport = "PowerIndependentDirectional",
+       .value = Power},
+      {.question = Question::Power,
        .needs = {"effect-d", "n"},
        .accepts = {"one-sided"},
        .exportName = "PowerIndependentNondirectionalES",
@@ -85,6 +98,12 @@ std::vector<Route> Routes() {
        .value = Power},
       {.question = Question::SampleSize,
        .needs = {"means", "sd"},
+       .accepts = {"ratio", "one-sided"},
+       .exportName = "PowerReverseIndependentNondirectional",
+       .oneSidedExport = "PowerReverseIndependentDirectional",
+       .sizes = Sizes},
+      {.question = Question::SampleSize,
+       .needs = {"mean-difference", "sd"},
        .accepts = {"ratio", "one-sided"},
        .exportName = "PowerReverseIndependentNondirectional",
        .oneSidedExport = "PowerReverseIndependentDirectional",
@@ -104,6 +123,22 @@ std::vector<Route> Routes() {
        .accepts = {"ratio"},
        .exportName = "PowerReversebyHalfCIIndependentMeans",
        .sizes = SizesForHalfWidth},
+  };
+}
+
+std::vector<Unknown> Unknowns() {
+  return {
+      UnknownEffectD(),
+      {.input = "mean-difference",
+       .target = Question::Power,
+       .trend = Trend::Rises,
+       .reason = "the noncentrality grows with the difference",
+       .piece = [](const Inputs&) -> Piece {
+         return {0, std::numeric_limits<double>::infinity()};
+       }},
+      UnknownSd("sd"),
+      UnknownRatio(),
+      UnknownSdOfInterval("sd"),
   };
 }
 
@@ -189,15 +224,21 @@ Test TwoMeansTest() {
             .groups = 2};
   test.parameters = Parameters();
   test.routes = Routes();
+  test.unknowns = Unknowns();
   test.sizeExists = {
       {.code = "no-effect",
        .about = {"means"},
+       .holds = [](const Inputs& in) { return Difference(in) != 0; },
+       .sentence = "The two means are equal: without a difference, no sample size reaches the power."},
+      {.code = "no-effect",
+       .about = {"mean-difference"},
        .holds = [](const Inputs& in) { return Difference(in) != 0; },
        .sentence = "The two means are equal: without a difference, no sample size reaches the power."},
       HasEffectD(),
   };
   test.derived = {
       {.name = "effect-d", .label = "effect size d", .needs = {"means", "sd"}, .call = EffectSize},
+      {.name = "effect-d", .label = "effect size d", .needs = {"mean-difference", "sd"}, .call = EffectSize},
   };
   test.charts = Charts();
   AddWordsOfTwoMeans(test);

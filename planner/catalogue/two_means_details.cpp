@@ -15,6 +15,12 @@ means::GroupSpreads SpreadsOf(const Inputs& in) {
   return {sds[0], sds[1], sds[0] == sds[1]};
 }
 
+/// In units of the standard deviation where only that is given.
+double DifferenceOf(const Inputs& in) {
+  if (in.Has("means")) return in.List("means")[0] - in.List("means")[1];
+  return in.Number(in.Has("mean-difference") ? Name("mean-difference") : Name("effect-d"));
+}
+
 void AddError(Details& details, const Inputs& in) {
   const means::GroupSpreads spreads = SpreadsOf(in);
   const means::DifferenceDistribution at = spreads.At(in.List("n")[0], in.List("n")[1]);
@@ -89,7 +95,7 @@ Details DetailsOfTwoMeans(Question question, const Inputs& in) {
   const means::GroupSpreads spreads = SpreadsOf(in);
   const double n1 = in.List("n")[0];
   const double n2 = in.List("n")[1];
-  const double difference = in.Has("means") ? in.List("means")[0] - in.List("means")[1] : in.Number("effect-d");
+  const double difference = DifferenceOf(in);
   const auto test = means::TwoSampleTest(spreads, SidesOf(in), in.Alpha(), n1, n2);
   Details details;
   if (!test) return details;

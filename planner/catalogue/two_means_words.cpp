@@ -8,6 +8,7 @@ void AddWordsOfTwoMeans(Test& test) {
   test.phrases = {
       {"effect",
        {{"means", "means of {means} with standard deviations of {sd}"},
+        {"mean-difference", "a difference of the means of {mean-difference} with standard deviations of {sd}"},
         {"effect-d", "an effect size d of {effect-d}"}}},
   };
   test.sentences = {
@@ -42,6 +43,10 @@ void AddWordsOfTwoMeans(Test& test) {
        "To detect an effect size d of 0.5 with a power of 0.8, the two-sided independent-samples t test at a "
        "significance level of 0.05 needs 64 observations in each of 2 groups (128 in total); its power is then "
        "0.8015."},
+      {"two-means --sd 10 --n 35,50 --power 0.8",
+       "With 35 and 50 observations in 2 groups (85 in total), the two-sided independent-samples t test at a "
+       "significance level of 0.05 has a power of 0.8000 to detect a difference of the means of 6.247 with standard "
+       "deviations of 10 and 10."},
       {"two-means --sd 10,14 --n 40 --interval",
        "With 40 observations in each of 2 groups (80 in total) and standard deviations of 10 and 14, the 95% "
        "confidence interval of the difference of means has a half-width of 5.425."},

@@ -96,6 +96,7 @@ Test TwoProportionsTest() {
             .groups = 2};
   test.parameters = ParametersOfTwoProportions();
   test.routes = RoutesOfTwoProportions();
+  test.unknowns = UnknownsOfTwoProportions();
   test.conditions = ConditionsOfTwoProportions();
   test.sizeExists = SizeExistsForTwoProportions();
   test.derived = {

@@ -45,6 +45,7 @@ Names With(Names names, Name name);
 
 std::vector<Parameter> ParametersOfTwoProportions();
 std::vector<Route> RoutesOfTwoProportions();
+std::vector<Unknown> UnknownsOfTwoProportions();
 std::vector<Condition> ConditionsOfTwoProportions();
 std::vector<Condition> SizeExistsForTwoProportions();
 std::vector<Chart> ChartsOfTwoProportions();

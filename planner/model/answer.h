@@ -24,8 +24,9 @@ struct Answer {
   const Test* test;
   const Route* route;
   Inputs inputs;
-  Numbers sizes;  // given or found
-  double value;   // the power or half-width at these sizes
+  Numbers sizes;                     // given or found
+  double value;                      // the power or half-width at these sizes
+  const Unknown* unknown = nullptr;  // what was solved for, unless sizes or the value; its number stands in the inputs
   std::vector<DerivedFigure> derived = {};
   std::vector<Note> notes = {};
 

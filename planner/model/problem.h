@@ -30,6 +30,10 @@ enum class Code {
   TooManyGroups = 209,
   WrongLength = 210,
   ConditionFails = 211,
+  SolvedForIsGiven = 212,
+  NotSolvedFor = 213,
+  NothingUnknown = 214,
+  SolvesWithoutTarget = 215,
   // Charts.
   NoCharts = 300,
   ChartOfDesign = 301,
@@ -54,6 +58,8 @@ enum class Code {
   NoEffect = 400,
   SizesNotFound = 401,
   NotComputable = 402,
+  TargetNotReached = 403,
+  TargetReachedAlways = 404,
   // Ends that are no fault of the inputs.
   Stopped = 500,
 };

@@ -3,6 +3,48 @@
 #include <algorithm>
 
 namespace planner {
+namespace {
+
+void AddUnknownLevels(Test& test) {
+  if (Answers(test, Question::Power)) {
+    test.unknowns.push_back({.input = "alpha",
+                             .target = Question::Power,
+                             .trend = Trend::Rises,
+                             .reason = "what a level rejects, each higher level rejects too"});
+  }
+  if (Answers(test, Question::HalfWidth)) {
+    test.unknowns.push_back({.input = "alpha",
+                             .target = Question::HalfWidth,
+                             .trend = Trend::Falls,
+                             .reason = "an interval of less confidence lies within one of more"});
+  }
+}
+
+/// The unknowns by their inputs, each once.
+std::vector<Choice> ChoicesOfUnknowns(const Test& test) {
+  std::vector<Choice> choices;
+  for (const Unknown& unknown : test.unknowns) {
+    const std::string word(unknown.input.Text());
+    const bool isKnown =
+        std::any_of(choices.begin(), choices.end(), [&](const Choice& choice) { return choice.word == word; });
+    if (!isKnown) choices.push_back({word, static_cast<int>(unknown.input.Index()), word});
+  }
+  return choices;
+}
+
+void AddParametersOfUnknowns(Test& test) {
+  test.parameters.push_back(OneOf("solve", "unknown",
+                                  "the number to solve for, where the sizes and the power or half-width are given",
+                                  ChoicesOfUnknowns(test)));
+  const bool anyBelow = std::any_of(test.unknowns.begin(), test.unknowns.end(),
+                                    [](const Unknown& unknown) { return unknown.pieceBelow != nullptr; });
+  if (anyBelow) {
+    test.parameters.push_back(
+        Flag("below", "effect below", "solve for an effect on the lower side of none").ShownOnlySet());
+  }
+}
+
+}  // namespace
 
 Test WithCommonParameters(Test test) {
   if (Answers(test, Question::SampleSize)) {
@@ -23,6 +65,8 @@ Test WithCommonParameters(Test test) {
           .Above(0)
           .Below(1)
           .Default(0.05));
+  AddUnknownLevels(test);
+  AddParametersOfUnknowns(test);
   return test;
 }
 

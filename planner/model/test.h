@@ -10,6 +10,7 @@
 #include "model/inputs.h"
 #include "model/parameter.h"
 #include "model/route.h"
+#include "model/unknown.h"
 
 namespace planner {
 
@@ -65,6 +66,7 @@ struct Test {
   std::string counted = "observations";  // what a sample size counts
   std::vector<Parameter> parameters = {};
   std::vector<Route> routes = {};
+  std::vector<Unknown> unknowns = {};  // the first that a design lacks is solved for unless the user names one
   std::vector<Condition> conditions = {};
   std::vector<Condition> sizeExists = {};  // when one fails no sample size reaches a power
   std::vector<Derived> derived = {};
@@ -76,8 +78,8 @@ struct Test {
   Details (*details)(Question question, const Inputs& atSizes) = nullptr;
 };
 
-/// The test with the parameters that every test has: `alpha`, and `power`, `half-width` and `interval` as its routes
-/// answer the questions they ask.
+/// The test with the parameters that every test has: `alpha`; `power`, `half-width` and `interval` as its routes answer
+/// the questions they ask; `solve` and `below` as it has unknowns. The level is an unknown of every test.
 Test WithCommonParameters(Test test);
 
 /// The parameter of that name, or null.

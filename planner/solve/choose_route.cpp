@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <utility>
 
 #include "model/problem.h"
@@ -10,7 +11,7 @@ namespace planner {
 namespace {
 
 bool IsCommon(Name name) {
-  if (name == Name("alpha")) return true;
+  if (name == Name("alpha") || name == Name("solve") || name == Name("below")) return true;
   return std::any_of(std::begin(askedQuestions), std::end(askedQuestions),
                      [&](Question question) { return AskedBy(question) == name; });
 }
@@ -85,6 +86,74 @@ Names Missing(const Route& route, const Names& given) {
   throw InputError(std::move(problem));
 }
 
+/// The target that is given, unless sizes are asked for.
+std::optional<Name> TargetOfUnknown(const Names& given) {
+  if (!Contains(given, "n") && !Contains(given, "solve")) return std::nullopt;
+  for (Name target : {Name("power"), Name("half-width")}) {
+    if (Contains(given, target)) return target;
+  }
+  return std::nullopt;
+}
+
+Names Without(Names names, const Names& others) {
+  names.erase(std::remove_if(names.begin(), names.end(), [&](Name name) { return Contains(others, name); }),
+              names.end());
+  return names;
+}
+
+/// The route of the unknown's target from what is given and the unknown, or null.
+const Route* RouteWith(const Test& test, const Unknown& unknown, Names given) {
+  if (!unknown.set) given.push_back(unknown.input);
+  for (const Route* route : RoutesOf(test, unknown.target)) {
+    Names own;
+    std::copy_if(given.begin(), given.end(), std::back_inserter(own), [](Name name) { return !IsCommon(name); });
+    if (TakesAll(*route, own) && Missing(*route, own).empty()) return route;
+  }
+  return nullptr;
+}
+
+std::vector<const Unknown*> UnknownsOf(const Test& test, Question target, std::optional<Name> named) {
+  std::vector<const Unknown*> unknowns;
+  for (const Unknown& unknown : test.unknowns) {
+    const bool isMeant = named ? unknown.input == *named : unknown.input != Name("alpha") && !unknown.set;
+    if (isMeant && unknown.target == target) unknowns.push_back(&unknown);
+  }
+  return unknowns;
+}
+
+std::optional<Name> NamedUnknown(const InputValues& values) {
+  const auto solve = values.find("solve");
+  return solve == values.end() ? std::nullopt : Name::Of(std::get<std::string>(solve->second));
+}
+
+/// Says why no unknown can be solved for.
+[[noreturn]] void RejectUnknown(const Test& test, Name target, std::optional<Name> named, const Names& given) {
+  if (named && Contains(given, *named)) {
+    throw InputError({.code = Code::SolvedForIsGiven, .inputs = Texts({*named, "solve"})});
+  }
+  const Question question = target == Name("power") ? Question::Power : Question::HalfWidth;
+  if (named && UnknownsOf(test, question, named).empty()) {
+    throw InputError({.code = Code::NotSolvedFor, .inputs = Texts({*named, target})});
+  }
+  // With what else the unknown would do.
+  Names design = Without(given, {target, "interval"});
+  if (named) design.push_back(*named);
+  const Route& route = ChooseRoute(test, question, design);
+  (void)route;
+  throw InputError({.code = Code::NothingUnknown, .inputs = Texts({"n", target, "solve"})});
+}
+
+Asked FindUnknownAsked(const Test& test, const InputValues& values, const Names& given, Name target) {
+  const Question question = target == Name("power") ? Question::Power : Question::HalfWidth;
+  const std::optional<Name> named = NamedUnknown(values);
+  const Names design = Without(given, {"power", "half-width", "interval"});
+  for (const Unknown* unknown : UnknownsOf(test, question, named)) {
+    if (Contains(given, unknown->input)) continue;
+    if (const Route* route = RouteWith(test, *unknown, design)) return {route, unknown};
+  }
+  RejectUnknown(test, target, named, given);
+}
+
 }  // namespace
 
 std::vector<std::string> Texts(const Names& names) {
@@ -129,6 +198,18 @@ const Route& ChooseRoute(const Test& test, Question question, const Names& given
     incomplete.push_back(std::move(missing));
   }
   RejectIncomplete(test, question, incomplete);
+}
+
+Asked FindAsked(const Test& test, const InputValues& values) {
+  const Names given = GivenNames(test, values);
+  const Question question = AskedQuestion(given);
+  if (const std::optional<Name> target = TargetOfUnknown(given)) {
+    return FindUnknownAsked(test, values, given, *target);
+  }
+  for (Name name : {Name("solve"), Name("below")}) {
+    if (Contains(given, name)) throw InputError({.code = Code::SolvesWithoutTarget, .inputs = Texts({name})});
+  }
+  return {&ChooseRoute(test, question, given)};
 }
 
 }  // namespace planner

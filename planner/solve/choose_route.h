@@ -9,8 +9,17 @@ namespace planner {
 /// The names of the inputs that are given, without flags that are not set. The values have been checked.
 Names GivenNames(const Test& test, const InputValues& values);
 
-/// What is asked: the question of the one asking input that is given, else the power.
+/// The question of the one asking input that is given, else the power.
 Question AskedQuestion(const Names& given);
+
+/// What is asked, and the route that answers.
+struct Asked {
+  const Route* route;
+  const Unknown* unknown = nullptr;  // whose number brings the route's value to the target
+};
+
+/// What the values ask. A target besides the sizes, or besides `solve`, asks for an unknown. Throws an InputError with what does not go together or what is missing.
+Asked FindAsked(const Test& test, const InputValues& values);
 
 /// The route of the question that takes all that is given and needs nothing more. Throws an InputError with what does
 /// not go together or what is missing.

@@ -68,10 +68,23 @@ Inputs AtSizes(const Test& test, const Inputs& inputs, const Numbers& sizes) {
   return atSizes;
 }
 
-const Route& CheckedRoute(const Test& test, const InputValues& values) {
+Asked CheckedAsked(const Test& test, const InputValues& values) {
   CheckValues(test, values);
-  const Names given = GivenNames(test, values);
-  return ChooseRoute(test, AskedQuestion(given), given);
+  return FindAsked(test, values);
+}
+
+/// The values with one for the unknown, which stands there until it is found.
+InputValues WithUnknown(const Test& test, const Unknown* unknown, InputValues values) {
+  if (!unknown || unknown->set) return values;
+  const bool isList = FindParameter(test, unknown->input)->IsList();
+  values[std::string(unknown->input.Text())] = isList ? Value(Numbers{1}) : Value(1.0);
+  return values;
+}
+
+void SetUnknown(Inputs& inputs, const Unknown& unknown, const Parameter& parameter, double at) {
+  if (unknown.set) return unknown.set(inputs, at);
+  if (!parameter.IsList()) return inputs.Set(parameter.name, at);
+  for (std::size_t i = 0; i < inputs.List(parameter.name).size(); ++i) inputs.SetEntry(parameter.name, i, at);
 }
 
 std::vector<DerivedFigure> DerivedFigures(const Test& test, const Route& route, const Inputs& inputs) {
@@ -88,7 +101,13 @@ std::vector<DerivedFigure> DerivedFigures(const Test& test, const Route& route, 
 }  // namespace
 
 PreparedQuestion::PreparedQuestion(const Test& test, const InputValues& values, StopRequest* stop)
-    : test_(test), route_(CheckedRoute(test, values)), inputs_(MakeInputs(test, values, stop)) {
+    : PreparedQuestion(test, CheckedAsked(test, values), values, stop) {}
+
+PreparedQuestion::PreparedQuestion(const Test& test, const Asked& asked, const InputValues& values, StopRequest* stop)
+    : test_(test),
+      route_(*asked.route),
+      unknown_(asked.unknown),
+      inputs_(MakeInputs(test, WithUnknown(test, asked.unknown, values), stop)) {
   conditions_ = Applicable(test.conditions, inputs_);
   if (!AsksForSizes(route_.question)) {
     value_ = route_.value;
@@ -126,6 +145,7 @@ Row PreparedQuestion::Evaluate(std::span<const double> row) {
 }
 
 Row PreparedQuestion::Evaluate(const Inputs& inputs) {
+  if (unknown_) return FindNumber(inputs);
   for (const Condition* condition : conditions_) {
     if (!condition->holds(inputs)) return refused;
   }
@@ -134,22 +154,15 @@ Row PreparedQuestion::Evaluate(const Inputs& inputs) {
 }
 
 Answer PreparedQuestion::Solve() {
-  if (const Condition* failing = FirstFailing(conditions_, inputs_)) {
-    throw InputError(ProblemOf(*failing, Code::ConditionFails));
-  }
-  if (const Condition* failing = FailingEffect(inputs_)) throw NoSolution(ProblemOf(*failing, Code::NoEffect));
-  const Row row = Checked(inputs_);
+  const Condition* failing = unknown_ ? nullptr : FirstFailing(conditions_, inputs_);
+  if (failing) throw InputError(ProblemOf(*failing, Code::ConditionFails));
+  failing = FailingEffect(inputs_);
+  if (failing) throw NoSolution(ProblemOf(*failing, Code::NoEffect));
+  const Row row = unknown_ ? FindNumber(inputs_) : Checked(inputs_);
   if (row.status == RowStatus::Stopped) throw Stopped();
-  if (row.status != RowStatus::Answered) {
-    const Question question = route_.question;
-    Problem problem{.code = AsksForSizes(question) ? Code::SizesNotFound : Code::NotComputable, .question = question};
-    if (AsksForSizes(question)) {
-      problem.inputs = Texts({*AskedBy(question)});
-      problem.values = {inputs_.Number(*AskedBy(question))};
-    }
-    throw NoSolution(std::move(problem));
-  }
-  Answer answer{&test_, &route_, inputs_, sizes_, row.value};
+  if (row.status != RowStatus::Answered) RejectUnanswered();
+  if (unknown_) SetUnknown(inputs_, *unknown_, *FindParameter(test_, unknown_->input), found_);
+  Answer answer{&test_, &route_, inputs_, sizes_, row.value, unknown_};
   if (!AsksForSizes(route_.question)) {
     answer.sizes = test_.groups == 1 ? Numbers{inputs_.Number("n")} : inputs_.List("n");
   }
@@ -157,6 +170,32 @@ Answer PreparedQuestion::Solve() {
   answer.derived = DerivedFigures(test_, route_, inputs_);
   if (IsStopped()) throw Stopped();
   return answer;
+}
+
+Name PreparedQuestion::TargetName() const {
+  return unknown_->target == Question::Power ? Name("power") : Name("half-width");
+}
+
+void PreparedQuestion::RejectUnanswered() {
+  const Question question = route_.question;
+  Problem problem{.code = Code::NotComputable, .question = question};
+  if (AsksForSizes(question)) {
+    problem.code = Code::SizesNotFound;
+    problem.inputs = Texts({*AskedBy(question)});
+    problem.values = {inputs_.Number(*AskedBy(question))};
+  }
+  if (unknown_) {
+    Inputs inputs = inputs_;
+    const UnknownSearch search = SearchUnknown(inputs);
+    if (search.nearest) {
+      problem.code = search.isReachedEverywhere ? Code::TargetReachedAlways : Code::TargetNotReached;
+      problem.inputs = Texts({TargetName(), unknown_->input});
+      problem.values = {inputs_.Number(TargetName()), search.nearest->value, search.nearest->at};
+    } else if (const Condition* failing = FirstFailing(conditions_, inputs)) {
+      throw InputError(ProblemOf(*failing, Code::ConditionFails));
+    }
+  }
+  throw NoSolution(std::move(problem));
 }
 
 const Condition* PreparedQuestion::FailingEffect(const Inputs& inputs) const {
@@ -178,6 +217,29 @@ Row PreparedQuestion::ValueOf(const Inputs& inputs) const {
   if (IsStopped()) return stopped;
   const bool good = IsAboutPower(route_.question) ? IsPower(value) : IsHalfWidth(value);
   return good ? Row{RowStatus::Answered, value} : unanswered;
+}
+
+Row PreparedQuestion::ValueWith(Inputs& inputs, double at) const {
+  SetUnknown(inputs, *unknown_, *FindParameter(test_, unknown_->input), at);
+  if (FirstFailing(conditions_, inputs)) return refused;
+  return ValueOf(inputs);
+}
+
+UnknownSearch PreparedQuestion::SearchUnknown(Inputs& inputs) const {
+  const Parameter& parameter = *FindParameter(test_, unknown_->input);
+  return FindUnknown(*unknown_, parameter, inputs, inputs.Number(TargetName()),
+                     [&](double at) { return ValueWith(inputs, at).value; });
+}
+
+Row PreparedQuestion::FindNumber(const Inputs& inputs) {
+  Inputs tried = inputs;
+  const UnknownSearch search = SearchUnknown(tried);
+  if (IsStopped()) return stopped;
+  if (!search.reached) return unanswered;
+  found_ = search.reached->at;
+  if (!unknown_->attainable) return {RowStatus::Answered, search.reached->value};
+  found_ = unknown_->attainable(inputs, found_);
+  return ValueWith(tried, found_);
 }
 
 Row PreparedQuestion::FindSizes(const Inputs& inputs) {

@@ -8,6 +8,8 @@
 #include "model/inputs.h"
 #include "model/problem.h"
 #include "model/test.h"
+#include "solve/choose_route.h"
+#include "solve/find_unknown.h"
 
 namespace planner {
 
@@ -21,7 +23,7 @@ enum class RowStatus {
 
 struct Row {
   RowStatus status;
-  double value;  // the power or half-width, of sizes found at these sizes; NaN unless answered
+  double value;  // the power or half-width, with what was found; NaN unless answered
 };
 
 /// An input that varies from design to design: a number, or an entry of a list.
@@ -52,6 +54,10 @@ public:
   /// The sizes that the last answer found.
   const Numbers& Sizes() const { return sizes_; }
 
+  /// What is solved for, or null; and its number in the last answer.
+  const Unknown* SolvedFor() const { return unknown_; }
+  double FoundUnknown() const { return found_; }
+
   /// The whole answer for the inputs as they are. Throws an InputError, a NoSolution, or Stopped.
   Answer Solve();
 
@@ -70,16 +76,25 @@ private:
   Row Checked(const Inputs& inputs);
   Row ValueOf(const Inputs& inputs) const;
   Row FindSizes(const Inputs& inputs);
+  Row FindNumber(const Inputs& inputs);
+  Name TargetName() const;
+  UnknownSearch SearchUnknown(Inputs& inputs) const;
+  Row ValueWith(Inputs& inputs, double at) const;
+  [[noreturn]] void RejectUnanswered();
   bool IsStopped() const;
+
+  PreparedQuestion(const Test& test, const Asked& asked, const InputValues& values, StopRequest* stop);
 
   const Test& test_;
   const Route& route_;
+  const Unknown* unknown_;  // whose number brings the route's value to the target
   Inputs inputs_;
   std::vector<const Condition*> conditions_;
   std::vector<const Condition*> effects_;
   std::vector<BoundColumn> columns_;
   Numbers sizes_;
   Evaluation value_;       // a copy of the route's own, which may keep something between its calls
+  double found_ = 0;       // of the unknown
   bool isMissed_ = false;  // the target, by a little
 };
 

@@ -112,6 +112,14 @@ Json ToJson(const Route& route) {
   return object;
 }
 
+Json ToJson(const Unknown& unknown) {
+  return {{"name", unknown.input.Text()},
+          {"target", TextOf(unknown.target)},
+          {"trend", unknown.trend == Trend::Rises ? "rises" : "falls"},
+          {"reason", unknown.reason},
+          {"below", unknown.pieceBelow != nullptr}};
+}
+
 Json ToJson(const Axis& axis) {
   return {{"title", axis.title}, {"symbol", axis.symbol}, {"limits", ToJson(axis.limits)}};
 }
@@ -134,6 +142,7 @@ Json ToJson(const Test& test) {
   object["counted"] = test.counted;
   for (const Parameter& parameter : test.parameters) object["parameters"].push_back(ToJson(parameter));
   for (const Route& route : test.routes) object["routes"].push_back(ToJson(route));
+  for (const Unknown& unknown : test.unknowns) object["unknowns"].push_back(ToJson(unknown));
   for (const Example& example : test.examples) {
     object["examples"].push_back({{"arguments", example.arguments}, {"sentence", example.sentence}});
   }

@@ -38,6 +38,9 @@ private:
 
   std::string Figure(std::size_t i) const { return Shown(problem_.values[i]); }
 
+  /// To four digits.
+  std::string Rounded(std::size_t i) const { return fmt::format("{:.4g}", std::get<double>(problem_.values[i])); }
+
   /// "--sd and --n, or --effect-f and --n"
   std::string Ways(const std::string& last, const std::string& other) const {
     std::vector<std::string> ways;
@@ -57,6 +60,8 @@ private:
   std::string TooLarge() const;
   std::string TooSlow() const;
   std::string SizesNotFound() const;
+  std::string NothingUnknown() const;
+  std::string TargetNotReached() const;
   std::string OfCondition() const;
   std::string ChartSentence() const;
 
@@ -106,6 +111,17 @@ std::string Words::TooLarge() const {
 
 std::string Words::SizesNotFound() const {
   return fmt::format("No sample size was found that reaches a {} of {}.", problem_.inputs[0], Figure(0));
+}
+
+std::string Words::NothingUnknown() const {
+  return fmt::format("{} and {} are given with all the rest, so nothing is left to solve for: leave one input out.",
+                     Input(0), Input(1));
+}
+
+std::string Words::TargetNotReached() const {
+  const bool isPower = problem_.inputs[0] == "power";
+  return fmt::format("{} {} is not reached by any {}: {} is at {} {}, at {}.", Input(0), Figure(0), Input(1),
+                     isPower ? "the power" : "the half-width", isPower ? "most" : "least", Rounded(1), Rounded(2));
 }
 
 std::string Words::TooSlow() const {
@@ -189,6 +205,15 @@ std::string Words::Sentence() const {
     case Code::TooManyGroups:
       return fmt::format("{} tells {} groups, but at most {} are allowed.", Input(0), Figure(0), Figure(1));
     case Code::WrongLength: return WrongLength();
+    case Code::SolvedForIsGiven: return fmt::format("{} is given, so {} cannot ask for it.", Input(0), Input(1));
+    case Code::NotSolvedFor: return fmt::format("{} cannot be solved for with {}.", Input(0), Input(1));
+    case Code::NothingUnknown: return NothingUnknown();
+    case Code::SolvesWithoutTarget:
+      return fmt::format("{} has a use only where the power or half-width to reach is given besides the sizes.",
+                         Input(0));
+    case Code::TargetNotReached: return TargetNotReached();
+    case Code::TargetReachedAlways:
+      return fmt::format("{} {} is reached whatever {} is.", Input(0), Figure(0), Input(1));
     case Code::SizesNotFound: return SizesNotFound();
     case Code::NotComputable:
       return fmt::format("These inputs have no answer: {} cannot be computed.", Wording(*problem_.question));

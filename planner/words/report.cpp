@@ -50,6 +50,13 @@ std::string ChoiceWording(const Parameter& parameter, const std::string& word) {
   return std::find_if(choices.begin(), choices.end(), [&](const auto& choice) { return choice.word == word; })->wording;
 }
 
+/// What was solved for: of a list, whose entries are the same, one of them.
+double NumberOf(const Answer& answer) {
+  const Name name = answer.unknown->input;
+  const bool isList = FindParameter(*answer.test, name)->IsList();
+  return isList ? answer.inputs.List(name).front() : answer.inputs.Number(name);
+}
+
 /// Gives the words of a sentence's braces.
 class Words {
 public:
@@ -92,6 +99,7 @@ private:
   std::string OfInput(std::string_view name) const {
     const Parameter* parameter = FindParameter(test_, name);
     if (!parameter || !inputs_.Has(parameter->name)) return "";
+    if (answer_.unknown && parameter->name == answer_.unknown->input) return fmt::format("{:.4g}", NumberOf(answer_));
     const Value value = inputs_.ValueOf(*parameter);
     if (const auto* word = std::get_if<std::string>(&value)) return ChoiceWording(*parameter, *word);
     if (const auto* numbers = std::get_if<Numbers>(&value)) return ListedInSentence(*numbers);
@@ -103,6 +111,13 @@ private:
   const Answer& answer_;
 };
 
+/// The power or half-width to reach.
+bool IsTarget(const Answer& answer, Name name) {
+  if (name == Name("interval")) return false;
+  if (!answer.unknown) return name == AskedBy(answer.route->question);
+  return name == (answer.unknown->target == Question::Power ? Name("power") : Name("half-width"));
+}
+
 std::vector<Entry> InputEntries(const Answer& answer) {
   std::vector<Entry> entries;
   const Route& route = *answer.route;
@@ -110,8 +125,8 @@ std::vector<Entry> InputEntries(const Answer& answer) {
     const Name name = parameter.name;
     if (!answer.inputs.Has(name)) continue;
     if (parameter.shownOnlySet && !answer.inputs.Flag(name)) continue;
-    const bool isTarget = name == AskedBy(route.question) && name != Name("interval");
-    if (!route.Takes(name) && !isTarget && name != Name("alpha")) continue;
+    if (answer.unknown && name == answer.unknown->input) continue;
+    if (!route.Takes(name) && !IsTarget(answer, name) && name != Name("alpha")) continue;
     const Value value = answer.inputs.ValueOf(parameter);
     entries.push_back({std::string(name.Text()), parameter.label, value, Shown(value)});
   }
@@ -121,6 +136,11 @@ std::vector<Entry> InputEntries(const Answer& answer) {
 std::vector<Entry> ResultEntries(const Answer& answer) {
   std::vector<Entry> entries;
   const bool grouped = answer.test->groups != 1;
+  if (answer.unknown) {
+    const Parameter& parameter = *FindParameter(*answer.test, answer.unknown->input);
+    const double number = NumberOf(answer);
+    entries.push_back({std::string(parameter.name.Text()), parameter.label, number, fmt::format("{:.4g}", number)});
+  }
   for (const auto& [derived, figure] : answer.derived) {
     entries.push_back({derived->name, derived->label, figure, fmt::format("{:.4g}", figure)});
   }

@@ -77,7 +77,7 @@ TEST_P(Descriptions, HaveRoutesOverKnownParametersAndExports) {
 
 TEST_P(Descriptions, UseEveryParameter) {
   for (const Parameter& parameter : GetParam().parameters) {
-    const Names common{"power", "half-width", "interval", "alpha"};
+    const Names common{"power", "half-width", "interval", "alpha", "solve", "below"};
     if (Contains(common, parameter.name)) continue;
     const auto& routes = GetParam().routes;
     EXPECT_TRUE(std::any_of(routes.begin(), routes.end(), [&](const Route& route) {

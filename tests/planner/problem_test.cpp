@@ -33,10 +33,12 @@ TEST(Problem, NamesTheConditionThatFails) {
 }
 
 TEST(Problem, IsWordedInTheNamesOfAFrontEnd) {
-  const Problem problem = ProblemOf("mean", {{"effect-d", 0.4}, {"power", 0.8}, {"n", 40.0}});
-  EXPECT_EQ(SentenceTemplate(problem), "{power} asks for the sample size, so {n} cannot be given as well.");
+  const Problem problem = ProblemOf("mean", {{"sd", 4.0}, {"half-width", 0.8}, {"test-value", 40.0}});
+  EXPECT_EQ(SentenceTemplate(problem),
+            "{half-width} asks for the sample size for a half-width, so {test-value} cannot be given as well.");
   const auto title = [](std::string_view name) { return "the " + std::string(name); };
-  EXPECT_EQ(Sentence(problem, title), "the power asks for the sample size, so the n cannot be given as well.");
+  EXPECT_EQ(Sentence(problem, title),
+            "the half-width asks for the sample size for a half-width, so the test-value cannot be given as well.");
 }
 
 TEST(Problem, LeavesWhatTheUserTypedAlone) {

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cmath>
+
+#include "model/test.h"
+
+// Unknowns that several tests share.
+namespace planner {
+
+/// The effect size of either direction, as a positive one.
+inline Unknown UnknownEffectD() {
+  return {.input = "effect-d",
+          .target = Question::Power,
+          .trend = Trend::Rises,
+          .reason = "the noncentrality grows with the effect",
+          .piece = [](const Inputs&) -> Piece {
+            return {0, 1e6};
+          }};
+}
+
+/// An effect that is zero at the lower end of its limits.
+inline Unknown UnknownEffect(Name input) {
+  return {.input = input,
+          .target = Question::Power,
+          .trend = Trend::Rises,
+          .reason = "the noncentrality grows with the effect"};
+}
+
+inline Unknown UnknownSd(Name input) {
+  return {.input = input,
+          .target = Question::Power,
+          .trend = Trend::Falls,
+          .reason = "the effect is divided by the standard deviation"};
+}
+
+inline Unknown UnknownSdOfInterval(Name input) {
+  return {.input = input,
+          .target = Question::HalfWidth,
+          .trend = Trend::Rises,
+          .reason = "the half-width is proportional to the standard deviation"};
+}
+
+/// The second size over the first, which is given.
+inline Unknown UnknownRatio() {
+  return {.input = "ratio",
+          .target = Question::Power,
+          .trend = Trend::Rises,
+          .reason = "a larger second group estimates its mean better",
+          .set =
+              [](Inputs& in, double at) {
+                in.SetEntry("n", 1, in.List("n")[0] * at);
+                in.Set("ratio", at);
+              },
+          .attainable =
+              [](const Inputs& in, double at) {
+                const double first = in.List("n")[0];
+                return std::ceil(first * at * (1 - 1e-12)) / first;
+              }};
+}
+
+}  // namespace planner
