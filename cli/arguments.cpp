@@ -5,6 +5,7 @@
 #include <CLI/CLI.hpp>
 
 #include "catalogue/catalogue.h"
+#include "hints.h"
 #include "nearest.h"
 #include "usage_error.h"
 #include "words/parse.h"
@@ -40,6 +41,7 @@ const std::vector<std::string> rangeOptions{"from", "to", "step", "output"};
 
 void AddTest(CLI::App& app, const Test& test) {
   CLI::App* command = AddCommand(app, test.name);
+  for (const std::string& name : OtherNamesOf(test.name)) command->alias(name);
   command->add_flag("--explain");
   AddOption(*command, "--chart");
   for (const std::string& name : rangeOptions) AddOption(*command, "--" + name);
@@ -121,6 +123,10 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
 
 [[noreturn]] void RejectExtra(const CLI::App& command, const std::string& extra) {
   const std::string option = extra.substr(0, extra.find('='));
+  const planner::Test* test = planner::FindTest(command.get_name());
+  if (const std::string known = test ? HintForOption(*test, option) : ""; !known.empty()) {
+    throw UsageError(fmt::format("\"{}\" is not an option of {}; {}.", option, command.get_name(), known));
+  }
   const std::string nearest = Nearest(option, OptionNames(command));
   const std::string hint = nearest.empty() ? fmt::format("\"kelpower {} --help\" names them", command.get_name())
                                            : fmt::format("did you mean {}?", nearest);
@@ -129,6 +135,9 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
 }
 
 [[noreturn]] void RejectCommand(const std::string& word) {
+  if (const std::string known = HintForTest(word); !known.empty()) {
+    throw UsageError(fmt::format("\"{}\" is not a test; {}.", word, known));
+  }
   std::vector<std::string> names{"list"};
   for (const Test& test : planner::Tests()) names.push_back(test.name);
   const std::string nearest = Nearest(word, names);

@@ -70,8 +70,9 @@ Details DetailsOfAnova(Question question, const Inputs& in) {
   if (!test.AtCriticalValue()) return details;
   details.Add("f", "effect size f", std::sqrt(noncentrality / total));
   AddFTest(details, *test.AtCriticalValue(), noncentrality, "noncentrality = N f^2 = {total} x {f}^2");
-  details.source = "Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., chapter 8, with the "
-                   "noncentral F distribution";
+  details.source =
+      "Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., chapter 8, with the "
+      "noncentral F distribution";
   AddPrograms(details, in);
   return details;
 }

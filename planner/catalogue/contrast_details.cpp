@@ -40,8 +40,7 @@ Details DetailsOf(const AskedContrast& asked, Question question, const Inputs& i
     AddTTest(details, *test.OneSided(), std::sqrt(noncentrality), true,
              "noncentrality = |d| / sqrt(sum c_i^2 / n_i) = |{d}| / sqrt({variance})");
   } else if (test.TwoSided()) {
-    AddFTest(details, *test.TwoSided(), noncentrality,
-             "noncentrality = d^2 / (sum c_i^2 / n_i) = {d}^2 / {variance}");
+    AddFTest(details, *test.TwoSided(), noncentrality, "noncentrality = d^2 / (sum c_i^2 / n_i) = {d}^2 / {variance}");
     details.equivalents = {
         {.program = "R",
          .call = "pf(qf(1 - {level}, 1, {df2}), 1, {df2}, {noncentrality}, lower.tail = FALSE)",
@@ -52,8 +51,9 @@ Details DetailsOf(const AskedContrast& asked, Question question, const Inputs& i
          .remark = "f^2 is the noncentrality over the total sample size"}};
   }
   details.Add("f", "effect size f", std::sqrt(noncentrality / total));
-  details.source = "Maxwell and Delaney (2004), Designing Experiments and Analyzing Data, 2nd ed., chapters 4 and 5, "
-                   "with the noncentral F distribution, or t for one side";
+  details.source =
+      "Maxwell and Delaney (2004), Designing Experiments and Analyzing Data, 2nd ed., chapters 4 and 5, "
+      "with the noncentral F distribution, or t for one side";
   return details;
 }
 
@@ -77,8 +77,7 @@ double Effect(const Numbers& coefficients, const Inputs& in) {
 
 Details DetailsOfContrast(Question question, const Inputs& in) {
   const Numbers coefficients = Coefficients(in);
-  Details details =
-      DetailsOf({coefficients, Effect(coefficients, in), IsOneSided(in), in.Alpha()}, question, in);
+  Details details = DetailsOf({coefficients, Effect(coefficients, in), IsOneSided(in), in.Alpha()}, question, in);
   if (IsAboutPower(question) && in.Has("means")) {
     details.equivalents.push_back(
         {.program = "SAS",

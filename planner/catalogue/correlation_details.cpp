@@ -24,10 +24,9 @@ Details OfPower(const correlation::Level& level, const correlation::ShiftedNorma
   details.formula = "power = " + tails + ", z = {critical-z}, m = {shift}, s = {spread}";
   const std::string above = "pnorm(({shift} - {critical-z}) / {spread})";
   const std::string below = "pnorm((-({shift}) - {critical-z}) / {spread})";
-  details.equivalents = {
-      {.program = "R",
-       .call = level.isOneSided ? (isAbove ? above : below) : above + " + " + below,
-       .remark = "the formula, from the statistic on"}};
+  details.equivalents = {{.program = "R",
+                          .call = level.isOneSided ? (isAbove ? above : below) : above + " + " + below,
+                          .remark = "the formula, from the statistic on"}};
   return details;
 }
 
@@ -37,24 +36,23 @@ Details OfInterval(const Inputs& in, double error, double halfWidth) {
   details.Add("z-of-r", "Fisher's z of the correlation", std::atanh(in.Number("r")));
   details.Add("standard-error", "standard error of Fisher's z", error);
   details.value = halfWidth;
-  details.formula = "half-width = (tanh(z + h) - tanh(z - h)) / 2, z = atanh(r) = {z-of-r}, h = {quantile-z} x "
-                    "{standard-error}";
+  details.formula =
+      "half-width = (tanh(z + h) - tanh(z - h)) / 2, z = atanh(r) = {z-of-r}, h = {quantile-z} x "
+      "{standard-error}";
   return details;
 }
 
 void AddRInterval(Details& details) {
   const std::string reach = "qnorm(1 - {alpha} / 2) * {standard-error}";
   details.equivalents = {
-      {.program = "R",
-       .call = "(tanh(atanh({r}) + " + reach + ") - tanh(atanh({r}) - " + reach + ")) / 2"}};
+      {.program = "R", .call = "(tanh(atanh({r}) + " + reach + ") - tanh(atanh({r}) - " + reach + ")) / 2"}};
 }
 
 double PartialledOut(const Inputs& in) { return in.Has("partialled-out") ? in.Number("partialled-out") : 0; }
 
 Details OfPearsonInterval(const correlation::PearsonInterval& interval, const Inputs& in) {
   const double n = in.Number("n");
-  Details details =
-      OfInterval(in, 1 / std::sqrt(n - 3 - interval.partialledOut), correlation::HalfWidth(interval, n));
+  Details details = OfInterval(in, 1 / std::sqrt(n - 3 - interval.partialledOut), correlation::HalfWidth(interval, n));
   details.source = "Fisher (1921), Metron 1, 3-32: variance 1 / (n - 3 - k), k variables partialled out";
   if (!interval.isCorrected) {
     AddRInterval(details);
@@ -65,8 +63,7 @@ Details OfPearsonInterval(const correlation::PearsonInterval& interval, const In
 }
 
 Details OfPearsonTest(const correlation::PearsonTest& test, const Inputs& in) {
-  Details details =
-      OfPower(test.level, correlation::UnderAlternative(test, in.Number("n"), HypothesesOf(in)), in);
+  Details details = OfPower(test.level, correlation::UnderAlternative(test, in.Number("n"), HypothesesOf(in)), in);
   details.formula += "; m = (atanh(r) - atanh(r0){bias}) sqrt(n - 3 - k)";
   details.source = test.isCorrected ? "Fisher (1921), Metron 1, 3-32; Hotelling (1953), Journal of the Royal "
                                       "Statistical Society B 15, 193-232: mean and variance of z to the second order"
@@ -143,8 +140,9 @@ Details DetailsOfSpearman(Question question, const Inputs& in) {
       details.source = "Fieller, Hartley and Pearson (1957), Biometrika 44, 470-481: variance of z 1.06 / (n - 3)";
       break;
     case correlation::RankVariance::CarusoCliff:
-      details.source = "Caruso and Cliff (1997), Educational and Psychological Measurement 57, 637-654: variance of z "
-                       "1 / (n - 2) + |z| / (6 n + 4 sqrt(n))";
+      details.source =
+          "Caruso and Cliff (1997), Educational and Psychological Measurement 57, 637-654: variance of z "
+          "1 / (n - 2) + |z| / (6 n + 4 sqrt(n))";
       break;
   }
   return details;

@@ -24,15 +24,16 @@ Details OfHalfWidth(const Inputs& in) {
 
 Details DetailsOfMean(Question question, const Inputs& in) {
   if (!IsAboutPower(question)) return OfHalfWidth(in);
-  const double d = in.Has("effect-d") ? in.Number("effect-d")
-                                      : (in.Number("mean") - in.Number("test-value")) / in.Number("sd");
+  const double d =
+      in.Has("effect-d") ? in.Number("effect-d") : (in.Number("mean") - in.Number("test-value")) / in.Number("sd");
   const means::TTestOfAMean test = means::OneSampleTest(SidesOf(in), in.Number("n"), in.Alpha());
   Details details;
   details.Add("d", "effect size d", IsOneSided(in) ? std::abs(d) : d);
   AddTTest(details, test.AtCriticalValue(), test.Noncentrality(d), IsOneSided(in),
            "noncentrality = sqrt(n) d = sqrt({n}) x {d}");
-  details.source = "Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., chapter 2, with the "
-                   "noncentral t distribution";
+  details.source =
+      "Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., chapter 2, with the "
+      "noncentral t distribution";
   details.equivalents.insert(
       details.equivalents.begin(),
       {{.program = "pwr",

@@ -10,7 +10,7 @@ Parameter SingleSize(std::string meaning) {
 }
 
 Parameter EffectD(std::string meaning) {
-  return Number("effect-d", "effect size d", std::move(meaning)).AtLeast(-1e6).AtMost(1e6);
+  return Number("effect-d", "effect size d", std::move(meaning)).Alias("d").AtLeast(-1e6).AtMost(1e6);
 }
 
 Parameter OneSided() {

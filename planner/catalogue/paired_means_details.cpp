@@ -18,8 +18,7 @@ double SdOfDifferences(const Inputs& in) {
 
 double EffectSize(const Inputs& in) {
   if (in.Has("effect-d")) return in.Number("effect-d");
-  const double difference =
-      in.Has("means") ? in.List("means")[0] - in.List("means")[1] : in.Number("mean-difference");
+  const double difference = in.Has("means") ? in.List("means")[0] - in.List("means")[1] : in.Number("mean-difference");
   return difference / SdOfDifferences(in);
 }
 
@@ -36,13 +35,12 @@ Details OfHalfWidth(const Inputs& in) {
 }
 
 void AddSas(Details& details, const Inputs& in) {
-  const std::string rest =
-      " sides={sides} alpha={alpha} npairs={n-or-dot} power={power-or-dot}; run;";
+  const std::string rest = " sides={sides} alpha={alpha} npairs={n-or-dot} power={power-or-dot}; run;";
   if (in.Has("means")) {
     details.equivalents.push_back(
         {.program = "SAS",
-         .call = "proc power; pairedmeans test=diff pairedmeans={means|} pairedstddevs={sds|} corr={correlation}" +
-                 rest});
+         .call =
+             "proc power; pairedmeans test=diff pairedmeans={means|} pairedstddevs={sds|} corr={correlation}" + rest});
   } else if (in.Has("mean-difference")) {
     details.equivalents.push_back(
         {.program = "SAS",
@@ -62,8 +60,9 @@ Details DetailsOfPairedMeans(Question question, const Inputs& in) {
   details.Add("d", "mean difference over its standard deviation", IsOneSided(in) ? std::abs(d) : d);
   AddTTest(details, test.AtCriticalValue(), test.Noncentrality(d), IsOneSided(in),
            "noncentrality = sqrt(n) d = sqrt({n}) x {d}");
-  details.source = "Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., section 2.3.5, with "
-                   "the noncentral t distribution";
+  details.source =
+      "Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., section 2.3.5, with "
+      "the noncentral t distribution";
   details.equivalents.insert(
       details.equivalents.begin(),
       {{.program = "pwr",

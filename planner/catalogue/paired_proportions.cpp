@@ -5,6 +5,7 @@
 #include "catalogue/core.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
+#include "frame/counts.h"
 #include "proportions/lasting_size.h"
 #include "proportions/mcnemar.h"
 #include "proportions/related_interval.h"
@@ -57,6 +58,7 @@ Numbers SizeForHalfWidth(const Inputs& in) {
 }
 
 double AttainedLevel(const Inputs& in) {
+  if (!in.Flag("exact")) return OrNaN(kelpower::NoValue::Refused);
   return OrNaN(proportions::McNemarTest(DesignOf(in)).AttainedLevel(in.Number("n"), PairsOf(in)));
 }
 
@@ -78,7 +80,7 @@ std::vector<Parameter> Parameters() {
       Number("n", "sample size", "number of pairs").Whole().AtLeast(2).AtMost(1e9),
       Flag("exact", "exact test", "exact test of the discordant pairs in place of the large-sample test"),
       Flag("one-sided", "one-sided test", "test in the direction of the difference only"),
-      Flag("correction", "continuity correction", "correct the interval for continuity"),
+      Flag("correction", "continuity correction", "correct the interval for continuity").Alias("continuity-correction"),
       OneOf("interval-method", "interval", "confidence interval of the difference",
             {{"wald", CodeOf(RelatedMethod::Wald), "Wald"},
              {"agresti-min", CodeOf(RelatedMethod::AgrestiMin), "Agresti-Min"},
@@ -217,8 +219,18 @@ bool CorrectsWhatCanBe(const Inputs& in) {
   return !in.Flag("correction") || in.Choice("interval-method") == CodeOf(RelatedMethod::Wald);
 }
 
+/// An interval can be asked for without them: there it is the difference that is estimated.
+bool HasDiscordantPairs(const Inputs& in) {
+  if (in.Has("half-width") || in.Flag("interval")) return true;
+  return in.Number("p12") > 0 || in.Number("p21") > 0;
+}
+
 std::vector<Condition> Conditions() {
   return {
+      {.code = "no-discordant-pairs",
+       .about = {"p12", "p21"},
+       .holds = HasDiscordantPairs,
+       .sentence = "{p12} and {p21} are both 0: the test goes by the discordant pairs, and there would be none."},
       {.code = "discordant-sum",
        .about = {"p12", "p21"},
        .holds = [](const Inputs& in) { return in.Number("p12") + in.Number("p21") <= 1; },
@@ -265,11 +277,32 @@ Test PairedProportionsTest() {
        .label = "significance level attained",
        .needs = {"p12", "p21", "n", "exact"},
        .call = AttainedLevel},
+      {.name = "attained-level",
+       .label = "significance level attained",
+       .needs = {"proportion1", "proportion2", "correlation", "n", "exact"},
+       .call = AttainedLevel},
+      {.name = "p12",
+       .label = "first kind of discordant pairs",
+       .needs = {"proportion1", "proportion2", "correlation"},
+       .call = [](const Inputs& in) { return PairsOf(in).p12; }},
+      {.name = "p21",
+       .label = "second kind of discordant pairs",
+       .needs = {"proportion1", "proportion2", "correlation"},
+       .call = [](const Inputs& in) { return PairsOf(in).p21; }},
       {.name = "lasting-n",
        .label = "from here on every sample size reaches the power",
        .needs = {"p12", "p21", "exact", "power"},
        .call = LastingSize},
   };
+  test.assumptions = {{.name = "tails",
+                       .label = "tails of the test",
+                       .needs = {"exact", "one-sided"},
+                       .call = [](const Inputs& in) -> std::string {
+                         if (!in.Flag("exact") || in.Flag("one-sided")) return "";
+                         return "at most half of the level in each tail";
+                       },
+                       .wording = ", with <0>,"}};
+  test.largestExactSearch = kelpower::largestCount;
   test.charts = ChartsOfPairedProportions();
   AddWordsOfPairedProportions(test);
   return WithCommonParameters(std::move(test));

@@ -18,8 +18,8 @@ Details OfHalfWidth(const Inputs& in) {
   const auto method = RelatedMethod(in.Choice("interval-method"));
   Details details;
   AddIntervalZ(details, in);
-  details.value = proportions::RelatedInterval({method, PairsOf(in), in.Alpha(), in.Flag("correction")})
-                      .HalfWidth(in.Number("n"));
+  details.value =
+      proportions::RelatedInterval({method, PairsOf(in), in.Alpha(), in.Flag("correction")}).HalfWidth(in.Number("n"));
   const std::string variance = "z sqrt(p12 + p21 - (p12 - p21)^2) / sqrt(n), z = {quantile-z}";
   switch (method) {
     case RelatedMethod::Wald:
@@ -70,10 +70,12 @@ void AddNormal(Details& details, const proportions::McNemarTest& test, const pro
 void AddExact(Details& details, proportions::McNemarTest& test, const proportions::DiscordantPairs& pairs,
               const Inputs& in) {
   details.Add("attained-level", "significance level attained", OrNaN(test.AttainedLevel(in.Number("n"), pairs)));
-  details.formula = "power = the mean, over the binomial number m of discordant pairs among {n}, of the power of the "
-                    "sign test of m pairs";
-  details.source = std::string("Miettinen (1968), Biometrics 24, 339-352; each tail of the sign test rejects at most ") +
-                   (in.Flag("one-sided") ? "alpha" : "alpha / 2");
+  details.formula =
+      "power = the mean, over the binomial number m of discordant pairs among {n}, of the power of the "
+      "sign test of m pairs";
+  details.source =
+      std::string("Miettinen (1968), Biometrics 24, 339-352; each tail of the sign test rejects at most ") +
+      (in.Flag("one-sided") ? "alpha" : "alpha / 2");
   details.equivalents = {{.program = "SAS",
                           .call = "proc power; pairedfreq test=mcnemar dist=exact_cond "
                                   "discproportions={p12-expected}|{p21-expected} sides={sides} alpha={alpha} "
@@ -82,9 +84,9 @@ void AddExact(Details& details, proportions::McNemarTest& test, const proportion
   details.equivalents.insert(
       details.equivalents.begin(),
       {.program = "R",
-       .call = "{ m <- 1:{n}; k <- qbinom({alpha}, m, 0.5); k <- k - (pbinom(k, m, 0.5) > {alpha}); sum(dbinom(m, {n}, "
-               "{p12-expected} + {p21-expected}) * pbinom(k, m, min({p12-expected}, {p21-expected}) / ({p12-expected} + "
-               "{p21-expected}))) }",
+       .call = "sum(sapply(1:{n}, function(m) dbinom(m, {n}, {proportion-discordant}) * pbinom(qbinom({alpha}, m, 0.5) "
+               "- (pbinom(qbinom({alpha}, m, 0.5), m, 0.5) > {alpha}), m, min({p12-expected}, {p21-expected}) / "
+               "{proportion-discordant})))",
        .remark = "the formula, pair by pair"});
 }
 

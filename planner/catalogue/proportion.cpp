@@ -6,6 +6,7 @@
 #include "catalogue/core.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
+#include "frame/counts.h"
 #include "proportions/lasting_size.h"
 #include "proportions/one_sample_interval.h"
 #include "proportions/one_sample_tests.h"
@@ -15,6 +16,8 @@ namespace {
 
 namespace proportions = kelpower::proportions;
 using proportions::OneSampleMethod;
+
+using kelpower::largestCount;
 
 proportions::OneSampleDesign DesignOf(const Inputs& in) {
   return {in.Flag("exact"), in.Flag("one-sided"), in.Alpha(), in.Flag("correction")};
@@ -92,7 +95,8 @@ std::vector<Parameter> Parameters() {
       Number("n", "sample size", "number of observations").Whole().AtLeast(1).AtMost(1e9),
       Flag("exact", "exact test", "exact binomial test in place of the normal approximation"),
       Flag("one-sided", "one-sided test", "test in the direction of the proportion expected only"),
-      Flag("correction", "continuity correction", "correct the normal approximation for continuity"),
+      Flag("correction", "continuity correction", "correct the normal approximation for continuity")
+          .Alias("continuity-correction"),
       OneOf("interval-method", "interval", "confidence interval of the proportion",
             {{"wald", CodeOf(OneSampleMethod::Wald), "Wald"},
              {"adjusted-logit", CodeOf(OneSampleMethod::LogitAdjusted), "adjusted logit"},
@@ -274,6 +278,15 @@ Test ProportionTest() {
            "The proportion expected is the null proportion: without an effect, no sample size reaches the power."},
   };
   test.derived = DerivedFigures();
+  test.assumptions = {{.name = "tails",
+                       .label = "tails of the test",
+                       .needs = {"exact", "one-sided"},
+                       .call = [](const Inputs& in) -> std::string {
+                         if (!in.Flag("exact") || in.Flag("one-sided")) return "";
+                         return "at most half of the level in each tail";
+                       },
+                       .wording = ", with <0>,"}};
+  test.largestExactSearch = largestCount;
   test.charts = Charts();
   AddWordsOfProportion(test);
   return WithCommonParameters(std::move(test));

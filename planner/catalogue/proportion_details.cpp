@@ -23,8 +23,9 @@ IntervalWords WordsOf(OneSampleMethod method, bool isCorrected) {
               "Agresti (2013), Categorical Data Analysis, 3rd ed., section 1.4",
               "qnorm(1 - {alpha} / 2) * sqrt({proportion} * (1 - {proportion}) / {n})"};
     case OneSampleMethod::Wilson:
-      if (isCorrected) return {"half the length of Wilson's interval with continuity correction, z = {quantile-z}",
-                               "Newcombe (1998), Statistics in Medicine 17, 857-872"};
+      if (isCorrected)
+        return {"half the length of Wilson's interval with continuity correction, z = {quantile-z}",
+                "Newcombe (1998), Statistics in Medicine 17, 857-872"};
       return {"z sqrt(n) sqrt(p (1 - p) + z^2 / (4 n)) / (n + z^2), z = {quantile-z}, p = {proportion}, n = {n}",
               "Wilson (1927), Journal of the American Statistical Association 22, 209-212",
               "diff(prop.test({proportion} * {n}, {n}, conf.level = 1 - {alpha}, correct = FALSE)$conf.int) / 2"};
@@ -70,9 +71,11 @@ Details OfExactTest(proportions::OneSampleTest& test, const proportions::OneSamp
   details.Add("attained-level", "significance level attained", test.AttainedLevel(n, expected));
   details.formula =
       "power = P(X <= {rejects-to}) + P(X >= {rejects-from}), X binomial with n = {n} and p = {proportion}";
-  details.source = "Cohen (1988), chapter 6; each tail rejects at most " + std::string(in.Flag("one-sided") ? "alpha" : "alpha / 2");
-  const char* const balance = "each tail takes alpha / 2; the two-sided p-value of binom.test adds the counts that are "
-                              "no more probable than the observed one instead";
+  details.source =
+      "Cohen (1988), chapter 6; each tail rejects at most " + std::string(in.Flag("one-sided") ? "alpha" : "alpha / 2");
+  const char* const balance =
+      "each tail takes alpha / 2; the two-sided p-value of binom.test adds the counts that are "
+      "no more probable than the observed one instead";
   details.equivalents = {
       {.program = "R",
        .call = "pbinom({rejects-to}, {n}, {proportion}) + pbinom({rejects-from} - 1, {n}, {proportion}, lower.tail = "

@@ -52,6 +52,7 @@ std::vector<Parameter> Parameters() {
           .AtLeast(0)
           .Below(1),
       Number("effect-f2", "effect size f2", "variance explained by the tested predictors over the unexplained one")
+          .Alias("f2")
           .AtLeast(0)
           .AtMost(1e3),
       Number("predictors", "predictors", "number of predictors in the model").Whole().AtLeast(1).AtMost(mostPredictors),

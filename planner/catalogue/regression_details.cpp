@@ -13,9 +13,11 @@ regression::Effect EffectOf(const Inputs& in) {
 }
 
 void AddRandom(Details& details) {
-  details.formula = "power = P(F > {critical-f}) over the distribution of the squared multiple correlation at rho^2 = "
-                    "{rho-squared}";
-  details.source = "Gatsonis and Sampson (1989), Psychological Bulletin 106, 516-524; Lee (1972), Biometrika 59, 175-189";
+  details.formula =
+      "power = P(F > {critical-f}) over the distribution of the squared multiple correlation at rho^2 = "
+      "{rho-squared}";
+  details.source =
+      "Gatsonis and Sampson (1989), Psychological Bulletin 106, 516-524; Lee (1972), Biometrika 59, 175-189";
   details.equivalents.push_back(
       {.program = "G*Power",
        .call = "Exact > Linear multiple regression: Random model; H1 rho^2 {rho-squared}, H0 rho^2 0, alpha {alpha}, "
@@ -24,17 +26,18 @@ void AddRandom(Details& details) {
 }
 
 void AddFixed(Details& details, bool allTested, bool hasIntercept) {
-  details.formula = "noncentrality = n f^2 = {n} x {f-squared}; " + details.formula.substr(details.formula.find("power"));
-  details.source = "Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., chapter 9, with the "
-                   "noncentrality n f^2";
+  details.formula =
+      "noncentrality = n f^2 = {n} x {f-squared}; " + details.formula.substr(details.formula.find("power"));
+  details.source =
+      "Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., chapter 9, with the "
+      "noncentrality n f^2";
   auto& programs = details.equivalents;
   const bool isSame = allTested && hasIntercept;
-  programs.push_back(
-      {.program = "pwr",
-       .call = "pwr.f2.test(u = {df1}, v = {df2}, f2 = {f-squared}, sig.level = {alpha})$power",
-       .isSame = isSame,
-       .remark = isSame ? "the noncentrality is (u + v + 1) f^2, which is n f^2 here"
-                        : "takes the noncentrality (u + v + 1) f^2 in place of n f^2"});
+  programs.push_back({.program = "pwr",
+                      .call = "pwr.f2.test(u = {df1}, v = {df2}, f2 = {f-squared}, sig.level = {alpha})$power",
+                      .isSame = isSame,
+                      .remark = isSame ? "the noncentrality is (u + v + 1) f^2, which is n f^2 here"
+                                       : "takes the noncentrality (u + v + 1) f^2 in place of n f^2"});
   programs.push_back({.program = "R",
                       .call = "pf(qf(1 - {alpha}, {df1}, {df2}), {df1}, {df2}, {noncentrality}, lower.tail = FALSE)",
                       .remark = "the formula, from the noncentrality on"});

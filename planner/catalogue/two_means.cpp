@@ -240,6 +240,13 @@ Test TwoMeansTest() {
       {.name = "effect-d", .label = "effect size d", .needs = {"means", "sd"}, .call = EffectSize},
       {.name = "effect-d", .label = "effect size d", .needs = {"mean-difference", "sd"}, .call = EffectSize},
   };
+  test.assumptions = {
+      {.name = "variances",
+       .label = "variances",
+       .needs = {"sd"},
+       .call =
+           [](const Inputs& in) { return std::string(SpreadsOf(in).isPooled ? "pooled" : "unequal, Welch's test"); },
+       .wording = " (variances <0>)"}};
   test.charts = Charts();
   AddWordsOfTwoMeans(test);
   return WithCommonParameters(std::move(test));

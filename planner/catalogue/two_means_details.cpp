@@ -75,8 +75,8 @@ void AddPooledPrograms(Details& details, const Inputs& in) {
 void AddSas(Details& details, const Inputs& in) {
   const bool isPooled = SpreadsOf(in).isPooled;
   if (!in.Has("means")) return;
-  const std::string sizes = in.List("n")[0] == in.List("n")[1] ? "npergroup={n-or-dot} power={power-or-dot}"
-                                                               : "groupns={n|} power=.";
+  const std::string sizes =
+      in.List("n")[0] == in.List("n")[1] ? "npergroup={n-or-dot} power={power-or-dot}" : "groupns={n|} power=.";
   details.equivalents.push_back(
       {.program = "SAS",
        .call = std::string("proc power; twosamplemeans ") +
@@ -84,8 +84,9 @@ void AddSas(Details& details, const Inputs& in) {
                          : "test=diff_satt groupmeans={means|} groupstddevs={sd|}") +
                " sides={sides} alpha={alpha} " + sizes + "; run;",
        .isSame = isPooled,
-       .remark = isPooled ? "" : "averages over the degrees of freedom that the data will give, which are taken here at "
-                                 "the standard deviations expected"});
+       .remark = isPooled ? ""
+                          : "averages over the degrees of freedom that the data will give, which are taken here at "
+                            "the standard deviations expected"});
 }
 
 }  // namespace
@@ -111,11 +112,10 @@ Details DetailsOfTwoMeans(Question question, const Inputs& in) {
   if (spreads.isPooled) {
     AddPooledPrograms(details, in);
   } else {
-    details.equivalents.push_back(
-        {.program = "G*Power",
-         .call = "t tests > Means: Difference between two independent means (two groups)",
-         .isSame = false,
-         .remark = "always pools the standard deviations"});
+    details.equivalents.push_back({.program = "G*Power",
+                                   .call = "t tests > Means: Difference between two independent means (two groups)",
+                                   .isSame = false,
+                                   .remark = "always pools the standard deviations"});
   }
   AddSas(details, in);
   return details;

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "frame/stop.h"
 #include "model/chart.h"
 #include "model/inputs.h"
 #include "model/test.h"
@@ -20,6 +21,10 @@ bool IsExact(const Inputs& in);
 /// The proportions, whichever way their difference is given.
 double FirstProportion(const Inputs& in);
 double SecondProportion(const Inputs& in);
+
+/// The stop request of the conditional test. The other exact tests ask it once a table, which takes up to some hundred
+/// times as long as their power; they end in a tenth of a second without it.
+kelpower::Stop StopOfTables(const Inputs& in);
 
 /// The proportion of all observations together, which an exact test's attained level is taken at.
 double CommonProportion(const Inputs& in);

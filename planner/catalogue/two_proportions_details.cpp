@@ -41,12 +41,12 @@ Words WordsOf(IndependentMethod method) {
 
 Details OfHalfWidth(const Inputs& in) {
   const auto method = IndependentMethod(in.Choice("interval-method"));
-  const bool isCorrected = in.Flag("continuity-correction");
+  const bool isCorrected = in.Flag("correction");
   Details details;
   AddIntervalZ(details, in);
-  details.value = proportions::IndependentInterval(
-                      {method, FirstProportion(in), SecondProportion(in), in.Alpha(), isCorrected})
-                      .HalfWidth(in.List("n")[0], in.List("n")[1]);
+  details.value =
+      proportions::IndependentInterval({method, FirstProportion(in), SecondProportion(in), in.Alpha(), isCorrected})
+          .HalfWidth(in.List("n")[0], in.List("n")[1]);
   const Words words = WordsOf(method);
   details.formula = std::string("half-width = ") + words.formula + ", z = {quantile-z}" +
                     (isCorrected ? ", corrected for continuity" : "");
@@ -68,7 +68,7 @@ void AddZ(Details& details, const proportions::LargeSampleTest& test, const Inpu
               FirstProportion(in) - SecondProportion(in));
   details.Add("null-error", in.Flag("pooled") ? "standard error, pooled" : "standard error, unpooled", of.nullError);
   details.Add("error", "standard error at the proportions expected", of.error);
-  const bool isCorrected = in.Flag("continuity-correction");
+  const bool isCorrected = in.Flag("correction");
   if (isCorrected) details.Add("correction", "continuity correction", of.correction);
   const std::string c = isCorrected ? " - {correction}" : "";
   const std::string above = "(({difference}) - {null-error} * {critical-z}" + c + ") / {error}";
@@ -104,14 +104,12 @@ void AddZ(Details& details, const proportions::LargeSampleTest& test, const Inpu
 
 void AddArcsine(Details& details, const proportions::LargeSampleTest& test, const Inputs& in) {
   AddCriticalZ(details, test.CriticalZ());
-  details.Add("shift", "mean of the statistic",
-              test.Noncentrality(FirstProportion(in), SecondProportion(in)));
+  details.Add("shift", "mean of the statistic", test.Noncentrality(FirstProportion(in), SecondProportion(in)));
   const std::string above = "pnorm(({shift}) - {critical-z})";
   const std::string below = "pnorm(-({shift}) - {critical-z})";
   const bool isAbove = FirstProportion(in) < SecondProportion(in);
   const std::string call = in.Flag("one-sided") ? (isAbove ? above : below) : above + " + " + below;
-  details.formula = std::string("power = ") +
-                    (in.Flag("one-sided") ? "Phi(|m| - z)" : "Phi(m - z) + Phi(-m - z)") +
+  details.formula = std::string("power = ") + (in.Flag("one-sided") ? "Phi(|m| - z)" : "Phi(m - z) + Phi(-m - z)") +
                     ", m = {shift}, z = {critical-z}; m compares arcsines of roots of the proportions, each moved "
                     "towards the other by 1 / (2 n)";
   details.source = "Walters (1979), Journal of the Royal Statistical Society D 28, 115-122, of Cohen (1988), chapter 6";
@@ -148,8 +146,9 @@ void AddLikelihoodRatio(Details& details, const proportions::LargeSampleTest& te
 void AddExact(Details& details, const Inputs& in) {
   details.formula = "power = the sum of the probabilities of all tables that the test rejects";
   if (!IsConditional(in)) {
-    details.source = "Agresti (2013), Categorical Data Analysis, 3rd ed., section 3.5: binomial probabilities of the "
-                     "tables, rejected by the large-sample critical value";
+    details.source =
+        "Agresti (2013), Categorical Data Analysis, 3rd ed., section 3.5: binomial probabilities of the "
+        "tables, rejected by the large-sample critical value";
     return;
   }
   details.source = std::string("Fisher (1935), The Design of Experiments, section 15; each tail rejects at most ") +
@@ -175,12 +174,12 @@ double CommonProportion(const Inputs& in) {
 }
 
 double AttainedLevelOfTwoProportions(const Inputs& in) {
-  const proportions::IndependentDesign design{TestOf(in),           IsExact(in), in.Flag("one-sided"), in.Alpha(),
-                                              in.Flag("continuity-correction"), in.Flag("pooled")};
+  const proportions::IndependentDesign design{TestOf(in), IsExact(in),           in.Flag("one-sided"),
+                                              in.Alpha(), in.Flag("correction"), in.Flag("pooled")};
   if (!design.isExact) return OrNaN(kelpower::NoValue::Refused);
   const auto alternative = proportions::AlternativeOf(design, FirstProportion(in), SecondProportion(in));
   proportions::IndependentPower power(design, in.List("n")[0], in.List("n")[1]);
-  return OrNaN(power.AttainedLevel(alternative, CommonProportion(in), StopOf(in)));
+  return OrNaN(power.AttainedLevel(alternative, CommonProportion(in), StopOfTables(in)));
 }
 
 Details DetailsOfTwoProportions(Question question, const Inputs& in) {
@@ -195,8 +194,8 @@ Details DetailsOfTwoProportions(Question question, const Inputs& in) {
   }
   const double n1 = in.List("n")[0];
   const double n2 = in.List("n")[1];
-  const proportions::IndependentDesign design{TestOf(in),           IsExact(in), in.Flag("one-sided"), in.Alpha(),
-                                              in.Flag("continuity-correction"), in.Flag("pooled")};
+  const proportions::IndependentDesign design{TestOf(in), IsExact(in),           in.Flag("one-sided"),
+                                              in.Alpha(), in.Flag("correction"), in.Flag("pooled")};
   details.Add("p1", "first proportion", p1);
   details.Add("p2", "second proportion", p2);
   if (design.isExact) {
@@ -218,7 +217,7 @@ Details DetailsOfTwoProportions(Question question, const Inputs& in) {
       case TwoProportionTest::Conditional: break;
     }
   }
-  details.value = OrNaN(proportions::IndependentPower(design, n1, n2).At(p1, p2, StopOf(in)));
+  details.value = OrNaN(proportions::IndependentPower(design, n1, n2).At(p1, p2, StopOfTables(in)));
   return details;
 }
 

@@ -24,13 +24,8 @@ constexpr double largestExactSearch = 5000;
 constexpr double largestExactPower = 0.9999;
 
 proportions::IndependentDesign DesignOf(const Inputs& in) {
-  return {TestOf(in),       IsExact(in), in.Flag("one-sided"), in.Alpha(), in.Flag("continuity-correction"),
-          in.Flag("pooled")};
+  return {TestOf(in), IsExact(in), in.Flag("one-sided"), in.Alpha(), in.Flag("correction"), in.Flag("pooled")};
 }
-
-/// The stop request of the conditional test. The other exact tests ask it once a table, which takes up to some hundred
-/// times as long as their power; they end in a tenth of a second without it.
-kelpower::Stop StopOfTables(const Inputs& in) { return IsConditional(in) ? StopOf(in) : kelpower::Stop(); }
 
 /// The power; designs that differ in their proportions alone share the test, which keeps its rejection region.
 class PowerOfTwoProportions {
@@ -79,7 +74,7 @@ bool IsShortSearch(const Inputs& in) {
 
 proportions::IndependentInterval IntervalOf(const Inputs& in) {
   return proportions::IndependentInterval({IndependentMethod(in.Choice("interval-method")), FirstProportion(in),
-                                           SecondProportion(in), in.Alpha(), in.Flag("continuity-correction")});
+                                           SecondProportion(in), in.Alpha(), in.Flag("correction")});
 }
 
 double HalfWidth(const Inputs& in) { return IntervalOf(in).HalfWidth(in.List("n")[0], in.List("n")[1]); }
@@ -94,6 +89,11 @@ bool HasSecond(const Inputs& in) { return SecondProportion(in) > 0 && SecondProp
 
 bool ExactWhereItCanBe(const Inputs& in) { return !in.Flag("exact") || TestOf(in) != TwoProportionTest::Arcsine; }
 
+/// The exact likelihood-ratio test counts the tables of both directions.
+bool HasDirection(const Inputs& in) {
+  return !in.Flag("one-sided") || !in.Flag("exact") || TestOf(in) != TwoProportionTest::LikelihoodRatio;
+}
+
 bool PooledWhereItCanBe(const Inputs& in) {
   if (!in.Flag("pooled") || TestOf(in) == TwoProportionTest::T) return true;
   return TestOf(in) == TwoProportionTest::Z && !IsExact(in);
@@ -102,11 +102,11 @@ bool PooledWhereItCanBe(const Inputs& in) {
 bool AsksForInterval(const Inputs& in) { return in.Has("half-width") || in.Flag("interval"); }
 
 bool CorrectsATestThatCanBe(const Inputs& in) {
-  return AsksForInterval(in) || !in.Flag("continuity-correction") || TestOf(in) == TwoProportionTest::Z;
+  return AsksForInterval(in) || !in.Flag("correction") || TestOf(in) == TwoProportionTest::Z;
 }
 
 bool CorrectsAnIntervalThatCanBe(const Inputs& in) {
-  if (!AsksForInterval(in) || !in.Flag("continuity-correction")) return true;
+  if (!AsksForInterval(in) || !in.Flag("correction")) return true;
   const auto method = IndependentMethod(in.Choice("interval-method"));
   return method == IndependentMethod::Wald || method == IndependentMethod::Newcombe;
 }
@@ -128,9 +128,11 @@ bool LeavesArcsineItsCorrection(const Inputs& in) {
 
 }  // namespace
 
+kelpower::Stop StopOfTables(const Inputs& in) { return IsConditional(in) ? StopOf(in) : kelpower::Stop(); }
+
 std::vector<Route> RoutesOfTwoProportions() {
   const Names testing = OptionsOfTwoProportions();
-  const Names interval{"interval-method", "continuity-correction"};
+  const Names interval{"interval-method", "correction"};
   std::vector<Route> routes;
   for (const Names& effect : EffectsOfTwoProportions()) {
     routes.push_back({.question = Question::Power,
@@ -166,21 +168,21 @@ std::vector<Unknown> UnknownsOfTwoProportions() {
        .trend = Trend::Rises,
        .reason = reason,
        .piece = [](const Inputs& in) -> Piece {
-         return {0, in.Number("proportion1")};
+         return {0, 1 - in.Number("proportion1")};
        },
        .pieceBelow = [](const Inputs& in) -> Piece {
-         return {in.Number("proportion1") - 1, 0};
+         return {-in.Number("proportion1"), 0};
        },
        .isUneven = IsExact},
       {.input = "risk-ratio",
        .target = Question::Power,
        .trend = Trend::Rises,
        .reason = reason,
-       .piece = [](const Inputs&) -> Piece {
-         return {1, infinity};
+       .piece = [](const Inputs& in) -> Piece {
+         return {1, 1 / in.Number("proportion1")};
        },
-       .pieceBelow = [](const Inputs& in) -> Piece {
-         return {in.Number("proportion1"), 1};
+       .pieceBelow = [](const Inputs&) -> Piece {
+         return {0, 1};
        },
        .isUneven = IsExact},
       {.input = "odds-ratio",
@@ -212,23 +214,28 @@ std::vector<Condition> ConditionsOfTwoProportions() {
        .about = {"proportion1", "odds-ratio"},
        .holds = HasSecond,
        .sentence = "{odds-ratio} puts the second proportion at 0 or 1."},
+      {.code = "one-sided-likelihood-ratio",
+       .about = {"method", "exact", "one-sided"},
+       .holds = HasDirection,
+       .sentence = "{one-sided} does not go with {exact} and {method} likelihood-ratio: the statistic has no sign, so "
+                   "that tables of both directions would be rejected; {method} z or conditional has a direction."},
       {.code = "exact-arcsine",
-       .about = {"exact", "test"},
+       .about = {"exact", "method"},
        .holds = ExactWhereItCanBe,
-       .sentence = "{exact} does not go with {test} arcsine: its exact form is {test} conditional."},
+       .sentence = "{exact} does not go with {method} arcsine: its exact form is {method} conditional."},
       {.code = "pooled-test",
-       .about = {"pooled", "test", "exact"},
+       .about = {"pooled", "method", "exact"},
        .holds = PooledWhereItCanBe,
        .sentence =
            "{pooled} goes with the t test and the large-sample z test only; the exact z test is always pooled."},
       {.code = "corrected-test",
-       .about = {"continuity-correction", "test"},
+       .about = {"correction", "method"},
        .holds = CorrectsATestThatCanBe,
-       .sentence = "{continuity-correction} goes with the z test only."},
+       .sentence = "{correction} goes with the z test only."},
       {.code = "corrected-interval",
-       .about = {"continuity-correction", "interval-method"},
+       .about = {"correction", "interval-method"},
        .holds = CorrectsAnIntervalThatCanBe,
-       .sentence = "{continuity-correction} goes with the intervals wald and newcombe only."},
+       .sentence = "{correction} goes with the intervals wald and newcombe only."},
       {.code = "exact-size",
        .about = {"n"},
        .holds = CanCountTables,

@@ -30,6 +30,16 @@ struct Derived {
   double (*call)(const Inputs&);
 };
 
+/// What an answer takes for granted in words, such as "pooled". Shown when its inputs are asked for and it says
+/// something; a sentence names it in braces.
+struct Assumption {
+  std::string name;
+  std::string label;
+  Names needs;
+  std::string (*call)(const Inputs&);
+  std::string wording = "<0>";  // in a sentence, around the words
+};
+
 /// Words of a sentence that depend on which input was given: the first of `wordings` whose input has a value.
 struct Phrase {
   struct Wording {
@@ -70,9 +80,12 @@ struct Test {
   std::vector<Condition> conditions = {};
   std::vector<Condition> sizeExists = {};  // when one fails no sample size reaches a power
   std::vector<Derived> derived = {};
+  std::vector<Assumption> assumptions = {};
   std::vector<Phrase> phrases = {};
   std::vector<ReportSentence> sentences = {};
   std::vector<Example> examples = {};
+  std::string whenNot = {};       // what the test is not for, and which one is
+  double largestExactSearch = 0;  // of an exact test: the size at which its search ends; 0 where there is no such end
   std::vector<Chart> charts = {};
   /// What is behind the answer of a question, from the inputs at the sizes given or found.
   Details (*details)(Question question, const Inputs& atSizes) = nullptr;

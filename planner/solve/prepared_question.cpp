@@ -183,6 +183,9 @@ void PreparedQuestion::RejectUnanswered() {
     problem.code = Code::SizesNotFound;
     problem.inputs = Texts({*AskedBy(question)});
     problem.values = {inputs_.Number(*AskedBy(question))};
+    if (test_.largestExactSearch > 0 && inputs_.Has("exact") && inputs_.Flag("exact")) {
+      problem.values.emplace_back(test_.largestExactSearch);
+    }
   }
   if (unknown_) {
     Inputs inputs = inputs_;

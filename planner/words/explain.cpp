@@ -29,6 +29,13 @@ std::string ForReading(double number) {
   return few.size() < all.size() ? few : all;
 }
 
+/// Fifteen digits, which hide the rounding of the last one: 0.3 x 1.5 is 0.45.
+std::string ForPrograms(double number) {
+  const std::string all = Shortest(number);
+  const std::string few = fmt::format("{:.15g}", number);
+  return few.size() < all.size() ? few : all;
+}
+
 /// Fills the braces of formulas and calls.
 class Filled {
 public:
@@ -36,7 +43,7 @@ public:
       : answer_(answer), inputs_(inputs), details_(details) {}
 
   std::string Formula(const std::string& text) const { return Of(text, ForReading); }
-  std::string Call(const std::string& text) const { return Of(text, Shortest); }
+  std::string Call(const std::string& text) const { return Of(text, ForPrograms); }
 
 private:
   using Digits = std::string (*)(double);
@@ -131,6 +138,8 @@ std::string RemarkOf(const ProgramCall& program) {
 }
 
 }  // namespace
+
+Details DetailsOf(const Answer& answer) { return answer.test->details(answer.Asked(), AtSizes(answer)); }
 
 Explanation Explain(const Answer& answer) {
   const Inputs inputs = AtSizes(answer);

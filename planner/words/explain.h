@@ -32,6 +32,9 @@ struct Explanation {
   std::vector<ProgramCall> programs;
 };
 
+/// The figures as they are, at the sizes given or found.
+Details DetailsOf(const Answer& answer);
+
 Explanation Explain(const Answer& answer);
 
 /// The explanation below a report, as text and as Markdown.

@@ -163,10 +163,13 @@ std::string Text(const Json& json) { return json.dump(2, ' ', false, Json::error
 }  // namespace
 
 std::string RenderJson(const Report& report) {
+  constexpr int schemaVersion = 1;  // grows when a field changes its name or meaning
   Json object;
+  object["schema-version"] = schemaVersion;
   object["test"] = report.test->name;
   object["question"] = TextOf(report.question);
   object["inputs"] = ToJson(report.inputs);
+  if (!report.assumptions.empty()) object["assumptions"] = ToJson(report.assumptions);
   object["results"] = ToJson(report.results);
   object["sentence"] = report.sentence;
   if (!report.note.empty()) object["note"] = report.note;

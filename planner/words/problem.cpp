@@ -110,7 +110,8 @@ std::string Words::TooLarge() const {
 }
 
 std::string Words::SizesNotFound() const {
-  return fmt::format("No sample size was found that reaches a {} of {}.", problem_.inputs[0], Figure(0));
+  const std::string end = problem_.values.size() > 1 ? " up to " + Figure(1) : "";
+  return fmt::format("No sample size{} was found that reaches a {} of {}.", end, problem_.inputs[0], Figure(0));
 }
 
 std::string Words::NothingUnknown() const {
@@ -188,7 +189,8 @@ std::string Words::Sentence() const {
   switch (problem_.code) {
     case Code::NotAnInput: return fmt::format("{} is not an option of {}.", Input(0), problem_.words[0]);
     case Code::NotAllowed:
-      return fmt::format("{} is {}, but must be {}.", Input(0), Given(problem_.values[0]), Allowed(*problem_.allowed));
+      return fmt::format("{} is {}, but must be {}{}.", Input(0), Given(problem_.values[0]), Allowed(*problem_.allowed),
+                         problem_.words.empty() ? "" : ": write " + problem_.words[0]);
     case Code::UselessAlone:
       return fmt::format("{} has a use only together with {}.", Input(0), Joined(Inputs(1), " or "));
     case Code::AsksSomethingElse:

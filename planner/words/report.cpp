@@ -14,6 +14,7 @@ namespace {
 
 std::string ShownPower(double power) {
   if (power > 0.99995) return ">0.9999";
+  if (power == 0) return "0";
   if (power < 0.00005) return "<0.0001";
   return fmt::format("{:.4f}", power);
 }
@@ -81,7 +82,27 @@ private:
     for (const Phrase& phrase : test_.phrases) {
       if (phrase.name == name) return OfPhrase(phrase);
     }
-    return OfInput(name);
+    for (const Assumption& assumption : test_.assumptions) {
+      if (assumption.name == name) return OfAssumption(assumption);
+    }
+    const std::string input = OfInput(name);
+    return input.empty() ? OfDerived(name) : input;
+  }
+
+  /// The figure of that name, which a sentence may tell beside the inputs that it follows from.
+  std::string OfDerived(std::string_view name) const {
+    for (const auto& [derived, figure] : answer_.derived) {
+      if (derived->name == name) return fmt::format("{:.4g}", figure);
+    }
+    return "";
+  }
+
+  std::string OfAssumption(const Assumption& assumption) const {
+    const auto has = [&](Name need) { return inputs_.Has(need); };
+    if (!std::all_of(assumption.needs.begin(), assumption.needs.end(), has)) return "";
+    const std::string words = assumption.call(inputs_);
+    std::string text = assumption.wording;
+    return words.empty() ? "" : text.replace(text.find("<0>"), 3, words);
   }
 
   bool IsSet(std::string_view name) const {
@@ -124,11 +145,31 @@ std::vector<Entry> InputEntries(const Answer& answer) {
   for (const Parameter& parameter : answer.test->parameters) {
     const Name name = parameter.name;
     if (!answer.inputs.Has(name)) continue;
-    if (parameter.shownOnlySet && !answer.inputs.Flag(name)) continue;
     if (answer.unknown && name == answer.unknown->input) continue;
     if (!route.Takes(name) && !IsTarget(answer, name) && name != Name("alpha")) continue;
     const Value value = answer.inputs.ValueOf(parameter);
-    entries.push_back({std::string(name.Text()), parameter.label, value, Shown(value)});
+    const bool isUnset = parameter.kind == Kind::Flag && !answer.inputs.Flag(name);
+    entries.push_back({std::string(name.Text()), parameter.label, value, Shown(value), isUnset});
+  }
+  return entries;
+}
+
+bool IsTaken(const Answer& answer, const Names& needs) {
+  return std::all_of(needs.begin(), needs.end(),
+                     [&](Name name) { return answer.inputs.Has(name) && answer.route->Takes(name); });
+}
+
+std::string Confidence(const Inputs& inputs) { return fmt::format("{:.10g}%", 100 * (1 - inputs.Alpha())); }
+
+std::vector<Entry> AssumptionEntries(const Answer& answer) {
+  std::vector<Entry> entries;
+  for (const Assumption& assumption : answer.test->assumptions) {
+    if (!IsTaken(answer, assumption.needs)) continue;
+    const std::string words = assumption.call(answer.inputs);
+    if (!words.empty()) entries.push_back({assumption.name, assumption.label, words, words});
+  }
+  if (!IsAboutPower(answer.Asked())) {
+    entries.push_back({"confidence", "confidence", Confidence(answer.inputs), Confidence(answer.inputs)});
   }
   return entries;
 }
@@ -183,6 +224,23 @@ std::string WordingOf(const std::vector<Note>& notes) {
   return Joined(sentences, " ", " ");
 }
 
+/// What is odd about a level or a power, as percentages and slips of the pen make it.
+std::string OddLevels(const Answer& answer) {
+  constexpr double oddLevel = 0.5;
+  constexpr double rounding = 1e-9;
+  if (answer.inputs.Alpha() >= oddLevel) {
+    return fmt::format("A significance level of {} rejects more often than not without any effect.",
+                       Shortest(answer.inputs.Alpha()));
+  }
+  const bool isLow = IsAboutPower(answer.Asked()) && answer.value <= answer.inputs.Alpha() * (1 + rounding);
+  return isLow ? "The power is not above the significance level: the test would reject as often without any effect."
+               : "";
+}
+
+std::string BothNotes(const std::string& first, const std::string& second) {
+  return first + (first.empty() || second.empty() ? "" : " ") + second;
+}
+
 }  // namespace
 
 Report MakeReport(const Answer& answer) {
@@ -190,9 +248,10 @@ Report MakeReport(const Answer& answer) {
           .question = answer.Asked(),
           .exportName = answer.route->ExportFor(answer.inputs),
           .inputs = InputEntries(answer),
+          .assumptions = AssumptionEntries(answer),
           .results = ResultEntries(answer),
           .sentence = Words(answer).Of(SentenceOf(*answer.test, answer.Asked())),
-          .note = WordingOf(answer.notes)};
+          .note = BothNotes(WordingOf(answer.notes), OddLevels(answer))};
 }
 
 }  // namespace planner

@@ -14,7 +14,8 @@ struct Entry {
   std::string name;
   std::string label;
   Value value;
-  std::string shown;  // the value for reading
+  std::string shown;     // the value for reading
+  bool isUnset = false;  // a flag that is not set, which tables for reading leave out
 };
 
 /// An answer in words.
@@ -23,9 +24,10 @@ struct Report {
   Question question;
   std::string exportName;
   std::vector<Entry> inputs;
+  std::vector<Entry> assumptions;  // words that say what is taken for granted
   std::vector<Entry> results;
   std::string sentence;
-  std::string note;  // what the reader should be warned of; mostly empty
+  std::string note;                             // what the reader should be warned of; mostly empty
   std::optional<Explanation> explanation = {};  // where it is asked for
 };
 

@@ -40,7 +40,8 @@ TEST(Solve, AnswersThePowerFromTheLibrary) {
   EXPECT_EQ(report.question, Question::Power);
   EXPECT_EQ(NumberOf(report, "power"), PowerOverallTest(3, means.data(), 6, sizes.data(), 0.05));
   EXPECT_EQ(NumberOf(report, "total"), 75);
-  EXPECT_EQ(NumberOf(report, "rmsse"), RMSSEOverallTest(3, means.data(), 6, sizes.data(), 0.05));
+  EXPECT_DOUBLE_EQ(NumberOf(report, "effect-f"), std::sqrt(38.0 / 9) / 6);
+  EXPECT_DOUBLE_EQ(NumberOf(report, "eta-squared"), 38.0 / 9 / (38.0 / 9 + 36));
 }
 
 TEST(Solve, ReportsThePowerAtTheRoundedSizes) {

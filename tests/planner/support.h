@@ -1,5 +1,8 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <sstream>
 #include <string>
 #include <utility>
 
@@ -7,6 +10,7 @@
 #include "model/problem.h"
 #include "solve/chart.h"
 #include "solve/solve.h"
+#include "words/parse.h"
 #include "words/problem.h"
 #include "words/report.h"
 
@@ -21,6 +25,22 @@ inline Report Solved(const Test& test, const InputValues& values, StopRequest* s
 /// The sentence of a failure, with inputs named as options.
 inline std::string Said(const Failure& failure) {
   return Sentence(failure.problem, [](std::string_view name) { return "--" + std::string(name); });
+}
+
+/// The values that the arguments of an example give, after the name of its test.
+inline InputValues ValuesTyped(const Test& test, const std::string& arguments) {
+  InputValues values;
+  std::istringstream words(arguments);
+  std::string word;
+  words >> word;
+  while (words >> word) {
+    const Parameter* parameter = FindParameter(test, std::string_view(word).substr(2));
+    EXPECT_TRUE(parameter) << word;
+    std::string text = "yes";
+    if (parameter->kind != Kind::Flag) words >> text;
+    values[std::string(parameter->name.Text())] = Parse(*parameter, text);
+  }
+  return values;
 }
 
 }  // namespace planner

@@ -80,7 +80,8 @@ void CheckRoundTrip(const Test& test, const Unknown& unknown, const InputValues&
     EXPECT_NEAR(found.value, design.value, 1e-9);
   } else {
     // An effect size of either direction is found as a positive one.
-    EXPECT_NEAR(at, unknown.input == Name("effect-d") ? std::fabs(number) : number, 1e-9 * std::max(std::fabs(number), 1e-3));
+    EXPECT_NEAR(at, unknown.input == Name("effect-d") ? std::fabs(number) : number,
+                1e-9 * std::max(std::fabs(number), 1e-3));
   }
 }
 

@@ -2,7 +2,7 @@
 
 page.py write KELPOWER PAGE    runs kelpower and R, and writes the page.
 page.py check KELPOWER PAGE    the page is what they say now. Where R or its package pwr is not installed, only
-                               kelpower's side is compared, and what was left out is said.
+                               kelpower's side is compared, what was left out is said, and the status is 77.
 
 A call that kelpower calls the same must agree: a power within 1e-6, a size once it is rounded up. One that it says
 differs must differ.
@@ -14,6 +14,7 @@ import re
 import shutil
 import subprocess
 import sys
+import tempfile
 from pathlib import Path
 
 QUESTIONS = [
@@ -54,11 +55,11 @@ QUESTIONS = [
     "paired-proportions --p12 0.3 --p21 0.1 --n 100 --interval",
     "two-proportions --proportions 0.5,0.75 --n 50 --pooled",
     "two-proportions --proportions 0.5,0.75 --power 0.8 --pooled",
-    "two-proportions --proportions 0.5,0.75 --n 50,100 --continuity-correction --one-sided",
-    "two-proportions --proportions 0.5,0.75 --n 50 --test t --pooled",
-    "two-proportions --proportions 0.5,0.75 --n 50 --test arcsine",
-    "two-proportions --proportions 0.5,0.75 --n 50,100 --test likelihood-ratio",
-    "two-proportions --proportions 0.5,0.75 --n 30 --test conditional",
+    "two-proportions --proportions 0.5,0.75 --n 50,100 --correction --one-sided",
+    "two-proportions --proportions 0.5,0.75 --n 50 --method t --pooled",
+    "two-proportions --proportions 0.5,0.75 --n 50 --method arcsine",
+    "two-proportions --proportions 0.5,0.75 --n 50,100 --method likelihood-ratio",
+    "two-proportions --proportions 0.5,0.75 --n 30 --method conditional",
     "two-proportions --proportions 0.8,0.6 --n 70,80 --interval --interval-method wald",
 ]
 
@@ -98,7 +99,10 @@ def run_r(calls):
     for call in calls:
         line = f'cat(sprintf("%.17g\\n", {call["call"]}))'
         script.append(f'if (havePwr) {line} else cat("none\\n")' if call["program"] == "pwr" else line)
-    done = subprocess.run(["Rscript", "--vanilla", "-e", "\n".join(script)], capture_output=True, text=True, check=True)
+    with tempfile.NamedTemporaryFile("w", suffix=".R") as file:
+        file.write("\n".join(script))
+        file.flush()
+        done = subprocess.run(["Rscript", "--vanilla", file.name], capture_output=True, text=True, check=True)
     answers = done.stdout.split()
     assert len(answers) == len(calls), done.stdout
     return [None if answer == "none" else float(answer) for answer in answers]
@@ -169,7 +173,8 @@ def main():
         if wanted != shown:
             problems.append(f"{page} is out of date: tools/other_programs/page.py write")
     print("\n".join(problems) or f"{len(QUESTIONS)} questions agree")
-    sys.exit(1 if problems else 0)
+    skipped = 77  # which the test reports as such
+    sys.exit(1 if problems else 0 if is_whole else skipped)
 
 
 if __name__ == "__main__":
