@@ -35,9 +35,18 @@ std::string Meaning(const Parameter& parameter) {
   return Expand(parameter.meaning, OptionOf, [](std::string_view) { return false; });
 }
 
-std::string Details(const Parameter& parameter) {
+/// What the option takes; of two groups a list has two entries.
+std::string AllowedIn(const Test& test, Parameter parameter) {
+  if (parameter.kind == Kind::PerGroup && !parameter.spreads && test.groups == 2) {
+    parameter.kind = Kind::List;
+    parameter.length = 2;
+  }
+  return Allowed(parameter);
+}
+
+std::string Details(const Test& test, const Parameter& parameter) {
   if (parameter.kind == Kind::Flag) return "";
-  std::string text = "  (" + Allowed(parameter);
+  std::string text = "  (" + AllowedIn(test, parameter);
   if (parameter.fallback) text += "; default " + Shown(*parameter.fallback);
   return text + ")";
 }
@@ -135,7 +144,8 @@ const char* HeadingOf(Question question) {
 /// The commonest call: it asks for the sizes.
 const Example& FirstExample(const Test& test) {
   const auto asksForSizes = [](const Example& example) {
-    return example.arguments.find(" --power ") != std::string::npos;
+    const bool hasSizes = example.arguments.find(" --n ") != std::string::npos;
+    return !hasSizes && example.arguments.find(" --power ") != std::string::npos;
   };
   const auto found = std::find_if(test.examples.begin(), test.examples.end(), asksForSizes);
   return found == test.examples.end() ? test.examples.front() : *found;
@@ -157,6 +167,15 @@ std::string UsageSection(const Test& test, const Highlights& highlights) {
     text += '\n';
   }
   return text;
+}
+
+/// How the remaining number of a design is asked for.
+std::string UnknownSection(const Test& test, const Highlights& highlights) {
+  if (test.unknowns.empty()) return "";
+  return fmt::format(
+      "{}Effect that a design detects{}\n  Give --n and --power, and leave the effect out; --solve NAME asks for another "
+      "number.\n\n",
+      highlights.heading, highlights.end);
 }
 
 std::string ChartUsage(const Chart& chart) {
@@ -185,7 +204,7 @@ std::string OptionLines(const Test& test) {
   for (const Parameter& parameter : test.parameters) {
     const std::string unit = parameter.unit.empty() ? "" : ", in " + parameter.unit;
     text += fmt::format("  {:<{}}  {}{}\n", OptionText(parameter), width, Meaning(parameter), unit);
-    if (const std::string details = Details(parameter); !details.empty()) {
+    if (const std::string details = Details(test, parameter); !details.empty()) {
       text += fmt::format("  {:<{}}{}\n", "", width, details);
     }
   }
@@ -208,7 +227,7 @@ std::string HelpOf(const Test& test, const Highlights& highlights) {
   std::string text = heading(test.title.c_str());
   text += fmt::format("{}\n{}\n\n", test.about, test.whenNot);
   text += heading("For example") + ExampleText(first) + "What you leave out is what is solved for.\n\n";
-  text += UsageSection(test, highlights);
+  text += UsageSection(test, highlights) + UnknownSection(test, highlights);
   text += heading("Options") + OptionLines(test);
   text += ChartSection(test, highlights);
   text += fmt::format("\n{}", heading("More examples"));
