@@ -121,8 +121,9 @@ std::vector<Route> SizeRoutes() {
        .sizes = Size},
       {.question = Question::SampleSize,
        .needs = {"p12", "p21", "exact"},
-       .accepts = {"one-sided", "power"},
+       .accepts = {"one-sided"},
        .exportName = "PowerReversebyPRelSampBionm",
+       .lastingSize = LastingSize,
        .sizes = Size},
       {.question = Question::SampleSize,
        .needs = {"proportion1", "proportion2", "correlation"},
@@ -133,6 +134,7 @@ std::vector<Route> SizeRoutes() {
        .needs = {"proportion1", "proportion2", "correlation", "exact"},
        .accepts = {"one-sided"},
        .exportName = "PowerReversebyMargPRelSampBionm",
+       .lastingSize = LastingSize,
        .sizes = Size},
   };
 }
@@ -153,7 +155,7 @@ std::vector<Route> Routes() {
   return routes;
 }
 
-bool IsExact(const Inputs& in) { return in.Flag("exact"); }
+Unevenness UnevennessOf(const Inputs& in) { return in.Flag("exact") ? Unevenness::Uneven : Unevenness::Even; }
 
 std::vector<Unknown> Unknowns() {
   constexpr const char* reason = "the difference grows faster than its standard error";
@@ -163,8 +165,7 @@ std::vector<Unknown> Unknowns() {
                    .trend = Trend::Rises,
                    .reason = reason,
                    .piece = piece,
-                   .pieceBelow = below,
-                   .isUneven = IsExact};
+                   .pieceBelow = below};
   };
   return {
       discordant(
@@ -202,8 +203,7 @@ std::vector<Unknown> Unknowns() {
       {.input = "correlation",
        .target = Question::Power,
        .trend = Trend::Rises,
-       .reason = "fewer pairs are discordant, of which as many more are of one kind",
-       .isUneven = IsExact},
+       .reason = "fewer pairs are discordant, of which as many more are of one kind"},
   };
 }
 
@@ -258,6 +258,7 @@ Test PairedProportionsTest() {
   test.parameters = Parameters();
   test.routes = Routes();
   test.unknowns = Unknowns();
+  test.unevenness = UnevennessOf;
   test.conditions = Conditions();
   test.sizeExists = SizeExists();
   test.derived = {
@@ -265,10 +266,6 @@ Test PairedProportionsTest() {
        .label = "significance level attained",
        .needs = {"p12", "p21", "n", "exact"},
        .call = AttainedLevel},
-      {.name = "lasting-n",
-       .label = "from here on every sample size reaches the power",
-       .needs = {"p12", "p21", "exact", "power"},
-       .call = LastingSize},
   };
   test.charts = ChartsOfPairedProportions();
   AddWordsOfPairedProportions(test);

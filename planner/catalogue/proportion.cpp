@@ -124,8 +124,9 @@ std::vector<Route> Routes() {
        .sizes = Size},
       {.question = Question::SampleSize,
        .needs = {"proportion", "null", "exact"},
-       .accepts = {"one-sided", "power"},
+       .accepts = {"one-sided"},
        .exportName = "PowerReverseOneSampBinom",
+       .lastingSize = LastingSize,
        .sizes = Size},
       {.question = Question::HalfWidth,
        .needs = {"proportion", "n"},
@@ -140,7 +141,7 @@ std::vector<Route> Routes() {
   };
 }
 
-bool IsExact(const Inputs& in) { return in.Flag("exact"); }
+Unevenness UnevennessOf(const Inputs& in) { return in.Flag("exact") ? Unevenness::Uneven : Unevenness::Even; }
 
 std::vector<Unknown> Unknowns() {
   constexpr const char* reason = "the more the proportions differ, the more of the outcomes are in the critical region";
@@ -154,8 +155,7 @@ std::vector<Unknown> Unknowns() {
        },
        .pieceBelow = [](const Inputs& in) -> Piece {
          return {0, in.Number("null")};
-       },
-       .isUneven = IsExact},
+       }},
       {.input = "null",
        .target = Question::Power,
        .trend = Trend::Falls,
@@ -165,8 +165,7 @@ std::vector<Unknown> Unknowns() {
        },
        .pieceBelow = [](const Inputs& in) -> Piece {
          return {in.Number("proportion"), 1};
-       },
-       .isUneven = IsExact},
+       }},
   };
 }
 
@@ -249,10 +248,6 @@ std::vector<Derived> DerivedFigures() {
        .label = "significance level attained",
        .needs = {"proportion", "null", "n", "exact"},
        .call = AttainedLevel},
-      {.name = "lasting-n",
-       .label = "from here on every sample size reaches the power",
-       .needs = {"proportion", "null", "exact", "power"},
-       .call = LastingSize},
   };
 }
 
@@ -265,6 +260,7 @@ Test ProportionTest() {
   test.parameters = Parameters();
   test.routes = Routes();
   test.unknowns = Unknowns();
+  test.unevenness = UnevennessOf;
   test.conditions = Conditions();
   test.sizeExists = {
       {.code = "no-effect",

@@ -97,6 +97,10 @@ Test TwoProportionsTest() {
   test.parameters = ParametersOfTwoProportions();
   test.routes = RoutesOfTwoProportions();
   test.unknowns = UnknownsOfTwoProportions();
+  test.unevenness = [](const Inputs& in) {
+    if (IsConditional(in)) return Unevenness::UnevenAndSlow;
+    return in.Flag("exact") ? Unevenness::Uneven : Unevenness::Even;
+  };
   test.conditions = ConditionsOfTwoProportions();
   test.sizeExists = SizeExistsForTwoProportions();
   test.derived = {

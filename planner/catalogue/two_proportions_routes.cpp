@@ -170,8 +170,7 @@ std::vector<Unknown> UnknownsOfTwoProportions() {
        },
        .pieceBelow = [](const Inputs& in) -> Piece {
          return {in.Number("proportion1") - 1, 0};
-       },
-       .isUneven = IsExact},
+       }},
       {.input = "risk-ratio",
        .target = Question::Power,
        .trend = Trend::Rises,
@@ -181,8 +180,7 @@ std::vector<Unknown> UnknownsOfTwoProportions() {
        },
        .pieceBelow = [](const Inputs& in) -> Piece {
          return {in.Number("proportion1"), 1};
-       },
-       .isUneven = IsExact},
+       }},
       {.input = "odds-ratio",
        .target = Question::Power,
        .trend = Trend::Rises,
@@ -192,8 +190,7 @@ std::vector<Unknown> UnknownsOfTwoProportions() {
        },
        .pieceBelow = [](const Inputs&) -> Piece {
          return {0, 1};
-       },
-       .isUneven = IsExact},
+       }},
       UnknownRatio(),
   };
 }

@@ -8,11 +8,6 @@
 
 namespace planner {
 
-/// What a reader of an answer should be warned of.
-enum class Note {
-  TargetMissedSlightly = 1,  // at the sizes rounded to whole numbers
-};
-
 /// A derived figure and its value.
 struct DerivedFigure {
   const Derived* derived;
@@ -28,7 +23,7 @@ struct Answer {
   double value;                      // the power or half-width at these sizes
   const Unknown* unknown = nullptr;  // what was solved for, unless sizes or the value; its number stands in the inputs
   std::vector<DerivedFigure> derived = {};
-  std::vector<Note> notes = {};
+  Numbers lastingSizes = {};  // of sizes found, where a power is uneven: from these on all sizes reach it
 
   Question Asked() const { return route->question; }
   bool SizesFound() const { return AsksForSizes(route->question); }

@@ -78,6 +78,7 @@ private:
       "sd-difference",
       "sds",
       "solve",
+      "stable",
       "step",
       "test",
       "test-value",

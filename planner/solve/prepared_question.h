@@ -10,6 +10,7 @@
 #include "model/test.h"
 #include "solve/choose_route.h"
 #include "solve/find_unknown.h"
+#include "solve/whole_sizes.h"
 
 namespace planner {
 
@@ -76,6 +77,9 @@ private:
   Row Checked(const Inputs& inputs);
   Row ValueOf(const Inputs& inputs) const;
   Row FindSizes(const Inputs& inputs);
+  std::optional<double> FindWhole(const WholeSizes& whole, const Numbers& found, Reaches reaches) const;
+  double FindUneven(const WholeSizes& whole, const Inputs& inputs, double number, Reaches reaches);
+  Unevenness UnevennessOf(const Inputs& inputs) const;
   Row FindNumber(const Inputs& inputs);
   Name TargetName() const;
   UnknownSearch SearchUnknown(Inputs& inputs) const;
@@ -93,9 +97,9 @@ private:
   std::vector<const Condition*> effects_;
   std::vector<BoundColumn> columns_;
   Numbers sizes_;
-  Evaluation value_;       // a copy of the route's own, which may keep something between its calls
-  double found_ = 0;       // of the unknown
-  bool isMissed_ = false;  // the target, by a little
+  Evaluation value_;  // a copy of the route's own, which may keep something between its calls
+  double found_ = 0;  // of the unknown
+  Numbers lasting_;   // the sizes from which on all reach an uneven power
 };
 
 }  // namespace planner

@@ -154,6 +154,12 @@ std::vector<Entry> ResultEntries(const Answer& answer) {
     const double total = Total(answer.sizes);
     entries.push_back({"total", "total sample size", total, Readable(total)});
   }
+  if (!answer.lastingSizes.empty()) {
+    const bool isOne = answer.lastingSizes.size() == 1;
+    const Value value = isOne ? Value(answer.lastingSizes.front()) : Value(answer.lastingSizes);
+    entries.push_back({isOne ? "lasting-n" : "lasting-sizes", "from here on every sample size reaches the power", value,
+                       Listed(Readable(answer.lastingSizes))});
+  }
   const std::string suffix = answer.SizesFound() ? " at these sizes" : "";
   if (IsAboutPower(answer.Asked())) {
     entries.push_back({"power", "power" + suffix, answer.value, ShownPower(answer.value)});
@@ -170,17 +176,12 @@ std::string SentenceOf(const Test& test, Question question) {
   return "";
 }
 
-std::string Wording(Note note) {
-  switch (note) {
-    case Note::TargetMissedSlightly: return "At the sizes rounded to whole numbers the target is missed slightly.";
-  }
-  return "";
-}
-
-std::string WordingOf(const std::vector<Note>& notes) {
-  std::vector<std::string> sentences;
-  for (Note note : notes) sentences.push_back(Wording(note));
-  return Joined(sentences, " ", " ");
+/// What an uneven power asks to be said of the sizes found.
+std::string NoteOn(const Answer& answer) {
+  if (answer.lastingSizes.empty()) return "";
+  const std::string lasting = SizesInSentence(*answer.test, answer.lastingSizes);
+  if (answer.lastingSizes == answer.sizes) return "All larger sample sizes reach it too.";
+  return fmt::format("Some larger sample sizes do not reach it; all do from {} on.", lasting);
 }
 
 }  // namespace
@@ -192,7 +193,7 @@ Report MakeReport(const Answer& answer) {
           .inputs = InputEntries(answer),
           .results = ResultEntries(answer),
           .sentence = Words(answer).Of(SentenceOf(*answer.test, answer.Asked())),
-          .note = WordingOf(answer.notes)};
+          .note = NoteOn(answer)};
 }
 
 }  // namespace planner
