@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_COMPUTATION_H
+#define KELPOWER_CLI_COMPUTATION_H
 
 #include <chrono>
 #include <cstdint>
@@ -31,3 +32,5 @@ private:
   Clock::time_point start_ = Clock::now();
   Clock::time_point nextLine_;
 };
+
+#endif

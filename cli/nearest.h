@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_NEAREST_H
+#define KELPOWER_CLI_NEAREST_H
 
 #include <string>
 #include <vector>
@@ -6,3 +7,5 @@
 /// The word of `words` that needs the fewest letters changed, added or left out to become `typed`; empty when even that
 /// one is far off.
 std::string Nearest(const std::string& typed, const std::vector<std::string>& words);
+
+#endif

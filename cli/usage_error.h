@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_USAGE_ERROR_H
+#define KELPOWER_CLI_USAGE_ERROR_H
 
 #include <stdexcept>
 
@@ -6,3 +7,5 @@
 struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
+
+#endif

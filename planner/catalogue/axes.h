@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_AXES_H
+#define KELPOWER_PLANNER_CATALOGUE_AXES_H
 
 #include <string>
 
@@ -49,3 +50,5 @@ std::optional<Problem> RefuseSizes(const Range& sizes, const Range& allowed);
 double TotalSize(const Inputs& in);
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_CORRELATION_H
+#define KELPOWER_PLANNER_CATALOGUE_CORRELATION_H
 
 #include <string>
 
@@ -42,3 +43,5 @@ Names CorrelationDesign(const CorrelationKind& kind);
 Names CorrelationOptions(const CorrelationKind& kind);
 
 }  // namespace planner
+
+#endif

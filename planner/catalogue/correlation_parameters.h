@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_CORRELATION_PARAMETERS_H
+#define KELPOWER_PLANNER_CATALOGUE_CORRELATION_PARAMETERS_H
 
 #include <string>
 
@@ -20,3 +21,5 @@ kelpower::correlation::Hypotheses HypothesesOf(const Inputs& in);
 Condition CorrelationsDiffer();
 
 }  // namespace planner
+
+#endif

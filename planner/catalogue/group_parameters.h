@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_GROUP_PARAMETERS_H
+#define KELPOWER_PLANNER_CATALOGUE_GROUP_PARAMETERS_H
 
 #include "model/chart.h"
 #include "model/test.h"
@@ -12,6 +13,10 @@ Parameter GroupSizes();
 Parameter AllocationRatios();
 Parameter GroupCount();
 
+// The overall effect of groups.
+Parameter EffectF();
+Parameter EtaSquared();
+
 /// Observations are left over once every group has its mean.
 Condition ErrorDegrees();
 
@@ -19,3 +24,5 @@ Condition ErrorDegrees();
 Axis WithinSdAxis();
 
 }  // namespace planner
+
+#endif

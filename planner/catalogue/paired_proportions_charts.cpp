@@ -3,7 +3,7 @@
 #include <string>
 
 #include "catalogue/axes.h"
-#include "catalogue/paired_proportions.h"
+#include "catalogue/charts.h"
 
 namespace planner {
 namespace {

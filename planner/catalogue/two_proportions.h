@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_TWO_PROPORTIONS_H
+#define KELPOWER_PLANNER_CATALOGUE_TWO_PROPORTIONS_H
 
 #include <vector>
 
@@ -6,6 +7,7 @@
 #include "model/inputs.h"
 #include "model/test.h"
 #include "proportions/independent_design.h"
+#include "proportions/independent_sizes.h"
 
 // What the questions about two independent proportions and their charts share.
 namespace planner {
@@ -28,6 +30,14 @@ double OddsRatio(const Inputs& in);
 /// The second proportion that a first one has with an odds ratio.
 double SecondOfOddsRatio(double first, double oddsRatio);
 
+kelpower::proportions::IndependentDesign DesignOf(const Inputs& in);
+
+/// What is wanted of the sizes to find.
+kelpower::proportions::IndependentSizes WantedOf(const Inputs& in);
+
+/// The sizes that a test for large samples needs.
+Numbers LargeSampleSizes(const Inputs& in, kelpower::proportions::TwoProportionTest test);
+
 /// The ways to give the two proportions: the inputs of each.
 std::vector<Names> EffectsOfTwoProportions();
 
@@ -41,6 +51,7 @@ std::vector<Parameter> ParametersOfTwoProportions();
 std::vector<Route> RoutesOfTwoProportions();
 std::vector<Condition> ConditionsOfTwoProportions();
 std::vector<Condition> SizeExistsForTwoProportions();
-std::vector<Chart> ChartsOfTwoProportions();
 
 }  // namespace planner
+
+#endif

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "catalogue/axes.h"
+#include "catalogue/charts.h"
 #include "catalogue/two_groups.h"
 #include "catalogue/two_proportions.h"
 

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_INPUTS_H
+#define KELPOWER_PLANNER_MODEL_INPUTS_H
 
 #include <array>
 
@@ -61,3 +62,5 @@ private:
 };
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_CHECKS_H
+#define KELPOWER_PLANNER_SOLVE_CHECKS_H
 
 #include "model/inputs.h"
 #include "model/test.h"
@@ -21,3 +22,5 @@ const Condition* FirstFailing(const std::vector<const Condition*>& conditions, c
 Problem ProblemOf(const Condition& condition, Code code);
 
 }  // namespace planner
+
+#endif

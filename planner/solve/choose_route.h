@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_CHOOSE_ROUTE_H
+#define KELPOWER_PLANNER_SOLVE_CHOOSE_ROUTE_H
 
 #include "model/question.h"
 #include "model/route.h"
@@ -20,3 +21,5 @@ const Route& ChooseRoute(const Test& test, Question question, const Names& given
 std::vector<std::string> Texts(const Names& names);
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_PREPARED_QUESTION_H
+#define KELPOWER_PLANNER_SOLVE_PREPARED_QUESTION_H
 
 #include <optional>
 #include <span>
@@ -84,3 +85,5 @@ private:
 };
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_SOLVE_H
+#define KELPOWER_PLANNER_SOLVE_SOLVE_H
 
 #include "model/answer.h"
 #include "model/problem.h"
@@ -12,3 +13,5 @@ namespace planner {
 Answer Solve(const Test& test, const InputValues& values, StopRequest* stop = nullptr);
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_EXPAND_H
+#define KELPOWER_PLANNER_WORDS_EXPAND_H
 
 #include <functional>
 #include <string>
@@ -12,3 +13,5 @@ std::string Expand(const std::string& text, const std::function<std::string(std:
                    const std::function<bool(std::string_view)>& holds);
 
 }  // namespace planner
+
+#endif

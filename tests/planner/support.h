@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_TESTS_PLANNER_SUPPORT_H
+#define KELPOWER_TESTS_PLANNER_SUPPORT_H
 
 #include <string>
 #include <utility>
@@ -24,3 +25,5 @@ inline std::string Said(const Failure& failure) {
 }
 
 }  // namespace planner
+
+#endif
