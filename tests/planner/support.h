@@ -8,11 +8,14 @@
 #include "model/problem.h"
 #include "solve/chart.h"
 #include "solve/solve.h"
+#include "support/counting_stop.h"
 #include "words/problem.h"
 #include "words/report.h"
 
 // What the tests of the planner share.
 namespace planner {
+
+using CountingStop = keltest::CountingStopOf<StopRequest>;
 
 /// The worded answer.
 inline Report Solved(const Test& test, const InputValues& values, StopRequest* stop = nullptr) {
