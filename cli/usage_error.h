@@ -3,7 +3,7 @@
 
 #include <stdexcept>
 
-/// The command line itself is wrong, whatever the planner makes of its values. The text is one sentence.
+/// The command line itself is wrong, before the planner has looked at its values. The text is one sentence.
 struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };

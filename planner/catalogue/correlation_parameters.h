@@ -17,7 +17,7 @@ Parameter TowardsCorrelation();
 
 kelpower::correlation::Hypotheses HypothesesOf(const Inputs& in);
 
-/// Refuses to search a size for the power of no effect.
+/// The condition for a size that the correlations differ.
 Condition CorrelationsDiffer();
 
 }  // namespace planner

@@ -17,7 +17,7 @@ Parameter GroupCount();
 Parameter EffectF();
 Parameter EtaSquared();
 
-/// Observations are left over once every group has its mean.
+/// The condition that more observations than groups leave something to estimate the standard deviation from.
 Condition ErrorDegrees();
 
 /// An axis of standard deviations within the groups, around the distance of the means.

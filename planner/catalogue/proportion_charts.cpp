@@ -12,7 +12,7 @@ constexpr double mostCharted = 5000;  // observations
 
 Range UsualSizes(const Inputs& in, double) { return {2, std::min(std::max(4.0, 2 * in.Number("n")), mostCharted)}; }
 
-/// All sizes where those around the design would reach too far.
+/// The sizes around the design, or all where these would reach too far.
 Range UsualSizesOfSurface(const Inputs& in, double power) {
   return 2 * in.Number("n") <= mostCharted ? AroundSizeByPower(in, power) : Range{2, mostCharted};
 }

@@ -12,7 +12,7 @@ inline double Predictors(const Inputs& in) { return in.Number("predictors"); }
 
 inline bool Intercept(const Inputs& in) { return !in.Flag("no-intercept"); }
 
-/// The least cases that leave something to estimate the error variance from.
+/// The smallest number of cases that leaves something to estimate the error variance from.
 inline double SmallestSize(const Inputs& in) { return Predictors(in) + (Intercept(in) ? 2 : 1); }
 
 }  // namespace planner

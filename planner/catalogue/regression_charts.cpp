@@ -30,7 +30,7 @@ Axis EffectAxis() {
           .scaleEnds = ScaleEnds::None};
 }
 
-/// The power is the same for R and -R, so that the usual range leaves out the negative ones.
+/// The power is the same for R and -R, so the usual range leaves out negative values.
 Axis CorrelationAxis() {
   return {.title = "multiple correlation R",
           .symbol = "R",

@@ -12,7 +12,7 @@
 // What the questions about two independent proportions and their charts share.
 namespace planner {
 
-// An exact power counts tables: these groups take less than a second.
+// The work of an exact power grows with its tables. Groups up to this size take less than a second.
 constexpr double largestExactGroup = 10000;
 
 kelpower::proportions::TwoProportionTest TestOf(const Inputs& in);

@@ -55,7 +55,7 @@ bool ExactCanReach(const Inputs& in) {
   return !IsExact(in) || (power >= in.Alpha() && power <= largestExactPower);
 }
 
-/// Half an observation is moved between the outcomes of each group.
+/// The arcsine test moves half an observation between the outcomes of each group, which must be there.
 bool LeavesArcsineItsCorrection(const Inputs& in) {
   if (TestOf(in) != TwoProportionTest::Arcsine) return true;
   proportions::IndependentPower power(DesignOf(in), in.List("n")[0], in.List("n")[1]);

@@ -15,7 +15,7 @@ namespace proportions = kelpower::proportions;
 using proportions::IndependentMethod;
 
 /// The stop request of the conditional test. The other exact tests ask it once a table, which takes up to some hundred
-/// times as long as their power; they end in a tenth of a second without it.
+/// times as long as their power. Without it they end in a tenth of a second.
 kelpower::Stop StopOfTables(const Inputs& in) { return IsConditional(in) ? StopOf(in) : kelpower::Stop(); }
 
 /// The power; designs that differ in their proportions alone share the test, which keeps its rejection region.

@@ -36,7 +36,7 @@ public:
   void SetEntry(Name name, std::size_t entry, double number) { slots_[name.Index()].list[entry] = number; }
   void Erase(Name name) { slots_[name.Index()].isGiven = false; }
 
-  /// Sets an input to a value that its parameter allows, and tells it again.
+  /// Sets an input to a value that its parameter allows; the second gives it back.
   void SetValue(const Parameter& parameter, const Value& value);
   Value ValueOf(const Parameter& parameter) const;
 

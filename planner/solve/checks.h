@@ -12,7 +12,7 @@ void CheckValues(const Test& test, const InputValues& values);
 /// Throws an InputError when a condition of the test fails.
 void CheckConditions(const Test& test, const Inputs& inputs);
 
-/// The conditions about what has a value; the others hold.
+/// The conditions whose inputs all have a value. The others count as met.
 std::vector<const Condition*> Applicable(const std::vector<Condition>& conditions, const Inputs& inputs);
 
 /// The first condition that fails, or null.

@@ -10,7 +10,7 @@ namespace planner {
 /// The names of the inputs that are given, without flags that are not set. The values have been checked.
 Names GivenNames(const Test& test, const InputValues& values);
 
-/// What is asked: the question of the one asking input that is given, else the power.
+/// The question of the input that asks one, or the power where none is given. Throws an InputError when two ask.
 Question AskedQuestion(const Names& given);
 
 /// The route of the question that takes all that is given and needs nothing more. Throws an InputError with what does

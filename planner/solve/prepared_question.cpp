@@ -18,7 +18,7 @@ constexpr double targetSlack = 1e-6;
 // Exact tests are not smooth in the size, so that rounding may miss the target by more; beyond this the search failed.
 constexpr double largestMiss = 0.05;
 
-// The library gives every group at least two, and just that when its search finds nothing.
+// Every group has at least this many. A search whose target lies below its first size ends here too.
 constexpr double smallestGroup = 2;
 
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
@@ -41,7 +41,7 @@ bool NeedsEffect(Question question, const Inputs& inputs) {
   return question == Question::SampleSize && inputs.Number("power") >= inputs.Alpha();
 }
 
-/// How far the value stays behind the target, of a half-width relative to it; not positive when it is reached.
+/// How far the value stays behind the target, for a half-width relative to the target. Not positive when it is reached.
 double Miss(Question question, double value, const Inputs& inputs) {
   if (question == Question::SampleSize) return inputs.Number("power") - value;
   return value / inputs.Number("half-width") - 1;

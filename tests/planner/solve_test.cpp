@@ -77,11 +77,11 @@ TEST(Solve, FlagsThatAreNotSetAskNothing) {
 
 TEST(Solve, RefusesInputsThatDisagree) {
   EXPECT_EQ(Complaint<InputError>("anova", {{"means", means}, {"sd", 6.0}, {"n", Numbers{20, 20}}}),
-            "--n tells 2 groups, but --means tells 3.");
+            "--n gives 2 groups, but --means gives 3.");
   EXPECT_EQ(Complaint<InputError>("anova", {{"effect-f", 0.2}, {"n", Numbers{20}}}),
             "The number of groups is not known: give --groups.");
   EXPECT_EQ(Complaint<InputError>("anova", {{"means", Numbers{1}}, {"sd", 6.0}, {"n", Numbers{20}}}),
-            "--means tells 1 group, but must tell at least 2.");
+            "--means gives 1 group, but must give at least 2.");
   EXPECT_EQ(Complaint<InputError>("anova", {{"mean", 1.0}}), "--mean is not an option of anova.");
 }
 

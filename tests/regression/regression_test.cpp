@@ -27,6 +27,23 @@ TEST(Regression, SaysWhyThereIsNoPowerOrSize) {
   EXPECT_EQ(SizeForPower(withFixed, Effect::OfFSquared(0), 0.8).Reason(), NoValue::NotReached);
 }
 
+/// How often a search asks for the power at a size.
+int EvaluationsFor(double tested) {
+  int evaluations = 0;
+  const auto powerAt = [&](double size) {
+    ++evaluations;
+    return 1 - std::exp((tested - size) / 1000);
+  };
+  EXPECT_NEAR(*SizeForPower({tested, tested, false, true, 0.05}, powerAt, 0.8), tested + 1000 * std::log(5), 1e-6);
+  return evaluations;
+}
+
+// There the computed power may fall where the true one grows, so that all points of the bisection are evaluated.
+TEST(SizeForPower, TakesNothingForGrantedWithMillionsOfPredictors) {
+  EXPECT_LT(EvaluationsFor(1e6), 20);
+  EXPECT_GT(EvaluationsFor(2e6), 30);
+}
+
 TEST(Effect, IsOneNumberInTwoForms) {
   EXPECT_DOUBLE_EQ(Effect::OfFSquared(0.25).rhoSquared, 0.2);
   EXPECT_DOUBLE_EQ(Effect::OfRhoSquared(0.2).fSquared, 0.25);
