@@ -18,7 +18,9 @@ PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
 
 .PHONY: help run test test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
 
-run: build ## build and plan a real study
+run: configure-$(PRESET) ## build the program and plan a real study
+	@echo "Building the program; the first time this takes a minute or two ..."
+	@cmake --build $(BUILD) -j $(JOBS) --target kelpower_cli
 	@sh tools/run_example.sh $(BUILD)/cli/kelpower
 
 help: ## list these commands

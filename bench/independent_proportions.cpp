@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <ctime>
 
+#include "exports/proportions/independent_literal.h"
 #include "kelpower.h"
-#include "proportions/independent_literal.h"
+#include "proportions/independent_design.h"
 
 namespace {
 
@@ -31,15 +32,17 @@ double Seconds(int calls, Function function) {
 void ExactPowerAgainstItsDefinition(benchmark::State& state) {
   const int method = static_cast<int>(state.range(0));
   const double n = method == 3 ? 40 : 100;
-  const IndependentTest test = IndependentTest::Of(1, method, 0, 0.05, 0, 0);
+  using proportions::TwoProportionTest;
+  const auto tested = method == 3 ? TwoProportionTest::Conditional : TwoProportionTest(method);
+  const proportions::IndependentDesign test{tested, /*isExact=*/true, /*isOneSided=*/false, 0.05};
   const double literal =
       Seconds(5, [&] { benchmark::DoNotOptimize(LiteralExactPower(test, n, n, 0.3, 0.5, nullptr)); });
-  constexpr int kMany = 100;  // the clock counts microseconds
+  constexpr int manyCases = 100;  // the clock counts microseconds
   const double ours = Seconds(5, [&] {
-    for (int i = 0; i < kMany; ++i) benchmark::DoNotOptimize(Power(n, 1, method));
+    for (int i = 0; i < manyCases; ++i) benchmark::DoNotOptimize(Power(n, 1, method));
   });
   for (auto _ : state) benchmark::DoNotOptimize(Power(n, 1, method));
-  state.counters["ratio"] = literal / (ours / kMany);
+  state.counters["ratio"] = literal / (ours / manyCases);
 }
 BENCHMARK(ExactPowerAgainstItsDefinition)->ArgName("method")->DenseRange(0, 3)->Unit(benchmark::kMicrosecond);
 

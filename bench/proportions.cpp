@@ -1,7 +1,7 @@
 #include <benchmark/benchmark.h>
 
+#include "exports/proportions/literal_tests.h"
 #include "kelpower.h"
-#include "proportions/literal_tests.h"
 
 // The exact tests beside their definitions, which step through every count: the ratio of two rows is what inverting the
 // distribution function and updating it by recurrence is worth.

@@ -4,13 +4,13 @@
 
 #include <CLI/CLI.hpp>
 
+#include "catalogue/catalogue.h"
 #include "nearest.h"
-#include "planner/catalogue.h"
-#include "planner/error.h"
+#include "usage_error.h"
+#include "words/parse.h"
 
 namespace {
 
-using planner::InputError;
 using planner::Kind;
 using planner::Parameter;
 using planner::Test;
@@ -34,6 +34,8 @@ CLI::App* AddCommand(CLI::App& app, const std::string& name) {
   return command;
 }
 
+std::string NameOf(const Parameter& parameter) { return fmt::format("--{}", parameter.name.Text()); }
+
 const std::vector<std::string> rangeOptions{"from", "to", "step", "output"};
 
 void AddTest(CLI::App& app, const Test& test) {
@@ -41,7 +43,7 @@ void AddTest(CLI::App& app, const Test& test) {
   AddOption(*command, "--chart");
   for (const std::string& name : rangeOptions) AddOption(*command, "--" + name);
   for (const Parameter& parameter : test.parameters) {
-    std::string names = "--" + parameter.name;
+    std::string names = NameOf(parameter);
     for (const std::string& alias : parameter.aliases) names += ",--" + alias;
     if (parameter.kind == Kind::Flag) {
       command->add_flag(names);
@@ -55,14 +57,14 @@ void AddTest(CLI::App& app, const Test& test) {
 const std::string* TextOf(const CLI::App& command, const std::string& name) {
   const CLI::Option* option = command.get_option("--" + name);
   if (option->count() == 0) return nullptr;
-  if (option->count() > 1) throw InputError(fmt::format("--{} is given more than once.", name));
+  if (option->count() > 1) throw UsageError(fmt::format("--{} is given more than once.", name));
   return &option->results().front();
 }
 
 bool FlagOf(const CLI::App& command, const std::string& name) {
   const CLI::Option* option = command.get_option("--" + name);
   for (const std::string& text : option->results()) {
-    if (text != "true") throw InputError(fmt::format("--{} takes no value.", name));
+    if (text != "true") throw UsageError(fmt::format("--{} takes no value.", name));
   }
   return option->count() > 0;
 }
@@ -73,27 +75,28 @@ Format FormatOf(const CLI::App& command) {
   for (const auto& [word, format] : formats) {
     if (word == *text) return format;
   }
-  throw InputError(fmt::format("--format is \"{}\", but must be text, json, csv or markdown.", *text));
+  throw UsageError(fmt::format("--format is \"{}\", but must be text, json, csv or markdown.", *text));
 }
 
-planner::Given GivenOf(const CLI::App& command, const Test& test) {
-  planner::Given given;
+planner::InputValues ValuesOf(const CLI::App& command, const Test& test) {
+  planner::InputValues values;
   for (const Parameter& parameter : test.parameters) {
+    const std::string name(parameter.name.Text());
     if (parameter.kind == Kind::Flag) {
-      if (FlagOf(command, parameter.name)) given[parameter.name] = true;
-    } else if (const std::string* text = TextOf(command, parameter.name)) {
-      given[parameter.name] = planner::Parse(parameter, *text);
+      if (FlagOf(command, name)) values[name] = true;
+    } else if (const std::string* text = TextOf(command, name)) {
+      values[name] = planner::Parse(parameter, *text);
     }
   }
-  return given;
+  return values;
 }
 
-planner::Numbers Ends(const std::string& name, const std::string& text) {
+planner::Numbers Ends(planner::Name name, const std::string& text) {
   return std::get<planner::Numbers>(planner::Parse(planner::List(name, "", ""), text));
 }
 
 planner::ChartRequest ChartOf(const CLI::App& command, const std::string& name) {
-  planner::ChartRequest chart{name, {}, {}, std::nullopt};
+  planner::ChartRequest chart{.name = name};
   if (const std::string* text = TextOf(command, "from")) chart.from = Ends("from", *text);
   if (const std::string* text = TextOf(command, "to")) chart.to = Ends("to", *text);
   if (const std::string* text = TextOf(command, "step"))
@@ -103,7 +106,7 @@ planner::ChartRequest ChartOf(const CLI::App& command, const std::string& name) 
 
 void RejectRangeOptions(const CLI::App& command) {
   for (const std::string& name : rangeOptions) {
-    if (TextOf(command, name)) throw InputError(fmt::format("--{} has a use only together with --chart.", name));
+    if (TextOf(command, name)) throw UsageError(fmt::format("--{} has a use only together with --chart.", name));
   }
 }
 
@@ -120,7 +123,7 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
   const std::string nearest = Nearest(option, OptionNames(command));
   const std::string hint = nearest.empty() ? fmt::format("\"kelpower {} --help\" names them", command.get_name())
                                            : fmt::format("did you mean {}?", nearest);
-  throw InputError(
+  throw UsageError(
       fmt::format("\"{}\" is not an option of {}; {}{}", option, command.get_name(), hint, nearest.empty() ? "." : ""));
 }
 
@@ -128,18 +131,18 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
   std::vector<std::string> names{"list"};
   for (const Test& test : planner::Tests()) names.push_back(test.name);
   const std::string nearest = Nearest(word, names);
-  if (!nearest.empty()) throw InputError(fmt::format("\"{}\" is not a test; did you mean {}?", word, nearest));
-  throw InputError(fmt::format("\"{}\" is not a test; \"kelpower list\" names them.", word));
+  if (!nearest.empty()) throw UsageError(fmt::format("\"{}\" is not a test; did you mean {}?", word, nearest));
+  throw UsageError(fmt::format("\"{}\" is not a test; \"kelpower list\" names them.", word));
 }
 
 void ReadTest(const CLI::App& command, Request& request) {
-  request.given = GivenOf(command, *request.test);
+  request.values = ValuesOf(command, *request.test);
   const std::string* chart = TextOf(command, "chart");
   if (!chart) return RejectRangeOptions(command);
   request.command = Command::Chart;
   request.chart = ChartOf(command, *chart);
   if (const std::string* output = TextOf(command, "output")) {
-    if (output->empty()) throw InputError("--output is empty, but must name a file.");
+    if (output->empty()) throw UsageError("--output is empty, but must name a file.");
     request.output = *output;
   }
 }
@@ -149,7 +152,7 @@ Request RequestOf(const CLI::App& app) {
   Request request;
   if (app.get_subcommands().empty()) {
     if (!app.remaining().empty()) RejectCommand(app.remaining().front());
-    if (!version && !FlagOf(app, "help")) throw InputError("No test is named; \"kelpower --help\" says how.");
+    if (!version && !FlagOf(app, "help")) throw UsageError("No test is named; \"kelpower --help\" says how.");
     request.command = version ? Command::Version : Command::Overview;
     return request;
   }
@@ -182,9 +185,9 @@ Request ParseArguments(int argc, const char* const* argv) {
     app.parse(argc, argv);
   } catch (const CLI::ArgumentMismatch&) {
     // Every option takes one value, so only the last argument can be left without.
-    throw InputError(fmt::format("{} is given without a value.", argv[argc - 1]));
+    throw UsageError(fmt::format("{} is given without a value.", argv[argc - 1]));
   } catch (const CLI::ParseError& error) {
-    throw InputError(error.what());
+    throw UsageError(error.what());
   }
   return RequestOf(app);
 }

@@ -1,8 +1,10 @@
-#pragma once
+#ifndef KELPOWER_CLI_ARGUMENTS_H
+#define KELPOWER_CLI_ARGUMENTS_H
 
-#include "planner/draw.h"
-#include "planner/inputs.h"
-#include "planner/test.h"
+#include <string>
+
+#include "model/chart.h"
+#include "model/test.h"
 
 enum class Command { Overview, Version, List, TestHelp, Solve, Chart };
 
@@ -13,10 +15,12 @@ struct Request {
   Command command = Command::Overview;
   Format format = Format::Text;
   const planner::Test* test = nullptr;  // of TestHelp, Solve and Chart
-  planner::Given given;                 // of Solve and Chart
+  planner::InputValues values;          // of Solve and Chart
   planner::ChartRequest chart;
   std::string output;  // the file of a chart; empty for the standard output
 };
 
-/// Reads the command line; throws a planner::InputError when it is wrong.
+/// Reads the command line; throws a UsageError or a planner::InputError when it is wrong.
 Request ParseArguments(int argc, const char* const* argv);
+
+#endif

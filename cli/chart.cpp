@@ -9,40 +9,42 @@
 
 #include "gnuplot.h"
 #include "interrupts.h"
-#include "planner/draw.h"
-#include "planner/error.h"
+#include "pictures/gnuplot.h"
+#include "solve/chart.h"
 #include "terminal.h"
+#include "usage_error.h"
+#include "words/render.h"
 
 namespace {
 
-using planner::Picture;
+using planner::ChartData;
 
 struct FileKind {
   std::string ending;
-  std::string (*content)(const Picture&);
+  std::string (*content)(const ChartData&);
 };
 
 constexpr const char* font = "DejaVu Sans";
 
-std::string Drawn(const Picture& picture, const std::string& terminal) {
-  return RunGnuplot(planner::RenderGnuplot(picture, {terminal, false}));
+std::string Drawn(const ChartData& chart, const std::string& terminal) {
+  return RunGnuplot(planner::GnuplotCommands(planner::FigureOf(chart), {terminal, false}));
 }
 
 const FileKind fileKinds[] = {
     {".svg",
-     [](const Picture& picture) {
-       return Drawn(picture, fmt::format("svg noenhanced size 800,560 font '{},14'", font));
+     [](const ChartData& chart) {
+       return Drawn(chart, fmt::format("svg noenhanced size 800,560 font '{},14'", font));
      }},
     {".png",
-     [](const Picture& picture) {
-       return Drawn(picture, fmt::format("pngcairo noenhanced size 1000,700 font '{},15'", font));
+     [](const ChartData& chart) {
+       return Drawn(chart, fmt::format("pngcairo noenhanced size 1000,700 font '{},15'", font));
      }},
     {".pdf",
-     [](const Picture& picture) {
-       return Drawn(picture, fmt::format("pdfcairo noenhanced size 18cm,12.6cm font '{},11'", font));
+     [](const ChartData& chart) {
+       return Drawn(chart, fmt::format("pdfcairo noenhanced size 18cm,12.6cm font '{},11'", font));
      }},
-    {".csv", planner::RenderCsv},
-    {".json", planner::RenderJson},
+    {".csv", [](const ChartData& chart) { return planner::RenderCsv(chart); }},
+    {".json", [](const ChartData& chart) { return planner::RenderJson(chart); }},
 };
 
 bool EndsWith(const std::string& text, const std::string& ending) {
@@ -53,7 +55,7 @@ const FileKind& KindOf(const std::string& name) {
   for (const FileKind& kind : fileKinds) {
     if (EndsWith(name, kind.ending)) return kind;
   }
-  throw planner::InputError(fmt::format("--output is \"{}\", but must end in .svg, .png, .pdf, .csv or .json.", name));
+  throw UsageError(fmt::format("--output is \"{}\", but must end in .svg, .png, .pdf, .csv or .json.", name));
 }
 
 void Write(const std::string& name, const std::string& content) {
@@ -65,27 +67,27 @@ void Write(const std::string& name, const std::string& content) {
   if (!written || !closed) throw std::runtime_error(fmt::format("\"{}\" cannot be written whole.", name));
 }
 
-std::string InCharacters(const Picture& picture) {
+std::string InCharacters(const ChartData& chart) {
   const TerminalSize size = SizeOf(stdout);
-  return RunGnuplot(
-      planner::RenderGnuplot(picture, {fmt::format("dumb {} {} noenhanced", size.columns, size.lines), true}));
+  const std::string terminal = fmt::format("dumb {} {} noenhanced", size.columns, size.lines);
+  return RunGnuplot(planner::GnuplotCommands(planner::FigureOf(chart), {terminal, true}));
 }
 
-std::string Printed(const Picture& picture, Format format) {
-  if (format == Format::Csv) return planner::RenderCsv(picture);
-  if (format == Format::Json) return planner::RenderJson(picture);
-  return InCharacters(picture);
+std::string Printed(const ChartData& chart, Format format) {
+  if (format == Format::Csv) return planner::RenderCsv(chart);
+  if (format == Format::Json) return planner::RenderJson(chart);
+  return InCharacters(chart);
 }
 
 }  // namespace
 
 std::string ChartAnswer(const Request& request) {
   if (request.format == Format::Markdown) {
-    throw planner::InputError("--format of a chart must be text, json or csv.");
+    throw UsageError("--format of a chart must be text, json or csv.");
   }
   const FileKind* kind = request.output.empty() ? nullptr : &KindOf(request.output);
-  const Picture picture = planner::Draw(*request.test, request.chart, request.given);
-  if (!kind) return Printed(picture, request.format);
-  Write(request.output, kind->content(picture));
+  const ChartData chart = planner::ComputeChart(*request.test, request.chart, request.values);
+  if (!kind) return Printed(chart, request.format);
+  Write(request.output, kind->content(chart));
   return "";
 }

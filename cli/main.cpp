@@ -7,16 +7,18 @@
 #include "arguments.h"
 #include "chart.h"
 #include "computation.h"
-#include "planner/error.h"
-#include "planner/render.h"
-#include "planner/solve.h"
+#include "help.h"
+#include "solve/solve.h"
 #include "terminal.h"
+#include "usage_error.h"
+#include "words/problem.h"
+#include "words/render.h"
 
 namespace {
 
 enum Status { done = 0, failed = 1, wrongInput = 2, noSolution = 3, interrupted = 130 };
 
-std::string Overview(const planner::Paint& paint) {
+std::string Overview(const planner::Highlights& highlights) {
   return fmt::format(
       "{0}kelpower{1} plans studies: power, sample size and precision of statistical tests.\n\n"
       "  kelpower TEST [options]   what you leave out is what is solved for\n"
@@ -25,12 +27,12 @@ std::string Overview(const planner::Paint& paint) {
       "  kelpower list             the tests; with --format json their descriptions\n"
       "  kelpower --version\n\n"
       "{0}Tests{1}\n{2}",
-      paint.heading, paint.end, planner::RenderList(paint));
+      highlights.heading, highlights.end, ListOfTests(highlights));
 }
 
-std::string Rendered(const planner::Report& report, Format format, const planner::Paint& paint) {
+std::string Rendered(const planner::Report& report, Format format, const planner::Highlights& highlights) {
   switch (format) {
-    case Format::Text: return planner::RenderText(report, paint);
+    case Format::Text: return planner::RenderText(report, highlights);
     case Format::Json: return planner::RenderJson(report);
     case Format::Csv: return planner::RenderCsv(report);
     case Format::Markdown: return planner::RenderMarkdown(report);
@@ -38,25 +40,25 @@ std::string Rendered(const planner::Report& report, Format format, const planner
   return "";
 }
 
-std::string List(Format format, const planner::Paint& paint) {
-  if (format == Format::Text) return planner::RenderList(paint);
+std::string List(Format format, const planner::Highlights& highlights) {
+  if (format == Format::Text) return ListOfTests(highlights);
   if (format == Format::Json) return planner::RenderListJson();
-  throw planner::InputError("--format of list must be text or json.");
+  throw UsageError("--format of list must be text or json.");
 }
 
 planner::Report Solved(const Request& request) {
-  const bool findsSizes = request.given.count("power") + request.given.count("half-width") > 0;
+  const bool findsSizes = request.values.count("power") + request.values.count("half-width") > 0;
   Computation computation(findsSizes ? "the sample size" : "the answer");
-  return planner::Solve(*request.test, request.given, &computation);
+  return planner::MakeReport(planner::Solve(*request.test, request.values, &computation));
 }
 
-std::string Answer(const Request& request, const planner::Paint& paint) {
+std::string Answer(const Request& request, const planner::Highlights& highlights) {
   switch (request.command) {
-    case Command::Overview: return Overview(paint);
+    case Command::Overview: return Overview(highlights);
     case Command::Version: return "kelpower " KELPOWER_VERSION "\n";
-    case Command::List: return List(request.format, paint);
-    case Command::TestHelp: return planner::RenderHelp(*request.test, paint);
-    case Command::Solve: return Rendered(Solved(request), request.format, paint);
+    case Command::List: return List(request.format, highlights);
+    case Command::TestHelp: return HelpOf(*request.test, highlights);
+    case Command::Solve: return Rendered(Solved(request), request.format, highlights);
     case Command::Chart: return ChartAnswer(request);
   }
   return "";
@@ -68,24 +70,29 @@ Status Print(const std::string& text) {
   return written ? done : failed;
 }
 
-Status Complain(const std::exception& error, Status status) {
-  std::fputs(fmt::format("kelpower: {}\n", error.what()).c_str(), stderr);
+Status Complain(const std::string& sentence, Status status) {
+  std::fputs(fmt::format("kelpower: {}\n", sentence).c_str(), stderr);
   return status;
 }
+
+/// The problem in the names of the options.
+std::string SentenceOf(const planner::Failure& failure) { return planner::Sentence(failure.problem, OptionOf); }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   PrepareStandardStreams();
   try {
-    return Print(Answer(ParseArguments(argc, argv), PaintFor(stdout)));
+    return Print(Answer(ParseArguments(argc, argv), HighlightsFor(stdout)));
+  } catch (const UsageError& error) {
+    return Complain(error.what(), wrongInput);
   } catch (const planner::InputError& error) {
-    return Complain(error, wrongInput);
+    return Complain(SentenceOf(error), wrongInput);
   } catch (const planner::NoSolution& error) {
-    return Complain(error, noSolution);
+    return Complain(SentenceOf(error), noSolution);
   } catch (const planner::Stopped& error) {
-    return Complain(error, interrupted);
+    return Complain(SentenceOf(error), interrupted);
   } catch (const std::exception& error) {
-    return Complain(error, failed);
+    return Complain(error.what(), failed);
   }
 }

@@ -13,7 +13,7 @@ std::string_view Environment(const char* name) {
 
 }  // namespace
 
-planner::Paint PaintFor(std::FILE* stream) {
+planner::Highlights HighlightsFor(std::FILE* stream) {
   if (!IsTerminal(stream)) return {};
   if (!Environment("NO_COLOR").empty()) return {};
   if (Environment("TERM") == "dumb") return {};

@@ -1,11 +1,12 @@
-#pragma once
+#ifndef KELPOWER_CLI_TERMINAL_H
+#define KELPOWER_CLI_TERMINAL_H
 
 #include <cstdio>
 
-#include "planner/render.h"
+#include "words/render.h"
 
 /// Colours when `stream` is a terminal that shows them and NO_COLOR is not set, else none.
-planner::Paint PaintFor(std::FILE* stream);
+planner::Highlights HighlightsFor(std::FILE* stream);
 
 struct TerminalSize {
   int columns;
@@ -28,3 +29,5 @@ bool ShowsColors(std::FILE* stream);
 
 /// The columns and lines that the terminal of `stream` shows, 0 where they are not known.
 TerminalSize WindowOf(std::FILE* stream);
+
+#endif

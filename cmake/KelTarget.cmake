@@ -29,28 +29,64 @@ function(kel_compile_options target)
   endif()
 endfunction()
 
-# Makes the library `name` from SOURCES. Of a shared one only the names in the file EXPORTS are visible: one a line, a C
-# name or a demangled C++ signature. Blank lines and lines that start with # are skipped. The objects stand alone as
-# `<name>_objects`, so that tests reach the internal routines which the library hides.
+# Reads the headers once for all sources of a target. A compiler cache goes without: it would miss at each change of one.
+function(kel_precompile target)
+  if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()
+
+# kel_add_headers(name LIBRARIES library... HEADERS header...)
+# Reads the headers once for all targets that take them with kel_use_headers. These must be compiled as the libraries say,
+# and with C++17.
+function(kel_add_headers name)
+  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "LIBRARIES;HEADERS")
+  file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp CONTENT "// Holds precompiled headers.\n")
+  add_library(${name} OBJECT EXCLUDE_FROM_ALL ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+  kel_compile_options(${name})
+  target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES})
+  kel_precompile(${name} ${ARG_HEADERS})
+endfunction()
+
+function(kel_use_headers target name)
+  if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    target_precompile_headers(${target} REUSE_FROM ${name})
+  endif()
+endfunction()
+
+# Makes the library `name` from SOURCES and the CORE under them. Of a shared one only the names in the file EXPORTS are visible: one a line, a C
+# name or a demangled C++ signature. Blank lines and lines that start with # are skipped. The objects of SOURCES stand
+# alone as `<name>_objects`, so that tests reach the internal routines which the library hides. The core is the static
+# library `<name>_core`, for programs of this project that go by it rather than by what is exported.
 function(kel_library name)
-  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "EXPORTS" "SOURCES")
+  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "EXPORTS" "SOURCES;CORE")
 
   add_library(${name}_objects OBJECT ${ARG_SOURCES})
-  set_target_properties(${name}_objects PROPERTIES
-    POSITION_INDEPENDENT_CODE ON
-    CXX_VISIBILITY_PRESET hidden
-    VISIBILITY_INLINES_HIDDEN ON)
-  kel_compile_options(${name}_objects)
+  set(parts ${name}_objects)
+  if(ARG_CORE)
+    add_library(${name}_core STATIC ${ARG_CORE})
+    target_link_libraries(${name}_objects PUBLIC ${name}_core)
+    list(APPEND parts ${name}_core)
+  endif()
+  set(objects "")
+  foreach(part IN LISTS parts)
+    set_target_properties(${part} PROPERTIES
+      POSITION_INDEPENDENT_CODE ON
+      CXX_VISIBILITY_PRESET hidden
+      VISIBILITY_INLINES_HIDDEN ON)
+    kel_compile_options(${part})
+    list(APPEND objects $<TARGET_OBJECTS:${part}>)
+  endforeach()
 
   if(KELPOWER_BUILD_SHARED)
-    add_library(${name} SHARED $<TARGET_OBJECTS:${name}_objects>)
+    add_library(${name} SHARED ${objects})
     kel_export_only(${name} ${ARG_EXPORTS})
     # The sanitizers' runtime is in the program and not in its libraries.
     if(NOT KELPOWER_SANITIZE AND NOT APPLE)
       target_link_options(${name} PRIVATE -Wl,--no-undefined)
     endif()
   else()
-    add_library(${name} STATIC $<TARGET_OBJECTS:${name}_objects>)
+    add_library(${name} STATIC ${objects})
   endif()
   add_library(kelpower::${name} ALIAS ${name})
   kel_compile_options(${name})

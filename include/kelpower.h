@@ -13,9 +13,12 @@
 /// Recurring terms:
 /// - *missing*: the system-missing value, the most negative finite double.
 /// - *flag*: an int or a byte in which 0 means no and every other value yes, unless stated otherwise.
-/// - Checks reject what lies outside a range and nothing else, so a NaN argument passes them. The result is then
-///   NaN, except that a NaN standard deviation of a contrast counts as 0 (power 1), and that exact tests of proportions
-///   give what comparing counts with NaN comes to: -2, 0, 1 or 2.
+/// - Checks reject what lies outside a range and nothing else, so a NaN argument passes them. The result is then NaN,
+///   with three exceptions. A NaN standard deviation of a contrast counts as 0 (power 1). Exact tests of proportions
+///   give what comparing counts with NaN comes to: -2, 0, 1 or 2. A sample-size function gives the lower end of its
+///   search.
+/// - A search for a sample size doubles its upper end, at first 400 or so, until the bracket holds the size. A wanted
+///   power of exactly 1 is reached by the first upper end at which the computed power rounds to 1.
 
 #include <cstdint>
 #include <vector>
@@ -120,8 +123,8 @@ KELPOWER_API void FreeMemXYZPlot(XYZPlot* record);
 /// Total sample size: the sum of the group sizes, 0 when numGroups <= 0. Nothing is checked.
 KELPOWER_API double SampleSizeTotal(int numGroups, const double* groupSizes);
 
-/// Effect size f of a set of means: the root mean square of their deviations from the size-weighted grand mean, divided
-/// by numGroups - 1, in units of pooledSD. Missing for invalid input, alpha included.
+/// Root mean square of the standardised effects of the groups: of the deviations of the means from their size-weighted
+/// grand mean, with divisor numGroups - 1, in units of pooledSD. Missing for invalid input, alpha included.
 KELPOWER_API double RMSSEOverallTest(int numGroups, const double* groupMeans, double pooledSD, const double* groupSizes,
                                      double alpha);
 
@@ -182,7 +185,8 @@ KELPOWER_API double PowerReversebyHalfCISCTest(double halfWidth, int numGroups, 
                                                const double* contrastCoefficients, double pooledSD,
                                                DoubleVector& groupSizesOut, double alpha);
 
-/// Half-width of the confidence interval of a contrast. Nothing is checked. `groupSizes` are relative weights.
+/// Half-width of the confidence interval of a contrast at a total size. `groupSizes` are relative weights. Nothing is
+/// checked.
 KELPOWER_API double HalfCISCTest(double sampleSize, int numGroups, const double* groupSizes,
                                  const double* contrastCoefficients, double pooledSD, double alpha);
 
@@ -211,7 +215,7 @@ KELPOWER_API double PowerReversebyHalfCIPairwiseDiff(double halfWidth, int numGr
 KELPOWER_API double HalfCIPairwiseDiff(double sampleSize, int numGroups, const double* groupSizes, int firstGroup,
                                        int secondGroup, double pooledSD, int adjustment, double alpha);
 
-/// Power of the overall test against total size; `groupSizes` are relative weights away from their own sum.
+/// Power of the overall test against total size. At other totals than their own sum `groupSizes` are relative weights.
 KELPOWER_API XYPlot PlotNOverallTest(int numGroups, const double* groupMeans, double pooledSD, const double* groupSizes,
                                      int from, int to, double alpha);
 
@@ -223,7 +227,7 @@ KELPOWER_API XYPlot PlotNOverallTestFES(int numGroups, double effectSize, int is
 KELPOWER_API XYPlot PlotESOverallTest(int numGroups, int isEtaSquared, const double* groupSizes, double esFrom,
                                       double esTo, double alpha, double stepFraction);
 
-/// Power of the overall test against the standard deviation; pooledSD is only checked. Values in single precision.
+/// Power of the overall test against the standard deviation. Values in single precision. `pooledSD` is only checked.
 KELPOWER_API XYPlot PlotSDOverallTest(int numGroups, const double* groupMeans, double pooledSD,
                                       const double* groupSizes, double sdFrom, double sdTo, double alpha,
                                       double stepFraction);
@@ -275,18 +279,18 @@ KELPOWER_API XYZPlot PlotNaSDSC(int numGroups, const double* groupMeans, double 
 /// \param correlation between the paired measurements: from -1 to 1, not 0, and below 1 for the one-sided test
 /// \param effectSize standardised effect d, a difference of means in standard deviations; any sign; not checked
 /// \param alpha significance level, above 0 and below 1; of a half-width: 1 minus the confidence level
-/// \param power wanted power; not checked. One that no size reaches (no effect, 1 or above) gives missing
+/// \param power wanted power; not checked. Above 1, or without an effect, no size reaches it, which gives missing
 /// \param halfWidth wanted half-width of the two-sided confidence interval; not checked
-/// \param results receives both group sizes at its end, the size of group 1 first; two missing values where no size
-///   is found. n1 is rounded up, n2 is the ratio times the unrounded n1, rounded up and at least 2
+/// \param results receives both group sizes at its end, the size of group 1 first. n1 is rounded up. n2 is the ratio
+///   times the unrounded n1, rounded up and at least 2. Where no size is found, both are missing
 /// \param directional flag: one-sided, not two-sided
 /// \param minSampleSize,maxSampleSize ends of the sample-size axis: 2 or above, and ascending
 /// \param minEffectSize,maxEffectSize ends of the effect-size axis. Of a two-sided chart: 0 or above, where a
 ///   minEffectSize of -5 stands for 0
 /// \param minRatio,maxRatio ends of the axis of ratios; a 0 in either asks for m = 0.8 (totalSize - 2) and 1 / m
-/// \param minMeanDifference,maxMeanDifference ends of the axis of raw differences mean1 - mean2; two zeros, or ends
-/// that
-///   do not ascend, ask for 5 times the difference of the means to either side of 0 (without a difference for 100)
+/// \param minMeanDifference,maxMeanDifference ends of the axis of raw differences mean1 - mean2. Two zeros, or
+///   ends that do not ascend, ask for 5 times the difference of the means to either side of 0, or for 100 without a
+///   difference
 /// \param stepFraction step of an axis as a fraction of its range, above 0
 /// \param ignored not used
 //
@@ -300,7 +304,7 @@ KELPOWER_API XYZPlot PlotNaSDSC(int numGroups, const double* groupMeans, double 
 /// Effect size (mean - testValue) / sd. Missing when sd is 0; a negative sd is accepted.
 KELPOWER_API double EffectSizeOneSample(double mean, double sd, double testValue);
 
-/// Power of the two-sided one-sample test. Only sampleSize is checked, alpha is not.
+/// Power of the two-sided one-sample test. Only sampleSize is checked.
 KELPOWER_API double PowerOneSampleNondirectionalES(double sampleSize, double effectSize, double alpha);
 
 /// The same for a given mean.
@@ -455,7 +459,7 @@ KELPOWER_API void PowerReversebyHalfCIIndependentMeans(double halfWidth, double 
                                                        DoubleVector& results, double alpha);
 
 /// Power of the test of two groups against the ratio of their sizes: pooled when sd1 and sd2 are equal, else in the
-/// form of Welch. The ratios must leave more than one observation in either group, as nearly as their ends tell:
+/// form of Welch. The ends of the ratios must leave about one observation in either group:
 /// 1 / (totalSize - 1) < minRatio and maxRatio < totalSize - 1. A value outside [0, 1] repeats its left neighbour; the
 /// first point keeps its own.
 KELPOWER_API XYPlot PlotRatioIndependent(double totalSize, double mean1, double sd1, double mean2, double sd2,
@@ -470,8 +474,8 @@ KELPOWER_API XYPlot PlotRatioIndependentFES(double totalSize, double effectSize,
 KELPOWER_API XYPlot PlotESIndepended(double sampleSize1, double sampleSize2, double minEffectSize, double maxEffectSize,
                                      int directional, double alpha, double stepFraction);
 
-/// Power of the test of two groups against the raw difference of means; always in the form of Welch. The means only
-/// serve the automatic range.
+/// Power of the test of two groups against the raw difference of means, always in the form of Welch. The means set the
+/// automatic range and nothing else.
 /// \param step distance of the points, in the unit of the means, above 0
 KELPOWER_API XYPlot PlotMeanDiffIndepended(double sampleSize1, double mean1, double sd1, double sampleSize2,
                                            double mean2, double sd2, double minMeanDifference, double maxMeanDifference,
@@ -484,8 +488,8 @@ KELPOWER_API XYZPlot PlotRatioaESIndependent(double totalSize, double minRatio, 
                                              double maxEffectSize, int directional, double alpha, double stepFraction);
 
 /// Power of the test in the form of Welch over the ratio of sizes (x) and the raw difference of means (y), whose step
-/// is twice stepFraction of its range. Values outside [0, 1] as in `PlotRatioaESIndependent`. The means only serve the
-/// automatic range.
+/// is twice stepFraction of its range. Values outside [0, 1] as in `PlotRatioaESIndependent`. The means set the
+/// automatic range and nothing else.
 KELPOWER_API XYZPlot PlotRatioaMeanDiffIndependent(double totalSize, double mean1, double sd1, double mean2, double sd2,
                                                    double minRatio, double maxRatio, double minMeanDifference,
                                                    double maxMeanDifference, int directional, double alpha,
@@ -525,9 +529,10 @@ KELPOWER_API double PowerOneSampBinom(double sampleSize, double altProportion, d
                                       int oneSided, double alpha, std::uint8_t continuityCorrection,
                                       StopRequest* cancel);
 
-/// Sample size at which the test reaches a power: not rounded for the normal approximation; for the exact test the
-/// smallest whole one that its search finds, which larger ones can miss, because that power is not monotone. The power
-/// functions accept equal proportions; here they are invalid, as any within 1e-14. Missing when no size has the power.
+/// Sample size at which the test reaches a power. For the normal approximation it is not rounded. For the exact test it
+/// is the smallest whole one that the search finds. Smaller ones can reach the power and larger ones miss it, because
+/// the power of an exact test is a sawtooth. Proportions within 1e-14 of each other are invalid here, while the power
+/// function accepts equal ones. Missing when no size has the power.
 KELPOWER_API double PowerReverseOneSampBinom(double power, double altProportion, double nullProportion, int method,
                                              int oneSided, double alpha, std::uint8_t continuityCorrection,
                                              StopRequest* cancel);
@@ -626,8 +631,8 @@ KELPOWER_API double PowerbyMargPRelSampBionm(double sampleSize, double marginal1
 KELPOWER_API double PowerbyMargCRelSampBionm(double sampleSize, double marginalCount1, double marginalCount2,
                                              double correlation, int oneSided, int exact, double alpha);
 
-/// Number of pairs at which the test reaches a power: not rounded for the large-sample test, the smallest whole one
-/// that the search finds for the exact test. Nothing is checked; missing when no size has the power.
+/// Number of pairs at which the test reaches a power. For the large-sample test it is not rounded. For the exact test
+/// it is the smallest whole one that the search finds. Nothing is checked. Missing when no size has the power.
 KELPOWER_API double PowerReversebyPRelSampBionm(double power, double discordant12, double discordant21, int oneSided,
                                                 int exact, double alpha, StopRequest* cancel);
 
@@ -653,13 +658,13 @@ KELPOWER_API XYPlot PlotNRelSampBionm(double sampleSize, double discordant12, do
 KELPOWER_API XYPlot PlotRiskDiffRelSampBionm(double sampleSize, double discordant12, int oneSided, int exact,
                                              double alpha, double step);
 
-/// Power against the ratio p12 / p21. Up to p12 = 0.5 it moves p21 and the lowest ratio is p12 / (1 - p12); above, it
-/// moves p12 and the highest is (1 - p21) / p21. No ratio is below 0.1 or above 10.
+/// Power against the ratio p12 / p21. Up to p12 = 0.5 the ratio varies p21 and is at least p12 / (1 - p12). Above, it
+/// varies p12 and is at most (1 - p21) / p21. Given ends lie between 0.1 and 10.
 KELPOWER_API XYPlot PlotRiskRatioRelSampBionm(double sampleSize, double discordant12, double discordant21,
                                               double minRatio, double maxRatio, int oneSided, int exact, double alpha,
                                               double step);
 
-/// Power against the odds ratio of p12 to p21, which moves p21. It starts no lower than the square of the odds of p12
+/// Power against the odds ratio of p12 to p21, which varies p21. It starts no lower than the square of the odds of p12
 /// and ends at most 10 above that.
 KELPOWER_API XYPlot PlotOddsRatioRelSampBionm(double sampleSize, double discordant12, double minRatio, double maxRatio,
                                               int oneSided, int exact, double alpha, double step);
@@ -702,13 +707,14 @@ KELPOWER_API XYZPlot PlotMargPropRelSampBionm(double sampleSize, double correlat
 ///        combined score intervals
 /// \param step step of an axis, as stated with each chart; above 0, at most 0.5
 //
-// An invalid design has power -1, an error of the binomial distribution inside an exact test -2, a cancelled
-// computation missing. Checks let NaN through: in an exact test a NaN size or level then rejects no table, power 0.
-// Exact tests of groups above 2^31 - 1 are missing. Charts store single precision; invalid input gives an empty one.
+// The power of an invalid design is -1. It is -2 where a binomial distribution inside an exact test reports an error,
+// and missing where the computation is cancelled or an exact test has a group above 2^31 - 1. Checks let NaN through:
+// in an exact test a NaN size or level rejects no table, so the power is 0. Invalid input gives an empty chart. Charts
+// store single precision.
 // Methods and sources: docs/proportions-independent.md.
 
-/// Power of a test of p1 = p2. The t test needs N1 + N2 > 2, the large-sample arcsine test at least half a subject in
-/// the rarer outcome of either group.
+/// Power of a test of p1 = p2. The t test needs N1 + N2 > 2. The large-sample arcsine test needs half a subject or more
+/// in the outcome of either group that its correction makes rarer.
 ///
 /// Exact z, t and likelihood-ratio tests take time in proportion to N1 + N2 (with `cancel`, to the N1 N2 questions it
 /// is asked), the conditional test to N1 N2.
@@ -720,11 +726,11 @@ KELPOWER_API double PowerIndSampBinom(double sampleSize1, double sampleSize2, do
 
 /// Group sizes at which a test reaches a power: N1 rounded up, N2 = sizeRatio N1 rounded up, both at least 1.
 ///
-/// With `exact` = 1 whole sizes whose exact power reaches the wanted one, with N2 rounded to the nearest; the search of
-/// method 3 ends by the z test and that of method 4 starts by it. Both sizes are missing when the power cannot be
-/// reached and when `cancel` answers true. An unreachable power makes an exact search go on to groups of 2^31: at once
-/// for methods 0 to 2, but without practical end for the conditional test, and for every method with a `cancel` that
-/// never answers true.
+/// With `exact` = 1 the sizes are whole ones whose exact power reaches the wanted one, with N2 rounded to the nearest.
+/// The search of method 3 ends by the z test, that of method 4 starts by it. Both sizes are missing when the power
+/// cannot be reached and when `cancel` answers true. An unreachable power makes an exact search go on to groups of
+/// 2^31. For methods 0 to 2 without `cancel` that takes no time. For the conditional test, and with a `cancel` that
+/// never answers true, it has no practical end.
 /// \param sampleSizes must be empty, else nothing is done
 KELPOWER_API void PowerReverseIndSampBinom(double power, double proportion1, double proportion2,
                                            DoubleVector& sampleSizes, double sizeRatio, int exact, int method,
@@ -749,7 +755,7 @@ KELPOWER_API void PowerReversebyHalfCIIndSampBinom(double halfWidth, double prop
 ///
 /// The large-sample arcsine test takes ends of 0, 2 and 2500 for automatic: from where it is valid to the planned size
 /// beyond that. Other tests take ends as they are.
-/// \param minSampleSize1,maxSampleSize1 ends of the N1 axis; the lower is not below 0 and not 1 but for arcsine
+/// \param minSampleSize1,maxSampleSize1 ends of the N1 axis. But for arcsine the lower one is at least 0 and not 1
 /// \param minSampleSize2,maxSampleSize2 ends of the N2 axis, likewise
 KELPOWER_API XYZPlot PlotNIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, double proportion2,
                                        int exact, int method, int oneSided, double alpha,
@@ -796,7 +802,7 @@ KELPOWER_API XYPlot PlotOddsRatioIndSampBinom(double sampleSize1, double sampleS
 // The test of one correlation against a null value, on the scale of Fisher's z = atanh(r) with its normal
 // approximation. Arguments shared by this section:
 /// \param sampleSize N, number of cases, whole numbers not required: above 3; for a Spearman power from 3 on; for a
-///        partial correlation above 3 + `partialledOut`. On charts with an axis of sizes it is checked, and serves an
+///        partial correlation above 3 + `partialledOut`. On charts with an axis of sizes it is checked, and centres the
 ///        automatic range if there is one
 /// \param partialledOut k, number of variables partialled out, at least 0; whole numbers are not required
 /// \param alternativeCorrelation correlation under the alternative, in [-1, 1]
@@ -804,19 +810,16 @@ KELPOWER_API XYPlot PlotOddsRatioIndSampBinom(double sampleSize1, double sampleS
 /// \param correlation expected sample correlation, the centre of an interval, in (-1, 1); not checked
 /// \param oneSided flag: one-sided test, towards the alternative; downwards where it equals the null
 /// \param adjustBias flag: mean and variance of z to the second order. Power, half-width and charts take only 1 for
-/// yes,
-///        the searches every value but 0; that is intended
+///        yes, the searches every value but 0; that is intended
 /// \param varianceMethod variance of z of a rank correlation: 0 Bonett and Wright, 1 Fieller, Hartley and Pearson,
 ///        2 Caruso and Cliff; any other gives power -1 and half-width 0
-/// \param alpha significance level, in (0, 1), one below 5.6e-17 being rejected; of a half-width: 1 minus the
-/// confidence
+/// \param alpha significance level, in (0, 1); one below 5.6e-17 is rejected. Of a half-width: 1 minus the confidence
 ///        level, not checked
 /// \param power wanted power; not checked
 /// \param halfWidth wanted half-width of the confidence interval, on the scale of correlations; not checked
 /// \param stop asked between the steps of a search; may be null
 /// \param sampleSizeFrom,sampleSizeTo ends of the sample-size axis, which differ: from 4 to 5000, both plus
-/// `partialledOut`;
-///        each chart says what a start at 0 does
+///        `partialledOut`; each chart says what a start at 0 does
 /// \param step distance of the points on an axis of correlations or differences, above 0 and at most 0.5
 //
 // Powers for invalid input are -1, charts empty, sizes missing. Chart values are stored in single precision; the axis
@@ -931,8 +934,8 @@ KELPOWER_API XYZPlot PlotNRiskDiffOneSampSpearman(double sampleSize, double alte
                                                   double nullCorrelation, int varianceMethod, int oneSided,
                                                   double alpha, int sampleSizeFrom, int sampleSizeTo, double step);
 
-/// Spearman: power over the sample size and the null correlation; a start at 0 stands for max(4, (1 - P) N) to (2 -
-/// P) N, where P is the power at N = `sampleSize`.
+/// Spearman: power over the sample size and the null correlation. A start at 0 stands for max(4, (1 - P) N) to
+/// (2 - P) N, where P is the power at N = `sampleSize`.
 KELPOWER_API XYZPlot PlotNNullOneSampSpearman(double sampleSize, double alternativeCorrelation, double nullCorrelation,
                                               int varianceMethod, int oneSided, double alpha, int sampleSizeFrom,
                                               int sampleSizeTo, double step);
@@ -970,8 +973,8 @@ KELPOWER_API XYZPlot PlotNRiskDiffOneSampPartial(double sampleSize, double parti
                                                  double nullCorrelation, int oneSided, double alpha, int sampleSizeFrom,
                                                  int sampleSizeTo, double step);
 
-/// Partial correlation: power over the sample size and the null correlation; a start at 0 stands for k + 4 to k +
-/// 5000.
+/// Partial correlation: power over the sample size and the null correlation; a start at 0 stands for k + 4 to
+/// k + 5000.
 KELPOWER_API XYZPlot PlotNNullOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
                                              double nullCorrelation, int oneSided, double alpha, int sampleSizeFrom,
                                              int sampleSizeTo, double step);
@@ -997,15 +1000,15 @@ KELPOWER_API XYPlot PlotNPartialoutOneSampPartial(double sampleSize, double alte
 // The F test that some predictors add nothing: all of them, or those beyond a reduced model. Arguments shared by this
 // section:
 /// \param sampleSize N, number of cases, at least p + 1, or p + 2 with an intercept; whole numbers are not required.
-///        On surfaces it serves the automatic range, and is checked in any case
+///        On surfaces it is checked, and centres the automatic range
 /// \param predictors p, number of predictors of the full model, at least 1
 /// \param testedPredictors q, number of predictors tested, from 1 to p
 /// \param fullModelFit,reducedRSquared where `reducedRSquared` is 0, there is no reduced model and `fullModelFit` is
-/// the
-///        multiple correlation R, in (-1, 1); otherwise both are R squared, in (0, 1), the reduced one not the larger
+///        the multiple correlation R, in (-1, 1). Otherwise both are R squared, in (0, 1), the reduced one not the
+///        larger
 /// \param effectSize f^2, the variance explained by the tested predictors over the unexplained one; not checked. One
 ///        below 0 gives power 1 with fixed predictors and NaN with random ones
-/// \param randomPredictors 0: predictors fixed by design, noncentral F with noncentrality N f^2; otherwise:
+/// \param randomPredictors 0: predictors fixed by design, noncentral F with noncentrality N f^2. Otherwise:
 /// multivariate
 ///        normal predictors, exact distribution of the squared multiple correlation. Charts are drawn more coarsely
 ///        when it is exactly 1, and not at other values, which is intended

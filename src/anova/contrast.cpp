@@ -1,101 +1,117 @@
+#include "anova/contrast.h"
+
+#include <algorithm>
 #include <cmath>
+#include <cstddef>
 
-#include "anova/contrast_power.h"
-#include "anova/group_sizes.h"
+#include "anova/sizes.h"
 #include "frame/checks.h"
-#include "frame/rejection.h"
-#include "kelcommon/kel_mv.h"
-#include "kelpower.h"
+#include "frame/scale.h"
 
-using namespace kelpower;
-using KelCommon::KelMV;
+namespace kelpower::anova {
 
 namespace {
 
-/// Makes the coefficients sum to zero by their last one. False when that one then lies outside [-1, 1].
-bool RepairCoefficients(int numGroups, double* coefficients) {
-  double sumOfOthers = 0;
-  for (int i = 0; i < numGroups - 1; ++i) sumOfOthers += coefficients[i];
-  double& last = coefficients[numGroups - 1];
-  if (!(std::fabs(sumOfOthers + last) >= 1e-14)) return true;
-  last = -sumOfOthers;
-  return !(last > 1 || last < -1);
+double ScaledVariance(PerGroup coefficients, PerGroup sizes, double scale) {
+  double variance = 0;
+  for (int i = 0; i < coefficients.Count(); ++i) {
+    const double coefficient = coefficients[i] / scale;
+    variance += coefficient * coefficient / sizes[i];
+  }
+  return variance;
+}
+
+double LargestMagnitude(PerGroup values) {
+  double largest = 0;
+  for (const double value : values) largest = std::max(largest, std::fabs(value));
+  return largest;
 }
 
 }  // namespace
 
-// The repair comes before the check of the standard deviation, deliberately.
-extern "C" double EffectSizeSC(int numGroups, const double* groupMeans, double pooledSD, double* contrastCoefficients) {
-  if (numGroups > 0 && !RepairCoefficients(numGroups, contrastCoefficients)) return KelMV::Missing();
-  return StandardisedContrast(ContrastValue(numGroups, groupMeans, contrastCoefficients), pooledSD);
+double ContrastValue(PerGroup coefficients, PerGroup means) {
+  double value = 0;
+  for (int i = 0; i < coefficients.Count(); ++i) value += coefficients[i] * means[i];
+  return value;
 }
 
-extern "C" double PowerSC(int numGroups, const double* groupMeans, double pooledSD, const double* groupSizes,
-                          double* contrastCoefficients, int isDirectional, double alpha) {
-  if (RejectsStandardDeviation(pooledSD)) return KelMV::Missing();
-  const double totalSize = SampleSizeTotal(numGroups, groupSizes);
-  const ContrastTest test(numGroups, totalSize, isDirectional != 0, alpha);
-  if (!test.IsValid()) return KelMV::Missing();
+double ContrastVariance(PerGroup coefficients, PerGroup sizes) { return ScaledVariance(coefficients, sizes, 1); }
 
-  const double effectSize = EffectSizeSC(numGroups, groupMeans, pooledSD, contrastCoefficients);
-  const double variance = ContrastVariance(numGroups, contrastCoefficients, groupSizes);
-  return test.Power(ContrastNoncentrality(effectSize, 1, variance));
+WeightedContrast::WeightedContrast(PerGroup coefficients, PerGroup weights)
+    : scale_(BinaryScale(LargestMagnitude(coefficients))),
+      scaledVariance_(ScaledVariance(coefficients, weights, scale_)),
+      sumOfWeights_(Sum(weights)) {}
+
+double WeightedContrast::Noncentrality(double effectSize, double relativeSize) const {
+  const double effect = effectSize / scale_;
+  const double explained = relativeSize * effect * effect;
+  if (std::isinf(scaledVariance_) && !std::isnan(explained)) return 0;
+  return explained / scaledVariance_;
 }
 
-extern "C" double PowerSCwES(int numGroups, double effectSize, const double* groupSizes,
-                             const double* contrastCoefficients, int isDirectional, double alpha) {
-  const double variance = ContrastVariance(numGroups, contrastCoefficients, groupSizes);
-  const double totalSize = SampleSizeTotal(numGroups, groupSizes);
-  return ContrastTest(numGroups, totalSize, isDirectional != 0, alpha)
-      .Power(ContrastNoncentrality(effectSize, 1, variance));
+std::vector<double> PairContrast(int numGroups, int firstGroup, int secondGroup) {
+  const auto size = static_cast<std::size_t>(numGroups > 0 ? numGroups : 0);
+  std::vector<double> contrast(size, 0.0);
+  if (firstGroup >= 1 && firstGroup <= numGroups) contrast[static_cast<std::size_t>(firstGroup) - 1] = 1.0;
+  if (secondGroup >= 1 && secondGroup <= numGroups) contrast[static_cast<std::size_t>(secondGroup) - 1] = -1.0;
+  return contrast;
 }
 
-extern "C" double PowerReverseSC(int numGroups, const double* groupMeans, double pooledSD, const double* groupRatios,
-                                 double* contrastCoefficients, double power, DoubleVector& groupSizesOut,
-                                 int isDirectional, double alpha) {
-  if (numGroups <= 1) return KelMV::Missing();
-  if (RejectsStandardDeviation(pooledSD)) return KelMV::Missing();
-  if (RejectsAlpha(alpha)) return KelMV::Missing();
-
-  ResizeToMissing(groupSizesOut, numGroups);
-  DoubleVector coefficients(contrastCoefficients, contrastCoefficients + numGroups);  // the caller's are not repaired
-  const double effectSize = EffectSizeSC(numGroups, groupMeans, pooledSD, coefficients.data());
-  const double total =
-      SolveContrastTotal(numGroups, effectSize, groupRatios, coefficients.data(), power, isDirectional != 0, alpha);
-  return StoreByShares(total, numGroups, groupRatios, groupSizesOut);
+double AdjustedAlpha(Adjustment adjustment, int numGroups, double alpha) {
+  const double k = numGroups;
+  switch (adjustment) {
+    case Adjustment::Bonferroni: return (alpha + alpha) / k / (k - 1);
+    case Adjustment::Sidak: return 1 - std::pow(1 - alpha, 2.0 / k / (k - 1));  // Sidak (1967)
+    case Adjustment::None: break;
+  }
+  return alpha;
 }
 
-extern "C" double PowerReverseSCwES(int numGroups, double effectSize, const double* groupRatios,
-                                    const double* contrastCoefficients, double power, DoubleVector& groupSizesOut,
-                                    int isDirectional, double alpha) {
-  if (numGroups <= 1) return KelMV::Missing();
-  if (RejectsAlpha(alpha)) return KelMV::Missing();
-
-  ResizeToMissing(groupSizesOut, numGroups);
-  const double total =
-      SolveContrastTotal(numGroups, effectSize, groupRatios, contrastCoefficients, power, isDirectional != 0, alpha);
-  return StoreByShares(total, numGroups, groupRatios, groupSizesOut);
+ContrastTest::ContrastTest(int numGroups, double totalSize, bool isOneSided, double alpha) {
+  if (numGroups <= 1) return;
+  if (numGroups > totalSize) return;
+  if (RejectsAlpha(alpha)) return;
+  const double df = totalSize - numGroups;
+  if (isOneSided)
+    tTest_ = TTest::OneSided(alpha, df);
+  else
+    fTest_ = FTest::AtLevel(alpha, 1, df);
 }
 
-extern "C" double PowerReversebyHalfCISCTest(double halfWidth, int numGroups, const double* groupRatios,
-                                             const double* contrastCoefficients, double pooledSD,
-                                             DoubleVector& groupSizesOut, double alpha) {
-  if (numGroups <= 1) return KelMV::Missing();
-  if (RejectsStandardDeviation(pooledSD)) return KelMV::Missing();
-  if (RejectsAlpha(alpha)) return KelMV::Missing();
-
-  ResizeToMissing(groupSizesOut, numGroups);
-  const double ratioSum = SampleSizeTotal(numGroups, groupRatios);
-  const double variance = ContrastVariance(numGroups, contrastCoefficients, groupRatios);
-  const double relativeWidth = halfWidth / pooledSD;
-  const double slope = relativeWidth * relativeWidth / ratioSum;
-  const double total = SolveTotalForHalfWidth(numGroups, slope, variance, alpha);
-  return StoreByRatios(total, numGroups, groupRatios, groupSizesOut);
+Answer ContrastTest::Power(double noncentrality) const {
+  if (tTest_) return tTest_->PowerUpperTail(std::sqrt(noncentrality));
+  if (fTest_) return fTest_->Power(noncentrality);
+  return NoValue::Refused;
 }
 
-extern "C" double HalfCISCTest(double sampleSize, int numGroups, const double* groupSizes,
-                               const double* contrastCoefficients, double pooledSD, double alpha) {
-  const double totalSize = SampleSizeTotal(numGroups, groupSizes);
-  const double variance = ContrastVariance(numGroups, contrastCoefficients, groupSizes);
-  return std::sqrt(variance * totalSize / sampleSize) * (IntervalQuantileT(alpha, sampleSize - numGroups) * pooledSD);
+Answer Power(const ContrastDesign& design, double totalSize) {
+  const WeightedContrast contrast(design.coefficients, design.weights);
+  return ContrastTest(design.coefficients.Count(), totalSize, design.isOneSided, design.alpha)
+      .Power(contrast.Noncentrality(design.effectSize, contrast.RelativeSize(totalSize)));
 }
+
+Answer TotalForPower(const ContrastDesign& design, double power) {
+  const int numGroups = design.coefficients.Count();
+  const WeightedContrast contrast(design.coefficients, SharesOf(design.weights));
+  const auto powerAt = [&](double total) {
+    return ContrastTest(numGroups, total, design.isOneSided, design.alpha)
+        .Power(contrast.Noncentrality(design.effectSize, contrast.RelativeSize(total)));
+  };
+  return TotalForPower(numGroups, powerAt, power);
+}
+
+double HalfWidth(const ContrastInterval& interval, double totalSize) {
+  const double variance = ContrastVariance(interval.coefficients, interval.weights);
+  const double df = totalSize - interval.coefficients.Count();
+  return std::sqrt(variance * Sum(interval.weights) / totalSize) *
+         (IntervalQuantileT(interval.alpha, df) * interval.sd);
+}
+
+Answer TotalForHalfWidth(const ContrastInterval& interval, double halfWidth) {
+  const double variance = ContrastVariance(interval.coefficients, interval.weights);
+  const double relativeWidth = halfWidth / interval.sd;
+  const double slope = relativeWidth * relativeWidth / Sum(interval.weights);
+  return TotalForHalfWidth(interval.coefficients.Count(), slope, variance, interval.alpha);
+}
+
+}  // namespace kelpower::anova

@@ -1,10 +1,8 @@
+#include "correlation/pearson.h"
+
 #include <cmath>
 
-#include "correlation/correlation.h"
-#include "frame/checks.h"
-#include "kelpower.h"
-
-using namespace kelpower;
+namespace kelpower::correlation {
 
 namespace {
 
@@ -13,12 +11,13 @@ struct SecondOrder {
   double shift;     ///< added to the difference of z
   double variance;  ///< factor of 1 / m
 
-  SecondOrder(double m, double alternative, double null);
+  SecondOrder(double m, const Hypotheses& hypotheses);
 };
 
 // Only the first order of the null correlation is subtracted from the bias; that is intended.
-SecondOrder::SecondOrder(double m, double alternative, double null) {
+SecondOrder::SecondOrder(double m, const Hypotheses& hypotheses) {
   const double u = 1 / m;  // powers of m would overflow
+  const auto& [alternative, null] = hypotheses;
   const double squared = alternative * alternative;
   const double fourth = squared * squared;
   const double series = 1 + (squared + 5) / 4 * u + (3 * fourth + 2 * squared + 11) / 8 * u * u;
@@ -27,84 +26,44 @@ SecondOrder::SecondOrder(double m, double alternative, double null) {
 }
 
 /// The correction of the interval's centre for bias, of the first order only.
-double IntervalBias(double sampleSize, double correlation) { return correlation / 2 / (sampleSize - 1); }
-
-double HalfWidth(double sampleSize, double partialledOut, double correlation, bool isCorrected, double quantile) {
-  const double bias = isCorrected ? IntervalBias(sampleSize, correlation) : 0;
-  return BackTransformedHalfWidth(std::atanh(correlation) - bias,
-                                  quantile * std::sqrt(1 / (sampleSize - 3 - partialledOut)));
-}
-
-/// The power functions apply the correction where the byte is 1, the searches where it is not 0; that is intended.
-bool IsExactlyOne(std::uint8_t adjustBias) { return adjustBias == 1; }
+double IntervalBias(double size, double correlation) { return correlation / 2 / (size - 1); }
 
 }  // namespace
 
-double PearsonTest::Power(double sampleSize, double alternative, double null) const {
-  if (sampleSize <= PartialledOut() + 3) return -1;
-  if (PartialledOut() < 0) return -1;
-  if (RejectsCorrelation(alternative)) return -1;
-  if (RejectsCorrelation(null)) return -1;
-  if (RejectsOpenUnit(Level().alpha)) return -1;
+Answer Power(const PearsonTest& test, double size, const Hypotheses& hypotheses) {
+  if (size <= test.partialledOut + 3) return NoValue::Refused;
+  if (test.partialledOut < 0) return NoValue::Refused;
+  if (Rejects(hypotheses, test.level)) return NoValue::Refused;
 
-  double difference = FisherDifference(alternative, null);
-  const double information = sampleSize - 3 - PartialledOut();
+  double difference = FisherDifference(hypotheses);
+  const double information = size - 3 - test.partialledOut;
   double spread = 1;
-  if (isCorrected_) {
-    const double m = sampleSize - 1 - PartialledOut();
-    const SecondOrder correction(m, alternative, null);
+  if (test.isCorrected) {
+    const double m = size - 1 - test.partialledOut;
+    const SecondOrder correction(m, hypotheses);
     difference += correction.shift;
     spread = std::sqrt(correction.variance * (information / m));
   }
-  return Level().Power(difference * std::sqrt(information), spread, alternative > null);
+  return test.level.Power(difference * std::sqrt(information), spread, hypotheses.alternative > hypotheses.null);
 }
 
-extern "C" double PowerbyOneSampPearson(double sampleSize, double alternativeCorrelation, double nullCorrelation,
-                                        int oneSided, std::uint8_t adjustBias, double alpha) {
-  const PearsonTest test({alpha, oneSided}, 0, IsExactlyOne(adjustBias));
-  return test.Power(sampleSize, alternativeCorrelation, nullCorrelation);
+Answer SizeForPower(const PearsonTest& test, const Hypotheses& hypotheses, double power, Stop stop) {
+  const Bracket bracket = test.partialledOut == 0 ? usualBracket : PartialBracket(test.partialledOut);
+  const auto powerAt = [&](double size) { return Power(test, size, hypotheses).ValueOr(belowEveryPower); };
+  return SizeForPower(powerAt, test.NeverFalls(), bracket, power, stop);
 }
 
-extern "C" double PowerReversebyOneSampPearson(double power, double alternativeCorrelation, double nullCorrelation,
-                                               int oneSided, std::uint8_t adjustBias, double alpha, StopRequest* stop) {
-  const PearsonTest test({alpha, oneSided}, 0, adjustBias != 0);
-  return SizeForPower(power, test, alternativeCorrelation, nullCorrelation, 4, 400, stop);
+double HalfWidth(const PearsonInterval& interval, double size) {
+  const double bias = interval.isCorrected ? IntervalBias(size, interval.correlation) : 0;
+  return BackTransformedHalfWidth(std::atanh(interval.correlation) - bias,
+                                  interval.confidence.quantile * std::sqrt(1 / (size - 3 - interval.partialledOut)));
 }
 
-extern "C" double HalfCIOneSampPearson(double sampleSize, double correlation, std::uint8_t adjustBias, double alpha) {
-  return HalfWidth(sampleSize, 0, correlation, IsExactlyOne(adjustBias), IntervalQuantile(alpha));
+Answer SizeForHalfWidth(const PearsonInterval& interval, double halfWidth, Stop stop) {
+  const Bracket bracket{interval.partialledOut + usualBracket.lower,
+                        interval.partialledOut == 0 ? usualBracket.upper : interval.partialledOut + 404};
+  const auto halfWidthAt = [&](double size) { return HalfWidth(interval, size); };
+  return SizeForHalfWidth(halfWidthAt, bracket, halfWidth, stop);
 }
 
-extern "C" double PowerReversebyHalfCIOneSampPearson(double halfWidth, double correlation, std::uint8_t adjustBias,
-                                                     double alpha, StopRequest* stop) {
-  const double quantile = IntervalQuantile(alpha);
-  return SizeForInterval(
-      halfWidth, [&](double n) { return HalfWidth(n, 0, correlation, adjustBias != 0, quantile); }, 4, 400, stop);
-}
-
-extern "C" double PowerbyOneSampPartial(double sampleSize, double partialledOut, double alternativeCorrelation,
-                                        double nullCorrelation, int oneSided, double alpha) {
-  const PearsonTest test = PartialTest(partialledOut, oneSided, alpha);
-  return test.Power(sampleSize, alternativeCorrelation, nullCorrelation);
-}
-
-extern "C" double PowerReversebyOneSampPartial(double power, double partialledOut, double alternativeCorrelation,
-                                               double nullCorrelation, int oneSided, double alpha) {
-  const PearsonTest test = PartialTest(partialledOut, oneSided, alpha);
-  // At its lower end the test does not exist yet, so the objective is negative there.
-  return SizeForPower(power, test, alternativeCorrelation, nullCorrelation, partialledOut + 3, partialledOut + 400,
-                      nullptr);
-}
-
-// Intervals of partial correlations are not corrected for bias, unlike their tests; that is intended.
-extern "C" double HalfCIOneSampPartial(double sampleSize, double partialledOut, double correlation, double alpha) {
-  return HalfWidth(sampleSize, partialledOut, correlation, false, IntervalQuantile(alpha));
-}
-
-extern "C" double PowerReversebyHalfCIOneSampPartial(double halfWidth, double partialledOut, double correlation,
-                                                     double alpha, StopRequest* stop) {
-  const double quantile = IntervalQuantile(alpha);
-  return SizeForInterval(
-      halfWidth, [&](double n) { return HalfWidth(n, partialledOut, correlation, false, quantile); }, partialledOut + 4,
-      partialledOut + 404, stop);
-}
+}  // namespace kelpower::correlation

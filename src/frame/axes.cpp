@@ -1,13 +1,13 @@
 #include "frame/axes.h"
 
 #include <cmath>
-#include <limits>
+
+#include "frame/counts.h"
 
 namespace kelpower {
 
 std::optional<Axis> CountedAxis(double count, double start, double step, std::optional<double> end) {
-  constexpr double kMostPoints = std::numeric_limits<std::int32_t>::max();
-  if (!(count >= 0 && count <= kMostPoints)) return std::nullopt;
+  if (!(count >= 0 && count <= largestCount)) return std::nullopt;
   return Axis{static_cast<std::int32_t>(count), start, step, end};
 }
 
@@ -36,6 +36,13 @@ std::optional<Axis> FractionAxis(double start, double end, double stepFraction, 
 std::optional<Axis> StepAxis(double start, double end, double step) {
   if (!(step > 0)) return std::nullopt;
   return CountedAxis(std::ceil((end - start) / step) + 1, start, step, end);
+}
+
+std::optional<Axis> InnerAxis(double count, double origin, double step) {
+  if (!(step > 0)) return std::nullopt;
+  std::optional<Axis> axis = CountedAxis(count, origin, step);
+  if (axis) axis->firstIndex = 1;
+  return axis;
 }
 
 }  // namespace kelpower

@@ -8,20 +8,20 @@ namespace kelpower {
 /// nearest to the product, up to a product in some 2^40 that lies as near to the next one.
 class BinomialProduct {
 public:
-  explicit BinomialProduct(double start) : high_(start * kScale) {}
+  explicit BinomialProduct(double start) : high_(start * scale) {}
 
   /// Multiplies by j / i. Of the partial product and j, neither need be small: only the result may overflow.
   void Multiply(double j, double i) {
     const double whole = high_ * j;
-    if (low_ == 0 && whole <= kLargestExact) {
+    if (low_ == 0 && whole <= largestExact) {
       high_ = whole / i;
       return;
     }
-    const Sum product = Product(high_, j * kScale);
-    const double large = product.high / kScale;
-    const double small = (product.low + low_ * (j * kScale)) / kScale;
+    const Sum product = Product(high_, j * scale);
+    const double large = product.high / scale;
+    const double small = (product.low + low_ * (j * scale)) / scale;
     const double quotient = large / i;
-    if (!(quotient < kOverflow)) {
+    if (!(quotient < overflow)) {
       high_ = quotient;
       return;
     }
@@ -31,12 +31,12 @@ public:
     low_ = rest - (high_ - quotient);
   }
 
-  double Value() const { return high_ / kScale; }
+  double Value() const { return high_ / scale; }
 
 private:
-  static constexpr double kScale = 0x1p-64;  // the factors of a product are kept this much smaller, against overflow
-  static constexpr double kLargestExact = 0x1p53 * kScale;
-  static constexpr double kOverflow = 0x1p960;  // infinite without the scale, and too large for the halves below
+  static constexpr double scale = 0x1p-64;  // the factors of a product are kept this much smaller, against overflow
+  static constexpr double largestExact = 0x1p53 * scale;
+  static constexpr double overflow = 0x1p960;  // infinite without the scale, and too large for the halves below
 
   struct Sum {
     double high;

@@ -3,11 +3,11 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 
 #include "frame/axes.h"
 #include "frame/function_view.h"
-#include "kelpower.h"
 
 namespace kelpower {
 
@@ -17,14 +17,28 @@ enum class Precision { Single, Double };
 
 double Stored(double value, Precision precision);
 
+using Values = std::unique_ptr<double[]>;
+
+/// The points (x[i], y[i]) of a curve; no arrays where there is no axis.
+struct CurvePoints {
+  std::int32_t count = 0;
+  Values x;
+  Values y;
+};
+
+/// z[i * yCount + j] is the value at (x[i], y[j]); no arrays where either axis is missing.
+struct SurfacePoints {
+  std::int32_t xCount = 0;
+  std::int32_t yCount = 0;
+  Values x;
+  Values y;
+  Values z;
+};
+
 using ChartValue = FunctionView<double(double position)>;
 
-/// The empty records: counts 0 and null arrays.
-XYPlot EmptyCurve();
-XYZPlot EmptySurface();
-
-/// The curve of `value` over an axis; the empty record where there is no axis.
-XYPlot Curve(const std::optional<Axis>& axis, Precision precision, ChartValue value);
+/// The curve of `value` over an axis.
+CurvePoints PointsOfCurve(const std::optional<Axis>& axis, Precision precision, ChartValue value);
 
 /// The points of a surface that share one coordinate.
 class SurfaceLine {
@@ -45,14 +59,14 @@ private:
 
 using FillLine = FunctionView<void(double fixed, const SurfaceLine& line)>;
 
-/// The surface over two axes, filled row by row: `fillRow(x, row)` fills the values at `x` over all y, so that what
-/// depends on x alone is computed once a row. The empty record where either axis is missing.
-XYZPlot SurfaceByRows(const std::optional<Axis>& xAxis, const std::optional<Axis>& yAxis, Precision precision,
-                      FillLine fillRow);
+/// The surface over two axes, filled row by row: `fillRow(x, row)` fills the values at `x` over all y. So what depends
+/// on x alone is computed once a row.
+SurfacePoints PointsByRows(const std::optional<Axis>& xAxis, const std::optional<Axis>& yAxis, Precision precision,
+                           FillLine fillRow);
 
 /// The same, filled column by column: `fillColumn(y, column)` fills the values at `y` over all x.
-XYZPlot SurfaceByColumns(const std::optional<Axis>& xAxis, const std::optional<Axis>& yAxis, Precision precision,
-                         FillLine fillColumn);
+SurfacePoints PointsByColumns(const std::optional<Axis>& xAxis, const std::optional<Axis>& yAxis, Precision precision,
+                              FillLine fillColumn);
 
 }  // namespace kelpower
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <utility>
 
 #include "frame/rejection.h"
@@ -16,11 +17,11 @@ using KelMath::KelDistFun;
 
 namespace {
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kLargest = std::numeric_limits<double>::max();
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr double largest = std::numeric_limits<double>::max();
 
-/// Of the interpolation. Six are usual; what it has not found by then the bisection finds.
-constexpr int kMostSteps = 16;
+/// Most interpolation steps, of which six are usual. The bisection finishes the rest.
+constexpr int mostSteps = 16;
 
 /// An evaluated point, and the coordinates (u, v) in which an objective is nearly a straight line that crosses v = 0 at
 /// the root.
@@ -57,8 +58,8 @@ private:
 
   /// Powers that round to 0 or 1 are taken for the nearest that do not.
   static double QuantileOf(double power) {
-    constexpr double kEdge = 0x1p-53;
-    return KelDistFun::IdfStdNorm(std::clamp(power, kEdge, 1 - kEdge));
+    constexpr double edge = 0x1p-53;
+    return KelDistFun::IdfStdNorm(std::clamp(power, edge, 1 - edge));
   }
 
   bool isPower_;
@@ -94,14 +95,14 @@ public:
 private:
   static double Slope(const Probe& p, const Probe& q) { return (q.u - p.u) / (q.v - p.v); }
 
-  static constexpr Probe kNone{0, 0, 0, kInfinity};
-  std::array<Probe, 3> probes_{kNone, kNone, kNone};
+  static constexpr Probe none{0, 0, 0, infinity};
+  std::array<Probe, 3> probes_{none, none, none};
 };
 
 /// Between these two sizes the sign of the objective is open; outside it is known.
 struct OpenInterval {
-  double from = -kInfinity;  ///< negative up to here
-  double to = kInfinity;     ///< positive from here on
+  double from = -infinity;  ///< negative up to here
+  double to = infinity;     ///< positive from here on
 };
 
 /// Encloses the root by interpolation.
@@ -111,7 +112,7 @@ public:
       : objective_(objective), shape_(shape), tolerance_(tolerance) {}
 
   /// Starts from the objective's values at the two ends of a bracket whose upper end may still be below the root.
-  OpenInterval Enclose(double lower, double lowerValue, double upper, double upperValue);
+  OpenInterval Enclose(const Evaluated& lower, const Evaluated& upper);
 
 private:
   void Learn(double x, double value);
@@ -129,13 +130,13 @@ private:
   OpenInterval open_;
 };
 
-OpenInterval Locator::Enclose(double lower, double lowerValue, double upper, double upperValue) {
-  above_.x = kInfinity;
-  Learn(lower, lowerValue);
-  Learn(upper, upperValue);
+OpenInterval Locator::Enclose(const Evaluated& lower, const Evaluated& upper) {
+  above_.x = infinity;
+  Learn(lower.x, lower.value);
+  Learn(upper.x, upper.value);
   if (!FindUpperEnd()) return open_;
 
-  for (int step = 0; step < kMostSteps; ++step) {
+  for (int step = 0; step < mostSteps; ++step) {
     if (Narrow()) break;
   }
   return open_;
@@ -154,10 +155,10 @@ void Locator::Learn(double x, double value) {
 /// Steps up, a little beyond where the root should be, to a size that is not too small. False when none is found.
 bool Locator::FindUpperEnd() {
   double factor = 4;
-  for (int step = 0; step < kMostSteps && std::isinf(above_.x) && below_.x < kLargest; ++step) {
+  for (int step = 0; step < mostSteps && std::isinf(above_.x) && below_.x < largest; ++step) {
     const double guess = 1.05 * shape_.SizeAt(nearest_.CrossingOfLine());
-    const bool isUsable = guess > below_.x && guess <= kLargest;
-    Visit(isUsable ? guess : std::min(below_.x * factor, kLargest));
+    const bool isUsable = guess > below_.x && guess <= largest;
+    Visit(isUsable ? guess : std::min(below_.x * factor, largest));
     factor *= factor;
   }
   return !std::isinf(above_.x);
@@ -194,47 +195,39 @@ bool Locator::CloseIn(double root, double reach) {
   return root - reach <= below_.x && above_.x <= root + reach;
 }
 
-double SolveIncreasing(double lower, double upper, double tolerance, RootObjective objective, const Shape& shape,
-                       StopRequest* stop) {
-  int asked = 0;
-  double upperValue = 0;
-  double lowerValue = 0;
-  OpenInterval open;
-  // The bisection asks for the upper end, for the lower one, and only then for points that may be decided.
+/// The bisection asks for the sign at many points, and evaluates only those at which it is open. The locator runs once
+/// a sign beyond the ends is asked for.
+Answer SolveIncreasing(double lower, double upper, double tolerance, RootObjective objective, const Shape& shape,
+                       Stop stop) {
+  if (!std::isfinite(lower) || !std::isfinite(upper)) return NoValue::NotReached;
+  const Evaluated upperEnd{upper, objective(upper)};
+  const Evaluated lowerEnd{lower, objective(lower)};
+  const bool canLocate = lower > 0 && !std::isnan(upperEnd.value) && !std::isnan(lowerEnd.value);
+
+  std::optional<OpenInterval> open;
   const auto decided = [&](double x) {
-    switch (asked++) {
-      case 0: return upperValue = objective(x);
-      case 1: return lowerValue = objective(x);
-      case 2:
-        if (lower > 0 && !std::isnan(upperValue) && !std::isnan(lowerValue))
-          open = Locator(objective, shape, tolerance).Enclose(lower, lowerValue, upper, upperValue);
-        break;
-      default: break;
-    }
-    if (x <= open.from) return -1.0;
-    if (x >= open.to) return 1.0;
+    if (!open) open = canLocate ? Locator(objective, shape, tolerance).Enclose(lowerEnd, upperEnd) : OpenInterval{};
+    if (x <= open->from) return -1.0;
+    if (x >= open->to) return 1.0;
     return objective(x);
   };
-  return SolveContinuous(lower, upper, tolerance, decided, stop);
+  return SolveContinuousFrom(lowerEnd, upperEnd, tolerance, decided, stop);
 }
 
 }  // namespace
 
-double SolveIncreasingPower(double lower, double upper, double tolerance, FunctionView<double(double)> powerAt,
-                            double target, StopRequest* stop) {
+Answer SolveIncreasingPower(double lower, double upper, double tolerance, FunctionView<double(double)> powerAt,
+                            double target, Stop stop) {
   return SolveIncreasing(
       lower, upper, tolerance, [&](double x) { return powerAt(x) - target; }, Shape::PowerLess(target), stop);
 }
 
 // At each level t^2 falls as the degrees of freedom grow, so the difference grows where neither coefficient is
 // negative. Where one is, a difference that is negative at the lower end is so at every size, which is decided as well.
-double SolveHalfWidth(double lower, double upper, double tolerance, const HalfWidthEquation& equation) {
-  const auto excess = [&](double x) {
-    const double t = IntervalQuantileT(equation.alpha, equation.dfAt(x));
-    return equation.slope * x - equation.weight * (t * t);
-  };
-  return equation.dfGrows ? SolveIncreasing(lower, upper, tolerance, excess, Shape::RisingBy(equation.slope), nullptr)
-                          : SolveContinuous(lower, upper, tolerance, excess, nullptr);
+Answer SolveHalfWidth(double lower, double upper, double tolerance, const HalfWidthEquation& equation) {
+  const auto excess = [&](double x) { return equation.Excess(x); };
+  return equation.dfGrows ? SolveIncreasing(lower, upper, tolerance, excess, Shape::RisingBy(equation.slope), {})
+                          : SolveContinuous(lower, upper, tolerance, excess, {});
 }
 
 }  // namespace kelpower

@@ -10,12 +10,12 @@ using KelMath::KelDistFun;
 
 namespace {
 
-constexpr double kTuning = 1e-12;
+constexpr double accuracy = 1e-12;
 
 double ZeroIfMissing(double probability) { return KelMV::IsMissing(probability) ? 0.0 : probability; }
 
 double LowerTailT(double x, double df, double noncentrality) {
-  return ZeroIfMissing(KelDistFun::NonCentralCdfT(x, df, noncentrality, kTuning));
+  return ZeroIfMissing(KelDistFun::NonCentralCdfT(x, df, noncentrality, accuracy));
 }
 
 }  // namespace
@@ -39,9 +39,9 @@ double TTest::PowerUpperTail(double noncentrality) const { return 1 - LowerTailT
 // T'^2 is noncentral F on 1 and df degrees of freedom, which takes one sum instead of two for the same digits. A
 // critical value that is negative or missing (of a level above 1) or that overflows when squared is left to T'.
 double TTest::PowerBothTails(double noncentrality) const {
-  constexpr double kSquareable = 1e150;
-  if (critical > 0 && critical < kSquareable)
-    return FTest{1, df, critical * critical, kTuning}.Power(noncentrality * noncentrality);
+  constexpr double squareable = 1e150;
+  if (critical > 0 && critical < squareable)
+    return FTest{1, df, critical * critical, accuracy}.Power(noncentrality * noncentrality);
   return 1 - LowerTailT(critical, df, noncentrality) + LowerTailT(-critical, df, noncentrality);
 }
 

@@ -5,14 +5,15 @@ namespace kelpower {
 
 /// An F test: rejects when F exceeds its critical value.
 ///
-/// At a given level the power never falls when the noncentrality grows, as the noncentral F has a monotone likelihood
-/// ratio, nor when df2 does: the test on fewer error degrees of freedom ignores data that the uniformly most powerful
-/// invariant test has (Lehmann and Romano 2005, "Testing Statistical Hypotheses", 3rd ed., section 7.1).
+/// At a given level the power never falls when the noncentrality grows, because the noncentral F has a monotone
+/// likelihood ratio. Nor does it fall when df2 grows: the test on fewer error degrees of freedom ignores data that the
+/// uniformly most powerful invariant test has (Lehmann and Romano 2005, "Testing Statistical Hypotheses", 3rd ed.,
+/// section 7.1).
 struct FTest {
-  double df1;
-  double df2;
-  double critical;
-  double eps;  ///< wanted accuracy of the noncentral probability
+  double df1;       ///< of the effect
+  double df2;       ///< of the error
+  double critical;  ///< value of F
+  double eps;       ///< wanted accuracy of the noncentral probability
 
   static FTest AtLevel(double alpha, double df1, double df2, double eps = 1e-12);
 
@@ -29,11 +30,11 @@ struct QuantileTuning {
 /// A t test at `df` degrees of freedom.
 ///
 /// At a given level the power of both tails never falls when the noncentrality moves away from 0 or the degrees of
-/// freedom grow, nor does that of the upper tail with a noncentrality of at least 0: these tests are uniformly most
+/// freedom grow. Nor does that of the upper tail, where the noncentrality is at least 0. These tests are uniformly most
 /// powerful unbiased, and one on fewer degrees of freedom ignores data (Lehmann and Romano 2005, section 5.2).
 struct TTest {
   double df;
-  double critical;
+  double critical;  ///< value of t
 
   static TTest OneSided(double alpha, double df, QuantileTuning tuning = {});
   static TTest TwoSided(double alpha, double df, QuantileTuning tuning = {});

@@ -2,73 +2,55 @@
 
 #include <cmath>
 #include <limits>
-#include <optional>
-
-#include "kelcommon/kel_mv.h"
+#include <variant>
 
 namespace kelpower {
 
-using KelCommon::KelMV;
-
 namespace {
 
-constexpr double kZeroTolerance = 1e-14;
-constexpr double kUpperCeiling = std::numeric_limits<double>::max() / 2;  // doubling beyond it would overflow
+constexpr double zeroTolerance = 1e-14;
+constexpr double upperCeiling = std::numeric_limits<double>::max() / 2;  // doubling beyond it would overflow
 
 struct Bracket {
   double lower;
   double upper;
 };
 
-bool IsZero(double value) { return std::fabs(value) < kZeroTolerance; }
+bool IsZero(double value) { return std::fabs(value) < zeroTolerance; }
 
-bool AnswersStop(StopRequest* stop) { return stop != nullptr && stop->ShouldStop(); }
+/// A bracket of the root, or an answer that needs no bisection.
+std::variant<Bracket, Answer> FindBracket(Evaluated lower, Evaluated upper, RootObjective objective, Stop stop) {
+  if (IsZero(upper.value)) return Answer(upper.x);
+  if (lower.value >= 0) return Answer(lower.x);
 
-/// Finds a bracket of the root. A value returned at once, a root or missing, goes into `result` instead.
-std::optional<Bracket> FindBracket(double lower, double upper, RootObjective objective, StopRequest* stop,
-                                   double& result) {
-  result = KelMV::Missing();
-  if (!std::isfinite(lower) || !std::isfinite(upper)) return std::nullopt;
-
-  double upperValue = objective(upper);
-  if (IsZero(upperValue)) {
-    result = upper;
-    return std::nullopt;
-  }
-  const double lowerValue = objective(lower);
-  if (lowerValue >= 0) {
-    result = lower;
-    return std::nullopt;
-  }
-
-  double previousValue = lowerValue;
-  while (previousValue * upperValue > 0) {
+  double previousValue = lower.value;
+  while (previousValue * upper.value > 0) {
     lower = upper;
-    if (upper > kUpperCeiling) return std::nullopt;
-    if (AnswersStop(stop)) return std::nullopt;
-    upper = 2 * upper;
-    if (!(upper > lower)) return std::nullopt;  // zero and negative ends do not grow by doubling
-    previousValue = upperValue;
-    upperValue = objective(upper);
-    if (IsZero(upperValue)) {
-      result = upper;
-      return std::nullopt;
-    }
+    if (upper.x > upperCeiling) return Answer(NoValue::NotReached);
+    if (AnswersStop(stop)) return Answer(NoValue::Stopped);
+    upper.x = 2 * upper.x;
+    if (!(upper.x > lower.x)) return Answer(NoValue::NotReached);  // zero and negative ends do not grow by doubling
+    previousValue = upper.value;
+    upper.value = objective(upper.x);
+    if (IsZero(upper.value)) return Answer(upper.x);
   }
-  return Bracket{lower, upper};
+  return Bracket{lower.x, upper.x};
 }
+
+bool AreFinite(double lower, double upper) { return std::isfinite(lower) && std::isfinite(upper); }
 
 }  // namespace
 
-double SolveContinuous(double lower, double upper, double tolerance, RootObjective objective, StopRequest* stop) {
-  double result;
-  const std::optional<Bracket> bracket = FindBracket(lower, upper, objective, stop, result);
-  if (!bracket) return result;
+Answer SolveContinuousFrom(const Evaluated& lowerEnd, const Evaluated& upperEnd, double tolerance,
+                           RootObjective objective, Stop stop) {
+  if (!AreFinite(lowerEnd.x, upperEnd.x)) return NoValue::NotReached;
+  const auto found = FindBracket(lowerEnd, upperEnd, objective, stop);
+  if (const Answer* answer = std::get_if<Answer>(&found)) return *answer;
 
-  lower = bracket->lower;
-  double width = bracket->upper - bracket->lower;
+  auto [lower, upper] = std::get<Bracket>(found);
+  double width = upper - lower;
   while (true) {
-    if (AnswersStop(stop)) return KelMV::Missing();
+    if (AnswersStop(stop)) return NoValue::Stopped;
     width *= 0.5;
     const double mid = lower + width;
     if (mid == lower) return lower;  // the doubles between the ends are used up
@@ -78,16 +60,31 @@ double SolveContinuous(double lower, double upper, double tolerance, RootObjecti
   }
 }
 
-double SolveInteger(double lower, double upper, RootObjective objective, StopRequest* stop) {
-  double result;
-  const std::optional<Bracket> bracket = FindBracket(lower, upper, objective, stop, result);
-  if (!bracket) return result;
+Answer SolveContinuous(double lower, double upper, double tolerance, RootObjective objective, Stop stop) {
+  if (!AreFinite(lower, upper)) return NoValue::NotReached;
+  const Evaluated upperEnd{upper, objective(upper)};
+  if (IsZero(upperEnd.value)) return upper;
+  return SolveContinuousFrom({lower, objective(lower)}, upperEnd, tolerance, objective, stop);
+}
 
-  lower = bracket->lower;
-  double width = bracket->upper - bracket->lower;
+Answer SolvePower(double lower, double upper, double tolerance, FunctionView<double(double)> powerAt, double target,
+                  Stop stop) {
+  return SolveContinuous(
+      lower, upper, tolerance, [&](double x) { return powerAt(x) - target; }, stop);
+}
+
+Answer SolveInteger(double lowerEnd, double upperEnd, RootObjective objective, Stop stop) {
+  if (!AreFinite(lowerEnd, upperEnd)) return NoValue::NotReached;
+  const double upperValue = objective(upperEnd);
+  if (IsZero(upperValue)) return upperEnd;
+  const auto found = FindBracket({lowerEnd, objective(lowerEnd)}, {upperEnd, upperValue}, objective, stop);
+  if (const Answer* answer = std::get_if<Answer>(&found)) return *answer;
+
+  auto [lower, upper] = std::get<Bracket>(found);
+  double width = upper - lower;
   double value;
   do {
-    if (AnswersStop(stop)) return KelMV::Missing();
+    if (AnswersStop(stop)) return NoValue::Stopped;
     width *= 0.5;
     const double step = std::floor(width);
     const double mid = lower + step;
@@ -98,7 +95,7 @@ double SolveInteger(double lower, double upper, RootObjective objective, StopReq
   } while (std::fabs(width) >= 1);
 
   while (value < 0) {
-    if (AnswersStop(stop)) return KelMV::Missing();
+    if (AnswersStop(stop)) return NoValue::Stopped;
     if (lower + 1 == lower) return lower;
     lower += 1;
     value = objective(lower);
@@ -106,15 +103,14 @@ double SolveInteger(double lower, double upper, RootObjective objective, StopReq
   return lower;
 }
 
-double SolveIntegerSmallest(double upper, RootObjective objective, StopRequest* stop) {
+Answer SolveIntegerSmallest(Answer upper, RootObjective objective, Stop stop) {
   // Every pass that goes on found something smaller than all before it, so the last result is the smallest one.
-  const double start = upper;
-  double smallest = upper;
+  Answer smallest = upper;
   while (true) {
-    if (AnswersStop(stop)) return start;
-    if (KelMV::IsMissing(smallest) || !std::isfinite(smallest)) return smallest;
-    const double found = SolveInteger(1.0, smallest, objective, stop);
-    if (found >= smallest || KelMV::IsMissing(found)) return smallest;
+    if (AnswersStop(stop)) return upper;
+    if (!smallest || !std::isfinite(*smallest)) return smallest;
+    const Answer found = SolveInteger(1.0, *smallest, objective, stop);
+    if (!found || *found >= *smallest) return smallest;
     smallest = found;
   }
 }

@@ -1,31 +1,42 @@
 #ifndef KELPOWER_MEANS_PAIRED_H
 #define KELPOWER_MEANS_PAIRED_H
 
-#include <optional>
+#include <cmath>
 
-#include "means/mean_test.h"
+#include "frame/answer.h"
 
-namespace kelpower {
+// Two measurements on the same units. Their t test is that of one sample of differences (Cohen 1988, section 2.3.5).
 
-/// Two measurements on the same units.
-struct PairedDesign {
-  double mean1;
-  double sd1;
-  double mean2;
-  double sd2;
-  double correlation;
+namespace kelpower::means {
+
+/// How two measurements scatter.
+struct PairedSpread {
+  double sd1;          ///< standard deviation of the first measurement
+  double sd2;          ///< standard deviation of the second
+  double correlation;  ///< between them
 };
 
-/// The effect size of the differences, mean over standard deviation. A `sd2` of 0 says that `sd1` is already the
-/// standard deviation of the differences.
-double EffectSizeOfDifferences(const PairedDesign& design);
+/// The variance of the differences is scale^2 * relative.
+struct DifferenceVariance {
+  double scale;
+  double relative;
 
-/// The checks of a design that the tests and their chart share: all but the upper end of the correlation.
-bool RejectsDesign(const PairedDesign& design);
+  static DifferenceVariance Of(const PairedSpread& spread);
 
-/// The effect size for a test at level `alpha`; none where the test refuses its input.
-std::optional<double> AcceptedEffectSize(Sides sides, const PairedDesign& design, double alpha);
+  double StandardDeviation() const { return scale * std::sqrt(relative); }
+};
 
-}  // namespace kelpower
+/// A confidence interval of the mean difference.
+struct PairedInterval {
+  PairedSpread spread;
+  double alpha;  ///< 1 minus the confidence level
+};
+
+double HalfWidth(const PairedInterval& interval, double size);
+
+/// The unrounded number of pairs.
+Answer SizeForHalfWidth(const PairedInterval& interval, double halfWidth);
+
+}  // namespace kelpower::means
 
 #endif

@@ -6,7 +6,7 @@
 #include "frame/function_view.h"
 #include "kelcommon/kel_dist_fun.h"
 
-namespace kelpower {
+namespace kelpower::proportions {
 
 using KelMath::KelDistFun;
 
@@ -45,14 +45,23 @@ double SmallestReaching(double guess, double top, FunctionView<bool(double count
 
 TailLevel::TailLevel(double tailLevel) : level(tailLevel), z(KelDistFun::IdfStdNorm(1 - tailLevel)) {}
 
+double FirstCountAbove(double size, double p, double probability, double z) {
+  long error = 0;
+  return SmallestReaching(QuantileGuess(size, p, z), std::ceil(size),
+                          [&](double count) { return KelDistFun::CdfBin(count, size, p, error) > probability; });
+}
+
+double FirstCountReaching(double size, double p, double probability, double z) {
+  long error = 0;
+  return SmallestReaching(QuantileGuess(size, p, z), std::trunc(size) + 1,
+                          [&](double count) { return KelDistFun::CdfBin(count, size, p, error) >= probability; });
+}
+
 CriticalCount LowerCritical(double size, double nullProportion, const TailLevel& tail) {
   if (std::isnan(size)) return {0, 1};
   const double top = std::ceil(size);
   if (std::isnan(tail.level) || std::isnan(nullProportion)) return {top, top + 1};
-  long error = 0;
-  const double first = SmallestReaching(QuantileGuess(size, nullProportion, -tail.z), top, [&](double count) {
-    return KelDistFun::CdfBin(count, size, nullProportion, error) > tail.level;
-  });
+  const double first = FirstCountAbove(size, nullProportion, tail.level, -tail.z);
   return {first - 1, first + 1};
 }
 
@@ -60,13 +69,8 @@ CriticalCount UpperCritical(double size, double nullProportion, const TailLevel&
   if (std::isnan(size)) return {0, 1};
   const double wholeSize = std::trunc(size);
   if (std::isnan(tail.level) || std::isnan(nullProportion)) return {0, wholeSize + 1};
-  const double top = wholeSize + 1;
-  const double level = 1 - tail.level;
-  long error = 0;
-  const double count = SmallestReaching(QuantileGuess(size, nullProportion, tail.z), top, [&](double k) {
-    return KelDistFun::CdfBin(k, size, nullProportion, error) >= level;
-  });
-  return {count, std::min(top - count, wholeSize) + 1};
+  const double count = FirstCountReaching(size, nullProportion, 1 - tail.level, tail.z);
+  return {count, std::min(wholeSize + 1 - count, wholeSize) + 1};
 }
 
-}  // namespace kelpower
+}  // namespace kelpower::proportions

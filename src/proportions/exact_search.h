@@ -1,23 +1,19 @@
 #ifndef KELPOWER_PROPORTIONS_EXACT_SEARCH_H
 #define KELPOWER_PROPORTIONS_EXACT_SEARCH_H
 
+#include "frame/answer.h"
 #include "frame/function_view.h"
-#include "kelpower.h"
+#include "frame/stop.h"
 
-namespace kelpower {
+namespace kelpower::proportions {
 
-/// The largest number of trials that the exact tests count up to. Their power at a larger size is missing.
-constexpr double kLargestCount = 2147483647;
+/// A power at a size, or a number that says why there is none. It hands its questions to `stop`.
+using ExactPower = FunctionView<double(double size, Stop stop)>;
 
-/// Asks `stop` once for each of `steps` steps of a computation, until an answer is true. False when `stop` is null.
-bool StopsWithin(StopRequest* stop, double steps);
+/// The smallest size found at which an exact test reaches the power `target`. The power of an exact test is a sawtooth
+/// in its size, so smaller ones may reach it. Uncountable when the search has grown beyond `largestCount`.
+Answer SolveExactSize(double target, ExactPower power, Stop stop);
 
-using ExactPower = FunctionView<double(double size, StopRequest* stop)>;
-
-/// The smallest size found at which an exact test reaches the power `target`. Missing when `stop` answers true, and
-/// when the search has grown beyond `kLargestCount`.
-double SolveExactSize(double target, ExactPower power, StopRequest* stop);
-
-}  // namespace kelpower
+}  // namespace kelpower::proportions
 
 #endif

@@ -5,17 +5,14 @@
 #include <limits>
 
 #include "frame/binomial_product.h"
-#include "kelcommon/kel_mv.h"
 
-namespace kelpower {
-
-using KelCommon::KelMV;
+namespace kelpower::proportions {
 
 namespace {
 
-constexpr double kLargestCoefficientTotal = 1020;  // C(1020, k) and all products of two that make it up are finite
-constexpr std::int64_t kKeptTotals = 8192;
-constexpr std::int64_t kUnknown = -2;
+constexpr double largestCoefficientTotal = 1020;  // C(1020, k) and all products of two that make it up are finite
+constexpr std::int64_t keptTotals = 8192;
+constexpr std::int64_t unknown = -2;
 
 /// C(n, 0), C(n, 1), ..., C(n, n).
 std::vector<double> Coefficients(std::int64_t n) {
@@ -55,11 +52,11 @@ double JointProbability(const BinomialMasses& masses1, const BinomialMasses& mas
 
 }  // namespace
 
-ConditionalTest::ConditionalTest(const IndependentTest& test, double sampleSize1, double sampleSize2)
-    : test_(test),
+ConditionalTest::ConditionalTest(const IndependentDesign& design, double sampleSize1, double sampleSize2)
+    : design_(design),
       group1_(GroupSize::Of(sampleSize1)),
       group2_(GroupSize::Of(sampleSize2)),
-      hasCoefficients_(sampleSize1 + sampleSize2 <= kLargestCoefficientTotal) {
+      hasCoefficients_(sampleSize1 + sampleSize2 <= largestCoefficientTotal) {
   if (group1_.whole < 0 || group2_.whole < 0) return;
   totals_ = static_cast<std::int64_t>(std::floor(sampleSize1 + sampleSize2)) + 1;
   if (!hasCoefficients_) return;
@@ -83,7 +80,7 @@ ConditionalTest::Support ConditionalTest::WeighByCoefficients(std::int64_t total
 
 // From the mode, with weight 1, outwards by the ratio of neighbours; what is left out is below the smallest double.
 ConditionalTest::Support ConditionalTest::WeighByRecurrence(std::int64_t total) {
-  constexpr double kSmallest = std::numeric_limits<double>::min();
+  constexpr double smallest = std::numeric_limits<double>::min();
   const Support support = SupportOf(total);
   const double n1 = static_cast<double>(group1_.whole);
   const double s = static_cast<double>(total);
@@ -96,7 +93,7 @@ ConditionalTest::Support ConditionalTest::WeighByRecurrence(std::int64_t total) 
   for (std::int64_t i = mode; i > support.first; --i) {
     const double x = static_cast<double>(i);
     weight *= x * (others + x) / ((n1 - x + 1) * (s - x + 1));
-    if (!(weight >= kSmallest)) break;
+    if (!(weight >= smallest)) break;
     weights_.push_back(weight);
   }
   const std::int64_t first = mode - static_cast<std::int64_t>(weights_.size());
@@ -106,7 +103,7 @@ ConditionalTest::Support ConditionalTest::WeighByRecurrence(std::int64_t total) 
   for (std::int64_t i = mode; i < support.last; ++i) {
     const double x = static_cast<double>(i);
     weight *= (n1 - x) * (s - x) / ((x + 1) * (others + x + 1));
-    if (!(weight >= kSmallest)) break;
+    if (!(weight >= smallest)) break;
     weights_.push_back(weight);
   }
   return {first, first + static_cast<std::int64_t>(weights_.size()) - 1};
@@ -123,7 +120,7 @@ ConditionalTest::CriticalCounts ConditionalTest::CriticalOf(std::int64_t total, 
   const double* const begin = weights_.data();
   const double* const end = begin + weights_.size();
   const double scale = Sum(begin, end);
-  const double level = test_.TailLevel();
+  const double level = design_.TailLevel();
 
   if (alternative != Alternative::FirstGreater) {
     double tail = 0;
@@ -143,11 +140,11 @@ ConditionalTest::CriticalCounts ConditionalTest::CriticalOf(std::int64_t total, 
 }
 
 ConditionalTest::CriticalCounts ConditionalTest::KeptCriticalOf(std::int64_t total, Alternative alternative) {
-  if (totals_ > kKeptTotals) return CriticalOf(total, alternative);
+  if (totals_ > keptTotals) return CriticalOf(total, alternative);
   std::vector<CriticalCounts>& kept = kept_[alternative];
-  kept.resize(static_cast<std::size_t>(totals_), {kUnknown, kUnknown});
+  kept.resize(static_cast<std::size_t>(totals_), {unknown, unknown});
   CriticalCounts& critical = kept[static_cast<std::size_t>(total)];
-  if (critical.lower == kUnknown) critical = CriticalOf(total, alternative);
+  if (critical.lower == unknown) critical = CriticalOf(total, alternative);
   return critical;
 }
 
@@ -155,12 +152,11 @@ ConditionalTest::CriticalCounts ConditionalTest::KeptCriticalOf(std::int64_t tot
 // proportions. The terms of the latter are the joint masses of the counts at whole sizes; at whole sizes the total's
 // probability cancels. Fractional sizes have the probability of the total at the sizes as they are, and the conditional
 // distribution of their whole parts.
-double ConditionalTest::Power(double p1, double p2, StopRequest* stop) {
-  if (IsUncountable(group1_.size) || IsUncountable(group2_.size)) return KelMV::Missing();
+Answer ConditionalTest::PowerAgainst(Alternative alternative, double p1, double p2, Stop stop) {
+  if (IsUncountable(group1_.size) || IsUncountable(group2_.size)) return NoValue::Uncountable;
   if (totals_ == 0) return 0;
   if (std::isnan(p1) || std::isnan(p2)) return p1 + p2;
 
-  const Alternative alternative = AlternativeOf(test_, p1, p2);
   const bool isWhole =
       group1_.size == static_cast<double>(group1_.whole) && group2_.size == static_cast<double>(group2_.whole);
   const BinomialMasses masses1 = BinomialMasses::Of(group1_, p1);
@@ -172,11 +168,11 @@ double ConditionalTest::Power(double p1, double p2, StopRequest* stop) {
 
   const std::int64_t firstLikely = masses1.first + masses2.first;
   const std::int64_t lastLikely = masses1.Last() + masses2.Last();
-  const std::int64_t begin = stop == nullptr ? firstLikely : 0;
-  const std::int64_t end = stop == nullptr ? lastLikely + 1 : totals_;
+  const std::int64_t begin = stop ? 0 : firstLikely;
+  const std::int64_t end = stop ? totals_ : lastLikely + 1;
   double power = 0;
   for (std::int64_t total = begin; total < end; ++total) {
-    if (stop != nullptr && stop->ShouldStop()) return KelMV::Missing();
+    if (AnswersStop(stop)) return NoValue::Stopped;
     if (total < firstLikely || total > lastLikely) continue;
 
     const CriticalCounts critical = KeptCriticalOf(total, alternative);
@@ -189,7 +185,7 @@ double ConditionalTest::Power(double p1, double p2, StopRequest* stop) {
                JointProbability(wholeMasses1, wholeMasses2, total, 0, group1_.whole);
     }
   }
-  return power;
+  return std::min(power, 1.0);  // the sum may round to more
 }
 
-}  // namespace kelpower
+}  // namespace kelpower::proportions

@@ -5,21 +5,25 @@
 #include <map>
 #include <vector>
 
-#include "kelpower.h"
+#include "frame/answer.h"
+#include "frame/stop.h"
+#include "proportions/independent_design.h"
 #include "proportions/independent_masses.h"
-#include "proportions/independent_test.h"
 
-namespace kelpower {
+namespace kelpower::proportions {
 
 /// The exact power of the conditional test (Fisher's) at fixed group sizes. Given the total number of successes, the
 /// successes of group 1 are hypergeometric under equal proportions; each tail rejects as much of them as the level
-/// allows. The critical values do not depend on the proportions but for their order, and are kept.
+/// allows. The critical values depend on the proportions through their order alone, so they are kept.
 class ConditionalTest {
 public:
-  ConditionalTest(const IndependentTest& test, double sampleSize1, double sampleSize2);
+  ConditionalTest(const IndependentDesign& design, double sampleSize1, double sampleSize2);
 
-  /// Missing when `stop` answers true; it is asked once for each total.
-  double Power(double p1, double p2, StopRequest* stop);
+  /// Uncountable for a size above `largestCount`; `stop` is asked once for each total.
+  Answer Power(double p1, double p2, Stop stop) { return PowerAgainst(AlternativeOf(design_, p1, p2), p1, p2, stop); }
+
+  /// The same for the region of a given alternative.
+  Answer PowerAgainst(Alternative alternative, double p1, double p2, Stop stop);
 
 private:
   /// Given one total: x1 <= lower and x1 >= upper are rejected.
@@ -40,7 +44,7 @@ private:
   Support WeighByCoefficients(std::int64_t total);
   Support WeighByRecurrence(std::int64_t total);
 
-  IndependentTest test_;
+  IndependentDesign design_;
   GroupSize group1_;
   GroupSize group2_;
   std::int64_t totals_ = 0;  ///< how many totals 0, 1, ... do not exceed N1 + N2
@@ -51,6 +55,6 @@ private:
   std::map<Alternative, std::vector<CriticalCounts>> kept_;
 };
 
-}  // namespace kelpower
+}  // namespace kelpower::proportions
 
 #endif

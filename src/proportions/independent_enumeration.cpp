@@ -1,33 +1,25 @@
 #include "proportions/independent_enumeration.h"
 
-#include "kelcommon/kel_mv.h"
+#include <algorithm>
 
-namespace kelpower {
-
-using KelCommon::KelMV;
+namespace kelpower::proportions {
 
 namespace {
 
-constexpr std::int64_t kKeptRows = 4096;  // of larger groups only the rows that have any probability are looked at
-constexpr double kBinomialError = -2;
+constexpr std::int64_t keptRows = 4096;  // of larger groups only the rows that have any probability are looked at
 
-bool AnswersStop(StopRequest* stop, std::int64_t questions) {
-  for (std::int64_t i = 0; i < questions; ++i) {
-    if (stop->ShouldStop()) return true;
-  }
-  return false;
-}
+bool StopsWithinTables(Stop stop, std::int64_t tables) { return StopsWithin(stop, static_cast<double>(tables)); }
 
 }  // namespace
 
-EnumeratedTest::EnumeratedTest(const IndependentTest& test, double sampleSize1, double sampleSize2)
-    : test_(test), group1_(GroupSize::Of(sampleSize1)), group2_(GroupSize::Of(sampleSize2)) {}
+EnumeratedTest::EnumeratedTest(const IndependentDesign& design, double sampleSize1, double sampleSize2)
+    : design_(design), group1_(GroupSize::Of(sampleSize1)), group2_(GroupSize::Of(sampleSize2)) {}
 
 /// Hands the rows from `first` to `last` to visit(x1, acceptedRange), until it answers false.
 template <typename Visit>
 void EnumeratedTest::VisitRows(Alternative alternative, std::int64_t first, std::int64_t last, Visit visit) {
-  if (group1_.whole >= kKeptRows) {
-    const TableStatistic statistic(test_, alternative, group1_, group2_);
+  if (group1_.whole >= keptRows) {
+    const TableStatistic statistic(design_, alternative, group1_, group2_);
     RejectionRows rows(statistic);
     for (std::int64_t x1 = first; x1 <= last; ++x1) {
       if (!visit(x1, rows.Row(x1))) return;
@@ -36,7 +28,7 @@ void EnumeratedTest::VisitRows(Alternative alternative, std::int64_t first, std:
   }
   std::vector<AcceptedRange>& region = regions_[alternative];
   if (region.empty()) {
-    const TableStatistic statistic(test_, alternative, group1_, group2_);
+    const TableStatistic statistic(design_, alternative, group1_, group2_);
     RejectionRows rows(statistic);
     for (std::int64_t x1 = 0; x1 <= group1_.whole; ++x1) region.push_back(rows.Row(x1));
   }
@@ -47,7 +39,7 @@ void EnumeratedTest::VisitRows(Alternative alternative, std::int64_t first, std:
 
 // The statistic is largest in a corner of the sample space.
 bool EnumeratedTest::RejectsNothing(Alternative alternative) const {
-  const TableStatistic statistic(test_, alternative, group1_, group2_);
+  const TableStatistic statistic(design_, alternative, group1_, group2_);
   RejectionRows rows(statistic);
   for (const std::int64_t x1 : {std::int64_t{0}, group1_.whole}) {
     const AcceptedRange accepted = rows.Row(x1);
@@ -56,17 +48,16 @@ bool EnumeratedTest::RejectsNothing(Alternative alternative) const {
   return true;
 }
 
-// Asking once a table costs more than all the rest, which goes by rows: so all is asked first.
-double EnumeratedTest::Power(double p1, double p2, StopRequest* stop) {
-  if (IsUncountable(group1_.size) || IsUncountable(group2_.size)) return KelMV::Missing();
-  if (stop != nullptr && AnswersStop(stop, group1_.visited * group2_.visited)) return KelMV::Missing();
+// A stop request is owed one question a table. The power is summed by rows, so all tables are asked for first.
+Answer EnumeratedTest::PowerAgainst(Alternative alternative, double p1, double p2, Stop stop) {
+  if (IsUncountable(group1_.size) || IsUncountable(group2_.size)) return NoValue::Uncountable;
+  if (StopsWithinTables(stop, group1_.loopCounts * group2_.loopCounts)) return NoValue::Stopped;
   if (group1_.whole < 0 || group2_.whole < 0) return 0;
 
-  const Alternative alternative = AlternativeOf(test_, p1, p2);
   const std::int64_t columns = group2_.whole + 1;
   const BinomialMasses masses1 = BinomialMasses::Of(group1_, p1);
   const BinomialMasses masses2 = BinomialMasses::Of(group2_, p2);
-  if (masses1.failed || masses2.failed) return RejectsNothing(alternative) ? 0 : kBinomialError;
+  if (masses1.failed || masses2.failed) return RejectsNothing(alternative) ? Answer(0) : NoValue::NoDistribution;
 
   const BinomialTails tails2(masses2);
   double power = 0;
@@ -74,14 +65,15 @@ double EnumeratedTest::Power(double p1, double p2, StopRequest* stop) {
     power += masses1.At(x1) * (tails2.Below(accepted.first) + tails2.AtLeast(accepted.end));
     return true;
   });
-  if (stop == nullptr || test_.statistic == TwoProportionStatistic::Z) return power;
+  power = std::min(power, 1.0);  // the sum may round to more
+  if (!stop || design_.test == TwoProportionTest::Z) return power;
 
   bool isStopped = false;
   VisitRows(alternative, 0, group1_.whole, [&](std::int64_t, const AcceptedRange& accepted) {
-    isStopped = AnswersStop(stop, accepted.first + columns - accepted.end);
+    isStopped = StopsWithinTables(stop, accepted.first + columns - accepted.end);
     return !isStopped;
   });
-  return isStopped ? KelMV::Missing() : power;
+  return isStopped ? Answer(NoValue::Stopped) : power;
 }
 
-}  // namespace kelpower
+}  // namespace kelpower::proportions

@@ -1,17 +1,16 @@
-#include <algorithm>
+#include "proportions/independent_interval.h"
+
 #include <cmath>
 
 #include "frame/root_finders.h"
 #include "kelcommon/kel_dist_fun.h"
-#include "kelcommon/kel_mv.h"
-#include "kelpower.h"
+#include "proportions/wald.h"
 
-using KelCommon::KelMV;
+namespace kelpower::proportions {
+
 using KelMath::KelDistFun;
 
 namespace {
-
-enum IntervalMethod { kWald, kAgrestiCaffo, kAgrestiCaffoUnbiased, kHalfAdded, kUnbiasedCorrected, kNewcombe };
 
 struct Group {
   double size;
@@ -55,68 +54,41 @@ double NewcombeHalfWidth(const Group& group1, const Group& group2, double z, boo
   return (std::hypot(second.below, first.above) + std::hypot(first.below, second.above)) / 2;
 }
 
-bool IsKnown(int ciMethod) { return ciMethod >= kWald && ciMethod <= kNewcombe; }
-
-/// The half-width by every method but Wald's; 0 for an unknown method.
-double HalfWidth(const Group& group1, const Group& group2, int ciMethod, double z, bool continuityCorrection) {
-  const double n1 = group1.size;
-  const double n2 = group2.size;
-  switch (ciMethod) {
-    case kAgrestiCaffo:
-      return z * std::sqrt(Variance(Shrunk(group1, 1)) / (n1 + 2) + Variance(Shrunk(group2, 1)) / (n2 + 2));
-    case kAgrestiCaffoUnbiased:
-      return z * std::sqrt(Variance(Shrunk(group1, 1)) / (n1 + 3) + Variance(Shrunk(group2, 1)) / (n2 + 3));
-    case kHalfAdded: return z * std::sqrt(Variance(Shrunk(group1, 0.5)) / n1 + Variance(Shrunk(group2, 0.5)) / n2);
-    case kUnbiasedCorrected:
-      return z * std::sqrt(Variance(group1.p) / (n1 - 1) + Variance(group2.p) / (n2 - 1)) +
-             0.5 / (n2 / n1 >= 1 ? n1 : n2);
-    case kNewcombe: return NewcombeHalfWidth(group1, group2, z, continuityCorrection);
-    default: return 0;
-  }
-}
-
-double WaldHalfWidth(const Group& group1, const Group& group2, double z, bool continuityCorrection) {
-  const double halfWidth = z * std::sqrt(Variance(group1.p) / group1.size + Variance(group2.p) / group2.size);
-  return continuityCorrection ? halfWidth + (1 / group1.size + 1 / group2.size) / 2 : halfWidth;
-}
-
-/// The size of group 1 at which Wald's half-width is h, in closed form.
-double WaldSize(double halfWidth, const Group& group1, const Group& group2, double sizeRatio, double z,
-                bool continuityCorrection) {
-  const double variance = Variance(group1.p) + Variance(group2.p) / sizeRatio;
-  if (!continuityCorrection) return z * z * variance / halfWidth / halfWidth;
-  const double correction = 2 * halfWidth * (sizeRatio + 1) / sizeRatio;
-  const double root = (z * std::sqrt(variance) + std::sqrt(z * z * variance + correction)) / (2 * halfWidth);
-  return root * root;
-}
-
 }  // namespace
 
-// Wald's method tests the flag for the value 1, Newcombe's for any but 0; both are intended.
-extern "C" double HalfCIIndSampBinom(double sampleSize1, double sampleSize2, double proportion1, double proportion2,
-                                     int ciMethod, double alpha, std::uint8_t continuityCorrection) {
-  const Group group1{sampleSize1, proportion1};
-  const Group group2{sampleSize2, proportion2};
-  const double z = KelDistFun::IdfStdNorm(1 - alpha / 2);
-  if (ciMethod == kWald) return WaldHalfWidth(group1, group2, z, continuityCorrection == 1);
-  return HalfWidth(group1, group2, ciMethod, z, continuityCorrection != 0);
+IndependentInterval::IndependentInterval(const Design& design)
+    : design_(design), z_(KelDistFun::IdfStdNorm(1 - design.alpha / 2)) {}
+
+double IndependentInterval::HalfWidth(double size1, double size2) const {
+  const auto& [method, p1, p2, alpha, isCorrected] = design_;
+  const Group group1{size1, p1};
+  const Group group2{size2, p2};
+  switch (method) {
+    case IndependentMethod::AgrestiCaffo:
+      return z_ * std::sqrt(Variance(Shrunk(group1, 1)) / (size1 + 2) + Variance(Shrunk(group2, 1)) / (size2 + 2));
+    case IndependentMethod::AgrestiCaffoUnbiased:
+      return z_ * std::sqrt(Variance(Shrunk(group1, 1)) / (size1 + 3) + Variance(Shrunk(group2, 1)) / (size2 + 3));
+    case IndependentMethod::HalfAdded:
+      return z_ * std::sqrt(Variance(Shrunk(group1, 0.5)) / size1 + Variance(Shrunk(group2, 0.5)) / size2);
+    case IndependentMethod::UnbiasedCorrected:
+      return z_ * std::sqrt(Variance(p1) / (size1 - 1) + Variance(p2) / (size2 - 1)) +
+             0.5 / (size2 / size1 >= 1 ? size1 : size2);
+    case IndependentMethod::Newcombe: return NewcombeHalfWidth(group1, group2, z_, isCorrected);
+    case IndependentMethod::Wald: break;
+  }
+  const double halfWidth = z_ * std::sqrt(Variance(p1) / size1 + Variance(p2) / size2);
+  return isCorrected ? halfWidth + (1 / size1 + 1 / size2) / 2 : halfWidth;
 }
 
-extern "C" void PowerReversebyHalfCIIndSampBinom(double halfWidth, double proportion1, double proportion2,
-                                                 DoubleVector& sampleSizes, double sizeRatio, int ciMethod,
-                                                 double alpha, std::uint8_t continuityCorrection, StopRequest* cancel) {
-  const double z = KelDistFun::IdfStdNorm(1 - alpha / 2);
-  const bool isCorrected = continuityCorrection != 0;
-  const auto excess = [&](double n1) {
-    if (!IsKnown(ciMethod)) return 0.0;
-    return halfWidth - HalfWidth({n1, proportion1}, {sizeRatio * n1, proportion2}, ciMethod, z, isCorrected);
-  };
-  const double n1 = ciMethod == kWald
-                        ? WaldSize(halfWidth, {0, proportion1}, {0, proportion2}, sizeRatio, z, isCorrected)
-                        : kelpower::SolveContinuous(2, 400, 1e-9, excess, cancel);
-  if (KelMV::IsMissing(n1)) {
-    sampleSizes = {KelMV::Missing(), KelMV::Missing()};
-    return;
+Answer IndependentInterval::FirstSizeFor(double halfWidth, double ratio, Stop stop) const {
+  const auto& [method, p1, p2, alpha, isCorrected] = design_;
+  if (method == IndependentMethod::Wald) {
+    const double variance = Variance(p1) + Variance(p2) / ratio;
+    return isCorrected ? CorrectedWaldSize(halfWidth, variance, z_, (ratio + 1) / ratio / 2)
+                       : WaldSize(halfWidth, variance, z_);
   }
-  sampleSizes = {std::ceil(n1), std::max(2.0, std::ceil(sizeRatio * n1))};
+  const auto excess = [&](double size1) { return halfWidth - HalfWidth(size1, ratio * size1); };
+  return SolveContinuous(2, 400, 1e-9, excess, stop);
 }
+
+}  // namespace kelpower::proportions

@@ -1,25 +1,27 @@
 #ifndef KELPOWER_PROPORTIONS_INDEPENDENT_LARGE_SAMPLE_H
 #define KELPOWER_PROPORTIONS_INDEPENDENT_LARGE_SAMPLE_H
 
+#include "frame/answer.h"
 #include "frame/rejection.h"
-#include "proportions/independent_test.h"
+#include "proportions/independent_design.h"
 
-namespace kelpower {
+namespace kelpower::proportions {
 
 /// The large-sample power of a test at fixed group sizes; the critical value is found once.
 class LargeSampleTest {
 public:
-  LargeSampleTest(const IndependentTest& test, double sampleSize1, double sampleSize2);
+  LargeSampleTest(const IndependentDesign& design, double sampleSize1, double sampleSize2);
 
-  double Power(double p1, double p2) const;
+  /// Refused for an arcsine test whose sizes do not carry its correction.
+  Answer Power(double p1, double p2) const;
 
 private:
   double PowerZ(double p1, double p2) const;
   double PowerT(double p1, double p2) const;
   double PowerLikelihoodRatio(double p1, double p2) const;
-  double PowerArcsine(double p1, double p2) const;
+  Answer PowerArcsine(double p1, double p2) const;
 
-  IndependentTest test_;
+  IndependentDesign design_;
   double n1_;
   double n2_;
   double share1_;  ///< n1 / (n1 + n2)
@@ -29,6 +31,6 @@ private:
   TTest testT_;
 };
 
-}  // namespace kelpower
+}  // namespace kelpower::proportions
 
 #endif

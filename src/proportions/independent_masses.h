@@ -4,16 +4,18 @@
 #include <cstdint>
 #include <vector>
 
-namespace kelpower {
+#include "frame/counts.h"
+
+namespace kelpower::proportions {
 
 /// True for a size whose tables cannot be counted.
-inline bool IsUncountable(double size) { return size > 2147483647; }
+inline bool IsUncountable(double size) { return size > largestCount; }
 
 /// The size of a group as the exact tests use it. It may be fractional.
 struct GroupSize {
   double size;
-  std::int64_t whole;    ///< largest count in [0, size]; -1 when there is none
-  std::int64_t visited;  ///< how many x = 0, 1, ... lie below size + 1: for a fractional size one more than counts
+  std::int64_t whole;       ///< largest count in [0, size]; -1 when there is none
+  std::int64_t loopCounts;  ///< how many x = 0, 1, ... lie below size + 1, which is what the definition loops over
 
   /// No counts for NaN and for a size that is uncountable.
   static GroupSize Of(double size);
@@ -47,6 +49,6 @@ private:
   std::vector<double> above_;
 };
 
-}  // namespace kelpower
+}  // namespace kelpower::proportions
 
 #endif

@@ -1,39 +1,46 @@
 #include "proportions/independent_power.h"
 
 #include "frame/checks.h"
-#include "proportions/results.h"
 
-namespace kelpower {
+namespace kelpower::proportions {
 
 namespace {
 
-bool RejectsDesign(const IndependentTest& test, double sampleSize1, double sampleSize2) {
-  if (RejectsGroupSize(sampleSize1)) return true;
-  if (RejectsGroupSize(sampleSize2)) return true;
-  if (RejectsAlpha(test.alpha)) return true;
+bool RejectsDesign(const IndependentDesign& design, double size1, double size2) {
+  if (RejectsGroupSize(size1)) return true;
+  if (RejectsGroupSize(size2)) return true;
+  if (RejectsAlpha(design.alpha)) return true;
   // The t test has N1 + N2 - 2 degrees of freedom.
-  return test.statistic == TwoProportionStatistic::T && sampleSize1 + sampleSize2 <= 2;
+  return design.test == TwoProportionTest::T && size1 + size2 <= 2;
 }
 
 }  // namespace
 
-IndependentPower::IndependentPower(const IndependentTest& test, double sampleSize1, double sampleSize2) {
-  if (RejectsDesign(test, sampleSize1, sampleSize2)) return;
-  if (!test.exact)
-    computation_.emplace<LargeSampleTest>(test, sampleSize1, sampleSize2);
-  else if (test.statistic == TwoProportionStatistic::ArcsineOrConditional)
-    computation_.emplace<ConditionalTest>(test, sampleSize1, sampleSize2);
-  else
-    computation_.emplace<EnumeratedTest>(test, sampleSize1, sampleSize2);
+IndependentPower::IndependentPower(const IndependentDesign& design, double size1, double size2) {
+  if (RejectsDesign(design, size1, size2)) return;
+  if (!design.isExact)
+    computation_.emplace<LargeSampleTest>(design, size1, size2);
+  else if (design.test == TwoProportionTest::Conditional)
+    computation_.emplace<ConditionalTest>(design, size1, size2);
+  else if (design.test != TwoProportionTest::Arcsine)
+    computation_.emplace<EnumeratedTest>(design, size1, size2);
 }
 
-double IndependentPower::At(double p1, double p2, StopRequest* stop) {
-  if (RejectsInnerProportion(p1)) return kInvalid;
-  if (RejectsInnerProportion(p2)) return kInvalid;
+Answer IndependentPower::At(double p1, double p2, Stop stop) {
+  if (RejectsInnerProportion(p1)) return NoValue::Refused;
+  if (RejectsInnerProportion(p2)) return NoValue::Refused;
   if (auto* const largeSample = std::get_if<LargeSampleTest>(&computation_)) return largeSample->Power(p1, p2);
   if (auto* const enumerated = std::get_if<EnumeratedTest>(&computation_)) return enumerated->Power(p1, p2, stop);
   if (auto* const conditional = std::get_if<ConditionalTest>(&computation_)) return conditional->Power(p1, p2, stop);
-  return kInvalid;
+  return NoValue::Refused;
 }
 
-}  // namespace kelpower
+Answer IndependentPower::AttainedLevel(Alternative alternative, double p, Stop stop) {
+  if (RejectsInnerProportion(p)) return NoValue::Refused;
+  if (auto* const test = std::get_if<EnumeratedTest>(&computation_)) return test->PowerAgainst(alternative, p, p, stop);
+  if (auto* const test = std::get_if<ConditionalTest>(&computation_))
+    return test->PowerAgainst(alternative, p, p, stop);
+  return NoValue::Refused;
+}
+
+}  // namespace kelpower::proportions

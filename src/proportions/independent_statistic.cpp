@@ -5,13 +5,13 @@
 
 #include "kelcommon/kel_dist_fun.h"
 
-namespace kelpower {
+namespace kelpower::proportions {
 
 using KelMath::KelDistFun;
 
 namespace {
 
-constexpr std::int64_t kTabulated = 1 << 14;  // beyond it few of the values would be looked up
+constexpr std::int64_t tabulated = 1 << 14;  // beyond it few of the values would be looked up
 
 double TimesLog(double x) {
   if (x == 0) return 0;
@@ -55,16 +55,16 @@ std::int64_t PartitionPoint(std::int64_t low, std::int64_t high, std::int64_t gu
   return low;
 }
 
-double CriticalValue(const IndependentTest& test, double total) {
-  const double probability = 1 - test.TailLevel();
-  if (test.statistic == TwoProportionStatistic::T) return KelDistFun::IdfT(probability, total - 2, 1e-20, 1e-12);
+double CriticalValue(const IndependentDesign& design, double total) {
+  const double probability = 1 - design.TailLevel();
+  if (design.test == TwoProportionTest::T) return KelDistFun::IdfT(probability, total - 2, 1e-20, 1e-12);
   return KelDistFun::IdfStdNorm(probability);
 }
 
 }  // namespace
 
 XLogX::XLogX(double origin, double step, std::int64_t count) : origin_(origin), step_(step) {
-  values_.resize(static_cast<std::size_t>(std::clamp<std::int64_t>(count, 0, kTabulated)));
+  values_.resize(static_cast<std::size_t>(std::clamp<std::int64_t>(count, 0, tabulated)));
   for (std::size_t i = 0; i < values_.size(); ++i) values_[i] = TimesLog(origin + step * static_cast<double>(i));
 }
 
@@ -73,9 +73,9 @@ double XLogX::operator[](std::int64_t i) const {
   return index < values_.size() ? values_[index] : TimesLog(origin_ + step_ * static_cast<double>(i));
 }
 
-TableStatistic::TableStatistic(const IndependentTest& test, Alternative alternative, const GroupSize& group1,
+TableStatistic::TableStatistic(const IndependentDesign& design, Alternative alternative, const GroupSize& group1,
                                const GroupSize& group2)
-    : test_(test),
+    : design_(design),
       alternative_(alternative),
       group1_(group1),
       group2_(group2),
@@ -84,8 +84,8 @@ TableStatistic::TableStatistic(const IndependentTest& test, Alternative alternat
       total_(n1_ + n2_),
       reciprocals_(1 / n1_ + 1 / n2_),
       rootProduct_(std::sqrt(n1_ * n2_)),
-      critical_(CriticalValue(test, total_)) {
-  if (test.statistic != TwoProportionStatistic::LikelihoodRatio) return;
+      critical_(CriticalValue(design, total_)) {
+  if (design.test != TwoProportionTest::LikelihoodRatio) return;
   counts_ = XLogX(0, 1, group1.whole + group2.whole + 1);
   remainders1_ = XLogX(n1_, -1, group1.whole + 1);
   remainders2_ = XLogX(n2_, -1, group2.whole + 1);
@@ -113,13 +113,13 @@ double TableStatistic::Z(const Observed& observed) const {
   const double mean = (observed.p1 * n1_ + observed.p2 * n2_) / total_;
   const double sd = std::sqrt((1 - mean) * mean * reciprocals_);
   double difference = Signed(observed);
-  if (test_.continuityCorrection) difference += test_.oneSided ? reciprocals_ / 2 : -(reciprocals_ / 2);
+  if (design_.isCorrected) difference += design_.isOneSided ? reciprocals_ / 2 : -(reciprocals_ / 2);
   return difference / sd;
 }
 
 double TableStatistic::T(const Observed& observed) const {
-  const double variance1 = observed.p1 * (test_.pooledVariance ? n1_ : n2_) * (1 - observed.p1);
-  const double variance2 = observed.p2 * (test_.pooledVariance ? n2_ : n1_) * (1 - observed.p2);
+  const double variance1 = observed.p1 * (design_.isPooled ? n1_ : n2_) * (1 - observed.p1);
+  const double variance2 = observed.p2 * (design_.isPooled ? n2_ : n1_) * (1 - observed.p2);
   return Signed(observed) * rootProduct_ / std::sqrt((variance1 + variance2) * total_ / (total_ - 2));
 }
 
@@ -132,24 +132,23 @@ bool TableStatistic::RejectsLikelihoodRatio(std::int64_t x1, std::int64_t x2) co
 }
 
 bool TableStatistic::Rejects(std::int64_t x1, std::int64_t x2) const {
-  if (test_.statistic == TwoProportionStatistic::LikelihoodRatio) return RejectsLikelihoodRatio(x1, x2);
+  if (design_.test == TwoProportionTest::LikelihoodRatio) return RejectsLikelihoodRatio(x1, x2);
   const Observed observed = Proportions(static_cast<double>(x1), static_cast<double>(x2));
-  return (test_.statistic == TwoProportionStatistic::Z ? Z(observed) : T(observed)) > critical_;
+  return (design_.test == TwoProportionTest::Z ? Z(observed) : T(observed)) > critical_;
 }
 
 // A statistic without sign turns where the proportions are equal; the table that is all successes belongs to the rising
-// part, for its proportions are moved off 1. A one-sided difference rises or falls throughout, but for the row in which
-// the added correction outweighs it.
+// part, for its proportions are moved off 1. A one-sided difference rises or falls throughout, except in the row in
+// which the added correction outweighs it.
 std::int64_t TableStatistic::Turn(std::int64_t x1) const {
   const double position = static_cast<double>(x1);
-  const bool hasSign =
-      alternative_ != Alternative::TwoSided && test_.statistic != TwoProportionStatistic::LikelihoodRatio;
+  const bool hasSign = alternative_ != Alternative::TwoSided && design_.test != TwoProportionTest::LikelihoodRatio;
   if (!hasSign) {
     const double equal = std::floor(position * n2_ / n1_);
     return std::min(static_cast<std::int64_t>(equal), group2_.whole - 1);
   }
   const bool isRising = alternative_ == Alternative::SecondGreater;
-  if (test_.statistic == TwoProportionStatistic::Z && test_.continuityCorrection) {
+  if (design_.test == TwoProportionTest::Z && design_.isCorrected) {
     const double extreme = isRising ? position : n1_ - position;
     if (extreme < 0.5) return TurnOfCorrected(x1);
   }
@@ -184,4 +183,4 @@ AcceptedRange RejectionRows::Row(std::int64_t x1) {
   return previous_;
 }
 
-}  // namespace kelpower
+}  // namespace kelpower::proportions

@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <vector>
 
+#include "proportions/independent_design.h"
 #include "proportions/independent_masses.h"
-#include "proportions/independent_test.h"
 
-namespace kelpower {
+namespace kelpower::proportions {
 
 /// The values f(origin), f(origin + step), ... of f(x) = x ln x, f(0) = 0, looked up where they are many times needed.
 class XLogX {
@@ -27,7 +27,7 @@ private:
 /// fixed order, so that tables which tie with the critical value fall the same way everywhere.
 class TableStatistic {
 public:
-  TableStatistic(const IndependentTest& test, Alternative alternative, const GroupSize& group1,
+  TableStatistic(const IndependentDesign& design, Alternative alternative, const GroupSize& group1,
                  const GroupSize& group2);
 
   bool Rejects(std::int64_t x1, std::int64_t x2) const;
@@ -51,7 +51,7 @@ private:
   bool RejectsLikelihoodRatio(std::int64_t x1, std::int64_t x2) const;
   std::int64_t TurnOfCorrected(std::int64_t x1) const;
 
-  IndependentTest test_;
+  IndependentDesign design_;
   Alternative alternative_;
   GroupSize group1_;
   GroupSize group2_;
@@ -86,6 +86,6 @@ private:
   AcceptedRange previous_{0, 0};
 };
 
-}  // namespace kelpower
+}  // namespace kelpower::proportions
 
 #endif

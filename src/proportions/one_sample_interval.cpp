@@ -1,15 +1,18 @@
+#include "proportions/one_sample_interval.h"
+
 #include <cmath>
 
 #include "frame/root_finders.h"
 #include "kelcommon/kel_dist_fun.h"
-#include "kelpower.h"
+#include "proportions/wald.h"
 
-using namespace kelpower;
+namespace kelpower::proportions {
+
 using KelMath::KelDistFun;
 
 namespace {
 
-enum IntervalMethod { kWald, kLogitAdjusted, kLogit, kClopperPearson, kJeffreys, kWilson, kAgrestiCoull };
+constexpr double waldCorrection = 0.5;  // over the size
 
 // Sizes reach 1e307, so no term below multiplies two of them.
 
@@ -41,68 +44,46 @@ double CorrectedWilsonHalfWidth(double size, double proportion, double z) {
   return (upper - lower) / 2;
 }
 
-/// The confidence interval of one proportion, by a method of `IntervalMethod`.
-struct ProportionInterval {
-  double proportion;
-  int method;
-  double alpha;
-  bool isCorrected;  ///< Wilson's interval only
-  double z;
-
-  ProportionInterval(double p, int ciMethod, double level, std::uint8_t continuityCorrection)
-      : proportion(p),
-        method(ciMethod),
-        alpha(level),
-        isCorrected(continuityCorrection != 0),
-        z(KelDistFun::IdfStdNorm(1 - level / 2)) {}
-
-  double HalfWidth(double size) const {
-    const double x = size * proportion;
-    const double y = size - x;
-    switch (method) {
-      case kWald: return z * std::sqrt((1 - proportion) * proportion / size);
-      case kLogitAdjusted: {
-        const double variance = (size + 1) / size * ((size + 2) / (x + 1)) / (y + 1);
-        return LogitHalfWidth(std::log((x + 0.5) / (y + 0.5)), z * std::sqrt(variance));
-      }
-      case kLogit: return LogitHalfWidth(std::log(proportion / (1 - proportion)), z * std::sqrt(1 / (y * proportion)));
-      case kClopperPearson: return BetaHalfWidth(x, y + 1, x + 1, y, alpha);
-      case kJeffreys: return BetaHalfWidth(x + 0.5, y + 0.5, x + 0.5, y + 0.5, alpha);
-      case kWilson:
-        return isCorrected ? CorrectedWilsonHalfWidth(size, proportion, z) : WilsonHalfWidth(size, proportion, z);
-      case kAgrestiCoull: {
-        const double centre = (z * z / 2 + x) / (z * z + size);
-        return z * std::sqrt((1 - centre) * centre / (z * z + size));
-      }
-      default: return 0;
-    }
-  }
-
-  bool HasMethod() const { return method >= kWald && method <= kAgrestiCoull; }
-};
-
-double WaldSize(double halfWidth, double proportion, double z, bool isCorrected) {
-  const double variance = proportion * (1 - proportion);
-  if (!isCorrected) return z / halfWidth * variance * (z / halfWidth);
-  const double root = (std::sqrt(z * z * variance + 2 * halfWidth) + z * std::sqrt(variance)) / (2 * halfWidth);
-  return root * root;
-}
-
 }  // namespace
 
-// The corrections of Wald and of Wilson test the flag differently, on purpose: for 1, and for not 0.
-extern "C" double HalfCIOneSampBinom(double sampleSize, double proportion, int ciMethod, double alpha,
-                                     std::uint8_t continuityCorrection) {
-  const double halfWidth = ProportionInterval(proportion, ciMethod, alpha, continuityCorrection).HalfWidth(sampleSize);
-  return ciMethod == kWald && continuityCorrection == 1 ? halfWidth + 0.5 / sampleSize : halfWidth;
+OneSampleInterval::OneSampleInterval(const Design& design)
+    : design_(design), z_(KelDistFun::IdfStdNorm(1 - design.alpha / 2)) {}
+
+double OneSampleInterval::HalfWidth(double size) const {
+  const auto& [method, proportion, alpha, isCorrected] = design_;
+  const double x = size * proportion;
+  const double y = size - x;
+  switch (method) {
+    case OneSampleMethod::Wald: {
+      const double halfWidth = z_ * std::sqrt((1 - proportion) * proportion / size);
+      return isCorrected ? halfWidth + waldCorrection / size : halfWidth;
+    }
+    case OneSampleMethod::LogitAdjusted: {
+      const double variance = (size + 1) / size * ((size + 2) / (x + 1)) / (y + 1);
+      return LogitHalfWidth(std::log((x + 0.5) / (y + 0.5)), z_ * std::sqrt(variance));
+    }
+    case OneSampleMethod::Logit:
+      return LogitHalfWidth(std::log(proportion / (1 - proportion)), z_ * std::sqrt(1 / (y * proportion)));
+    case OneSampleMethod::ClopperPearson: return BetaHalfWidth(x, y + 1, x + 1, y, alpha);
+    case OneSampleMethod::Jeffreys: return BetaHalfWidth(x + 0.5, y + 0.5, x + 0.5, y + 0.5, alpha);
+    case OneSampleMethod::Wilson:
+      return isCorrected ? CorrectedWilsonHalfWidth(size, proportion, z_) : WilsonHalfWidth(size, proportion, z_);
+    case OneSampleMethod::AgrestiCoull: {
+      const double centre = (z_ * z_ / 2 + x) / (z_ * z_ + size);
+      return z_ * std::sqrt((1 - centre) * centre / (z_ * z_ + size));
+    }
+  }
+  return 0;
 }
 
-extern "C" double PowerReversebyHalfCIOneSampBinom(double halfWidth, double proportion, int ciMethod, double alpha,
-                                                   std::uint8_t continuityCorrection, StopRequest* cancel) {
-  const ProportionInterval interval(proportion, ciMethod, alpha, continuityCorrection);
-  if (ciMethod == kWald) return WaldSize(halfWidth, proportion, interval.z, continuityCorrection != 0);
-
-  // An unknown method counts as having the wanted half-width at every size.
-  const auto objective = [&](double size) { return interval.HasMethod() ? halfWidth - interval.HalfWidth(size) : 0; };
-  return SolveContinuous(1, 400, 1e-9, objective, cancel);
+Answer OneSampleInterval::SizeFor(double halfWidth, Stop stop) const {
+  const auto& [method, proportion, alpha, isCorrected] = design_;
+  if (method == OneSampleMethod::Wald) {
+    const double variance = proportion * (1 - proportion);
+    return isCorrected ? CorrectedWaldSize(halfWidth, variance, z_, waldCorrection) : WaldSize(halfWidth, variance, z_);
+  }
+  const auto excess = [&](double size) { return halfWidth - HalfWidth(size); };
+  return SolveContinuous(1, 400, 1e-9, excess, stop);
 }
+
+}  // namespace kelpower::proportions

@@ -1,69 +1,56 @@
+#include "proportions/related_interval.h"
+
 #include <cmath>
 
 #include "frame/root_finders.h"
 #include "kelcommon/kel_dist_fun.h"
-#include "kelpower.h"
+#include "proportions/wald.h"
 
-using namespace kelpower;
+namespace kelpower::proportions {
+
 using KelMath::KelDistFun;
 
 namespace {
 
-enum IntervalMethod { kWald, kAgrestiMin, kBonettPrice };
-
-/// The confidence interval of the difference p12 - p21. The adjusted methods add 1 and 2 discordant pairs in all:
-/// Agresti, A. and Min, Y. (2005), Statistics in Medicine 24, 729-740; Bonett, D. G. and Price, R. M. (2012), Journal
-/// of Educational and Behavioral Statistics 37, 479-488.
-struct DifferenceInterval {
-  double discordant;
-  double difference;
-  int method;
-  double z;
-
-  DifferenceInterval(double p12, double p21, int ciMethod, double alpha)
-      : discordant(p12 + p21), difference(p12 - p21), method(ciMethod), z(KelDistFun::IdfStdNorm(1 - alpha / 2)) {}
-
-  double HalfWidth(double size) const {
-    switch (method) {
-      case kWald: return z * std::sqrt(Variance() / size);
-      case kAgrestiMin: return AdjustedHalfWidth(size, 1);
-      case kBonettPrice: return AdjustedHalfWidth(size, 2);
-      default: return 0;
-    }
-  }
-
-  double Variance() const { return discordant - difference * difference; }
-
-private:
-  double AdjustedHalfWidth(double size, double addedPairs) const {
-    const double centre = difference * (size / (size + 2));
-    const double spread = (discordant * size + addedPairs) / (size + 2);
-    return z * std::sqrt((spread - centre * centre) / (size + 2));
-  }
-};
-
-double WaldSize(double halfWidth, double variance, double z, bool isCorrected) {
-  if (!isCorrected) return z / halfWidth * variance * (z / halfWidth);
-  const double scaled = variance * z * z;
-  const double root = (std::sqrt(4 * halfWidth + scaled) + std::sqrt(scaled)) / (2 * halfWidth);
-  return root * root;
-}
+constexpr double waldCorrection = 1;  // over the size
 
 }  // namespace
 
-extern "C" double HalfCIRelSampBinom(double sampleSize, double discordant12, double discordant21, int ciMethod,
-                                     double alpha, std::uint8_t continuityCorrection) {
-  const double halfWidth = DifferenceInterval(discordant12, discordant21, ciMethod, alpha).HalfWidth(sampleSize);
-  return ciMethod == kWald && continuityCorrection == 1 ? halfWidth + 1 / sampleSize : halfWidth;
+RelatedInterval::RelatedInterval(const Design& design)
+    : method_(design.method),
+      isCorrected_(design.isCorrected),
+      discordant_(design.pairs.p12 + design.pairs.p21),
+      difference_(design.pairs.p12 - design.pairs.p21),
+      z_(KelDistFun::IdfStdNorm(1 - design.alpha / 2)) {}
+
+double RelatedInterval::HalfWidth(double size) const {
+  switch (method_) {
+    case RelatedMethod::AgrestiMin: return AdjustedHalfWidth(size, 1);
+    case RelatedMethod::BonettPrice: return AdjustedHalfWidth(size, 2);
+    case RelatedMethod::Wald: break;
+  }
+  const double halfWidth = z_ * std::sqrt(Variance() / size);
+  return isCorrected_ ? halfWidth + waldCorrection / size : halfWidth;
 }
 
-extern "C" double PowerReversebyHalfCIRelSampBinom(double halfWidth, double discordant12, double discordant21,
-                                                   int ciMethod, double alpha, std::uint8_t continuityCorrection,
-                                                   StopRequest* cancel) {
-  const DifferenceInterval interval(discordant12, discordant21, ciMethod, alpha);
-  if (ciMethod == kWald) {
-    return std::ceil(WaldSize(halfWidth, interval.Variance(), interval.z, continuityCorrection != 0));
-  }
-  const auto objective = [&](double size) { return halfWidth - interval.HalfWidth(size); };
-  return std::ceil(SolveContinuous(1, 400, 1e-9, objective, cancel));
+double RelatedInterval::AdjustedHalfWidth(double size, double addedPairs) const {
+  const double centre = difference_ * (size / (size + 2));
+  const double spread = (discordant_ * size + addedPairs) / (size + 2);
+  return z_ * std::sqrt((spread - centre * centre) / (size + 2));
 }
+
+// The corrected size is that of |z|.
+Answer RelatedInterval::SizeFor(double halfWidth, Stop stop) const {
+  if (method_ == RelatedMethod::Wald) {
+    return isCorrected_ ? CorrectedWaldSize(halfWidth, Variance(), std::fabs(z_), waldCorrection)
+                        : WaldSize(halfWidth, Variance(), z_);
+  }
+  return PairsForHalfWidth([this](double size) { return HalfWidth(size); }, halfWidth, stop);
+}
+
+Answer PairsForHalfWidth(FunctionView<double(double)> halfWidthAt, double halfWidth, Stop stop) {
+  const auto excess = [&](double size) { return halfWidth - halfWidthAt(size); };
+  return SolveContinuous(1, 400, 1e-9, excess, stop);
+}
+
+}  // namespace kelpower::proportions

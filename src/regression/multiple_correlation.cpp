@@ -23,14 +23,14 @@
 // both directions with a few multiplications a term. Downwards P_k only gains, so nothing cancels; upwards it loses
 // digits only where its terms no longer matter.
 
-namespace kelpower {
+namespace kelpower::regression {
 
 using KelCommon::KelMV;
 using KelMath::KelDistFun;
 
 namespace {
 
-constexpr double kNegligible = 1e-18;
+constexpr double negligible = 1e-18;
 
 /// A probability with its complement, either of which may be tiny.
 struct Share {
@@ -64,7 +64,7 @@ double BetaCdf(const Mixture& mix, double k) {
   return 1 - KelDistFun::CdfBeta(mix.c.complement, mix.e, mix.a + k);
 }
 
-/// The sum over k, from the mode of the weights outwards. What is left of it when it stops is below `kNegligible`: the
+/// The sum over k, from the mode of the weights outwards. What is left of it when it stops is below `negligible`: the
 /// weights beyond k are at most a geometric series, and no P_k beyond is larger than the last one, or than 1.
 double SumFromMode(const Mixture& mix) {
   const auto& [a, e, h, c, rhoSquared] = mix;
@@ -81,7 +81,7 @@ double SumFromMode(const Mixture& mix) {
   double step = stepAtMode;
   for (double k = mode; cdf > 0; ++k) {
     const double growth = ratio * (h + k);
-    if (weight * cdf * growth <= kNegligible * (k + 1 - growth)) break;
+    if (weight * cdf * growth <= negligible * (k + 1 - growth)) break;
     weight *= growth / (k + 1);
     cdf -= step;
     step *= c.value * (h + k) / (a + k + 1);
@@ -93,7 +93,7 @@ double SumFromMode(const Mixture& mix) {
   step = stepAtMode;
   for (double k = mode; k > 0; --k) {
     const double growth = ratio * (h + k - 1);
-    if (weight * k <= kNegligible * (growth - k)) break;
+    if (weight * k <= negligible * (growth - k)) break;
     weight *= k / growth;
     step *= (a + k) / (c.value * (h + k - 1));
     cdf += step;
@@ -119,16 +119,16 @@ double LogGammaShape(double t) {
 /// trapezoidal rule in t = ln(s / h) converges geometrically, because the integrand is smooth and dies off at both
 /// ends, and no feature of it is narrower than the gamma density.
 double IntegrateOverNoncentrality(const FTest& test, const Mixture& mix) {
-  constexpr double kPointsPerSpread = 5;
-  constexpr double kLogNegligible = -41;
-  const double stride = 1 / (kPointsPerSpread * std::sqrt(mix.h));
+  constexpr double pointsPerSpread = 5;
+  constexpr double logNegligible = -41;
+  const double stride = 1 / (pointsPerSpread * std::sqrt(mix.h));
   const double atCentre = 2 * mix.Mean();
 
   double total = 0;
   double sum = 0;
   const auto add = [&](double t) {
     const double logWeight = mix.h * LogGammaShape(t);
-    if (!(logWeight > kLogNegligible)) return false;
+    if (!(logWeight > logNegligible)) return false;
     const double weight = std::exp(logWeight);
     total += weight;
     sum += weight * (1 - test.Power(atCentre * std::exp(t)));
@@ -143,7 +143,7 @@ double IntegrateOverNoncentrality(const FTest& test, const Mixture& mix) {
 }  // namespace
 
 double CdfSquaredMultipleCorrelation(const FTest& test, double rhoSquared) {
-  constexpr double kWidestSum = 1000;  // up to here the sum takes less time than the integral
+  constexpr double widestSum = 1000;  // up to here the sum takes less time than the integral
 
   if (!(rhoSquared >= 0 && rhoSquared <= 1)) return std::numeric_limits<double>::quiet_NaN();
   if (std::isnan(test.critical)) return std::numeric_limits<double>::quiet_NaN();
@@ -163,9 +163,9 @@ double CdfSquaredMultipleCorrelation(const FTest& test, double rhoSquared) {
   // The weights below this point sum to less than exp(-9.2^2 / 2): a sum of nonnegative jumps has a lower tail below
   // the normal one.
   const double lowest = mix.Mean() - 9.2 * spread;
-  if (lowest > 0 && BetaCdf(mix, std::floor(lowest)) < kNegligible) return 0;
-  if (spread > kWidestSum) return IntegrateOverNoncentrality(test, mix);
+  if (lowest > 0 && BetaCdf(mix, std::floor(lowest)) < negligible) return 0;
+  if (spread > widestSum) return IntegrateOverNoncentrality(test, mix);
   return SumFromMode(mix);
 }
 
-}  // namespace kelpower
+}  // namespace kelpower::regression

@@ -3,7 +3,7 @@
 
 #include "frame/rejection.h"
 
-namespace kelpower {
+namespace kelpower::regression {
 
 /// The probability that the F statistic of `test` stays below its critical value when the predictors are multivariate
 /// normal with squared population multiple correlation `rhoSquared`: the distribution function of the squared sample
@@ -13,6 +13,6 @@ namespace kelpower {
 /// Source: Gurland (1968), A relatively simple form of the distribution of the multiple correlation coefficient.
 double CdfSquaredMultipleCorrelation(const FTest& test, double rhoSquared);
 
-}  // namespace kelpower
+}  // namespace kelpower::regression
 
 #endif

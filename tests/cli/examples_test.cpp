@@ -7,7 +7,7 @@
 #include <sstream>
 #include <vector>
 
-#include "planner/catalogue.h"
+#include "catalogue/catalogue.h"
 #include "run.h"
 
 // Every example that the help and the documents show is run, and must give what they say.

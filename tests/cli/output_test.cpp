@@ -2,7 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "planner/catalogue.h"
+#include "catalogue/catalogue.h"
 #include "run.h"
 
 namespace {

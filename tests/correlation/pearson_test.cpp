@@ -1,178 +1,45 @@
+#include "correlation/pearson.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
-#include "correlation/correlation.h"
-#include "kelcommon/kel_dist_fun.h"
-#include "kelcommon/kel_mv.h"
 #include "kelpower.h"
 #include "support/stop_requests.h"
 
-namespace kelpower {
+namespace kelpower::correlation {
 namespace {
 
-using KelCommon::KelMV;
-using KelMath::KelDistFun;
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr std::uint8_t kFlags[] = {0, 1};
-
-TEST(FisherDifference, IsThatOfZOrTheLargestDouble) {
-  constexpr double kLargest = std::numeric_limits<double>::max();
-  EXPECT_DOUBLE_EQ(FisherDifference(0.5, 0.2), std::atanh(0.5) - std::atanh(0.2));
-  EXPECT_EQ(FisherDifference(1, 0.2), kLargest);
-  EXPECT_EQ(FisherDifference(-1, 0.2), -kLargest);
-  EXPECT_EQ(FisherDifference(0.2, -1), kLargest);
-  EXPECT_EQ(FisherDifference(0.2, 1), -kLargest);
-  EXPECT_EQ(FisherDifference(1, 1), kLargest);
-  EXPECT_EQ(FisherDifference(-1, -1), kLargest);
-}
-
-TEST(BackTransformedHalfWidth, IsHalfTheDistanceOfItsEnds) {
-  for (const double z : {-3.0, -0.4, 0.0, 1e-3, 2.0, 15.0}) {
-    for (const double h : {0.01, 0.5, 3.0, 40.0}) {
-      EXPECT_NEAR(BackTransformedHalfWidth(z, h), (std::tanh(z + h) - std::tanh(z - h)) / 2, 3e-16) << z << ' ' << h;
-    }
+TEST(Pearson, PowersAndSizesAreThoseOfTheExports) {
+  for (const bool isCorrected : {false, true}) {
+    const PearsonTest test{{0.05, false}, 0, isCorrected};
+    EXPECT_EQ(*Power(test, 84, {0.3, 0}), PowerbyOneSampPearson(84, 0.3, 0, 0, isCorrected, 0.05));
+    EXPECT_EQ(*SizeForPower(test, {0.3, 0}, 0.8),
+              PowerReversebyOneSampPearson(0.8, 0.3, 0, 0, isCorrected, 0.05, nullptr));
   }
-  // Small ones are h (1 - tanh^2 z), to the last digit where the difference of the ends has lost half of them.
-  EXPECT_DOUBLE_EQ(BackTransformedHalfWidth(0.5, 1e-9), 1e-9 * (1 - std::tanh(0.5) * std::tanh(0.5)));
-  EXPECT_EQ(BackTransformedHalfWidth(0.5, kInfinity), 1);
-  EXPECT_EQ(BackTransformedHalfWidth(kInfinity, 0.5), 0);
-  EXPECT_TRUE(std::isnan(BackTransformedHalfWidth(kInfinity, kInfinity)));
+  const PearsonTest partial{{0.05, true}, 4, true};
+  EXPECT_EQ(*Power(partial, 84, {0.3, 0}), PowerbyOneSampPartial(84, 4, 0.3, 0, 1, 0.05));
+  EXPECT_EQ(*SizeForPower(partial, {0.3, 0}, 0.8), PowerReversebyOneSampPartial(0.8, 4, 0.3, 0, 1, 0.05));
 }
 
-TEST(PowerbyOneSampPearson, MatchesPublishedTables) {
-  // Cohen (1988), Tables 3.3.5 and 3.3.2: two-sided 0.05, r 0.30, n 84: 0.80; one-sided 0.05, r 0.30, n 68: 0.80.
-  EXPECT_NEAR(PowerbyOneSampPearson(84, 0.3, 0, 0, 0, 0.05), 0.80, 0.006);
-  EXPECT_NEAR(PowerbyOneSampPearson(68, 0.3, 0, 1, 0, 0.05), 0.80, 0.006);
+TEST(Pearson, IntervalsAreThoseOfTheExports) {
+  const PearsonInterval interval{Confidence(0.05), 0.3, 0, true};
+  EXPECT_EQ(HalfWidth(interval, 84), HalfCIOneSampPearson(84, 0.3, 1, 0.05));
+  EXPECT_EQ(std::ceil(*SizeForHalfWidth(interval, 0.1)),
+            PowerReversebyHalfCIOneSampPearson(0.1, 0.3, 1, 0.05, nullptr));
+  const PearsonInterval partial{Confidence(0.05), 0.3, 4};
+  EXPECT_EQ(std::ceil(*SizeForHalfWidth(partial, 0.1)), PowerReversebyHalfCIOneSampPartial(0.1, 4, 0.3, 0.05, nullptr));
 }
 
-TEST(PowerbyOneSampPearson, IsTheNormalProbabilityOfFishersZ) {
-  const double shift = std::atanh(0.3) * std::sqrt(47.0);
-  const double critical = 1.959963984540054;
-  EXPECT_NEAR(PowerbyOneSampPearson(50, 0.3, 0, 0, 0, 0.05),
-              KelDistFun::CdfStdNorm(shift - critical) + KelDistFun::CdfStdNorm(-shift - critical), 1e-14);
-}
-
-TEST(PowerbyOneSampPearson, OfEqualCorrelationsIsAlpha) {
-  for (const double alpha : {1e-6, 0.01, 0.05, 0.5, 0.99}) {
-    for (const double correlation : {-0.9, 0.0, 0.5}) {
-      EXPECT_NEAR(PowerbyOneSampPearson(30, correlation, correlation, 0, 0, alpha), alpha, 1e-14);
-      EXPECT_NEAR(PowerbyOneSampPearson(30, correlation, correlation, 1, 0, alpha), alpha, 1e-14);
-    }
-  }
-}
-
-TEST(PowerbyOneSampPearson, IsSymmetricInTheSigns) {
-  for (const int oneSided : {0, 1}) {
-    for (const std::uint8_t adjustBias : kFlags) {
-      EXPECT_NEAR(PowerbyOneSampPearson(30, 0.5, 0.1, oneSided, adjustBias, 0.05),
-                  PowerbyOneSampPearson(30, -0.5, -0.1, oneSided, adjustBias, 0.05), 1e-15);
-    }
-  }
-}
-
-TEST(PowerbyOneSampPearson, GrowsWithSizeEffectAndAlpha) {
-  for (const std::uint8_t adjustBias : kFlags) {
-    double last = 0;
-    for (double n = 4; n < 100; n += 1.5) {
-      EXPECT_GT(PowerbyOneSampPearson(n, 0.4, 0.1, 0, adjustBias, 0.05), last);
-      last = PowerbyOneSampPearson(n, 0.4, 0.1, 0, adjustBias, 0.05);
-    }
-    last = 0;
-    for (double correlation = 0.1; correlation < 0.7; correlation += 0.05) {
-      EXPECT_GT(PowerbyOneSampPearson(30, correlation, 0, 0, adjustBias, 0.05), last);
-      last = PowerbyOneSampPearson(30, correlation, 0, 0, adjustBias, 0.05);
-    }
-    last = 0;
-    for (double alpha = 0.01; alpha < 1; alpha += 0.01) {
-      EXPECT_GT(PowerbyOneSampPearson(30, 0.2, 0, 0, adjustBias, alpha), last);
-      last = PowerbyOneSampPearson(30, 0.2, 0, 0, adjustBias, alpha);
-    }
-  }
-}
-
-TEST(PowerbyOneSampPearson, AnswersAtTheEndsOfItsArguments) {
-  EXPECT_EQ(PowerbyOneSampPearson(3, 0.3, 0, 0, 0, 0.05), -1);
-  EXPECT_GT(PowerbyOneSampPearson(std::nextafter(3.0, 4), 0.3, 0, 0, 0, 0.05), 0.04);
-  EXPECT_EQ(PowerbyOneSampPearson(30, 1.01, 0, 0, 0, 0.05), -1);
-  EXPECT_EQ(PowerbyOneSampPearson(30, 0, -1.01, 0, 0, 0.05), -1);
-  EXPECT_EQ(PowerbyOneSampPearson(30, 0.3, 0, 0, 0, 0), -1);
-  EXPECT_EQ(PowerbyOneSampPearson(30, 0.3, 0, 0, 0, 1), -1);
-  EXPECT_GT(PowerbyOneSampPearson(30, 0.3, 0, 0, 0, 0.5), 0.5);
-  EXPECT_EQ(PowerbyOneSampPearson(30, 1, 1, 0, 0, 0.05), 1);
-  EXPECT_EQ(PowerbyOneSampPearson(30, 1, 0.5, 0, 1, 0.05), 1);
-  EXPECT_EQ(PowerbyOneSampPearson(30, -1, 0.5, 0, 1, 0.05), 1);
-  EXPECT_EQ(PowerbyOneSampPearson(1e308, 0.1, 0, 0, 1, 0.05), 1);
-  EXPECT_NEAR(PowerbyOneSampPearson(1e307, 0.2, 0.2, 0, 1, 0.05), 0.05, 1e-14);
-  EXPECT_TRUE(std::isnan(PowerbyOneSampPearson(kNaN, 0.3, 0, 0, 0, 0.05)));
-  EXPECT_TRUE(std::isnan(PowerbyOneSampPearson(30, kNaN, 0, 0, 0, 0.05)));
-  EXPECT_TRUE(std::isnan(PowerbyOneSampPearson(30, 0.3, 0, 0, 0, kNaN)));
-}
-
-// The power functions correct for 1 alone, the searches for every byte but 0.
-TEST(AdjustBias, IsReadDifferentlyByPowersAndSearches) {
-  EXPECT_EQ(PowerbyOneSampPearson(30, 0.3, 0, 0, 2, 0.05), PowerbyOneSampPearson(30, 0.3, 0, 0, 0, 0.05));
-  EXPECT_NE(PowerbyOneSampPearson(30, 0.3, 0, 0, 1, 0.05), PowerbyOneSampPearson(30, 0.3, 0, 0, 0, 0.05));
-  EXPECT_EQ(HalfCIOneSampPearson(30, 0.3, 2, 0.05), HalfCIOneSampPearson(30, 0.3, 0, 0.05));
-  EXPECT_NE(HalfCIOneSampPearson(30, 0.3, 1, 0.05), HalfCIOneSampPearson(30, 0.3, 0, 0.05));
-  EXPECT_EQ(PowerReversebyOneSampPearson(0.8, 0.3, 0, 0, 2, 0.05, nullptr),
-            PowerReversebyOneSampPearson(0.8, 0.3, 0, 0, 1, 0.05, nullptr));
-  EXPECT_EQ(PowerReversebyHalfCIOneSampPearson(0.3, 0.9, 255, 0.05, nullptr),
-            PowerReversebyHalfCIOneSampPearson(0.3, 0.9, 1, 0.05, nullptr));
-}
-
-TEST(PowerReversebyOneSampPearson, GivesTheSizeThatReachesTheTarget) {
-  for (const int oneSided : {0, 1}) {
-    for (const std::uint8_t adjustBias : kFlags) {
-      for (const double target : {0.2, 0.8, 0.99}) {
-        const double n = PowerReversebyOneSampPearson(target, 0.25, 0.1, oneSided, adjustBias, 0.05, nullptr);
-        EXPECT_NE(n, std::floor(n));
-        EXPECT_LE(PowerbyOneSampPearson(n, 0.25, 0.1, oneSided, adjustBias, 0.05), target);
-        EXPECT_GT(PowerbyOneSampPearson(n + 1e-8, 0.25, 0.1, oneSided, adjustBias, 0.05), target);
-      }
-    }
-  }
-}
-
-TEST(PowerReversebyOneSampPearson, IsMissingWithoutASolution) {
-  EXPECT_TRUE(KelMV::IsMissing(PowerReversebyOneSampPearson(0.8, 1.5, 0, 0, 0, 0.05, nullptr)));
-  EXPECT_TRUE(KelMV::IsMissing(PowerReversebyOneSampPearson(0.8, 0.2, 0.2, 0, 0, 0.05, nullptr)));
-  EXPECT_TRUE(KelMV::IsMissing(PowerReversebyOneSampPearson(0.8, 0.3, 0, 0, 0, 0, nullptr)));
-  CountingStop stop(3);
-  EXPECT_TRUE(KelMV::IsMissing(PowerReversebyOneSampPearson(0.8, 0.3, 0, 0, 0, 0.05, &stop)));
-  EXPECT_EQ(stop.Asked(), 3);
-}
-
-TEST(HalfCIOneSampPearson, OfNoCorrelationNeedsNoCorrection) {
-  EXPECT_EQ(HalfCIOneSampPearson(30, 0, 1, 0.05), HalfCIOneSampPearson(30, 0, 0, 0.05));
-  EXPECT_NEAR(HalfCIOneSampPearson(30, 0, 0, 0.05), std::tanh(1.959963984540054 / std::sqrt(27.0)), 1e-15);
-}
-
-TEST(HalfCIOneSampPearson, ShrinksWithSize) {
-  double last = 1;
-  for (double n = 4; n < 1e12; n *= 1.7) {
-    EXPECT_LT(HalfCIOneSampPearson(n, 0.4, 1, 0.05), last);
-    last = HalfCIOneSampPearson(n, 0.4, 1, 0.05);
-  }
-}
-
-TEST(PowerReversebyHalfCIOneSampPearson, MatchesPublishedSizes) {
-  // Moinester and Gottfried (2014): a full width of 0.10 at 95%.
-  EXPECT_EQ(PowerReversebyHalfCIOneSampPearson(0.05, 0.30, 0, 0.05, nullptr), 1274);
-  EXPECT_EQ(PowerReversebyHalfCIOneSampPearson(0.05, 0.70, 0, 0.05, nullptr), 404);
-}
-
-TEST(PowerReversebyHalfCIOneSampPearson, GivesTheFirstWholeSizeThatIsNarrowEnough) {
-  for (const double halfWidth : {0.4, 0.1, 0.01, 1e-4}) {
-    const double n = PowerReversebyHalfCIOneSampPearson(halfWidth, 0.5, 1, 0.05, nullptr);
-    EXPECT_EQ(n, std::floor(n));
-    EXPECT_LE(HalfCIOneSampPearson(n, 0.5, 1, 0.05), halfWidth);
-    EXPECT_GT(HalfCIOneSampPearson(n - 1, 0.5, 1, 0.05), halfWidth);
-  }
+TEST(Pearson, SaysWhyThereIsNoPowerOrSize) {
+  const PearsonTest test{{0.05, false}};
+  EXPECT_EQ(Power(test, 3, {0.3, 0}).Reason(), NoValue::Refused);
+  EXPECT_EQ(Power(test, 30, {1.3, 0}).Reason(), NoValue::Refused);
+  EXPECT_EQ(Power({{1, false}}, 30, {0.3, 0}).Reason(), NoValue::Refused);
+  EXPECT_EQ(SizeForPower(test, {0, 0}, 0.8).Reason(), NoValue::NotReached);
+  keltest::CountingStop stop(3);
+  EXPECT_EQ(SizeForPower(test, {0.3, 0}, 0.8, stop).Reason(), NoValue::Stopped);
 }
 
 }  // namespace
-}  // namespace kelpower
+}  // namespace kelpower::correlation

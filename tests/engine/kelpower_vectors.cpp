@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -14,22 +15,24 @@ namespace {
 
 using namespace keltest;
 
-constexpr const char* kUsage =
+constexpr const char* usage =
     "usage: kelpower_vectors [options] cases.jsonl...\n"
     "Calls the function of every case and compares what it gives with the reference.\n"
-    "  --achieved FILE  fail too when a function's largest difference has grown beyond that stored in FILE,\n"
-    "                   or in the file that this platform has beside it\n"
-    "  --update         store the differences of this run in that file instead\n"
-    "  --function NAME  only the cases of this function\n"
-    "  --line N         only the case on this line\n"
-    "  --exported       skip functions that the library does not export, instead of failing\n"
-    "  --all            print every failure, not only the first five of a function\n";
+    "  --achieved FILE    fail too when a function's largest difference has grown beyond that stored in FILE,\n"
+    "                     or in the file that this platform has beside it\n"
+    "  --update           store the differences of this run in that file instead\n"
+    "  --superseded FILE  the cases whose references are not what the library is to give\n"
+    "  --function NAME    only the cases of this function\n"
+    "  --line N           only the case on this line\n"
+    "  --exported         skip functions that the library does not export, instead of failing\n"
+    "  --all              print every failure, not only the first five of a function\n";
 
-constexpr std::size_t kFailuresShown = 5;
+constexpr std::size_t failuresShown = 5;
 
 struct Options {
   std::vector<std::string> files;
   std::string achieved;
+  std::string superseded;
   std::string function;
   std::size_t line = 0;
   bool updates = false;
@@ -49,6 +52,8 @@ bool Parse(int argc, char** argv, Options& options) {
       options.showsAll = true;
     } else if (argument == "--achieved" && hasNext) {
       options.achieved = argv[++i];
+    } else if (argument == "--superseded" && hasNext) {
+      options.superseded = argv[++i];
     } else if (argument == "--function" && hasNext) {
       options.function = argv[++i];
     } else if (argument == "--line" && hasNext) {
@@ -65,7 +70,9 @@ bool Parse(int argc, char** argv, Options& options) {
 std::vector<VectorCase> Select(const Options& options) {
   std::vector<VectorCase> selected;
   for (const std::string& file : options.files) {
-    for (VectorCase& vectorCase : ReadCases(file)) {
+    std::vector<VectorCase> cases = ReadCases(file);
+    if (!options.superseded.empty()) Supersede(options.superseded, std::filesystem::path(file).stem().string(), cases);
+    for (VectorCase& vectorCase : cases) {
       if (!options.function.empty() && vectorCase.function != options.function) continue;
       if (options.line != 0 && vectorCase.line != options.line) continue;
       if (options.onlyExported && !Find(Exports(), vectorCase.function)) continue;
@@ -91,7 +98,7 @@ void PrintSummary(const std::string& name, const Summary& summary) {
 
 void PrintFailures(const Summary& summary, bool showsAll) {
   const auto& failures = summary.findings.failures;
-  const std::size_t shown = showsAll ? failures.size() : std::min(failures.size(), kFailuresShown);
+  const std::size_t shown = showsAll ? failures.size() : std::min(failures.size(), failuresShown);
   for (std::size_t i = 0; i < shown; ++i) std::printf("FAILED %s\n", failures[i].c_str());
   if (shown < failures.size()) std::printf("       and %zu more\n", failures.size() - shown);
 }
@@ -146,7 +153,7 @@ int main(int argc, char** argv) {
   Options options;
   try {
     if (!Parse(argc, argv, options)) {
-      std::fputs(kUsage, stderr);
+      std::fputs(usage, stderr);
       return 2;
     }
     return Run(options);

@@ -2,23 +2,17 @@
 // build of the library with this in place of the fast ones is what they are compared with.
 
 #include "frame/increasing_search.h"
-#include "frame/rejection.h"
 #include "frame/root_finders.h"
 
 namespace kelpower {
 
-double SolveIncreasingPower(double lower, double upper, double tolerance, FunctionView<double(double)> powerAt,
-                            double target, StopRequest* stop) {
-  return SolveContinuous(
-      lower, upper, tolerance, [&](double x) { return powerAt(x) - target; }, stop);
+Answer SolveIncreasingPower(double lower, double upper, double tolerance, FunctionView<double(double)> powerAt,
+                            double target, Stop stop) {
+  return SolvePower(lower, upper, tolerance, powerAt, target, stop);
 }
 
-double SolveHalfWidth(double lower, double upper, double tolerance, const HalfWidthEquation& equation) {
-  const auto excess = [&](double x) {
-    const double t = IntervalQuantileT(equation.alpha, equation.dfAt(x));
-    return equation.slope * x - equation.weight * (t * t);
-  };
-  return SolveContinuous(lower, upper, tolerance, excess, nullptr);
+Answer SolveHalfWidth(double lower, double upper, double tolerance, const HalfWidthEquation& equation) {
+  return SolveContinuous(lower, upper, tolerance, [&](double x) { return equation.Excess(x); }, {});
 }
 
 }  // namespace kelpower

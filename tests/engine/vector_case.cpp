@@ -55,6 +55,24 @@ std::vector<VectorCase> ReadCases(const std::string& path) {
   return cases;
 }
 
+void Supersede(const std::string& path, const std::string& family, std::vector<VectorCase>& cases) {
+  std::ifstream file(path);
+  for (const json& entry : json::parse(file)) {
+    if (entry.at("family") != family) continue;
+    if (entry.at("reason").get<std::string>().empty()) throw std::runtime_error(path + ": no reason");
+    bool isFound = false;
+    for (VectorCase& vectorCase : cases) {
+      if (vectorCase.function != entry.at("fn") || vectorCase.arguments != entry.at("args")) continue;
+      isFound = true;
+      vectorCase.result = entry.at("ret");
+      vectorCase.outputs.clear();
+      for (const auto& [position, content] : entry.at("out").items())
+        vectorCase.outputs[std::stoul(position)] = content;
+    }
+    if (!isFound) throw std::runtime_error(path + ": no such case: " + entry.dump());
+  }
+}
+
 namespace {
 
 std::int32_t ToInt(const json& value, std::int64_t min, std::int64_t max) {

@@ -1,5 +1,5 @@
-#ifndef KELPOWER_TESTS_VECTOR_CASE_H
-#define KELPOWER_TESTS_VECTOR_CASE_H
+#ifndef KELPOWER_TESTS_ENGINE_VECTOR_CASE_H
+#define KELPOWER_TESTS_ENGINE_VECTOR_CASE_H
 
 #include <cstddef>
 #include <map>
@@ -29,6 +29,10 @@ VectorCase ParseCase(const std::string& text, std::size_t line);
 
 /// Reads the cases of a file. Throws when it cannot be read or holds none.
 std::vector<VectorCase> ReadCases(const std::string& path);
+
+/// Puts what the list of superseded cases in a file says in place of the references of a family, the name of its file
+/// without the ending. Throws where the list has a case that the family has not.
+void Supersede(const std::string& path, const std::string& family, std::vector<VectorCase>& cases);
 
 /// The arguments of the case for a function with these argument types. Throws when they do not fit.
 std::vector<Argument> MakeArguments(const VectorCase& vectorCase, const std::string& types);

@@ -14,7 +14,7 @@ namespace {
 
 using KelCommon::KelMV;
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
 
 std::vector<double> PositionsOf(const Axis& axis) {
   std::vector<double> positions;
@@ -48,42 +48,46 @@ TEST(Axes, FractionsEndInThreeWays) {
 TEST(Axes, AnEmptyRangeHasOnePositionAndABadStepNone) {
   for (const AxisEnd end : {AxisEnd::Open, AxisEnd::OnGrid, AxisEnd::Exact}) {
     EXPECT_EQ(PositionsOf(*FractionAxis(0.4, 0.4, 0.1, end)), std::vector<double>{0.4});
-    for (const double fraction : {0.0, -0.1, kNaN}) EXPECT_FALSE(FractionAxis(0, 1, fraction, end));
-    EXPECT_FALSE(FractionAxis(0, kNaN, 0.1, end));
+    for (const double fraction : {0.0, -0.1, quietNaN}) EXPECT_FALSE(FractionAxis(0, 1, fraction, end));
+    EXPECT_FALSE(FractionAxis(0, quietNaN, 0.1, end));
     EXPECT_FALSE(FractionAxis(0, 1, 1e-12, end));
   }
 }
 
 TEST(Axes, CountsOutOfRangeHaveNoAxis) {
   EXPECT_FALSE(CountedAxis(-1, 0, 1));
-  EXPECT_FALSE(CountedAxis(kNaN, 0, 1));
+  EXPECT_FALSE(CountedAxis(quietNaN, 0, 1));
   EXPECT_FALSE(CountedAxis(2147483648.0, 0, 1));
   EXPECT_EQ(CountedAxis(2147483647, 0, 1)->count, 2147483647);
 }
 
-TEST(Curve, StoresPositionsAndValues) {
-  XYPlot plot = Curve(SizeAxis(2, 4), Precision::Double, [](double x) { return x / 3; });
-  ASSERT_EQ(plot.count, 3);
-  EXPECT_EQ(plot.x[2], 4);
-  EXPECT_EQ(plot.y[2], 4.0 / 3);
-  FreeMemXYPlot(&plot);
-
-  plot = Curve(SizeAxis(2, 4), Precision::Single, [](double x) { return x / 3; });
-  EXPECT_EQ(plot.y[2], static_cast<double>(4.0F / 3.0F));
-  FreeMemXYPlot(&plot);
+TEST(Axes, InnerPositionsLeaveOutTheOrigin) {
+  EXPECT_EQ(PositionsOf(*InnerAxis(3, -1, 0.5)), (std::vector<double>{-0.5, 0, 0.5}));
+  for (const double step : {0.0, -0.1, quietNaN}) EXPECT_FALSE(InnerAxis(3, 0, step));
 }
 
-TEST(Curve, IsEmptyWithoutAnAxisAndHasArraysWithNoPoints) {
-  const XYPlot none = Curve(std::nullopt, Precision::Single, [](double) { return 1.0; });
-  EXPECT_EQ(none.count, 0);
-  EXPECT_EQ(none.x, nullptr);
-  EXPECT_EQ(none.y, nullptr);
+TEST(Axes, AFractionMultipliesLast) {
+  Axis axis = *CountedAxis(2, 0, 0.7);
+  axis.fraction = 0.1;
+  EXPECT_EQ(axis.At(1), 0.7 * 0.1);
+  axis.fraction = 1e308;
+  EXPECT_EQ(axis.At(0), 0);
+}
 
-  XYPlot noPoints = Curve(SizeAxis(5, 4), Precision::Single, [](double) { return 1.0; });
-  EXPECT_EQ(noPoints.count, 0);
-  EXPECT_NE(noPoints.x, nullptr);
-  EXPECT_NE(noPoints.y, nullptr);
-  FreeMemXYPlot(&noPoints);
+TEST(PointsOfCurve, StoresPositionsAndValues) {
+  CurvePoints points = PointsOfCurve(SizeAxis(2, 4), Precision::Double, [](double x) { return x / 3; });
+  ASSERT_EQ(points.count, 3);
+  EXPECT_EQ(points.x[2], 4);
+  EXPECT_EQ(points.y[2], 4.0 / 3);
+
+  points = PointsOfCurve(SizeAxis(2, 4), Precision::Single, [](double x) { return x / 3; });
+  EXPECT_EQ(points.y[2], static_cast<double>(4.0F / 3.0F));
+}
+
+TEST(PointsOfCurve, HasNoArraysWithoutAnAxis) {
+  const CurvePoints none = PointsOfCurve(std::nullopt, Precision::Single, [](double) { return 1.0; });
+  EXPECT_EQ(none.count, 0);
+  EXPECT_FALSE(none.x || none.y);
 }
 
 TEST(Stored, TurnsMissingIntoMinusInfinityInSinglePrecision) {
@@ -91,52 +95,24 @@ TEST(Stored, TurnsMissingIntoMinusInfinityInSinglePrecision) {
   EXPECT_EQ(Stored(KelMV::Missing(), Precision::Double), KelMV::Missing());
 }
 
-TEST(Surface, IsTheSameByRowsAndByColumns) {
+TEST(PointsOfSurface, AreTheSameByRowsAndByColumns) {
   const std::optional<Axis> x = SizeAxis(2, 5);
   const std::optional<Axis> y = FractionAxis(0, 1, 0.5, AxisEnd::OnGrid);
-  XYZPlot rows = SurfaceByRows(x, y, Precision::Double, [](double xValue, const SurfaceLine& row) {
+  const SurfacePoints rows = PointsByRows(x, y, Precision::Double, [](double xValue, const SurfaceLine& row) {
     row.Fill([&](double yValue) { return 10 * xValue + yValue; });
   });
-  XYZPlot columns = SurfaceByColumns(x, y, Precision::Double, [](double yValue, const SurfaceLine& column) {
+  const SurfacePoints columns = PointsByColumns(x, y, Precision::Double, [](double yValue, const SurfaceLine& column) {
     column.Fill([&](double xValue) { return 10 * xValue + yValue; });
   });
   ASSERT_EQ(rows.xCount, 4);
   ASSERT_EQ(rows.yCount, 3);
   for (int i = 0; i < rows.xCount; ++i) {
     for (int j = 0; j < rows.yCount; ++j) {
-      EXPECT_EQ(rows.z[i * rows.yCount + j], 10 * rows.x[i] + rows.y[j]);
-      EXPECT_EQ(columns.z[i * rows.yCount + j], rows.z[i * rows.yCount + j]);
+      const auto index = static_cast<std::size_t>(i * rows.yCount + j);
+      EXPECT_EQ(rows.z[index], 10 * rows.x[static_cast<std::size_t>(i)] + rows.y[static_cast<std::size_t>(j)]);
+      EXPECT_EQ(columns.z[index], rows.z[index]);
     }
   }
-  FreeMemXYZPlot(&rows);
-  FreeMemXYZPlot(&columns);
-}
-
-TEST(Release, ClearsAllArraysButTheLast) {
-  XYPlot curve = Curve(SizeAxis(2, 4), Precision::Double, [](double x) { return x; });
-  const double* y = curve.y;
-  FreeMemXYPlot(&curve);
-  EXPECT_EQ(curve.x, nullptr);
-  EXPECT_EQ(curve.y, y);
-  EXPECT_EQ(curve.count, 3);
-
-  XYZPlot surface = SurfaceByRows(SizeAxis(2, 4), SizeAxis(2, 3), Precision::Double,
-                                  [](double, const SurfaceLine& row) { row.Fill([](double) { return 0.0; }); });
-  const double* z = surface.z;
-  FreeMemXYZPlot(&surface);
-  EXPECT_EQ(surface.x, nullptr);
-  EXPECT_EQ(surface.y, nullptr);
-  EXPECT_EQ(surface.z, z);
-  EXPECT_EQ(surface.xCount, 3);
-  EXPECT_EQ(surface.yCount, 2);
-}
-
-TEST(Release, SkipsNullArrays) {
-  XYPlot curve = EmptyCurve();
-  FreeMemXYPlot(&curve);
-  XYZPlot surface = EmptySurface();
-  FreeMemXYZPlot(&surface);
-  EXPECT_EQ(curve.count + surface.xCount, 0);
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdint>
 #include <limits>
 #include <utility>
 
@@ -11,14 +10,17 @@
 #include "frame/root_finders.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
+#include "support/answers.h"
 #include "support/stop_requests.h"
 
 namespace kelpower {
 namespace {
 
 using KelCommon::KelMV;
+using keltest::CountingStop;
+using keltest::OrMissing;
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
 
 /// What a search finds, and how much work it was.
 struct Search {
@@ -36,21 +38,18 @@ Search Counted(FunctionView<double(double)> powerAt, std::int64_t stopsAt, Solve
     ++evaluations;
     return powerAt(x);
   };
-  const double size = solve(counted, &stop);
-  return {size, evaluations, stop.Asked()};
+  const Answer size = solve(counted, stop);
+  return {OrMissing(size), evaluations, stop.asked};
 }
 
-Search Fast(FunctionView<double(double)> powerAt, double target, std::int64_t stopsAt = 0) {
-  return Counted(powerAt, stopsAt, [=](auto counted, StopRequest* stop) {
-    return SolveIncreasingPower(2, 400, 1e-9, counted, target, stop);
-  });
+Search Fast(FunctionView<double(double)> powerAt, double target, std::int64_t stopsAt = CountingStop::never) {
+  return Counted(powerAt, stopsAt,
+                 [=](auto counted, Stop stop) { return SolveIncreasingPower(2, 400, 1e-9, counted, target, stop); });
 }
 
-Search Plain(FunctionView<double(double)> powerAt, double target, std::int64_t stopsAt = 0) {
-  return Counted(powerAt, stopsAt, [=](auto counted, StopRequest* stop) {
-    return SolveContinuous(
-        2, 400, 1e-9, [&](double x) { return counted(x) - target; }, stop);
-  });
+Search Plain(FunctionView<double(double)> powerAt, double target, std::int64_t stopsAt = CountingStop::never) {
+  return Counted(powerAt, stopsAt,
+                 [=](auto counted, Stop stop) { return SolvePower(2, 400, 1e-9, counted, target, stop); });
 }
 
 auto TwoSidedTest(double effectSize, double alpha) {
@@ -119,30 +118,26 @@ TEST(SolveIncreasingPower, TakesStepsMissingAndInvalidPowersAsThePlainSearchDoes
   const auto step = [](double n) { return n < 20.25 ? 0.3 : 0.9; };
   const auto none = [](double n) { return n < 20.25 ? KelMV::Missing() : TwoSidedTest(0.5, 0.05)(n); };
   const auto invalid = [](double n) { return n < 420.25 ? -1.0 : 0.9; };
-  constexpr int kMostEvaluationsInVain = 34;  // 16 steps up, 16 towards a root, and one on either side of it
-  const auto notANumber = [](double) { return kNaN; };
+  constexpr int mostEvaluationsInVain = 34;  // 16 steps up, 16 towards a root, and one on either side of it
+  const auto notANumber = [](double) { return quietNaN; };
   for (const FunctionView<double(double)> powerAt :
        {FunctionView<double(double)>(step), FunctionView<double(double)>(none), FunctionView<double(double)>(invalid),
         FunctionView<double(double)>(notANumber)}) {
-    for (const double target : {0.1, 0.3, 0.5, 0.9, 1.0, 2.0, kNaN}) {
+    for (const double target : {0.1, 0.3, 0.5, 0.9, 1.0, 2.0, quietNaN}) {
       const Search fast = Fast(powerAt, target);
       const Search plain = Plain(powerAt, target);
       EXPECT_EQ(fast.size, plain.size);
       EXPECT_EQ(fast.questions, plain.questions);
-      EXPECT_LE(fast.evaluations, plain.evaluations + kMostEvaluationsInVain);
+      EXPECT_LE(fast.evaluations, plain.evaluations + mostEvaluationsInVain);
     }
   }
 }
 
 double PlainHalfWidth(const HalfWidthEquation& equation) {
-  return SolveContinuous(
-      2, 400, 1e-9,
-      [&](double n) {
-        const double t = IntervalQuantileT(equation.alpha, equation.dfAt(n));
-        return equation.slope * n - equation.weight * (t * t);
-      },
-      nullptr);
+  return OrMissing(SolveContinuous(2, 400, 1e-9, [&](double n) { return equation.Excess(n); }, {}));
 }
+
+double FastHalfWidth(const HalfWidthEquation& equation) { return OrMissing(SolveHalfWidth(2, 400, 1e-9, equation)); }
 
 TEST(SolveHalfWidth, IsThePlainSearchInAThirdOfTheEvaluations) {
   for (const double halfWidth : {0.03, 0.1, 0.25, 0.5, 1.0}) {
@@ -153,7 +148,7 @@ TEST(SolveHalfWidth, IsThePlainSearchInAThirdOfTheEvaluations) {
         return n - 1;
       };
       const HalfWidthEquation equation{halfWidth * halfWidth, 1, alpha, dfAt};
-      const double fast = SolveHalfWidth(2, 400, 1e-9, equation);
+      const double fast = FastHalfWidth(equation);
       const int fastEvaluations = std::exchange(evaluations, 0);
       EXPECT_EQ(fast, PlainHalfWidth(equation));
       EXPECT_LE(3 * fastEvaluations, evaluations) << halfWidth << ", " << alpha;
@@ -163,10 +158,10 @@ TEST(SolveHalfWidth, IsThePlainSearchInAThirdOfTheEvaluations) {
 
 TEST(SolveHalfWidth, IsThePlainSearchWhereTheEquationMakesNoSense) {
   const auto dfAt = [](double n) { return n - 1; };
-  for (const double slope : {-1.0, 0.0, 0.01, std::numeric_limits<double>::infinity(), kNaN}) {
-    for (const double weight : {-1.0, 0.0, 1.0, kNaN}) {
+  for (const double slope : {-1.0, 0.0, 0.01, std::numeric_limits<double>::infinity(), quietNaN}) {
+    for (const double weight : {-1.0, 0.0, 1.0, quietNaN}) {
       const HalfWidthEquation equation{slope, weight, 0.05, dfAt};
-      EXPECT_EQ(SolveHalfWidth(2, 400, 1e-9, equation), PlainHalfWidth(equation)) << slope << ", " << weight;
+      EXPECT_EQ(FastHalfWidth(equation), PlainHalfWidth(equation)) << slope << ", " << weight;
     }
   }
 }

@@ -2,8 +2,12 @@
 
 - Boost is included nowhere, so that the libraries build where it is not.
 - kelcommon knows nothing of kelpower.
-- A family of tests (a folder of src) includes its own headers, those of the frame, kelpower.h and kelcommon's.
-- The frame includes no family.
+- The frame (src/frame) includes kelcommon's headers alone.
+- The core of a family of tests (a folder of src) includes its own headers, those of the frame and kelcommon's.
+- The exports (src/exports) include those of all of them and kelpower.h. A folder of exports leaves the cores of other
+  families alone.
+- A room of the planner (a folder of planner) includes the rooms that PLANNER_ROOMS names; the program includes the
+  planner's. Of the library they include the core: the catalogue its families and frame, solve its frame.
 """
 
 import re
@@ -12,6 +16,37 @@ from pathlib import Path
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]', re.M)
 SOURCES = {".h", ".hpp", ".cpp", ".in"}
+
+
+FAMILIES = {"anova", "correlation", "means", "proportions", "regression"}
+
+# What each room of the planner may include besides itself: other rooms, and folders of the core.
+PLANNER_ROOMS = {
+    "model": set(),
+    "catalogue": {"model", "frame"} | FAMILIES,
+    "solve": {"model", "frame"},
+    "words": {"model", "solve", "catalogue"},
+    "pictures": {"model", "solve"},
+}
+# Packages that a room may include by angle brackets besides the standard library.
+PLANNER_PACKAGES = {"words": {"fast_float", "fmt", "nlohmann"}, "pictures": {"fmt"}}
+PACKAGES = {"CLI", "fast_float", "fmt", "nlohmann"}
+
+
+def rejected_in_planner(path, kind, header, is_own):
+    """Why a file of the planner or the program may not include `header`; empty when it may."""
+    top = header.split("/")[0]
+    room = path.parts[1]
+    if path.parts[0] == "cli":
+        if kind == "<" or is_own:
+            return ""
+        return "" if top in PLANNER_ROOMS else f"the program includes {top}"
+    if room not in PLANNER_ROOMS:
+        return f"{room} is no room of the planner"
+    if kind == "<":
+        forbidden = top in PACKAGES - PLANNER_PACKAGES.get(room, set())
+        return f"{room} includes the package {top}" if forbidden else ""
+    return "" if top in PLANNER_ROOMS[room] | {room} else f"{room} includes {top}"
 
 
 def rejected(path, kind, header, is_own):
@@ -24,15 +59,27 @@ def rejected(path, kind, header, is_own):
         return "includes what is private to kelcommon"
     if top == "boost":
         return "includes Boost"
+    if parts[0] in ("planner", "cli"):
+        return rejected_in_planner(path, kind, header, is_own)
     if kind == "<":
         return ""
     if parts[0] == "kelcommon":
         return "" if top == "kelcommon" or is_own else "kelcommon includes what is not its own"
     if parts[0] == "include":
         return "a public header includes a private one"
-    if parts[0] == "src" and header != "kelpower.h" and not is_own:
-        return "" if top in ("frame", "kelcommon", parts[1]) else f"{parts[1]} includes {top}"
+    if parts[0] == "src":
+        return "" if is_own or top in allowed_in_src(parts, header) else f"{'/'.join(parts[1:-1])} includes {header}"
     return ""
+
+
+def allowed_in_src(parts, header):
+    """The first parts of the headers that a file of src may include."""
+    shared = {"frame", "kelcommon"}
+    if parts[1] != "exports":
+        return shared | {parts[1]}
+    family = parts[2] if len(parts) > 3 else ""
+    is_of_other_family = header.startswith("exports/") and header.count("/") > 1 and header.split("/")[1] != family
+    return shared | {"kelpower.h", family} | (set() if is_of_other_family else {"exports"})
 
 
 def check(path, text, exists=Path.exists):

@@ -1,22 +1,32 @@
-#include "choose_route.h"
+#include "solve/choose_route.h"
 
 #include <gtest/gtest.h>
 
-#include "planner/error.h"
+#include "support.h"
 
 namespace planner {
 namespace {
 
 Test Toy() {
-  Test test;
-  test.name = "toy";
-  test.routes = {
-      {Question::Power, {"mean", "sd", "n"}, {"one-sided"}, "FromMean", nullptr},
-      {Question::Power, {"effect", "n"}, {"one-sided"}, "FromEffect", nullptr},
-      {Question::SampleSize, {"mean", "sd"}, {"one-sided", "ratios"}, "SizeFromMean", nullptr},
-      {Question::HalfWidth, {"sd", "n"}, {}, "Interval", nullptr},
-  };
-  return test;
+  return {.name = "toy",
+          .title = "",
+          .about = "",
+          .parameters = {Number("sd", "", ""), Flag("one-sided", "", ""), Flag("interval", "", "")},
+          .routes = {
+              {.question = Question::Power,
+               .needs = {"mean", "sd", "n"},
+               .accepts = {"one-sided"},
+               .exportName = "FromMean"},
+              {.question = Question::Power,
+               .needs = {"effect-d", "n"},
+               .accepts = {"one-sided"},
+               .exportName = "FromEffect"},
+              {.question = Question::SampleSize,
+               .needs = {"mean", "sd"},
+               .accepts = {"one-sided", "ratios"},
+               .exportName = "SizeFromMean"},
+              {.question = Question::HalfWidth, .needs = {"sd", "n"}, .exportName = "Interval"},
+          }};
 }
 
 std::string Chosen(Question question, const Names& given) {
@@ -28,7 +38,7 @@ std::string Complaint(Question question, const Names& given) {
   try {
     return Chosen(question, given);
   } catch (const InputError& error) {
-    return error.what();
+    return Said(error);
   }
 }
 
@@ -42,18 +52,18 @@ TEST(AskedQuestion, FollowsTheAskingOption) {
 }
 
 TEST(GivenNames, LeavesOutFlagsThatAreNotSet) {
-  EXPECT_EQ(GivenNames({{"interval", false}, {"one-sided", true}, {"sd", 2.0}}), (Names{"one-sided", "sd"}));
+  EXPECT_EQ(GivenNames(Toy(), {{"interval", false}, {"one-sided", true}, {"sd", 2.0}}), (Names{"one-sided", "sd"}));
 }
 
 TEST(ChooseRoute, TakesTheRouteThatFits) {
   EXPECT_EQ(Chosen(Question::Power, {"mean", "sd", "n"}), "FromMean");
-  EXPECT_EQ(Chosen(Question::Power, {"effect", "n", "one-sided", "alpha"}), "FromEffect");
+  EXPECT_EQ(Chosen(Question::Power, {"effect-d", "n", "one-sided", "alpha"}), "FromEffect");
   EXPECT_EQ(Chosen(Question::SampleSize, {"mean", "sd", "power"}), "SizeFromMean");
   EXPECT_EQ(Chosen(Question::HalfWidth, {"sd", "n", "interval"}), "Interval");
 }
 
 TEST(ChooseRoute, SaysWhatExcludesWhat) {
-  EXPECT_EQ(Complaint(Question::Power, {"effect", "n", "sd"}), "--effect and --sd exclude each other.");
+  EXPECT_EQ(Complaint(Question::Power, {"effect-d", "n", "sd"}), "--effect-d and --sd exclude each other.");
   EXPECT_EQ(Complaint(Question::SampleSize, {"mean", "n", "power", "sd"}),
             "--power asks for the sample size, so --n cannot be given as well.");
   EXPECT_EQ(Complaint(Question::Power, {"mean", "n", "ratios", "sd"}),
@@ -61,11 +71,11 @@ TEST(ChooseRoute, SaysWhatExcludesWhat) {
 }
 
 TEST(ChooseRoute, SaysWhatIsMissing) {
-  EXPECT_EQ(Complaint(Question::HalfWidth, {"interval", "n"}), "Also give --sd to be told the half-width.");
-  EXPECT_EQ(Complaint(Question::Power, {"mean", "n"}), "Also give --sd to be told the power.");
+  EXPECT_EQ(Complaint(Question::HalfWidth, {"interval", "n"}), "Also give --sd for the half-width.");
+  EXPECT_EQ(Complaint(Question::Power, {"mean", "n"}), "Also give --sd for the power.");
   EXPECT_EQ(Complaint(Question::Power, {"mean", "sd"}),
-            "Also give --n to be told the power; to be told the sample size, give --power in place of --n.");
-  EXPECT_EQ(Complaint(Question::Power, {"n"}), "Also give --mean and --sd, or --effect to be told the power.");
+            "Also give --n for the power; for the sample size, give --power in place of --n.");
+  EXPECT_EQ(Complaint(Question::Power, {"n"}), "Also give --mean and --sd, or --effect-d for the power.");
 }
 
 }  // namespace

@@ -4,10 +4,9 @@
 #include <fstream>
 #include <set>
 
-#include "choose_route.h"
-#include "planner/catalogue.h"
-#include "planner/test.h"
-#include "sentence.h"
+#include "solve/choose_route.h"
+#include "support.h"
+#include "words/expand.h"
 
 // What every description must keep to, whichever test it describes.
 namespace planner {
@@ -49,39 +48,41 @@ TEST_P(Descriptions, HaveNameTitleAndPurpose) {
 TEST_P(Descriptions, NameEveryParameterOnce) {
   std::set<std::string> names{"format", "help", "chart", "from", "to", "step", "output"};
   for (const Parameter& parameter : GetParam().parameters) {
-    EXPECT_TRUE(IsLowercaseWord(parameter.name)) << parameter.name;
-    EXPECT_TRUE(names.insert(parameter.name).second) << parameter.name;
+    EXPECT_TRUE(IsLowercaseWord(std::string(parameter.name.Text())));
+    EXPECT_TRUE(names.emplace(parameter.name.Text()).second) << parameter.name.Text();
     for (const std::string& alias : parameter.aliases) EXPECT_TRUE(names.insert(alias).second) << alias;
-    EXPECT_FALSE(parameter.label.empty()) << parameter.name;
-    EXPECT_FALSE(parameter.meaning.empty()) << parameter.name;
+    EXPECT_FALSE(parameter.label.empty()) << parameter.name.Text();
+    EXPECT_FALSE(parameter.meaning.empty()) << parameter.name.Text();
   }
 }
 
 TEST_P(Descriptions, HaveDefaultsThatAreAllowed) {
   for (const Parameter& parameter : GetParam().parameters) {
     if (!parameter.fallback) continue;
-    EXPECT_NO_THROW(Check(parameter, *parameter.fallback)) << parameter.name;
+    EXPECT_TRUE(parameter.Allows(*parameter.fallback)) << parameter.name.Text();
   }
 }
 
 TEST_P(Descriptions, HaveRoutesOverKnownParametersAndExports) {
   const std::set<std::string> exports = Exports();
   for (const Route& route : GetParam().routes) {
-    for (const std::string& name : route.needs) EXPECT_TRUE(FindParameter(GetParam(), name)) << name;
-    for (const std::string& name : route.accepts) EXPECT_TRUE(FindParameter(GetParam(), name)) << name;
+    for (Name name : route.needs) EXPECT_TRUE(FindParameter(GetParam(), name)) << name.Text();
+    for (Name name : route.accepts) EXPECT_TRUE(FindParameter(GetParam(), name)) << name.Text();
     EXPECT_EQ(exports.count(route.exportName), 1u) << route.exportName;
-    EXPECT_TRUE(route.call);
+    EXPECT_EQ(exports.count(route.oneSidedExport), route.oneSidedExport.empty() ? 0u : 1u) << route.oneSidedExport;
+    EXPECT_EQ(AsksForSizes(route.question), static_cast<bool>(route.sizes));
+    EXPECT_NE(AsksForSizes(route.question), static_cast<bool>(route.value));
   }
 }
 
 TEST_P(Descriptions, UseEveryParameter) {
   for (const Parameter& parameter : GetParam().parameters) {
-    const bool asks = parameter.name == "power" || parameter.name == "half-width" || parameter.name == "interval";
-    if (asks || parameter.name == "alpha") continue;
+    const Names common{"power", "half-width", "interval", "alpha"};
+    if (Contains(common, parameter.name)) continue;
     const auto& routes = GetParam().routes;
     EXPECT_TRUE(std::any_of(routes.begin(), routes.end(), [&](const Route& route) {
-      return Takes(route, parameter.name);
-    })) << parameter.name;
+      return route.Takes(parameter.name);
+    })) << parameter.name.Text();
   }
 }
 
@@ -93,10 +94,29 @@ TEST_P(Descriptions, CanCheckTheSizesTheyFind) {
 }
 
 TEST_P(Descriptions, AskConditionsOfKnownParameters) {
-  for (const auto* conditions : {&GetParam().conditions, &GetParam().solvable}) {
+  for (const auto* conditions : {&GetParam().conditions, &GetParam().sizeExists}) {
     for (const Condition& condition : *conditions) {
-      for (const std::string& name : condition.about) EXPECT_TRUE(FindParameter(GetParam(), name)) << name;
+      for (Name name : condition.about) EXPECT_TRUE(FindParameter(GetParam(), name)) << name.Text();
+      EXPECT_TRUE(IsLowercaseWord(condition.code));
       EXPECT_EQ(condition.sentence.back(), '.');
+      const auto expect = [&](std::string_view name) {
+        EXPECT_TRUE(FindParameter(GetParam(), name)) << name;
+        return std::string();
+      };
+      Expand(condition.sentence, expect, [](std::string_view) { return false; });
+    }
+  }
+}
+
+TEST_P(Descriptions, VaryADesignOnEveryAxis) {
+  for (const Chart& chart : GetParam().charts) {
+    for (Name name : chart.needs) EXPECT_TRUE(FindParameter(GetParam(), name)) << name.Text();
+    for (Name name : chart.accepts) EXPECT_TRUE(FindParameter(GetParam(), name)) << name.Text();
+    EXPECT_GE(chart.axes.size(), 1u);
+    EXPECT_LE(chart.axes.size(), 2u);
+    for (const Axis& axis : chart.axes) {
+      EXPECT_TRUE(axis.input || (axis.design && axis.vary)) << axis.title;
+      EXPECT_TRUE(axis.usual) << axis.title;
     }
   }
 }
@@ -105,7 +125,7 @@ TEST_P(Descriptions, HaveASentenceForEveryQuestionTheyAnswer) {
   for (const Route& route : GetParam().routes) {
     const auto& sentences = GetParam().sentences;
     EXPECT_EQ(std::count_if(sentences.begin(), sentences.end(),
-                            [&](const Sentence& sentence) { return sentence.question == route.question; }),
+                            [&](const ReportSentence& sentence) { return sentence.question == route.question; }),
               1)
         << Wording(route.question);
   }
@@ -114,21 +134,21 @@ TEST_P(Descriptions, HaveASentenceForEveryQuestionTheyAnswer) {
 TEST_P(Descriptions, FillTheirSentencesWithKnownNames) {
   std::set<std::string> known{
       "sizes", "total", "groups", "power", "half-width", "target-power", "target-half-width", "confidence"};
-  for (const Parameter& parameter : GetParam().parameters) known.insert(parameter.name);
+  for (const Parameter& parameter : GetParam().parameters) known.emplace(parameter.name.Text());
   for (const Phrase& phrase : GetParam().phrases) known.insert(phrase.name);
-  const auto expect = [&](const std::string& name) {
-    EXPECT_EQ(known.count(name), 1u) << name;
+  const auto expect = [&](std::string_view name) {
+    EXPECT_EQ(known.count(std::string(name)), 1u) << name;
     return std::string();
   };
-  const auto expectFlag = [&](const std::string& name) {
+  const auto expectFlag = [&](std::string_view name) {
     const Parameter* parameter = FindParameter(GetParam(), name);
     EXPECT_TRUE(parameter && parameter->kind == Kind::Flag) << name;
     return false;
   };
-  for (const Sentence& sentence : GetParam().sentences) Expand(sentence.text, expect, expectFlag);
+  for (const ReportSentence& sentence : GetParam().sentences) Expand(sentence.text, expect, expectFlag);
   for (const Phrase& phrase : GetParam().phrases) {
-    for (const auto& [parameter, wording] : phrase.wordings) {
-      EXPECT_TRUE(FindParameter(GetParam(), parameter)) << parameter;
+    for (const auto& [input, wording] : phrase.wordings) {
+      EXPECT_TRUE(FindParameter(GetParam(), input)) << input.Text();
       Expand(wording, expect, expectFlag);
     }
   }
@@ -136,9 +156,9 @@ TEST_P(Descriptions, FillTheirSentencesWithKnownNames) {
 
 TEST_P(Descriptions, HaveAnExampleOfEveryQuestion) {
   for (const Route& route : GetParam().routes) {
-    const std::string asker = AskedBy(route.question);
+    const std::optional<Name> asker = AskedBy(route.question);
     const auto asks = [&](const Example& example) {
-      return asker.empty() || example.arguments.find(" --" + asker) != std::string::npos;
+      return !asker || example.arguments.find(" --" + std::string(asker->Text())) != std::string::npos;
     };
     EXPECT_TRUE(std::any_of(GetParam().examples.begin(), GetParam().examples.end(), asks)) << Wording(route.question);
   }

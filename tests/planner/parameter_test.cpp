@@ -1,10 +1,11 @@
-#include "planner/parameter.h"
+#include "model/parameter.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "planner/error.h"
+#include "support.h"
+#include "words/parse.h"
 
 namespace planner {
 namespace {
@@ -13,13 +14,13 @@ std::string ComplaintAbout(const Parameter& parameter, const std::string& text) 
   try {
     Parse(parameter, text);
   } catch (const InputError& error) {
-    return error.what();
+    return Said(error);
   }
   return "";
 }
 
 TEST(Limits, AllowWhatTheySay) {
-  const Limits limits = Number("a", "", "").Above(0).AtMost(1).limits;
+  const Limits limits = Number("sd", "", "").Above(0).AtMost(1).limits;
   EXPECT_FALSE(limits.Allow(0));
   EXPECT_TRUE(limits.Allow(5e-324));
   EXPECT_TRUE(limits.Allow(1));
@@ -28,7 +29,7 @@ TEST(Limits, AllowWhatTheySay) {
 }
 
 TEST(Limits, NeverAllowWhatIsNotFinite) {
-  const Limits limits = Number("a", "", "").limits;
+  const Limits limits = Number("sd", "", "").limits;
   EXPECT_TRUE(limits.Allow(-1e308));
   EXPECT_FALSE(limits.Allow(std::numeric_limits<double>::infinity()));
   EXPECT_FALSE(limits.Allow(-std::numeric_limits<double>::infinity()));
@@ -36,7 +37,7 @@ TEST(Limits, NeverAllowWhatIsNotFinite) {
 }
 
 TEST(Limits, AreSaidInWords) {
-  const Parameter number = Number("a", "", "");
+  const Parameter number = Number("sd", "", "");
   EXPECT_EQ(Allowed(number), "a number");
   EXPECT_EQ(Allowed(number.Above(0)), "a number above 0");
   EXPECT_EQ(Allowed(number.AtLeast(1)), "a number of at least 1");
@@ -72,12 +73,19 @@ TEST(Parse, RefusesBrokenLists) {
   }
 }
 
-TEST(Check, RefusesAValueOfAnotherKind) {
-  EXPECT_THROW(Check(Number("sd", "", ""), Numbers{1}), InputError);
-  EXPECT_THROW(Check(Number("sd", "", ""), std::string("1")), InputError);
-  EXPECT_THROW(Check(Flag("one-sided", "", ""), 1.0), InputError);
-  EXPECT_THROW(Check(PerGroup("n", "", ""), 1.0), InputError);
-  EXPECT_THROW(Check(PerGroup("n", "", ""), Numbers{}), InputError);
+TEST(Parameter, RefusesAValueOfAnotherKind) {
+  EXPECT_FALSE(Number("sd", "", "").Allows(Numbers{1}));
+  EXPECT_FALSE(Number("sd", "", "").Allows(std::string("1")));
+  EXPECT_FALSE(Flag("one-sided", "", "").Allows(1.0));
+  EXPECT_FALSE(PerGroup("n", "", "").Allows(1.0));
+  EXPECT_FALSE(PerGroup("n", "", "").Allows(Numbers{}));
+}
+
+TEST(Name, IsFoundByItsText) {
+  EXPECT_EQ(Name::Of("one-sided"), Name("one-sided"));
+  EXPECT_EQ(Name("one-sided").Text(), "one-sided");
+  EXPECT_FALSE(Name::Of("one-side"));
+  EXPECT_FALSE(Name::Of(""));
 }
 
 }  // namespace

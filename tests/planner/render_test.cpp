@@ -1,15 +1,15 @@
-#include "planner/render.h"
+#include "words/render.h"
 
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
 
-#include "planner/catalogue.h"
+#include "support.h"
 
 namespace planner {
 namespace {
 
-Report Example() { return Solve(*FindTest("anova"), {{"means", Numbers{10, 12, 15}}, {"sd", 6.0}, {"power", 0.9}}); }
+Report Example() { return Solved(*FindTest("anova"), {{"means", Numbers{10, 12, 15}}, {"sd", 6.0}, {"power", 0.9}}); }
 
 const Value& ResultOf(const Report& report, const std::string& name) {
   for (const Entry& entry : report.results) {
@@ -50,16 +50,6 @@ TEST(Render, TextIsPlainUnlessPainted) {
 
 TEST(Render, MarkdownIsATable) {
   EXPECT_NE(RenderMarkdown(Example()).find("| standard deviation | 6 |"), std::string::npos);
-}
-
-TEST(Render, HelpNamesEveryOptionAndShowsTheExamples) {
-  for (const planner::Test& test : Tests()) {
-    const std::string help = RenderHelp(test);
-    for (const Parameter& parameter : test.parameters) {
-      EXPECT_NE(help.find("  --" + parameter.name), std::string::npos) << parameter.name;
-    }
-    for (const auto& example : test.examples) EXPECT_NE(help.find(example.arguments), std::string::npos);
-  }
 }
 
 TEST(Render, ListsTheDescriptionsForOtherFrontEnds) {

@@ -1,13 +1,10 @@
-#include "planner/solve.h"
-
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
 
 #include "kelpower.h"
-#include "planner/catalogue.h"
-#include "planner/error.h"
-#include "planner/render.h"
+#include "support.h"
+#include "words/render.h"
 
 namespace planner {
 namespace {
@@ -22,14 +19,14 @@ Value ResultOf(const Report& report, const std::string& name) {
 
 double NumberOf(const Report& report, const std::string& name) { return std::get<double>(ResultOf(report, name)); }
 
-Report Anova(const Given& given) { return Solve(*FindTest("anova"), given); }
+Report Anova(const InputValues& given) { return Solved(*FindTest("anova"), given); }
 
 template <class Error>
-std::string Complaint(const std::string& test, const Given& given) {
+std::string Complaint(const std::string& test, const InputValues& given) {
   try {
-    Solve(*FindTest(test), given);
+    Solved(*FindTest(test), given);
   } catch (const Error& error) {
-    return error.what();
+    return Said(error);
   }
   ADD_FAILURE() << "nothing thrown";
   return "";
@@ -80,11 +77,11 @@ TEST(Solve, FlagsThatAreNotSetAskNothing) {
 
 TEST(Solve, RefusesInputsThatDisagree) {
   EXPECT_EQ(Complaint<InputError>("anova", {{"means", means}, {"sd", 6.0}, {"n", Numbers{20, 20}}}),
-            "--n tells 2 groups, but --means tells 3.");
+            "--n gives 2 groups, but --means gives 3.");
   EXPECT_EQ(Complaint<InputError>("anova", {{"effect-f", 0.2}, {"n", Numbers{20}}}),
             "The number of groups is not known: give --groups.");
   EXPECT_EQ(Complaint<InputError>("anova", {{"means", Numbers{1}}, {"sd", 6.0}, {"n", Numbers{20}}}),
-            "--means tells 1 group, but must tell at least 2.");
+            "--means gives 1 group, but must give at least 2.");
   EXPECT_EQ(Complaint<InputError>("anova", {{"mean", 1.0}}), "--mean is not an option of anova.");
 }
 
@@ -115,23 +112,23 @@ TEST(Solve, NeedsNoEffectForAPowerBelowAlpha) {
 }
 
 TEST(Solve, ContrastTakesRoundedThirds) {
-  const Given design{{"means", means}, {"sd", 6.0}, {"n", Numbers{20}}};
-  Given typed = design;
+  const InputValues design{{"means", means}, {"sd", 6.0}, {"n", Numbers{20}}};
+  InputValues typed = design;
   typed["coefficients"] = Numbers{0.3333333, 0.6666667, -0.9999999};
-  Given exact = design;
+  InputValues exact = design;
   exact["coefficients"] = Numbers{1.0 / 3, 2.0 / 3, -1};
   const planner::Test& contrast = *FindTest("contrast");
-  EXPECT_NEAR(NumberOf(Solve(contrast, typed), "power"), NumberOf(Solve(contrast, exact), "power"), 1e-6);
+  EXPECT_NEAR(NumberOf(Solved(contrast, typed), "power"), NumberOf(Solved(contrast, exact), "power"), 1e-6);
 }
 
 TEST(Solve, ContrastPowerDoesNotDependOnTheScaleOfTheCoefficients) {
-  const Given design{{"means", means}, {"sd", 6.0}, {"n", Numbers{20}}};
-  Given small = design;
+  const InputValues design{{"means", means}, {"sd", 6.0}, {"n", Numbers{20}}};
+  InputValues small = design;
   small["coefficients"] = Numbers{-0.5, -0.5, 1};
-  Given large = design;
+  InputValues large = design;
   large["coefficients"] = Numbers{-3.3, -3.3, 6.6};
   const planner::Test& contrast = *FindTest("contrast");
-  EXPECT_NEAR(NumberOf(Solve(contrast, small), "power"), NumberOf(Solve(contrast, large), "power"), 1e-12);
+  EXPECT_NEAR(NumberOf(Solved(contrast, small), "power"), NumberOf(Solved(contrast, large), "power"), 1e-12);
 }
 
 TEST(Solve, ContrastRefusesCoefficientsThatDoNotSumToZero) {
@@ -142,52 +139,59 @@ TEST(Solve, ContrastRefusesCoefficientsThatDoNotSumToZero) {
 }
 
 TEST(Solve, PairwiseDoesNotDependOnTheOrderOfThePair) {
-  const Given design{{"means", means}, {"sd", 6.0}, {"n", Numbers{20}}};
-  Given forward = design;
+  const InputValues design{{"means", means}, {"sd", 6.0}, {"n", Numbers{20}}};
+  InputValues forward = design;
   forward["pair"] = Numbers{1, 3};
-  Given backward = design;
+  InputValues backward = design;
   backward["pair"] = Numbers{3, 1};
   const planner::Test& pairwise = *FindTest("pairwise");
-  EXPECT_EQ(NumberOf(Solve(pairwise, forward), "power"), NumberOf(Solve(pairwise, backward), "power"));
+  EXPECT_EQ(NumberOf(Solved(pairwise, forward), "power"), NumberOf(Solved(pairwise, backward), "power"));
 }
 
 TEST(Solve, PairwiseWithoutAdjustmentIsTheContrastOfThePair) {
-  const Given design{{"means", means}, {"sd", 6.0}, {"n", Numbers{20}}};
-  Given pair = design;
+  const InputValues design{{"means", means}, {"sd", 6.0}, {"n", Numbers{20}}};
+  InputValues pair = design;
   pair["pair"] = Numbers{1, 3};
   pair["adjust"] = std::string("none");
-  Given contrast = design;
+  InputValues contrast = design;
   contrast["coefficients"] = Numbers{1, 0, -1};
-  EXPECT_EQ(NumberOf(Solve(*FindTest("pairwise"), pair), "power"),
-            NumberOf(Solve(*FindTest("contrast"), contrast), "power"));
+  EXPECT_EQ(NumberOf(Solved(*FindTest("pairwise"), pair), "power"),
+            NumberOf(Solved(*FindTest("contrast"), contrast), "power"));
 }
 
 TEST(Solve, PairwiseRefusesGroupsThatAreNotThere) {
-  const Given design{{"sd", 6.0}, {"n", Numbers{20}}, {"groups", 3.0}, {"interval", true}};
-  Given beyond = design;
+  const InputValues design{{"sd", 6.0}, {"n", Numbers{20}}, {"groups", 3.0}, {"interval", true}};
+  InputValues beyond = design;
   beyond["pair"] = Numbers{1, 4};
   EXPECT_EQ(Complaint<InputError>("pairwise", beyond), "--pair names a group beyond the number of groups.");
-  Given same = design;
+  InputValues same = design;
   same["pair"] = Numbers{2, 2};
   EXPECT_EQ(Complaint<InputError>("pairwise", same), "--pair must name two different groups.");
 }
 
 /// A test whose search gives `size`, at which the power is `power`.
 Test MadeUp(double size, double power) {
-  Test test;
-  test.name = "made-up";
-  test.parameters = {Number("n", "sample size", "number of subjects")};
-  test.routes = {
-      {Question::Power, {"n"}, {}, "MadeUpPower", [=](const Inputs&) { return Numbers{power}; }},
-      {Question::SampleSize, {}, {}, "MadeUpSize", [=](const Inputs&) { return Numbers{size}; }},
-  };
-  test.sentences = {{Question::Power, "{power}"}, {Question::SampleSize, "{sizes}"}};
-  return WithCommonParameters(test);
+  return WithCommonParameters({.name = "made-up",
+                               .title = "",
+                               .about = "",
+                               .parameters = {Number("n", "sample size", "number of subjects")},
+                               .routes =
+                                   {
+                                       {.question = Question::Power,
+                                        .needs = {"n"},
+                                        .exportName = "MadeUpPower",
+                                        .value = [=](const Inputs&) { return power; }},
+                                       {.question = Question::SampleSize,
+                                        .needs = {},
+                                        .exportName = "MadeUpSize",
+                                        .sizes = [=](const Inputs&) { return Numbers{size}; }},
+                                   },
+                               .sentences = {{Question::Power, "{power}"}, {Question::SampleSize, "{sizes}"}}});
 }
 
 TEST(Solve, TellsOfATargetThatIsMissedALittleAndGivesUpOnMore) {
-  const Given target{{"power", 0.8}};
-  const auto note = [&](const planner::Test& test) { return Solve(test, target).note; };
+  const InputValues target{{"power", 0.8}};
+  const auto note = [&](const planner::Test& test) { return Solved(test, target).note; };
   EXPECT_EQ(note(MadeUp(20, 0.8)), "");
   EXPECT_EQ(note(MadeUp(20, 0.8 - 1e-7)), "");
   EXPECT_EQ(note(MadeUp(20, 0.79)), "At the sizes rounded to whole numbers the target is missed slightly.");
@@ -198,75 +202,57 @@ TEST(Solve, TellsOfATargetThatIsMissedALittleAndGivesUpOnMore) {
 
 TEST(Render, ReportsANote) {
   const planner::Test test = MadeUp(20, 0.79);
-  const Report report = Solve(test, {{"power", 0.8}});
+  const Report report = Solved(test, {{"power", 0.8}});
   EXPECT_NE(RenderText(report).find("\nNote: " + report.note + "\n"), std::string::npos);
   EXPECT_NE(RenderMarkdown(report).find("\n" + report.note + "\n"), std::string::npos);
   EXPECT_EQ(nlohmann::json::parse(RenderJson(report))["note"], report.note);
 }
 
-class Request : public StopRequest {
-public:
-  explicit Request(int questionsBeforeStop) : left_(questionsBeforeStop) {}
-  bool ShouldStop() override { return --left_ < 0; }
-
-private:
-  int left_;
-};
-
-class Counter : public StopRequest {
-public:
-  bool ShouldStop() override {
-    ++count;
-    return false;
-  }
-  int count = 0;
-};
-
-Given TwoProportions(const std::string& test, const std::string& name, Value value) {
+InputValues TwoProportions(const std::string& test, const std::string& name, Value value) {
   return {{"proportions", Numbers{0.5, 0.75}}, {"test", test}, {name, std::move(value)}};
 }
 
 TEST(Solve, StopsOnRequest) {
   const planner::Test& test = *FindTest("two-proportions");
   for (const std::string method : {"z", "conditional"}) {
-    for (const int questions : {0, 1}) {
-      Request request(questions);
-      EXPECT_THROW(Solve(test, TwoProportions(method, "power", 0.8), &request), Stopped) << method;
+    for (const int question : {1, 2}) {
+      CountingStop request(question);
+      EXPECT_THROW(Solved(test, TwoProportions(method, "power", 0.8), &request), Stopped) << method;
     }
-    Request request(0);
-    EXPECT_THROW(Solve(test, TwoProportions(method, "n", Numbers{50}), &request), Stopped) << method;
+    CountingStop request(1);
+    EXPECT_THROW(Solved(test, TwoProportions(method, "n", Numbers{50}), &request), Stopped) << method;
   }
 }
 
 // The refinement of an exact search keeps the sizes that it has when it is stopped; they are no answer.
 TEST(Solve, StopsLateInASearch) {
   const planner::Test& test = *FindTest("two-proportions");
-  const Given search = TwoProportions("conditional", "power", 0.8);
-  Counter counter;
-  const Report answer = Solve(test, search, &counter);
-  ASSERT_GT(counter.count, 1000);
+  const InputValues search = TwoProportions("conditional", "power", 0.8);
+  CountingStop counter;
+  const Report answer = Solved(test, search, &counter);
+  ASSERT_GT(counter.asked, 1000);
   for (const int left : {1, 2, 100, 1000}) {
-    Request request(counter.count - left);
-    EXPECT_THROW(Solve(test, search, &request), Stopped) << left;
+    CountingStop request(counter.asked - left + 1);
+    EXPECT_THROW(Solved(test, search, &request), Stopped) << left;
   }
-  Request request(counter.count);
-  EXPECT_EQ(Solve(test, search, &request).sentence, answer.sentence);
+  CountingStop request(counter.asked + 1);
+  EXPECT_EQ(Solved(test, search, &request).sentence, answer.sentence);
 }
 
 // Asking at every table would take the exact z test hundreds of times as long as its power.
 TEST(Solve, AsksOnlyWhereThatCostsLittle) {
-  Counter counter;
-  Given exact = TwoProportions("z", "n", Numbers{400});
+  CountingStop counter;
+  InputValues exact = TwoProportions("z", "n", Numbers{400});
   exact["exact"] = true;
-  Solve(*FindTest("two-proportions"), exact, &counter);
-  EXPECT_LT(counter.count, 10);
+  Solved(*FindTest("two-proportions"), exact, &counter);
+  EXPECT_LT(counter.asked, 10);
 }
 
 TEST(Solve, ShowsUncountableSizesInFourDigits) {
-  const Report report = Solve(*FindTest("mean"), {{"effect-d", 1e-9}, {"power", 0.8}});
+  const Report report = Solved(*FindTest("mean"), {{"effect-d", 1e-9}, {"power", 0.8}});
   EXPECT_NE(report.sentence.find(" needs 7.849e+18 observations;"), std::string::npos) << report.sentence;
   EXPECT_NEAR(NumberOf(report, "n"), 7.84886e18, 1e13);
-  const Report groups = Solve(*FindTest("two-means"), {{"effect-d", 1e-9}, {"power", 0.8}, {"ratio", 2.0}});
+  const Report groups = Solved(*FindTest("two-means"), {{"effect-d", 1e-9}, {"power", 0.8}, {"ratio", 2.0}});
   EXPECT_NE(groups.sentence.find(" needs 1.177e+19 and 2.355e+19 observations in 2 groups (3.532e+19 in total);"),
             std::string::npos)
       << groups.sentence;

@@ -1,563 +1,85 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
-#include <cstdint>
-#include <limits>
-#include <random>
-#include <vector>
 
-#include "frame/root_finders.h"
-#include "independent_literal.h"
-#include "kelcommon/kel_dist_fun.h"
-#include "kelcommon/kel_mv.h"
 #include "kelpower.h"
-#include "proportions/independent_statistic.h"
+#include "proportions/independent_interval.h"
+#include "proportions/independent_power.h"
+#include "proportions/independent_sizes.h"
 #include "support/stop_requests.h"
 
-namespace kelpower {
+namespace kelpower::proportions {
 namespace {
 
-using KelCommon::KelMV;
-using KelMath::KelDistFun;
+IndependentDesign LargeSample(TwoProportionTest test) { return {test, false, false, 0.05, false, true}; }
+IndependentDesign Exact(TwoProportionTest test) { return {test, true, false, 0.05, false, true}; }
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr int kLargeSample = 0;
-constexpr int kExact = 1;
-constexpr int kZ = 0;
-constexpr int kT = 1;
-constexpr int kLikelihoodRatio = 2;
-constexpr int kArcsine = 3;
-constexpr int kConditional = 3;
-
-struct Options {
-  bool oneSided = false;
-  double alpha = 0.05;
-  bool corrected = false;
-  bool pooled = false;
-};
-
-double Power(double n1, double n2, double p1, double p2, int exact, int method, Options options = {},
-             StopRequest* stop = nullptr) {
-  return PowerIndSampBinom(n1, n2, p1, p2, exact, method, options.oneSided, options.alpha, options.corrected,
-                           options.pooled, stop);
-}
-
-std::vector<double> Sizes(double power, double p1, double p2, int exact, int method, Options options = {},
-                          double sizeRatio = 1, StopRequest* stop = nullptr) {
-  std::vector<double> sizes;
-  PowerReverseIndSampBinom(power, p1, p2, sizes, sizeRatio, exact, method, options.oneSided, options.alpha,
-                           options.corrected, options.pooled, stop);
-  return sizes;
-}
-
-const std::vector<double> kBothMissing = {KelMV::Missing(), KelMV::Missing()};
-
-// Published values ----------------------------------------------------------------------------------------------------
-
-TEST(IndependentZTest, MatchesPublishedValues) {
-  Options pooled;
-  pooled.pooled = true;
-  EXPECT_NEAR(Power(50, 50, 0.5, 0.75, kLargeSample, kZ, pooled), 0.7401672, 5e-8);
-
-  Options oneSided = pooled;
-  oneSided.oneSided = true;
-  EXPECT_EQ(Sizes(0.8, 0.022, 0.001, kLargeSample, kZ, oneSided), (std::vector<double>{318, 318}));
-  EXPECT_NEAR(Power(317.6901, 317.6901, 0.022, 0.001, kLargeSample, kZ, oneSided), 0.8, 5e-8);
-}
-
-// Newcombe (1998), table II, example (a): 56/70 and 48/80 have the interval 0.0524 to 0.3339 by method 10.
-TEST(IndependentInterval, MatchesPublishedValues) {
-  EXPECT_NEAR(HalfCIIndSampBinom(70, 80, 56.0 / 70, 48.0 / 80, 5, 0.05, 0), 0.14072, 5e-6);
-  EXPECT_NEAR(HalfCIIndSampBinom(70, 80, 56.0 / 70, 48.0 / 80, 5, 0.05, 0), (0.3339 - 0.0524) / 2, 5e-5);
-}
-
-// With 3 of 3 against 0 of 3 the conditional probability is 1 / C(6, 3) = 0.05, which the level 0.05 still rejects.
-TEST(IndependentConditionalTest, RejectsATailThatEqualsTheLevel) {
-  Options oneSided;
-  oneSided.oneSided = true;
-  const double p1 = 0.9;
-  const double p2 = 0.2;
-  EXPECT_NEAR(Power(3, 3, p1, p2, kExact, kConditional, oneSided), std::pow(p1 * (1 - p2), 3), 1e-15);
-  oneSided.alpha = std::nextafter(0.05, 0);
-  EXPECT_EQ(Power(3, 3, p1, p2, kExact, kConditional, oneSided), 0);
-}
-
-// Exact powers against their definitions ------------------------------------------------------------------------------
-
-class IndependentExact : public testing::Test {
-protected:
-  double Uniform(double from, double to) { return std::uniform_real_distribution<double>(from, to)(random_); }
-
-  int Choice(int count) { return std::uniform_int_distribution<int>(0, count - 1)(random_); }
-
-  /// Small sizes more often than large ones; a quarter of them fractional.
-  double Size(double largest) {
-    const double size = std::exp(Uniform(0, std::log(largest)));
-    return Choice(4) == 0 ? size : std::floor(size);
+TEST(IndependentPower, IsThatOfTheExports) {
+  using Tested = TwoProportionTest;
+  for (const Tested test : {Tested::Z, Tested::T, Tested::LikelihoodRatio, Tested::Arcsine}) {
+    EXPECT_EQ(*IndependentPower(LargeSample(test), 40, 30).At(0.3, 0.6),
+              PowerIndSampBinom(40, 30, 0.3, 0.6, 0, static_cast<int>(test), 0, 0.05, 0, 1, nullptr));
   }
-
-  double Level() {
-    constexpr double kUsual[] = {0.01, 0.025, 0.05, 0.1, 0.2, 0.5, 0.9};
-    return Choice(4) == 0 ? Uniform(0.0001, 0.9999) : kUsual[Choice(7)];
-  }
-
-  IndependentTest AnyTest(int method) {
-    return IndependentTest::Of(1, method, Choice(2), Level(), Choice(2), Choice(2));
-  }
-
-  void Compare(const IndependentTest& test, double n1, double n2) {
-    const double p1 = Uniform(0.01, 0.99);
-    const double p2 = Choice(8) == 0 ? p1 : Uniform(0.01, 0.99);
-    CountingStop never;
-    CountingStop neverToo;
-    const double expected = LiteralExactPower(test, n1, n2, p1, p2, &neverToo);
-    const int method = static_cast<int>(test.statistic);
-    const auto power = [&](StopRequest* stop) {
-      return PowerIndSampBinom(n1, n2, p1, p2, 1, method, test.oneSided, test.alpha, test.continuityCorrection,
-                               test.pooledVariance, stop);
-    };
-    const double free = power(nullptr);
-    SCOPED_TRACE(testing::Message() << "method " << method << ", N " << n1 << " and " << n2 << ", p " << p1 << " and "
-                                    << p2 << ", alpha " << test.alpha << ", one-sided " << test.oneSided
-                                    << ", corrected " << test.continuityCorrection << ", pooled "
-                                    << test.pooledVariance);
-    EXPECT_NEAR(free, expected, 1e-12);
-    EXPECT_EQ(power(&never), free);
-    EXPECT_EQ(never.Asked(), neverToo.Asked());
-  }
-
-  std::mt19937_64 random_{20261121};
-};
-
-TEST_F(IndependentExact, EnumeratedPowersAreTheSumsOverAllTables) {
-  for (int i = 0; i < 6000; ++i) {
-    const double n1 = Size(50);
-    const double n2 = Size(50);
-    if (n1 + n2 > 2) Compare(AnyTest(Choice(3)), n1, n2);
+  for (const Tested test : {Tested::Z, Tested::T, Tested::LikelihoodRatio, Tested::Conditional}) {
+    EXPECT_EQ(*IndependentPower(Exact(test), 40, 30).At(0.3, 0.6),
+              PowerIndSampBinom(40, 30, 0.3, 0.6, 1, static_cast<int>(test), 0, 0.05, 0, 1, nullptr));
   }
 }
 
-// Where all are successes the proportions are moved off 1 and differ by more than where all but one are: at levels of
-// which this is all, the row has two rejected ends.
-TEST_F(IndependentExact, TheTableOfSuccessesOnlyCanRejectBeyondAcceptedOnes) {
-  for (const int method : {kZ, kT}) {
-    const IndependentTest test = IndependentTest::Of(1, method, 0, 0.88, 0, 0);
-    for (const auto& [n1, n2] : {std::pair(1.0, 100.0), std::pair(100.0, 1.0)}) {
-      EXPECT_NEAR(PowerIndSampBinom(n1, n2, 0.97, 0.99, 1, method, 0, 0.88, 0, 0, nullptr),
-                  LiteralEnumeratedPower(test, n1, n2, 0.97, 0.99, nullptr), 1e-12);
-    }
+TEST(IndependentPower, SizesForLargeSamplesAreThoseOfTheExports) {
+  using Tested = TwoProportionTest;
+  for (const Tested test : {Tested::Z, Tested::T, Tested::LikelihoodRatio, Tested::Arcsine}) {
+    const Answer size1 = FirstSizeForPower(LargeSample(test), {0.3, 0.5, 1.5}, 0.8);
+    DoubleVector sizes;
+    PowerReverseIndSampBinom(0.8, 0.3, 0.5, sizes, 1.5, 0, static_cast<int>(test), 0, 0.05, 0, 1, nullptr);
+    EXPECT_EQ(sizes, (DoubleVector{std::ceil(*size1), std::ceil(*size1 * 1.5)}));
   }
 }
 
-// The table without successes, the correction that outweighs the difference and the ends of the rows show here.
-TEST_F(IndependentExact, EnumeratedPowersOfVeryUnequalGroupsAreTheSumsOverAllTables) {
-  for (int i = 0; i < 1000; ++i) {
-    const double small = Size(4);
-    const double large = Size(3000);
-    if (small + large <= 2) continue;
-    const bool isFirstSmall = Choice(2) == 0;
-    Compare(AnyTest(Choice(3)), isFirstSmall ? small : large, isFirstSmall ? large : small);
+// Where both proportions are the same, the power of an exact test is the level that it attains.
+TEST(IndependentPower, AttainsALevel) {
+  using Tested = TwoProportionTest;
+  for (const Tested test : {Tested::Z, Tested::LikelihoodRatio, Tested::Conditional}) {
+    IndependentPower power(Exact(test), 40, 30);
+    EXPECT_EQ(*power.AttainedLevel(Alternative::TwoSided, 0.3), *power.At(0.3, 0.3));
   }
+  IndependentPower conditional(Exact(Tested::Conditional), 40, 30);
+  EXPECT_LE(*conditional.AttainedLevel(Alternative::TwoSided, 0.3), 0.05);
+
+  const IndependentDesign oneSided{Tested::Conditional, true, true, 0.05};
+  IndependentPower power(oneSided, 40, 30);
+  EXPECT_NEAR(*power.AttainedLevel(Alternative::FirstGreater, 0.3),
+              *IndependentPower(oneSided, 30, 40).AttainedLevel(Alternative::SecondGreater, 0.3), 1e-13);
+  EXPECT_EQ(IndependentPower(LargeSample(Tested::Z), 40, 30).AttainedLevel(Alternative::TwoSided, 0.3).Reason(),
+            NoValue::Refused);
 }
 
-TEST_F(IndependentExact, ConditionalPowersAreTheSumsOverAllTotals) {
-  for (int i = 0; i < 2500; ++i) {
-    const double n1 = Size(14);
-    const double n2 = Size(14);
-    Compare(AnyTest(kConditional), n1, n2);
+TEST(IndependentPower, SaysWhyThereIsNoPowerOrSize) {
+  using Tested = TwoProportionTest;
+  EXPECT_EQ(IndependentPower(LargeSample(Tested::Z), 0.5, 30).At(0.3, 0.6).Reason(), NoValue::Refused);
+  EXPECT_EQ(IndependentPower(LargeSample(Tested::Z), 40, 30).At(0, 0.6).Reason(), NoValue::Refused);
+  EXPECT_EQ(IndependentPower(LargeSample(Tested::T), 1, 1).At(0.3, 0.6).Reason(), NoValue::Refused);
+  EXPECT_EQ(IndependentPower(LargeSample(Tested::Arcsine), 1, 30).At(0.95, 0.97).Reason(), NoValue::Refused);
+  EXPECT_EQ(IndependentPower(LargeSample(Tested::Conditional), 40, 30).At(0.3, 0.6).Reason(), NoValue::Refused);
+  EXPECT_EQ(IndependentPower(Exact(Tested::Arcsine), 40, 30).At(0.3, 0.6).Reason(), NoValue::Refused);
+  EXPECT_EQ(IndependentPower(Exact(Tested::Z), 3e9, 30).At(0.3, 0.6).Reason(), NoValue::Uncountable);
+  EXPECT_EQ(IndependentPower(Exact(Tested::Conditional), 3e9, 30).At(0.3, 0.6).Reason(), NoValue::Uncountable);
+  keltest::CountingStop stop(3);
+  EXPECT_EQ(IndependentPower(Exact(Tested::Z), 40, 30).At(0.3, 0.6, stop).Reason(), NoValue::Stopped);
+  EXPECT_EQ(FirstSizeForPower(LargeSample(Tested::Z), {0.3, 0.3, 1}, 0.8).Reason(), NoValue::NotReached);
+  EXPECT_EQ(FirstSizeForPower(Exact(Tested::Arcsine), {0.3, 0.5, 1}, 0.8).Reason(), NoValue::NotReached);
+}
+
+TEST(IndependentInterval, IsThatOfTheExports) {
+  for (int method = 0; method < 6; ++method) {
+    const IndependentInterval interval({IndependentMethod(method), 0.3, 0.6, 0.05, true});
+    EXPECT_EQ(interval.HalfWidth(80, 60), HalfCIIndSampBinom(80, 60, 0.3, 0.6, method, 0.05, 1)) << method;
+    const double size1 = *interval.FirstSizeFor(0.1, 1.5);
+    DoubleVector sizes;
+    PowerReversebyHalfCIIndSampBinom(0.1, 0.3, 0.6, sizes, 1.5, method, 0.05, 1, nullptr);
+    EXPECT_EQ(sizes, (DoubleVector{std::ceil(size1), std::ceil(1.5 * size1)})) << method;
   }
-}
-
-TEST_F(IndependentExact, RejectsTheStatedTablesOfLargeGroups) {
-  for (int i = 0; i < 20; ++i) {
-    const double n1 = std::floor(Uniform(150, 400));
-    const double n2 = std::floor(Uniform(150, 400));
-    Compare(AnyTest(Choice(3)), n1, n2);
-  }
-}
-
-// At a level next to 1 every table is rejected; but for the t test's without variance, which is likely in small groups.
-TEST_F(IndependentExact, RejectingEverythingHasPowerOne) {
-  Options all;
-  all.oneSided = true;
-  all.alpha = 1 - 1e-12;
-  for (const double n : {5.0, 60.0, 700.0, 5000.0}) {
-    EXPECT_NEAR(Power(n, n, 0.3, 0.6, kExact, kZ, all), 1, 1e-11) << n;
-    if (n < 60) continue;
-    EXPECT_NEAR(Power(n, n, 0.3, 0.6, kExact, kT, all), 1, 1e-11) << n;
-  }
-}
-
-TEST_F(IndependentExact, MirroredDesignsHaveTheSamePower) {
-  for (int i = 0; i < 300; ++i) {
-    const double n1 = std::floor(Uniform(3, 80));
-    const double n2 = std::floor(Uniform(3, 80));
-    const double p1 = Uniform(0.02, 0.98);
-    const double p2 = Uniform(0.02, 0.98);
-    Options options;
-    options.oneSided = Choice(2) == 1;
-    options.alpha = 0.0437;  // no table ties with it
-    for (const int method : {kZ, kT, kLikelihoodRatio, kConditional}) {
-      const double power = Power(n1, n2, p1, p2, kExact, method, options);
-      EXPECT_NEAR(Power(n2, n1, p2, p1, kExact, method, options), power, 1e-12);
-      EXPECT_NEAR(Power(n1, n2, 1 - p1, 1 - p2, kExact, method, options), power, 1e-12);
-    }
-  }
-}
-
-// Boschloo (1970): conditioning keeps the level at every common proportion, the normal approximation only about.
-TEST_F(IndependentExact, ConditionalTestKeepsItsLevel) {
-  for (const double n : {10.0, 40.0, 150.0, 800.0}) {
-    for (double p = 0.05; p < 1; p += 0.1) EXPECT_LE(Power(n, n + 7, p, p, kExact, kConditional), 0.05);
-  }
-}
-
-TEST_F(IndependentExact, LargeSampleAndExactPowersMeetInLargeGroups) {
-  const double exact = Power(20000, 20000, 0.5, 0.51, kExact, kZ);
-  EXPECT_NEAR(Power(20000, 20000, 0.5, 0.51, kLargeSample, kZ), exact, 2e-3);
-  EXPECT_NEAR(Power(20000, 20000, 0.5, 0.51, kExact, kT), exact, 2e-3);
-  EXPECT_NEAR(Power(20000, 20000, 0.5, 0.51, kExact, kLikelihoodRatio), exact, 2e-3);
-}
-
-// From 1,020 subjects on binomial coefficients are not representable and the terms come from a recurrence.
-TEST_F(IndependentExact, ConditionalTermsByRecurrenceContinueThoseByCoefficients) {
-  const double below = Power(510, 510, 0.5, 0.58, kExact, kConditional);
-  const double above = Power(511, 511, 0.5, 0.58, kExact, kConditional);
-  EXPECT_NEAR(above, below, 2e-3);
-  EXPECT_NEAR(Power(3000, 2000, 0.5, 0.54, kExact, kConditional), Power(3000, 2000, 0.5, 0.54, kLargeSample, kZ), 0.02);
-}
-
-// Invalid input and edges ---------------------------------------------------------------------------------------------
-
-TEST(IndependentPower, RejectsInvalidDesigns) {
-  for (const int exact : {0, 1}) {
-    for (int method = 0; method <= 4; ++method) {
-      EXPECT_GT(Power(0.9999999999995, 15, 0.35, 0.62, exact, method), method == 3 || method == 4 ? -2 : -0.5);
-      EXPECT_EQ(Power(0.999999, 15, 0.35, 0.62, exact, method), -1);
-      EXPECT_EQ(Power(15, 0.999999, 0.35, 0.62, exact, method), -1);
-      for (const double p : {0.0, 1.0, -0.1, 1.1}) {
-        EXPECT_EQ(Power(10, 10, p, 0.5, exact, method), -1);
-        EXPECT_EQ(Power(10, 10, 0.5, p, exact, method), -1);
-      }
-      Options options;
-      for (const double alpha : {0.0, 1.0, -0.1, 1.5}) {
-        options.alpha = alpha;
-        EXPECT_EQ(Power(10, 10, 0.4, 0.5, exact, method, options), -1);
-      }
-    }
-    EXPECT_EQ(Power(1, 1, 0.4, 0.5, exact, kT), -1);
-  }
-}
-
-TEST(IndependentPower, LetsNaNThrough) {
-  for (const int method : {kZ, kT, kLikelihoodRatio, kArcsine}) {
-    EXPECT_TRUE(std::isnan(Power(kNaN, 10, 0.4, 0.5, kLargeSample, method)));
-    EXPECT_TRUE(std::isnan(Power(10, 10, kNaN, 0.5, kLargeSample, method)));
-    EXPECT_EQ(Power(kNaN, 10, 0.4, 0.5, kExact, method), 0);
-    EXPECT_EQ(Power(10, kNaN, 0.4, 0.5, kExact, method), 0);
-    Options options;
-    options.alpha = kNaN;
-    EXPECT_EQ(Power(10, 10, 0.4, 0.5, kExact, method, options), 0);
-  }
-  EXPECT_EQ(Power(10, 10, kNaN, 0.5, kExact, kZ), -2);
-  EXPECT_EQ(Power(10, 10, 0.5, kNaN, kExact, kLikelihoodRatio), -2);
-  EXPECT_TRUE(std::isnan(Power(10, 10, 0.5, kNaN, kExact, kConditional)));
-  // A level that no table reaches asks nothing of the binomial distribution.
-  Options tiny;
-  tiny.alpha = 1e-300;
-  EXPECT_EQ(Power(2e9, 2e9, kNaN, 0.5, kExact, kZ, tiny), 0);
-}
-
-TEST(IndependentPower, IsMissingForGroupsThatCannotBeCounted) {
-  for (const int method : {kZ, kT, kLikelihoodRatio, kConditional}) {
-    EXPECT_TRUE(KelMV::IsMissing(Power(2147483648.0, 10, 0.4, 0.5, kExact, method)));
-    EXPECT_TRUE(KelMV::IsMissing(Power(10, kInfinity, 0.4, 0.5, kExact, method)));
-  }
-}
-
-TEST(IndependentPower, AsksOnceATableAndOnceARejectedTable) {
-  CountingStop z;
-  Power(8, 9, 0.2, 0.7, kExact, kZ, {}, &z);
-  EXPECT_EQ(z.Asked(), 9 * 10);
-  CountingStop fractional;
-  Power(8.5, 9, 0.2, 0.7, kExact, kZ, {}, &fractional);
-  EXPECT_EQ(fractional.Asked(), 10 * 10);
-  CountingStop conditional;
-  Power(8, 9, 0.2, 0.7, kExact, kConditional, {}, &conditional);
-  EXPECT_EQ(conditional.Asked(), 18);
-  CountingStop t;
-  Power(8, 9, 0.2, 0.7, kExact, kT, {}, &t);
-  ASSERT_GT(t.Asked(), 90);
-  for (const std::int64_t n : {std::int64_t{1}, std::int64_t{90}, std::int64_t{91}, t.Asked()}) {
-    CountingStop stop(n);
-    EXPECT_TRUE(KelMV::IsMissing(Power(8, 9, 0.2, 0.7, kExact, kT, {}, &stop)));
-    EXPECT_EQ(stop.Asked(), n);
-  }
-}
-
-TEST(IndependentPower, EqualProportionsHaveTheLevel) {
-  for (const double n : {20.0, 1e4, 1e150, 1e160, 1e307}) {
-    EXPECT_NEAR(Power(n, n, 0.3, 0.3, kLargeSample, kZ), 0.05, 1e-14) << n;
-    EXPECT_NEAR(Power(n, 3, 0.3, 0.3, kLargeSample, kLikelihoodRatio), 0.05, 1e-14) << n;
-    EXPECT_NEAR(Power(n, n, 0.3, 0.3, kLargeSample, kArcsine), 0.05, 1e-14) << n;
-    Options pooled;
-    pooled.pooled = true;
-    EXPECT_NEAR(Power(n, n, 0.3, 0.3, kLargeSample, kZ, pooled), 0.05, 1e-14) << n;
-  }
-}
-
-// The noncentrality of the likelihood-ratio statistic tends to that of the z statistic, d^2 / (p q (1 / n1 + 1 / n2)).
-TEST(IndependentPower, LikelihoodRatioKeepsItsDigitsNearEqualProportions) {
-  const double n = 1e16;
-  const double d = 1e-8;
-  const double shift = d / std::sqrt(0.25 * 2 / n);
-  const double z = KelDistFun::IdfStdNorm(0.975);
-  const double expected = KelDistFun::CdfStdNorm(shift - z) + KelDistFun::CdfStdNorm(-shift - z);
-  const double actualD = (0.5 + d / 2) - (0.5 - d / 2);
-  EXPECT_NEAR(actualD, d, 1e-16);
-  EXPECT_NEAR(Power(n, n, 0.5 + d / 2, 0.5 - d / 2, kLargeSample, kLikelihoodRatio), expected, 1e-8);
-  EXPECT_NEAR(Power(n, n, 0.5 + d / 2, 0.5 - d / 2, kLargeSample, kArcsine), expected, 1e-8);
-  EXPECT_NEAR(Power(n, n, 0.5 + d / 2, 0.5 - d / 2, kLargeSample, kZ), expected, 1e-8);
-}
-
-TEST(IndependentPower, ArcsineTestNeedsHalfASubjectOfEachOutcome) {
-  EXPECT_EQ(Power(1, 20, 0.3, 0.2, kLargeSample, kArcsine), -1);
-  EXPECT_GT(Power(2, 20, 0.3, 0.2, kLargeSample, kArcsine), 0);
-  EXPECT_EQ(Power(20, 1, 0.2, 0.3, kLargeSample, kArcsine), -1);
-}
-
-// The correction is added to the one-sided statistic and subtracted from the two-sided one.
-TEST(IndependentPower, CorrectionRaisesTheOneSidedStatistic) {
-  Options plain;
-  Options corrected;
-  corrected.corrected = true;
-  EXPECT_LT(Power(30, 30, 0.3, 0.6, kExact, kZ, corrected), Power(30, 30, 0.3, 0.6, kExact, kZ, plain));
-  plain.oneSided = corrected.oneSided = true;
-  EXPECT_GT(Power(30, 30, 0.3, 0.6, kExact, kZ, corrected), Power(30, 30, 0.3, 0.6, kExact, kZ, plain));
-}
-
-// Sizes ---------------------------------------------------------------------------------------------------------------
-
-TEST(IndependentSizes, LargeSampleSizesReachThePowerAndOneLessDoesNot) {
-  for (const int method : {kZ, kT, kLikelihoodRatio, kArcsine}) {
-    for (const double target : {0.5, 0.8, 0.99}) {
-      const std::vector<double> sizes = Sizes(target, 0.3, 0.45, kLargeSample, method);
-      ASSERT_EQ(sizes.size(), 2u);
-      EXPECT_GE(Power(sizes[0], sizes[1], 0.3, 0.45, kLargeSample, method), target - 1e-9);
-      EXPECT_LT(Power(sizes[0] - 1, sizes[1] - 1, 0.3, 0.45, kLargeSample, method), target);
-    }
-  }
-}
-
-TEST(IndependentSizes, ExactSizesReachThePower) {
-  for (const int method : {kZ, kT, kLikelihoodRatio, 4}) {
-    for (const double ratio : {0.5, 1.0, 1.7}) {
-      const std::vector<double> sizes = Sizes(0.85, 0.3, 0.55, kExact, method, {}, ratio);
-      ASSERT_EQ(sizes.size(), 2u);
-      EXPECT_GE(Power(sizes[0], sizes[1], 0.3, 0.55, kExact, method), 0.85);
-      EXPECT_EQ(sizes[1], std::floor(ratio * sizes[0] + 0.5));
-    }
-  }
-}
-
-/// The search for exact sizes as it is defined: a real first size by the method `searched`, smaller ones below it while
-/// there are any, and from there the first whole size that reaches the power by the method `reached`.
-std::vector<double> LiteralSizes(double power, double p1, double p2, double ratio, int searched, int reached) {
-  const auto objective = [&](double n1) {
-    return Power(n1, std::max(1.0, ratio * n1), p1, p2, kExact, searched) - power;
-  };
-  const auto search = [&](double lower, double upper) {
-    return SolveContinuous(lower, upper, 1e-9, objective, nullptr);
-  };
-  const auto second = [&](double n1) { return std::max(1.0, std::floor(ratio * n1 + 0.5)); };
-
-  std::vector<double> found = {std::ceil(search(2, 400))};
-  for (double next = std::ceil(search(1, found.back()));
-       !KelMV::IsMissing(next) && std::find(found.begin(), found.end(), next) == found.end();
-       next = std::ceil(search(1, found.back()))) {
-    found.push_back(next);
-  }
-  double n1 = *std::min_element(found.begin(), found.end());
-  while (Power(n1, second(n1), p1, p2, kExact, reached) < power) n1 += 1;
-  return {n1, second(n1)};
-}
-
-// The z test finds the size from which the conditional test, method 4, goes on: by itself it would start elsewhere.
-TEST(IndependentSizes, ExactSearchesAreThoseOfTheirMethods) {
-  for (const double power : {0.5, 0.7, 0.9}) {
-    for (const double ratio : {0.5, 1.0, 2.0}) {
-      for (const int method : {kZ, kT, kLikelihoodRatio}) {
-        EXPECT_EQ(Sizes(power, 0.9, 0.2, kExact, method, {}, ratio),
-                  LiteralSizes(power, 0.9, 0.2, ratio, method, method));
-      }
-      EXPECT_EQ(Sizes(power, 0.9, 0.2, kExact, 4, {}, ratio), LiteralSizes(power, 0.9, 0.2, ratio, kZ, 4));
-    }
-  }
-  EXPECT_EQ(Sizes(0.7, 0.9, 0.1, kExact, 4), (std::vector<double>{5, 5}));
-  EXPECT_EQ(LiteralSizes(0.7, 0.9, 0.1, 1, 4, 4), (std::vector<double>{7, 7}));
-}
-
-TEST(IndependentSizes, SquaresTheFirstSizeInOneCombinationOfFlags) {
-  Options options;
-  options.oneSided = options.corrected = options.pooled = true;
-  const std::vector<double> sizes = Sizes(0.8, 0.3, 0.6, kLargeSample, kZ, options);
-  ASSERT_EQ(sizes.size(), 2u);
-  EXPECT_GT(sizes[1], (sizes[0] - 1) * (sizes[0] - 1));
-  EXPECT_LE(sizes[1], sizes[0] * sizes[0]);
-}
-
-TEST(IndependentSizes, SecondSizeIsAtLeastOne) {
-  for (const double ratio : {1e-9, 0.0, -1.0}) {
-    for (const int exact : {kLargeSample, kExact}) {
-      const std::vector<double> sizes = Sizes(0.5, 0.9, 0.1, exact, kZ, {}, ratio);
-      ASSERT_EQ(sizes.size(), 2u);
-      EXPECT_GE(sizes[0], 2);
-      EXPECT_EQ(sizes[1], 1);
-      EXPECT_GE(Power(sizes[0], 1, 0.9, 0.1, exact, kZ), 0.5);
-    }
-  }
-}
-
-TEST(IndependentSizes, LeavesANonEmptyVectorAlone) {
-  std::vector<double> sizes = {7};
-  CountingStop stop(1);
-  PowerReverseIndSampBinom(0.8, 0.3, 0.6, sizes, 1, 0, 0, 0, 0.05, 0, 0, &stop);
-  EXPECT_EQ(sizes, std::vector<double>{7});
-  EXPECT_EQ(stop.Asked(), 0);
-}
-
-TEST(IndependentSizes, AreMissingWhenThePowerIsOutOfReach) {
-  for (const int method : {kZ, kT, kLikelihoodRatio, kArcsine}) {
-    EXPECT_EQ(Sizes(0.8, 0.3, 0.3, kLargeSample, method), kBothMissing) << method;
-    EXPECT_EQ(Sizes(1.5, 0.3, 0.6, kLargeSample, method), kBothMissing) << method;
-  }
-  EXPECT_EQ(Sizes(0.8, 1.3, 0.6, kLargeSample, kZ), kBothMissing);
-  // The exact tests end when the tables can no longer be counted, after groups of a thousand million.
-  for (const int method : {kZ, kT}) {
-    EXPECT_EQ(Sizes(0.8, 0.3, 0.3, kExact, method), kBothMissing) << method;
-  }
-}
-
-TEST(IndependentSizes, StopWhenAsked) {
-  for (const int method : {kZ, kT, kLikelihoodRatio, kConditional}) {
-    for (const std::int64_t n : {std::int64_t{1}, std::int64_t{2}, std::int64_t{1000}, std::int64_t{200000}}) {
-      CountingStop stop(n);
-      EXPECT_EQ(Sizes(0.8, 0.3, 0.3, kExact, method, {}, 1, &stop), kBothMissing);
-      EXPECT_GE(stop.Asked(), n);
-    }
-  }
-}
-
-// The sizes of the first search stand when the refinement is stopped.
-TEST(IndependentSizes, AreNotRefinedAfterAStop) {
-  constexpr int kUnrefined = 2;
-  for (const int method : {kZ, kT, kLikelihoodRatio, kConditional}) {
-    CountingStop first;
-    const std::vector<double> unrefined = Sizes(0.9, 0.25, 0.6, kUnrefined, method, {}, 1.3, &first);
-    CountingStop whole;
-    EXPECT_NE(Sizes(0.9, 0.25, 0.6, kExact, method, {}, 1.3, &whole), kBothMissing);
-    ASSERT_GT(whole.Asked(), first.Asked());
-    for (const std::int64_t n : {first.Asked() + 1, first.Asked() + 2, whole.Asked() - 1, whole.Asked()}) {
-      CountingStop stop(n);
-      EXPECT_EQ(Sizes(0.9, 0.25, 0.6, kExact, method, {}, 1.3, &stop), unrefined) << method << ' ' << n;
-    }
-  }
-}
-
-/// Answers true to its n-th question alone.
-class StopOnce : public StopRequest {
-public:
-  explicit StopOnce(std::int64_t n) : n_(n) {}
-  bool ShouldStop() override { return ++asked == n_; }
-  std::int64_t asked = 0;
-
-private:
-  std::int64_t n_;
-};
-
-TEST(IndependentSizes, AreNotRefinedWhenTheFirstQuestionOfTheRefinementStops) {
-  CountingStop first;
-  const std::vector<double> unrefined = Sizes(0.9, 0.25, 0.6, 2, kZ, {}, 1.3, &first);
-  StopOnce stop(first.Asked() + 1);
-  EXPECT_EQ(Sizes(0.9, 0.25, 0.6, kExact, kZ, {}, 1.3, &stop), unrefined);
-  EXPECT_EQ(stop.asked, first.Asked() + 1);
-}
-
-// Intervals -----------------------------------------------------------------------------------------------------------
-
-double HalfWidth(double n1, double n2, double p1, double p2, int method, int corrected = 0) {
-  return HalfCIIndSampBinom(n1, n2, p1, p2, method, 0.05, static_cast<std::uint8_t>(corrected));
-}
-
-TEST(IndependentInterval, FlagsOfWaldAndNewcombeDiffer) {
-  const double plain = HalfWidth(40, 30, 0.3, 0.6, 0);
-  EXPECT_DOUBLE_EQ(HalfWidth(40, 30, 0.3, 0.6, 0, 1), plain + (1 / 40.0 + 1 / 30.0) / 2);
-  EXPECT_EQ(HalfWidth(40, 30, 0.3, 0.6, 0, 2), plain);
-  EXPECT_EQ(HalfWidth(40, 30, 0.3, 0.6, 5, 2), HalfWidth(40, 30, 0.3, 0.6, 5, 1));
-  EXPECT_GT(HalfWidth(40, 30, 0.3, 0.6, 5, 1), HalfWidth(40, 30, 0.3, 0.6, 5));
-  EXPECT_EQ(HalfWidth(40, 30, 0.3, 0.6, 6), 0);
-  EXPECT_EQ(HalfWidth(40, 30, 0.3, 0.6, -1), 0);
-}
-
-TEST(IndependentInterval, AllMethodsMeetInLargeGroups) {
-  for (const double n : {1e6, 1e15, 1e200, 1e307}) {
-    const double wald = HalfWidth(n, 2 * n, 0.3, 0.6, 0);
-    for (int method = 1; method <= 5; ++method) {
-      for (const int corrected : {0, 1}) {
-        EXPECT_NEAR(HalfWidth(n, 2 * n, 0.3, 0.6, method, corrected) / wald, 1, 1.5 / std::sqrt(n) + 1e-14)
-            << n << ' ' << method;
-      }
-    }
-  }
-}
-
-TEST(IndependentInterval, SizesReachTheHalfWidth) {
-  for (int method = 0; method <= 5; ++method) {
-    for (const int corrected : {0, 1}) {
-      for (const double halfWidth : {0.02, 0.1, 0.19}) {
-        std::vector<double> sizes = {1, 2, 3};
-        PowerReversebyHalfCIIndSampBinom(halfWidth, 0.3, 0.6, sizes, 1, method, 0.05,
-                                         static_cast<std::uint8_t>(corrected), nullptr);
-        ASSERT_EQ(sizes.size(), 2u);
-        EXPECT_LE(HalfWidth(sizes[0], sizes[1], 0.3, 0.6, method, corrected), halfWidth + 1e-12);
-        EXPECT_GT(HalfWidth(sizes[0] - 1, sizes[1] - 1, 0.3, 0.6, method, corrected), halfWidth);
-      }
-    }
-  }
-}
-
-// Two of group 1 against 1.6e9 reach the power of the z test, which the search goes by, but not that of the conditional
-// test; the next larger tables have too many to be counted.
-TEST(IndependentSizes, AreMissingWhereTheNextTablesCannotBeCounted) {
-  std::vector<double> sizes;
-  PowerReverseIndSampBinom(0.9, 0.99, 0.3, sizes, 8e8, kExact, 4, 0, 0.05, 0, 0, nullptr);
-  EXPECT_EQ(sizes, kBothMissing);
-}
-
-TEST(IndependentInterval, SecondSizeIsAtLeastTwo) {
-  std::vector<double> sizes;
-  PowerReversebyHalfCIIndSampBinom(0.4, 0.3, 0.6, sizes, 1e-3, 1, 0.05, 0, nullptr);
-  ASSERT_EQ(sizes.size(), 2u);
-  EXPECT_GE(sizes[1], 2);
-  EXPECT_EQ(sizes[1], std::max(2.0, std::ceil(1e-3 * sizes[0])));
-  PowerReversebyHalfCIIndSampBinom(0.9, 0.3, 0.6, sizes, 1e-9, 0, 0.05, 0, nullptr);
-  EXPECT_GE(sizes[1], 2);
-}
-
-TEST(IndependentInterval, SizesAreMissingWhenStoppedOrOutOfReach) {
-  std::vector<double> sizes = {5};
-  CountingStop stop(1);
-  PowerReversebyHalfCIIndSampBinom(0.01, 0.3, 0.6, sizes, 1, 1, 0.05, 0, &stop);
-  EXPECT_EQ(sizes, kBothMissing);
-  for (int method = 1; method <= 5; ++method) {
-    PowerReversebyHalfCIIndSampBinom(-1, 0.3, 0.6, sizes, 1, method, 0.05, 0, nullptr);
-    EXPECT_EQ(sizes, kBothMissing) << method;
-  }
-  PowerReversebyHalfCIIndSampBinom(0.1, 0.3, 0.6, sizes, 1, 9, 0.05, 0, nullptr);
-  EXPECT_EQ(sizes, (std::vector<double>{400, 400}));
 }
 
 }  // namespace
-}  // namespace kelpower
+}  // namespace kelpower::proportions

@@ -1,171 +1,55 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
-#include "kelcommon/kel_mv.h"
 #include "kelpower.h"
+#include "regression/test_of_predictors.h"
 
-namespace kelpower {
+namespace kelpower::regression {
 namespace {
 
-using KelCommon::KelMV;
+constexpr Model withFixed{6, 2, false, true, 0.05};
+constexpr Model withRandom{6, 2, true, true, 0.05};
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr int kFixed = 0;
-constexpr int kRandom = 1;
-
-TEST(Powerbymlr, MatchesPublishedValues) {
-  EXPECT_NEAR(PowerbymlrwES(95, 5, 5, 1.0 / 9, kFixed, 1, 0.05), 0.673586, 5e-7);
-  EXPECT_NEAR(Powerbymlr(95, 5, 5, std::sqrt(0.1), 0, kRandom, 1, 0.05), 0.662627, 5e-7);
-  EXPECT_NEAR(PowerbymlrwES(90, 9, 4, 0.0714286, kFixed, 1, 0.01), 0.241297, 5e-7);
-  EXPECT_NEAR(PowerReversebymlrwES(0.80, 9, 4, 0.0714286, kFixed, 1, 0.01), 241.3212, 5e-5);
+TEST(Regression, IsThatOfTheExports) {
+  const Effect partial = Effect::OfRSquared(0.3, 0.25);
+  EXPECT_EQ(*Power(withFixed, 80, partial), Powerbymlr(80, 6, 2, 0.3, 0.25, 0, 1, 0.05));
+  EXPECT_EQ(*Power(withRandom, 80, partial), Powerbymlr(80, 6, 2, 0.3, 0.25, 1, 1, 0.05));
+  EXPECT_EQ(*SizeForPower(withFixed, partial, 0.8), PowerReversebymlr(0.8, 6, 2, 0.3, 0.25, 0, 1, 0.05));
+  EXPECT_EQ(*SizeForPower(withRandom, Effect::OfFSquared(0.1), 0.8), PowerReversebymlrwES(0.8, 6, 2, 0.1, 1, 1, 0.05));
 }
 
-TEST(Powerbymlr, TakesFitsOrTheEffectThatFollowsFromThem) {
-  for (const int random : {kFixed, kRandom}) {
-    const double r = 0.4;
-    EXPECT_NEAR(Powerbymlr(60, 4, 4, r, 0, random, 1, 0.05),
-                PowerbymlrwES(60, 4, 4, r * r / (1 - r * r), random, 1, 0.05), 1e-13);
-    EXPECT_NEAR(Powerbymlr(60, 4, 2, 0.3, 0.2, random, 1, 0.05), PowerbymlrwES(60, 4, 2, 0.1 / 0.7, random, 1, 0.05),
-                1e-13);
-  }
+TEST(Regression, SaysWhyThereIsNoPowerOrSize) {
+  const Effect effect = Effect::OfFSquared(0.1);
+  EXPECT_EQ(Power(withFixed, 7, effect).Reason(), NoValue::Refused);
+  EXPECT_EQ(Power({6, 7, false, true, 0.05}, 80, effect).Reason(), NoValue::Refused);
+  EXPECT_EQ(Power({6, 2, false, true, 1}, 80, effect).Reason(), NoValue::Refused);
+  EXPECT_EQ(SizeForPower(withFixed, Effect::OfFSquared(0), 0.8).Reason(), NoValue::NotReached);
 }
 
-TEST(Powerbymlr, SquaresTheFullFitOnlyWithoutAReducedModel) {
-  EXPECT_EQ(Powerbymlr(60, 4, 4, -0.5, 0, kFixed, 1, 0.05), Powerbymlr(60, 4, 4, 0.5, 0, kFixed, 1, 0.05));
-  EXPECT_EQ(Powerbymlr(60, 4, 4, -0.5, 0.2, kFixed, 1, 0.05), -1);
+/// How often a search asks for the power at a size.
+int EvaluationsFor(double tested) {
+  int evaluations = 0;
+  const auto powerAt = [&](double size) {
+    ++evaluations;
+    return 1 - std::exp((tested - size) / 1000);
+  };
+  EXPECT_NEAR(*SizeForPower({tested, tested, false, true, 0.05}, powerAt, 0.8), tested + 1000 * std::log(5), 1e-6);
+  return evaluations;
 }
 
-TEST(Powerbymlr, WithoutEffectIsAlpha) {
-  for (const int random : {kFixed, kRandom}) {
-    for (const double alpha : {1e-6, 0.01, 0.05, 0.5, 0.99}) {
-      EXPECT_NEAR(PowerbymlrwES(50, 3, 2, 0, random, 1, alpha), alpha, 1e-13);
-      EXPECT_NEAR(Powerbymlr(50, 3, 2, 0.3, 0.3, random, 1, alpha), alpha, 1e-13);
-      EXPECT_NEAR(Powerbymlr(50, 3, 2, 0, 0, random, 1, alpha), alpha, 1e-13);
-    }
-  }
+// There the computed power may fall where the true one grows, so that all points of the bisection are evaluated.
+TEST(SizeForPower, TakesNothingForGrantedWithMillionsOfPredictors) {
+  EXPECT_LT(EvaluationsFor(1e6), 20);
+  EXPECT_GT(EvaluationsFor(2e6), 30);
 }
 
-TEST(Powerbymlr, GrowsWithSizeEffectAndAlpha) {
-  for (const int random : {kFixed, kRandom}) {
-    double last = 0;
-    for (double n = 7; n < 300; n += 3.5) {
-      const double power = PowerbymlrwES(n, 5, 3, 0.1, random, 1, 0.05);
-      EXPECT_GT(power, last);
-      last = power;
-    }
-    last = 0;
-    for (double f2 = 0; f2 < 0.6; f2 += 0.05) {
-      const double power = PowerbymlrwES(40, 5, 3, f2, random, 1, 0.05);
-      EXPECT_GT(power, last);
-      last = power;
-    }
-    last = 0;
-    for (double alpha = 0.01; alpha < 1; alpha += 0.01) {
-      const double power = PowerbymlrwES(40, 5, 3, 0.1, random, 1, alpha);
-      EXPECT_GT(power, last);
-      last = power;
-    }
-  }
-}
-
-// Random predictors spread the noncentrality, which costs power in the usual region.
-TEST(Powerbymlr, OfRandomPredictorsStaysBelowThatOfFixedOnes) {
-  for (double n = 20; n < 200; n += 15) {
-    EXPECT_LT(PowerbymlrwES(n, 4, 4, 0.2, kRandom, 1, 0.05), PowerbymlrwES(n, 4, 4, 0.2, kFixed, 1, 0.05));
-  }
-}
-
-TEST(Powerbymlr, RejectsWhatHasNoTest) {
-  for (const int random : {kFixed, kRandom}) {
-    EXPECT_GT(Powerbymlr(5, 3, 3, 0.5, 0, random, 1, 0.05), 0.05);
-    EXPECT_EQ(Powerbymlr(std::nextafter(5.0, 0), 3, 3, 0.5, 0, random, 1, 0.05), -1);
-    EXPECT_GT(Powerbymlr(4, 3, 3, 0.5, 0, random, 0, 0.05), 0.05);
-    EXPECT_EQ(Powerbymlr(3, 3, 3, 0.5, 0, random, 0, 0.05), -1);
-    EXPECT_EQ(Powerbymlr(50, 0.5, 0.5, 0.5, 0, random, 1, 0.05), -1);
-    EXPECT_EQ(Powerbymlr(50, 3, 0.5, 0.5, 0, random, 1, 0.05), -1);
-    EXPECT_EQ(Powerbymlr(50, 3, 4, 0.5, 0, random, 1, 0.05), -1);
-    EXPECT_EQ(Powerbymlr(50, 3, 3, 1, 0, random, 1, 0.05), -1);
-    EXPECT_EQ(Powerbymlr(50, 3, 3, -1, 0, random, 1, 0.05), -1);
-    EXPECT_EQ(Powerbymlr(50, 3, 3, 1, 0.2, random, 1, 0.05), -1);
-    EXPECT_EQ(Powerbymlr(50, 3, 3, 0.2, 0.3, random, 1, 0.05), -1);
-    EXPECT_EQ(Powerbymlr(50, 3, 3, 0.2, -0.3, random, 1, 0.05), -1);
-    EXPECT_EQ(Powerbymlr(50, 3, 3, 0.2, 1.3, random, 1, 0.05), -1);
-    for (const double alpha : {0.0, 1.0, -0.1, 1.1}) {
-      EXPECT_EQ(Powerbymlr(50, 3, 3, 0.5, 0, random, 1, alpha), -1);
-      EXPECT_EQ(PowerbymlrwES(50, 3, 3, 0.5, random, 1, alpha), -1);
-    }
-  }
-}
-
-TEST(Powerbymlr, GivesNaNForNaN) {
-  for (const int random : {kFixed, kRandom}) {
-    EXPECT_TRUE(std::isnan(Powerbymlr(kNaN, 3, 3, 0.5, 0, random, 1, 0.05)));
-    EXPECT_TRUE(std::isnan(Powerbymlr(50, kNaN, 3, 0.5, 0, random, 1, 0.05)));
-    EXPECT_TRUE(std::isnan(Powerbymlr(50, 3, 3, kNaN, 0, random, 1, 0.05)));
-    EXPECT_TRUE(std::isnan(Powerbymlr(50, 3, 3, 0.5, kNaN, random, 1, 0.05)));
-    EXPECT_TRUE(std::isnan(PowerbymlrwES(50, 3, 3, kNaN, random, 1, 0.05)));
-    EXPECT_TRUE(std::isnan(PowerbymlrwES(50, 3, 3, 0.1, random, 1, kNaN)));
-    EXPECT_TRUE(std::isnan(PowerbymlrwES(kNaN, 3, 3, 1e300, random, 1, 0.05)));
-  }
-}
-
-TEST(PowerbymlrwES, AnswersForEveryEffect) {
-  EXPECT_EQ(PowerbymlrwES(50, 3, 3, -0.1, kFixed, 1, 0.05), 1);
-  for (const double effect : {-0.1, -1.0, -2.0, -1e300, -kInfinity})
-    EXPECT_TRUE(std::isnan(PowerbymlrwES(50, 3, 3, effect, kRandom, 1, 0.05))) << effect;
-  for (const int random : {kFixed, kRandom}) {
-    EXPECT_EQ(PowerbymlrwES(50, 3, 3, 1e300, random, 1, 0.05), 1);
-    EXPECT_EQ(PowerbymlrwES(50, 3, 3, kInfinity, random, 1, 0.05), 1);
-  }
-}
-
-TEST(Powerbymlr, CountsEveryOtherByteAsOneIntercept) {
-  for (const int flag : {2, 7, 255}) {
-    EXPECT_EQ(PowerbymlrwES(50, 3, 3, 0.1, kFixed, static_cast<std::uint8_t>(flag), 0.05),
-              PowerbymlrwES(50, 3, 3, 0.1, kFixed, 1, 0.05));
-  }
-}
-
-TEST(PowerReversebymlr, GivesTheSizeThatReachesTheTarget) {
-  for (const int random : {kFixed, kRandom}) {
-    for (const double f2 : {1e-8, 1e-3, 0.02, 0.15, 0.35}) {
-      for (const double target : {0.2, 0.8, 0.99}) {
-        const double size = PowerReversebymlrwES(target, 6, 2, f2, random, 1, 0.05);
-        EXPECT_LE(PowerbymlrwES(size, 6, 2, f2, random, 1, 0.05), target);
-        EXPECT_GT(PowerbymlrwES(size * (1 + 1e-12) + 1e-8, 6, 2, f2, random, 1, 0.05), target - 1e-13);
-      }
-    }
-    EXPECT_EQ(PowerReversebymlr(0.8, 6, 6, std::sqrt(0.1), 0, random, 1, 0.05),
-              PowerReversebymlr(0.8, 6, 6, -std::sqrt(0.1), 0, random, 1, 0.05));
-  }
-}
-
-TEST(PowerReversebymlr, StartsAtOneErrorDegreeOfFreedom) {
-  EXPECT_EQ(PowerReversebymlrwES(0.01, 6, 2, 0.1, kRandom, 1, 0.05), 8);
-  EXPECT_EQ(PowerReversebymlrwES(0.01, 6, 2, 0.1, kRandom, 0, 0.05), 7);
-}
-
-// At a level so small that the critical value is near 1e26, each power once took half a second.
-TEST(PowerReversebymlr, FindsSizesAtTinyLevels) {
-  const double size = PowerReversebymlrwES(0.8, 12079, 1215, 41732, kRandom, 1, 1e-13);
-  EXPECT_NEAR(PowerbymlrwES(size, 12079, 1215, 41732, kRandom, 1, 1e-13), 0.8, 1e-6);
-  EXPECT_LT(size, 12090);
-  EXPECT_EQ(PowerReversebymlrwES(kNaN, 12079, 1215, 41732, kRandom, 1, 1e-13), 12081);
-}
-
-// Searches that double the size up to half the largest double before they find it, or find that there is none.
-TEST(PowerReversebymlr, WalksToTheLargestSizes) {
-  for (const int random : {kFixed, kRandom}) {
-    EXPECT_TRUE(KelMV::IsMissing(PowerReversebymlrwES(0.8, 5, 5, 0, random, 1, 0.05)));
-    EXPECT_TRUE(KelMV::IsMissing(PowerReversebymlrwES(1.5, 5, 5, 0.1, random, 1, 0.05)));
-    EXPECT_TRUE(KelMV::IsMissing(PowerReversebymlr(0.8, 5, 5, 1.5, 0, random, 1, 0.05)));
-    // The noncentrality of chi-squared on 5 degrees of freedom for a power of 0.8 is 12.83 (Cohen 1988, Table 9.4.2).
-    EXPECT_NEAR(PowerReversebymlrwES(0.8, 5, 5, 1e-300, random, 1, 0.05) / 1e300, 12.83, 0.005);
-  }
+TEST(Effect, IsOneNumberInTwoForms) {
+  EXPECT_DOUBLE_EQ(Effect::OfFSquared(0.25).rhoSquared, 0.2);
+  EXPECT_DOUBLE_EQ(Effect::OfRhoSquared(0.2).fSquared, 0.25);
+  EXPECT_DOUBLE_EQ(Effect::OfRSquared(0.6, 0.5).rhoSquared, 0.2);
+  EXPECT_TRUE(std::isnan(Effect::OfFSquared(-0.1).rhoSquared));
 }
 
 }  // namespace
-}  // namespace kelpower
+}  // namespace kelpower::regression

@@ -47,8 +47,8 @@ class Run(unittest.TestCase):
 class Targets(unittest.TestCase):
     def test_are_those_of_the_nearest_tests(self):
         nearest = run.nearest_tests(mutant("x", file="src/means/paired.cpp"))
-        self.assertEqual(nearest, ["vectors_means", "means_test"])
-        self.assertEqual(run.targets_of(nearest), ["kelpower_vectors", "means_test"])
+        self.assertEqual(nearest, ["vectors_means", "means_test", "means_core_test"])
+        self.assertEqual(run.targets_of(nearest), ["kelpower_vectors", "means_core_test", "means_test"])
 
     def test_of_the_distributions_have_an_ending(self):
         self.assertIn("kelcommon_contract_test", run.targets_of(["kelcommon_contract"]))

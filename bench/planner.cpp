@@ -1,0 +1,102 @@
+#include <benchmark/benchmark.h>
+
+#include "catalogue/catalogue.h"
+#include "kelpower.h"
+#include "solve/chart.h"
+#include "solve/prepared_question.h"
+#include "solve/solve.h"
+#include "words/render.h"
+
+// What the planner costs beside the library's own call: the export, one row of a prepared question, and whole answers.
+namespace {
+
+using planner::InputValues;
+using planner::Numbers;
+using planner::PreparedQuestion;
+
+const InputValues design{{"means", Numbers{52, 47}}, {"sd", Numbers{10, 14}}, {"n", Numbers{40, 60}}};
+
+const planner::Test& TwoMeans() { return *planner::FindTest("two-means"); }
+
+double NextMean(double& mean) {
+  mean = mean < 60 ? mean + 0.01 : 50;
+  return mean;
+}
+
+void Export(benchmark::State& state) {
+  double mean = 50;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(PowerIndependentNondirectional(40, NextMean(mean), 10, 60, 47, 14, 0.05));
+  }
+}
+BENCHMARK(Export)->Name("planner/power/export");
+
+void PreparedRow(benchmark::State& state) {
+  PreparedQuestion question(TwoMeans(), design);
+  question.SetColumns({{"means", 0}});
+  double mean = 50;
+  for (auto _ : state) {
+    const double row[] = {NextMean(mean)};
+    benchmark::DoNotOptimize(question.Evaluate(row).value);
+  }
+}
+BENCHMARK(PreparedRow)->Name("planner/power/prepared_row");
+
+// The cheapest export shows the planner's own share best.
+void CheapExport(benchmark::State& state) {
+  double r = 0.1;
+  for (auto _ : state) {
+    r = r < 0.9 ? r + 1e-4 : 0.1;
+    benchmark::DoNotOptimize(HalfCIOneSampPartial(84, 3, r, 0.05));
+  }
+}
+BENCHMARK(CheapExport)->Name("planner/half_width/export");
+
+void CheapPreparedRow(benchmark::State& state) {
+  PreparedQuestion question(*planner::FindTest("partial"),
+                            {{"r", 0.3}, {"partialled-out", 3.0}, {"n", 84.0}, {"interval", true}});
+  question.SetColumns({{"r"}});
+  double r = 0.1;
+  for (auto _ : state) {
+    r = r < 0.9 ? r + 1e-4 : 0.1;
+    const double row[] = {r};
+    benchmark::DoNotOptimize(question.Evaluate(row).value);
+  }
+}
+BENCHMARK(CheapPreparedRow)->Name("planner/half_width/prepared_row");
+
+void WholeSolve(benchmark::State& state) {
+  for (auto _ : state) benchmark::DoNotOptimize(planner::Solve(TwoMeans(), design).value);
+}
+BENCHMARK(WholeSolve)->Name("planner/power/solve");
+
+void WholeReport(benchmark::State& state) {
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(planner::RenderJson(planner::MakeReport(planner::Solve(TwoMeans(), design))));
+  }
+}
+BENCHMARK(WholeReport)->Name("planner/power/solve_and_json");
+
+void SizeExport(benchmark::State& state) {
+  for (auto _ : state) {
+    Numbers sizes;
+    PowerReverseIndependentNondirectionalES(0.8, 1, 0.5, sizes, 0.05);
+    benchmark::DoNotOptimize(sizes.data());
+  }
+}
+BENCHMARK(SizeExport)->Name("planner/size/export");
+
+void SizeSolve(benchmark::State& state) {
+  const InputValues target{{"effect-d", 0.5}, {"power", 0.8}};
+  for (auto _ : state) benchmark::DoNotOptimize(planner::Solve(TwoMeans(), target).value);
+}
+BENCHMARK(SizeSolve)->Name("planner/size/solve");
+
+void Surface(benchmark::State& state) {
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(planner::ComputeChart(TwoMeans(), {.name = "ratio-difference"}, design).series.power);
+  }
+}
+BENCHMARK(Surface)->Name("planner/chart/surface_of_101_by_101")->Unit(benchmark::kMillisecond);
+
+}  // namespace

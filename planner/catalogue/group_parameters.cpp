@@ -1,0 +1,73 @@
+#include "catalogue/group_parameters.h"
+
+#include <cmath>
+
+#include "catalogue/axes.h"
+
+namespace planner {
+namespace {
+
+/// From a fifth to five times D = sqrt(sum n_i (m_i - G)^2), with G the mean of all observations.
+Range AroundDistanceOfMeans(const Inputs& in, double) {
+  const Numbers& means = in.List("means");
+  const Numbers& sizes = in.List("n");
+  double grandMean = 0;
+  for (std::size_t i = 0; i < means.size(); ++i) grandMean += means[i] * (sizes[i] / TotalSize(in));
+  double distance = 0;
+  for (std::size_t i = 0; i < means.size(); ++i) {
+    distance = std::hypot(distance, std::sqrt(sizes[i]) * (means[i] - grandMean));
+  }
+  return {distance / 5, distance * 5};
+}
+
+}  // namespace
+
+Parameter GroupMeans() { return PerGroup("means", "group means", "mean expected in each group"); }
+
+Parameter WithinSd() { return Number("sd", "standard deviation", "standard deviation within the groups").Above(0); }
+
+Parameter GroupSizes() {
+  return PerGroup("n", "group sizes", "observations in each group")
+      .Alias("group-sizes")
+      .Spreads()
+      .Whole()
+      .AtLeast(1)
+      .AtMost(1e9);
+}
+
+Parameter AllocationRatios() {
+  return PerGroup("ratios", "allocation ratios",
+                  "shares of the groups in the sizes to find, on any scale; default equal")
+      .Spreads()
+      .AtLeast(0.001)
+      .AtMost(1000);
+}
+
+Parameter GroupCount() {
+  return Number("groups", "number of groups", "number of groups, where no list tells it")
+      .Whole()
+      .AtLeast(2)
+      .AtMost(10000);
+}
+
+Parameter EffectF() {
+  return Number("effect-f", "effect size f", "standard deviation of the group means over that within the groups")
+      .AtLeast(0)
+      .AtMost(1e6);
+}
+
+Parameter EtaSquared() {
+  return Number("eta-squared", "eta squared", "proportion of variance explained by the groups").AtLeast(0).Below(1);
+}
+
+Condition ErrorDegrees() {
+  return {
+      .code = "error-degrees",
+      .about = {"n"},
+      .holds = [](const Inputs& in) { return TotalSize(in) > in.Groups(); },
+      .sentence = "{n} leaves nothing to estimate the standard deviation from: at least one group needs 2 or more."};
+}
+
+Axis WithinSdAxis() { return ParameterAxis(WithinSd(), "SD", AroundDistanceOfMeans); }
+
+}  // namespace planner

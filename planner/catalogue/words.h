@@ -1,0 +1,25 @@
+#ifndef KELPOWER_PLANNER_CATALOGUE_WORDS_H
+#define KELPOWER_PLANNER_CATALOGUE_WORDS_H
+
+#include "model/test.h"
+
+// The phrases, sentences and examples of the tests, each in the file <test>_words.cpp.
+namespace planner {
+
+void AddWordsOfAnova(Test& test);
+void AddWordsOfContrast(Test& test);
+void AddWordsOfPairwise(Test& test);
+void AddWordsOfMean(Test& test);
+void AddWordsOfPairedMeans(Test& test);
+void AddWordsOfTwoMeans(Test& test);
+void AddWordsOfProportion(Test& test);
+void AddWordsOfPairedProportions(Test& test);
+void AddWordsOfTwoProportions(Test& test);
+void AddWordsOfRegression(Test& test);
+void AddWordsOfPearson(Test& test);
+void AddWordsOfSpearman(Test& test);
+void AddWordsOfPartial(Test& test);
+
+}  // namespace planner
+
+#endif

@@ -1,0 +1,92 @@
+#ifndef KELPOWER_PLANNER_MODEL_TEST_H
+#define KELPOWER_PLANNER_MODEL_TEST_H
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/chart.h"
+#include "model/inputs.h"
+#include "model/parameter.h"
+#include "model/route.h"
+
+namespace planner {
+
+/// A condition on several inputs at once.
+struct Condition {
+  std::string code;  // for front ends: "error-degrees"
+  Names about;       // tested when all of these have a value
+  bool (*holds)(const Inputs&);
+  std::string sentence;  // what is wrong when it fails, with inputs in braces
+};
+
+/// A figure reported besides the answer when its inputs are there, such as an effect size.
+struct Derived {
+  std::string name;
+  std::string label;
+  Names needs;
+  double (*call)(const Inputs&);
+};
+
+/// Words of a sentence that depend on which input was given: the first of `wordings` whose input has a value.
+struct Phrase {
+  struct Wording {
+    Name input;
+    std::string text;
+  };
+  std::string name;
+  std::vector<Wording> wordings;
+};
+
+/// The sentence that reports an answer. In braces: the name of an input, a phrase or a result; `{flag?yes:no}` chooses
+/// by a flag. Results are `sizes`, `total`, `power` and `half-width`. The wanted ones are `target-power` and
+/// `target-half-width`; `confidence` is 1 - alpha in percent.
+struct ReportSentence {
+  Question question;
+  std::string text;
+};
+
+/// A worked example: the arguments after the program's name, and the sentence that they give.
+struct Example {
+  std::string arguments;
+  std::string sentence;
+};
+
+/// How many groups a test has when its inputs tell.
+constexpr int groupsFromInputs = 0;
+
+/// Everything that front ends need to know of a test.
+struct Test {
+  std::string name;
+  std::string title;
+  std::string about;
+  int groups = 1;
+  std::string counted = "observations";  // what a sample size counts
+  std::vector<Parameter> parameters = {};
+  std::vector<Route> routes = {};
+  std::vector<Condition> conditions = {};
+  std::vector<Condition> sizeExists = {};  // when one fails no sample size reaches a power
+  std::vector<Derived> derived = {};
+  std::vector<Phrase> phrases = {};
+  std::vector<ReportSentence> sentences = {};
+  std::vector<Example> examples = {};
+  std::vector<Chart> charts = {};
+};
+
+/// The test with the parameters that every test has: `alpha`, and `power`, `half-width` and `interval` as its routes
+/// answer the questions they ask.
+Test WithCommonParameters(Test test);
+
+/// The parameter of that name, or null.
+const Parameter* FindParameter(const Test& test, Name name);
+
+/// The parameter of that name or alias, or null.
+const Parameter* FindParameter(const Test& test, std::string_view name);
+
+/// Whether the test answers the question.
+bool Answers(const Test& test, Question question);
+
+}  // namespace planner
+
+#endif

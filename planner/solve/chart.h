@@ -1,0 +1,22 @@
+#ifndef KELPOWER_PLANNER_SOLVE_CHART_H
+#define KELPOWER_PLANNER_SOLVE_CHART_H
+
+#include <string>
+#include <vector>
+
+#include "model/chart.h"
+#include "model/test.h"
+
+namespace planner {
+
+/// Computes a chart. Throws an InputError when the inputs or the range are wrong. `stop` may end it between two points,
+/// and then Stopped is thrown; it may be null.
+ChartData ComputeChart(const Test& test, const ChartRequest& request, const InputValues& values,
+                       StopRequest* stop = nullptr);
+
+/// The names of a test's charts, each once.
+std::vector<std::string> ChartNames(const Test& test);
+
+}  // namespace planner
+
+#endif

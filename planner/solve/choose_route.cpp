@@ -1,0 +1,134 @@
+#include "solve/choose_route.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "model/problem.h"
+
+namespace planner {
+namespace {
+
+bool IsCommon(Name name) {
+  if (name == Name("alpha")) return true;
+  return std::any_of(std::begin(askedQuestions), std::end(askedQuestions),
+                     [&](Question question) { return AskedBy(question) == name; });
+}
+
+std::vector<const Route*> RoutesOf(const Test& test, Question question) {
+  std::vector<const Route*> routes;
+  for (const Route& route : test.routes) {
+    if (route.question == question) routes.push_back(&route);
+  }
+  return routes;
+}
+
+bool TakesAll(const Route& route, const Names& names) {
+  return std::all_of(names.begin(), names.end(), [&](Name name) { return route.Takes(name); });
+}
+
+bool AnyTakesAll(const std::vector<const Route*>& routes, const Names& names) {
+  return std::any_of(routes.begin(), routes.end(), [&](const Route* route) { return TakesAll(*route, names); });
+}
+
+/// The inputs that ask a question whose routes take `name`.
+Names AskersOf(const Test& test, Name name) {
+  Names askers;
+  for (Question question : askedQuestions) {
+    if (AnyTakesAll(RoutesOf(test, question), {name})) askers.push_back(*AskedBy(question));
+  }
+  return askers;
+}
+
+void RejectUnused(const Test& test, Question question, const std::vector<const Route*>& routes, const Names& given) {
+  for (Name name : given) {
+    if (AnyTakesAll(routes, {name})) continue;
+    Names concerned{name};
+    if (question == Question::Power) {
+      const Names askers = AskersOf(test, name);
+      concerned.insert(concerned.end(), askers.begin(), askers.end());
+      throw InputError({.code = Code::UselessAlone, .inputs = Texts(concerned)});
+    }
+    concerned.push_back(*AskedBy(question));
+    throw InputError({.code = Code::AsksSomethingElse, .inputs = Texts(concerned), .question = question});
+  }
+}
+
+void RejectConflicts(const std::vector<const Route*>& routes, const Names& given) {
+  for (std::size_t i = 0; i < given.size(); ++i) {
+    for (std::size_t j = i + 1; j < given.size(); ++j) {
+      if (AnyTakesAll(routes, {given[i], given[j]})) continue;
+      throw InputError({.code = Code::Exclusive, .inputs = Texts({given[i], given[j]})});
+    }
+  }
+  if (!AnyTakesAll(routes, given)) throw InputError({.code = Code::DoNotGoTogether, .inputs = Texts(given)});
+}
+
+Names Missing(const Route& route, const Names& given) {
+  Names missing;
+  std::copy_if(route.needs.begin(), route.needs.end(), std::back_inserter(missing),
+               [&](Name need) { return !Contains(given, need); });
+  return missing;
+}
+
+[[noreturn]] void RejectIncomplete(const Test& test, Question question, const std::vector<Names>& missing) {
+  Problem problem{.code = Code::Incomplete, .question = question};
+  bool sizesMissing = true;
+  for (const Names& names : missing) {
+    sizesMissing = sizesMissing && Contains(names, "n");
+    const auto& said = problem.missing;
+    if (std::find(said.begin(), said.end(), names) == said.end()) problem.missing.push_back(names);
+  }
+  // Where only the sizes are missing, they may be what is wanted.
+  const bool mayAskForSizes = question == Question::Power && sizesMissing && Answers(test, Question::SampleSize);
+  if (mayAskForSizes) problem.inputs = {"power", "n"};
+  throw InputError(std::move(problem));
+}
+
+}  // namespace
+
+std::vector<std::string> Texts(const Names& names) {
+  std::vector<std::string> texts;
+  for (Name name : names) texts.emplace_back(name.Text());
+  return texts;
+}
+
+Names GivenNames(const Test& test, const InputValues& values) {
+  Names names;
+  for (const auto& [name, value] : values) {
+    const bool* flag = std::get_if<bool>(&value);
+    if (flag && !*flag) continue;
+    names.push_back(FindParameter(test, name)->name);
+  }
+  return names;
+}
+
+Question AskedQuestion(const Names& given) {
+  Question asked = Question::Power;
+  for (Question question : askedQuestions) {
+    if (!Contains(given, *AskedBy(question))) continue;
+    if (asked != Question::Power) {
+      throw InputError({.code = Code::TwoQuestions, .inputs = Texts({*AskedBy(asked), *AskedBy(question)})});
+    }
+    asked = question;
+  }
+  return asked;
+}
+
+const Route& ChooseRoute(const Test& test, Question question, const Names& given) {
+  const std::vector<const Route*> routes = RoutesOf(test, question);
+  Names own;
+  std::copy_if(given.begin(), given.end(), std::back_inserter(own), [](Name name) { return !IsCommon(name); });
+  RejectUnused(test, question, routes, own);
+  RejectConflicts(routes, own);
+  std::vector<Names> incomplete;
+  for (const Route* route : routes) {
+    if (!TakesAll(*route, own)) continue;
+    Names missing = Missing(*route, own);
+    if (missing.empty()) return *route;
+    incomplete.push_back(std::move(missing));
+  }
+  RejectIncomplete(test, question, incomplete);
+}
+
+}  // namespace planner

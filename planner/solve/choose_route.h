@@ -1,0 +1,25 @@
+#ifndef KELPOWER_PLANNER_SOLVE_CHOOSE_ROUTE_H
+#define KELPOWER_PLANNER_SOLVE_CHOOSE_ROUTE_H
+
+#include "model/question.h"
+#include "model/route.h"
+#include "model/test.h"
+
+namespace planner {
+
+/// The names of the inputs that are given, without flags that are not set. The values have been checked.
+Names GivenNames(const Test& test, const InputValues& values);
+
+/// The question of the input that asks one, or the power where none is given. Throws an InputError when two ask.
+Question AskedQuestion(const Names& given);
+
+/// The route of the question that takes all that is given and needs nothing more. Throws an InputError with what does
+/// not go together or what is missing.
+const Route& ChooseRoute(const Test& test, Question question, const Names& given);
+
+/// The names as texts, for a problem.
+std::vector<std::string> Texts(const Names& names);
+
+}  // namespace planner
+
+#endif

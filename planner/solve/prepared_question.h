@@ -1,0 +1,90 @@
+#ifndef KELPOWER_PLANNER_SOLVE_PREPARED_QUESTION_H
+#define KELPOWER_PLANNER_SOLVE_PREPARED_QUESTION_H
+
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "model/answer.h"
+#include "model/inputs.h"
+#include "model/problem.h"
+#include "model/test.h"
+
+namespace planner {
+
+/// What a prepared question gives for one design.
+enum class RowStatus {
+  Answered,
+  InputRefused,  // a value beyond its limits, or a condition that fails
+  NoAnswer,      // no size reaches the target, or the power cannot be computed
+  Stopped,
+};
+
+struct Row {
+  RowStatus status;
+  double value;  // the power or half-width, of sizes found at these sizes; NaN unless answered
+};
+
+/// An input that varies from design to design: a number, or an entry of a list.
+struct Column {
+  Name name;
+  std::size_t entry = 0;
+};
+
+/// A question with its route chosen, to be asked of many designs. Answering one for its power or half-width takes no
+/// memory and looks nothing up: it costs little more than the library's own call. Copies serve threads side by side.
+class PreparedQuestion {
+public:
+  /// `values` are those of the first design. The question and the route follow from them. Throws an InputError.
+  ///
+  /// The test and the request must outlive the question. `stop` may end a long computation; it may be null. Once it has
+  /// answered true it must go on to.
+  PreparedQuestion(const Test& test, const InputValues& values, StopRequest* stop = nullptr);
+
+  /// Says which inputs the rows give. Throws an InputError when one is no number that was given.
+  void SetColumns(std::vector<Column> columns);
+
+  /// Answers the design whose varying inputs are the entries of `row`, in the order of the columns.
+  Row Evaluate(std::span<const double> row);
+
+  /// Answers the design that the inputs describe. Their conditions are checked but not their limits, because charts go
+  /// where no input could, such as to a fraction of an observation.
+  Row Evaluate(const Inputs& inputs);
+
+  /// The sizes that the last answer found.
+  const Numbers& Sizes() const { return sizes_; }
+
+  /// The whole answer for the inputs as they are. Throws an InputError, a NoSolution, or Stopped.
+  Answer Solve();
+
+  const Test& AskedTest() const { return test_; }
+  const Route& ChosenRoute() const { return route_; }
+  const Inputs& Design() const { return inputs_; }
+
+private:
+  struct BoundColumn {
+    Column column;
+    bool isEntry;
+    Limits limits;
+  };
+
+  const Condition* FailingEffect(const Inputs& inputs) const;
+  Row Checked(const Inputs& inputs);
+  Row ValueOf(const Inputs& inputs) const;
+  Row FindSizes(const Inputs& inputs);
+  bool IsStopped() const;
+
+  const Test& test_;
+  const Route& route_;
+  Inputs inputs_;
+  std::vector<const Condition*> conditions_;
+  std::vector<const Condition*> effects_;
+  std::vector<BoundColumn> columns_;
+  Numbers sizes_;
+  Evaluation value_;       // a copy of the route's own, which may keep something between its calls
+  bool isMissed_ = false;  // the target, by a little
+};
+
+}  // namespace planner
+
+#endif

@@ -1,0 +1,218 @@
+#include "words/problem.h"
+
+#include <fmt/format.h>
+
+#include <cstddef>
+#include <vector>
+
+#include "words/expand.h"
+#include "words/numbers.h"
+#include "words/parse.h"
+
+namespace planner {
+namespace {
+
+/// A value as it was given: words and texts in quotes.
+std::string Given(const Value& value) {
+  if (const auto* text = std::get_if<std::string>(&value)) return fmt::format("\"{}\"", *text);
+  const auto* numbers = std::get_if<Numbers>(&value);
+  if (numbers && numbers->empty()) return "empty";
+  return Shown(value);
+}
+
+/// Words a problem in the names that a front end gives the inputs. What the user typed is never taken for a name.
+class Words {
+public:
+  Words(const Problem& problem, const NameOfInput& name) : problem_(problem), name_(name) {}
+
+  std::string Sentence() const;
+
+private:
+  std::string Input(std::size_t i) const { return name_(problem_.inputs[i]); }
+
+  std::vector<std::string> Inputs(std::size_t first = 0) const {
+    std::vector<std::string> inputs;
+    for (std::size_t i = first; i < problem_.inputs.size(); ++i) inputs.push_back(Input(i));
+    return inputs;
+  }
+
+  std::string Figure(std::size_t i) const { return Shown(problem_.values[i]); }
+
+  /// "--sd and --n, or --effect-f and --n"
+  std::string Ways(const std::string& last, const std::string& other) const {
+    std::vector<std::string> ways;
+    for (const Names& names : problem_.missing) {
+      std::vector<std::string> way;
+      for (Name name : names) way.push_back(name_(name.Text()));
+      ways.push_back(Joined(way, " and "));
+    }
+    return Joined(ways, last, other);
+  }
+
+  std::string Incomplete() const;
+  std::string GroupsDisagree() const;
+  std::string WrongLength() const;
+  std::string EndsCount() const;
+  std::string EmptyChart() const;
+  std::string TooLarge() const;
+  std::string TooSlow() const;
+  std::string SizesNotFound() const;
+  std::string OfCondition() const;
+  std::string ChartSentence() const;
+
+  const Problem& problem_;
+  const NameOfInput& name_;
+};
+
+std::string Words::Incomplete() const {
+  std::string text = fmt::format("Also give {} for {}", Ways(", or ", ", or "), Wording(*problem_.question));
+  if (!problem_.inputs.empty()) {
+    text += fmt::format("; for the sample size, give {} in place of {}", Input(0), Input(1));
+  }
+  return text + ".";
+}
+
+std::string Words::GroupsDisagree() const {
+  return fmt::format("{} gives {} groups, but {} gives {}.", Input(0), Figure(0), Input(1), Figure(1));
+}
+
+std::string Words::WrongLength() const {
+  const bool isOne = std::get<double>(problem_.values[0]) == 1;
+  return fmt::format("{} has {} {}, but there are {} groups.", Input(0), Figure(0), isOne ? "entry" : "entries",
+                     Figure(1));
+}
+
+std::string Words::EndsCount() const {
+  const bool isOne = std::get<double>(problem_.values[1]) == 1;
+  return fmt::format("{} is {}, but for {} {} must be {}.", Input(0), Figure(0), Input(1), problem_.words[0],
+                     isOne ? "a number" : "two numbers, one for each axis");
+}
+
+std::string Words::EmptyChart() const {
+  std::vector<std::string> axes;
+  for (std::size_t i = 0; i < problem_.words.size(); ++i) {
+    axes.push_back(problem_.words[i] + " " + Text(problem_.limits[i]));
+  }
+  return fmt::format("{} leave nothing to draw; allowed are: {}.", Joined(Inputs(), " and "), Joined(axes, " and "));
+}
+
+std::string Words::TooLarge() const {
+  if (problem_.inputs.size() == 1) {
+    return fmt::format("The grid has more than {} points: give a larger {}.", Figure(0), Input(0));
+  }
+  return fmt::format("The range has more than {} points: bring {} closer together.", Figure(0),
+                     Joined(Inputs(), " and "));
+}
+
+std::string Words::SizesNotFound() const {
+  return fmt::format("No sample size was found that reaches a {} of {}.", problem_.inputs[0], Figure(0));
+}
+
+std::string Words::TooSlow() const {
+  return fmt::format(
+      "The chart of an exact test takes too long with so many points and sizes this large: give a larger {}, bring {} "
+      "and {} closer together, or draw a large-sample test.",
+      Input(0), Input(1), Input(2));
+}
+
+/// The sentence of a condition. "<0>" in it stands for the first value, and so on.
+std::string Words::OfCondition() const {
+  std::string text = Expand(problem_.sentence, name_, [](std::string_view) { return false; });
+  for (std::size_t i = 0; i < problem_.values.size(); ++i) {
+    const std::string mark = fmt::format("<{}>", i);
+    for (std::size_t at = text.find(mark); at != std::string::npos; at = text.find(mark)) {
+      text.replace(at, mark.size(), Figure(i));
+    }
+  }
+  return text;
+}
+
+std::string Words::ChartSentence() const {
+  switch (problem_.code) {
+    case Code::NoCharts: return problem_.words[0] + " has no charts.";
+    case Code::ChartOfDesign:
+      return fmt::format("{} draws the power of a design, so {} cannot be given as well.", Input(1), Input(0));
+    case Code::ChartWithoutUse: return fmt::format("{} has no use with {} {}.", Input(0), Input(1), problem_.words[0]);
+    case Code::ChartNeedsSizes:
+      return fmt::format("{} draws the power of a design: give its sizes with {} in place of {}.", Input(0), Input(1),
+                         Input(2));
+    case Code::ChartIncomplete:
+      return fmt::format("Also give {} for {} {}.", Ways(", or ", ", "), Input(0), problem_.words[0]);
+    case Code::ChartEndNotAllowed:
+      return fmt::format("{} is {}, but of {} must be {}.", Input(0), Figure(0), problem_.words[0],
+                         Text(problem_.limits[0]));
+    case Code::ChartEndsDescend:
+      return fmt::format("{} is {}, but must be below {}, which is {}.", Input(0), Figure(0), Input(1), Figure(1));
+    case Code::ChartEndsCount: return EndsCount();
+    case Code::ChartEndMissing: return Joined(Inputs(), " and ") + " go together: give both or neither.";
+    case Code::ChartRangeUnknown:
+      return fmt::format("{} {} has no usual range for these inputs: also give {}.", Input(0), problem_.words[0],
+                         Joined(Inputs(1), " and "));
+    case Code::ChartSizesUnknown:
+      return fmt::format("A design of more than {} observations has no usual range: also give {}.", Figure(0),
+                         Joined(Inputs(), " and "));
+    case Code::ChartStepUseless:
+      return fmt::format("{} has no use with {} {}: sizes go by ones.", Input(0), Input(1), problem_.words[0]);
+    case Code::ChartStepNotAllowed:
+      return fmt::format("{} is {}, but must be {}: a share of the range.", Input(0), Figure(0),
+                         Text(problem_.limits[0]));
+    case Code::ChartStepTooLarge:
+      return fmt::format("{} is {}, but leaves fewer than two points to draw: give a smaller one.", Input(0),
+                         Figure(0));
+    case Code::ChartTooLarge: return TooLarge();
+    case Code::ChartTooSlow: return TooSlow();
+    case Code::ChartEmpty: return EmptyChart();
+    case Code::ChartWithoutPower:
+      return fmt::format("The test has no power anywhere between {}.", Joined(Inputs(), " and "));
+    default: return OfCondition();
+  }
+}
+
+std::string Words::Sentence() const {
+  switch (problem_.code) {
+    case Code::NotAnInput: return fmt::format("{} is not an option of {}.", Input(0), problem_.words[0]);
+    case Code::NotAllowed:
+      return fmt::format("{} is {}, but must be {}.", Input(0), Given(problem_.values[0]), Allowed(*problem_.allowed));
+    case Code::UselessAlone:
+      return fmt::format("{} has a use only together with {}.", Input(0), Joined(Inputs(1), " or "));
+    case Code::AsksSomethingElse:
+      return fmt::format("{} asks for {}, so {} cannot be given as well.", Input(1), Wording(*problem_.question),
+                         Input(0));
+    case Code::Exclusive: return Joined(Inputs(), " and ") + " exclude each other.";
+    case Code::DoNotGoTogether: return Joined(Inputs(), " and ") + " do not go together.";
+    case Code::TwoQuestions:
+      return Joined(Inputs(), " and ") + " exclude each other: each asks for an answer of its own.";
+    case Code::Incomplete: return Incomplete();
+    case Code::GroupsDisagree: return GroupsDisagree();
+    case Code::GroupsUnknown: return fmt::format("The number of groups is not known: give {}.", Input(0));
+    case Code::TooFewGroups: return fmt::format("{} gives 1 group, but must give at least 2.", Input(0));
+    case Code::TooManyGroups:
+      return fmt::format("{} gives {} groups, but at most {} are allowed.", Input(0), Figure(0), Figure(1));
+    case Code::WrongLength: return WrongLength();
+    case Code::SizesNotFound: return SizesNotFound();
+    case Code::NotComputable:
+      return fmt::format("These inputs have no answer: {} cannot be computed.", Wording(*problem_.question));
+    case Code::Stopped: return "The computation was stopped; there is no answer.";
+    default: return ChartSentence();
+  }
+}
+
+}  // namespace
+
+std::string SentenceTemplate(const Problem& problem) {
+  return Sentence(problem, [](std::string_view name) { return fmt::format("{{{}}}", name); });
+}
+
+std::string Sentence(const Problem& problem, const NameOfInput& name) { return Words(problem, name).Sentence(); }
+
+std::string Wording(Question question) {
+  switch (question) {
+    case Question::Power: return "the power";
+    case Question::SampleSize: return "the sample size";
+    case Question::HalfWidth: return "the half-width";
+    case Question::SampleSizeForHalfWidth: return "the sample size for a half-width";
+  }
+  return "";
+}
+
+}  // namespace planner

@@ -1,0 +1,178 @@
+#include "words/report.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <functional>
+#include <numeric>
+
+#include "words/expand.h"
+#include "words/numbers.h"
+
+namespace planner {
+namespace {
+
+std::string ShownPower(double power) {
+  if (power > 0.99995) return ">0.9999";
+  if (power < 0.00005) return "<0.0001";
+  return fmt::format("{:.4f}", power);
+}
+
+std::string ShownHalfWidth(double halfWidth) { return fmt::format("{:.4g}", halfWidth); }
+
+/// The sizes in digits worth reading: all, or four where there are too many observations to count.
+Numbers Readable(Numbers sizes) {
+  constexpr double largestCounted = 1e15;
+  for (double& size : sizes) {
+    if (size >= largestCounted) ParseNumber(fmt::format("{:.4g}", size), size);
+  }
+  return sizes;
+}
+
+std::string Readable(double size) { return Shortest(Readable(Numbers{size}).front()); }
+
+double Total(const Numbers& sizes) { return std::accumulate(sizes.begin(), sizes.end(), 0.0); }
+
+/// "20 observations in each of 3 groups (60 in total)"
+std::string SizesInSentence(const Test& test, const Numbers& sizes) {
+  if (test.groups == 1) return fmt::format("{} {}", Readable(sizes.front()), test.counted);
+  const bool equal = std::adjacent_find(sizes.begin(), sizes.end(), std::not_equal_to<>()) == sizes.end();
+  if (equal) {
+    return fmt::format("{} {} in each of {} groups ({} in total)", Readable(sizes.front()), test.counted, sizes.size(),
+                       Readable(Total(sizes)));
+  }
+  return fmt::format("{} {} in {} groups ({} in total)", ListedInSentence(Readable(sizes)), test.counted, sizes.size(),
+                     Readable(Total(sizes)));
+}
+
+std::string ChoiceWording(const Parameter& parameter, const std::string& word) {
+  const auto& choices = parameter.choices;
+  return std::find_if(choices.begin(), choices.end(), [&](const auto& choice) { return choice.word == word; })->wording;
+}
+
+/// Gives the words of a sentence's braces.
+class Words {
+public:
+  explicit Words(const Answer& answer) : test_(*answer.test), inputs_(answer.inputs), answer_(answer) {}
+
+  std::string Of(const std::string& text) const {
+    return Expand(
+        text, [this](std::string_view name) { return LookUp(name); },
+        [this](std::string_view name) { return IsSet(name); });
+  }
+
+private:
+  std::string LookUp(std::string_view name) const {
+    if (name == "sizes") return SizesInSentence(test_, answer_.sizes);
+    if (name == "total") return Readable(Total(answer_.sizes));
+    if (name == "groups") return Shortest(inputs_.Groups());
+    if (name == "power") return ShownPower(answer_.value);
+    if (name == "half-width") return ShownHalfWidth(answer_.value);
+    if (name == "target-power") return Shortest(inputs_.Number("power"));
+    if (name == "target-half-width") return Shortest(inputs_.Number("half-width"));
+    if (name == "confidence") return fmt::format("{:.10g}%", 100 * (1 - inputs_.Alpha()));
+    for (const Phrase& phrase : test_.phrases) {
+      if (phrase.name == name) return OfPhrase(phrase);
+    }
+    return OfInput(name);
+  }
+
+  bool IsSet(std::string_view name) const {
+    const Parameter* flag = FindParameter(test_, name);
+    return flag && inputs_.Has(flag->name) && inputs_.Flag(flag->name);
+  }
+
+  std::string OfPhrase(const Phrase& phrase) const {
+    for (const auto& [input, wording] : phrase.wordings) {
+      if (inputs_.Has(input)) return Of(wording);
+    }
+    return "";
+  }
+
+  std::string OfInput(std::string_view name) const {
+    const Parameter* parameter = FindParameter(test_, name);
+    if (!parameter || !inputs_.Has(parameter->name)) return "";
+    const Value value = inputs_.ValueOf(*parameter);
+    if (const auto* word = std::get_if<std::string>(&value)) return ChoiceWording(*parameter, *word);
+    if (const auto* numbers = std::get_if<Numbers>(&value)) return ListedInSentence(*numbers);
+    return Shown(value);
+  }
+
+  const Test& test_;
+  const Inputs& inputs_;
+  const Answer& answer_;
+};
+
+std::vector<Entry> InputEntries(const Answer& answer) {
+  std::vector<Entry> entries;
+  const Route& route = *answer.route;
+  for (const Parameter& parameter : answer.test->parameters) {
+    const Name name = parameter.name;
+    if (!answer.inputs.Has(name)) continue;
+    if (parameter.shownOnlySet && !answer.inputs.Flag(name)) continue;
+    const bool isTarget = name == AskedBy(route.question) && name != Name("interval");
+    if (!route.Takes(name) && !isTarget && name != Name("alpha")) continue;
+    const Value value = answer.inputs.ValueOf(parameter);
+    entries.push_back({std::string(name.Text()), parameter.label, value, Shown(value)});
+  }
+  return entries;
+}
+
+std::vector<Entry> ResultEntries(const Answer& answer) {
+  std::vector<Entry> entries;
+  const bool grouped = answer.test->groups != 1;
+  for (const auto& [derived, figure] : answer.derived) {
+    entries.push_back({derived->name, derived->label, figure, fmt::format("{:.4g}", figure)});
+  }
+  if (answer.SizesFound() && grouped) {
+    entries.push_back({"sizes", "group sizes", answer.sizes, Listed(Readable(answer.sizes))});
+  }
+  if (answer.SizesFound() && !grouped) {
+    entries.push_back({"n", "sample size", answer.sizes.front(), Readable(answer.sizes.front())});
+  }
+  if (grouped) {
+    const double total = Total(answer.sizes);
+    entries.push_back({"total", "total sample size", total, Readable(total)});
+  }
+  const std::string suffix = answer.SizesFound() ? " at these sizes" : "";
+  if (IsAboutPower(answer.Asked())) {
+    entries.push_back({"power", "power" + suffix, answer.value, ShownPower(answer.value)});
+  } else {
+    entries.push_back({"half-width", "half-width" + suffix, answer.value, ShownHalfWidth(answer.value)});
+  }
+  return entries;
+}
+
+std::string SentenceOf(const Test& test, Question question) {
+  for (const ReportSentence& sentence : test.sentences) {
+    if (sentence.question == question) return sentence.text;
+  }
+  return "";
+}
+
+std::string Wording(Note note) {
+  switch (note) {
+    case Note::TargetMissedSlightly: return "At the sizes rounded to whole numbers the target is missed slightly.";
+  }
+  return "";
+}
+
+std::string WordingOf(const std::vector<Note>& notes) {
+  std::vector<std::string> sentences;
+  for (Note note : notes) sentences.push_back(Wording(note));
+  return Joined(sentences, " ", " ");
+}
+
+}  // namespace
+
+Report MakeReport(const Answer& answer) {
+  return {.test = answer.test,
+          .question = answer.Asked(),
+          .exportName = answer.route->ExportFor(answer.inputs),
+          .inputs = InputEntries(answer),
+          .results = ResultEntries(answer),
+          .sentence = Words(answer).Of(SentenceOf(*answer.test, answer.Asked())),
+          .note = WordingOf(answer.notes)};
+}
+
+}  // namespace planner

@@ -1,0 +1,45 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "words/render.h"
+
+namespace planner {
+namespace {
+
+std::size_t WidestLabel(const Report& report) {
+  std::size_t widest = 0;
+  for (const Entry& entry : report.inputs) widest = std::max(widest, entry.label.size());
+  for (const Entry& entry : report.results) widest = std::max(widest, entry.label.size());
+  return widest;
+}
+
+std::string MarkdownRow(const Entry& entry, const std::string& mark) {
+  return fmt::format("| {0}{1}{0} | {0}{2}{0} |\n", mark, entry.label, entry.shown);
+}
+
+}  // namespace
+
+std::string RenderText(const Report& report, const Highlights& highlights) {
+  std::string text = fmt::format("{}{}{}\n\n", highlights.heading, report.test->title, highlights.end);
+  const std::size_t width = WidestLabel(report);
+  for (const Entry& entry : report.inputs) text += fmt::format("  {:<{}}  {}\n", entry.label, width, entry.shown);
+  text += '\n';
+  for (const Entry& entry : report.results) {
+    text += fmt::format("  {}{:<{}}  {}{}\n", highlights.answer, entry.label, width, entry.shown, highlights.end);
+  }
+  text += fmt::format("\n{}\n", report.sentence);
+  if (!report.note.empty()) text += fmt::format("Note: {}\n", report.note);
+  return text;
+}
+
+std::string RenderMarkdown(const Report& report) {
+  std::string text = fmt::format("**{}**\n\n| | |\n|---|---|\n", report.test->title);
+  for (const Entry& entry : report.inputs) text += MarkdownRow(entry, "");
+  for (const Entry& entry : report.results) text += MarkdownRow(entry, "**");
+  text += fmt::format("\n{}\n", report.sentence);
+  if (!report.note.empty()) text += fmt::format("\n{}\n", report.note);
+  return text;
+}
+
+}  // namespace planner
