@@ -60,6 +60,8 @@ double SumSeriesPrecisely(double a, double b, double x) {
   return sum;
 }
 
+bool IsFarFromEnds(double x) { return x > 1e-280 && x < 1e280; }
+
 }  // namespace
 
 BetaPowerLaw::BetaPowerLaw(double a, double b, DoubleDouble p)
@@ -86,13 +88,17 @@ BetaPowerLaw::BetaPowerLaw(double a, double b, DoubleDouble p)
 }
 
 double BetaPowerLaw::Ratio(double power) const {
-  const DoubleDouble odds = RootOf(share_, power, a_);
-  if (odds.hi == 0 || std::isinf(odds.hi)) return odds.hi;
   const DoubleDouble below = Product(Product(Sum(ExactSum(1, b_), a_), a_), ExactSum(1, -x_));
   const DoubleDouble scale = Quotient({b_, 0}, below);
   const DoubleDouble root = std::fabs(power) == 0.5 ? SquareRoot(scale) : scale;
-  const DoubleDouble value = Product(odds, std::exp(power * (logScale_ - bend_)));
-  return power > 0 ? Product(value, root).hi : Quotient(value, root).hi;
+  const DoubleDouble factor = Product(root, std::exp(std::fabs(power) * (logScale_ - bend_)));
+  const DoubleDouble odds = RootOf(share_, power, a_);
+  const double rounded = power > 0 ? odds.hi * factor.hi : odds.hi / factor.hi;
+  // Near the ends of the range of doubles a pair loses its digits, and beyond them it is no number.
+  if (IsFarFromEnds(odds.hi) && IsFarFromEnds(rounded))
+    return power > 0 ? Product(odds, factor).hi : Quotient(odds, factor).hi;
+  const double half = RootOf(share_, power / 2, a_).hi;
+  return half * (power > 0 ? half * factor.hi : half / factor.hi);
 }
 
 }  // namespace KelMath

@@ -179,7 +179,7 @@ double SearchRatio(double a, double b, double p, double start) {
   double ratio = std::clamp(start, 2 * low, high / 2);
   for (int i = 1; i <= 200 && high - low > 2e-16 * high; ++i) {
     const UnitPoint point = PointOfRatio(a, b, ratio);
-    const PreciseTail at = EvaluateLowerBeta(density, point);
+    const PreciseTail at = EvaluateLowerBeta(density, point, p);
     (at.lower.hi > p ? high : low) = ratio;
     const Step step = StepTowards(p, density, point, at);
     const double next = ratio + ratio * step.growth;

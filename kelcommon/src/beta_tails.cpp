@@ -35,17 +35,25 @@ double LowerTail(const BetaPlace& place, double density) {
   return density > 0 ? std::min(density * QuotientOfTail(place), 1.0) : 0;
 }
 
-// The lower tail is computed first: its series is short, or x is not far above the mean, where the fraction is fast.
-// The tail that comes first always has its method.
+// x is not far above the mean, where the fraction of the lower tail is fast.
+bool IsFractionFast(const BetaPlace& place) { return place.excess + 2 * place.point.x.hi <= 1; }
+
+// The lower tail is computed first: its series is short, or else the fraction of the lower tail is fast and the series
+// of the upper one is not short. The tail that comes first always has its method.
 bool IsLowerFirst(const BetaPlace& place) {
   if (IsBetaSeriesShort(place)) return true;
-  return place.excess + 2 * place.point.x.hi <= 1 && !IsBetaSeriesShort(place.Mirrored());
+  return IsFractionFast(place) && !IsBetaSeriesShort(place.Mirrored());
 }
 
 // A tail from this on is not subtracted from one: the other is computed by itself. A probability is asked for its
 // absolute error first, a quantile needs all the digits of its tail.
 constexpr double subtrahendOfProbability = 0.9;
 constexpr double subtrahendOfQuantile = 0.65;
+
+// A lower tail that would be computed by itself in any case comes first where it can.
+bool IsLowerFirst(const BetaPlace& place, double expected) {
+  return IsLowerFirst(place) || (expected < 1 - subtrahendOfQuantile && IsFractionFast(place));
+}
 
 Tails TailsAt(const BetaPlace& place, double density) {
   const double lower = LowerTail(place, density);
@@ -91,9 +99,22 @@ ScaledShapes Scale(double a, double b, const UnitPoint& point) {
   return scaled;
 }
 
+bool IsNearEnd(const UnitPoint& point) { return std::min(point.x.hi, point.y.hi) < denormalProducts; }
+
+bool IsOrdinary(double a, double b, const UnitPoint& point) {
+  return std::max(a, b) <= largestShape && !IsNearEnd(point);
+}
+
 BetaDensity DensityFor(const ScaledShapes& scaled) {
-  const bool isNearEnd = std::min(scaled.point.x.hi, scaled.point.y.hi) < denormalProducts;
-  return isNearEnd ? BetaDensity(scaled.a, scaled.b) : BetaDensity::WithoutPowers(scaled.a, scaled.b);
+  return IsNearEnd(scaled.point) ? BetaDensity(scaled.a, scaled.b) : BetaDensity::WithoutPowers(scaled.a, scaled.b);
+}
+
+TailsAndDensity EvaluateAt(const BetaDensity& densityOfLogOdds, const UnitPoint& point) {
+  const double a = densityOfLogOdds.A();
+  const double b = densityOfLogOdds.B();
+  const BetaPlace place{a, b, point, BetaExcess(a, b, point)};
+  const double density = densityOfLogOdds.At(point, place.excess);
+  return {IsLowerFirst(place) ? TailsAt(place, density) : TailsAt(place.Mirrored(), density).Mirrored(), density};
 }
 
 // A distribution whose mass lies at the ends, b / (a + b) of it at 0.
@@ -108,13 +129,12 @@ Tails TwoPointTails(double a, double b) {
 
 TailsAndDensity EvaluateBeta(double a, double b, const UnitPoint& point) {
   if (a < negligibleShape || b < negligibleShape) return {TwoPointTails(a, b), 0};
+  if (IsOrdinary(a, b, point)) return EvaluateAt(BetaDensity::WithoutPowers(a, b), point);
   const ScaledShapes scaled = Scale(a, b, point);
-  const BetaPlace place{scaled.a, scaled.b, scaled.point, BetaExcess(scaled.a, scaled.b, scaled.point)};
-  const double density = DensityFor(scaled).At(scaled.point, place.excess);
-  return {IsLowerFirst(place) ? TailsAt(place, density) : TailsAt(place.Mirrored(), density).Mirrored(), density};
+  return EvaluateAt(DensityFor(scaled), scaled.point);
 }
 
-PreciseTail EvaluateLowerBeta(const PreciseBetaDensity& densityOfLogOdds, const UnitPoint& point) {
+PreciseTail EvaluateLowerBeta(const PreciseBetaDensity& densityOfLogOdds, const UnitPoint& point, double expected) {
   const double a = densityOfLogOdds.A();
   const double b = densityOfLogOdds.B();
   const BetaPlace place{a, b, point, BetaExcess(a, b, point)};
@@ -123,7 +143,7 @@ PreciseTail EvaluateLowerBeta(const PreciseBetaDensity& densityOfLogOdds, const 
     return PreciseTail{Product(density, quotient), density.hi, place.excess};
   };
   if (density.hi == 0) return {{place.excess > 0 ? 1.0 : 0.0, 0}, 0, place.excess};
-  if (IsLowerFirst(place)) return By(PreciseQuotientOfTail(place));
+  if (IsLowerFirst(place, expected)) return By(PreciseQuotientOfTail(place));
   PreciseTail tail = By(PreciseQuotientOfTail(place.Mirrored()));
   if (tail.lower.hi > subtrahendOfQuantile) {
     const DoubleDouble quotient = PreciseQuotientOfTail(place);
@@ -137,9 +157,9 @@ PreciseTail EvaluateLowerBeta(const PreciseBetaDensity& densityOfLogOdds, const 
 
 double EvaluateBetaDensity(double a, double b, const UnitPoint& point) {
   if (a < negligibleShape || b < negligibleShape) return std::min(a, b) * (a > b ? a / (a + b) : b / (a + b));
+  if (IsOrdinary(a, b, point)) return BetaDensity::WithoutPowers(a, b).At(point);
   const ScaledShapes scaled = Scale(a, b, point);
-  const BetaDensity density = DensityFor(scaled);
-  return density.At(scaled.point);
+  return DensityFor(scaled).At(scaled.point);
 }
 
 }  // namespace KelMath

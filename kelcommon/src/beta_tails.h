@@ -33,8 +33,9 @@ struct PreciseTail {
   double excess;  ///< (a + b) x - a
 };
 
-/// I_x(a, b) for the shapes of `density`, to the last digit or two up to 1/2 and somewhat beyond.
-PreciseTail EvaluateLowerBeta(const PreciseBetaDensity& density, const UnitPoint& point);
+/// I_x(a, b) for the shapes of `density`, to the last digit or two up to 1/2 and somewhat beyond. It is faster where
+/// `expected` is about the result.
+PreciseTail EvaluateLowerBeta(const PreciseBetaDensity& density, const UnitPoint& point, double expected);
 
 /// x^a y^b / B(a, b) for any positive finite shapes.
 double EvaluateBetaDensity(double a, double b, const UnitPoint& point);

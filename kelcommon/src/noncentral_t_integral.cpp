@@ -64,14 +64,21 @@ struct Peak {
   double curvature;  // of minus the logarithm, by v
 };
 
-// The peak solves 2 b (s^2 - 1) + x s hazard(x s + delta) = 0, a quadratic equation while the hazard is held.
+// The square root of 1 + z^2 for any z >= 0.
+double RootOf1PlusSquare(double z) { return z < 1e8 ? std::sqrt(1 + z * z) : z; }
+
+// The peak solves 2 b (s^2 - 1) + x s hazard(x s + delta) = 0, a quadratic equation while the hazard is held. It need
+// not be exact, for it only says where the nodes lie.
 Peak FindPeak(const Integrand& f) {
   Peak peak{1, 0};
   double hazard = 0;
-  for (int i = 0; i < 6; ++i) {
+  double change = 1;
+  for (int i = 0; i < 6 && std::fabs(change) > 0.01; ++i) {
     hazard = Hazard(f.x * peak.s + f.delta);
     const double half = f.x * hazard / (4 * f.b);
-    peak.s = 1 / (half + std::hypot(half, 1));
+    const double s = 1 / (half + RootOf1PlusSquare(half));
+    change = s / peak.s - 1;
+    peak.s = s;
   }
   const double xs = f.x * peak.s;  // x^2 would overflow from 1e154 on, which quantiles of few degrees of freedom reach
   peak.curvature = 4 * f.b * peak.s * peak.s + xs * hazard + xs * xs;

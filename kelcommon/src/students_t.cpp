@@ -6,6 +6,7 @@
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 #include "noncentral_t.h"
+#include "t_expansion.h"
 
 namespace KelMath {
 
@@ -21,6 +22,8 @@ double PositiveQuantile(double p, double df) {
   const double fromMiddle = std::fabs(p - 0.5);
   if (df == 1) return fromMiddle < 0.25 ? std::tan(pi * fromMiddle) : 1 / std::tan(pi * tail);
   if (df == 2) return fromMiddle * std::sqrt(2 / (tail * (1 - tail)));
+  const double expanded = QuantileOfManyDegrees(tail, df);
+  if (!std::isnan(expanded)) return expanded;
   // t^2 is a variable of F with 1 and df degrees of freedom. Near the middle its lower tail 2p - 1 is exact, outside
   // its upper tail.
   const double b = HalfDegrees(df);

@@ -102,6 +102,8 @@ const ContractRow contractRows[] = {
     {"IdfBeta", {0.3, 3, infinity}, 0, 0},
     {"IdfBeta", {0.3, infinity, 3}, 1, 0},
     {"IdfBeta", {0, 2, 3}, 0, 0},
+    // The odds are near the largest double.
+    {"IdfBeta", {0.168060302734375, 1.2508678166857988e+188, 0.0002593994140625}, 1, 0},
     {"IdfBeta", {1, 2, 3}, 1, 0},
     {"CdfBin", {3, -1, 0.3}, missing, 1},
     {"CdfBin", {3, infinity, 0.3}, missing, 1},

@@ -21,9 +21,12 @@ const Method methods[] = {
      "Lugannani and S. Rice, Saddle Point Approximation for the Distribution of the Sum of Independent Random "
      "Variables (1980)."},
     {"IdfT", "Quantile of Student's t: `IdfT(p, df, a, b)`.",
-     "As `IdfF`, of which the square of t is a variable: near the median from its lower tail, outside from its upper. "
-     "With 1 and 2 degrees of freedom in closed form; above 1e18 the normal quantile.",
-     "As `IdfF`. Start: G. Hill, Algorithm 396: Student's t-Quantiles (1970)."},
+     "From some 23 degrees of freedom on, and ever more in far tails, an expansion about the normal quantile in powers "
+     "of 1 / (df - 1/2)^2. Below as `IdfF`, of which the square of t is a variable: near the median from its lower "
+     "tail, outside from its upper. With 1 and 2 degrees of freedom in closed form; above 1e18 the normal quantile.",
+     "Nearly normal deviate: D. Wallace, Bounds on Normal Approximations to Student's and the Chi-Square "
+     "Distributions, Annals of Mathematical Statistics 30 (1959); its expansion is our own. The rest as `IdfF`, with "
+     "the start of G. Hill, Algorithm 396: Student's t-Quantiles (1970)."},
     {"NonCentralCdfT", "Lower probability of noncentral t: `NonCentralCdfT(x, df, noncentrality, tuning)`.",
      "Poisson mixtures of beta tails with shapes 1/2 and 1, summed by parts in the lower tail; beyond a noncentrality "
      "of 10 the noncentral F distribution of the square. On the side away from the noncentrality, where the sum "

@@ -33,6 +33,8 @@ POINTS = {
     ],
     "IdfT": [
         (0.24999999999999997, 1.0000000000000002), (0.25000000000000006, 0.999999999999), (0.7499999924999999, 3.0),
+        # An expansion in 1 / df^2 needs ever more terms towards few degrees of freedom and far tails.
+        (0.45, 21.03), (0.45, 25.0), (0.025, 23.0), (0.975, 29.0), (1e-6, 38.5), (1e-12, 68.0), (1e-12, 85.0),
     ],
     "IdfBeta": [
         # The density is all but flat in the logit from -1000 to 1000.
@@ -44,6 +46,12 @@ POINTS = {
 }
 
 BEYOND = {
+    "IdfT": [
+        # The farthest that an expansion in 1 / df^2 reaches.
+        (1e-100, 484.0), (1e-300, 1300.0),
+        # Near the largest double.
+        (0.8614569447262922, 0.0017998102132077715),
+    ],
     "IdfF": [
         # Near the largest double.
         (0.9996526514112924, 3.0397211454143727, 0.02236032064481283),
