@@ -1,7 +1,6 @@
-#include "catalogue/paired_proportions.h"
-
 #include <utility>
 
+#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"

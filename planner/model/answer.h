@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_ANSWER_H
+#define KELPOWER_PLANNER_MODEL_ANSWER_H
 
 #include <string>
 #include <vector>
@@ -30,3 +31,5 @@ struct Answer {
 };
 
 }  // namespace planner
+
+#endif

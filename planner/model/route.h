@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_ROUTE_H
+#define KELPOWER_PLANNER_MODEL_ROUTE_H
 
 #include <functional>
 #include <string>
@@ -34,3 +35,5 @@ struct Route {
 };
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_TEST_H
+#define KELPOWER_PLANNER_MODEL_TEST_H
 
 #include <optional>
 #include <string>
@@ -95,3 +96,5 @@ const Parameter* FindParameter(const Test& test, std::string_view name);
 bool Answers(const Test& test, Question question);
 
 }  // namespace planner
+
+#endif

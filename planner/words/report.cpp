@@ -20,7 +20,7 @@ std::string ShownPower(double power) {
 
 std::string ShownHalfWidth(double halfWidth) { return fmt::format("{:.4g}", halfWidth); }
 
-/// The sizes with no more digits than are worth reading: four where there are too many observations to count.
+/// The sizes in digits worth reading: all, or four where there are too many observations to count.
 Numbers Readable(Numbers sizes) {
   constexpr double largestCounted = 1e15;
   for (double& size : sizes) {

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_TESTS_PLANNER_SUPPORT_H
+#define KELPOWER_TESTS_PLANNER_SUPPORT_H
 
 #include <string>
 #include <utility>
@@ -7,11 +8,14 @@
 #include "model/problem.h"
 #include "solve/chart.h"
 #include "solve/solve.h"
+#include "support/counting_stop.h"
 #include "words/problem.h"
 #include "words/report.h"
 
 // What the tests of the planner share.
 namespace planner {
+
+using CountingStop = keltest::CountingStopOf<StopRequest>;
 
 /// The worded answer.
 inline Report Solved(const Test& test, const InputValues& values, StopRequest* stop = nullptr) {
@@ -24,3 +28,5 @@ inline std::string Said(const Failure& failure) {
 }
 
 }  // namespace planner
+
+#endif
