@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_ARGUMENTS_H
+#define KELPOWER_CLI_ARGUMENTS_H
 
 #include <string>
 
@@ -22,3 +23,5 @@ struct Request {
 
 /// Reads the command line; throws a UsageError or a planner::InputError when it is wrong.
 Request ParseArguments(int argc, const char* const* argv);
+
+#endif

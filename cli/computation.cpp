@@ -40,8 +40,8 @@ bool Computation::ShouldStop() {
   return false;
 }
 
-// The library does not say how much is left, nor does it know in a search: only the time spent is told. The line fits a
-// terminal of forty columns, so that it can be overwritten.
+// Only the time spent is shown. How much is left the library does not say, and in a search it does not know. The line
+// fits a terminal of forty columns, so that it can be overwritten.
 void Computation::LookAtTheClock() {
   questionsLeft_ = questionsPerLook;
   if (!isShown_) return;

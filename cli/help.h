@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_HELP_H
+#define KELPOWER_CLI_HELP_H
 
 #include <string>
 
@@ -13,3 +14,5 @@ std::string HelpOf(const planner::Test& test, const planner::Highlights& highlig
 
 /// The tests that there are, one a line.
 std::string ListOfTests(const planner::Highlights& highlights = {});
+
+#endif

@@ -1,7 +1,6 @@
-#include "catalogue/paired_proportions.h"
-
 #include <utility>
 
+#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
@@ -123,8 +122,9 @@ std::vector<Route> SizeRoutes() {
        .sizes = Size},
       {.question = Question::SampleSize,
        .needs = {"p12", "p21", "exact"},
-       .accepts = {"one-sided", "power"},
+       .accepts = {"one-sided"},
        .exportName = "PowerReversebyPRelSampBionm",
+       .lastingSize = LastingSize,
        .sizes = Size},
       {.question = Question::SampleSize,
        .needs = {"proportion1", "proportion2", "correlation"},
@@ -135,6 +135,7 @@ std::vector<Route> SizeRoutes() {
        .needs = {"proportion1", "proportion2", "correlation", "exact"},
        .accepts = {"one-sided"},
        .exportName = "PowerReversebyMargPRelSampBionm",
+       .lastingSize = LastingSize,
        .sizes = Size},
   };
 }
@@ -155,7 +156,7 @@ std::vector<Route> Routes() {
   return routes;
 }
 
-bool IsExact(const Inputs& in) { return in.Flag("exact"); }
+Unevenness UnevennessOf(const Inputs& in) { return in.Flag("exact") ? Unevenness::Uneven : Unevenness::Even; }
 
 std::vector<Unknown> Unknowns() {
   constexpr const char* reason = "the difference grows faster than its standard error";
@@ -165,8 +166,7 @@ std::vector<Unknown> Unknowns() {
                    .trend = Trend::Rises,
                    .reason = reason,
                    .piece = piece,
-                   .pieceBelow = below,
-                   .isUneven = IsExact};
+                   .pieceBelow = below};
   };
   return {
       discordant(
@@ -204,8 +204,7 @@ std::vector<Unknown> Unknowns() {
       {.input = "correlation",
        .target = Question::Power,
        .trend = Trend::Rises,
-       .reason = "fewer pairs are discordant, of which as many more are of one kind",
-       .isUneven = IsExact},
+       .reason = "fewer pairs are discordant, of which as many more are of one kind"},
   };
 }
 
@@ -270,6 +269,7 @@ Test PairedProportionsTest() {
   test.parameters = Parameters();
   test.routes = Routes();
   test.unknowns = Unknowns();
+  test.unevenness = UnevennessOf;
   test.conditions = Conditions();
   test.sizeExists = SizeExists();
   test.derived = {
@@ -289,10 +289,6 @@ Test PairedProportionsTest() {
        .label = "second kind of discordant pairs",
        .needs = {"proportion1", "proportion2", "correlation"},
        .call = [](const Inputs& in) { return PairsOf(in).p21; }},
-      {.name = "lasting-n",
-       .label = "from here on every sample size reaches the power",
-       .needs = {"p12", "p21", "exact", "power"},
-       .call = LastingSize},
   };
   test.assumptions = {{.name = "tails",
                        .label = "tails of the test",

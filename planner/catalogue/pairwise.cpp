@@ -3,6 +3,7 @@
 
 #include "anova/contrast.h"
 #include "catalogue/axes.h"
+#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/mean_parameters.h"
@@ -127,30 +128,6 @@ std::vector<Condition> Conditions() {
   };
 }
 
-std::vector<Chart> Charts() {
-  const Names needs{"pair", "means", "sd", "n"};
-  const Names accepts{"groups", "adjust"};
-  const Axis size = TotalSizeAxis();
-  const Axis sd = WithinSdAxis();
-  return {
-      {.name = "n",
-       .axes = {size},
-       .needs = needs,
-       .accepts = accepts,
-       .example = "pairwise --pair 1,3 --means 10,12,15 --sd 6 --n 20 --chart n"},
-      {.name = "sd",
-       .axes = {sd},
-       .needs = needs,
-       .accepts = accepts,
-       .example = "pairwise --pair 1,3 --means 10,12,15 --sd 6 --n 20 --chart sd --from 2 --to 12"},
-      {.name = "n-sd",
-       .axes = {size, sd},
-       .needs = needs,
-       .accepts = accepts,
-       .example = "pairwise --pair 1,3 --means 10,12,15 --sd 6 --n 20 --chart n-sd --from 12,2 --to 150,12"},
-  };
-}
-
 }  // namespace
 
 Test PairwiseTest() {
@@ -179,7 +156,7 @@ Test PairwiseTest() {
                           .label = "significance level of the comparison",
                           .needs = {"adjust"},
                           .call = Level});
-  test.charts = Charts();
+  test.charts = ChartsOfPairwise();
   AddWordsOfPairwise(test);
   return WithCommonParameters(std::move(test));
 }

@@ -1,5 +1,5 @@
 #include "catalogue/details.h"
-#include "regression/f_test.h"
+#include "regression/test_of_predictors.h"
 
 namespace planner {
 namespace {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/tests.h"
@@ -31,6 +32,15 @@ double SecondProportion(const Inputs& in) {
   if (in.Has("risk-difference")) return first + in.Number("risk-difference");
   if (in.Has("risk-ratio")) return first * in.Number("risk-ratio");
   return SecondOfOddsRatio(first, in.Number("odds-ratio"));
+}
+
+kelpower::proportions::IndependentDesign DesignOf(const Inputs& in) {
+  return {TestOf(in),       IsExact(in), in.Flag("one-sided"), in.Alpha(), in.Flag("correction"),
+          in.Flag("pooled")};
+}
+
+kelpower::proportions::IndependentSizes WantedOf(const Inputs& in) {
+  return {FirstProportion(in), SecondProportion(in), in.Number("ratio")};
 }
 
 double RiskDifference(const Inputs& in) { return SecondProportion(in) - FirstProportion(in); }
@@ -170,6 +180,10 @@ Test TwoProportionsTest() {
   test.parameters = ParametersOfTwoProportions();
   test.routes = RoutesOfTwoProportions();
   test.unknowns = UnknownsOfTwoProportions();
+  test.unevenness = [](const Inputs& in) {
+    if (IsConditional(in)) return Unevenness::UnevenAndSlow;
+    return in.Flag("exact") ? Unevenness::Uneven : Unevenness::Even;
+  };
   test.conditions = ConditionsOfTwoProportions();
   test.sizeExists = SizeExistsForTwoProportions();
   test.derived = DerivedFigures();

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "catalogue/axes.h"
+#include "catalogue/charts.h"
 #include "catalogue/two_groups.h"
 #include "catalogue/two_proportions.h"
 
@@ -12,7 +13,7 @@ namespace {
 
 constexpr double mostObservations = 1e9;
 
-// Steps of an exact test take a few nanoseconds each; so many take a second or so.
+// A step of an exact test takes a few nanoseconds, so that this many take a second or so.
 constexpr double usualSteps = 3e8;
 
 /// About how many steps a power takes: the conditional test goes over tables, the other exact ones over rows.
@@ -28,8 +29,8 @@ double Size2(const Inputs& in) { return in.List("n")[1]; }
 
 Range AllowedSizes(const Inputs& in) { return {2, IsExact(in) ? largestExactGroup : mostObservations}; }
 
-/// How far the usual range of sizes goes at most: so far that 250 of them are drawn, and that an exact test takes a
-/// second or so.
+/// How far the usual range of sizes goes at most. At this distance 250 sizes are drawn, and an exact test takes a second
+/// or so.
 double Reach(const Inputs& in) {
   constexpr double farthest = 1245;
   constexpr double nearest = 2;

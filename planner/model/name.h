@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_NAME_H
+#define KELPOWER_PLANNER_MODEL_NAME_H
 
 #include <algorithm>
 #include <iterator>
@@ -78,6 +79,7 @@ private:
       "sd-difference",
       "sds",
       "solve",
+      "stable",
       "step",
       "test",
       "test-value",
@@ -112,3 +114,5 @@ inline bool Contains(const Names& names, Name name) {
 }
 
 }  // namespace planner
+
+#endif

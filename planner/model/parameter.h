@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_PARAMETER_H
+#define KELPOWER_PLANNER_MODEL_PARAMETER_H
 
 #include <cstddef>
 #include <limits>
@@ -77,3 +78,5 @@ Parameter List(Name name, std::string label, std::string meaning);
 Parameter PerGroup(Name name, std::string label, std::string meaning);
 
 }  // namespace planner
+
+#endif

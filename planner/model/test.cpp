@@ -67,6 +67,12 @@ Test WithCommonParameters(Test test) {
           .Default(0.05));
   AddUnknownLevels(test);
   AddParametersOfUnknowns(test);
+  if (test.unevenness) {
+    test.parameters.push_back(
+        Flag("stable", "stable size",
+             "of an exact test: the size from which on all reach the power, in place of the first")
+            .ShownOnlySet());
+  }
   return test;
 }
 

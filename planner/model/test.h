@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_TEST_H
+#define KELPOWER_PLANNER_MODEL_TEST_H
 
 #include <optional>
 #include <string>
@@ -64,6 +65,10 @@ struct Example {
   std::string sentence;
 };
 
+/// Whether the power of a design is a sawtooth in its sizes, and not smooth in its effect either, as that of an exact
+/// test is; and whether it takes so long that not too many sizes should be tried.
+enum class Unevenness { Even, Uneven, UnevenAndSlow };
+
 /// How many groups a test has when its inputs tell.
 constexpr int groupsFromInputs = 0;
 
@@ -77,6 +82,7 @@ struct Test {
   std::vector<Parameter> parameters = {};
   std::vector<Route> routes = {};
   std::vector<Unknown> unknowns = {};  // the first that a design lacks is solved for unless the user names one
+  Unevenness (*unevenness)(const Inputs&) = nullptr;  // null: even
   std::vector<Condition> conditions = {};
   std::vector<Condition> sizeExists = {};  // when one fails no sample size reaches a power
   std::vector<Derived> derived = {};
@@ -92,7 +98,8 @@ struct Test {
 };
 
 /// The test with the parameters that every test has: `alpha`; `power`, `half-width` and `interval` as its routes answer
-/// the questions they ask; `solve` and `below` as it has unknowns. The level is an unknown of every test.
+/// the questions they ask; `solve` and `below` as it has unknowns; `stable` where a power may be uneven. The level is an unknown of every
+/// test.
 Test WithCommonParameters(Test test);
 
 /// The parameter of that name, or null.
@@ -105,3 +112,5 @@ const Parameter* FindParameter(const Test& test, std::string_view name);
 bool Answers(const Test& test, Question question);
 
 }  // namespace planner
+
+#endif

@@ -179,8 +179,7 @@ Way WayOf(const Unknown& unknown, const Parameter& parameter, const Inputs& inpu
 }  // namespace
 
 UnknownSearch FindUnknown(const Unknown& unknown, const Parameter& parameter, const Inputs& inputs, double target,
-                          kelpower::FunctionView<double(double)> valueAt) {
-  const bool isUneven = unknown.isUneven && unknown.isUneven(inputs);
+                          bool isUneven, kelpower::FunctionView<double(double)> valueAt) {
   return Search(unknown, target, valueAt).Along(WayOf(unknown, parameter, inputs), isUneven);
 }
 

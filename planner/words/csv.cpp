@@ -37,7 +37,7 @@ std::string RenderCsv(const Report& report) {
     names += ',' + CsvField(name);
     values += ',' + CsvField(value);
   };
-  // An input and a result may share a name: the power that is asked for and the one that is reached.
+  // An input and a result may share a name, such as the wanted power and the one that is reached.
   const auto isResult = [&](const std::string& name) {
     return std::any_of(report.results.begin(), report.results.end(),
                        [&](const Entry& result) { return result.name == name; });

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_PARSE_H
+#define KELPOWER_PLANNER_WORDS_PARSE_H
 
 #include <string>
 #include <string_view>
@@ -17,3 +18,5 @@ std::string Allowed(const Parameter& parameter);
 Value Parse(const Parameter& parameter, std::string_view text);
 
 }  // namespace planner
+
+#endif

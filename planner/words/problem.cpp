@@ -70,15 +70,15 @@ private:
 };
 
 std::string Words::Incomplete() const {
-  std::string text = fmt::format("Also give {} to be told {}", Ways(", or ", ", or "), Wording(*problem_.question));
+  std::string text = fmt::format("Also give {} for {}", Ways(", or ", ", or "), Wording(*problem_.question));
   if (!problem_.inputs.empty()) {
-    text += fmt::format("; to be told the sample size, give {} in place of {}", Input(0), Input(1));
+    text += fmt::format("; for the sample size, give {} in place of {}", Input(0), Input(1));
   }
   return text + ".";
 }
 
 std::string Words::GroupsDisagree() const {
-  return fmt::format("{} tells {} groups, but {} tells {}.", Input(0), Figure(0), Input(1), Figure(1));
+  return fmt::format("{} gives {} groups, but {} gives {}.", Input(0), Figure(0), Input(1), Figure(1));
 }
 
 std::string Words::WrongLength() const {
@@ -203,9 +203,9 @@ std::string Words::Sentence() const {
     case Code::Incomplete: return Incomplete();
     case Code::GroupsDisagree: return GroupsDisagree();
     case Code::GroupsUnknown: return fmt::format("The number of groups is not known: give {}.", Input(0));
-    case Code::TooFewGroups: return fmt::format("{} tells 1 group, but must tell at least 2.", Input(0));
+    case Code::TooFewGroups: return fmt::format("{} gives 1 group, but must give at least 2.", Input(0));
     case Code::TooManyGroups:
-      return fmt::format("{} tells {} groups, but at most {} are allowed.", Input(0), Figure(0), Figure(1));
+      return fmt::format("{} gives {} groups, but at most {} are allowed.", Input(0), Figure(0), Figure(1));
     case Code::WrongLength: return WrongLength();
     case Code::SolvedForIsGiven: return fmt::format("{} is given, so {} cannot ask for it.", Input(0), Input(1));
     case Code::NotSolvedFor: return fmt::format("{} cannot be solved for with {}.", Input(0), Input(1));

@@ -21,7 +21,7 @@ std::string ShownPower(double power) {
 
 std::string ShownHalfWidth(double halfWidth) { return fmt::format("{:.4g}", halfWidth); }
 
-/// The sizes with no more digits than are worth reading: four where there are too many observations to count.
+/// The sizes in digits worth reading: all, or four where there are too many observations to count.
 Numbers Readable(Numbers sizes) {
   constexpr double largestCounted = 1e15;
   for (double& size : sizes) {
@@ -195,6 +195,12 @@ std::vector<Entry> ResultEntries(const Answer& answer) {
     const double total = Total(answer.sizes);
     entries.push_back({"total", "total sample size", total, Readable(total)});
   }
+  if (!answer.lastingSizes.empty()) {
+    const bool isOne = answer.lastingSizes.size() == 1;
+    const Value value = isOne ? Value(answer.lastingSizes.front()) : Value(answer.lastingSizes);
+    entries.push_back({isOne ? "lasting-n" : "lasting-sizes", "from here on every sample size reaches the power", value,
+                       Listed(Readable(answer.lastingSizes))});
+  }
   const std::string suffix = answer.SizesFound() ? " at these sizes" : "";
   if (IsAboutPower(answer.Asked())) {
     entries.push_back({"power", "power" + suffix, answer.value, ShownPower(answer.value)});
@@ -211,17 +217,12 @@ std::string SentenceOf(const Test& test, Question question) {
   return "";
 }
 
-std::string Wording(Note note) {
-  switch (note) {
-    case Note::TargetMissedSlightly: return "At the sizes rounded to whole numbers the target is missed slightly.";
-  }
-  return "";
-}
-
-std::string WordingOf(const std::vector<Note>& notes) {
-  std::vector<std::string> sentences;
-  for (Note note : notes) sentences.push_back(Wording(note));
-  return Joined(sentences, " ", " ");
+/// What an uneven power asks to be said of the sizes found.
+std::string NoteOn(const Answer& answer) {
+  if (answer.lastingSizes.empty()) return "";
+  const std::string lasting = SizesInSentence(*answer.test, answer.lastingSizes);
+  if (answer.lastingSizes == answer.sizes) return "All larger sample sizes reach it too.";
+  return fmt::format("Some larger sample sizes do not reach it; all do from {} on.", lasting);
 }
 
 /// What is odd about a level or a power, as percentages and slips of the pen make it.
@@ -251,7 +252,7 @@ Report MakeReport(const Answer& answer) {
           .assumptions = AssumptionEntries(answer),
           .results = ResultEntries(answer),
           .sentence = Words(answer).Of(SentenceOf(*answer.test, answer.Asked())),
-          .note = BothNotes(WordingOf(answer.notes), OddLevels(answer))};
+          .note = BothNotes(NoteOn(answer), OddLevels(answer))};
 }
 
 }  // namespace planner

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_REPORT_H
+#define KELPOWER_PLANNER_WORDS_REPORT_H
 
 #include <optional>
 #include <string>
@@ -34,3 +35,5 @@ struct Report {
 Report MakeReport(const Answer& answer);
 
 }  // namespace planner
+
+#endif

@@ -10,6 +10,7 @@
 #include "frame/increasing_search.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "proportions/exact_search.h"
+#include "proportions/running_mass.h"
 
 namespace kelpower::proportions {
 
@@ -38,48 +39,6 @@ PairRange LikelyPairs(double size, double discordant) {
   const double reach = third + std::sqrt(third * third + 2 * negligible * variance);
   return {std::max(1.0, std::floor(mean - reach)), std::min(std::floor(size), std::ceil(mean + reach))};
 }
-
-/// P(count) of a binomial count, kept up to date by recurrence while the count moves away from the mode.
-class RunningMass {
-public:
-  RunningMass(double size, double p, double count) : size_(size), p_(p), odds_(p / (1 - p)), count_(count) {
-    Evaluate();
-  }
-
-  double Value() const { return mass_; }
-
-  void RaiseCount() {
-    mass_ *= (size_ - count_) / (count_ + 1) * odds_;
-    count_ += 1;
-    CountStep();
-  }
-
-  void LowerCount() {
-    mass_ *= count_ / (size_ - count_ + 1) / odds_;
-    count_ -= 1;
-    CountStep();
-  }
-
-private:
-  static constexpr int stepsPerEvaluation = 64;  // the recurrence then stays within 1e-14
-
-  void CountStep() {
-    if (++stepsSinceEvaluation_ == stepsPerEvaluation) Evaluate();
-  }
-
-  void Evaluate() {
-    long error = 0;
-    mass_ = KelDistFun::PdfBin(count_, size_, p_, error);
-    stepsSinceEvaluation_ = 0;
-  }
-
-  double size_;
-  double p_;
-  double odds_;
-  double count_;
-  double mass_ = 0;
-  int stepsSinceEvaluation_ = 0;
-};
 
 /// The probabilities of from, ..., to discordant pairs. Starts at the mode, where they are most accurate, and because
 /// from a mass that has underflowed the recurrence could not rise again.

@@ -279,10 +279,7 @@ TEST(Chart, MarginalProportionsHaveAPowerWhereverTheirCorrelationCanBe) {
 }
 
 TEST(Chart, StopsOnRequest) {
-  class Always : public StopRequest {
-  public:
-    bool ShouldStop() override { return true; }
-  } stop;
+  CountingStop stop(1);
   EXPECT_THROW(ComputeChart(*FindTest("anova"), Named("n"), design, &stop), Stopped);
 }
 

@@ -78,11 +78,11 @@ TEST(Solve, FlagsThatAreNotSetAskNothing) {
 
 TEST(Solve, RefusesInputsThatDisagree) {
   EXPECT_EQ(Complaint<InputError>("anova", {{"means", means}, {"sd", 6.0}, {"n", Numbers{20, 20}}}),
-            "--n tells 2 groups, but --means tells 3.");
+            "--n gives 2 groups, but --means gives 3.");
   EXPECT_EQ(Complaint<InputError>("anova", {{"effect-f", 0.2}, {"n", Numbers{20}}}),
             "The number of groups is not known: give --groups.");
   EXPECT_EQ(Complaint<InputError>("anova", {{"means", Numbers{1}}, {"sd", 6.0}, {"n", Numbers{20}}}),
-            "--means tells 1 group, but must tell at least 2.");
+            "--means gives 1 group, but must give at least 2.");
   EXPECT_EQ(Complaint<InputError>("anova", {{"mean", 1.0}}), "--mean is not an option of anova.");
 }
 
@@ -209,24 +209,6 @@ TEST(Render, ReportsANote) {
   EXPECT_EQ(nlohmann::json::parse(RenderJson(report))["note"], report.note);
 }
 
-class Request : public StopRequest {
-public:
-  explicit Request(int questionsBeforeStop) : left_(questionsBeforeStop) {}
-  bool ShouldStop() override { return --left_ < 0; }
-
-private:
-  int left_;
-};
-
-class Counter : public StopRequest {
-public:
-  bool ShouldStop() override {
-    ++count;
-    return false;
-  }
-  int count = 0;
-};
-
 InputValues TwoProportions(const std::string& test, const std::string& name, Value value) {
   return {{"proportions", Numbers{0.5, 0.75}}, {"test", test}, {name, std::move(value)}};
 }
@@ -234,11 +216,11 @@ InputValues TwoProportions(const std::string& test, const std::string& name, Val
 TEST(Solve, StopsOnRequest) {
   const planner::Test& test = *FindTest("two-proportions");
   for (const std::string method : {"z", "conditional"}) {
-    for (const int questions : {0, 1}) {
-      Request request(questions);
+    for (const int question : {1, 2}) {
+      CountingStop request(question);
       EXPECT_THROW(Solved(test, TwoProportions(method, "power", 0.8), &request), Stopped) << method;
     }
-    Request request(0);
+    CountingStop request(1);
     EXPECT_THROW(Solved(test, TwoProportions(method, "n", Numbers{50}), &request), Stopped) << method;
   }
 }
@@ -247,24 +229,24 @@ TEST(Solve, StopsOnRequest) {
 TEST(Solve, StopsLateInASearch) {
   const planner::Test& test = *FindTest("two-proportions");
   const InputValues search = TwoProportions("conditional", "power", 0.8);
-  Counter counter;
+  CountingStop counter;
   const Report answer = Solved(test, search, &counter);
-  ASSERT_GT(counter.count, 1000);
+  ASSERT_GT(counter.asked, 1000);
   for (const int left : {1, 2, 100, 1000}) {
-    Request request(counter.count - left);
+    CountingStop request(counter.asked - left + 1);
     EXPECT_THROW(Solved(test, search, &request), Stopped) << left;
   }
-  Request request(counter.count);
+  CountingStop request(counter.asked + 1);
   EXPECT_EQ(Solved(test, search, &request).sentence, answer.sentence);
 }
 
 // Asking at every table would take the exact z test hundreds of times as long as its power.
 TEST(Solve, AsksOnlyWhereThatCostsLittle) {
-  Counter counter;
+  CountingStop counter;
   InputValues exact = TwoProportions("z", "n", Numbers{400});
   exact["exact"] = true;
   Solved(*FindTest("two-proportions"), exact, &counter);
-  EXPECT_LT(counter.count, 10);
+  EXPECT_LT(counter.asked, 10);
 }
 
 TEST(Solve, ShowsUncountableSizesInFourDigits) {

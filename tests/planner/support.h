@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_TESTS_PLANNER_SUPPORT_H
+#define KELPOWER_TESTS_PLANNER_SUPPORT_H
 
 #include <gtest/gtest.h>
 
@@ -11,11 +12,14 @@
 #include "solve/chart.h"
 #include "solve/solve.h"
 #include "words/parse.h"
+#include "support/counting_stop.h"
 #include "words/problem.h"
 #include "words/report.h"
 
 // What the tests of the planner share.
 namespace planner {
+
+using CountingStop = keltest::CountingStopOf<StopRequest>;
 
 /// The worded answer.
 inline Report Solved(const Test& test, const InputValues& values, StopRequest* stop = nullptr) {
@@ -44,3 +48,5 @@ inline InputValues ValuesTyped(const Test& test, const std::string& arguments) {
 }
 
 }  // namespace planner
+
+#endif
