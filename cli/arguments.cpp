@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "catalogue/catalogue.h"
+#include "hints.h"
 #include "nearest.h"
 #include "usage_error.h"
 #include "words/parse.h"
@@ -51,6 +52,8 @@ void AddRun(CLI::App& app) {
 
 void AddTest(CLI::App& app, const Test& test) {
   CLI::App* command = AddCommand(app, test.name);
+  for (const std::string& name : OtherNamesOf(test.name)) command->alias(name);
+  command->add_flag("--explain");
   AddOption(*command, "--chart");
   for (const std::string& name : rangeOptions) AddOption(*command, "--" + name);
   for (const char* name : {"--save", "--jobs"}) AddOption(*command, name);
@@ -177,6 +180,10 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
 
 [[noreturn]] void RejectExtra(const CLI::App& command, const std::string& extra) {
   const std::string option = extra.substr(0, extra.find('='));
+  const planner::Test* test = planner::FindTest(command.get_name());
+  if (const std::string known = test ? HintForOption(*test, option) : ""; !known.empty()) {
+    throw UsageError(fmt::format("\"{}\" is not an option of {}; {}.", option, command.get_name(), known));
+  }
   const std::string nearest = Nearest(option, OptionNames(command));
   const std::string hint = nearest.empty() ? fmt::format("\"kelpower {} --help\" names them", command.get_name())
                                            : fmt::format("did you mean {}?", nearest);
@@ -185,11 +192,25 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
 }
 
 [[noreturn]] void RejectCommand(const std::string& word) {
+  if (const std::string known = HintForTest(word); !known.empty()) {
+    throw UsageError(fmt::format("\"{}\" is not a test; {}.", word, known));
+  }
   std::vector<std::string> names{"list", "run"};
   for (const Test& test : planner::Tests()) names.push_back(test.name);
   const std::string nearest = Nearest(word, names);
   if (!nearest.empty()) throw UsageError(fmt::format("\"{}\" is not a test; did you mean {}?", word, nearest));
   throw UsageError(fmt::format("\"{}\" is not a test; \"kelpower list\" names them.", word));
+}
+
+/// An explanation is of one answer, and takes more room than a row.
+void RejectUnexplainable(const Request& request) {
+  if (request.command == Command::Table && Varying(request.alternatives)) {
+    throw UsageError(
+        fmt::format("{} has several values, but --explain is of one design.", NameOf(*Varying(request.alternatives))));
+  }
+  if (request.format == Format::Csv || request.format == Format::Ndjson) {
+    throw UsageError("--explain does not go with --format csv or ndjson: text, json and markdown have room for it.");
+  }
 }
 
 void ReadTest(const CLI::App& command, Request& request) {
@@ -199,9 +220,13 @@ void ReadTest(const CLI::App& command, Request& request) {
   request.save = FileOf(command, "save");
   const Parameter* varying = Varying(request.alternatives);
   const std::string* chart = TextOf(command, "chart");
+  request.isExplained = FlagOf(command, "explain");
+  if (request.isExplained && chart) throw UsageError("--explain and --chart exclude each other.");
   if (!chart) {
     if (varying || request.format == Format::Ndjson) request.command = Command::Table;
-    return RejectRangeOptions(command);
+    RejectRangeOptions(command);
+    if (request.isExplained) RejectUnexplainable(request);
+    return;
   }
   if (varying) throw UsageError(fmt::format("{} has several values, but a chart is of one design.", NameOf(*varying)));
   if (!request.save.empty()) throw UsageError("--save has no use together with --chart.");

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_ARGUMENTS_H
+#define KELPOWER_CLI_ARGUMENTS_H
 
 #include <optional>
 #include <string>
@@ -19,6 +20,7 @@ struct Request {
   const planner::Test* test = nullptr;  // of TestHelp, Solve, Table and Chart; of Run where it is named
   planner::InputValues values;          // of Solve and Chart
   std::vector<planner::Alternatives> alternatives = {};  // of Table, in the order of the command line
+  bool isExplained = false;             // of Solve: what is behind the answer is told too
   planner::ChartRequest chart;
   std::string input;   // the file of Run; "-" for the standard input
   std::string output;  // the file of a chart or of Run; empty for the standard output
@@ -29,3 +31,5 @@ struct Request {
 
 /// Reads the command line; throws a UsageError or a planner::InputError when it is wrong.
 Request ParseArguments(int argc, const char* const* argv);
+
+#endif

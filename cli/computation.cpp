@@ -27,7 +27,8 @@ bool Computation::ShouldStop() {
   return false;
 }
 
-// The library does not say how much is left, nor does it know in a search: only the time spent is told.
+// Only the time spent is shown. How much is left the library does not say, and in a search it does not know. The line
+// fits a terminal of forty columns, so that it can be overwritten.
 void Computation::LookAtTheClock() {
   questionsLeft_ = questionsPerLook;
   if (!line_.IsShown()) return;

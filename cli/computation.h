@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_COMPUTATION_H
+#define KELPOWER_CLI_COMPUTATION_H
 
 #include <chrono>
 #include <cstdint>
@@ -8,8 +9,8 @@
 #include "status_line.h"
 
 /// A computation that may take long. While it lives, Ctrl-C makes it answer that the library should stop, and a second
-/// Ctrl-C ends the program at once. Where the error stream is a terminal, a line tells how long it has been going on;
-/// it is gone when the computation is.
+/// Ctrl-C ends the program at once. Where the error stream is a terminal, a line shows how long it has been going on.
+/// The line goes when the computation ends.
 class Computation : public planner::StopRequest {
 public:
   /// `what` is computed, in few words: "the sample size".
@@ -31,3 +32,5 @@ private:
   Clock::time_point start_ = Clock::now();
   Clock::time_point nextLine_;
 };
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_HELP_H
+#define KELPOWER_CLI_HELP_H
 
 #include <string>
 
@@ -16,3 +17,5 @@ std::string HelpOfRun(const planner::Highlights& highlights = {});
 
 /// The tests that there are, one a line.
 std::string ListOfTests(const planner::Highlights& highlights = {});
+
+#endif

@@ -52,7 +52,10 @@ std::string List(Format format, const planner::Highlights& highlights) {
 planner::Report Solved(const Request& request) {
   const bool findsSizes = request.values.count("power") + request.values.count("half-width") > 0;
   Computation computation(findsSizes ? "the sample size" : "the answer");
-  return planner::MakeReport(planner::Solve(*request.test, request.values, &computation));
+  const planner::Answer answer = planner::Solve(*request.test, request.values, &computation);
+  planner::Report report = planner::MakeReport(answer);
+  if (request.isExplained) report.explanation = planner::Explain(answer);
+  return report;
 }
 
 std::string Answer(const Request& request, const planner::Highlights& highlights) {

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_TERMINAL_H
+#define KELPOWER_CLI_TERMINAL_H
 
 #include <cstdio>
 
@@ -31,3 +32,5 @@ bool ShowsColors(std::FILE* stream);
 
 /// The columns and lines that the terminal of `stream` shows, 0 where they are not known.
 TerminalSize WindowOf(std::FILE* stream);
+
+#endif

@@ -1,5 +1,8 @@
+#include <cmath>
+
 #include "anova/overall.h"
 #include "catalogue/axes.h"
+#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/tests.h"
@@ -10,16 +13,6 @@ namespace planner {
 namespace {
 
 namespace anova = kelpower::anova;
-
-Parameter EffectF() {
-  return Number("effect-f", "effect size f", "standard deviation of the group means over that within the groups")
-      .AtLeast(0)
-      .AtMost(1e6);
-}
-
-Parameter EtaSquared() {
-  return Number("eta-squared", "eta squared", "proportion of variance explained by the groups").AtLeast(0).Below(1);
-}
 
 double PowerOfMeans(const Inputs& in) {
   const auto spread = anova::GroupSpread::Of(in.List("means"), in.List("n"));
@@ -33,6 +26,16 @@ anova::EffectSize EffectOf(const Inputs& in) {
 
 double PowerOfEffect(const Inputs& in) {
   return OrNaN(anova::PowerOfEffect(EffectOf(in), in.Groups(), TotalSize(in), in.Alpha()));
+}
+
+/// With the groups weighted by their shares (Cohen 1988, formula 8.2.1 and section 8.2.3).
+double EffectFOfMeans(const Inputs& in) {
+  return std::sqrt(anova::GroupSpread::Of(in.List("means"), in.Weights()).Noncentrality(in.Number("sd"), 1));
+}
+
+double EtaSquaredOfMeans(const Inputs& in) {
+  const double f = EffectFOfMeans(in);
+  return f * f / (1 + f * f);
 }
 
 Numbers SizesOfMeans(const Inputs& in) {
@@ -126,71 +129,6 @@ std::vector<Condition> SizeExists() {
   };
 }
 
-/// At an eta squared of 1 there is no test.
-Axis EtaSquaredAxis() {
-  Axis axis = ParameterAxis(EtaSquared(), "eta squared", [](const Inputs&, double) -> Range { return {0, 1}; });
-  axis.scale = [](const Inputs&) -> Range { return {0, 1}; };
-  axis.scaleEnds = ScaleEnds::First;
-  return axis;
-}
-
-std::vector<Chart> Charts() {
-  const Axis size = TotalSizeAxis();
-  const Axis sd = WithinSdAxis();
-  const Axis f = ParameterAxis(EffectF(), "f", [](const Inputs&, double) -> Range { return {0, 2}; });
-  const Axis eta = EtaSquaredAxis();
-  return {
-      {.name = "n",
-       .axes = {size},
-       .needs = {"means", "sd", "n"},
-       .accepts = {"groups"},
-       .example = "anova --means 10,12,15 --sd 6 --n 20,20,20 --chart n"},
-      {.name = "n",
-       .axes = {size},
-       .needs = {"effect-f", "n"},
-       .accepts = {"groups"},
-       .example = "anova --effect-f 0.25 --n 30,30,40 --chart n --from 30 --to 300"},
-      {.name = "n",
-       .axes = {size},
-       .needs = {"eta-squared", "n"},
-       .accepts = {"groups"},
-       .example = "anova --eta-squared 0.06 --n 30 --groups 4 --chart n",
-       .isAnotherWay = true},
-      {.name = "effect",
-       .axes = {f},
-       .needs = {"effect-f", "n"},
-       .accepts = {"groups"},
-       .example = "anova --effect-f 0.25 --n 30,30,40 --chart effect --from 0 --to 1"},
-      {.name = "effect",
-       .axes = {eta},
-       .needs = {"eta-squared", "n"},
-       .accepts = {"groups"},
-       .example = "anova --eta-squared 0.06 --n 30 --groups 4 --chart effect",
-       .isAnotherWay = true},
-      {.name = "sd",
-       .axes = {sd},
-       .needs = {"means", "sd", "n"},
-       .accepts = {"groups"},
-       .example = "anova --means 10,12,15 --sd 6 --n 20,20,20 --chart sd --from 2 --to 12"},
-      {.name = "n-sd",
-       .axes = {size, sd},
-       .needs = {"means", "sd", "n"},
-       .accepts = {"groups"},
-       .example = "anova --means 10,12,15 --sd 6 --n 20,20,20 --chart n-sd --from 12,2 --to 150,12"},
-      {.name = "n-effect",
-       .axes = {size, f},
-       .needs = {"effect-f", "n"},
-       .accepts = {"groups"},
-       .example = "anova --effect-f 0.25 --n 30,30,40 --chart n-effect --from 12,0 --to 200,1"},
-      {.name = "n-effect",
-       .axes = {size, eta},
-       .needs = {"eta-squared", "n"},
-       .accepts = {"groups"},
-       .example = "anova --eta-squared 0.06 --n 30 --groups 4 --chart n-effect",
-       .isAnotherWay = true},
-  };
-}
-
 }  // namespace
 
 Test AnovaTest() {
@@ -206,15 +144,10 @@ Test AnovaTest() {
   test.conditions = {ErrorDegrees()};
   test.sizeExists = SizeExists();
   test.derived = {
-      {.name = "rmsse",
-       .label = "root-mean-square standardized effect",
-       .needs = {"means", "sd"},
-       .call =
-           [](const Inputs& in) {
-             return anova::RootMeanSquareEffect(in.List("means"), in.Weights(), in.Number("sd"));
-           }},
+      {.name = "effect-f", .label = "effect size f", .needs = {"means", "sd"}, .call = EffectFOfMeans},
+      {.name = "eta-squared", .label = "eta squared", .needs = {"means", "sd"}, .call = EtaSquaredOfMeans},
   };
-  test.charts = Charts();
+  test.charts = ChartsOfAnova();
   AddWordsOfAnova(test);
   return WithCommonParameters(std::move(test));
 }

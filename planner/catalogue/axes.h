@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_AXES_H
+#define KELPOWER_PLANNER_CATALOGUE_AXES_H
 
 #include <string>
 
@@ -14,7 +15,7 @@ using UsualRange = Range (*)(const Inputs&, double power);
 /// to estimate the standard deviation from.
 Axis TotalSizeAxis();
 
-/// An axis of the sizes of a single sample, of the size in `n`; `title` says what they count.
+/// An axis of the size of a single sample, the input `n`. `title` says what it counts.
 Axis SizeAxis(std::string title, double smallest, double largest, UsualRange usual);
 
 /// An axis of the parameter's values, with its label and limits.
@@ -42,10 +43,12 @@ Range UpToTwiceSize(const Inputs& in, double power);
 /// From a quarter of the size to twice the size, as far as `allowed` goes.
 Range SizesAround(double size, const Range& allowed);
 
-/// The problem of sizes beyond those allowed for these inputs, if it is one.
+/// The problem that sizes beyond those allowed for these inputs are; none where all are allowed.
 std::optional<Problem> RefuseSizes(const Range& sizes, const Range& allowed);
 
 /// The sum of the sizes in `n`.
 double TotalSize(const Inputs& in);
 
 }  // namespace planner
+
+#endif

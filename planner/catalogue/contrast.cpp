@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "catalogue/axes.h"
+#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/tests.h"
@@ -112,35 +113,6 @@ std::vector<Condition> SizeExists() {
   };
 }
 
-std::vector<Chart> Charts() {
-  const Names ofMeans{"coefficients", "means", "sd", "n"};
-  const Axis size = TotalSizeAxis();
-  const Axis sd = WithinSdAxis();
-  return {
-      {.name = "n",
-       .axes = {size},
-       .needs = ofMeans,
-       .accepts = {"one-sided"},
-       .example = "contrast --coefficients -0.5,-0.5,1 --means 10,12,15 --sd 6 --n 20 --chart n"},
-      {.name = "n",
-       .axes = {WithUsual(size, AroundTotalSize)},
-       .needs = {"coefficients", "effect-d", "n"},
-       .accepts = {"one-sided"},
-       .example = "contrast --coefficients 1,-1,0 --effect-d 0.5 --n 40 --chart n"},
-      {.name = "sd",
-       .axes = {sd},
-       .needs = ofMeans,
-       .accepts = {"one-sided"},
-       .example = "contrast --coefficients -0.5,-0.5,1 --means 10,12,15 --sd 6 --n 20 --chart sd --from 2 --to 12"},
-      {.name = "n-sd",
-       .axes = {size, sd},
-       .needs = ofMeans,
-       .accepts = {"one-sided"},
-       .example =
-           "contrast --coefficients -0.5,-0.5,1 --means 10,12,15 --sd 6 --n 20 --chart n-sd --from 12,2 --to 150,12"},
-  };
-}
-
 std::vector<Parameter> Parameters() {
   return {
       PerGroup("coefficients", "contrast coefficients", "weight of each group's mean; they sum to zero")
@@ -149,6 +121,7 @@ std::vector<Parameter> Parameters() {
       GroupMeans(),
       WithinSd(),
       Number("effect-d", "standardized contrast d", "contrast of the means over the standard deviation")
+          .Alias("d")
           .AtLeast(-1e6)
           .AtMost(1e6),
       GroupSizes(),
@@ -181,7 +154,7 @@ Test ContrastTest() {
        .needs = {"means", "sd", "coefficients"},
        .call = EffectOfMeans},
   };
-  test.charts = Charts();
+  test.charts = ChartsOfContrast();
   AddWordsOfContrast(test);
   return WithCommonParameters(std::move(test));
 }

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_CORRELATION_H
+#define KELPOWER_PLANNER_CATALOGUE_CORRELATION_H
 
 #include <string>
 
@@ -27,12 +28,12 @@ struct CorrelationKind {
   double (*halfWidth)(const Inputs&);
   Numbers (*sizeForHalfWidth)(const Inputs&);
 
-  /// The problem of sizes that the charts cannot draw with these inputs; null: they draw all.
+  /// The problem of sizes that the charts cannot draw with these inputs. Null where they draw all.
   std::optional<Problem> (*refuseSizes)(const Inputs&, const Range&) = nullptr;
 };
 
-/// The description of the test of a correlation: routes, sentences and charts; parameters, conditions and examples are
-/// the caller's to add.
+/// The description of the test of a correlation: routes, sentences and charts. The caller adds parameters, conditions
+/// and examples.
 Test CorrelationTest(const CorrelationKind& kind);
 
 std::vector<Chart> CorrelationCharts(const CorrelationKind& kind);
@@ -42,3 +43,5 @@ Names CorrelationDesign(const CorrelationKind& kind);
 Names CorrelationOptions(const CorrelationKind& kind);
 
 }  // namespace planner
+
+#endif

@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "catalogue/axes.h"
+#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/mean_parameters.h"
 #include "catalogue/tests.h"
@@ -66,33 +67,6 @@ std::vector<Route> Routes() {
   };
 }
 
-std::vector<Chart> Charts() {
-  const Axis size = SizeAxis("sample size (observations)", 2, 1e9, UpToTwiceSize);
-  const Axis effect = EffectDAxis();
-  return {
-      {.name = "n",
-       .axes = {size},
-       .needs = {"mean", "sd", "n"},
-       .accepts = {"test-value", "one-sided"},
-       .example = "mean --mean 104 --test-value 100 --sd 10 --n 40 --chart n"},
-      {.name = "n",
-       .axes = {size},
-       .needs = {"effect-d", "n"},
-       .accepts = {"one-sided"},
-       .example = "mean --effect-d 0.4 --n 40 --chart n"},
-      {.name = "effect",
-       .axes = {effect},
-       .needs = {"effect-d", "n"},
-       .accepts = {"one-sided"},
-       .example = "mean --effect-d 0.4 --n 40 --chart effect --from 0 --to 1"},
-      {.name = "effect-n",
-       .axes = {effect, size},
-       .needs = {"effect-d", "n"},
-       .accepts = {"one-sided"},
-       .example = "mean --effect-d 0.4 --n 40 --one-sided --chart effect-n --from 0,5 --to 1,80"},
-  };
-}
-
 std::vector<Unknown> Unknowns() {
   constexpr double infinity = std::numeric_limits<double>::infinity();
   constexpr const char* reason = "the noncentrality grows with the distance of the mean from the test value";
@@ -149,7 +123,7 @@ Test MeanTest() {
   test.derived = {
       {.name = "effect-d", .label = "effect size d", .needs = {"mean", "test-value", "sd"}, .call = EffectSize},
   };
-  test.charts = Charts();
+  test.charts = ChartsOfMean();
   AddWordsOfMean(test);
   return WithCommonParameters(std::move(test));
 }

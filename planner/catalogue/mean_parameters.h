@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_MEAN_PARAMETERS_H
+#define KELPOWER_PLANNER_CATALOGUE_MEAN_PARAMETERS_H
 
 #include <string>
 
@@ -25,3 +26,5 @@ Condition HasEffectD();
 Axis EffectDAxis();
 
 }  // namespace planner
+
+#endif

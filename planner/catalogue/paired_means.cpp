@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "catalogue/axes.h"
+#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/mean_parameters.h"
 #include "catalogue/tests.h"
@@ -16,7 +17,8 @@ namespace {
 
 namespace means = kelpower::means;
 
-/// Where the spread of the differences is given itself, it is that of a first measurement whose second one has none.
+/// Where the standard deviation of the differences is given, it stands for a first measurement, and the second one has
+/// no spread.
 means::PairedSpread SpreadOf(const Inputs& in) {
   if (in.Has("sd-difference")) return {in.Number("sd-difference"), 0, 0};
   return {in.List("sds")[0], in.List("sds")[1], in.Number("correlation")};
@@ -154,39 +156,6 @@ std::vector<Condition> SizeExists() {
   };
 }
 
-std::vector<Chart> Charts() {
-  const Axis size = SizeAxis("number of pairs", 2, 1e9, UpToTwiceSize);
-  const Axis effect = EffectDAxis();
-  return {
-      {.name = "n",
-       .axes = {size},
-       .needs = {"means", "sds", "correlation", "n"},
-       .accepts = {"one-sided"},
-       .example = "paired-means --means 25,21 --sds 8,7 --correlation 0.6 --n 30 --chart n"},
-      {.name = "n",
-       .axes = {size},
-       .needs = {"mean-difference", "sd-difference", "n"},
-       .accepts = {"one-sided"},
-       .example = "paired-means --mean-difference 4 --sd-difference 8 --n 44 --chart n --from 10 --to 100",
-       .isAnotherWay = true},
-      {.name = "n",
-       .axes = {size},
-       .needs = {"effect-d", "n"},
-       .accepts = {"one-sided"},
-       .example = "paired-means --effect-d 0.4 --n 40 --chart n"},
-      {.name = "effect",
-       .axes = {effect},
-       .needs = {"effect-d", "n"},
-       .accepts = {"one-sided"},
-       .example = "paired-means --effect-d 0.4 --n 40 --chart effect --from 0 --to 1"},
-      {.name = "effect-n",
-       .axes = {effect, size},
-       .needs = {"effect-d", "n"},
-       .accepts = {"one-sided"},
-       .example = "paired-means --effect-d 0.4 --n 40 --one-sided --chart effect-n --from 0,5 --to 1,80"},
-  };
-}
-
 std::vector<Unknown> Unknowns() {
   constexpr const char* spread = "the differences spread less, the closer the two measurements are correlated";
   return {
@@ -221,7 +190,7 @@ Test PairedMeansTest() {
       {.name = "effect-d", .label = "effect size d", .needs = {"means", "sds", "correlation"}, .call = EffectSize},
       {.name = "effect-d", .label = "effect size d", .needs = {"mean-difference", "sd-difference"}, .call = EffectSize},
   };
-  test.charts = Charts();
+  test.charts = ChartsOfPairedMeans();
   AddWordsOfPairedMeans(test);
   return WithCommonParameters(std::move(test));
 }

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "catalogue/axes.h"
-#include "catalogue/paired_proportions.h"
+#include "catalogue/charts.h"
 
 namespace planner {
 namespace {
@@ -16,7 +16,7 @@ double P21(const Inputs& in) { return in.Number("p21"); }
 
 double Odds(double proportion) { return proportion / (1 - proportion); }
 
-/// Up to half of the pairs p12 leaves p21 room to vary; beyond it is p12 that varies.
+/// Up to p12 = 0.5 the ratio varies p21, above it p12.
 bool VariesP21(const Inputs& in) { return P12(in) <= 0.5; }
 
 /// The differences at which p12 leaves p21 between 0 and the rest.
@@ -79,7 +79,7 @@ Axis OddsRatioAxis() {
 
 Range AllCorrelations(const Inputs&) { return {-1, 1}; }
 
-/// At which the rarer success never comes without the other.
+/// The correlation at which the rarer success never comes without the other.
 double LargestCorrelation(const Inputs& in) {
   const double odds1 = Odds(in.Number("proportion1"));
   const double odds2 = Odds(in.Number("proportion2"));

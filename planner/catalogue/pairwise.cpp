@@ -3,6 +3,7 @@
 
 #include "anova/contrast.h"
 #include "catalogue/axes.h"
+#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/mean_parameters.h"
@@ -64,6 +65,7 @@ std::vector<Parameter> Parameters() {
       GroupMeans(),
       WithinSd(),
       Number("effect-d", "standardized difference d", "difference of the two means over the standard deviation")
+          .Alias("d")
           .AtLeast(-1e6)
           .AtMost(1e6),
       GroupSizes(),
@@ -126,30 +128,6 @@ std::vector<Condition> Conditions() {
   };
 }
 
-std::vector<Chart> Charts() {
-  const Names needs{"pair", "means", "sd", "n"};
-  const Names accepts{"groups", "adjust"};
-  const Axis size = TotalSizeAxis();
-  const Axis sd = WithinSdAxis();
-  return {
-      {.name = "n",
-       .axes = {size},
-       .needs = needs,
-       .accepts = accepts,
-       .example = "pairwise --pair 1,3 --means 10,12,15 --sd 6 --n 20 --chart n"},
-      {.name = "sd",
-       .axes = {sd},
-       .needs = needs,
-       .accepts = accepts,
-       .example = "pairwise --pair 1,3 --means 10,12,15 --sd 6 --n 20 --chart sd --from 2 --to 12"},
-      {.name = "n-sd",
-       .axes = {size, sd},
-       .needs = needs,
-       .accepts = accepts,
-       .example = "pairwise --pair 1,3 --means 10,12,15 --sd 6 --n 20 --chart n-sd --from 12,2 --to 150,12"},
-  };
-}
-
 }  // namespace
 
 Test PairwiseTest() {
@@ -174,7 +152,11 @@ Test PairwiseTest() {
        .needs = {"means", "sd", "pair"},
        .call = EffectOfMeans},
   };
-  test.charts = Charts();
+  test.derived.push_back({.name = "level-per-comparison",
+                          .label = "significance level of the comparison",
+                          .needs = {"adjust"},
+                          .call = Level});
+  test.charts = ChartsOfPairwise();
   AddWordsOfPairwise(test);
   return WithCommonParameters(std::move(test));
 }

@@ -45,7 +45,7 @@ std::optional<Problem> RefuseDrawnSizes(const Inputs& in, const Range& sizes) {
   return RefuseSizes(sizes, {SmallestSize(in), PartialledOut(in) + sizesBeyondPartialledOut});
 }
 
-// A point for each case would be more than a chart shows.
+// The chart has a point for each case; beyond this there would be more than it can show.
 constexpr double largestPartialledOutSize = 1e6;
 
 std::optional<Problem> RefuseManyCases(const Inputs& in, const Range&) {

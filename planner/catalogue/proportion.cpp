@@ -3,9 +3,11 @@
 #include <utility>
 
 #include "catalogue/axes.h"
+#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
+#include "frame/counts.h"
 #include "proportions/lasting_size.h"
 #include "proportions/one_sample_interval.h"
 #include "proportions/one_sample_tests.h"
@@ -15,6 +17,8 @@ namespace {
 
 namespace proportions = kelpower::proportions;
 using proportions::OneSampleMethod;
+
+using kelpower::largestCount;
 
 proportions::OneSampleDesign DesignOf(const Inputs& in) {
   return {in.Flag("exact"), in.Flag("one-sided"), in.Alpha(), in.Flag("correction")};
@@ -92,7 +96,8 @@ std::vector<Parameter> Parameters() {
       Number("n", "sample size", "number of observations").Whole().AtLeast(1).AtMost(1e9),
       Flag("exact", "exact test", "exact binomial test in place of the normal approximation"),
       Flag("one-sided", "one-sided test", "test in the direction of the proportion expected only"),
-      Flag("correction", "continuity correction", "correct the normal approximation for continuity"),
+      Flag("correction", "continuity correction", "correct the normal approximation for continuity")
+          .Alias("continuity-correction"),
       OneOf("interval-method", "interval", "confidence interval of the proportion",
             {{"wald", CodeOf(OneSampleMethod::Wald), "Wald"},
              {"adjusted-logit", CodeOf(OneSampleMethod::LogitAdjusted), "adjusted logit"},
@@ -124,8 +129,9 @@ std::vector<Route> Routes() {
        .sizes = Size},
       {.question = Question::SampleSize,
        .needs = {"proportion", "null", "exact"},
-       .accepts = {"one-sided", "power"},
+       .accepts = {"one-sided"},
        .exportName = "PowerReverseOneSampBinom",
+       .lastingSize = LastingSize,
        .sizes = Size},
       {.question = Question::HalfWidth,
        .needs = {"proportion", "n"},
@@ -140,7 +146,7 @@ std::vector<Route> Routes() {
   };
 }
 
-bool IsExact(const Inputs& in) { return in.Flag("exact"); }
+Unevenness UnevennessOf(const Inputs& in) { return in.Flag("exact") ? Unevenness::Uneven : Unevenness::Even; }
 
 std::vector<Unknown> Unknowns() {
   constexpr const char* reason = "the more the proportions differ, the more of the outcomes are in the critical region";
@@ -154,8 +160,7 @@ std::vector<Unknown> Unknowns() {
        },
        .pieceBelow = [](const Inputs& in) -> Piece {
          return {0, in.Number("null")};
-       },
-       .isUneven = IsExact},
+       }},
       {.input = "null",
        .target = Question::Power,
        .trend = Trend::Falls,
@@ -165,8 +170,7 @@ std::vector<Unknown> Unknowns() {
        },
        .pieceBelow = [](const Inputs& in) -> Piece {
          return {in.Number("proportion"), 1};
-       },
-       .isUneven = IsExact},
+       }},
   };
 }
 
@@ -180,58 +184,6 @@ std::vector<Condition> Conditions() {
        .about = {"exact", "correction"},
        .holds = [](const Inputs& in) { return !in.Flag("exact") || !in.Flag("correction"); },
        .sentence = "{exact} and {correction} exclude each other."},
-  };
-}
-
-constexpr double mostCharted = 5000;  // observations
-
-Range UsualSizes(const Inputs& in, double) { return {2, std::min(std::max(4.0, 2 * in.Number("n")), mostCharted)}; }
-
-/// All sizes where those around the design would reach too far.
-Range UsualSizesOfSurface(const Inputs& in, double power) {
-  return 2 * in.Number("n") <= mostCharted ? AroundSizeByPower(in, power) : Range{2, mostCharted};
-}
-
-/// The differences that the null proportion leaves.
-Range AllDifferences(const Inputs& in) { return {-in.Number("null"), 1 - in.Number("null")}; }
-
-Axis DifferenceAxis() {
-  return {.title = "difference of the proportions (expected minus null)",
-          .symbol = "difference",
-          .limits = {-1, 1, true, true, false},
-          .design = [](const Inputs& in) { return in.Number("proportion") - in.Number("null"); },
-          .vary = [](Inputs& in, const Inputs& design, double at) { in.Set("proportion", at + design.Number("null")); },
-          .usual = [](const Inputs&, double) -> Range {
-            return {-1, 1};
-          },
-          .scale = AllDifferences,
-          .scaleEnds = ScaleEnds::None,
-          .stepIsOfScale = true};
-}
-
-std::vector<Chart> Charts() {
-  const Axis size = SizeAxis("sample size (observations)", 2, mostCharted, UsualSizes);
-  const Axis sizeOfSurface = WithUsual(size, UsualSizesOfSurface);
-  const Axis proportion = ProportionAxis("proportion", "p", "proportion");
-  const Axis null = ProportionAxis("null proportion", "p0", "null");
-  const Axis difference = DifferenceAxis();
-  const std::string design = "proportion --proportion 0.65 --null 0.5 --n 60 ";
-  const auto chart = [&](const std::string& name, std::vector<Axis> axes, const std::string& options) -> Chart {
-    return {.name = name,
-            .axes = std::move(axes),
-            .needs = {"proportion", "null", "n"},
-            .accepts = {"one-sided", "exact", "correction"},
-            .example = design + options};
-  };
-  return {
-      chart("n", {size}, "--exact --chart n"),
-      chart("null", {null}, "--chart null --from 0.3 --to 0.7"),
-      chart("alternative", {proportion}, "--chart alternative"),
-      chart("difference", {difference}, "--chart difference"),
-      chart("n-difference", {sizeOfSurface, difference}, "--chart n-difference"),
-      chart("n-null", {sizeOfSurface, null}, "--chart n-null --from 20,0.3 --to 120,0.7"),
-      chart("n-alternative", {sizeOfSurface, proportion}, "--chart n-alternative --step 0.1"),
-      chart("null-alternative", {null, proportion}, "--chart null-alternative --step 0.05"),
   };
 }
 
@@ -249,10 +201,6 @@ std::vector<Derived> DerivedFigures() {
        .label = "significance level attained",
        .needs = {"proportion", "null", "n", "exact"},
        .call = AttainedLevel},
-      {.name = "lasting-n",
-       .label = "from here on every sample size reaches the power",
-       .needs = {"proportion", "null", "exact", "power"},
-       .call = LastingSize},
   };
 }
 
@@ -265,6 +213,7 @@ Test ProportionTest() {
   test.parameters = Parameters();
   test.routes = Routes();
   test.unknowns = Unknowns();
+  test.unevenness = UnevennessOf;
   test.conditions = Conditions();
   test.sizeExists = {
       {.code = "no-effect",
@@ -274,7 +223,16 @@ Test ProportionTest() {
            "The proportion expected is the null proportion: without an effect, no sample size reaches the power."},
   };
   test.derived = DerivedFigures();
-  test.charts = Charts();
+  test.assumptions = {{.name = "tails",
+                       .label = "tails of the test",
+                       .needs = {"exact", "one-sided"},
+                       .call = [](const Inputs& in) -> std::string {
+                         if (!in.Flag("exact") || in.Flag("one-sided")) return "";
+                         return "at most half of the level in each tail";
+                       },
+                       .wording = ", with <0>,"}};
+  test.largestExactSearch = largestCount;
+  test.charts = ChartsOfProportion();
   AddWordsOfProportion(test);
   return WithCommonParameters(std::move(test));
 }

@@ -1,29 +1,24 @@
+#include "catalogue/regression.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 #include "catalogue/axes.h"
+#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/correlation_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/unknowns.h"
 #include "catalogue/words.h"
-#include "regression/f_test.h"
+#include "regression/test_of_predictors.h"
 
 namespace planner {
 namespace {
 
 namespace regression = kelpower::regression;
 
-constexpr double mostPredictors = 1e5;
-
-double Predictors(const Inputs& in) { return in.Number("predictors"); }
-
 double Tested(const Inputs& in) { return in.Has("tested") ? in.Number("tested") : Predictors(in); }
-
-bool Intercept(const Inputs& in) { return !in.Flag("no-intercept"); }
-
-double SmallestSize(const Inputs& in) { return Predictors(in) + (Intercept(in) ? 2 : 1); }
 
 double Reduced(const Inputs& in) { return in.Has("r-squared-reduced") ? in.Number("r-squared-reduced") : 0; }
 
@@ -52,6 +47,7 @@ std::vector<Parameter> Parameters() {
           .AtLeast(0)
           .Below(1),
       Number("effect-f2", "effect size f2", "variance explained by the tested predictors over the unexplained one")
+          .Alias("f2")
           .AtLeast(0)
           .AtMost(1e3),
       Number("predictors", "predictors", "number of predictors in the model").Whole().AtLeast(1).AtMost(mostPredictors),
@@ -151,81 +147,6 @@ std::vector<Condition> SizeExists() {
   };
 }
 
-constexpr double sizesBeyondPredictors = 5000;
-
-Range DrawnSizes(const Inputs& in) { return {SmallestSize(in), Predictors(in) + sizesBeyondPredictors}; }
-
-Axis CaseAxis() {
-  Axis axis = SizeAxis("sample size (cases)", 2, mostPredictors + sizesBeyondPredictors,
-                       [](const Inputs& in, double) { return SizesAround(in.Number("n"), DrawnSizes(in)); });
-  axis.refuse = [](const Inputs& in, const Range& sizes) { return RefuseSizes(sizes, DrawnSizes(in)); };
-  return axis;
-}
-
-Range ZeroToOne(const Inputs&) { return {0, 1}; }
-
-Axis EffectAxis() {
-  return {.title = "effect size f2",
-          .symbol = "f2",
-          .limits = {0, 1, true, true, false},
-          .input = Name("effect-f2"),
-          .usual = [](const Inputs& in, double) { return ZeroToOne(in); },
-          .scale = ZeroToOne,
-          .scaleEnds = ScaleEnds::None};
-}
-
-/// The power is the same for R and -R, so that the usual range leaves out the negative ones.
-Axis CorrelationAxis() {
-  return {.title = "multiple correlation R",
-          .symbol = "R",
-          .limits = {-1, 1, true, true, false},
-          .design = [](const Inputs& in) { return std::sqrt(in.Number("r-squared")); },
-          .vary = [](Inputs& in, const Inputs&, double at) { in.Set("r-squared", at * at); },
-          .usual = [](const Inputs& in, double) { return ZeroToOne(in); },
-          .scale = [](const Inputs&) -> Range {
-            return {-1, 1};
-          },
-          .scaleEnds = ScaleEnds::None};
-}
-
-std::vector<Chart> Charts() {
-  const Names ofEffect{"effect-f2", "predictors", "n"};
-  const Names ofFit{"r-squared", "predictors", "n"};
-  const Names options{"tested", "random", "no-intercept"};
-  return {
-      {.name = "n",
-       .axes = {CaseAxis()},
-       .needs = ofFit,
-       .accepts = {"r-squared-reduced", "tested", "random", "no-intercept"},
-       .example = "regression --r-squared 0.3 --r-squared-reduced 0.2 --predictors 5 --tested 2 --n 80 --chart n"},
-      {.name = "n",
-       .axes = {CaseAxis()},
-       .needs = ofEffect,
-       .accepts = options,
-       .example = "regression --effect-f2 0.15 --predictors 5 --n 80 --random --chart n"},
-      {.name = "effect",
-       .axes = {EffectAxis()},
-       .needs = ofEffect,
-       .accepts = options,
-       .example = "regression --effect-f2 0.15 --predictors 5 --n 80 --chart effect --from 0 --to 0.4"},
-      {.name = "r",
-       .axes = {CorrelationAxis()},
-       .needs = ofFit,
-       .accepts = options,
-       .example = "regression --r-squared 0.1 --predictors 5 --n 95 --random --chart r"},
-      {.name = "n-r",
-       .axes = {CaseAxis(), CorrelationAxis()},
-       .needs = ofFit,
-       .accepts = options,
-       .example = "regression --r-squared 0.1 --predictors 5 --n 95 --chart n-r"},
-      {.name = "n-effect",
-       .axes = {CaseAxis(), EffectAxis()},
-       .needs = ofEffect,
-       .accepts = options,
-       .example = "regression --effect-f2 0.15 --predictors 5 --n 80 --chart n-effect --from 20,0 --to 160,0.5"},
-  };
-}
-
 }  // namespace
 
 Test RegressionTest() {
@@ -241,7 +162,7 @@ Test RegressionTest() {
   test.derived = {
       {.name = "effect-f2", .label = "effect size f2", .needs = {"r-squared", "predictors"}, .call = EffectOfFits},
   };
-  test.charts = Charts();
+  test.charts = ChartsOfRegression();
   AddWordsOfRegression(test);
   return WithCommonParameters(std::move(test));
 }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "catalogue/axes.h"
+#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/mean_parameters.h"
@@ -18,10 +19,6 @@ namespace {
 
 namespace means = kelpower::means;
 
-double Difference(const Inputs& in) {
-  return in.Has("means") ? in.List("means")[0] - in.List("means")[1] : in.Number("mean-difference");
-}
-
 /// Equal standard deviations select the pooled test.
 means::GroupSpreads SpreadsOf(double sd1, double sd2) { return {sd1, sd2, sd1 == sd2}; }
 
@@ -30,7 +27,7 @@ means::GroupSpreads SpreadsOf(const Inputs& in) { return SpreadsOf(in.List("sd")
 /// An effect size is a difference in the unit of the standard deviation.
 means::TwoSampleDesign DesignOf(const Inputs& in) {
   if (in.Has("effect-d")) return {in.Number("effect-d"), SpreadsOf(1, 1), SidesOf(in), in.Alpha()};
-  return {Difference(in), SpreadsOf(in), SidesOf(in), in.Alpha()};
+  return {DifferenceOfMeans(in), SpreadsOf(in), SidesOf(in), in.Alpha()};
 }
 
 constexpr double smallestSecond = 2;
@@ -59,7 +56,7 @@ Numbers SizesForHalfWidth(const Inputs& in) {
 /// Over the root mean square of the standard deviations (Cohen 1988, formula 2.3.2).
 double EffectSize(const Inputs& in) {
   const Numbers& sds = in.List("sd");
-  return Difference(in) / (std::hypot(sds[0], sds[1]) / std::sqrt(2.0));
+  return DifferenceOfMeans(in) / (std::hypot(sds[0], sds[1]) / std::sqrt(2.0));
 }
 
 std::vector<Parameter> Parameters() {
@@ -142,77 +139,6 @@ std::vector<Unknown> Unknowns() {
   };
 }
 
-/// Four times to either side of the design and of equal sizes, as far as the groups keep more than one observation.
-Range RatiosAroundDesign(const Inputs& in, double) {
-  const double ratio = SizeRatio(in);
-  const double most = 0.8 * (TotalSize(in) - 2);
-  return {std::max(std::min(ratio, 1.0) / 4, 1 / most), std::min(std::max(ratio, 1.0) * 4, most)};
-}
-
-/// Ratios of a surface must leave each group more than one observation.
-std::optional<Problem> RefuseRatios(const Inputs& in, const Range& ratios) {
-  const double most = TotalSize(in) - 1;
-  if (ratios.from > 1 / most && ratios.to < most) return std::nullopt;
-  return Problem{.code = Code::ChartEmpty};
-}
-
-/// From -5 to 5 times the design's difference, or -100 to 100 for a design without one.
-Axis DifferenceAxis() {
-  constexpr double widest = 1e6;
-  return {.title = "difference of the means (first minus second)",
-          .symbol = "difference",
-          .limits = {-widest, widest, true, true, false},
-          .design = Difference,
-          .vary = [](Inputs& in, const Inputs& design,
-                     double at) { in.SetEntry("means", 0, design.List("means")[1] + at); },
-          .usual = [](const Inputs& in, double) -> Range {
-            const double end = Difference(in) != 0 ? 5 * std::abs(Difference(in)) : 100;
-            return {-end, end};
-          }};
-}
-
-std::vector<Chart> Charts() {
-  const Names ofMeans{"means", "sd", "n"};
-  const Names ofEffect{"effect-d", "n"};
-  const Axis ratio = SizeRatioAxis(RatiosAroundDesign);
-  Axis ratioOfSurface = ratio;
-  ratioOfSurface.refuse = RefuseRatios;
-  const Axis effect = EffectDAxis();
-  const Axis difference = DifferenceAxis();
-  return {
-      {.name = "ratio",
-       .axes = {ratio},
-       .needs = ofMeans,
-       .accepts = {"one-sided"},
-       .example = "two-means --means 52,47 --sd 10,14 --n 40,60 --chart ratio --from 0.2 --to 5"},
-      {.name = "ratio",
-       .axes = {ratio},
-       .needs = ofEffect,
-       .accepts = {"one-sided"},
-       .example = "two-means --effect-d 0.6 --n 90,60 --chart ratio"},
-      {.name = "effect",
-       .axes = {effect},
-       .needs = ofEffect,
-       .accepts = {"one-sided"},
-       .example = "two-means --effect-d 0.6 --n 90,60 --one-sided --chart effect"},
-      {.name = "difference",
-       .axes = {difference},
-       .needs = ofMeans,
-       .accepts = {"one-sided"},
-       .example = "two-means --means 52,47 --sd 10,14 --n 40 --chart difference --from 0 --to 12"},
-      {.name = "ratio-effect",
-       .axes = {ratioOfSurface, effect},
-       .needs = ofEffect,
-       .accepts = {"one-sided"},
-       .example = "two-means --effect-d 0.6 --n 90,60 --chart ratio-effect --from 0.2,0 --to 5,1"},
-      {.name = "ratio-difference",
-       .axes = {ratioOfSurface, difference},
-       .needs = ofMeans,
-       .accepts = {"one-sided"},
-       .example = "two-means --means 52,47 --sd 10,14 --n 40 --chart ratio-difference --from 0.2,0 --to 5,12"},
-  };
-}
-
 }  // namespace
 
 Test TwoMeansTest() {
@@ -228,11 +154,11 @@ Test TwoMeansTest() {
   test.sizeExists = {
       {.code = "no-effect",
        .about = {"means"},
-       .holds = [](const Inputs& in) { return Difference(in) != 0; },
+       .holds = [](const Inputs& in) { return DifferenceOfMeans(in) != 0; },
        .sentence = "The two means are equal: without a difference, no sample size reaches the power."},
       {.code = "no-effect",
        .about = {"mean-difference"},
-       .holds = [](const Inputs& in) { return Difference(in) != 0; },
+       .holds = [](const Inputs& in) { return DifferenceOfMeans(in) != 0; },
        .sentence = "The two means are equal: without a difference, no sample size reaches the power."},
       HasEffectD(),
   };
@@ -240,7 +166,14 @@ Test TwoMeansTest() {
       {.name = "effect-d", .label = "effect size d", .needs = {"means", "sd"}, .call = EffectSize},
       {.name = "effect-d", .label = "effect size d", .needs = {"mean-difference", "sd"}, .call = EffectSize},
   };
-  test.charts = Charts();
+  test.assumptions = {
+      {.name = "variances",
+       .label = "variances",
+       .needs = {"sd"},
+       .call =
+           [](const Inputs& in) { return std::string(SpreadsOf(in).isPooled ? "pooled" : "unequal, Welch's test"); },
+       .wording = " (variances <0>)"}};
+  test.charts = ChartsOfTwoMeans();
   AddWordsOfTwoMeans(test);
   return WithCommonParameters(std::move(test));
 }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "catalogue/axes.h"
+#include "catalogue/charts.h"
 #include "catalogue/two_groups.h"
 #include "catalogue/two_proportions.h"
 
@@ -12,7 +13,7 @@ namespace {
 
 constexpr double mostObservations = 1e9;
 
-// Steps of an exact test take a few nanoseconds each; so many take a second or so.
+// A step of an exact test takes a few nanoseconds, so that this many take a second or so.
 constexpr double usualSteps = 3e8;
 
 /// About how many steps a power takes: the conditional test goes over tables, the other exact ones over rows.
@@ -28,8 +29,8 @@ double Size2(const Inputs& in) { return in.List("n")[1]; }
 
 Range AllowedSizes(const Inputs& in) { return {2, IsExact(in) ? largestExactGroup : mostObservations}; }
 
-/// How far the usual range of sizes goes at most: so far that 250 of them are drawn, and that an exact test takes a
-/// second or so.
+/// How far the usual range of sizes goes at most. At this distance 250 sizes are drawn, and an exact test takes a second
+/// or so.
 double Reach(const Inputs& in) {
   constexpr double farthest = 1245;
   constexpr double nearest = 2;
@@ -65,7 +66,8 @@ Axis Size2Axis() {
 
 /// Gives the proportions themselves, whichever way they were given.
 void SetProportions(Inputs& in, double first, double second) {
-  for (Name name : {Name("proportion1"), Name("risk-difference"), Name("risk-ratio"), Name("odds-ratio")}) {
+  for (Name name :
+       {Name("proportion1"), Name("proportion2"), Name("risk-difference"), Name("risk-ratio"), Name("odds-ratio")}) {
     in.Erase(name);
   }
   if (!in.Has("proportions")) in.SetList("proportions", {first, second});
@@ -117,7 +119,7 @@ Axis RatioAxis() {
 }
 
 /// What the second proportion leaves.
-Range AllRiskDifferences(const Inputs& in) { return {FirstProportion(in) - 1, FirstProportion(in)}; }
+Range AllRiskDifferences(const Inputs& in) { return {-FirstProportion(in), 1 - FirstProportion(in)}; }
 
 double ToFourDigits(double value) {
   constexpr double scale = 1e4;
@@ -140,11 +142,11 @@ void KeepFirst(Inputs& in, const Inputs& design, double second) { SetProportions
 
 Axis RiskDifferenceAxis() {
   return {
-      .title = "risk difference (first minus second)",
+      .title = "risk difference (second minus first)",
       .symbol = "difference",
       .limits = {-1, 1, true, true, false},
       .design = RiskDifference,
-      .vary = [](Inputs& in, const Inputs& design, double at) { KeepFirst(in, design, FirstProportion(design) - at); },
+      .vary = [](Inputs& in, const Inputs& design, double at) { KeepFirst(in, design, FirstProportion(design) + at); },
       .usual = [](const Inputs& in, double) { return AllRiskDifferences(in); },
       .scale = AllRiskDifferences,
       .scaleEnds = ScaleEnds::None,
@@ -154,34 +156,36 @@ Axis RiskDifferenceAxis() {
 
 constexpr double largestEffectRatio = 10;
 constexpr double smallestOddsRatio = 0.1;
-constexpr double largestSecond = 0.99;  // where the usual range of risk ratios starts
+constexpr double largestSecond = 0.99;  // where the usual range of risk ratios ends
 
 Range RiskRatiosAroundDesign(const Inputs& in, double) {
-  const double smallest = std::min(FirstProportion(in) / largestSecond, RiskRatio(in));
-  return RatiosAround(RiskRatio(in), {smallest, largestEffectRatio});
+  const double largest = std::max(largestSecond / FirstProportion(in), RiskRatio(in));
+  return RatiosAround(RiskRatio(in), {0, std::min(largest, largestEffectRatio)});
 }
 
 std::optional<Problem> RefuseRiskRatios(const Inputs& in, const Range& ratios) {
-  if (ratios.from > FirstProportion(in)) return std::nullopt;
+  if (ratios.to * FirstProportion(in) < 1) return std::nullopt;
   return Problem{.code = Code::ChartRangeRefused,
-                 .inputs = {"from"},
-                 .values = {ratios.from, FirstProportion(in)},
-                 .sentence = "{from} is <0>, but a risk ratio must be above the first proportion, which is <1>."};
+                 .inputs = {"to"},
+                 .values = {ratios.to, FirstProportion(in)},
+                 .sentence =
+                     "{to} is <0>, but a risk ratio must be below one over the first proportion, which is "
+                     "<1>."};
 }
 
 Axis RiskRatioAxis() {
   return {
-      .title = "risk ratio (first over second)",
+      .title = "risk ratio (second over first)",
       .symbol = "risk ratio",
       .limits = {0, largestEffectRatio, false, true, false},
       .design = RiskRatio,
-      .vary = [](Inputs& in, const Inputs& design, double at) { KeepFirst(in, design, FirstProportion(design) / at); },
+      .vary = [](Inputs& in, const Inputs& design, double at) { KeepFirst(in, design, FirstProportion(design) * at); },
       .usual = RiskRatiosAroundDesign,
       .refuse = RefuseRiskRatios};
 }
 
 Axis OddsRatioAxis() {
-  return {.title = "odds ratio (first over second)",
+  return {.title = "odds ratio (second over first)",
           .symbol = "odds ratio",
           .limits = {smallestOddsRatio, largestEffectRatio, true, true, false},
           .design = OddsRatio,
@@ -201,18 +205,19 @@ struct Drawing {
 };
 
 /// Proportions for the examples, in the order of the effects.
-const char* const exampleEffects[] = {"--proportions 0.5,0.75", "--proportion1 0.5 --risk-difference -0.25",
-                                      "--proportion1 0.6 --risk-ratio 1.5", "--proportion1 0.5 --odds-ratio 0.5"};
+const char* const exampleEffects[] = {"--proportions 0.5,0.75", "--proportion1 0.5 --proportion2 0.75",
+                                      "--proportion1 0.5 --risk-difference 0.25", "--proportion1 0.6 --risk-ratio 1.5",
+                                      "--proportion1 0.5 --odds-ratio 0.5"};
 
 }  // namespace
 
 std::vector<Chart> ChartsOfTwoProportions() {
   const std::vector<Drawing> drawings = {
       {"sizes", {Size1Axis(), Size2Axis()}, "--n 50,60"},
-      {"proportions", {FirstProportionAxis(), SecondProportionAxis()}, "--n 50 --test conditional --step 0.05"},
+      {"proportions", {FirstProportionAxis(), SecondProportionAxis()}, "--n 50 --method conditional --step 0.05"},
       {"ratio", {RatioAxis()}, "--n 40,80 --pooled"},
       {"risk-difference", {RiskDifferenceAxis()}, "--n 50 --exact"},
-      {"risk-ratio", {RiskRatioAxis()}, "--n 90 --test likelihood-ratio"},
+      {"risk-ratio", {RiskRatioAxis()}, "--n 90 --method likelihood-ratio"},
       {"odds-ratio", {OddsRatioAxis()}, "--n 90 --one-sided"},
   };
   const std::vector<Names> effects = EffectsOfTwoProportions();

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_CHART_H
+#define KELPOWER_PLANNER_MODEL_CHART_H
 
 #include <optional>
 #include <string>
@@ -101,3 +102,5 @@ struct ChartData {
 };
 
 }  // namespace planner
+
+#endif

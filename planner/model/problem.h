@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_PROBLEM_H
+#define KELPOWER_PLANNER_MODEL_PROBLEM_H
 
 #include <optional>
 #include <stdexcept>
@@ -118,3 +119,5 @@ public:
 };
 
 }  // namespace planner
+
+#endif

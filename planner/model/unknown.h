@@ -33,8 +33,6 @@ struct Unknown {
   void (*set)(Inputs&, double at) = nullptr;
   /// The next number from `at` on that a study can have: a ratio of whole sizes.
   double (*attainable)(const Inputs&, double at) = nullptr;
-  /// An exact test, whose power may fall by a little while it rises: the answer is where it is reached for good.
-  bool (*isUneven)(const Inputs&) = nullptr;
 };
 
 }  // namespace planner

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_PICTURES_FIGURE_H
+#define KELPOWER_PLANNER_PICTURES_FIGURE_H
 
 #include <string>
 #include <vector>
@@ -35,3 +36,5 @@ struct Figure {
 Figure FigureOf(const ChartData& chart);
 
 }  // namespace planner
+
+#endif

@@ -48,7 +48,7 @@ std::string Mark(const Figure& figure, const GnuplotTerminal& terminal) {
                      figure.markAt[1], Place(figure), point);
 }
 
-/// The mark alone, with its text below the title: on the surface it would cover lines and their labels.
+/// The mark alone. Its text stands below the title, because on the surface it would cover lines and their labels.
 std::string MarkWithCaption(const Figure& figure) {
   if (!figure.hasMark) return "";
   return fmt::format("set label 1 \"\" at {:.9g},{:.9g} front {}\nset title \"{}\\nmarked: {}\" offset 0,0.5\n",
@@ -74,8 +74,8 @@ std::string CurveCommands(const Figure& figure, const GnuplotTerminal& terminal)
                             figure.series->x.back(), style);
 }
 
-/// The lines of equal power as data, each level for itself so that it can have its own style. Two blank lines keep lines
-/// of equal length from being joined to a net.
+/// The lines of equal power as data, level by level, so that each can have its own style. Two blank lines separate lines:
+/// gnuplot joins those of equal length to a net otherwise.
 std::string LevelData(const Figure& figure) {
   std::string text;
   for (std::size_t i = 0; i < figure.levels.size(); ++i) {

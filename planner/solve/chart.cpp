@@ -15,7 +15,7 @@
 namespace planner {
 namespace {
 
-// More points than any screen shows; keeps a slip of the finger from computing for hours.
+// More points than any screen shows. The limit keeps a slip of the finger from computing for hours.
 constexpr double mostPoints = 1e6;
 constexpr double largestUsualTotal = 1e5;
 
@@ -105,7 +105,7 @@ void CheckRequest(const Chart& chart, const ChartRequest& request) {
       {.code = Code::ChartStepNotAllowed, .inputs = {"step"}, .values = {*request.step}, .limits = {stepLimits}});
 }
 
-/// A total size must leave the groups something to estimate the standard deviation from; below, there is no power.
+/// A total size must leave the groups something to estimate the standard deviation from. Below that there is no power.
 Limits EndLimits(const Axis& axis, const Inputs& inputs) {
   Limits limits = axis.limits;
   if (axis.isTotal) limits.low = std::max(limits.low, inputs.Groups() + 1.0);
@@ -199,7 +199,7 @@ bool CanBeDrawn(const Series& series) {
   RejectRanges(chart);
 }
 
-/// Tells a step at fault from a range at fault: the usual step would draw something.
+/// Where the usual step would draw something, the step is at fault, and otherwise the range.
 void RejectLargeStep(PreparedQuestion& power, std::vector<AxisGrid> grids, const ChartRequest& request) {
   if (!request.step) return;
   for (AxisGrid& grid : grids) grid.step = usualStep;

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_CHART_H
+#define KELPOWER_PLANNER_SOLVE_CHART_H
 
 #include <string>
 #include <vector>
@@ -17,3 +18,5 @@ ChartData ComputeChart(const Test& test, const ChartRequest& request, const Inpu
 std::vector<std::string> ChartNames(const Test& test);
 
 }  // namespace planner
+
+#endif

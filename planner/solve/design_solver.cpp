@@ -25,7 +25,7 @@ bool AreInOrder(const std::vector<std::size_t>& sources) {
 
 DesignSolver::Shape::Shape(const DesignRow& row, StopRequest* stop)
     : question(row.AskedTest(), row.Values(), stop),
-      columns(ResultColumns(row.AskedTest(), question.ChosenRoute(), question.SolvedFor())) {
+      columns(ResultColumns(row.AskedTest(), question.ChosenRoute(), question.SolvedFor(), question.IsUneven())) {
   std::vector<Column> inputs;
   for (const auto& [parameter, first, count] : row.NumbersGiven()) {
     if (parameter->name == Name("groups")) continue;
@@ -91,7 +91,8 @@ void DesignSolver::Collect(Shape& shape, double value) {
   answer_.problem.reset();
   answer_.shape = shape.number;
   answer_.columns = &shape.columns;
-  answer_.sizes = &question.SizesOfAnswer();
+  answer_.question = &question;
+  answer_.value = value;
   answer_.values.clear();
   for (std::size_t i = 0; i < shape.columns.size(); ++i) {
     const ResultColumn& column = shape.columns[i];
@@ -101,21 +102,18 @@ void DesignSolver::Collect(Shape& shape, double value) {
         if (column.derived) answer_.values.push_back(shape.hasFigure[i] ? column.derived->call(inputs) : none);
         break;
       case Reading::Sizes: answer_.values.push_back(none); break;
-      case Reading::Size: answer_.values.push_back(TotalOf(*answer_.sizes)); break;
+      case Reading::Size: answer_.values.push_back(TotalOf(answer_.SizesOf(column))); break;
       case Reading::Power:
       case Reading::HalfWidth: answer_.values.push_back(value); break;
     }
   }
-  answer_.notes.clear();
-  if (question.MissesTarget()) answer_.notes.push_back(Note::TargetMissedSlightly);
 }
 
 void DesignSolver::Refuse(Problem problem) {
   answer_.problem = std::move(problem);
   answer_.columns = nullptr;
-  answer_.sizes = nullptr;
+  answer_.question = nullptr;
   answer_.values.clear();
-  answer_.notes.clear();
 }
 
 }  // namespace planner

@@ -19,10 +19,15 @@ struct DesignAnswer {
   std::size_t shape = 0;                          // designs with the same have the same columns
   const std::vector<ResultColumn>* columns = {};  // null with a problem
   Numbers values;                                 // one for each column, NaN where a figure is missing
-  const Numbers* sizes = nullptr;                 // in place of the value of a column of sizes
-  std::vector<Note> notes;
+  double value = 0;                               // the power or half-width
+  const PreparedQuestion* question = nullptr;     // that was answered; null with a problem
 
   bool IsAnswered() const { return !problem; }
+
+  /// In place of the value of a column of sizes.
+  const Numbers& SizesOf(const ResultColumn& column) const {
+    return column.isLasting ? question->LastingSizes() : question->SizesOfAnswer();
+  }
 };
 
 /// Answers designs of any tests, one after another. What designs of one shape share is prepared once, so that an answer

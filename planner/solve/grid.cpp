@@ -8,7 +8,7 @@ namespace {
 
 constexpr double rounding = 1e-9;  // of a step, where a grid is to meet the end of its range
 
-/// Surfaces need no more sizes than the eye tells apart. Of two axes of sizes each is thinned sooner.
+/// Surfaces need no more sizes than the eye can separate. Where both axes are of sizes, each is thinned sooner.
 double Spacing(const Chart& chart, const Range& range) {
   if (chart.axes.size() < 2) return 1;
   const double span = range.to - range.from;

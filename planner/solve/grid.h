@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_GRID_H
+#define KELPOWER_PLANNER_SOLVE_GRID_H
 
 #include <vector>
 
@@ -28,3 +29,5 @@ Numbers Points(const AxisGrid& grid, const Inputs& design);
 Series ComputeSeries(PreparedQuestion& power, const std::vector<AxisGrid>& grids);
 
 }  // namespace planner
+
+#endif

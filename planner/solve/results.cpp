@@ -5,7 +5,7 @@
 
 namespace planner {
 
-std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, const Unknown* unknown) {
+std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, const Unknown* unknown, bool isUneven) {
   std::vector<ResultColumn> columns;
   if (unknown) {
     const Parameter& parameter = *FindParameter(test, unknown->input);
@@ -18,9 +18,12 @@ std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, co
   }
   const bool findsSizes = AsksForSizes(route.question);
   const bool isGrouped = test.groups != 1;
-  if (findsSizes && isGrouped) columns.push_back({"sizes", "group sizes", Reading::Sizes});
-  if (findsSizes && !isGrouped) columns.push_back({"n", "sample size", Reading::Size});
+  const Reading sizes = isGrouped ? Reading::Sizes : Reading::Size;
+  if (findsSizes) columns.push_back({"n", isGrouped ? "group sizes" : "sample size", sizes});
   if (isGrouped) columns.push_back({"total", "total sample size", Reading::Size});
+  if (findsSizes && isUneven) {
+    columns.push_back({"lasting-n", "all larger sizes reach it from", sizes, nullptr, true});
+  }
   const std::string suffix = findsSizes ? " at these sizes" : "";
   if (IsAboutPower(route.question)) {
     columns.push_back({"power", "power" + suffix, Reading::Power});

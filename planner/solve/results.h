@@ -22,11 +22,12 @@ struct ResultColumn {
   std::string label;
   Reading reading;
   const Derived* derived = nullptr;  // of a figure; null for the number that is solved for
+  bool isLasting = false;            // of sizes: those from which on all reach the target
 };
 
-/// The results of the route's answers, in the order of a report. `unknown` is what is solved for with the route, or null.
-/// Figures may be missing in an answer.
-std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, const Unknown* unknown = nullptr);
+/// The results of the route's answers, in the order of a report. `unknown` is what is solved for with the route, or
+/// null; `isUneven` says whether the power jumps with the size. Figures may be missing in an answer.
+std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, const Unknown* unknown, bool isUneven);
 
 double TotalOf(const Numbers& sizes);
 

@@ -22,14 +22,7 @@ std::string RenderCsv(const Report& report) {
     names += ',' + CsvField(name);
     values += ',' + CsvField(value);
   };
-  // An input and a result may share a name: the power that is asked for and the one that is reached.
-  const auto isResult = [&](const std::string& name) {
-    return std::any_of(report.results.begin(), report.results.end(),
-                       [&](const Entry& result) { return result.name == name; });
-  };
-  for (const Entry& entry : report.inputs) {
-    add((isResult(entry.name) ? "target-" : "") + entry.name, CsvValue(entry.value));
-  }
+  for (const Entry& entry : report.inputs) add(entry.name, CsvValue(entry.value));
   for (const Entry& entry : report.results) add(entry.name, CsvValue(entry.value));
   return names + '\n' + values + '\n';
 }

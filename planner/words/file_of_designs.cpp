@@ -49,7 +49,10 @@ std::vector<ResultColumn> PossibleResults(const Test& test, const std::vector<co
   std::vector<ResultColumn> results;
   for (const Route& route : test.routes) {
     const auto add = [&](const Unknown* unknown) {
-      for (ResultColumn& column : ResultColumns(test, route, unknown)) results.push_back(std::move(column));
+      const bool mayBeUneven = test.unevenness != nullptr;
+      for (ResultColumn& column : ResultColumns(test, route, unknown, mayBeUneven)) {
+        results.push_back(std::move(column));
+      }
     };
     if (IsPossible(route, names)) add(nullptr);
     for (const Unknown& unknown : test.unknowns) {
@@ -150,11 +153,6 @@ std::string FileOfDesigns::Head() const {
   for (const std::string& column : columns_) head += CsvField(column) + ',';
   for (const std::string& result : results_) head += CsvField(NameOfResult(result)) + ',';
   return head + "note,error\n";
-}
-
-std::string NameOfColumn(const Parameter& parameter) {
-  const std::string name(parameter.name.Text());
-  return name == "test" && !parameter.aliases.empty() ? parameter.aliases.front() : name;
 }
 
 std::vector<std::string> ColumnsOf(std::string_view line) {

@@ -59,9 +59,6 @@ private:
   std::vector<std::string> results_;
 };
 
-/// The name of an input's column or field. `test` names the test, so that an input of this name goes by its other one.
-std::string NameOfColumn(const Parameter& parameter);
-
 /// The lines of NDJSON that a document of JSON is, an array of designs or a single one. Throws an InputError.
 std::string LinesOfJson(std::string_view document);
 

@@ -44,7 +44,7 @@ std::string& OpenObject::Begin(std::string_view name) {
 
 void AppendCsvResult(const DesignAnswer& answer, std::size_t column, std::string& out) {
   if ((*answer.columns)[column].reading == Reading::Sizes) {
-    out += ListedWithSpaces(*answer.sizes);
+    out += ListedWithSpaces(answer.SizesOf((*answer.columns)[column]));
   } else if (!std::isnan(answer.values[column])) {
     AppendShortest(out, answer.values[column]);
   }

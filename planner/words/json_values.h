@@ -39,7 +39,7 @@ void AddResults(OpenObject& object, const DesignAnswer& answer, const NameOf& na
   for (std::size_t i = 0; i < answer.columns->size(); ++i) {
     const ResultColumn& column = (*answer.columns)[i];
     if (column.reading == Reading::Sizes) {
-      object.AddNumbers(nameOf(column.name), *answer.sizes);
+      object.AddNumbers(nameOf(column.name), answer.SizesOf(column));
     } else if (answer.values[i] == answer.values[i]) {  // there may be none, a NaN
       object.AddNumber(nameOf(column.name), answer.values[i]);
     }

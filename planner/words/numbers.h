@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_NUMBERS_H
+#define KELPOWER_PLANNER_WORDS_NUMBERS_H
 
 #include <string>
 #include <string_view>
@@ -30,3 +31,5 @@ std::string ListedWithSpaces(const Numbers& numbers);
 std::string Shown(const Value& value);
 
 }  // namespace planner
+
+#endif

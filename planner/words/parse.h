@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_PARSE_H
+#define KELPOWER_PLANNER_WORDS_PARSE_H
 
 #include <optional>
 #include <string>
@@ -18,6 +19,9 @@ std::string Allowed(const Parameter& parameter);
 /// "true" or "false", as other programs may write them too.
 std::optional<bool> ParseFlag(std::string_view text);
 
+/// Throws the InputError that says what is allowed in place of `text`, and what was likely meant by it.
+[[noreturn]] void RejectText(const Parameter& parameter, std::string_view text);
+
 /// The value that `text` spells; throws an InputError when it spells none or one that is not allowed.
 Value Parse(const Parameter& parameter, std::string_view text);
 
@@ -27,3 +31,5 @@ Value Parse(const Parameter& parameter, std::string_view text);
 std::vector<Value> ParseAlternatives(const Parameter& parameter, std::string_view text);
 
 }  // namespace planner
+
+#endif

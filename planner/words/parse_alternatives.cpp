@@ -16,13 +16,6 @@ namespace {
 /// Of a step: so much may the ends be off by rounding.
 constexpr double rounding = 1e-9;
 
-[[noreturn]] void Reject(const Parameter& parameter, std::string_view text) {
-  throw InputError({.code = Code::NotAllowed,
-                    .inputs = {std::string(parameter.name.Text())},
-                    .values = {std::string(text)},
-                    .allowed = parameter});
-}
-
 [[noreturn]] void RejectRange(const Parameter& parameter, std::string_view text) {
   throw InputError(
       {.code = Code::RangeUseless, .inputs = {std::string(parameter.name.Text())}, .values = {std::string(text)}});
@@ -65,7 +58,7 @@ Numbers NumbersOf(const Parameter& parameter, std::string_view text) {
       all.insert(all.end(), range.begin(), range.end());
     } else {
       double number = 0;
-      if (!ParseNumber(item, number)) Reject(parameter, text);
+      if (!ParseNumber(item, number)) RejectText(parameter, text);
       all.push_back(number);
     }
     if (comma == std::string_view::npos) break;
@@ -85,7 +78,7 @@ std::vector<Value> ParseAlternatives(const Parameter& parameter, std::string_vie
   std::vector<Value> values;
   for (double number : NumbersOf(parameter, text)) {
     Value value = isNumber ? Value(number) : Value(Numbers{number});
-    if (!parameter.Allows(value)) Reject(parameter, text);
+    if (!parameter.Allows(value)) RejectText(parameter, text);
     values.push_back(std::move(value));
   }
   return values;

@@ -71,15 +71,15 @@ private:
 };
 
 std::string Words::Incomplete() const {
-  std::string text = fmt::format("Also give {} to be told {}", Ways(", or ", ", or "), Wording(*problem_.question));
+  std::string text = fmt::format("Also give {} for {}", Ways(", or ", ", or "), Wording(*problem_.question));
   if (!problem_.inputs.empty()) {
-    text += fmt::format("; to be told the sample size, give {} in place of {}", Input(0), Input(1));
+    text += fmt::format("; for the sample size, give {} in place of {}", Input(0), Input(1));
   }
   return text + ".";
 }
 
 std::string Words::GroupsDisagree() const {
-  return fmt::format("{} tells {} groups, but {} tells {}.", Input(0), Figure(0), Input(1), Figure(1));
+  return fmt::format("{} gives {} groups, but {} gives {}.", Input(0), Figure(0), Input(1), Figure(1));
 }
 
 std::string Words::WrongLength() const {
@@ -111,7 +111,8 @@ std::string Words::TooLarge() const {
 }
 
 std::string Words::SizesNotFound() const {
-  return fmt::format("No sample size was found that reaches a {} of {}.", problem_.inputs[0], Figure(0));
+  const std::string end = problem_.values.size() > 1 ? " up to " + Figure(1) : "";
+  return fmt::format("No sample size{} was found that reaches a {} of {}.", end, problem_.inputs[0], Figure(0));
 }
 
 std::string Words::NothingUnknown() const {
@@ -219,7 +220,8 @@ std::string Words::Sentence() const {
   switch (problem_.code) {
     case Code::NotAnInput: return fmt::format("{} is not an option of {}.", Input(0), problem_.words[0]);
     case Code::NotAllowed:
-      return fmt::format("{} is {}, but must be {}.", Input(0), Given(problem_.values[0]), Allowed(*problem_.allowed));
+      return fmt::format("{} is {}, but must be {}{}.", Input(0), Given(problem_.values[0]), Allowed(*problem_.allowed),
+                         problem_.words.empty() ? "" : ": write " + problem_.words[0]);
     case Code::UselessAlone:
       return fmt::format("{} has a use only together with {}.", Input(0), Joined(Inputs(1), " or "));
     case Code::AsksSomethingElse:
@@ -232,9 +234,9 @@ std::string Words::Sentence() const {
     case Code::Incomplete: return Incomplete();
     case Code::GroupsDisagree: return GroupsDisagree();
     case Code::GroupsUnknown: return fmt::format("The number of groups is not known: give {}.", Input(0));
-    case Code::TooFewGroups: return fmt::format("{} tells 1 group, but must tell at least 2.", Input(0));
+    case Code::TooFewGroups: return fmt::format("{} gives 1 group, but must give at least 2.", Input(0));
     case Code::TooManyGroups:
-      return fmt::format("{} tells {} groups, but at most {} are allowed.", Input(0), Figure(0), Figure(1));
+      return fmt::format("{} gives {} groups, but at most {} are allowed.", Input(0), Figure(0), Figure(1));
     case Code::WrongLength: return WrongLength();
     case Code::SolvedForIsGiven: return fmt::format("{} is given, so {} cannot ask for it.", Input(0), Input(1));
     case Code::NotSolvedFor: return fmt::format("{} cannot be solved for with {}.", Input(0), Input(1));

@@ -16,13 +16,14 @@ namespace {
 
 std::string ShownPower(double power) {
   if (power > 0.99995) return ">0.9999";
+  if (power == 0) return "0";
   if (power < 0.00005) return "<0.0001";
   return fmt::format("{:.4f}", power);
 }
 
 std::string ShownHalfWidth(double halfWidth) { return fmt::format("{:.4g}", halfWidth); }
 
-/// The sizes with no more digits than are worth reading: four where there are too many observations to count.
+/// The sizes in digits worth reading: all, or four where there are too many observations to count.
 Numbers Readable(Numbers sizes) {
   constexpr double largestCounted = 1e15;
   for (double& size : sizes) {
@@ -81,7 +82,27 @@ private:
     for (const Phrase& phrase : test_.phrases) {
       if (phrase.name == name) return OfPhrase(phrase);
     }
-    return OfInput(name);
+    for (const Assumption& assumption : test_.assumptions) {
+      if (assumption.name == name) return OfAssumption(assumption);
+    }
+    const std::string input = OfInput(name);
+    return input.empty() ? OfDerived(name) : input;
+  }
+
+  /// The figure of that name, which a sentence may tell beside the inputs that it follows from.
+  std::string OfDerived(std::string_view name) const {
+    for (const auto& [derived, figure] : answer_.derived) {
+      if (derived->name == name) return fmt::format("{:.4g}", figure);
+    }
+    return "";
+  }
+
+  std::string OfAssumption(const Assumption& assumption) const {
+    const auto has = [&](Name need) { return inputs_.Has(need); };
+    if (!std::all_of(assumption.needs.begin(), assumption.needs.end(), has)) return "";
+    const std::string words = assumption.call(inputs_);
+    std::string text = assumption.wording;
+    return words.empty() ? "" : text.replace(text.find("<0>"), 3, words);
   }
 
   bool IsSet(std::string_view name) const {
@@ -121,7 +142,29 @@ std::vector<Entry> InputEntries(const Answer& answer) {
   std::vector<Entry> entries;
   for (const Parameter* parameter : ListedParameters(*answer.test, *answer.route, answer.unknown, answer.inputs)) {
     const Value value = answer.inputs.ValueOf(*parameter);
-    entries.push_back({std::string(parameter->name.Text()), parameter->label, value, Shown(value)});
+    const bool isUnset = parameter->kind == Kind::Flag && !answer.inputs.Flag(parameter->name);
+    const std::string name = NameInReports(*parameter, *answer.route, answer.unknown);
+    entries.push_back({name, parameter->label, value, Shown(value), isUnset});
+  }
+  return entries;
+}
+
+bool IsTaken(const Answer& answer, const Names& needs) {
+  return std::all_of(needs.begin(), needs.end(),
+                     [&](Name name) { return answer.inputs.Has(name) && answer.route->Takes(name); });
+}
+
+std::string Confidence(const Inputs& inputs) { return fmt::format("{:.10g}%", 100 * (1 - inputs.Alpha())); }
+
+std::vector<Entry> AssumptionEntries(const Answer& answer) {
+  std::vector<Entry> entries;
+  for (const Assumption& assumption : answer.test->assumptions) {
+    if (!IsTaken(answer, assumption.needs)) continue;
+    const std::string words = assumption.call(answer.inputs);
+    if (!words.empty()) entries.push_back({assumption.name, assumption.label, words, words});
+  }
+  if (!IsAboutPower(answer.Asked())) {
+    entries.push_back({"confidence", "confidence", Confidence(answer.inputs), Confidence(answer.inputs)});
   }
   return entries;
 }
@@ -136,8 +179,8 @@ double FigureOf(const Answer& answer, const Derived* derived) {
 double ResultOf(const Answer& answer, const ResultColumn& column) {
   switch (column.reading) {
     case Reading::Figure: return column.derived ? FigureOf(answer, column.derived) : NumberOf(answer);
-    case Reading::Size:
-    case Reading::Sizes: return TotalOf(answer.sizes);
+    case Reading::Size: return TotalOf(column.isLasting ? answer.lastingSizes : answer.sizes);
+    case Reading::Sizes: break;
     case Reading::Power:
     case Reading::HalfWidth: return answer.value;
   }
@@ -146,13 +189,15 @@ double ResultOf(const Answer& answer, const ResultColumn& column) {
 
 std::vector<Entry> ResultEntries(const Answer& answer) {
   std::vector<Entry> entries;
-  for (const ResultColumn& column : ResultColumns(*answer.test, *answer.route, answer.unknown)) {
-    const double value = ResultOf(answer, column);
+  for (const ResultColumn& column :
+       ResultColumns(*answer.test, *answer.route, answer.unknown, !answer.lastingSizes.empty())) {
     if (column.reading == Reading::Sizes) {
-      entries.push_back({column.name, column.label, answer.sizes, ShownSizes(answer.sizes)});
-    } else if (!std::isnan(value)) {
-      entries.push_back({column.name, column.label, value, ShownResult(column.reading, value)});
+      const Numbers& sizes = column.isLasting ? answer.lastingSizes : answer.sizes;
+      entries.push_back({column.name, column.label, sizes, ShownSizes(sizes)});
+      continue;
     }
+    const double value = ResultOf(answer, column);
+    if (!std::isnan(value)) entries.push_back({column.name, column.label, value, ShownResult(column.reading, value)});
   }
   return entries;
 }
@@ -164,11 +209,12 @@ std::string SentenceOf(const Test& test, Question question) {
   return "";
 }
 
-std::string Wording(Note note) {
-  switch (note) {
-    case Note::TargetMissedSlightly: return "At the sizes rounded to whole numbers the target is missed slightly.";
-  }
-  return "";
+/// What an uneven power asks to be said of the sizes found.
+std::string OnUnevenness(const Answer& answer) {
+  if (answer.lastingSizes.empty()) return "";
+  if (answer.lastingSizes == answer.sizes) return " All larger sample sizes reach it too.";
+  return fmt::format(" Some larger sample sizes do not reach it; all do from {} on.",
+                     SizesInSentence(*answer.test, answer.lastingSizes));
 }
 
 }  // namespace
@@ -180,12 +226,16 @@ std::vector<const Parameter*> ListedParameters(const Test& test, const Route& ro
   for (const Parameter& parameter : test.parameters) {
     const Name name = parameter.name;
     if (!inputs.Has(name)) continue;
-    if (parameter.shownOnlySet && !inputs.Flag(name)) continue;
     if (unknown && name == unknown->input) continue;
     if (!route.Takes(name) && name != target && name != Name("alpha")) continue;
     listed.push_back(&parameter);
   }
   return listed;
+}
+
+std::string NameInReports(const Parameter& parameter, const Route& route, const Unknown* unknown) {
+  const bool isTarget = parameter.name == TargetOf(route, unknown);
+  return (isTarget ? "target-" : "") + std::string(parameter.name.Text());
 }
 
 std::string ShownResult(Reading reading, double value) {
@@ -201,10 +251,21 @@ std::string ShownResult(Reading reading, double value) {
 
 std::string ShownSizes(const Numbers& sizes) { return Listed(Readable(sizes)); }
 
-std::string WordingOf(const std::vector<Note>& notes) {
-  std::vector<std::string> sentences;
-  for (Note note : notes) sentences.push_back(Wording(note));
-  return Joined(sentences, " ", " ");
+std::string NoteOn(Question question, const Inputs& inputs, double value) {
+  constexpr double oddLevel = 0.5;
+  constexpr double rounding = 1e-9;
+  if (inputs.Alpha() >= oddLevel) {
+    return fmt::format("A significance level of {} rejects more often than not without any effect.",
+                       Shortest(inputs.Alpha()));
+  }
+  const bool isLow = IsAboutPower(question) && value <= inputs.Alpha() * (1 + rounding);
+  return isLow ? "The power is not above the significance level: the test would reject as often without any effect."
+               : "";
+}
+
+std::string NoteOn(const DesignAnswer& answer) {
+  const PreparedQuestion& question = *answer.question;
+  return NoteOn(question.ChosenRoute().question, question.Design(), answer.value);
 }
 
 Report MakeReport(const Answer& answer) {
@@ -212,9 +273,10 @@ Report MakeReport(const Answer& answer) {
           .question = answer.Asked(),
           .exportName = answer.route->ExportFor(answer.inputs),
           .inputs = InputEntries(answer),
+          .assumptions = AssumptionEntries(answer),
           .results = ResultEntries(answer),
-          .sentence = Words(answer).Of(SentenceOf(*answer.test, answer.Asked())),
-          .note = WordingOf(answer.notes)};
+          .sentence = Words(answer).Of(SentenceOf(*answer.test, answer.Asked())) + OnUnevenness(answer),
+          .note = NoteOn(answer.Asked(), answer.inputs, answer.value)};
 }
 
 }  // namespace planner

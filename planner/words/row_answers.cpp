@@ -171,7 +171,7 @@ private:
   }
 
   std::string NoteOf(const DesignAnswer& answer) const {
-    std::string note = WordingOf(answer.notes);
+    std::string note = planner::NoteOn(answer);
     for (const std::string& result : late_) {
       if (!note.empty()) note += ' ';
       note += SentenceOf({.code = Code::ResultLate, .words = {result}});
@@ -224,7 +224,7 @@ private:
     OpenObject object(out, !(IsCsv() ? EchoFields(out) : EchoLine(out)));
     if (answer) {
       AddResults(object, *answer, [this](const std::string& name) { return NameInJson(name); });
-      if (!answer->notes.empty()) object.AddText(NameInJson("note"), WordingOf(answer->notes));
+      if (const std::string note = planner::NoteOn(*answer); !note.empty()) object.AddText(NameInJson("note"), note);
     }
     if (problem) object.AddText(NameInJson("error"), SentenceOf(*problem));
     object.Close();

@@ -30,7 +30,7 @@ void TableOfDesigns::FindColumns() {
     designs_.Fill(i, row);
     try {
       const PreparedQuestion question(designs_.AskedTest(), row.Values());
-      results_ = ResultColumns(designs_.AskedTest(), question.ChosenRoute(), question.SolvedFor());
+      results_ = ResultColumns(designs_.AskedTest(), question.ChosenRoute(), question.SolvedFor(), question.IsUneven());
       return ListInputs(question);
     } catch (const InputError& error) {
       if (!first) first = error;
@@ -46,7 +46,8 @@ void TableOfDesigns::ListInputs(const PreparedQuestion& question) {
        ListedParameters(designs_.AskedTest(), question.ChosenRoute(), question.SolvedFor(), inputs)) {
     const auto found = std::find_if(given.begin(), given.end(),
                                     [&](const Alternatives& input) { return input.parameter == parameter; });
-    inputs_.push_back({parameter, static_cast<std::size_t>(found - given.begin()), inputs.ValueOf(*parameter)});
+    inputs_.push_back({parameter, NameInReports(*parameter, question.ChosenRoute(), question.SolvedFor()),
+                       static_cast<std::size_t>(found - given.begin()), inputs.ValueOf(*parameter)});
   }
 }
 
@@ -54,18 +55,10 @@ const Value& TableOfDesigns::ValueOf(const Input& input, std::size_t design) con
   return input.IsGiven(designs_) ? designs_.ValueOf(input.index, design) : input.fallback;
 }
 
-/// An input and a result may share a name: the power that is asked for and the one that is reached.
-std::string TableOfDesigns::NameOf(const Input& input) const {
-  const std::string name = NameOfColumn(*input.parameter);
-  const bool isResult =
-      std::any_of(results_.begin(), results_.end(), [&](const ResultColumn& column) { return column.name == name; });
-  return (isResult ? "target-" : "") + name;
-}
-
 std::string TableOfDesigns::Head() const {
   if (format_ != TableFormat::Csv) return "";
   std::string head = "test,";
-  for (const Input& input : inputs_) head += CsvField(NameOf(input)) + ',';
+  for (const Input& input : inputs_) head += CsvField(input.name) + ',';
   for (const ResultColumn& column : results_) head += CsvField(column.name) + ',';
   return head + "note\n";
 }
@@ -77,7 +70,7 @@ std::string TableOfDesigns::HeldFixed() const {
     const Value& value = ValueOf(input, 0);
     const std::string& label = input.parameter->label;
     if (const bool* flag = std::get_if<bool>(&value)) {
-      fixed.push_back(*flag ? label : "no " + label);
+      if (*flag) fixed.push_back(label);
     } else {
       fixed.push_back(label + ' ' + Shown(value));
     }
@@ -106,7 +99,7 @@ public:
     table_.designs_.Fill(design, row_);
     const DesignAnswer& answer = solver_.Solve(row_);
     if (!answer.IsAnswered() && answer.problem->code == Code::Stopped) return false;
-    const std::string note = answer.IsAnswered() ? WordingOf(answer.notes) : Sentence(*answer.problem, table_.name_);
+    const std::string note = answer.IsAnswered() ? NoteOn(answer) : Sentence(*answer.problem, table_.name_);
     switch (table_.format_) {
       case TableFormat::Text:
       case TableFormat::Markdown: AppendCells(design, answer, note, out); break;
@@ -133,7 +126,7 @@ private:
 
   static std::string Shown(const DesignAnswer& answer, std::size_t i) {
     const Reading reading = (*answer.columns)[i].reading;
-    if (reading == Reading::Sizes) return ShownSizes(*answer.sizes);
+    if (reading == Reading::Sizes) return ShownSizes(answer.SizesOf((*answer.columns)[i]));
     return std::isnan(answer.values[i]) ? "" : ShownResult(reading, answer.values[i]);
   }
 
@@ -150,7 +143,7 @@ private:
   void AppendJson(std::size_t design, const DesignAnswer& answer, const std::string& note, std::string& out) const {
     OpenObject object(out);
     object.AddText("test", table_.designs_.AskedTest().name);
-    for (const Input& input : table_.inputs_) object.Add(table_.NameOf(input), table_.ValueOf(input, design));
+    for (const Input& input : table_.inputs_) object.Add(input.name, table_.ValueOf(input, design));
     if (answer.IsAnswered()) AddResults(object, answer);
     if (!note.empty()) object.AddText("note", note);
     object.Close();
@@ -181,7 +174,7 @@ std::string RenderDesigns(const Designs& designs) {
     OpenObject object(text);
     object.AddText("test", designs.AskedTest().name);
     for (std::size_t input = 0; input < designs.Inputs().size(); ++input) {
-      object.Add(NameOfColumn(*designs.Inputs()[input].parameter), designs.ValueOf(input, i));
+      object.Add(designs.Inputs()[input].parameter->name.Text(), designs.ValueOf(input, i));
     }
     object.Close();
   }

@@ -50,6 +50,7 @@ private:
   /// An input of the table: one that is given, or a default.
   struct Input {
     const Parameter* parameter;
+    std::string name;
     std::size_t index;  // among the designs' inputs; their number for a default
     Value fallback;
 
@@ -60,7 +61,6 @@ private:
   void FindColumns();
   void ListInputs(const PreparedQuestion& question);
   const Value& ValueOf(const Input& input, std::size_t design) const;
-  std::string NameOf(const Input& input) const;
   std::string HeldFixed() const;
 
   const Designs& designs_;

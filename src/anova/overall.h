@@ -55,6 +55,9 @@ public:
   /// Refused for fewer than two groups, fewer subjects than groups, or no such level.
   Answer Power(double noncentrality) const;
 
+  /// None where the power is refused.
+  const std::optional<FTest>& AtCriticalValue() const { return test_; }
+
 private:
   std::optional<FTest> test_;
 };

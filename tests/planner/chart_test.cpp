@@ -105,9 +105,10 @@ TEST(Chart, CurvesOfProportionsPassThroughTheDesign) {
 }
 
 TEST(Chart, CurvesOfTwoProportionsPassThroughTheDesign) {
-  const std::vector<InputValues> effects = {{{"proportions", Numbers{0.5, 0.4}}},
+  const std::vector<InputValues> effects = {{{"proportions", Numbers{0.5, 0.6}}},
+                                            {{"proportion1", 0.5}, {"proportion2", 0.6}},
                                             {{"proportion1", 0.5}, {"risk-difference", 0.1}},
-                                            {{"proportion1", 0.5}, {"risk-ratio", 1.25}},
+                                            {{"proportion1", 0.5}, {"risk-ratio", 1.2}},
                                             {{"proportion1", 0.5}, {"odds-ratio", 1.5}}};
   for (const std::string test : {"z", "t", "likelihood-ratio", "arcsine", "conditional"}) {
     for (InputValues groups : effects) {
@@ -115,7 +116,7 @@ TEST(Chart, CurvesOfTwoProportionsPassThroughTheDesign) {
       groups["test"] = test;
       ExpectThroughTheDesign("two-proportions", {"ratio", {0.5}, {2.5}, 0.25}, groups);
       ExpectThroughTheDesign("two-proportions", Named("risk-difference"), groups);
-      ExpectThroughTheDesign("two-proportions", {"risk-ratio", {0.75}, {1.75}, 0.25}, groups);
+      ExpectThroughTheDesign("two-proportions", {"risk-ratio", {0.7}, {1.7}, 0.25}, groups);
       ExpectThroughTheDesign("two-proportions", {"odds-ratio", {0.5}, {2.5}, 0.25}, groups);
     }
   }
@@ -278,10 +279,7 @@ TEST(Chart, MarginalProportionsHaveAPowerWhereverTheirCorrelationCanBe) {
 }
 
 TEST(Chart, StopsOnRequest) {
-  class Always : public StopRequest {
-  public:
-    bool ShouldStop() override { return true; }
-  } stop;
+  CountingStop stop(1);
   EXPECT_THROW(ComputeChart(*FindTest("anova"), Named("n"), design, &stop), Stopped);
 }
 

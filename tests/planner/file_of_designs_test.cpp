@@ -87,13 +87,13 @@ TEST(FileOfDesigns, HasFiguresOfTheTestsOfTheFirstRows) {
   EXPECT_EQ(file.Head(), head + ",effect-d,total,power,note,error\n");
   const std::string answers = Answered(file, first + "anova,1 2 3,2,10\n" + first);
   EXPECT_NE(answers.find("\nanova,1 2 3,2,10,,30,0.4"), std::string::npos) << answers;
-  EXPECT_NE(answers.find("The result \"\"rmsse\"\" has no column here"), std::string::npos) << answers;
+  EXPECT_NE(answers.find("The result \"\"effect-f\"\" has no column here"), std::string::npos) << answers;
   EXPECT_EQ(answers.find("two-means,52 47,10,40,0.5,80,"), 0U);
 }
 
 TEST(FileOfDesigns, TellsAResultApartFromAColumnOfItsName) {
   const std::string answers = AnsweredCsv("effect-d,power\n0.5,0.8\n", FindTest("two-means"));
-  EXPECT_EQ(answers.substr(0, answers.find('\n')), "effect-d,power,sizes,total,result-power,note,error");
+  EXPECT_EQ(answers.substr(0, answers.find('\n')), "effect-d,power,n,total,result-power,note,error");
   EXPECT_EQ(answers.find("\n0.5,0.8,64 64,128,0.801"), answers.find('\n'));
 }
 

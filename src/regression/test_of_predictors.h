@@ -1,5 +1,5 @@
-#ifndef KELPOWER_REGRESSION_F_TEST_H
-#define KELPOWER_REGRESSION_F_TEST_H
+#ifndef KELPOWER_REGRESSION_TEST_OF_PREDICTORS_H
+#define KELPOWER_REGRESSION_TEST_OF_PREDICTORS_H
 
 #include <optional>
 
@@ -48,6 +48,11 @@ public:
   static std::optional<RegressionTest> Checked(const Model& model, double size);
 
   double Power(const Effect& effect) const;
+
+  /// N f^2, of fixed predictors.
+  double Noncentrality(const Effect& effect) const { return size_ * effect.fSquared; }
+
+  const FTest& AtCriticalValue() const { return test_; }
 
 private:
   RegressionTest(const Model& model, double size);
