@@ -1,6 +1,7 @@
 #ifndef KELPOWER_PLANNER_MODEL_TEST_H
 #define KELPOWER_PLANNER_MODEL_TEST_H
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,7 +20,7 @@ namespace planner {
 struct Condition {
   std::string code;  // for front ends: "error-degrees"
   Names about;       // tested when all of these have a value
-  bool (*holds)(const Inputs&);
+  std::function<bool(const Inputs&)> holds;
   std::string sentence;  // what is wrong when it fails, with inputs in braces
 };
 
