@@ -9,7 +9,7 @@ Answer FirstSize(const SizeSearch& search, FunctionView<double(double)> assuranc
   const auto reaches = [&](double size) { return assuranceAt(size) >= assurance; };
   const double scanned = std::min(search.scanned, search.largest);
   double low = search.smallest;
-  if (!(low <= search.largest)) return NoValue::NotReached;
+  if (!(low >= 1 && low <= search.largest)) return NoValue::NotReached;
   for (; low <= scanned; ++low) {
     if (reaches(low)) return low;
   }

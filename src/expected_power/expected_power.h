@@ -38,7 +38,7 @@ enum class Success {
 /// certain to be the null, where every size has the power of the test's level.
 Answer Limit(const Belief& belief, Success success);
 
-/// The sizes among which one is searched, whole numbers.
+/// The sizes among which one is searched: whole numbers from 1 to `largestCount`.
 struct Sizes {
   double smallest;
   double largest = largestCount;
@@ -54,7 +54,7 @@ struct Sizes {
 /// whose argument has the sign of m + z S^2 x in its derivative. Other tests are taken to be like it. In each case the
 /// bisection finds the first size, because one that is missed at the smallest is passed once.
 ///
-/// Not reached where the limit is not above `wished` or no size up to the largest has it.
+/// Not reached where the limit is not above `wished` or no size up to the largest has it. Refused for other sizes.
 Answer FirstSize(FunctionView<Answer(double size)> expectedAt, const Belief& belief, Success success, double wished,
                  const Sizes& sizes, Stop stop = {});
 
