@@ -191,6 +191,13 @@ TEST(SizeForExpectedPower, SaysWhyThereIsNone) {
   EXPECT_EQ(SizeOfT(belief, Success::AboveNull, 0.8, {2}, [] { return true; }).Reason(), NoValue::Stopped);
   const auto nan = [](double) { return Answer(std::numeric_limits<double>::quiet_NaN()); };
   EXPECT_EQ(FirstSize(nan, belief, Success::AboveNull, 0.8, {2}).Reason(), NoValue::NotReached);
+  const auto uncalled = [](double) -> Answer {
+    ADD_FAILURE() << "the limit is known before";
+    return 0;
+  };
+  EXPECT_EQ(FirstSize(uncalled, belief, Success::AboveNull, 0.85, {2}).Reason(), NoValue::NotReached);
+  EXPECT_EQ(SizeOfT(belief, Success::AboveNull, 0.5, {0}).Reason(), NoValue::Refused);
+  EXPECT_EQ(SizeOfT(belief, Success::AboveNull, 0.5, {2, 1e10}).Reason(), NoValue::Refused);
   const auto refused = [](double) { return Answer(NoValue::Refused); };
   EXPECT_EQ(FirstSize(refused, belief, Success::AboveNull, 0.8, {2}).Reason(), NoValue::NotReached);
 }
