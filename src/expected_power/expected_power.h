@@ -19,7 +19,8 @@ struct Belief {
   double null = 0;  ///< the effect that the test takes for none; the power of a large study bends near it
 };
 
-/// The power of a test, 0 to 1, at an effect of either sign; the direction that the test looks for stays the same.
+/// The power of a test, 0 to 1, at an effect of either sign; the direction that the test looks for stays the same. It is
+/// asked at effects up to 8.5 standard deviations of the belief from its mean, impossible ones among them.
 using PowerOfEffect = FunctionView<double(double effect)>;
 
 /// The power averaged over the belief; absolute error below 1e-10. That holds for a power which depends on the distance
