@@ -9,12 +9,12 @@ namespace {
 
 using KelMath::KelDistFun;
 
-const std::vector<double> kMeans = {10, 12, 15};
-const std::vector<double> kSizes = {20, 20, 20};
+const std::vector<double> usualMeans = {10, 12, 15};
+const std::vector<double> usualSizes = {20, 20, 20};
 
 void PowerOfOverallTest(benchmark::State& state) {
   for (auto _ : state) {
-    benchmark::DoNotOptimize(PowerOverallTest(3, kMeans.data(), 6, kSizes.data(), 0.05));
+    benchmark::DoNotOptimize(PowerOverallTest(3, usualMeans.data(), 6, usualSizes.data(), 0.05));
   }
 }
 BENCHMARK(PowerOfOverallTest);
@@ -23,7 +23,8 @@ void PowerOfContrast(benchmark::State& state) {
   std::vector<double> coefficients = {1, 0, -1};
   const int isDirectional = static_cast<int>(state.range(0));
   for (auto _ : state) {
-    benchmark::DoNotOptimize(PowerSC(3, kMeans.data(), 6, kSizes.data(), coefficients.data(), isDirectional, 0.05));
+    benchmark::DoNotOptimize(
+        PowerSC(3, usualMeans.data(), 6, usualSizes.data(), coefficients.data(), isDirectional, 0.05));
   }
 }
 BENCHMARK(PowerOfContrast)->ArgName("directional")->Arg(0)->Arg(1);
@@ -31,7 +32,7 @@ BENCHMARK(PowerOfContrast)->ArgName("directional")->Arg(0)->Arg(1);
 void SizeOfOverallTest(benchmark::State& state) {
   DoubleVector sizes;
   for (auto _ : state) {
-    benchmark::DoNotOptimize(PowerReverseOverallTest(3, kMeans.data(), 6, kSizes.data(), 0.8, sizes, 0.05));
+    benchmark::DoNotOptimize(PowerReverseOverallTest(3, usualMeans.data(), 6, usualSizes.data(), 0.8, sizes, 0.05));
   }
 }
 BENCHMARK(SizeOfOverallTest);
@@ -40,7 +41,7 @@ void SizeThatDoesNotExist(benchmark::State& state) {
   const std::vector<double> equal = {5, 5, 5};
   DoubleVector sizes;
   for (auto _ : state) {
-    benchmark::DoNotOptimize(PowerReverseOverallTest(3, equal.data(), 6, kSizes.data(), 0.8, sizes, 0.05));
+    benchmark::DoNotOptimize(PowerReverseOverallTest(3, equal.data(), 6, usualSizes.data(), 0.8, sizes, 0.05));
   }
 }
 BENCHMARK(SizeThatDoesNotExist)->Unit(benchmark::kMillisecond);
@@ -48,7 +49,7 @@ BENCHMARK(SizeThatDoesNotExist)->Unit(benchmark::kMillisecond);
 void SizeForHalfWidth(benchmark::State& state) {
   DoubleVector sizes;
   for (auto _ : state) {
-    benchmark::DoNotOptimize(PowerReversebyHalfCIOverallTest(1.0, 3, kSizes.data(), 6, sizes, 0.05));
+    benchmark::DoNotOptimize(PowerReversebyHalfCIOverallTest(1.0, 3, usualSizes.data(), 6, sizes, 0.05));
   }
 }
 BENCHMARK(SizeForHalfWidth);
@@ -56,7 +57,7 @@ BENCHMARK(SizeForHalfWidth);
 // A surface of 500 sizes by 50 effects, and the 25,000 noncentral probabilities that it cannot do without.
 void SurfaceOfSizesAndEffects(benchmark::State& state) {
   for (auto _ : state) {
-    XYZPlot plot = PlotNaESOverallTest(3, 0.3, 0, kSizes.data(), 10, 509, 0.02, 1.0, 0.05, 1.0 / 49);
+    XYZPlot plot = PlotNaESOverallTest(3, 0.3, 0, usualSizes.data(), 10, 509, 0.02, 1.0, 0.05, 1.0 / 49);
     benchmark::DoNotOptimize(plot.z);
     FreeMemXYZPlot(&plot);
   }
@@ -64,7 +65,7 @@ void SurfaceOfSizesAndEffects(benchmark::State& state) {
 BENCHMARK(SurfaceOfSizesAndEffects)->Unit(benchmark::kMillisecond);
 
 void NoncentralProbabilitiesOfThatSurface(benchmark::State& state) {
-  XYZPlot plot = PlotNaESOverallTest(3, 0.3, 0, kSizes.data(), 10, 509, 0.02, 1.0, 0.05, 1.0 / 49);
+  XYZPlot plot = PlotNaESOverallTest(3, 0.3, 0, usualSizes.data(), 10, 509, 0.02, 1.0, 0.05, 1.0 / 49);
   std::vector<double> critical;
   for (int i = 0; i < plot.xCount; ++i) critical.push_back(KelDistFun::IdfF(0.95, 2, plot.x[i] - 3));
   for (auto _ : state) {

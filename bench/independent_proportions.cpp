@@ -37,12 +37,12 @@ void ExactPowerAgainstItsDefinition(benchmark::State& state) {
   const proportions::IndependentDesign test{tested, /*isExact=*/true, /*isOneSided=*/false, 0.05};
   const double literal =
       Seconds(5, [&] { benchmark::DoNotOptimize(LiteralExactPower(test, n, n, 0.3, 0.5, nullptr)); });
-  constexpr int kMany = 100;  // the clock counts microseconds
+  constexpr int manyCases = 100;  // the clock counts microseconds
   const double ours = Seconds(5, [&] {
-    for (int i = 0; i < kMany; ++i) benchmark::DoNotOptimize(Power(n, 1, method));
+    for (int i = 0; i < manyCases; ++i) benchmark::DoNotOptimize(Power(n, 1, method));
   });
   for (auto _ : state) benchmark::DoNotOptimize(Power(n, 1, method));
-  state.counters["ratio"] = literal / (ours / kMany);
+  state.counters["ratio"] = literal / (ours / manyCases);
 }
 BENCHMARK(ExactPowerAgainstItsDefinition)->ArgName("method")->DenseRange(0, 3)->Unit(benchmark::kMicrosecond);
 

@@ -3,6 +3,7 @@
 #include "catalogue/catalogue.h"
 #include "kelpower.h"
 #include "solve/chart.h"
+#include "solve/design_solver.h"
 #include "solve/prepared_question.h"
 #include "solve/solve.h"
 #include "words/render.h"
@@ -64,6 +65,51 @@ void CheapPreparedRow(benchmark::State& state) {
   }
 }
 BENCHMARK(CheapPreparedRow)->Name("planner/half_width/prepared_row");
+
+// A design of a file beside the library's own call: its shape is looked up, its numbers are put in, the results collected.
+void DesignRowSolved(benchmark::State& state) {
+  const planner::Test& test = TwoMeans();
+  planner::DesignSolver solver;
+  planner::DesignRow row;
+  const auto parameter = [&](const char* name) { return planner::FindParameter(test, std::string_view(name)); };
+  const planner::Parameter& means = *parameter("means");
+  const planner::Parameter& sd = *parameter("sd");
+  const planner::Parameter& n = *parameter("n");
+  const double sds[] = {10, 14};
+  const double sizes[] = {40, 60};
+  double mean = 50;
+  for (auto _ : state) {
+    const double pair[] = {NextMean(mean), 47};
+    row.Start(test);
+    row.AddNumbers(means, pair);
+    row.AddNumbers(sd, sds);
+    row.AddNumbers(n, sizes);
+    benchmark::DoNotOptimize(solver.Solve(row).values.data());
+  }
+}
+BENCHMARK(DesignRowSolved)->Name("planner/power/design_row");
+
+void CheapDesignRow(benchmark::State& state) {
+  const planner::Test& test = *planner::FindTest("partial");
+  planner::DesignSolver solver;
+  planner::DesignRow row;
+  const auto parameter = [&](const char* name) { return planner::FindParameter(test, std::string_view(name)); };
+  const planner::Parameter& correlation = *parameter("r");
+  const planner::Parameter& count = *parameter("partialled-out");
+  const planner::Parameter& n = *parameter("n");
+  const planner::Parameter& interval = *parameter("interval");
+  double r = 0.1;
+  for (auto _ : state) {
+    r = r < 0.9 ? r + 1e-4 : 0.1;
+    row.Start(test);
+    row.AddNumber(correlation, r);
+    row.AddNumber(count, 3);
+    row.AddNumber(n, 84);
+    row.AddFlag(interval, true);
+    benchmark::DoNotOptimize(solver.Solve(row).values.data());
+  }
+}
+BENCHMARK(CheapDesignRow)->Name("planner/half_width/design_row");
 
 void WholeSolve(benchmark::State& state) {
   for (auto _ : state) benchmark::DoNotOptimize(planner::Solve(TwoMeans(), design).value);

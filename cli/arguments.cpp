@@ -3,11 +3,13 @@
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <utility>
 
 #include "catalogue/catalogue.h"
+#include "hints.h"
 #include "nearest.h"
 #include "usage_error.h"
-#include "words/alternatives.h"
 #include "words/numbers.h"
 #include "words/parse.h"
 
@@ -17,8 +19,11 @@ using planner::Kind;
 using planner::Parameter;
 using planner::Test;
 
-const std::vector<std::pair<std::string, Format>> formats{
-    {"text", Format::Text}, {"json", Format::Json}, {"csv", Format::Csv}, {"markdown", Format::Markdown}};
+const std::vector<std::pair<std::string, Format>> formats{{"text", Format::Text},
+                                                          {"json", Format::Json},
+                                                          {"csv", Format::Csv},
+                                                          {"markdown", Format::Markdown},
+                                                          {"ndjson", Format::Ndjson}};
 
 CLI::Option* AddOption(CLI::App& app, const std::string& names) {
   CLI::Option* option = app.add_option(names);
@@ -41,10 +46,19 @@ std::string NameOf(const Parameter& parameter) { return fmt::format("--{}", para
 /// Options that have a use only with a chart.
 const std::vector<std::string> chartOptions{"from", "to", "step", "y", "title", "width", "height", "dpi", "output"};
 
+void AddRun(CLI::App& app) {
+  CLI::App* command = AddCommand(app, "run");
+  AddOption(*command, "file");
+  for (const char* name : {"--test", "--output", "--jobs"}) AddOption(*command, name);
+}
+
 void AddTest(CLI::App& app, const Test& test) {
   CLI::App* command = AddCommand(app, test.name);
+  for (const std::string& name : OtherNamesOf(test.name)) command->alias(name);
+  command->add_flag("--explain");
   AddOption(*command, "--chart");
   for (const std::string& name : chartOptions) AddOption(*command, "--" + name);
+  for (const char* name : {"--save", "--jobs"}) AddOption(*command, name);
   for (const Parameter& parameter : test.parameters) {
     std::string names = NameOf(parameter);
     for (const std::string& alias : parameter.aliases) names += ",--" + alias;
@@ -78,48 +92,65 @@ Format FormatOf(const CLI::App& command) {
   for (const auto& [word, format] : formats) {
     if (word == *text) return format;
   }
-  throw UsageError(fmt::format("--format is \"{}\", but must be text, json, csv or markdown.", *text));
+  throw UsageError(fmt::format("--format is \"{}\", but must be text, json, csv, markdown or ndjson.", *text));
 }
 
-/// Sets an input of a chart. One of them may have several values.
-void SetChartInput(const CLI::App& command, const Parameter& parameter, Request& request) {
-  const std::string name(parameter.name.Text());
-  const std::vector<std::string> texts = command.get_option("--" + name)->results();
-  std::vector<planner::Value> values = planner::ParseAlternatives(parameter, texts);
-  if (values.size() == 1) {
-    request.values[name] = values.front();
-    return;
-  }
-  std::optional<planner::Alternatives>& alternatives = request.chart.alternatives;
-  if (alternatives) {
-    throw UsageError(
-        fmt::format("--{} and --{} both have several values, but a chart varies one.", alternatives->input, name));
-  }
-  alternatives = planner::Alternatives{name, std::move(values)};
-}
-
-void ReadChartInputs(const CLI::App& command, Request& request) {
-  for (const Parameter& parameter : request.test->parameters) {
-    const std::string name(parameter.name.Text());
-    if (parameter.kind == Kind::Flag) {
-      if (FlagOf(command, name)) request.values[name] = true;
-    } else if (command.get_option("--" + name)->count() > 0) {
-      SetChartInput(command, parameter, request);
+/// All that is given for an option: several times, and several values at a time.
+planner::Alternatives AlternativesOf(const Parameter& parameter, const CLI::Option& option) {
+  planner::Alternatives alternatives{&parameter, {}};
+  for (const std::string& text : option.results()) {
+    for (planner::Value& value : planner::ParseAlternatives(parameter, text)) {
+      alternatives.values.push_back(std::move(value));
     }
   }
+  return alternatives;
 }
 
-planner::InputValues ValuesOf(const CLI::App& command, const Test& test) {
+/// What is given for the inputs, in the order of the command line.
+std::vector<planner::Alternatives> AlternativesOf(const CLI::App& command, const Test& test) {
+  std::vector<planner::Alternatives> all;
+  std::vector<const CLI::Option*> seen;
+  for (const CLI::Option* option : command.parse_order()) {
+    if (std::find(seen.begin(), seen.end(), option) != seen.end()) continue;
+    seen.push_back(option);
+    const Parameter* parameter = planner::FindParameter(test, std::string_view(option->get_lnames().front()));
+    if (!parameter) continue;
+    if (parameter->kind != Kind::Flag) {
+      all.push_back(AlternativesOf(*parameter, *option));
+    } else if (FlagOf(command, option->get_lnames().front())) {
+      all.push_back({parameter, {true}});
+    }
+  }
+  return all;
+}
+
+/// The values of a single design.
+planner::InputValues ValuesOf(const std::vector<planner::Alternatives>& alternatives) {
   planner::InputValues values;
-  for (const Parameter& parameter : test.parameters) {
-    const std::string name(parameter.name.Text());
-    if (parameter.kind == Kind::Flag) {
-      if (FlagOf(command, name)) values[name] = true;
-    } else if (const std::string* text = TextOf(command, name)) {
-      values[name] = planner::Parse(parameter, *text);
-    }
-  }
+  for (const auto& [parameter, all] : alternatives) values[std::string(parameter->name.Text())] = all.front();
   return values;
+}
+
+/// What has several values, or null.
+const Parameter* Varying(const std::vector<planner::Alternatives>& alternatives) {
+  for (const auto& [parameter, all] : alternatives) {
+    if (all.size() > 1) return parameter;
+  }
+  return nullptr;
+}
+
+unsigned JobsOf(const CLI::App& command) {
+  const std::string* text = TextOf(command, "jobs");
+  if (!text) return 0;
+  return static_cast<unsigned>(
+      std::get<double>(planner::Parse(planner::Number("jobs", "", "").Whole().AtLeast(1).AtMost(1024), *text)));
+}
+
+/// The file that an option names; empty without it.
+std::string FileOf(const CLI::App& command, const std::string& name) {
+  const std::string* text = TextOf(command, name);
+  if (text && text->empty()) throw UsageError(fmt::format("--{} is empty, but must name a file.", name));
+  return text ? *text : "";
 }
 
 planner::Numbers Ends(planner::Name name, const std::string& text) {
@@ -172,6 +203,10 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
 
 [[noreturn]] void RejectExtra(const CLI::App& command, const std::string& extra) {
   const std::string option = extra.substr(0, extra.find('='));
+  const planner::Test* test = planner::FindTest(command.get_name());
+  if (const std::string known = test ? HintForOption(*test, option) : ""; !known.empty()) {
+    throw UsageError(fmt::format("\"{}\" is not an option of {}; {}.", option, command.get_name(), known));
+  }
   const std::string nearest = Nearest(option, OptionNames(command));
   const std::string hint = nearest.empty() ? fmt::format("\"kelpower {} --help\" names them", command.get_name())
                                            : fmt::format("did you mean {}?", nearest);
@@ -180,27 +215,75 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
 }
 
 [[noreturn]] void RejectCommand(const std::string& word) {
-  std::vector<std::string> names{"list"};
+  if (const std::string known = HintForTest(word); !known.empty()) {
+    throw UsageError(fmt::format("\"{}\" is not a test; {}.", word, known));
+  }
+  std::vector<std::string> names{"list", "run"};
   for (const Test& test : planner::Tests()) names.push_back(test.name);
   const std::string nearest = Nearest(word, names);
   if (!nearest.empty()) throw UsageError(fmt::format("\"{}\" is not a test; did you mean {}?", word, nearest));
   throw UsageError(fmt::format("\"{}\" is not a test; \"kelpower list\" names them.", word));
 }
 
+/// The input of a chart that has several values, if any: each is a curve.
+std::optional<planner::Alternatives> OfChart(const std::vector<planner::Alternatives>& all) {
+  std::optional<planner::Alternatives> several;
+  for (const planner::Alternatives& alternatives : all) {
+    if (alternatives.values.size() < 2) continue;
+    if (several) {
+      throw UsageError(fmt::format("{} and {} both have several values, but a chart varies one.",
+                                   NameOf(*several->parameter), NameOf(*alternatives.parameter)));
+    }
+    several = alternatives;
+  }
+  return several;
+}
+
+/// An explanation is of one answer, and takes more room than a row.
+void RejectUnexplainable(const Request& request) {
+  if (request.command == Command::Table && Varying(request.alternatives)) {
+    throw UsageError(
+        fmt::format("{} has several values, but --explain is of one design.", NameOf(*Varying(request.alternatives))));
+  }
+  if (request.format == Format::Csv || request.format == Format::Ndjson) {
+    throw UsageError("--explain does not go with --format csv or ndjson: text, json and markdown have room for it.");
+  }
+}
+
 void ReadTest(const CLI::App& command, Request& request) {
+  request.alternatives = AlternativesOf(command, *request.test);
+  request.values = ValuesOf(request.alternatives);
+  request.jobs = JobsOf(command);
+  request.save = FileOf(command, "save");
+  request.isExplained = FlagOf(command, "explain");
   const std::string* chart = TextOf(command, "chart");
   if (!chart) {
-    request.values = ValuesOf(command, *request.test);
-    return RejectChartOptions(command);
+    if (Varying(request.alternatives) || request.format == Format::Ndjson) request.command = Command::Table;
+    RejectChartOptions(command);
+    if (request.isExplained) RejectUnexplainable(request);
+    return;
   }
+  if (request.isExplained) throw UsageError("--explain and --chart exclude each other.");
+  if (!request.save.empty()) throw UsageError("--save has no use together with --chart.");
   request.command = Command::Chart;
   request.chart = ChartOf(command, *chart);
+  request.chart.alternatives = OfChart(request.alternatives);
+  if (request.chart.alternatives) request.values.erase(std::string(request.chart.alternatives->parameter->name.Text()));
   request.picture = PictureOf(command);
-  ReadChartInputs(command, request);
-  if (const std::string* output = TextOf(command, "output")) {
-    if (output->empty()) throw UsageError("--output is empty, but must name a file.");
-    request.output = *output;
+  request.output = FileOf(command, "output");
+}
+
+void ReadRun(const CLI::App& command, Request& request) {
+  request.command = Command::Run;
+  const CLI::Option* file = command.get_option("file");
+  if (file->count() == 0) throw UsageError("No file is named; \"kelpower run --help\" says how.");
+  request.input = file->results().front();
+  if (const std::string* name = TextOf(command, "test")) {
+    request.test = planner::FindTest(*name);
+    if (!request.test) RejectCommand(*name);
   }
+  request.output = FileOf(command, "output");
+  request.jobs = JobsOf(command);
 }
 
 Request RequestOf(const CLI::App& app) {
@@ -213,16 +296,21 @@ Request RequestOf(const CLI::App& app) {
     return request;
   }
   const CLI::App& command = *app.get_subcommands().front();
-  request.test = planner::FindTest(command.get_name());
+  const bool isRun = command.get_name() == "run";
+  if (!isRun) request.test = planner::FindTest(command.get_name());
   const bool help = FlagOf(command, "help");
   if (help || FlagOf(app, "help")) {
-    request.command = request.test ? Command::TestHelp : Command::Overview;
+    request.command = request.test ? Command::TestHelp : isRun ? Command::RunHelp : Command::Overview;
     return request;
   }
   request.format = FormatOf(command);
-  request.isFormatGiven = TextOf(command, "format") != nullptr;
+  if (TextOf(command, "format")) request.formatGiven = request.format;
   request.command = request.test ? Command::Solve : Command::List;
-  if (request.test) ReadTest(command, request);
+  if (isRun) {
+    ReadRun(command, request);
+  } else if (request.test) {
+    ReadTest(command, request);
+  }
   if (const auto extras = app.remaining(true); !extras.empty()) RejectExtra(command, extras.front());
   return request;
 }
@@ -237,6 +325,7 @@ Request ParseArguments(int argc, const char* const* argv) {
   app.add_flag("--help,-h");
   app.add_flag("--version");
   AddCommand(app, "list");
+  AddRun(app);
   for (const Test& test : planner::Tests()) AddTest(app, test);
   try {
     app.parse(argc, argv);

@@ -61,7 +61,7 @@ const FileKind* KindOfFormat(Format format) {
 /// What is written: the format asked for, or without one what the file's name says.
 const FileKind& KindOf(const Request& request) {
   const FileKind* named = request.output.empty() ? nullptr : KindOfName(request.output);
-  if (!request.isFormatGiven && !request.output.empty()) {
+  if (!request.formatGiven && !request.output.empty()) {
     if (named) return *named;
     throw UsageError(
         fmt::format("--output is \"{}\", but must end in .svg, .png, .pdf, .csv or .json.", request.output));

@@ -2,11 +2,9 @@
 
 #include <fmt/format.h>
 
-#include <cstdio>
 #include <utility>
 
 #include "interrupts.h"
-#include "terminal.h"
 
 namespace {
 
@@ -14,25 +12,14 @@ namespace {
 constexpr std::uint32_t questionsPerLook = 4096;
 constexpr std::chrono::seconds linePeriod{1};
 
-void PutOnTerminal(const std::string& text) {
-  std::fputs(text.c_str(), stderr);
-  std::fflush(stderr);
-}
-
 }  // namespace
 
 Computation::Computation(std::string what)
-    : what_(std::move(what)),
-      isShown_(IsTerminal(stderr)),
-      questionsLeft_(questionsPerLook),
-      nextLine_(start_ + linePeriod) {
+    : what_(std::move(what)), questionsLeft_(questionsPerLook), nextLine_(start_ + linePeriod) {
   NoteInterrupts();
 }
 
-Computation::~Computation() {
-  LetInterruptsEndTheProgram();
-  if (shownWidth_ > 0) PutOnTerminal('\r' + std::string(shownWidth_, ' ') + '\r');
-}
+Computation::~Computation() { LetInterruptsEndTheProgram(); }
 
 bool Computation::ShouldStop() {
   if (IsInterrupted()) return true;
@@ -40,16 +27,14 @@ bool Computation::ShouldStop() {
   return false;
 }
 
-// The library does not say how much is left, nor does it know in a search: only the time spent is told. The line fits a
-// terminal of forty columns, so that it can be overwritten.
+// Only the time spent is shown. How much is left the library does not say, and in a search it does not know. The line
+// fits a terminal of forty columns, so that it can be overwritten.
 void Computation::LookAtTheClock() {
   questionsLeft_ = questionsPerLook;
-  if (!isShown_) return;
+  if (!line_.IsShown()) return;
   const Clock::time_point now = Clock::now();
   if (now < nextLine_) return;
   nextLine_ = now + linePeriod;
   const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(now - start_).count();
-  const std::string line = fmt::format("Computing {}, {} s so far", what_, seconds);
-  PutOnTerminal('\r' + line);
-  shownWidth_ = line.size();
+  line_.Show(fmt::format("Computing {}, {} s so far", what_, seconds));
 }

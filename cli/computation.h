@@ -1,14 +1,16 @@
-#pragma once
+#ifndef KELPOWER_CLI_COMPUTATION_H
+#define KELPOWER_CLI_COMPUTATION_H
 
 #include <chrono>
 #include <cstdint>
 #include <string>
 
 #include "model/stop_request.h"
+#include "status_line.h"
 
 /// A computation that may take long. While it lives, Ctrl-C makes it answer that the library should stop, and a second
-/// Ctrl-C ends the program at once. Where the error stream is a terminal, a line tells how long it has been going on;
-/// it is gone when the computation is.
+/// Ctrl-C ends the program at once. Where the error stream is a terminal, a line shows how long it has been going on.
+/// The line goes when the computation ends.
 class Computation : public planner::StopRequest {
 public:
   /// `what` is computed, in few words: "the sample size".
@@ -25,9 +27,10 @@ private:
   void LookAtTheClock();
 
   std::string what_;
-  bool isShown_;                 // the error stream is a terminal
-  std::size_t shownWidth_ = 0;   // of the line that stands there
+  StatusLine line_;
   std::uint32_t questionsLeft_;  // until the clock is looked at
   Clock::time_point start_ = Clock::now();
   Clock::time_point nextLine_;
 };
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_GNUPLOT_H
+#define KELPOWER_CLI_GNUPLOT_H
 
 #include <string>
 
@@ -15,3 +16,5 @@ struct GnuplotRun {
 /// Runs gnuplot over the commands. Each system has a file of its own for it. Throws a std::runtime_error when there is
 /// no room for its files.
 GnuplotRun StartGnuplot(const std::string& commands);
+
+#endif

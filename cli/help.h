@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_HELP_H
+#define KELPOWER_CLI_HELP_H
 
 #include <string>
 
@@ -11,5 +12,10 @@ std::string OptionOf(std::string_view input);
 /// What a test is, takes and answers, with worked examples.
 std::string HelpOf(const planner::Test& test, const planner::Highlights& highlights = {});
 
+/// What files of designs look like, and how they are answered.
+std::string HelpOfRun(const planner::Highlights& highlights = {});
+
 /// The tests that there are, one a line.
 std::string ListOfTests(const planner::Highlights& highlights = {});
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_INTERRUPTS_H
+#define KELPOWER_CLI_INTERRUPTS_H
 
 /// \file
 /// What Ctrl-C does. Each system has a file of its own for it.
@@ -23,3 +24,5 @@ public:
 private:
   bool waitedBefore_;
 };
+
+#endif

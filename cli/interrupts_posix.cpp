@@ -10,7 +10,7 @@ static_assert(std::atomic<bool>::is_always_lock_free, "a signal handler may set 
 
 extern "C" void NoteInterrupt(int) { isInterrupted.store(true, std::memory_order_relaxed); }
 
-/// A program started in the background by a shell without job control ignores the signal; so it stays.
+/// A shell without job control starts a program in the background with the signal ignored. It then stays ignored.
 bool IsIgnored(int signal) {
   struct sigaction current {};
   return sigaction(signal, nullptr, &current) == 0 && current.sa_handler == SIG_IGN;

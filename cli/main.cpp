@@ -7,6 +7,7 @@
 #include "arguments.h"
 #include "chart.h"
 #include "computation.h"
+#include "designs.h"
 #include "help.h"
 #include "solve/solve.h"
 #include "terminal.h"
@@ -24,6 +25,7 @@ std::string Overview(const planner::Highlights& highlights) {
       "  kelpower TEST [options]   what you leave out is what is solved for\n"
       "  kelpower TEST --help      what a test takes and answers, with examples\n"
       "  kelpower TEST ... --chart NAME   draw the power of a design\n"
+      "  kelpower run FILE         answer a file of designs; kelpower run --help says how\n"
       "  kelpower list             the tests; with --format json their descriptions\n"
       "  kelpower --version\n\n"
       "{0}Tests{1}\n{2}",
@@ -36,6 +38,7 @@ std::string Rendered(const planner::Report& report, Format format, const planner
     case Format::Json: return planner::RenderJson(report);
     case Format::Csv: return planner::RenderCsv(report);
     case Format::Markdown: return planner::RenderMarkdown(report);
+    case Format::Ndjson: break;  // a table, even of one design
   }
   return "";
 }
@@ -49,7 +52,10 @@ std::string List(Format format, const planner::Highlights& highlights) {
 planner::Report Solved(const Request& request) {
   const bool findsSizes = request.values.count("power") + request.values.count("half-width") > 0;
   Computation computation(findsSizes ? "the sample size" : "the answer");
-  return planner::MakeReport(planner::Solve(*request.test, request.values, &computation));
+  const planner::Answer answer = planner::Solve(*request.test, request.values, &computation);
+  planner::Report report = planner::MakeReport(answer);
+  if (request.isExplained) report.explanation = planner::Explain(answer);
+  return report;
 }
 
 std::string Answer(const Request& request, const planner::Highlights& highlights) {
@@ -58,8 +64,11 @@ std::string Answer(const Request& request, const planner::Highlights& highlights
     case Command::Version: return "kelpower " KELPOWER_VERSION "\n";
     case Command::List: return List(request.format, highlights);
     case Command::TestHelp: return HelpOf(*request.test, highlights);
+    case Command::RunHelp: return HelpOfRun(highlights);
     case Command::Solve: return Rendered(Solved(request), request.format, highlights);
     case Command::Chart: return ChartAnswer(request);
+    case Command::Table:
+    case Command::Run: break;  // printed as they are computed
   }
   return "";
 }
@@ -78,12 +87,24 @@ Status Complain(const std::string& sentence, Status status) {
 /// The problem in the names of the options.
 std::string SentenceOf(const planner::Failure& failure) { return planner::Sentence(failure.problem, OptionOf); }
 
+Status AnswerDesigns(const Request& request, const planner::Highlights& highlights) {
+  const bool isWhole = request.command == Command::Run ? RunFile(request) : PrintTable(request, highlights);
+  return isWhole ? done : Complain("The computation was stopped; the rows up to there are whole.", interrupted);
+}
+
+Status Do(const Request& request, const planner::Highlights& highlights) {
+  const bool isOfMany = request.command == Command::Run || request.command == Command::Table;
+  const Status status = isOfMany ? AnswerDesigns(request, highlights) : Print(Answer(request, highlights));
+  if (status == done) SaveDesign(request);
+  return status;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   PrepareStandardStreams();
   try {
-    return Print(Answer(ParseArguments(argc, argv), HighlightsFor(stdout)));
+    return Do(ParseArguments(argc, argv), HighlightsFor(stdout));
   } catch (const UsageError& error) {
     return Complain(error.what(), wrongInput);
   } catch (const planner::InputError& error) {

@@ -21,6 +21,11 @@ std::size_t Distance(const std::string& from, const std::string& to) {
   return row.back();
 }
 
+/// The letters without the dashes before an option.
+std::size_t Letters(const std::string& word) {
+  return word.size() - std::min(word.find_first_not_of('-'), word.size());
+}
+
 }  // namespace
 
 std::string Nearest(const std::string& typed, const std::vector<std::string>& words) {
@@ -30,7 +35,7 @@ std::string Nearest(const std::string& typed, const std::vector<std::string>& wo
   std::size_t least = 3;  // more letters off than two is another word
   for (const std::string& word : words) {
     const std::size_t distance = Distance(typed, word);
-    if (distance >= least || 2 * distance >= word.size()) continue;
+    if (distance >= least || 2 * distance >= Letters(word)) continue;
     least = distance;
     nearest = word;
   }

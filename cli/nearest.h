@@ -1,8 +1,11 @@
-#pragma once
+#ifndef KELPOWER_CLI_NEAREST_H
+#define KELPOWER_CLI_NEAREST_H
 
 #include <string>
 #include <vector>
 
 /// The word of `words` that needs the fewest letters changed, added or left out to become `typed`; empty when even that
-/// one is far off.
+/// word is far off.
 std::string Nearest(const std::string& typed, const std::vector<std::string>& words);
+
+#endif

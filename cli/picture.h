@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_PICTURE_H
+#define KELPOWER_CLI_PICTURE_H
 
 #include <optional>
 #include <string>
@@ -19,3 +20,5 @@ std::string PdfPicture(const planner::ChartData& chart, const PictureOptions& op
 
 /// The chart in characters, as large as the terminal.
 std::string PictureInCharacters(const planner::ChartData& chart, const PictureOptions& options);
+
+#endif

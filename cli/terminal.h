@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_TERMINAL_H
+#define KELPOWER_CLI_TERMINAL_H
 
 #include <cstdio>
 
@@ -20,6 +21,9 @@ TerminalSize SizeOf(std::FILE* stream);
 /// Lets the standard streams take text as it is. To be called first.
 void PrepareStandardStreams();
 
+/// Lets the standard input give its bytes as they are.
+void PrepareStandardInput();
+
 /// Whether `stream` is a terminal.
 bool IsTerminal(std::FILE* stream);
 
@@ -28,3 +32,5 @@ bool ShowsColors(std::FILE* stream);
 
 /// The columns and lines that the terminal of `stream` shows, 0 where they are not known.
 TerminalSize WindowOf(std::FILE* stream);
+
+#endif

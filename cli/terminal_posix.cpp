@@ -5,6 +5,8 @@
 
 void PrepareStandardStreams() {}
 
+void PrepareStandardInput() {}
+
 bool IsTerminal(std::FILE* stream) { return isatty(fileno(stream)) != 0; }
 
 bool ShowsColors(std::FILE* stream) { return IsTerminal(stream); }

@@ -17,6 +17,8 @@ void PrepareStandardStreams() {
   SetConsoleOutputCP(CP_UTF8);
 }
 
+void PrepareStandardInput() { _setmode(_fileno(stdin), _O_BINARY); }
+
 bool IsTerminal(std::FILE* stream) {
   // The null device, too, is a character device.
   DWORD mode = 0;

@@ -36,6 +36,24 @@ function(kel_precompile target)
   endif()
 endfunction()
 
+# kel_add_headers(name LIBRARIES library... HEADERS header...)
+# Reads the headers once for all targets that take them with kel_use_headers. These must be compiled as the libraries say,
+# and with C++17.
+function(kel_add_headers name)
+  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "LIBRARIES;HEADERS")
+  file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp CONTENT "// Holds precompiled headers.\n")
+  add_library(${name} OBJECT EXCLUDE_FROM_ALL ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+  kel_compile_options(${name})
+  target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES})
+  kel_precompile(${name} ${ARG_HEADERS})
+endfunction()
+
+function(kel_use_headers target name)
+  if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    target_precompile_headers(${target} REUSE_FROM ${name})
+  endif()
+endfunction()
+
 # Makes the library `name` from SOURCES and the CORE under them. Of a shared one only the names in the file EXPORTS are visible: one a line, a C
 # name or a demangled C++ signature. Blank lines and lines that start with # are skipped. The objects of SOURCES stand
 # alone as `<name>_objects`, so that tests reach the internal routines which the library hides. The core is the static

@@ -34,6 +34,10 @@ function(kel_left_out result name)
   endforeach()
 endfunction()
 
+# What nearly every test program includes.
+kel_add_headers(kel_test_headers LIBRARIES GTest::gtest_main
+  HEADERS <gtest/gtest.h> <algorithm> <cmath> <functional> <map> <random> <string> <vector>)
+
 # kel_add_test(name sources... [LABELS label...] [LIBRARIES library...])
 # Adds the GoogleTest program `name` as one test. It is linked with the objects of the library and not with the library
 # itself, so that it reaches the internal routines too. The first test label is the folder's name.
@@ -47,6 +51,7 @@ function(kel_add_test name)
   kel_compile_options(${name})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE kelpower_objects kelcommon GTest::gtest_main ${ARG_LIBRARIES})
+  kel_use_headers(${name} kel_test_headers)
   kel_register_test(${name} LABELS ${ARG_LABELS} COMMAND ${name})
 endfunction()
 

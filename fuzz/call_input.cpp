@@ -14,20 +14,20 @@ using keltest::Arguments;
 using keltest::Target;
 
 // More groups than this take the same paths.
-constexpr std::int32_t kMostGroups = 12;
+constexpr std::int32_t mostGroups = 12;
 
 // A vector of sizes holds fewer numbers than this before the call.
-constexpr std::int32_t kVectorLengths = 16;
+constexpr std::int32_t vectorLengths = 16;
 
 // Integers from -8 on are one byte, up to this value of it; beyond, the byte says that all four follow.
-constexpr std::int32_t kIntegerShift = 8;
-constexpr std::uint8_t kLastShortInteger = 239;
+constexpr std::int32_t integerShift = 8;
+constexpr std::uint8_t lastShortInteger = 239;
 
 // Any kind of number that `Reader` takes for a bit pattern.
-constexpr std::uint8_t kBitPattern = 4;
+constexpr std::uint8_t bitPattern = 4;
 
-enum StopKind : std::uint8_t { kNull, kNever, kFromQuestion };
-constexpr std::uint8_t kStopKinds = 3;
+enum StopKind : std::uint8_t { nullValue, neverStops, fromQuestion };
+constexpr std::uint8_t stopKinds = 3;
 
 // FNV-1a, folded to 16 bits.
 std::uint16_t Hash(const std::string& name) {
@@ -49,7 +49,7 @@ bool HasArrays(const Target& target) { return target.function->arguments.find_fi
 
 std::int32_t ReadInteger(Reader& reader) {
   const std::uint8_t byte = reader.Byte();
-  return byte <= kLastShortInteger ? byte - kIntegerShift : static_cast<std::int32_t>(reader.Bits(4));
+  return byte <= lastShortInteger ? byte - integerShift : static_cast<std::int32_t>(reader.Bits(4));
 }
 
 std::vector<double> ReadNumbers(Reader& reader, std::int32_t count) {
@@ -60,10 +60,10 @@ std::vector<double> ReadNumbers(Reader& reader, std::int32_t count) {
 }
 
 void ReadStopRequest(Reader& reader, Argument& argument) {
-  const std::uint8_t kind = reader.Byte() % kStopKinds;
-  argument.isNull = kind == kNull;
+  const std::uint8_t kind = reader.Byte() % stopKinds;
+  argument.isNull = kind == nullValue;
   argument.stopRequest.stopsAt =
-      kind == kFromQuestion ? static_cast<std::int64_t>(reader.Bits(4)) : std::numeric_limits<std::int64_t>::max();
+      kind == fromQuestion ? static_cast<std::int64_t>(reader.Bits(4)) : std::numeric_limits<std::int64_t>::max();
 }
 
 class Writer {
@@ -77,22 +77,22 @@ public:
   void Number(double value) {
     std::uint64_t bits = 0;
     std::memcpy(&bits, &value, sizeof bits);
-    Byte(kBitPattern);
+    Byte(bitPattern);
     Bits(bits, 8);
   }
 
   void Integer(std::int32_t value) {
-    if (value >= -kIntegerShift && value <= kLastShortInteger - kIntegerShift)
-      return Byte(static_cast<std::uint8_t>(value + kIntegerShift));
-    Byte(kLastShortInteger + 1);
+    if (value >= -integerShift && value <= lastShortInteger - integerShift)
+      return Byte(static_cast<std::uint8_t>(value + integerShift));
+    Byte(lastShortInteger + 1);
     Bits(static_cast<std::uint32_t>(value), 4);
   }
 
   void StopRequest(const Argument& argument) {
-    constexpr std::int64_t kNoQuestion = std::int64_t{1} << 32;
-    if (argument.isNull) return Byte(kNull);
-    if (argument.stopRequest.stopsAt >= kNoQuestion) return Byte(kNever);
-    Byte(kFromQuestion);
+    constexpr std::int64_t noQuestion = std::int64_t{1} << 32;
+    if (argument.isNull) return Byte(nullValue);
+    if (argument.stopRequest.stopsAt >= noQuestion) return Byte(neverStops);
+    Byte(fromQuestion);
     Bits(static_cast<std::uint64_t>(argument.stopRequest.stopsAt), 4);
   }
 
@@ -121,12 +121,12 @@ Arguments ReadArguments(const Target& target, Reader& reader) {
       case 'b': argument.integer = reader.Byte(); break;
       case 'p':
       case 'P': argument.array = ReadNumbers(reader, numGroups); break;
-      case 'v': argument.array = ReadNumbers(reader, reader.Byte() % kVectorLengths); break;
+      case 'v': argument.array = ReadNumbers(reader, reader.Byte() % vectorLengths); break;
       case 's': ReadStopRequest(reader, argument); break;
       default: break;
     }
     if (target.names[i] != "numGroups" || !HasArrays(target)) continue;
-    argument.integer = std::min(argument.integer, kMostGroups);
+    argument.integer = std::min(argument.integer, mostGroups);
     numGroups = argument.integer;
   }
   return arguments;

@@ -25,19 +25,19 @@ using namespace keltest;
 // A chart has as many points as its arguments demand, up to 2^31 on each axis. One that has more than this ends in
 // std::bad_alloc, as it would on a machine without memory: 1,100 points are enough for the coarser steps that charts
 // take from a span of 1,000 sizes on. Where each point is an exact test, fewer have to do.
-constexpr std::size_t kMostPoints = 1100;
-constexpr std::size_t kMostExactPoints = 64;
+constexpr std::size_t mostChartPoints = 1100;
+constexpr std::size_t mostExactPoints = 64;
 
 // Exact tests take time in proportion to the group sizes, or to their product, up to 2^31 - 1 each; beyond, they are
 // missing at once. A chart has one at each point.
-constexpr double kLargestExactSize = 1500;
-constexpr double kLargestChartedSize = 100;
-constexpr double kUncountable = 2147483648.0;
+constexpr double largestExactSize = 1500;
+constexpr double largestChartedSize = 100;
+constexpr double uncountable = 2147483648.0;
 
 // An exact search for a power that no size has goes on until the StopRequest ends it. Most are asked once a count,
 // those of two groups once a table, of which a single power has many.
-constexpr std::int64_t kMostQuestions = 20000;
-constexpr std::int64_t kMostQuestionsOfTables = 1000000;
+constexpr std::int64_t mostStopQuestions = 20000;
+constexpr std::int64_t mostQuestionsOfTables = 1000000;
 
 struct MemoryLimit {
   std::int64_t failing;
@@ -66,7 +66,7 @@ bool AsksOnceATable(const Target& target, const Arguments& arguments) {
 }
 
 void BoundSize(double largest, Argument& argument) {
-  if (argument.number > largest && argument.number < kUncountable) argument.number = largest;
+  if (argument.number > largest && argument.number < uncountable) argument.number = largest;
   argument.integer = std::min(argument.integer, static_cast<std::int32_t>(largest));
 }
 
@@ -77,10 +77,9 @@ void BoundSearch(std::int64_t mostQuestions, Argument& argument) {
 
 void BoundExactWork(const Target& target, Arguments& arguments) {
   for (std::size_t i = 0; i < arguments.size(); ++i) {
-    if (IsSampleSize(target.names[i]))
-      BoundSize(IsChart(target) ? kLargestChartedSize : kLargestExactSize, arguments[i]);
+    if (IsSampleSize(target.names[i])) BoundSize(IsChart(target) ? largestChartedSize : largestExactSize, arguments[i]);
     if (target.function->arguments[i] == 's' && IsSearch(target))
-      BoundSearch(AsksOnceATable(target, arguments) ? kMostQuestionsOfTables : kMostQuestions, arguments[i]);
+      BoundSearch(AsksOnceATable(target, arguments) ? mostQuestionsOfTables : mostStopQuestions, arguments[i]);
   }
 }
 
@@ -102,7 +101,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Arguments arguments = ReadArguments(target, reader);
   const bool isExact = EnumeratesSamples(target, arguments);
   if (isExact) BoundExactWork(target, arguments);
-  memoryLimit = {ReadFailingAllocation(reader), isExact ? kMostExactPoints : kMostPoints};
+  memoryLimit = {ReadFailingAllocation(reader), isExact ? mostExactPoints : mostChartPoints};
 
   const Outcome outcome = CallOnce(target, arguments);
   if (!outcome.problems.empty()) Fail(outcome.problems.front().c_str(), target, arguments);

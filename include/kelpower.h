@@ -15,8 +15,8 @@
 /// - *flag*: an int or a byte in which 0 means no and every other value yes, unless stated otherwise.
 /// - Checks reject what lies outside a range and nothing else, so a NaN argument passes them. The result is then NaN,
 ///   with three exceptions. A NaN standard deviation of a contrast counts as 0 (power 1). Exact tests of proportions
-/// give
-///   what comparing counts with NaN comes to: -2, 0, 1 or 2. A sample-size function gives the lower end of its search.
+///   give what comparing counts with NaN comes to: -2, 0, 1 or 2. A sample-size function gives the lower end of its
+///   search.
 /// - A search for a sample size doubles its upper end, at first 400 or so, until the bracket holds the size. A wanted
 ///   power of exactly 1 is reached by the first upper end at which the computed power rounds to 1.
 
@@ -288,9 +288,9 @@ KELPOWER_API XYZPlot PlotNaSDSC(int numGroups, const double* groupMeans, double 
 /// \param minEffectSize,maxEffectSize ends of the effect-size axis. Of a two-sided chart: 0 or above, where a
 ///   minEffectSize of -5 stands for 0
 /// \param minRatio,maxRatio ends of the axis of ratios; a 0 in either asks for m = 0.8 (totalSize - 2) and 1 / m
-/// \param minMeanDifference,maxMeanDifference ends of the axis of raw differences mean1 - mean2. Two zeros, or ends
-/// that
-///   do not ascend, ask for 5 times the difference of the means to either side of 0, or for 100 without a difference
+/// \param minMeanDifference,maxMeanDifference ends of the axis of raw differences mean1 - mean2. Two zeros, or
+///   ends that do not ascend, ask for 5 times the difference of the means to either side of 0, or for 100 without a
+///   difference
 /// \param stepFraction step of an axis as a fraction of its range, above 0
 /// \param ignored not used
 //
@@ -810,8 +810,7 @@ KELPOWER_API XYPlot PlotOddsRatioIndSampBinom(double sampleSize1, double sampleS
 /// \param correlation expected sample correlation, the centre of an interval, in (-1, 1); not checked
 /// \param oneSided flag: one-sided test, towards the alternative; downwards where it equals the null
 /// \param adjustBias flag: mean and variance of z to the second order. Power, half-width and charts take only 1 for
-/// yes,
-///        the searches every value but 0; that is intended
+///        yes, the searches every value but 0; that is intended
 /// \param varianceMethod variance of z of a rank correlation: 0 Bonett and Wright, 1 Fieller, Hartley and Pearson,
 ///        2 Caruso and Cliff; any other gives power -1 and half-width 0
 /// \param alpha significance level, in (0, 1); one below 5.6e-17 is rejected. Of a half-width: 1 minus the confidence
@@ -1005,8 +1004,8 @@ KELPOWER_API XYPlot PlotNPartialoutOneSampPartial(double sampleSize, double alte
 /// \param predictors p, number of predictors of the full model, at least 1
 /// \param testedPredictors q, number of predictors tested, from 1 to p
 /// \param fullModelFit,reducedRSquared where `reducedRSquared` is 0, there is no reduced model and `fullModelFit` is
-/// the
-///        multiple correlation R, in (-1, 1). Otherwise both are R squared, in (0, 1), the reduced one not the larger
+///        the multiple correlation R, in (-1, 1). Otherwise both are R squared, in (0, 1), the reduced one not the
+///        larger
 /// \param effectSize f^2, the variance explained by the tested predictors over the unexplained one; not checked. One
 ///        below 0 gives power 1 with fixed predictors and NaN with random ones
 /// \param randomPredictors 0: predictors fixed by design, noncentral F with noncentrality N f^2. Otherwise:

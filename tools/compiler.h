@@ -1,5 +1,5 @@
-#ifndef TOOLS_COMPILER_H
-#define TOOLS_COMPILER_H
+#ifndef KELPOWER_TOOLS_COMPILER_H
+#define KELPOWER_TOOLS_COMPILER_H
 
 /// The compiler and its version, as pages of measurements name it.
 inline const char* Compiler() {

@@ -1,3 +1,5 @@
+#include <cmath>
+
 #include "anova/overall.h"
 #include "catalogue/axes.h"
 #include "catalogue/core.h"
@@ -10,16 +12,6 @@ namespace planner {
 namespace {
 
 namespace anova = kelpower::anova;
-
-Parameter EffectF() {
-  return Number("effect-f", "effect size f", "standard deviation of the group means over that within the groups")
-      .AtLeast(0)
-      .AtMost(1e6);
-}
-
-Parameter EtaSquared() {
-  return Number("eta-squared", "eta squared", "proportion of variance explained by the groups").AtLeast(0).Below(1);
-}
 
 double PowerOfMeans(const Inputs& in) {
   const auto spread = anova::GroupSpread::Of(in.List("means"), in.List("n"));
@@ -49,6 +41,15 @@ public:
 private:
   Kept<anova::OverallTest, 3> kept_;
 };
+/// With the groups weighted by their shares (Cohen 1988, formula 8.2.1 and section 8.2.3).
+double EffectFOfMeans(const Inputs& in) {
+  return std::sqrt(anova::GroupSpread::Of(in.List("means"), in.Weights()).Noncentrality(in.Number("sd"), 1));
+}
+
+double EtaSquaredOfMeans(const Inputs& in) {
+  const double f = EffectFOfMeans(in);
+  return f * f / (1 + f * f);
+}
 
 Numbers SizesOfMeans(const Inputs& in) {
   const Numbers weights = in.Weights();
@@ -159,13 +160,8 @@ Test AnovaTest() {
   test.conditions = {ErrorDegrees()};
   test.sizeExists = SizeExists();
   test.derived = {
-      {.name = "rmsse",
-       .label = "root-mean-square standardized effect",
-       .needs = {"means", "sd"},
-       .call =
-           [](const Inputs& in) {
-             return anova::RootMeanSquareEffect(in.List("means"), in.Weights(), in.Number("sd"));
-           }},
+      {.name = "effect-f", .label = "effect size f", .needs = {"means", "sd"}, .call = EffectFOfMeans},
+      {.name = "eta-squared", .label = "eta squared", .needs = {"means", "sd"}, .call = EtaSquaredOfMeans},
   };
   AddWordsOfAnova(test);
   return WithCommonParameters(std::move(test));

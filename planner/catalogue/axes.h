@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_AXES_H
+#define KELPOWER_PLANNER_CATALOGUE_AXES_H
 
 #include "model/chart.h"
 
@@ -12,3 +13,5 @@ double TotalSize(const Inputs& in);
 Axis MeanDifferenceAxis();
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_CATALOGUE_H
+#define KELPOWER_PLANNER_CATALOGUE_CATALOGUE_H
 
 #include <string_view>
 #include <vector>
@@ -14,3 +15,5 @@ const std::vector<Test>& Tests();
 const Test* FindTest(std::string_view name);
 
 }  // namespace planner
+
+#endif

@@ -120,6 +120,7 @@ std::vector<Parameter> Parameters() {
       GroupMeans(),
       WithinSd(),
       Number("effect-d", "standardized contrast d", "contrast of the means over the standard deviation")
+          .Alias("d")
           .AtLeast(-1e6)
           .AtMost(1e6),
       GroupSizes(),

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_CORE_H
+#define KELPOWER_PLANNER_CATALOGUE_CORE_H
 
 #include <algorithm>
 #include <array>
@@ -73,3 +74,5 @@ private:
 };
 
 }  // namespace planner
+
+#endif

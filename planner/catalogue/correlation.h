@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_CORRELATION_H
+#define KELPOWER_PLANNER_CATALOGUE_CORRELATION_H
 
 #include <string>
 
@@ -26,8 +27,10 @@ struct CorrelationKind {
   Numbers (*sizeForHalfWidth)(const Inputs&);
 };
 
-/// The description of the test of a correlation: routes, sentences and axes; parameters, conditions and examples are
-/// the caller's to add.
+/// The description of the test of a correlation: routes, sentences and axes. The caller adds parameters, conditions and
+/// examples.
 Test CorrelationTest(const CorrelationKind& kind);
 
 }  // namespace planner
+
+#endif

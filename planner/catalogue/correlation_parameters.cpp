@@ -4,7 +4,9 @@
 
 namespace planner {
 
-Parameter Correlation(std::string meaning) { return Number("r", "correlation", std::move(meaning)).Above(-1).Below(1); }
+Parameter Correlation(std::string meaning) {
+  return Number("r", "correlation", std::move(meaning)).Alias("rho").Above(-1).Below(1);
+}
 
 Parameter NullCorrelation() {
   return Number("null", "null correlation", "correlation under the null hypothesis").Above(-1).Below(1).Default(0.0);

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_CORRELATION_PARAMETERS_H
+#define KELPOWER_PLANNER_CATALOGUE_CORRELATION_PARAMETERS_H
 
 #include <string>
 
@@ -16,7 +17,9 @@ Parameter TowardsCorrelation();
 
 kelpower::correlation::Hypotheses HypothesesOf(const Inputs& in);
 
-/// Refuses to search a size for the power of no effect.
+/// The condition for a size that the correlations differ.
 Condition CorrelationsDiffer();
 
 }  // namespace planner
+
+#endif

@@ -31,6 +31,17 @@ Parameter GroupCount() {
       .AtMost(10000);
 }
 
+Parameter EffectF() {
+  return Number("effect-f", "effect size f", "standard deviation of the group means over that within the groups")
+      .Alias("f")
+      .AtLeast(0)
+      .AtMost(1e6);
+}
+
+Parameter EtaSquared() {
+  return Number("eta-squared", "eta squared", "proportion of variance explained by the groups").AtLeast(0).Below(1);
+}
+
 Condition ErrorDegrees() {
   return {
       .code = "error-degrees",

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_GROUP_PARAMETERS_H
+#define KELPOWER_PLANNER_CATALOGUE_GROUP_PARAMETERS_H
 
 #include "model/chart.h"
 #include "model/test.h"
@@ -12,7 +13,13 @@ Parameter GroupSizes();
 Parameter AllocationRatios();
 Parameter GroupCount();
 
-/// Observations are left over once every group has its mean.
+// The overall effect of groups.
+Parameter EffectF();
+Parameter EtaSquared();
+
+/// The condition that more observations than groups leave something to estimate the standard deviation from.
 Condition ErrorDegrees();
 
 }  // namespace planner
+
+#endif

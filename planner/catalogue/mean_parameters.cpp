@@ -10,12 +10,10 @@ Parameter SingleSize(std::string meaning) {
 }
 
 Parameter EffectD(std::string meaning) {
-  return Number("effect-d", "effect size d", std::move(meaning)).AtLeast(-1e6).AtMost(1e6);
+  return Number("effect-d", "effect size d", std::move(meaning)).Alias("d").AtLeast(-1e6).AtMost(1e6);
 }
 
-Parameter OneSided() {
-  return Flag("one-sided", "one-sided test", "test in the direction of the effect only").ShownOnlySet();
-}
+Parameter OneSided() { return Flag("one-sided", "one-sided test", "test in the direction of the effect only"); }
 
 kelpower::means::Sides SidesOf(const Inputs& in) {
   using kelpower::means::Sides;

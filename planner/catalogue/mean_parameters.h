@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_MEAN_PARAMETERS_H
+#define KELPOWER_PLANNER_CATALOGUE_MEAN_PARAMETERS_H
 
 #include <string>
 
@@ -21,3 +22,5 @@ kelpower::means::Sides SidesOf(const Inputs& in);
 Condition HasEffectD();
 
 }  // namespace planner
+
+#endif

@@ -16,7 +16,8 @@ namespace {
 
 namespace means = kelpower::means;
 
-/// Where the spread of the differences is given itself, it is that of a first measurement whose second one has none.
+/// Where the standard deviation of the differences is given, it stands for a first measurement, and the second one has
+/// no spread.
 means::PairedSpread SpreadOf(const Inputs& in) {
   if (in.Has("sd-difference")) return {in.Number("sd-difference"), 0, 0};
   return {in.List("sds")[0], in.List("sds")[1], in.Number("correlation")};

@@ -1,8 +1,11 @@
+#include "catalogue/details.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfPairedMeans(Test& test) {
+  test.details = DetailsOfPairedMeans;
+  test.whenNot = "Not for two groups of different units: see two-means.";
   test.phrases = {
       {"effect",
        {{"means", "means of {means} {spread}"},
@@ -14,8 +17,8 @@ void AddWordsOfPairedMeans(Test& test) {
   };
   test.sentences = {
       {Question::Power,
-       "With {sizes}, the {one-sided?one-sided:two-sided} paired-samples t test at a significance level of {alpha} "
-       "has a power of {power} to detect {effect}."},
+       "With {sizes}, the {one-sided?one-sided:two-sided} paired-samples t test at a significance level of {alpha} has "
+       "a power of {power} to detect {effect}."},
       {Question::SampleSize,
        "To detect {effect} with a power of {target-power}, the {one-sided?one-sided:two-sided} paired-samples t test "
        "at a significance level of {alpha} needs {sizes}; its power is then {power}."},
@@ -33,15 +36,14 @@ void AddWordsOfPairedMeans(Test& test) {
        "With 30 pairs, the two-sided paired-samples t test at a significance level of 0.05 has a power of 0.8787 to "
        "detect means of 25 and 21 with standard deviations of 8 and 7 and a correlation of 0.6."},
       {"paired-means --means 25,21 --sds 8,7 --correlation 0.6 --power 0.9 --one-sided",
-       "To detect means of 25 and 21 with standard deviations of 8 and 7 and a correlation of 0.6 with a power of "
-       "0.9, the one-sided paired-samples t test at a significance level of 0.05 needs 26 pairs; its power is then "
-       "0.9007."},
+       "To detect means of 25 and 21 with standard deviations of 8 and 7 and a correlation of 0.6 with a power of 0.9, "
+       "the one-sided paired-samples t test at a significance level of 0.05 needs 26 pairs; its power is then 0.9007."},
       {"paired-means --mean-difference 4 --sd-difference 8 --power 0.9",
        "To detect a mean difference of 4 with a standard deviation of 8 of the differences with a power of 0.9, the "
        "two-sided paired-samples t test at a significance level of 0.05 needs 44 pairs; its power is then 0.9000."},
       {"paired-means --sds 8,7 --correlation 0.6 --n 30 --interval",
-       "With 30 pairs of measurements with standard deviations of 8 and 7 and a correlation of 0.6, the 95% "
-       "confidence interval of the mean difference has a half-width of 2.527."},
+       "With 30 pairs of measurements with standard deviations of 8 and 7 and a correlation of 0.6, the 95% confidence "
+       "interval of the mean difference has a half-width of 2.527."},
       {"paired-means --sds 8,7 --correlation 0.6 --half-width 2",
        "For a 95% confidence interval of the mean difference with a half-width of at most 2, from measurements with "
        "standard deviations of 8 and 7 and a correlation of 0.6, the study needs 47 pairs; the half-width is then "

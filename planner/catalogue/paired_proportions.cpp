@@ -5,6 +5,7 @@
 #include "catalogue/core.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
+#include "frame/counts.h"
 #include "proportions/lasting_size.h"
 #include "proportions/mcnemar.h"
 #include "proportions/related_interval.h"
@@ -62,6 +63,7 @@ Numbers SizeForHalfWidth(const Inputs& in) {
 }
 
 double AttainedLevel(const Inputs& in) {
+  if (!in.Flag("exact")) return OrNaN(kelpower::NoValue::Refused);
   return OrNaN(proportions::McNemarTest(DesignOf(in)).AttainedLevel(in.Number("n"), PairsOf(in)));
 }
 
@@ -83,7 +85,7 @@ std::vector<Parameter> Parameters() {
       Number("n", "sample size", "number of pairs").Whole().AtLeast(2).AtMost(1e9),
       Flag("exact", "exact test", "exact test of the discordant pairs in place of the large-sample test"),
       Flag("one-sided", "one-sided test", "test in the direction of the difference only"),
-      Flag("correction", "continuity correction", "correct the interval for continuity"),
+      Flag("correction", "continuity correction", "correct the interval for continuity").Alias("continuity-correction"),
       OneOf("interval-method", "interval", "confidence interval of the difference",
             {{"wald", CodeOf(RelatedMethod::Wald), "Wald"},
              {"agresti-min", CodeOf(RelatedMethod::AgrestiMin), "Agresti-Min"},
@@ -126,8 +128,9 @@ std::vector<Route> SizeRoutes() {
        .sizes = Size},
       {.question = Question::SampleSize,
        .needs = {"p12", "p21", "exact"},
-       .accepts = {"one-sided", "power"},
+       .accepts = {"one-sided"},
        .exportName = "PowerReversebyPRelSampBionm",
+       .lastingSize = LastingSize,
        .sizes = Size},
       {.question = Question::SampleSize,
        .needs = {"proportion1", "proportion2", "correlation"},
@@ -138,6 +141,7 @@ std::vector<Route> SizeRoutes() {
        .needs = {"proportion1", "proportion2", "correlation", "exact"},
        .accepts = {"one-sided"},
        .exportName = "PowerReversebyMargPRelSampBionm",
+       .lastingSize = LastingSize,
        .sizes = Size},
   };
 }
@@ -158,7 +162,7 @@ std::vector<Route> Routes() {
   return routes;
 }
 
-bool IsExact(const Inputs& in) { return in.Flag("exact"); }
+Unevenness UnevennessOf(const Inputs& in) { return in.Flag("exact") ? Unevenness::Uneven : Unevenness::Even; }
 
 std::vector<Unknown> Unknowns() {
   constexpr const char* reason = "the difference grows faster than its standard error";
@@ -168,8 +172,7 @@ std::vector<Unknown> Unknowns() {
                    .trend = Trend::Rises,
                    .reason = reason,
                    .piece = piece,
-                   .pieceBelow = below,
-                   .isUneven = IsExact};
+                   .pieceBelow = below};
   };
   return {
       discordant(
@@ -207,8 +210,7 @@ std::vector<Unknown> Unknowns() {
       {.input = "correlation",
        .target = Question::Power,
        .trend = Trend::Rises,
-       .reason = "fewer pairs are discordant, of which as many more are of one kind",
-       .isUneven = IsExact},
+       .reason = "fewer pairs are discordant, of which as many more are of one kind"},
   };
 }
 
@@ -222,8 +224,18 @@ bool CorrectsWhatCanBe(const Inputs& in) {
   return !in.Flag("correction") || in.Choice("interval-method") == CodeOf(RelatedMethod::Wald);
 }
 
+/// An interval can be asked for without them: there it is the difference that is estimated.
+bool HasDiscordantPairs(const Inputs& in) {
+  if (in.Has("half-width") || in.Flag("interval")) return true;
+  return in.Number("p12") > 0 || in.Number("p21") > 0;
+}
+
 std::vector<Condition> Conditions() {
   return {
+      {.code = "no-discordant-pairs",
+       .about = {"p12", "p21"},
+       .holds = HasDiscordantPairs,
+       .sentence = "{p12} and {p21} are both 0: the test goes by the discordant pairs, and there would be none."},
       {.code = "discordant-sum",
        .about = {"p12", "p21"},
        .holds = [](const Inputs& in) { return in.Number("p12") + in.Number("p21") <= 1; },
@@ -263,6 +275,7 @@ Test PairedProportionsTest() {
   test.parameters = Parameters();
   test.routes = Routes();
   test.unknowns = Unknowns();
+  test.unevenness = UnevennessOf;
   test.conditions = Conditions();
   test.sizeExists = SizeExists();
   test.derived = {
@@ -270,13 +283,30 @@ Test PairedProportionsTest() {
        .label = "significance level attained",
        .needs = {"p12", "p21", "n", "exact"},
        .call = AttainedLevel},
-      {.name = "lasting-n",
-       .label = "from here on every sample size reaches the power",
-       .needs = {"p12", "p21", "exact", "power"},
-       .call = LastingSize},
+      {.name = "attained-level",
+       .label = "significance level attained",
+       .needs = {"proportion1", "proportion2", "correlation", "n", "exact"},
+       .call = AttainedLevel},
+      {.name = "p12",
+       .label = "first kind of discordant pairs",
+       .needs = {"proportion1", "proportion2", "correlation"},
+       .call = [](const Inputs& in) { return PairsOf(in).p12; }},
+      {.name = "p21",
+       .label = "second kind of discordant pairs",
+       .needs = {"proportion1", "proportion2", "correlation"},
+       .call = [](const Inputs& in) { return PairsOf(in).p21; }},
   };
   test.effect = EffectOfPairs;
   test.axes = AxesOfPairedProportions();
+  test.assumptions = {{.name = "tails",
+                       .label = "tails of the test",
+                       .needs = {"exact", "one-sided"},
+                       .call = [](const Inputs& in) -> std::string {
+                         if (!in.Flag("exact") || in.Flag("one-sided")) return "";
+                         return "at most half of the level in each tail";
+                       },
+                       .wording = ", with <0>,"}};
+  test.largestExactSearch = kelpower::largestCount;
   AddWordsOfPairedProportions(test);
   return WithCommonParameters(std::move(test));
 }

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_PAIRED_PROPORTIONS_H
+#define KELPOWER_PLANNER_CATALOGUE_PAIRED_PROPORTIONS_H
 
 #include <vector>
 
@@ -9,3 +10,5 @@ namespace planner {
 std::vector<Axis> AxesOfPairedProportions();
 
 }  // namespace planner
+
+#endif

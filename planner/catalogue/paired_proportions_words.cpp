@@ -1,8 +1,11 @@
+#include "catalogue/details.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfPairedProportions(Test& test) {
+  test.details = DetailsOfPairedProportions;
+  test.whenNot = "Not for two groups of different subjects: see two-proportions.";
   test.phrases = {
       {"effect",
        {{"p12", "discordant pairs with proportions of {p12} and {p21}"},
@@ -10,12 +13,12 @@ void AddWordsOfPairedProportions(Test& test) {
   };
   test.sentences = {
       {Question::Power,
-       "With {sizes}, the {one-sided?one-sided:two-sided} {exact?exact:large-sample} McNemar test at a significance "
-       "level of {alpha} has a power of {power} to detect {effect}."},
+       "With {sizes}, the {one-sided?one-sided:two-sided} {exact?exact:large-sample} McNemar test{tails} at a "
+       "significance level of {alpha} has a power of {power} to detect {effect}."},
       {Question::SampleSize,
        "To detect {effect} with a power of {target-power}, the {one-sided?one-sided:two-sided} "
-       "{exact?exact:large-sample} McNemar test at a significance level of {alpha} needs {sizes}; its power is then "
-       "{power}."},
+       "{exact?exact:large-sample} McNemar test{tails} at a significance level of {alpha} needs {sizes}; its power is "
+       "then {power}."},
       {Question::HalfWidth,
        "With {sizes} and discordant pairs with proportions of {p12} and {p21}, the {confidence} {interval-method} "
        "confidence interval of the difference has a half-width of {half-width}."},
@@ -30,8 +33,9 @@ void AddWordsOfPairedProportions(Test& test) {
        "With 50 pairs, the one-sided exact McNemar test at a significance level of 0.05 has a power of 0.8394 to "
        "detect discordant pairs with proportions of 0.08 and 0.32."},
       {"paired-proportions --proportion1 0.6 --proportion2 0.4 --correlation 0.3 --n 60 --exact",
-       "With 60 pairs, the two-sided exact McNemar test at a significance level of 0.05 has a power of 0.6692 to "
-       "detect proportions of 0.6 and 0.4 with a correlation of 0.3."},
+       "With 60 pairs, the two-sided exact McNemar test, with at most half of the level in each tail, at a "
+       "significance level of 0.05 has a power of 0.6692 to detect proportions of 0.6 and 0.4 with a correlation of "
+       "0.3."},
       {"paired-proportions --p12 0.08 --p21 0.32 --power 0.8 --one-sided",
        "To detect discordant pairs with proportions of 0.08 and 0.32 with a power of 0.8, the one-sided large-sample "
        "McNemar test at a significance level of 0.05 needs 41 pairs; its power is then 0.8019."},

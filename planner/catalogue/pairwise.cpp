@@ -64,6 +64,7 @@ std::vector<Parameter> Parameters() {
       GroupMeans(),
       WithinSd(),
       Number("effect-d", "standardized difference d", "difference of the two means over the standard deviation")
+          .Alias("d")
           .AtLeast(-1e6)
           .AtMost(1e6),
       GroupSizes(),
@@ -150,6 +151,10 @@ Test PairwiseTest() {
        .needs = {"means", "sd", "pair"},
        .call = EffectOfMeans},
   };
+  test.derived.push_back({.name = "level-per-comparison",
+                          .label = "significance level of the comparison",
+                          .needs = {"adjust"},
+                          .call = Level});
   AddWordsOfPairwise(test);
   return WithCommonParameters(std::move(test));
 }

@@ -6,6 +6,7 @@
 #include "catalogue/core.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
+#include "frame/counts.h"
 #include "proportions/lasting_size.h"
 #include "proportions/one_sample_interval.h"
 #include "proportions/one_sample_tests.h"
@@ -15,6 +16,8 @@ namespace {
 
 namespace proportions = kelpower::proportions;
 using proportions::OneSampleMethod;
+
+using kelpower::largestCount;
 
 proportions::OneSampleDesign DesignOf(const Inputs& in) {
   return {in.Flag("exact"), in.Flag("one-sided"), in.Alpha(), in.Flag("correction")};
@@ -92,7 +95,8 @@ std::vector<Parameter> Parameters() {
       Number("n", "sample size", "number of observations").Whole().AtLeast(1).AtMost(1e9),
       Flag("exact", "exact test", "exact binomial test in place of the normal approximation"),
       Flag("one-sided", "one-sided test", "test in the direction of the proportion expected only"),
-      Flag("correction", "continuity correction", "correct the normal approximation for continuity"),
+      Flag("correction", "continuity correction", "correct the normal approximation for continuity")
+          .Alias("continuity-correction"),
       OneOf("interval-method", "interval", "confidence interval of the proportion",
             {{"wald", CodeOf(OneSampleMethod::Wald), "Wald"},
              {"adjusted-logit", CodeOf(OneSampleMethod::LogitAdjusted), "adjusted logit"},
@@ -124,8 +128,9 @@ std::vector<Route> Routes() {
        .sizes = Size},
       {.question = Question::SampleSize,
        .needs = {"proportion", "null", "exact"},
-       .accepts = {"one-sided", "power"},
+       .accepts = {"one-sided"},
        .exportName = "PowerReverseOneSampBinom",
+       .lastingSize = LastingSize,
        .sizes = Size},
       {.question = Question::HalfWidth,
        .needs = {"proportion", "n"},
@@ -140,7 +145,7 @@ std::vector<Route> Routes() {
   };
 }
 
-bool IsExact(const Inputs& in) { return in.Flag("exact"); }
+Unevenness UnevennessOf(const Inputs& in) { return in.Flag("exact") ? Unevenness::Uneven : Unevenness::Even; }
 
 std::vector<Unknown> Unknowns() {
   constexpr const char* reason = "the more the proportions differ, the more of the outcomes are in the critical region";
@@ -154,8 +159,7 @@ std::vector<Unknown> Unknowns() {
        },
        .pieceBelow = [](const Inputs& in) -> Piece {
          return {0, in.Number("null")};
-       },
-       .isUneven = IsExact},
+       }},
       {.input = "null",
        .target = Question::Power,
        .trend = Trend::Falls,
@@ -165,8 +169,7 @@ std::vector<Unknown> Unknowns() {
        },
        .pieceBelow = [](const Inputs& in) -> Piece {
          return {in.Number("proportion"), 1};
-       },
-       .isUneven = IsExact},
+       }},
   };
 }
 
@@ -213,10 +216,6 @@ std::vector<Derived> DerivedFigures() {
        .label = "significance level attained",
        .needs = {"proportion", "null", "n", "exact"},
        .call = AttainedLevel},
-      {.name = "lasting-n",
-       .label = "from here on every sample size reaches the power",
-       .needs = {"proportion", "null", "exact", "power"},
-       .call = LastingSize},
   };
 }
 
@@ -229,6 +228,7 @@ Test ProportionTest() {
   test.parameters = Parameters();
   test.routes = Routes();
   test.unknowns = Unknowns();
+  test.unevenness = UnevennessOf;
   test.conditions = Conditions();
   test.sizeExists = {
       {.code = "no-effect",
@@ -240,6 +240,15 @@ Test ProportionTest() {
   test.derived = DerivedFigures();
   test.effect = Difference;
   test.axes = {DifferenceAxis()};
+  test.assumptions = {{.name = "tails",
+                       .label = "tails of the test",
+                       .needs = {"exact", "one-sided"},
+                       .call = [](const Inputs& in) -> std::string {
+                         if (!in.Flag("exact") || in.Flag("one-sided")) return "";
+                         return "at most half of the level in each tail";
+                       },
+                       .wording = ", with <0>,"}};
+  test.largestExactSearch = largestCount;
   AddWordsOfProportion(test);
   return WithCommonParameters(std::move(test));
 }

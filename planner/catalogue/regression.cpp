@@ -1,3 +1,5 @@
+#include "catalogue/regression.h"
+
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -9,22 +11,14 @@
 #include "catalogue/tests.h"
 #include "catalogue/unknowns.h"
 #include "catalogue/words.h"
-#include "regression/f_test.h"
+#include "regression/test_of_predictors.h"
 
 namespace planner {
 namespace {
 
 namespace regression = kelpower::regression;
 
-constexpr double mostPredictors = 1e5;
-
-double Predictors(const Inputs& in) { return in.Number("predictors"); }
-
 double Tested(const Inputs& in) { return in.Has("tested") ? in.Number("tested") : Predictors(in); }
-
-bool Intercept(const Inputs& in) { return !in.Flag("no-intercept"); }
-
-double SmallestSize(const Inputs& in) { return Predictors(in) + (Intercept(in) ? 2 : 1); }
 
 double Reduced(const Inputs& in) { return in.Has("r-squared-reduced") ? in.Number("r-squared-reduced") : 0; }
 
@@ -76,6 +70,7 @@ std::vector<Parameter> Parameters() {
           .AtLeast(0)
           .Below(1),
       Number("effect-f2", "effect size f2", "variance explained by the tested predictors over the unexplained one")
+          .Alias("f2")
           .AtLeast(0)
           .AtMost(1e3),
       Number("predictors", "predictors", "number of predictors in the model").Whole().AtLeast(1).AtMost(mostPredictors),

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_TESTS_H
+#define KELPOWER_PLANNER_CATALOGUE_TESTS_H
 
 #include "model/test.h"
 
@@ -20,3 +21,5 @@ Test PartialTest();
 Test RegressionTest();
 
 }  // namespace planner
+
+#endif

@@ -18,6 +18,10 @@ Parameter RatioOfSizes() {
       .Default(1.0);
 }
 
+double DifferenceOfMeans(const Inputs& in) {
+  return in.Has("means") ? in.List("means")[0] - in.List("means")[1] : in.Number("mean-difference");
+}
+
 double SizeRatio(const Inputs& in) { return in.List("n")[1] / in.List("n")[0]; }
 
 Axis SizeRatioAxis() {

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_TWO_GROUPS_H
+#define KELPOWER_PLANNER_CATALOGUE_TWO_GROUPS_H
 
 #include "catalogue/axes.h"
 #include "model/chart.h"
@@ -10,6 +11,9 @@ namespace planner {
 /// The ratio of the sizes to find.
 Parameter RatioOfSizes();
 
+/// The first mean less the second.
+double DifferenceOfMeans(const Inputs& in);
+
 /// The second size over the first.
 double SizeRatio(const Inputs& in);
 
@@ -17,3 +21,5 @@ double SizeRatio(const Inputs& in);
 Axis SizeRatioAxis();
 
 }  // namespace planner
+
+#endif

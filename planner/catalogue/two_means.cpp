@@ -18,10 +18,6 @@ namespace {
 
 namespace means = kelpower::means;
 
-double Difference(const Inputs& in) {
-  return in.Has("means") ? in.List("means")[0] - in.List("means")[1] : in.Number("mean-difference");
-}
-
 /// Equal standard deviations select the pooled test.
 means::GroupSpreads SpreadsOf(double sd1, double sd2) { return {sd1, sd2, sd1 == sd2}; }
 
@@ -30,7 +26,7 @@ means::GroupSpreads SpreadsOf(const Inputs& in) { return SpreadsOf(in.List("sd")
 /// An effect size is a difference in the unit of the standard deviation.
 means::TwoSampleDesign DesignOf(const Inputs& in) {
   if (in.Has("effect-d")) return {in.Number("effect-d"), SpreadsOf(1, 1), SidesOf(in), in.Alpha()};
-  return {Difference(in), SpreadsOf(in), SidesOf(in), in.Alpha()};
+  return {DifferenceOfMeans(in), SpreadsOf(in), SidesOf(in), in.Alpha()};
 }
 
 constexpr double smallestSecond = 2;
@@ -59,7 +55,7 @@ Numbers SizesForHalfWidth(const Inputs& in) {
 /// Over the root mean square of the standard deviations (Cohen 1988, formula 2.3.2).
 double EffectSize(const Inputs& in) {
   const Numbers& sds = in.List("sd");
-  return Difference(in) / (std::hypot(sds[0], sds[1]) / std::sqrt(2.0));
+  return DifferenceOfMeans(in) / (std::hypot(sds[0], sds[1]) / std::sqrt(2.0));
 }
 
 std::vector<Parameter> Parameters() {
@@ -157,11 +153,11 @@ Test TwoMeansTest() {
   test.sizeExists = {
       {.code = "no-effect",
        .about = {"means"},
-       .holds = [](const Inputs& in) { return Difference(in) != 0; },
+       .holds = [](const Inputs& in) { return DifferenceOfMeans(in) != 0; },
        .sentence = "The two means are equal: without a difference, no sample size reaches the power."},
       {.code = "no-effect",
        .about = {"mean-difference"},
-       .holds = [](const Inputs& in) { return Difference(in) != 0; },
+       .holds = [](const Inputs& in) { return DifferenceOfMeans(in) != 0; },
        .sentence = "The two means are equal: without a difference, no sample size reaches the power."},
       HasEffectD(),
   };
@@ -169,8 +165,15 @@ Test TwoMeansTest() {
       {.name = "effect-d", .label = "effect size d", .needs = {"means", "sd"}, .call = EffectSize},
       {.name = "effect-d", .label = "effect size d", .needs = {"mean-difference", "sd"}, .call = EffectSize},
   };
-  test.effect = [](const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : Difference(in); };
+  test.effect = [](const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : DifferenceOfMeans(in); };
   test.axes = {MeanDifferenceAxis(), SizeRatioAxis()};
+  test.assumptions = {
+      {.name = "variances",
+       .label = "variances",
+       .needs = {"sd"},
+       .call =
+           [](const Inputs& in) { return std::string(SpreadsOf(in).isPooled ? "pooled" : "unequal, Welch's test"); },
+       .wording = " (variances <0>)"}};
   AddWordsOfTwoMeans(test);
   return WithCommonParameters(std::move(test));
 }

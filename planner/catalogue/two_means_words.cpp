@@ -1,8 +1,11 @@
+#include "catalogue/details.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfTwoMeans(Test& test) {
+  test.details = DetailsOfTwoMeans;
+  test.whenNot = "Not for two measurements on the same units: see paired-means; more than two groups: see anova.";
   test.phrases = {
       {"effect",
        {{"means", "means of {means} with standard deviations of {sd}"},
@@ -11,14 +14,14 @@ void AddWordsOfTwoMeans(Test& test) {
   };
   test.sentences = {
       {Question::Power,
-       "With {sizes}, the {one-sided?one-sided:two-sided} independent-samples t test at a significance level of "
-       "{alpha} has a power of {power} to detect {effect}."},
+       "With {sizes}, the {one-sided?one-sided:two-sided} independent-samples t test{variances} at a significance "
+       "level of {alpha} has a power of {power} to detect {effect}."},
       {Question::SampleSize,
        "To detect {effect} with a power of {target-power}, the {one-sided?one-sided:two-sided} independent-samples t "
-       "test at a significance level of {alpha} needs {sizes}; its power is then {power}."},
+       "test{variances} at a significance level of {alpha} needs {sizes}; its power is then {power}."},
       {Question::HalfWidth,
-       "With {sizes} and standard deviations of {sd}, the {confidence} confidence interval of the difference of "
-       "means has a half-width of {half-width}."},
+       "With {sizes} and standard deviations of {sd}, the {confidence} confidence interval of the difference of means "
+       "has a half-width of {half-width}."},
       {Question::SampleSizeForHalfWidth,
        "For a {confidence} confidence interval of the difference of means with a half-width of at most "
        "{target-half-width}, at standard deviations of {sd}, the study needs {sizes}; the half-width is then "
@@ -27,31 +30,31 @@ void AddWordsOfTwoMeans(Test& test) {
 
   test.examples = {
       {"two-means --means 52,47 --sd 10,14 --n 40",
-       "With 40 observations in each of 2 groups (80 in total), the two-sided independent-samples t test at a "
-       "significance level of 0.05 has a power of 0.4417 to detect means of 52 and 47 with standard deviations of 10 "
-       "and 14."},
+       "With 40 observations in each of 2 groups (80 in total), the two-sided independent-samples t test (variances "
+       "unequal, Welch's test) at a significance level of 0.05 has a power of 0.4417 to detect means of 52 and 47 with "
+       "standard deviations of 10 and 14."},
       {"two-means --effect-d 0.6 --n 90,60 --one-sided",
        "With 90 and 60 observations in 2 groups (150 in total), the one-sided independent-samples t test at a "
        "significance level of 0.05 has a power of 0.9737 to detect an effect size d of 0.6."},
       {"two-means --means 52,47 --sd 10,14 --power 0.8 --ratio 2",
        "To detect means of 52 and 47 with standard deviations of 10 and 14 with a power of 0.8, the two-sided "
-       "independent-samples t test at a significance level of 0.05 needs 63 and 126 observations in 2 groups (189 in "
-       "total); its power is then 0.8006."},
+       "independent-samples t test (variances unequal, Welch's test) at a significance level of 0.05 needs 63 and 126 "
+       "observations in 2 groups (189 in total); its power is then 0.8006."},
       {"two-means --effect-d 0.5 --power 0.8",
        "To detect an effect size d of 0.5 with a power of 0.8, the two-sided independent-samples t test at a "
        "significance level of 0.05 needs 64 observations in each of 2 groups (128 in total); its power is then "
        "0.8015."},
       {"two-means --sd 10 --n 35,50 --power 0.8",
-       "With 35 and 50 observations in 2 groups (85 in total), the two-sided independent-samples t test at a "
-       "significance level of 0.05 has a power of 0.8000 to detect a difference of the means of 6.247 with standard "
-       "deviations of 10 and 10."},
+       "With 35 and 50 observations in 2 groups (85 in total), the two-sided independent-samples t test (variances "
+       "pooled) at a significance level of 0.05 has a power of 0.8000 to detect a difference of the means of 6.247 "
+       "with standard deviations of 10 and 10."},
       {"two-means --sd 10,14 --n 40 --interval",
        "With 40 observations in each of 2 groups (80 in total) and standard deviations of 10 and 14, the 95% "
        "confidence interval of the difference of means has a half-width of 5.425."},
       {"two-means --sd 10,14 --half-width 4",
        "For a 95% confidence interval of the difference of means with a half-width of at most 4, at standard "
-       "deviations of 10 and 14, the study needs 73 observations in each of 2 groups (146 in total); the half-width "
-       "is then 3.984."},
+       "deviations of 10 and 14, the study needs 73 observations in each of 2 groups (146 in total); the half-width is "
+       "then 3.984."},
   };
 }
 

@@ -14,7 +14,7 @@ namespace planner {
 using kelpower::proportions::IndependentMethod;
 using kelpower::proportions::TwoProportionTest;
 
-TwoProportionTest TestOf(const Inputs& in) { return TwoProportionTest(in.Choice("test")); }
+TwoProportionTest TestOf(const Inputs& in) { return TwoProportionTest(in.Choice("method")); }
 
 bool IsConditional(const Inputs& in) { return TestOf(in) == TwoProportionTest::Conditional; }
 
@@ -27,31 +27,42 @@ double FirstProportion(const Inputs& in) {
 double SecondProportion(const Inputs& in) {
   if (in.Has("proportions")) return in.List("proportions")[1];
   const double first = FirstProportion(in);
-  if (in.Has("risk-difference")) return first - in.Number("risk-difference");
-  if (in.Has("risk-ratio")) return first / in.Number("risk-ratio");
+  if (in.Has("proportion2")) return in.Number("proportion2");
+  if (in.Has("risk-difference")) return first + in.Number("risk-difference");
+  if (in.Has("risk-ratio")) return first * in.Number("risk-ratio");
   return SecondOfOddsRatio(first, in.Number("odds-ratio"));
 }
 
-double RiskDifference(const Inputs& in) { return FirstProportion(in) - SecondProportion(in); }
+kelpower::proportions::IndependentDesign DesignOf(const Inputs& in) {
+  return {TestOf(in), IsExact(in), in.Flag("one-sided"), in.Alpha(), in.Flag("correction"), in.Flag("pooled")};
+}
 
-double RiskRatio(const Inputs& in) { return FirstProportion(in) / SecondProportion(in); }
+kelpower::proportions::IndependentSizes WantedOf(const Inputs& in) {
+  return {FirstProportion(in), SecondProportion(in), in.Number("ratio")};
+}
+
+double RiskDifference(const Inputs& in) { return SecondProportion(in) - FirstProportion(in); }
+
+double RiskRatio(const Inputs& in) { return SecondProportion(in) / FirstProportion(in); }
 
 double OddsRatio(const Inputs& in) {
   const double first = FirstProportion(in);
   const double second = SecondProportion(in);
-  return first / (1 - first) / (second / (1 - second));
+  return second / (1 - second) / (first / (1 - first));
 }
 
-double SecondOfOddsRatio(double first, double oddsRatio) { return first / (first + oddsRatio * (1 - first)); }
+// The odds r p / (1 - p) as a proportion, in a form that does not overflow for a large ratio.
+double SecondOfOddsRatio(double first, double oddsRatio) { return first / (first + (1 - first) / oddsRatio); }
 
 std::vector<Names> EffectsOfTwoProportions() {
   return {{"proportions"},
+          {"proportion1", "proportion2"},
           {"proportion1", "risk-difference"},
           {"proportion1", "risk-ratio"},
           {"proportion1", "odds-ratio"}};
 }
 
-Names OptionsOfTwoProportions() { return {"test", "exact", "pooled", "continuity-correction", "one-sided"}; }
+Names OptionsOfTwoProportions() { return {"method", "exact", "pooled", "correction", "one-sided"}; }
 
 Names With(Names names, Name name) {
   names.push_back(name);
@@ -61,22 +72,27 @@ Names With(Names names, Name name) {
 std::vector<Parameter> ParametersOfTwoProportions() {
   return {
       PerGroup("proportions", "proportions", "proportion expected in each group").Above(0).Below(1),
-      Number("proportion1", "first proportion", "proportion expected in the first group").Above(0).Below(1),
-      Number("risk-difference", "risk difference", "first proportion minus the second").Above(-1).Below(1),
-      Number("risk-ratio", "risk ratio", "first proportion over the second").Above(0),
-      Number("odds-ratio", "odds ratio", "odds in the first group over those in the second").Above(0),
+      Number("proportion1", "first proportion", "proportion expected in the first group, that of reference")
+          .Above(0)
+          .Below(1),
+      Number("proportion2", "second proportion", "proportion expected in the second group").Above(0).Below(1),
+      Number("risk-difference", "risk difference", "second proportion minus the first").Above(-1).Below(1),
+      Number("risk-ratio", "risk ratio", "second proportion over the first").Above(0),
+      Number("odds-ratio", "odds ratio", "odds in the second group over those in the first").Above(0),
       GroupSizes().AtLeast(2),
       RatioOfSizes(),
-      OneOf("test", "test", "test of the difference; conditional is always exact",
+      OneOf("method", "method", "test of the difference; conditional is always exact",
             {{"z", CodeOf(TwoProportionTest::Z), "z test"},
              {"t", CodeOf(TwoProportionTest::T), "t test"},
              {"likelihood-ratio", CodeOf(TwoProportionTest::LikelihoodRatio), "likelihood-ratio test"},
              {"arcsine", CodeOf(TwoProportionTest::Arcsine), "arcsine test"},
              {"conditional", CodeOf(TwoProportionTest::Conditional), "conditional (Fisher) test"}})
+          .Alias("test")
           .Default("z"),
       Flag("exact", "exact power", "sum over all tables in place of the large-sample formula"),
       Flag("pooled", "pooled variance", "standard error under equal proportions (z), pooled variance (t)"),
-      Flag("continuity-correction", "continuity correction", "correct the z test or the interval for continuity"),
+      Flag("correction", "continuity correction", "correct the z test or the interval for continuity")
+          .Alias("continuity-correction"),
       Flag("one-sided", "one-sided test", "test in the direction of the difference only"),
       OneOf("interval-method", "interval", "confidence interval of the difference",
             {{"wald", CodeOf(IndependentMethod::Wald), "Wald"},
@@ -89,6 +105,71 @@ std::vector<Parameter> ParametersOfTwoProportions() {
   };
 }
 
+namespace {
+
+std::vector<Derived> DerivedFigures() {
+  std::vector<Derived> figures;
+  for (Name effect : {Name("risk-difference"), Name("risk-ratio"), Name("odds-ratio")}) {
+    figures.push_back({.name = "proportion2",
+                       .label = "second proportion",
+                       .needs = {"proportion1", effect},
+                       .call = SecondProportion});
+  }
+  for (const Names& proportions : {Names{"proportions"}, Names{"proportion1", "proportion2"}}) {
+    figures.push_back({.name = "risk-difference",
+                       .label = "risk difference (second minus first)",
+                       .needs = proportions,
+                       .call = RiskDifference});
+    figures.push_back(
+        {.name = "risk-ratio", .label = "risk ratio (second over first)", .needs = proportions, .call = RiskRatio});
+    figures.push_back(
+        {.name = "odds-ratio", .label = "odds ratio (second over first)", .needs = proportions, .call = OddsRatio});
+  }
+  figures.push_back({.name = "attained-level",
+                     .label = "level attained at the common proportion",
+                     .needs = {"n", "exact"},
+                     .call = AttainedLevelOfTwoProportions});
+  return figures;
+}
+
+std::string StandardError(const Inputs& in) {
+  if (TestOf(in) != TwoProportionTest::Z && TestOf(in) != TwoProportionTest::T) return "";
+  const bool isPooled = in.Flag("pooled") || (IsExact(in) && TestOf(in) == TwoProportionTest::Z);
+  return isPooled ? "pooled" : "unpooled";
+}
+
+std::string Tails(const Inputs& in) {
+  if (!IsConditional(in) || in.Flag("one-sided")) return "";
+  return "at most half of the level in each tail";
+}
+
+/// The arcsine test corrects without being asked.
+std::string Correction(const Inputs& in) {
+  return TestOf(in) == TwoProportionTest::Arcsine ? "half an observation in each group" : "";
+}
+
+std::vector<Assumption> Assumptions() {
+  return {
+      {.name = "standard-error",
+       .label = "standard error",
+       .needs = {"method", "pooled"},
+       .call = StandardError,
+       .wording = "<0> "},
+      {.name = "tails",
+       .label = "tails of the test",
+       .needs = {"method", "one-sided"},
+       .call = Tails,
+       .wording = ", with <0>,"},
+      {.name = "corrected",
+       .label = "corrected for continuity by",
+       .needs = {"method", "correction"},
+       .call = Correction,
+       .wording = ", corrected by <0>,"},
+  };
+}
+
+}  // namespace
+
 Test TwoProportionsTest() {
   Test test{.name = "two-proportions",
             .title = "Test of two independent proportions",
@@ -97,14 +178,14 @@ Test TwoProportionsTest() {
   test.parameters = ParametersOfTwoProportions();
   test.routes = RoutesOfTwoProportions();
   test.unknowns = UnknownsOfTwoProportions();
+  test.unevenness = [](const Inputs& in) {
+    if (IsConditional(in)) return Unevenness::UnevenAndSlow;
+    return in.Flag("exact") ? Unevenness::Uneven : Unevenness::Even;
+  };
   test.conditions = ConditionsOfTwoProportions();
   test.sizeExists = SizeExistsForTwoProportions();
-  test.derived = {
-      {.name = "proportion2", .label = "second proportion", .needs = {"proportion1"}, .call = SecondProportion},
-      {.name = "risk-difference", .label = "risk difference", .needs = {"proportions"}, .call = RiskDifference},
-      {.name = "risk-ratio", .label = "risk ratio", .needs = {"proportions"}, .call = RiskRatio},
-      {.name = "odds-ratio", .label = "odds ratio", .needs = {"proportions"}, .call = OddsRatio},
-  };
+  test.derived = DerivedFigures();
+  test.assumptions = Assumptions();
   test.axes = AxesOfTwoProportions();
   test.effect = RiskDifference;
   test.steps = StepsOfPower;

@@ -1,16 +1,19 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_TWO_PROPORTIONS_H
+#define KELPOWER_PLANNER_CATALOGUE_TWO_PROPORTIONS_H
 
 #include <vector>
 
+#include "frame/stop.h"
 #include "model/chart.h"
 #include "model/inputs.h"
 #include "model/test.h"
 #include "proportions/independent_design.h"
+#include "proportions/independent_sizes.h"
 
 // What the questions about two independent proportions and their charts share.
 namespace planner {
 
-// An exact power counts tables: these groups take less than a second.
+// The work of an exact power grows with its tables. Groups up to this size take less than a second.
 constexpr double largestExactGroup = 10000;
 
 kelpower::proportions::TwoProportionTest TestOf(const Inputs& in);
@@ -21,12 +24,30 @@ bool IsExact(const Inputs& in);
 double FirstProportion(const Inputs& in);
 double SecondProportion(const Inputs& in);
 
+/// The stop request of the conditional test. The other exact tests ask it once a table, which takes up to some hundred
+/// times as long as their power; they end in a tenth of a second without it.
+kelpower::Stop StopOfTables(const Inputs& in);
+
+/// The proportion of all observations together, which an exact test's attained level is taken at.
+double CommonProportion(const Inputs& in);
+
+/// NaN for a large-sample test.
+double AttainedLevelOfTwoProportions(const Inputs& in);
+
 double RiskDifference(const Inputs& in);
 double RiskRatio(const Inputs& in);
 double OddsRatio(const Inputs& in);
 
 /// The second proportion that a first one has with an odds ratio.
 double SecondOfOddsRatio(double first, double oddsRatio);
+
+kelpower::proportions::IndependentDesign DesignOf(const Inputs& in);
+
+/// What is wanted of the sizes to find.
+kelpower::proportions::IndependentSizes WantedOf(const Inputs& in);
+
+/// The sizes that a test for large samples needs.
+Numbers LargeSampleSizes(const Inputs& in, kelpower::proportions::TwoProportionTest test);
 
 /// The ways to give the two proportions: the inputs of each.
 std::vector<Names> EffectsOfTwoProportions();
@@ -48,3 +69,5 @@ std::vector<Axis> AxesOfTwoProportions();
 double StepsOfPower(const Inputs& in);
 
 }  // namespace planner
+
+#endif

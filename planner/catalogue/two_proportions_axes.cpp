@@ -9,7 +9,8 @@ namespace {
 
 /// Gives the proportions themselves, whichever way they were given.
 void SetProportions(Inputs& in, double first, double second) {
-  for (Name name : {Name("proportion1"), Name("risk-difference"), Name("risk-ratio"), Name("odds-ratio")}) {
+  for (Name name :
+       {Name("proportion1"), Name("proportion2"), Name("risk-difference"), Name("risk-ratio"), Name("odds-ratio")}) {
     in.Erase(name);
   }
   if (!in.Has("proportions")) in.SetList("proportions", {first, second});
@@ -46,13 +47,13 @@ void KeepFirst(Inputs& in, double second) { SetProportions(in, FirstProportion(i
 
 Axis RiskDifferenceAxis() {
   return {.name = "risk-difference",
-          .title = "risk difference (first minus second)",
+          .title = "risk difference (second minus first)",
           .symbol = "difference",
           .limits = {-1, 1, true, true, false},
           .design = RiskDifference,
-          .vary = [](Inputs& in, const Inputs&, double at) { KeepFirst(in, FirstProportion(in) - at); },
+          .vary = [](Inputs& in, const Inputs&, double at) { KeepFirst(in, FirstProportion(in) + at); },
           .scale = [](const Inputs& in) -> Range {
-            return {FirstProportion(in) - 1, FirstProportion(in)};
+            return {-FirstProportion(in), 1 - FirstProportion(in)};
           }};
 }
 
@@ -60,20 +61,20 @@ constexpr double largestRatio = 1000;
 
 Axis RiskRatioAxis() {
   return {.name = "risk-ratio",
-          .title = "risk ratio (first over second)",
+          .title = "risk ratio (second over first)",
           .symbol = "risk ratio",
           .limits = {0, largestRatio, false, true, false},
           .design = RiskRatio,
-          .vary = [](Inputs& in, const Inputs&, double at) { KeepFirst(in, FirstProportion(in) / at); },
+          .vary = [](Inputs& in, const Inputs&, double at) { KeepFirst(in, FirstProportion(in) * at); },
           .scale = [](const Inputs& in) -> Range {
-            return {FirstProportion(in), std::numeric_limits<double>::infinity()};
+            return {0, 1 / FirstProportion(in)};
           }};
 }
 
 Axis OddsRatioAxis() {
   return {
       .name = "odds-ratio",
-      .title = "odds ratio (first over second)",
+      .title = "odds ratio (second over first)",
       .symbol = "odds ratio",
       .limits = {0, largestRatio, false, true, false},
       .design = OddsRatio,

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_WORDS_H
+#define KELPOWER_PLANNER_CATALOGUE_WORDS_H
 
 #include "model/test.h"
 
@@ -20,3 +21,5 @@ void AddWordsOfSpearman(Test& test);
 void AddWordsOfPartial(Test& test);
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_ANSWER_H
+#define KELPOWER_PLANNER_MODEL_ANSWER_H
 
 #include <string>
 #include <vector>
@@ -7,11 +8,6 @@
 #include "model/test.h"
 
 namespace planner {
-
-/// What a reader of an answer should be warned of.
-enum class Note {
-  TargetMissedSlightly = 1,  // at the sizes rounded to whole numbers
-};
 
 /// A derived figure and its value.
 struct DerivedFigure {
@@ -28,10 +24,12 @@ struct Answer {
   double value;                      // the power or half-width at these sizes
   const Unknown* unknown = nullptr;  // what was solved for, unless sizes or the value; its number stands in the inputs
   std::vector<DerivedFigure> derived = {};
-  std::vector<Note> notes = {};
+  Numbers lastingSizes = {};  // of sizes found, where a power is uneven: from these on all sizes reach it
 
   Question Asked() const { return route->question; }
   bool SizesFound() const { return AsksForSizes(route->question); }
 };
 
 }  // namespace planner
+
+#endif

@@ -1,10 +1,12 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_CHART_H
+#define KELPOWER_PLANNER_MODEL_CHART_H
 
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "model/alternatives.h"
 #include "model/inputs.h"
 #include "model/name.h"
 #include "model/parameter.h"
@@ -49,12 +51,6 @@ struct Axis {
 /// What a chart shows over its axes.
 enum class Quantity { Power, HalfWidth, Size };
 
-/// One input with several values: a curve for each.
-struct Alternatives {
-  std::string input;
-  std::vector<Value> values;
-};
-
 /// What the user asks of a chart. Of a surface, `from` and `to` have one entry for each axis. Empty, they stand for the
 /// usual range.
 struct ChartRequest {
@@ -63,7 +59,7 @@ struct ChartRequest {
   Numbers to = {};
   std::optional<double> step = {};  // as a share of the range
   bool showsSizes = false;          // the sizes that reach the target, in place of the power or half-width
-  std::optional<Alternatives> alternatives = {};
+  std::optional<Alternatives> alternatives = {};  // of one input: a curve for each
 };
 
 /// The values of a chart: of a curve `value[i]` at `x[i]`, of a surface `value[i * y.size() + j]` at `(x[i], y[j])`.
@@ -105,3 +101,5 @@ struct ChartData {
 };
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_INPUTS_H
+#define KELPOWER_PLANNER_MODEL_INPUTS_H
 
 #include <array>
 
@@ -35,7 +36,7 @@ public:
   void SetEntry(Name name, std::size_t entry, double number) { slots_[name.Index()].list[entry] = number; }
   void Erase(Name name) { slots_[name.Index()].isGiven = false; }
 
-  /// Sets an input to a value that its parameter allows, and tells it again.
+  /// Sets an input to a value that its parameter allows; the second gives it back.
   void SetValue(const Parameter& parameter, const Value& value);
   Value ValueOf(const Parameter& parameter) const;
 
@@ -61,3 +62,5 @@ private:
 };
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_NAME_H
+#define KELPOWER_PLANNER_MODEL_NAME_H
 
 #include <algorithm>
 #include <iterator>
@@ -34,7 +35,6 @@ private:
       "below",
       "chart",
       "coefficients",
-      "continuity-correction",
       "correction",
       "correlation",
       "effect-d",
@@ -47,9 +47,11 @@ private:
       "half-width",
       "interval",
       "interval-method",
+      "jobs",
       "mean",
       "mean-difference",
       "means",
+      "method",
       "n",
       "no-intercept",
       "null",
@@ -78,6 +80,7 @@ private:
       "sd-difference",
       "sds",
       "solve",
+      "stable",
       "step",
       "test",
       "test-value",
@@ -112,3 +115,5 @@ inline bool Contains(const Names& names, Name name) {
 }
 
 }  // namespace planner
+
+#endif

@@ -86,12 +86,6 @@ Parameter Parameter::Spreads() const {
   return copy;
 }
 
-Parameter Parameter::ShownOnlySet() const {
-  Parameter copy = *this;
-  copy.shownOnlySet = true;
-  return copy;
-}
-
 Parameter Parameter::Alias(std::string other) const {
   Parameter copy = *this;
   copy.aliases.push_back(std::move(other));

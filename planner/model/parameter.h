@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_PARAMETER_H
+#define KELPOWER_PLANNER_MODEL_PARAMETER_H
 
 #include <cstddef>
 #include <limits>
@@ -46,9 +47,8 @@ struct Parameter {
   std::string meaning;  // in help
   std::string unit;     // empty where it is that of the user's data
   Limits limits;
-  std::size_t length = 0;     // of a List; 0 for any
-  bool spreads = false;       // PerGroup: a single number stands for every group
-  bool shownOnlySet = false;  // Flag: a report leaves it out where it is not set
+  std::size_t length = 0;  // of a List; 0 for any
+  bool spreads = false;    // PerGroup: a single number stands for every group
   std::vector<Choice> choices;
   std::vector<std::string> aliases;
   std::optional<Value> fallback;
@@ -60,7 +60,6 @@ struct Parameter {
   Parameter Whole() const;
   Parameter Length(std::size_t entries) const;
   Parameter Spreads() const;
-  Parameter ShownOnlySet() const;
   Parameter Alias(std::string other) const;
   Parameter Default(Value value) const;
   Parameter Unit(std::string text) const;
@@ -77,3 +76,5 @@ Parameter List(Name name, std::string label, std::string meaning);
 Parameter PerGroup(Name name, std::string label, std::string meaning);
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_PROBLEM_H
+#define KELPOWER_PLANNER_MODEL_PROBLEM_H
 
 #include <optional>
 #include <stdexcept>
@@ -58,6 +59,20 @@ enum class Code {
   NotComputable = 402,
   TargetNotReached = 403,
   TargetReachedAlways = 404,
+  // Designs in files and tables.
+  TestNowhere = 600,
+  TestMissing = 601,
+  TestUnknown = 602,
+  ColumnUnknown = 603,
+  ColumnRepeated = 604,
+  FieldsDisagree = 605,
+  NotAnObject = 606,
+  ColumnsMissing = 607,
+  NotDesigns = 608,
+  RangeUseless = 609,
+  TooManyDesigns = 610,
+  FieldLate = 611,
+  ResultLate = 612,
   // Ends that are no fault of the inputs.
   Stopped = 500,
 };
@@ -102,3 +117,5 @@ public:
 };
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_QUESTION_H
+#define KELPOWER_PLANNER_MODEL_QUESTION_H
 
 #include <optional>
 
@@ -37,3 +38,5 @@ constexpr Question ValueQuestion(Question question) {
 }
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_ROUTE_H
+#define KELPOWER_PLANNER_MODEL_ROUTE_H
 
 #include <functional>
 #include <string>
@@ -24,6 +25,7 @@ struct Route {
   std::string oneSidedExport = {};                   // where the one-sided form is an export of its own
   Evaluation value = {};                             // of a question about a power or a half-width
   Evaluation surfaceValue = {};                      // the same to 1e-12, faster where many share their sizes
+  Evaluation lastingSize = {};                       // from which on all sizes reach a power, where the core tells it
   std::function<Numbers(const Inputs&)> sizes = {};  // of the others: a whole size for each group, empty for none
 
   bool Takes(Name name) const { return Contains(needs, name) || Contains(accepts, name); }
@@ -34,3 +36,5 @@ struct Route {
 };
 
 }  // namespace planner
+
+#endif

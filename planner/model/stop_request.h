@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_STOP_REQUEST_H
+#define KELPOWER_PLANNER_MODEL_STOP_REQUEST_H
 
 namespace planner {
 
@@ -15,3 +16,5 @@ public:
 };
 
 }  // namespace planner
+
+#endif

@@ -5,12 +5,16 @@
 namespace planner {
 namespace {
 
+/// Beyond one half an exact test rejects ever more counts but the most extreme, so that its power may fall.
+Piece UsefulLevels(const Inputs&) { return {0, 0.5}; }
+
 void AddUnknownLevels(Test& test) {
   if (Answers(test, Question::Power)) {
     test.unknowns.push_back({.input = "alpha",
                              .target = Question::Power,
                              .trend = Trend::Rises,
-                             .reason = "what a level rejects, each higher level rejects too"});
+                             .reason = "what a level rejects, each higher level rejects too",
+                             .piece = test.unevenness ? UsefulLevels : nullptr});
   }
   if (Answers(test, Question::HalfWidth)) {
     test.unknowns.push_back({.input = "alpha",
@@ -39,17 +43,34 @@ void AddParametersOfUnknowns(Test& test) {
   const bool anyBelow = std::any_of(test.unknowns.begin(), test.unknowns.end(),
                                     [](const Unknown& unknown) { return unknown.pieceBelow != nullptr; });
   if (anyBelow) {
-    test.parameters.push_back(
-        Flag("below", "effect below", "solve for an effect on the lower side of none").ShownOnlySet());
+    test.parameters.push_back(Flag("below", "effect below", "solve for an effect on the lower side of none"));
   }
+}
+
+/// Where the power jumps, the question for a size has two answers.
+void AddStableSizes(Test& test) {
+  test.parameters.push_back(Flag(
+      "stable", "stable size", "of an exact test: the size from which on all reach the power, in place of the first"));
+  for (Route& route : test.routes) {
+    if (route.question == Question::SampleSize) route.accepts.push_back("stable");
+  }
+  test.conditions.push_back(
+      {.code = "stable-of-even",
+       .about = {"stable"},
+       .holds = [unevenness = test.unevenness](
+                    const Inputs& in) { return !in.Flag("stable") || unevenness(in) != Unevenness::Even; },
+       .sentence = "{stable} goes with exact tests only: the power of others never falls with a "
+                   "further observation."});
 }
 
 }  // namespace
 
 Test WithCommonParameters(Test test) {
   if (Answers(test, Question::SampleSize)) {
-    test.parameters.push_back(
-        Number("power", "target power", "power to reach; asks for the sample size").Above(0).Below(1));
+    test.parameters.push_back(Number("power", "target power", "power to reach; asks for the sample size")
+                                  .Alias("target-power")
+                                  .Above(0)
+                                  .Below(1));
   }
   if (Answers(test, Question::HalfWidth)) {
     test.parameters.push_back(
@@ -58,6 +79,7 @@ Test WithCommonParameters(Test test) {
   if (Answers(test, Question::SampleSizeForHalfWidth)) {
     test.parameters.push_back(
         Number("half-width", "target half-width", "half-width of the interval to reach; asks for the sample size")
+            .Alias("target-half-width")
             .Above(0));
   }
   test.parameters.push_back(
@@ -67,6 +89,7 @@ Test WithCommonParameters(Test test) {
           .Default(0.05));
   AddUnknownLevels(test);
   AddParametersOfUnknowns(test);
+  if (test.unevenness) AddStableSizes(test);
   return test;
 }
 

@@ -1,11 +1,14 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_TEST_H
+#define KELPOWER_PLANNER_MODEL_TEST_H
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "model/chart.h"
+#include "model/details.h"
 #include "model/inputs.h"
 #include "model/parameter.h"
 #include "model/route.h"
@@ -17,7 +20,7 @@ namespace planner {
 struct Condition {
   std::string code;  // for front ends: "error-degrees"
   Names about;       // tested when all of these have a value
-  bool (*holds)(const Inputs&);
+  std::function<bool(const Inputs&)> holds;
   std::string sentence;  // what is wrong when it fails, with inputs in braces
 };
 
@@ -27,6 +30,16 @@ struct Derived {
   std::string label;
   Names needs;
   double (*call)(const Inputs&);
+};
+
+/// What an answer takes for granted in words, such as "pooled". Shown when its inputs are asked for and it says
+/// something; a sentence names it in braces.
+struct Assumption {
+  std::string name;
+  std::string label;
+  Names needs;
+  std::string (*call)(const Inputs&);
+  std::string wording = "<0>";  // in a sentence, around the words
 };
 
 /// Words of a sentence that depend on which input was given: the first of `wordings` whose input has a value.
@@ -53,6 +66,10 @@ struct Example {
   std::string sentence;
 };
 
+/// Whether the power of a design is a sawtooth in its sizes, and not smooth in its effect either, as that of an exact
+/// test is; and whether it takes so long that not too many sizes should be tried.
+enum class Unevenness { Even, Uneven, UnevenAndSlow };
+
 /// How many groups a test has when its inputs tell.
 constexpr int groupsFromInputs = 0;
 
@@ -66,9 +83,11 @@ struct Test {
   std::vector<Parameter> parameters = {};
   std::vector<Route> routes = {};
   std::vector<Unknown> unknowns = {};  // the first that a design lacks is solved for unless the user names one
+  Unevenness (*unevenness)(const Inputs&) = nullptr;  // null: even
   std::vector<Condition> conditions = {};
   std::vector<Condition> sizeExists = {};  // when one fails no sample size reaches a power
   std::vector<Derived> derived = {};
+  std::vector<Assumption> assumptions = {};
   std::vector<Phrase> phrases = {};
   std::vector<ReportSentence> sentences = {};
   std::vector<Example> examples = {};
@@ -79,10 +98,16 @@ struct Test {
 
   /// About how many steps one power takes, where many may take long.
   double (*steps)(const Inputs&) = nullptr;
+
+  std::string whenNot = {};       // what the test is not for, and which one is
+  double largestExactSearch = 0;  // of an exact test: the size at which its search ends; 0 where there is no such end
+  /// What is behind the answer of a question, from the inputs at the sizes given or found.
+  Details (*details)(Question question, const Inputs& atSizes) = nullptr;
 };
 
 /// The test with the parameters that every test has: `alpha`; `power`, `half-width` and `interval` as its routes answer
-/// the questions they ask; `solve` and `below` as it has unknowns. The level is an unknown of every test.
+/// the questions they ask; `solve` and `below` as it has unknowns; `stable` where a power may be uneven. The level is an unknown of every
+/// test.
 Test WithCommonParameters(Test test);
 
 /// The parameter of that name, or null.
@@ -95,3 +120,5 @@ const Parameter* FindParameter(const Test& test, std::string_view name);
 bool Answers(const Test& test, Question question);
 
 }  // namespace planner
+
+#endif

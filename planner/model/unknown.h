@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_UNKNOWN_H
+#define KELPOWER_PLANNER_MODEL_UNKNOWN_H
 
 #include <string>
 
@@ -33,8 +34,8 @@ struct Unknown {
   void (*set)(Inputs&, double at) = nullptr;
   /// The next number from `at` on that a study can have: a ratio of whole sizes.
   double (*attainable)(const Inputs&, double at) = nullptr;
-  /// An exact test, whose power may fall by a little while it rises: the answer is where it is reached for good.
-  bool (*isUneven)(const Inputs&) = nullptr;
 };
 
 }  // namespace planner
+
+#endif

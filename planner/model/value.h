@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_VALUE_H
+#define KELPOWER_PLANNER_MODEL_VALUE_H
 
 #include <map>
 #include <string>
@@ -16,3 +17,5 @@ using Value = std::variant<bool, double, Numbers, std::string>;
 using InputValues = std::map<std::string, Value>;
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_PICTURES_CAPTIONS_H
+#define KELPOWER_PLANNER_PICTURES_CAPTIONS_H
 
 #include <string>
 #include <vector>
@@ -28,3 +29,5 @@ std::vector<std::string> Lines(const std::vector<std::string>& pieces, const std
                                std::size_t characters);
 
 }  // namespace planner
+
+#endif

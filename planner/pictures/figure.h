@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_PICTURES_FIGURE_H
+#define KELPOWER_PLANNER_PICTURES_FIGURE_H
 
 #include <string>
 #include <vector>
@@ -49,3 +50,5 @@ Figure FigureOf(const ChartData& chart, const std::string& title = "", std::size
 std::string DescriptionOf(const ChartData& chart);
 
 }  // namespace planner
+
+#endif

@@ -165,8 +165,8 @@ std::string CurveCommands(const Figure& figure, const GnuplotTerminal& terminal)
          fmt::format("plot [{:.9g}:{:.9g}] {}\n", series.x.front(), series.x.back(), CurvePlots(figure, terminal));
 }
 
-/// The lines of equal power as data, each level for itself so that it can have its own style. Two blank lines keep lines
-/// of equal length from being joined to a net.
+/// The lines of equal power as data, level by level, so that each can have its own style. Two blank lines separate lines:
+/// gnuplot joins those of equal length to a net otherwise.
 std::string LevelData(const Figure& figure) {
   std::string text;
   for (std::size_t i = 0; i < figure.levels.size(); ++i) {

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_PICTURES_GNUPLOT_H
+#define KELPOWER_PLANNER_PICTURES_GNUPLOT_H
 
 #include <string>
 
@@ -19,3 +20,5 @@ struct GnuplotTerminal {
 std::string GnuplotCommands(const Figure& figure, const GnuplotTerminal& terminal);
 
 }  // namespace planner
+
+#endif

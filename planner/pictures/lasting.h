@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_PICTURES_LASTING_H
+#define KELPOWER_PLANNER_PICTURES_LASTING_H
 
 #include "model/chart.h"
 
@@ -16,3 +17,5 @@ struct Lasting {
 Lasting LastingPower(const ChartData& chart);
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_PICTURES_LEVEL_LINES_H
+#define KELPOWER_PLANNER_PICTURES_LEVEL_LINES_H
 
 #include <vector>
 
@@ -17,3 +18,5 @@ struct Line {
 std::vector<Line> LevelLines(const Series& surface, double level);
 
 }  // namespace planner
+
+#endif

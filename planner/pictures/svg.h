@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_PICTURES_SVG_H
+#define KELPOWER_PLANNER_PICTURES_SVG_H
 
 #include <string>
 
@@ -9,3 +10,5 @@ namespace planner {
 std::string WithTitleAndDescription(const std::string& svg, const std::string& title, const std::string& description);
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_AXES_H
+#define KELPOWER_PLANNER_SOLVE_AXES_H
 
 #include <string>
 #include <vector>
@@ -31,3 +32,5 @@ std::vector<Axis> AllAxes(const Test& test);
 std::vector<Axis> AxesNamed(const std::string& name, const std::vector<Axis>& axes);
 
 }  // namespace planner
+
+#endif

@@ -14,7 +14,7 @@
 namespace planner {
 namespace {
 
-// More points than any screen shows; keeps a slip of the finger from computing for hours.
+// More points than any screen shows. The limit keeps a slip of the finger from computing for hours.
 constexpr double mostPoints = 1e6;
 
 // Steps of an exact test take a few nanoseconds each.
@@ -33,7 +33,9 @@ std::vector<Axis> ChooseAxes(const Test& test, const ChartRequest& request, cons
   throw InputError(std::move(problem));
 }
 
-bool IsVaried(const std::vector<Axis>& axes, const std::string& input) {
+std::string NameOf(const Alternatives& alternatives) { return std::string(alternatives.parameter->name.Text()); }
+
+bool IsVaried(const std::vector<Axis>& axes, std::string_view input) {
   return std::any_of(axes.begin(), axes.end(), [&](const Axis& axis) {
     const std::vector<std::string> needs = Texts(axis.needs);
     return axis.name == input || (axis.isOfSizes && input == "n") || (needs.size() == 1 && needs.front() == input);
@@ -46,7 +48,7 @@ void CheckQuantity(const ChartRequest& request, const std::vector<Axis>& axes, Q
     throw InputError({.code = Code::ChartOneAxis, .inputs = {"chart"}, .words = {request.name}});
   }
   if (request.alternatives) {
-    throw InputError({.code = Code::ChartOneDesign, .inputs = {request.alternatives->input, "chart"}});
+    throw InputError({.code = Code::ChartOneDesign, .inputs = {NameOf(*request.alternatives), "chart"}});
   }
 }
 
@@ -59,8 +61,8 @@ void CheckCount(const ChartRequest& request, std::size_t axes, const std::string
 }
 
 void CheckRequest(const ChartRequest& request, const std::vector<Axis>& axes) {
-  if (request.alternatives && IsVaried(axes, request.alternatives->input)) {
-    throw InputError({.code = Code::ChartVariesAlternatives, .inputs = {request.alternatives->input, "chart"}});
+  if (request.alternatives && IsVaried(axes, NameOf(*request.alternatives))) {
+    throw InputError({.code = Code::ChartVariesAlternatives, .inputs = {NameOf(*request.alternatives), "chart"}});
   }
   if (request.from.empty() != request.to.empty()) {
     throw InputError({.code = Code::ChartEndMissing, .inputs = {"from", "to"}});
@@ -306,7 +308,7 @@ ChartData ComputeChart(const Test& test, const ChartRequest& request, const Inpu
   CheckPoints(test, grids, first);
   RejectWithoutPoints(grids, request, first);
   ChartData data{&test, request.name, axes, designs.front().quantity, std::nullopt, {}};
-  if (request.alternatives) data.varied = FindParameter(test, request.alternatives->input)->name;
+  if (request.alternatives) data.varied = request.alternatives->parameter->name;
   for (ChartDesign& design : designs) {
     Series series = SeriesOf(axes, grids, design, first);
     std::optional<DesignMark> mark = MarkOf(axes, series, design);

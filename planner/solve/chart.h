@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_CHART_H
+#define KELPOWER_PLANNER_SOLVE_CHART_H
 
 #include <string>
 #include <vector>
@@ -15,3 +16,5 @@ ChartData ComputeChart(const Test& test, const ChartRequest& request, const Inpu
                        StopRequest* stop = nullptr);
 
 }  // namespace planner
+
+#endif

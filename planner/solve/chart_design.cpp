@@ -95,7 +95,7 @@ std::vector<ChartDesign> DesignsOf(const Test& test, const ChartRequest& request
   }
   for (const Value& value : request.alternatives->values) {
     InputValues alternative = values;
-    alternative[request.alternatives->input] = value;
+    alternative[std::string(request.alternatives->parameter->name.Text())] = value;
     designs.push_back(DesignOf(test, request, alternative, stop));
     designs.back().alternative = value;
   }

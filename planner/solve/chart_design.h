@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_CHART_DESIGN_H
+#define KELPOWER_PLANNER_SOLVE_CHART_DESIGN_H
 
 #include <optional>
 #include <vector>
@@ -27,3 +28,5 @@ std::vector<ChartDesign> DesignsOf(const Test& test, const ChartRequest& request
                                    StopRequest* stop);
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_CHECKS_H
+#define KELPOWER_PLANNER_SOLVE_CHECKS_H
 
 #include "model/inputs.h"
 #include "model/problem.h"
@@ -12,7 +13,7 @@ void CheckValues(const Test& test, const InputValues& values);
 /// Throws an InputError when a condition of the test fails.
 void CheckConditions(const Test& test, const Inputs& inputs);
 
-/// The conditions about what has a value; the others hold.
+/// The conditions whose inputs all have a value. The others count as met.
 std::vector<const Condition*> Applicable(const std::vector<Condition>& conditions, const Inputs& inputs);
 
 /// The first condition that fails, or null.
@@ -22,3 +23,5 @@ const Condition* FirstFailing(const std::vector<const Condition*>& conditions, c
 Problem ProblemOf(const Condition& condition, Code code);
 
 }  // namespace planner
+
+#endif

@@ -80,7 +80,7 @@ Names Missing(const Route& route, const Names& given) {
     const auto& said = problem.missing;
     if (std::find(said.begin(), said.end(), names) == said.end()) problem.missing.push_back(names);
   }
-  // Who lacks the sizes alone may mean to ask for them.
+  // Where only the sizes are missing, they may be what is wanted.
   const bool mayAskForSizes = question == Question::Power && sizesMissing && Answers(test, Question::SampleSize);
   if (mayAskForSizes) problem.inputs = {"power", "n"};
   throw InputError(std::move(problem));

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_CHOOSE_ROUTE_H
+#define KELPOWER_PLANNER_SOLVE_CHOOSE_ROUTE_H
 
 #include "model/question.h"
 #include "model/route.h"
@@ -9,7 +10,7 @@ namespace planner {
 /// The names of the inputs that are given, without flags that are not set. The values have been checked.
 Names GivenNames(const Test& test, const InputValues& values);
 
-/// The question of the one asking input that is given, else the power.
+/// The question of the input that asks one, or the power where none is given. Throws an InputError when two ask.
 Question AskedQuestion(const Names& given);
 
 /// What is asked, and the route that answers.
@@ -18,7 +19,8 @@ struct Asked {
   const Unknown* unknown = nullptr;  // whose number brings the route's value to the target
 };
 
-/// What the values ask. A target besides the sizes, or besides `solve`, asks for an unknown. Throws an InputError with what does not go together or what is missing.
+/// What the values ask. A target besides the sizes, or besides `solve`, asks for an unknown. Throws an InputError with
+/// what does not go together or what is missing.
 Asked FindAsked(const Test& test, const InputValues& values);
 
 /// The route of the question that takes all that is given and needs nothing more. Throws an InputError with what does
@@ -29,3 +31,5 @@ const Route& ChooseRoute(const Test& test, Question question, const Names& given
 std::vector<std::string> Texts(const Names& names);
 
 }  // namespace planner
+
+#endif

@@ -129,10 +129,11 @@ double Search::Between(double missed, double reached) {
   const double root = kelpower::BracketedRoot([&](double at) { return Excess(at); }, missed, reached).ValueOr(reached);
   // The root may be its neighbour on the side where the target is missed.
   double at = root;
-  for (double share = 1e-16; !IsReached(at); share *= 2) {
-    at = share < 1 ? root + (reached - root) * share : reached;
+  for (double share = 1e-16; share < 1; share *= 2) {
+    if (IsReached(at)) return at;
+    at = root + (reached - root) * share;
   }
-  return at;
+  return reached;
 }
 
 /// Where the target is reached for good, on a grid from the place where it is first reached to the last one.
@@ -179,8 +180,7 @@ Way WayOf(const Unknown& unknown, const Parameter& parameter, const Inputs& inpu
 }  // namespace
 
 UnknownSearch FindUnknown(const Unknown& unknown, const Parameter& parameter, const Inputs& inputs, double target,
-                          kelpower::FunctionView<double(double)> valueAt) {
-  const bool isUneven = unknown.isUneven && unknown.isUneven(inputs);
+                          bool isUneven, kelpower::FunctionView<double(double)> valueAt) {
   return Search(unknown, target, valueAt).Along(WayOf(unknown, parameter, inputs), isUneven);
 }
 

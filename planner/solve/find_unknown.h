@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_FIND_UNKNOWN_H
+#define KELPOWER_PLANNER_SOLVE_FIND_UNKNOWN_H
 
 #include <optional>
 
@@ -22,10 +23,12 @@ struct UnknownSearch {
   bool isReachedEverywhere = false;
 };
 
-/// Finds the smallest change from the end at which the target is missed to where it is reached. `valueAt` gives the
-/// power or half-width of the design with the unknown at a place, NaN where there is none. It takes some 20 values, of an
-/// uneven power some hundred more.
+/// Finds the smallest change from the end at which the target is missed to where it is reached; of an uneven power, to
+/// where it is reached for good. `valueAt` gives the power or half-width of the design with the unknown at a place, NaN
+/// where there is none. It takes some 20 values, of an uneven power some hundred more.
 UnknownSearch FindUnknown(const Unknown& unknown, const Parameter& parameter, const Inputs& inputs, double target,
-                          kelpower::FunctionView<double(double)> valueAt);
+                          bool isUneven, kelpower::FunctionView<double(double)> valueAt);
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_GRID_H
+#define KELPOWER_PLANNER_SOLVE_GRID_H
 
 #include <vector>
 
@@ -27,3 +28,5 @@ double PointCount(const AxisGrid& grid);
 Numbers Points(const AxisGrid& grid, const Inputs& design);
 
 }  // namespace planner
+
+#endif

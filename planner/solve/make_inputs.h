@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_MAKE_INPUTS_H
+#define KELPOWER_PLANNER_SOLVE_MAKE_INPUTS_H
 
 #include "model/inputs.h"
 #include "model/test.h"
@@ -10,3 +11,5 @@ namespace planner {
 Inputs MakeInputs(const Test& test, const InputValues& values, StopRequest* stop);
 
 }  // namespace planner
+
+#endif

@@ -12,15 +12,6 @@
 namespace planner {
 namespace {
 
-// The searches end within 1e-6 of the size that reaches the target exactly, so rounding up may miss it by a hair.
-constexpr double targetSlack = 1e-6;
-
-// Exact tests are not smooth in the size, so that rounding may miss the target by more; beyond this the search failed.
-constexpr double largestMiss = 0.05;
-
-// The library gives every group at least two, and just that when its search finds nothing.
-constexpr double smallestGroup = 2;
-
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 constexpr Row refused{RowStatus::InputRefused, notANumber};
@@ -41,10 +32,8 @@ bool NeedsEffect(Question question, const Inputs& inputs) {
   return question == Question::SampleSize && inputs.Number("power") >= inputs.Alpha();
 }
 
-/// How far the value stays behind the target, of a half-width relative to it; not positive when it is reached.
-double Miss(Question question, double value, const Inputs& inputs) {
-  if (question == Question::SampleSize) return inputs.Number("power") - value;
-  return value / inputs.Number("half-width") - 1;
+bool Reached(Question question, double value, const Inputs& inputs) {
+  return question == Question::SampleSize ? value >= inputs.Number("power") : value <= inputs.Number("half-width");
 }
 
 /// The route that answers for the sizes found, from the same inputs.
@@ -57,14 +46,15 @@ const Route& RouteAtSizes(const Test& test, Question question, const Names& give
   return ChooseRoute(test, question, names);
 }
 
-Inputs AtSizes(const Test& test, const Inputs& inputs, const Numbers& sizes) {
+void SetSizes(Inputs& inputs, const Numbers& sizes) {
+  if (sizes.size() > 1) return inputs.SetList("n", sizes);
+  inputs.Set("n", sizes.front());
+}
+
+Inputs AtSizes(const Inputs& inputs, const Numbers& sizes) {
   Inputs atSizes = inputs;
   atSizes.Erase("ratios");
-  if (test.groups == 1) {
-    atSizes.Set("n", sizes.front());
-  } else {
-    atSizes.SetList("n", sizes);
-  }
+  SetSizes(atSizes, sizes);
   return atSizes;
 }
 
@@ -114,6 +104,7 @@ PreparedQuestion::PreparedQuestion(const Test& test, const Asked& asked, const I
     return;
   }
   effects_ = Applicable(test.sizeExists, inputs_);
+  sizeConditions_ = Applicable(test.conditions, AtSizes(inputs_, WholeSizes(test, inputs_).At(1)));
   value_ = RouteAtSizes(test, ValueQuestion(route_.question), GivenNames(test, values)).value;
 }
 
@@ -123,7 +114,7 @@ void PreparedQuestion::SetColumns(std::vector<Column> columns) {
     const Parameter* parameter = FindParameter(test_, column.name);
     const bool isEntry = parameter && parameter->IsList();
     const bool isNumber = parameter && (isEntry || parameter->kind == Kind::Number) && inputs_.Has(column.name);
-    if (!isNumber || (isEntry && column.entry >= inputs_.List(column.name).size())) {
+    if (!isNumber || column.name == Name("groups") || (isEntry && column.entry >= inputs_.List(column.name).size())) {
       throw InputError({.code = Code::NotAnInput, .inputs = Texts({column.name}), .words = {test_.name}});
     }
     columns_.push_back({column, isEntry, parameter->limits});
@@ -161,15 +152,19 @@ Answer PreparedQuestion::Solve() {
   const Row row = unknown_ ? FindNumber(inputs_) : Checked(inputs_);
   if (row.status == RowStatus::Stopped) throw Stopped();
   if (row.status != RowStatus::Answered) RejectUnanswered();
-  if (unknown_) SetUnknown(inputs_, *unknown_, *FindParameter(test_, unknown_->input), found_);
+  TakeUnknown();
   Answer answer{&test_, &route_, inputs_, sizes_, row.value, unknown_};
   if (!AsksForSizes(route_.question)) {
     answer.sizes = test_.groups == 1 ? Numbers{inputs_.Number("n")} : inputs_.List("n");
   }
-  if (isMissed_) answer.notes.push_back(Note::TargetMissedSlightly);
+  if (answer.SizesFound()) answer.lastingSizes = lasting_;
   answer.derived = DerivedFigures(test_, route_, inputs_);
   if (IsStopped()) throw Stopped();
   return answer;
+}
+
+void PreparedQuestion::TakeUnknown() {
+  if (unknown_) SetUnknown(inputs_, *unknown_, *FindParameter(test_, unknown_->input), found_);
 }
 
 Name PreparedQuestion::TargetName() const {
@@ -183,6 +178,9 @@ void PreparedQuestion::RejectUnanswered() {
     problem.code = Code::SizesNotFound;
     problem.inputs = Texts({*AskedBy(question)});
     problem.values = {inputs_.Number(*AskedBy(question))};
+    if (test_.largestExactSearch > 0 && inputs_.Has("exact") && inputs_.Flag("exact")) {
+      problem.values.emplace_back(test_.largestExactSearch);
+    }
   }
   if (unknown_) {
     Inputs inputs = inputs_;
@@ -228,7 +226,7 @@ Row PreparedQuestion::ValueWith(Inputs& inputs, double at) const {
 UnknownSearch PreparedQuestion::SearchUnknown(Inputs& inputs) const {
   const Parameter& parameter = *FindParameter(test_, unknown_->input);
   return FindUnknown(*unknown_, parameter, inputs, inputs.Number(TargetName()),
-                     [&](double at) { return ValueWith(inputs, at).value; });
+                     UnevennessOf(inputs) != Unevenness::Even, [&](double at) { return ValueWith(inputs, at).value; });
 }
 
 Row PreparedQuestion::FindNumber(const Inputs& inputs) {
@@ -242,16 +240,58 @@ Row PreparedQuestion::FindNumber(const Inputs& inputs) {
   return ValueWith(tried, found_);
 }
 
+/// From the sizes that the core's search found, if any: it may stop short of the first whole ones, or look where there are
+/// none.
+std::optional<double> PreparedQuestion::FindWhole(const WholeSizes& whole, const Numbers& found,
+                                                  Reaches reaches) const {
+  const double start = found.empty() ? whole.Smallest() : whole.NumberOf(found);
+  return FirstWhole(start, whole.Smallest(), reaches);
+}
+
+/// The first number, or with `stable` the one from which on all reach the target.
+double PreparedQuestion::FindUneven(const WholeSizes& whole, const Inputs& inputs, double number, Reaches reaches) {
+  const bool isSlow = UnevennessOf(inputs) == Unevenness::UnevenAndSlow;
+  UnevenSizes sizes = AroundUneven(number, whole.Smallest(), isSlow, reaches);
+  if (route_.lastingSize) {
+    const double lasting = route_.lastingSize(inputs);
+    if (std::isfinite(lasting)) sizes.lasting = std::max(lasting, sizes.first);
+  }
+  lasting_ = whole.At(sizes.lasting);
+  return inputs.Flag("stable") ? sizes.lasting : sizes.first;
+}
+
+Unevenness PreparedQuestion::UnevennessOf(const Inputs& inputs) const {
+  return test_.unevenness ? test_.unevenness(inputs) : Unevenness::Even;
+}
+
 Row PreparedQuestion::FindSizes(const Inputs& inputs) {
-  sizes_ = route_.sizes(inputs);
+  Numbers found = route_.sizes(inputs);
   if (IsStopped()) return stopped;
-  if (!AreSizes(sizes_)) return unanswered;
-  const Row row = ValueOf(AtSizes(test_, inputs, sizes_));
-  if (row.status != RowStatus::Answered) return row;
-  const double miss = Miss(route_.question, row.value, inputs);
-  const bool smallest = std::all_of(sizes_.begin(), sizes_.end(), [](double size) { return size <= smallestGroup; });
-  if (miss > largestMiss || (miss > targetSlack && smallest)) return unanswered;
-  isMissed_ = miss > targetSlack;
+  if (!AreSizes(found)) found.clear();
+  const bool isUneven = UnevennessOf(inputs) != Unevenness::Even;
+  if (isUneven && found.empty()) return unanswered;
+
+  const WholeSizes whole(test_, inputs);
+  Inputs tried = AtSizes(inputs, whole.At(whole.Smallest()));
+  if (!found.empty() && !whole.AreCountable(found)) {
+    sizes_ = std::move(found);
+    SetSizes(tried, sizes_);
+    return ValueOf(tried);
+  }
+  Row row = unanswered;
+  const auto reaches = [&](double number) {
+    if (row.status == RowStatus::Stopped) return true;
+    sizes_ = whole.At(number);
+    SetSizes(tried, sizes_);
+    row = FirstFailing(sizeConditions_, tried) ? refused : ValueOf(tried);
+    return row.status == RowStatus::Stopped ||
+           (row.status == RowStatus::Answered && Reached(route_.question, row.value, inputs));
+  };
+  std::optional<double> number = FindWhole(whole, found, reaches);
+  if (number && isUneven) number = FindUneven(whole, inputs, *number, reaches);
+  if (row.status == RowStatus::Stopped) return stopped;
+  if (!number) return unanswered;
+  reaches(*number);
   return row;
 }
 

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_PREPARED_QUESTION_H
+#define KELPOWER_PLANNER_SOLVE_PREPARED_QUESTION_H
 
 #include <optional>
 #include <span>
@@ -10,6 +11,7 @@
 #include "model/test.h"
 #include "solve/choose_route.h"
 #include "solve/find_unknown.h"
+#include "solve/whole_sizes.h"
 
 namespace planner {
 
@@ -36,19 +38,21 @@ struct Column {
 /// memory and looks nothing up: it costs little more than the library's own call. Copies serve threads side by side.
 class PreparedQuestion {
 public:
-  /// `values` are those of the first design. They tell the question and the route. Throws an InputError. The test and
-  /// the request must outlive the question. `stop` may end a long computation; it may be null. Once it has answered
-  /// true it must go on to.
+  /// `values` are those of the first design. The question and the route follow from them. Throws an InputError.
+  ///
+  /// The test and the request must outlive the question. `stop` may end a long computation; it may be null. Once it has
+  /// answered true it must go on to.
   PreparedQuestion(const Test& test, const InputValues& values, StopRequest* stop = nullptr);
 
-  /// Says which inputs the rows give. Throws an InputError when one is no number that was given.
+  /// Says which inputs the rows give. Throws an InputError when one is no number that was given, or is the number of
+  /// groups, which decides how long the lists are.
   void SetColumns(std::vector<Column> columns);
 
   /// Answers the design whose varying inputs are the entries of `row`, in the order of the columns.
   Row Evaluate(std::span<const double> row);
 
-  /// Answers the design that the inputs describe. Their conditions are checked but not their limits: charts go where no
-  /// input could, as to a fraction of an observation.
+  /// Answers the design that the inputs describe. Their conditions are checked but not their limits, because charts go
+  /// where no input could, such as to a fraction of an observation.
   Row Evaluate(const Inputs& inputs);
 
   /// Lets what designs of the same sizes share be kept. The last digits of a value may then depend on it.
@@ -59,9 +63,19 @@ public:
   /// The sizes that the last answer found.
   const Numbers& Sizes() const { return sizes_; }
 
+  /// The sizes of the last answer of a test of groups, or those that it found.
+  const Numbers& SizesOfAnswer() const { return AsksForSizes(route_.question) ? sizes_ : inputs_.List("n"); }
+
+  /// Whether sizes are found of a power that jumps with the size; then those from which on all reach the target.
+  bool IsUneven() const { return AsksForSizes(route_.question) && UnevennessOf(inputs_) != Unevenness::Even; }
+  const Numbers& LastingSizes() const { return lasting_; }
+
   /// What is solved for, or null; and its number in the last answer.
   const Unknown* SolvedFor() const { return unknown_; }
   double FoundUnknown() const { return found_; }
+
+  /// Puts what was solved for in the last answer into the design, as figures that follow from it need.
+  void TakeUnknown();
 
   /// The whole answer for the inputs as they are. Throws an InputError, a NoSolution, or Stopped.
   Answer Solve();
@@ -81,6 +95,9 @@ private:
   Row Checked(const Inputs& inputs);
   Row ValueOf(const Inputs& inputs) const;
   Row FindSizes(const Inputs& inputs);
+  std::optional<double> FindWhole(const WholeSizes& whole, const Numbers& found, Reaches reaches) const;
+  double FindUneven(const WholeSizes& whole, const Inputs& inputs, double number, Reaches reaches);
+  Unevenness UnevennessOf(const Inputs& inputs) const;
   Row FindNumber(const Inputs& inputs);
   Name TargetName() const;
   UnknownSearch SearchUnknown(Inputs& inputs) const;
@@ -96,11 +113,14 @@ private:
   Inputs inputs_;
   std::vector<const Condition*> conditions_;
   std::vector<const Condition*> effects_;
+  std::vector<const Condition*> sizeConditions_;  // of the sizes that are looked for
   std::vector<BoundColumn> columns_;
   Numbers sizes_;
-  Evaluation value_;       // a copy of the route's own, which may keep something between its calls
-  double found_ = 0;       // of the unknown
-  bool isMissed_ = false;  // the target, by a little
+  Evaluation value_;  // a copy of the route's own, which may keep something between its calls
+  double found_ = 0;  // of the unknown
+  Numbers lasting_;   // the sizes from which on all reach an uneven power
 };
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_USUAL_RANGE_H
+#define KELPOWER_PLANNER_SOLVE_USUAL_RANGE_H
 
 #include <functional>
 
@@ -28,3 +29,5 @@ Range AllowedOn(const Axis& axis, const Inputs& design);
 Range UsualRange(const Course& course, const ValueAlong& value);
 
 }  // namespace planner
+
+#endif

@@ -1,3 +1,5 @@
+#include "words/csv.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -8,23 +10,6 @@
 
 namespace planner {
 namespace {
-
-/// A value with all its digits, lists separated by spaces.
-std::string CsvValue(const Value& value) {
-  const auto* numbers = std::get_if<Numbers>(&value);
-  return numbers ? ListedWithSpaces(*numbers) : Shown(value);
-}
-
-/// A field of a CSV line, quoted where its content asks for it.
-std::string CsvField(const std::string& text) {
-  if (text.find_first_of(",\"\n") == std::string::npos) return text;
-  std::string quoted = "\"";
-  for (char letter : text) {
-    if (letter == '"') quoted += '"';
-    quoted += letter;
-  }
-  return quoted + '"';
-}
 
 std::string Cell(double power) { return std::isnan(power) ? "" : Shortest(power); }
 
@@ -46,14 +31,7 @@ std::string RenderCsv(const Report& report) {
     names += ',' + CsvField(name);
     values += ',' + CsvField(value);
   };
-  // An input and a result may share a name: the power that is asked for and the one that is reached.
-  const auto isResult = [&](const std::string& name) {
-    return std::any_of(report.results.begin(), report.results.end(),
-                       [&](const Entry& result) { return result.name == name; });
-  };
-  for (const Entry& entry : report.inputs) {
-    add((isResult(entry.name) ? "target-" : "") + entry.name, CsvValue(entry.value));
-  }
+  for (const Entry& entry : report.inputs) add(entry.name, CsvValue(entry.value));
   for (const Entry& entry : report.results) add(entry.name, CsvValue(entry.value));
   return names + '\n' + values + '\n';
 }

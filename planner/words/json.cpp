@@ -34,6 +34,21 @@ Json ToJson(const std::vector<Entry>& entries) {
   return object;
 }
 
+Json ToJson(const Explanation& explanation) {
+  Json object;
+  object["figures"] = Json::object();
+  for (const auto& figure : explanation.figures) object["figures"][figure.name] = ToJson(figure.value);
+  object["formula"] = explanation.formula;
+  object["source"] = explanation.source;
+  object["programs"] = Json::array();
+  for (const auto& [program, call, isSame, remark] : explanation.programs) {
+    Json entry{{"program", program}, {"call", call}, {"same", isSame}};
+    if (!remark.empty()) entry["remark"] = remark;
+    object["programs"].push_back(std::move(entry));
+  }
+  return object;
+}
+
 const char* TextOf(Kind kind) {
   switch (kind) {
     case Kind::Number: return "number";
@@ -180,14 +195,18 @@ std::string Text(const Json& json) { return json.dump(2, ' ', false, Json::error
 }  // namespace
 
 std::string RenderJson(const Report& report) {
+  constexpr int schemaVersion = 1;  // grows when a field changes its name or meaning
   Json object;
+  object["schema-version"] = schemaVersion;
   object["test"] = report.test->name;
   object["question"] = TextOf(report.question);
   object["inputs"] = ToJson(report.inputs);
+  if (!report.assumptions.empty()) object["assumptions"] = ToJson(report.assumptions);
   object["results"] = ToJson(report.results);
   object["sentence"] = report.sentence;
   if (!report.note.empty()) object["note"] = report.note;
   object["export"] = report.exportName;
+  if (report.explanation) object["details"] = ToJson(*report.explanation);
   return Text(object);
 }
 

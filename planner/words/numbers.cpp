@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 
 #include <cmath>
+#include <iterator>
 
 namespace planner {
 namespace {
@@ -38,10 +39,21 @@ bool ParseNumber(std::string_view text, double& number) {
   return true;
 }
 
-std::string Shortest(double number) {
+void AppendShortest(std::string& text, double number) {
   constexpr double largestPlainWhole = 1e15;
-  if (number == std::trunc(number) && std::abs(number) < largestPlainWhole) return fmt::format("{:.0f}", number);
-  return fmt::format("{}", number);
+  const auto end = std::back_inserter(text);
+  if (number == std::trunc(number) && std::abs(number) < largestPlainWhole) {
+    if (number == 0 && std::signbit(number)) text += '-';
+    fmt::format_to(end, "{}", static_cast<long long>(number));
+  } else {
+    fmt::format_to(end, "{}", number);
+  }
+}
+
+std::string Shortest(double number) {
+  std::string text;
+  AppendShortest(text, number);
+  return text;
 }
 
 std::string Joined(const std::vector<std::string>& words, const std::string& last, const std::string& other) {

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_NUMBERS_H
+#define KELPOWER_PLANNER_WORDS_NUMBERS_H
 
 #include <string>
 #include <string_view>
@@ -14,6 +15,7 @@ bool ParseNumber(std::string_view text, double& number);
 
 /// The shortest digits that read back as the same number.
 std::string Shortest(double number);
+void AppendShortest(std::string& text, double number);
 
 /// The words joined: "a, b, c" with ", " for both separators, "a, b or c" with " or " for the last one.
 std::string Joined(const std::vector<std::string>& words, const std::string& last, const std::string& other = ", ");
@@ -29,3 +31,5 @@ std::string ListedWithSpaces(const Numbers& numbers);
 std::string Shown(const Value& value);
 
 }  // namespace planner
+
+#endif

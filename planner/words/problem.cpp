@@ -64,21 +64,22 @@ private:
   std::string TargetNotReached() const;
   std::string OfCondition() const;
   std::string ChartSentence() const;
+  std::string SentenceOnDesigns() const;
 
   const Problem& problem_;
   const NameOfInput& name_;
 };
 
 std::string Words::Incomplete() const {
-  std::string text = fmt::format("Also give {} to be told {}", Ways(", or ", ", or "), Wording(*problem_.question));
+  std::string text = fmt::format("Also give {} for {}", Ways(", or ", ", or "), Wording(*problem_.question));
   if (!problem_.inputs.empty()) {
-    text += fmt::format("; to be told the sample size, give {} in place of {}", Input(0), Input(1));
+    text += fmt::format("; for the sample size, give {} in place of {}", Input(0), Input(1));
   }
   return text + ".";
 }
 
 std::string Words::GroupsDisagree() const {
-  return fmt::format("{} tells {} groups, but {} tells {}.", Input(0), Figure(0), Input(1), Figure(1));
+  return fmt::format("{} gives {} groups, but {} gives {}.", Input(0), Figure(0), Input(1), Figure(1));
 }
 
 std::string Words::WrongLength() const {
@@ -110,7 +111,8 @@ std::string Words::TooLarge() const {
 }
 
 std::string Words::SizesNotFound() const {
-  return fmt::format("No sample size was found that reaches a {} of {}.", problem_.inputs[0], Figure(0));
+  const std::string end = problem_.values.size() > 1 ? " up to " + Figure(1) : "";
+  return fmt::format("No sample size{} was found that reaches a {} of {}.", end, problem_.inputs[0], Figure(0));
 }
 
 std::string Words::NothingUnknown() const {
@@ -185,11 +187,42 @@ std::string Words::ChartSentence() const {
   }
 }
 
+std::string Words::SentenceOnDesigns() const {
+  switch (problem_.code) {
+    case Code::TestNowhere:
+      return "No column \"test\" names the test of each design, and none is named for all of them.";
+    case Code::TestMissing: return "The row names no test.";
+    case Code::TestUnknown: return fmt::format("\"{}\" is not a test.", problem_.words[0]);
+    case Code::ColumnUnknown:
+      return fmt::format("The column \"{}\" is not an input of {}.", problem_.words[0],
+                         problem_.words.size() > 1 ? problem_.words[1] : "any test");
+    case Code::ColumnRepeated: return fmt::format("The column \"{}\" is there more than once.", problem_.words[0]);
+    case Code::FieldsDisagree:
+      return fmt::format("The row has {} fields, but there are {} columns.", Figure(0), Figure(1));
+    case Code::NotAnObject: return "The line is not an object of JSON that describes a design.";
+    case Code::ColumnsMissing: return "There is no line that names the columns.";
+    case Code::NotDesigns: return "This is not JSON of one design or an array of designs.";
+    case Code::RangeUseless:
+      return fmt::format(
+          "{} is \"{}\", but a range must be three numbers from:to:step with a step that leads from the "
+          "one end to the other.",
+          Input(0), Figure(0));
+    case Code::FieldLate:
+      return fmt::format("The field \"{}\" has no column here, since the first rows lack it.", problem_.words[0]);
+    case Code::ResultLate:
+      return fmt::format("The result \"{}\" has no column here, since the first rows are of other tests.",
+                         problem_.words[0]);
+    case Code::TooManyDesigns: return fmt::format("These are more than {} designs.", Figure(0));
+    default: return ChartSentence();
+  }
+}
+
 std::string Words::Sentence() const {
   switch (problem_.code) {
     case Code::NotAnInput: return fmt::format("{} is not an option of {}.", Input(0), problem_.words[0]);
     case Code::NotAllowed:
-      return fmt::format("{} is {}, but must be {}.", Input(0), Given(problem_.values[0]), Allowed(*problem_.allowed));
+      return fmt::format("{} is {}, but must be {}{}.", Input(0), Given(problem_.values[0]), Allowed(*problem_.allowed),
+                         problem_.words.empty() ? "" : ": write " + problem_.words[0]);
     case Code::UselessAlone:
       return fmt::format("{} has a use only together with {}.", Input(0), Joined(Inputs(1), " or "));
     case Code::AsksSomethingElse:
@@ -202,9 +235,9 @@ std::string Words::Sentence() const {
     case Code::Incomplete: return Incomplete();
     case Code::GroupsDisagree: return GroupsDisagree();
     case Code::GroupsUnknown: return fmt::format("The number of groups is not known: give {}.", Input(0));
-    case Code::TooFewGroups: return fmt::format("{} tells 1 group, but must tell at least 2.", Input(0));
+    case Code::TooFewGroups: return fmt::format("{} gives 1 group, but must give at least 2.", Input(0));
     case Code::TooManyGroups:
-      return fmt::format("{} tells {} groups, but at most {} are allowed.", Input(0), Figure(0), Figure(1));
+      return fmt::format("{} gives {} groups, but at most {} are allowed.", Input(0), Figure(0), Figure(1));
     case Code::WrongLength: return WrongLength();
     case Code::SolvedForIsGiven: return fmt::format("{} is given, so {} cannot ask for it.", Input(0), Input(1));
     case Code::NotSolvedFor: return fmt::format("{} cannot be solved for with {}.", Input(0), Input(1));
@@ -219,7 +252,7 @@ std::string Words::Sentence() const {
     case Code::NotComputable:
       return fmt::format("These inputs have no answer: {} cannot be computed.", Wording(*problem_.question));
     case Code::Stopped: return "The computation was stopped; there is no answer.";
-    default: return ChartSentence();
+    default: return SentenceOnDesigns();
   }
 }
 

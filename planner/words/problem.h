@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_PROBLEM_H
+#define KELPOWER_PLANNER_WORDS_PROBLEM_H
 
 #include <functional>
 #include <string>
@@ -21,3 +22,5 @@ std::string Sentence(const Problem& problem, const NameOfInput& name);
 std::string Wording(Question question);
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_RENDER_H
+#define KELPOWER_PLANNER_WORDS_RENDER_H
 
 #include <string>
 
@@ -37,3 +38,5 @@ std::string RenderJson(const ChartData& chart);
 std::string RenderListJson();
 
 }  // namespace planner
+
+#endif

@@ -3,8 +3,10 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
-#include <numeric>
+#include <limits>
+#include <optional>
 
 #include "words/expand.h"
 #include "words/numbers.h"
@@ -14,13 +16,14 @@ namespace {
 
 std::string ShownPower(double power) {
   if (power > 0.99995) return ">0.9999";
+  if (power == 0) return "0";
   if (power < 0.00005) return "<0.0001";
   return fmt::format("{:.4f}", power);
 }
 
 std::string ShownHalfWidth(double halfWidth) { return fmt::format("{:.4g}", halfWidth); }
 
-/// The sizes with no more digits than are worth reading: four where there are too many observations to count.
+/// The sizes in digits worth reading: all, or four where there are too many observations to count.
 Numbers Readable(Numbers sizes) {
   constexpr double largestCounted = 1e15;
   for (double& size : sizes) {
@@ -31,18 +34,16 @@ Numbers Readable(Numbers sizes) {
 
 std::string Readable(double size) { return Shortest(Readable(Numbers{size}).front()); }
 
-double Total(const Numbers& sizes) { return std::accumulate(sizes.begin(), sizes.end(), 0.0); }
-
 /// "20 observations in each of 3 groups (60 in total)"
 std::string SizesInSentence(const Test& test, const Numbers& sizes) {
   if (test.groups == 1) return fmt::format("{} {}", Readable(sizes.front()), test.counted);
   const bool equal = std::adjacent_find(sizes.begin(), sizes.end(), std::not_equal_to<>()) == sizes.end();
   if (equal) {
     return fmt::format("{} {} in each of {} groups ({} in total)", Readable(sizes.front()), test.counted, sizes.size(),
-                       Readable(Total(sizes)));
+                       Readable(TotalOf(sizes)));
   }
   return fmt::format("{} {} in {} groups ({} in total)", ListedInSentence(Readable(sizes)), test.counted, sizes.size(),
-                     Readable(Total(sizes)));
+                     Readable(TotalOf(sizes)));
 }
 
 std::string ChoiceWording(const Parameter& parameter, const std::string& word) {
@@ -71,7 +72,7 @@ public:
 private:
   std::string LookUp(std::string_view name) const {
     if (name == "sizes") return SizesInSentence(test_, answer_.sizes);
-    if (name == "total") return Readable(Total(answer_.sizes));
+    if (name == "total") return Readable(TotalOf(answer_.sizes));
     if (name == "groups") return Shortest(inputs_.Groups());
     if (name == "power") return ShownPower(answer_.value);
     if (name == "half-width") return ShownHalfWidth(answer_.value);
@@ -81,7 +82,27 @@ private:
     for (const Phrase& phrase : test_.phrases) {
       if (phrase.name == name) return OfPhrase(phrase);
     }
-    return OfInput(name);
+    for (const Assumption& assumption : test_.assumptions) {
+      if (assumption.name == name) return OfAssumption(assumption);
+    }
+    const std::string input = OfInput(name);
+    return input.empty() ? OfDerived(name) : input;
+  }
+
+  /// The figure of that name, which a sentence may tell beside the inputs that it follows from.
+  std::string OfDerived(std::string_view name) const {
+    for (const auto& [derived, figure] : answer_.derived) {
+      if (derived->name == name) return fmt::format("{:.4g}", figure);
+    }
+    return "";
+  }
+
+  std::string OfAssumption(const Assumption& assumption) const {
+    const auto has = [&](Name need) { return inputs_.Has(need); };
+    if (!std::all_of(assumption.needs.begin(), assumption.needs.end(), has)) return "";
+    const std::string words = assumption.call(inputs_);
+    std::string text = assumption.wording;
+    return words.empty() ? "" : text.replace(text.find("<0>"), 3, words);
   }
 
   bool IsSet(std::string_view name) const {
@@ -111,54 +132,72 @@ private:
   const Answer& answer_;
 };
 
-/// The power or half-width to reach.
-bool IsTarget(const Answer& answer, Name name) {
-  if (name == Name("interval")) return false;
-  if (!answer.unknown) return name == AskedBy(answer.route->question);
-  return name == (answer.unknown->target == Question::Power ? Name("power") : Name("half-width"));
+/// The power or half-width to reach, if there is one.
+std::optional<Name> TargetOf(const Route& route, const Unknown* unknown) {
+  if (unknown) return unknown->target == Question::Power ? Name("power") : Name("half-width");
+  return AsksForSizes(route.question) ? AskedBy(route.question) : std::nullopt;
 }
 
 std::vector<Entry> InputEntries(const Answer& answer) {
   std::vector<Entry> entries;
-  const Route& route = *answer.route;
-  for (const Parameter& parameter : answer.test->parameters) {
-    const Name name = parameter.name;
-    if (!answer.inputs.Has(name)) continue;
-    if (parameter.shownOnlySet && !answer.inputs.Flag(name)) continue;
-    if (answer.unknown && name == answer.unknown->input) continue;
-    if (!route.Takes(name) && !IsTarget(answer, name) && name != Name("alpha")) continue;
-    const Value value = answer.inputs.ValueOf(parameter);
-    entries.push_back({std::string(name.Text()), parameter.label, value, Shown(value)});
+  for (const Parameter* parameter : ListedParameters(*answer.test, *answer.route, answer.unknown, answer.inputs)) {
+    const Value value = answer.inputs.ValueOf(*parameter);
+    const bool isUnset = parameter->kind == Kind::Flag && !answer.inputs.Flag(parameter->name);
+    const std::string name = NameInReports(*parameter, *answer.route, answer.unknown);
+    entries.push_back({name, parameter->label, value, Shown(value), isUnset});
   }
   return entries;
 }
 
+bool IsTaken(const Answer& answer, const Names& needs) {
+  return std::all_of(needs.begin(), needs.end(),
+                     [&](Name name) { return answer.inputs.Has(name) && answer.route->Takes(name); });
+}
+
+std::string Confidence(const Inputs& inputs) { return fmt::format("{:.10g}%", 100 * (1 - inputs.Alpha())); }
+
+std::vector<Entry> AssumptionEntries(const Answer& answer) {
+  std::vector<Entry> entries;
+  for (const Assumption& assumption : answer.test->assumptions) {
+    if (!IsTaken(answer, assumption.needs)) continue;
+    const std::string words = assumption.call(answer.inputs);
+    if (!words.empty()) entries.push_back({assumption.name, assumption.label, words, words});
+  }
+  if (!IsAboutPower(answer.Asked())) {
+    entries.push_back({"confidence", "confidence", Confidence(answer.inputs), Confidence(answer.inputs)});
+  }
+  return entries;
+}
+
+double FigureOf(const Answer& answer, const Derived* derived) {
+  for (const DerivedFigure& figure : answer.derived) {
+    if (figure.derived == derived) return figure.value;
+  }
+  return std::numeric_limits<double>::quiet_NaN();
+}
+
+double ResultOf(const Answer& answer, const ResultColumn& column) {
+  switch (column.reading) {
+    case Reading::Figure: return column.derived ? FigureOf(answer, column.derived) : NumberOf(answer);
+    case Reading::Size: return TotalOf(column.isLasting ? answer.lastingSizes : answer.sizes);
+    case Reading::Sizes: break;
+    case Reading::Power:
+    case Reading::HalfWidth: return answer.value;
+  }
+  return answer.value;
+}
+
 std::vector<Entry> ResultEntries(const Answer& answer) {
   std::vector<Entry> entries;
-  const bool grouped = answer.test->groups != 1;
-  if (answer.unknown) {
-    const Parameter& parameter = *FindParameter(*answer.test, answer.unknown->input);
-    const double number = NumberOf(answer);
-    entries.push_back({std::string(parameter.name.Text()), parameter.label, number, fmt::format("{:.4g}", number)});
-  }
-  for (const auto& [derived, figure] : answer.derived) {
-    entries.push_back({derived->name, derived->label, figure, fmt::format("{:.4g}", figure)});
-  }
-  if (answer.SizesFound() && grouped) {
-    entries.push_back({"sizes", "group sizes", answer.sizes, Listed(Readable(answer.sizes))});
-  }
-  if (answer.SizesFound() && !grouped) {
-    entries.push_back({"n", "sample size", answer.sizes.front(), Readable(answer.sizes.front())});
-  }
-  if (grouped) {
-    const double total = Total(answer.sizes);
-    entries.push_back({"total", "total sample size", total, Readable(total)});
-  }
-  const std::string suffix = answer.SizesFound() ? " at these sizes" : "";
-  if (IsAboutPower(answer.Asked())) {
-    entries.push_back({"power", "power" + suffix, answer.value, ShownPower(answer.value)});
-  } else {
-    entries.push_back({"half-width", "half-width" + suffix, answer.value, ShownHalfWidth(answer.value)});
+  for (const ResultColumn& column :
+       ResultColumns(*answer.test, *answer.route, answer.unknown, !answer.lastingSizes.empty())) {
+    if (column.reading == Reading::Sizes) {
+      const Numbers& sizes = column.isLasting ? answer.lastingSizes : answer.sizes;
+      entries.push_back({column.name, column.label, sizes, ShownSizes(sizes)});
+      continue;
+    }
+    const double value = ResultOf(answer, column);
+    if (!std::isnan(value)) entries.push_back({column.name, column.label, value, ShownResult(column.reading, value)});
   }
   return entries;
 }
@@ -170,29 +209,74 @@ std::string SentenceOf(const Test& test, Question question) {
   return "";
 }
 
-std::string Wording(Note note) {
-  switch (note) {
-    case Note::TargetMissedSlightly: return "At the sizes rounded to whole numbers the target is missed slightly.";
-  }
-  return "";
-}
-
-std::string WordingOf(const std::vector<Note>& notes) {
-  std::vector<std::string> sentences;
-  for (Note note : notes) sentences.push_back(Wording(note));
-  return Joined(sentences, " ", " ");
+/// What an uneven power asks to be said of the sizes found.
+std::string OnUnevenness(const Answer& answer) {
+  if (answer.lastingSizes.empty()) return "";
+  if (answer.lastingSizes == answer.sizes) return " All larger sample sizes reach it too.";
+  return fmt::format(" Some larger sample sizes do not reach it; all do from {} on.",
+                     SizesInSentence(*answer.test, answer.lastingSizes));
 }
 
 }  // namespace
+
+std::vector<const Parameter*> ListedParameters(const Test& test, const Route& route, const Unknown* unknown,
+                                               const Inputs& inputs) {
+  const std::optional<Name> target = TargetOf(route, unknown);
+  std::vector<const Parameter*> listed;
+  for (const Parameter& parameter : test.parameters) {
+    const Name name = parameter.name;
+    if (!inputs.Has(name)) continue;
+    if (unknown && name == unknown->input) continue;
+    if (!route.Takes(name) && name != target && name != Name("alpha")) continue;
+    listed.push_back(&parameter);
+  }
+  return listed;
+}
+
+std::string NameInReports(const Parameter& parameter, const Route& route, const Unknown* unknown) {
+  const bool isTarget = parameter.name == TargetOf(route, unknown);
+  return (isTarget ? "target-" : "") + std::string(parameter.name.Text());
+}
+
+std::string ShownResult(Reading reading, double value) {
+  switch (reading) {
+    case Reading::Power: return ShownPower(value);
+    case Reading::HalfWidth: return ShownHalfWidth(value);
+    case Reading::Size:
+    case Reading::Sizes: return Readable(value);
+    case Reading::Figure: break;
+  }
+  return fmt::format("{:.4g}", value);
+}
+
+std::string ShownSizes(const Numbers& sizes) { return Listed(Readable(sizes)); }
+
+std::string NoteOn(Question question, const Inputs& inputs, double value) {
+  constexpr double oddLevel = 0.5;
+  constexpr double rounding = 1e-9;
+  if (inputs.Alpha() >= oddLevel) {
+    return fmt::format("A significance level of {} rejects more often than not without any effect.",
+                       Shortest(inputs.Alpha()));
+  }
+  const bool isLow = IsAboutPower(question) && value <= inputs.Alpha() * (1 + rounding);
+  return isLow ? "The power is not above the significance level: the test would reject as often without any effect."
+               : "";
+}
+
+std::string NoteOn(const DesignAnswer& answer) {
+  const PreparedQuestion& question = *answer.question;
+  return NoteOn(question.ChosenRoute().question, question.Design(), answer.value);
+}
 
 Report MakeReport(const Answer& answer) {
   return {.test = answer.test,
           .question = answer.Asked(),
           .exportName = answer.route->ExportFor(answer.inputs),
           .inputs = InputEntries(answer),
+          .assumptions = AssumptionEntries(answer),
           .results = ResultEntries(answer),
-          .sentence = Words(answer).Of(SentenceOf(*answer.test, answer.Asked())),
-          .note = WordingOf(answer.notes)};
+          .sentence = Words(answer).Of(SentenceOf(*answer.test, answer.Asked())) + OnUnevenness(answer),
+          .note = NoteOn(answer.Asked(), answer.inputs, answer.value)};
 }
 
 }  // namespace planner

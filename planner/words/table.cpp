@@ -1,15 +1,25 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <iterator>
 
 #include "words/render.h"
 
 namespace planner {
 namespace {
 
+/// The inputs without flags that are not set, and what is taken for granted.
+std::vector<Entry> InputsForReading(const Report& report) {
+  std::vector<Entry> entries;
+  std::copy_if(report.inputs.begin(), report.inputs.end(), std::back_inserter(entries),
+               [](const Entry& entry) { return !entry.isUnset; });
+  entries.insert(entries.end(), report.assumptions.begin(), report.assumptions.end());
+  return entries;
+}
+
 std::size_t WidestLabel(const Report& report) {
   std::size_t widest = 0;
-  for (const Entry& entry : report.inputs) widest = std::max(widest, entry.label.size());
+  for (const Entry& entry : InputsForReading(report)) widest = std::max(widest, entry.label.size());
   for (const Entry& entry : report.results) widest = std::max(widest, entry.label.size());
   return widest;
 }
@@ -23,22 +33,25 @@ std::string MarkdownRow(const Entry& entry, const std::string& mark) {
 std::string RenderText(const Report& report, const Highlights& highlights) {
   std::string text = fmt::format("{}{}{}\n\n", highlights.heading, report.test->title, highlights.end);
   const std::size_t width = WidestLabel(report);
-  for (const Entry& entry : report.inputs) text += fmt::format("  {:<{}}  {}\n", entry.label, width, entry.shown);
+  for (const Entry& entry : InputsForReading(report))
+    text += fmt::format("  {:<{}}  {}\n", entry.label, width, entry.shown);
   text += '\n';
   for (const Entry& entry : report.results) {
     text += fmt::format("  {}{:<{}}  {}{}\n", highlights.answer, entry.label, width, entry.shown, highlights.end);
   }
   text += fmt::format("\n{}\n", report.sentence);
   if (!report.note.empty()) text += fmt::format("Note: {}\n", report.note);
+  if (report.explanation) text += RenderText(*report.explanation, highlights.heading, highlights.end);
   return text;
 }
 
 std::string RenderMarkdown(const Report& report) {
   std::string text = fmt::format("**{}**\n\n| | |\n|---|---|\n", report.test->title);
-  for (const Entry& entry : report.inputs) text += MarkdownRow(entry, "");
+  for (const Entry& entry : InputsForReading(report)) text += MarkdownRow(entry, "");
   for (const Entry& entry : report.results) text += MarkdownRow(entry, "**");
   text += fmt::format("\n{}\n", report.sentence);
   if (!report.note.empty()) text += fmt::format("\n{}\n", report.note);
+  if (report.explanation) text += RenderMarkdown(*report.explanation);
   return text;
 }
 

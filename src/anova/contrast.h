@@ -59,6 +59,10 @@ public:
   /// The power at a noncentrality of the F distribution, whose square root is that of the t distribution.
   Answer Power(double noncentrality) const;
 
+  /// The two-sided test, and the one-sided one: one of them, or none where the power is refused.
+  const std::optional<FTest>& TwoSided() const { return fTest_; }
+  const std::optional<TTest>& OneSided() const { return tTest_; }
+
 private:
   std::optional<FTest> fTest_;
   std::optional<TTest> tTest_;

@@ -58,6 +58,8 @@ public:
 
   /// The same to 1e-12, faster where many effects are asked about.
   Answer PowerOfMany(double noncentrality);
+  /// None where the power is refused.
+  const std::optional<FTest>& AtCriticalValue() const { return test_; }
 
 private:
   std::optional<FTest> test_;

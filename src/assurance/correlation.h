@@ -28,9 +28,9 @@ struct CorrelationInterval {
 Answer Assurance(const CorrelationInterval& interval, const Wish& wish, double size);
 
 /// The first whole size that has the assurance, in (0, 1). Sizes that differ from the smallest by 16 or less are tried
-/// one by one. Above them the assurance is taken to fall at most once and to rise from there on. So it does for
-/// Fisher's model without a correlation, where it is a function of h / halfWidth - 1 over h^2, h the reach of z; for
-/// the others trials show it. Not reached where no size up to `largestCount` has it.
+/// one by one. Above them the assurance is taken to fall at most once and to rise from there on. So it does in Fisher's
+/// model without a correlation: the square of its normal quantile is nearly z sqrt(n) / halfWidth - n, which is concave
+/// in the root of n. For the others trials show it. Not reached where no size up to `largestCount` has it.
 Answer FirstSize(const CorrelationInterval& interval, const Wish& wish, double assurance);
 
 }  // namespace kelpower::assurance

@@ -8,8 +8,8 @@ namespace kelpower::assurance {
 Answer FirstSize(const SizeSearch& search, FunctionView<double(double)> assuranceAt, double assurance) {
   const auto reaches = [&](double size) { return assuranceAt(size) >= assurance; };
   const double scanned = std::min(search.scanned, search.largest);
-  double low = search.smallest;
-  if (!(low <= search.largest)) return NoValue::NotReached;
+  double low = std::ceil(search.smallest);
+  if (!(low >= 1 && low <= search.largest)) return NoValue::NotReached;
   for (; low <= scanned; ++low) {
     if (reaches(low)) return low;
   }

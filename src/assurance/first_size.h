@@ -10,7 +10,7 @@ namespace kelpower::assurance {
 /// Where a search looks: at every whole size from `smallest` to `scanned`, and by bisection above, where the function
 /// does not fall as the size grows.
 struct SizeSearch {
-  double smallest;
+  double smallest;  ///< at least 1
   double scanned;
   double largest = largestCount;
 };

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "frame/checks.h"
 #include "kelcommon/kel_dist_fun.h"
 
 // At a size n let the counts first(n), ..., last(n) be those up to n / 2 whose interval is short enough; above n / 2
@@ -23,6 +22,11 @@ using KelMath::KelDistFun;
 namespace {
 
 constexpr double mostFirstCounts = 64;
+
+/// The bounds below have rounding errors. They tell nothing of an assurance that is as near to 0 or 1, and a search for it
+/// would try every size.
+constexpr double slack = 1e-12;
+constexpr double leastAssurance = 1e-9;
 
 /// The counts up to half the size whose interval is short enough.
 struct ShortCounts {
@@ -115,8 +119,6 @@ public:
   }
 
 private:
-  static constexpr double slack = 1e-12;  // more than the rounding errors of the bounds
-
   bool IsSought(double size) const {
     return (proportion_.Assurance(size) >= assurance_) == (sought_ == Sought::FirstThatReaches);
   }
@@ -132,7 +134,7 @@ bool RejectsSize(double size) { return !(size >= 1 && size <= largestCount && si
 
 bool RejectsSearch(const ProportionWish& wish, double assurance, double largest) {
   if (RejectsProportion(wish.proportion) || std::isnan(wish.proportion)) return true;
-  if (RejectsOpenUnit(assurance) || std::isnan(assurance)) return true;
+  if (!(assurance >= leastAssurance && assurance <= 1 - leastAssurance)) return true;
   return RejectsSize(largest);
 }
 

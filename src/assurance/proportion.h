@@ -37,7 +37,7 @@ Answer Assurance(const ProportionWish& wish, double size);
 // The assurance is a sawtooth in the size. Neither search takes it to rise: stretches of sizes are passed as one only
 // where bounds show that none, or all, of them have the assurance.
 
-/// The first size that has the assurance, in (0, 1). Not reached where none up to `largest` has it.
+/// The first size that has the assurance, in [1e-9, 1 - 1e-9]. Not reached where none up to `largest` has it.
 Answer FirstSize(const ProportionWish& wish, double assurance, double largest = largestCount, Stop stop = {});
 
 /// The smallest size from which on every size up to `largest` has the assurance. Not reached where `largest` itself has

@@ -24,6 +24,10 @@ using KelMath::KelDistFun;
 
 namespace {
 
+/// Sizes that are tried one by one, which takes a tenth of a second.
+constexpr double mostScanned = 400;
+constexpr double fewScanned = 15;
+
 /// A share b with its complement, either of which may be tiny.
 struct Shares {
   double b;
@@ -129,10 +133,10 @@ Answer FirstSize(const UnequalGroups& groups, const Wish& wish, double ratio, do
   if (Rejects(wish)) return NoValue::Refused;
   if (RejectsOpenUnit(assurance)) return NoValue::Refused;
   const double smallest = std::max(2.0, std::ceil(2 / ratio));
-  const double scannedDf = std::max(14.0, -36 * std::log(assurance));
+  const double wanted = std::max(15 / std::min(ratio, 1.0), -36 * std::log(assurance) / (1 + ratio));
+  const double scanned = wanted <= mostScanned ? wanted : fewScanned;
   return FirstSize(
-      {smallest, smallest + scannedDf / (1 + ratio)}, [&](double n) { return AssuranceAt(groups, wish, n, ratio * n); },
-      assurance);
+      {smallest, smallest + scanned}, [&](double n) { return AssuranceAt(groups, wish, n, ratio * n); }, assurance);
 }
 
 }  // namespace kelpower::assurance

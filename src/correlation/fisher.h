@@ -23,6 +23,13 @@ struct Level {
   double Power(double shift, double spread, bool isAbove) const;
 };
 
+/// A statistic under the alternative: normal with mean `shift` and standard deviation `spread`, which are 0 and 1 under
+/// the null hypothesis.
+struct ShiftedNormal {
+  double shift;
+  double spread;
+};
+
 /// The confidence of an interval, 1 - alpha, as the normal quantile that half-widths are multiplied by.
 struct Confidence {
   double quantile;

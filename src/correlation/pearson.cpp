@@ -30,11 +30,7 @@ double IntervalBias(double size, double correlation) { return correlation / 2 / 
 
 }  // namespace
 
-Answer Power(const PearsonTest& test, double size, const Hypotheses& hypotheses) {
-  if (size <= test.partialledOut + 3) return NoValue::Refused;
-  if (test.partialledOut < 0) return NoValue::Refused;
-  if (Rejects(hypotheses, test.level)) return NoValue::Refused;
-
+ShiftedNormal UnderAlternative(const PearsonTest& test, double size, const Hypotheses& hypotheses) {
   double difference = FisherDifference(hypotheses);
   const double information = size - 3 - test.partialledOut;
   double spread = 1;
@@ -44,7 +40,15 @@ Answer Power(const PearsonTest& test, double size, const Hypotheses& hypotheses)
     difference += correction.shift;
     spread = std::sqrt(correction.variance * (information / m));
   }
-  return test.level.Power(difference * std::sqrt(information), spread, hypotheses.alternative > hypotheses.null);
+  return {difference * std::sqrt(information), spread};
+}
+
+Answer Power(const PearsonTest& test, double size, const Hypotheses& hypotheses) {
+  if (size <= test.partialledOut + 3) return NoValue::Refused;
+  if (test.partialledOut < 0) return NoValue::Refused;
+  if (Rejects(hypotheses, test.level)) return NoValue::Refused;
+  const auto [shift, spread] = UnderAlternative(test, size, hypotheses);
+  return test.level.Power(shift, spread, hypotheses.alternative > hypotheses.null);
 }
 
 Answer SizeForPower(const PearsonTest& test, const Hypotheses& hypotheses, double power, Stop stop) {

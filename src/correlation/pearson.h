@@ -20,6 +20,9 @@ struct PearsonTest {
   bool NeverFalls() const { return !isCorrected; }
 };
 
+/// The difference of Fisher's z over its standard error 1 / sqrt(N - 3 - k). Nothing is checked.
+ShiftedNormal UnderAlternative(const PearsonTest& test, double size, const Hypotheses& hypotheses);
+
 /// Refused for a size of k + 3 or less, a negative k, and what is no correlation or no level.
 Answer Power(const PearsonTest& test, double size, const Hypotheses& hypotheses);
 

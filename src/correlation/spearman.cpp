@@ -21,16 +21,24 @@ double Precision(RankVariance variance, double size, double rho, double absolute
 
 }  // namespace
 
+double StandardError(RankVariance variance, double size, double rho, double absoluteZ) {
+  return 1 / Precision(variance, size, rho, absoluteZ);
+}
+
+ShiftedNormal UnderAlternative(const SpearmanTest& test, double size, const Hypotheses& hypotheses) {
+  const double alternative = hypotheses.alternative;
+  const bool isExtreme = alternative == 1 || alternative == -1;
+  const double absoluteZ = isExtreme ? std::numeric_limits<double>::max() : std::fabs(std::atanh(alternative));
+  const double precision = Precision(test.variance, size, alternative, absoluteZ);
+  return {FisherDifference(hypotheses) * precision, 1};
+}
+
 Answer Power(const SpearmanTest& test, double size, const Hypotheses& hypotheses) {
   if (size < 3) return NoValue::Refused;
   if (size == 3 && test.variance != RankVariance::CarusoCliff) return NoValue::Refused;
   if (Rejects(hypotheses, test.level)) return NoValue::Refused;
-
-  const auto& [alternative, null] = hypotheses;
-  const bool isExtreme = alternative == 1 || alternative == -1;
-  const double absoluteZ = isExtreme ? std::numeric_limits<double>::max() : std::fabs(std::atanh(alternative));
-  const double precision = Precision(test.variance, size, alternative, absoluteZ);
-  return test.level.Power(FisherDifference(hypotheses) * precision, 1, alternative > null);
+  const auto [shift, spread] = UnderAlternative(test, size, hypotheses);
+  return test.level.Power(shift, spread, hypotheses.alternative > hypotheses.null);
 }
 
 Bracket PowerBracket(RankVariance variance) {

@@ -22,6 +22,12 @@ struct SpearmanTest {
   RankVariance variance;
 };
 
+/// The standard error of Fisher's z of the rank correlation `rho`; `absoluteZ` is |z| of it.
+double StandardError(RankVariance variance, double size, double rho, double absoluteZ);
+
+/// The difference of Fisher's z over its standard error. Nothing is checked.
+ShiftedNormal UnderAlternative(const SpearmanTest& test, double size, const Hypotheses& hypotheses);
+
 /// Refused where the variance is infinite or negative, at sizes up to 3, or below 3 for the variance of Caruso and
 /// Cliff; and for what is no correlation or no level.
 Answer Power(const SpearmanTest& test, double size, const Hypotheses& hypotheses);

@@ -88,6 +88,7 @@ Answer Limit(const Belief& belief, Success success) {
 Answer FirstSize(FunctionView<Answer(double)> expectedAt, const Belief& belief, Success success, double wished,
                  const Sizes& sizes, Stop stop) {
   if (RejectsOpenUnit(wished)) return NoValue::Refused;
+  if (!(sizes.smallest >= 1 && sizes.largest <= largestCount)) return NoValue::Refused;
   const Answer limit = Limit(belief, success);
   if (!limit) return limit;
   if (!(*limit > wished)) return NoValue::NotReached;

@@ -19,7 +19,8 @@ struct Belief {
   double null = 0;  ///< the effect that the test takes for none; the power of a large study bends near it
 };
 
-/// The power of a test, 0 to 1, at an effect of either sign; the direction that the test looks for stays the same.
+/// The power of a test, 0 to 1, at an effect of either sign; the direction that the test looks for stays the same. It is
+/// asked at effects up to 8.5 standard deviations of the belief from its mean, impossible ones among them.
 using PowerOfEffect = FunctionView<double(double effect)>;
 
 /// The power averaged over the belief; absolute error below 1e-10. That holds for a power which depends on the distance
@@ -38,7 +39,7 @@ enum class Success {
 /// certain to be the null, where every size has the power of the test's level.
 Answer Limit(const Belief& belief, Success success);
 
-/// The sizes among which one is searched, whole numbers.
+/// The sizes among which one is searched: whole numbers from 1 to `largestCount`.
 struct Sizes {
   double smallest;
   double largest = largestCount;
@@ -54,7 +55,7 @@ struct Sizes {
 /// whose argument has the sign of m + z S^2 x in its derivative. Other tests are taken to be like it. In each case the
 /// bisection finds the first size, because one that is missed at the smallest is passed once.
 ///
-/// Not reached where the limit is not above `wished` or no size up to the largest has it.
+/// Not reached where the limit is not above `wished` or no size up to the largest has it. Refused for other sizes.
 Answer FirstSize(FunctionView<Answer(double size)> expectedAt, const Belief& belief, Success success, double wished,
                  const Sizes& sizes, Stop stop = {});
 

@@ -23,7 +23,7 @@ struct Axis {
   }
 };
 
-/// Which positions an axis between two ends has besides the whole steps below its end.
+/// What an axis between two ends has beyond the positions that lie below its end.
 enum class AxisEnd {
   Open,    ///< none: stops one step short of the end
   OnGrid,  ///< one more step, which may pass the end by a fraction of it

@@ -25,9 +25,17 @@ public:
         sides_(sides) {}
 
   double Power(double effect) const {
-    return sides_ == Sides::One ? test_.PowerUpperTail(std::fabs(effect) / standardError_)
-                                : test_.PowerBothTails(effect / standardError_);
+    const double noncentrality = Noncentrality(effect);
+    return sides_ == Sides::One ? test_.PowerUpperTail(noncentrality) : test_.PowerBothTails(noncentrality);
   }
+
+  /// Of t: that of a one-sided test is positive, because the test looks where the effect lies.
+  double Noncentrality(double effect) const {
+    return (sides_ == Sides::One ? std::fabs(effect) : effect) / standardError_;
+  }
+
+  const TTest& AtCriticalValue() const { return test_; }
+  double StandardError() const { return standardError_; }
 
 private:
   TTest test_;

@@ -50,15 +50,26 @@ Answer LargeSampleTest::Power(double p1, double p2) const {
   return NoValue::Refused;
 }
 
+double LargeSampleTest::Noncentrality(double p1, double p2) const {
+  switch (design_.test) {
+    case TwoProportionTest::T: return NoncentralityT(p1, p2);
+    case TwoProportionTest::LikelihoodRatio: return RootOfLikelihoodRatio(p1, p2);
+    default: return MeanOfArcsine(p1, p2);
+  }
+}
+
 // Fleiss, J. L., Levin, B. and Paik, M. C. (2003), Statistical Methods for Rates and Proportions, 3rd ed., ch. 4.
-double LargeSampleTest::PowerZ(double p1, double p2) const {
-  const double difference = p1 - p2;
+ZStatistic LargeSampleTest::Statistic(double p1, double p2) const {
   const double sd = std::sqrt(p1 * (1 - p1) / n1_ + p2 * (1 - p2) / n2_);
   const double mean = (0.5 * n1_ * p1 + 0.5 * n2_ * p2) / (0.5 * n1_ + 0.5 * n2_);
   const double nullSd = design_.isPooled ? std::sqrt((1 - mean) * mean * reciprocals_) : sd;
-  const double margin = criticalZ_ * nullSd;
-  const double correction = design_.isCorrected ? reciprocals_ / 2 : 0;
+  return {nullSd, sd, design_.isCorrected ? reciprocals_ / 2 : 0};
+}
 
+double LargeSampleTest::PowerZ(double p1, double p2) const {
+  const double difference = p1 - p2;
+  const auto& [nullSd, sd, correction] = Statistic(p1, p2);
+  const double margin = criticalZ_ * nullSd;
   const double below = KelDistFun::CdfStdNorm((margin + difference + correction) / sd);
   const double above = KelDistFun::CdfStdNorm((difference - margin - correction) / sd);
   switch (AlternativeOf(design_, p1, p2)) {
@@ -70,24 +81,32 @@ double LargeSampleTest::PowerZ(double p1, double p2) const {
 }
 
 // Without pooling the sizes are crossed, deliberately: that is the variance p1 q1 / n1 + p2 q2 / n2 times n1 n2.
-double LargeSampleTest::PowerT(double p1, double p2) const {
+double LargeSampleTest::NoncentralityT(double p1, double p2) const {
   const double variance1 = p1 * (1 - p1);
   const double variance2 = p2 * (1 - p2);
   const double variance = design_.isPooled ? n1_ * variance1 + n2_ * variance2 : n1_ * variance2 + n2_ * variance1;
   // sqrt(n1) sqrt(n2), because n1 n2 overflows from sizes of 1e154 on.
   const double perUnit = std::sqrt(n1_) * std::sqrt(n2_) / std::sqrt(variance);
-  if (design_.isOneSided) return testT_.PowerUpperTail(std::fabs(p1 - p2) * perUnit);
-  return testT_.PowerBothTails((p1 - p2) * perUnit);
+  return (design_.isOneSided ? std::fabs(p1 - p2) : p1 - p2) * perUnit;
+}
+
+double LargeSampleTest::PowerT(double p1, double p2) const {
+  const double noncentrality = NoncentralityT(p1, p2);
+  return design_.isOneSided ? testT_.PowerUpperTail(noncentrality) : testT_.PowerBothTails(noncentrality);
 }
 
 // G = 2 sum n_i KL(p_i, mean) is the noncentrality of the likelihood-ratio statistic. Agresti, A. (2013), Categorical
 // Data Analysis, 3rd ed., sect. 6.6.
-double LargeSampleTest::PowerLikelihoodRatio(double p1, double p2) const {
+double LargeSampleTest::RootOfLikelihoodRatio(double p1, double p2) const {
   const double mean = share1_ * p1 + share2_ * p2;
   const double notMean = share1_ * (1 - p1) + share2_ * (1 - p2);
   const double difference = p1 - p2;
-  const double root = std::sqrt(2 * (n1_ * Divergence(p1, mean, notMean, share2_ * difference) +
-                                     n2_ * Divergence(p2, mean, notMean, -share1_ * difference)));
+  return std::sqrt(2 * (n1_ * Divergence(p1, mean, notMean, share2_ * difference) +
+                        n2_ * Divergence(p2, mean, notMean, -share1_ * difference)));
+}
+
+double LargeSampleTest::PowerLikelihoodRatio(double p1, double p2) const {
+  const double root = RootOfLikelihoodRatio(p1, p2);
   if (design_.isOneSided) return KelDistFun::CdfStdNorm(root - criticalZ_);
   return 1 - KelDistFun::CdfStdNorm(root + criticalZ_) + KelDistFun::CdfStdNorm(root - criticalZ_);
 }
@@ -96,11 +115,7 @@ double LargeSampleTest::PowerLikelihoodRatio(double p1, double p2) const {
 // towards each other by half a unit. The difference of the arcsines a - b is taken as the angle whose sine is
 // (a' - b') / (sqrt(a' (1 - b')) + sqrt(b' (1 - a'))), for the plain difference has no digits left at large sizes.
 // At the smallest sizes a' or 1 - b' is 0, and may round to less: n1 = 0.5 / p1 with p1 = 0.56 gives b' = -3e-17.
-Answer LargeSampleTest::PowerArcsine(double p1, double p2) const {
-  constexpr double slack = 1e-12;  // a size that rounding has taken below its limit is valid
-  if (p1 > p2 && (n1_ < 0.5 / p1 - slack || n2_ < 0.5 / (1 - p2) - slack)) return NoValue::Refused;
-  if (p1 < p2 && (n1_ < 0.5 / (1 - p1) - slack || n2_ < 0.5 / p2 - slack)) return NoValue::Refused;
-
+double LargeSampleTest::MeanOfArcsine(double p1, double p2) const {
   const double sign = p1 >= p2 ? 1 : -1;
   const double half1 = 0.5 / n1_;
   const double half2 = 0.5 / n2_;
@@ -112,8 +127,15 @@ Answer LargeSampleTest::PowerArcsine(double p1, double p2) const {
   const double crossed2 = std::sqrt(b) * std::sqrt(notA);
   const double sine = (p2 - p1 + sign * (half1 + half2)) / (crossed1 + crossed2);
   const double cosine = std::sqrt(notA) * std::sqrt(notB) + std::sqrt(a) * std::sqrt(b);
-  const double effect = p1 == p2 ? 0 : 2 * std::sqrt(1 / reciprocals_) * std::atan2(sine, cosine);
+  return p1 == p2 ? 0 : 2 * std::sqrt(1 / reciprocals_) * std::atan2(sine, cosine);
+}
 
+Answer LargeSampleTest::PowerArcsine(double p1, double p2) const {
+  constexpr double slack = 1e-12;  // a size that rounding has taken below its limit is valid
+  if (p1 > p2 && (n1_ < 0.5 / p1 - slack || n2_ < 0.5 / (1 - p2) - slack)) return NoValue::Refused;
+  if (p1 < p2 && (n1_ < 0.5 / (1 - p1) - slack || n2_ < 0.5 / p2 - slack)) return NoValue::Refused;
+
+  const double effect = MeanOfArcsine(p1, p2);
   const double above = KelDistFun::CdfStdNorm(effect - criticalZ_);
   const double below = 1 - KelDistFun::CdfStdNorm(effect + criticalZ_);
   if (!design_.isOneSided) return above + below;

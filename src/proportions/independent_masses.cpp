@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "kelcommon/kel_dist_fun.h"
+#include "proportions/running_mass.h"
 
 namespace kelpower::proportions {
 
@@ -13,33 +14,33 @@ GroupSize GroupSize::Of(double size) {
   return {size, static_cast<std::int64_t>(std::floor(size)), static_cast<std::int64_t>(std::ceil(size + 1))};
 }
 
-// From the mode outwards by the ratio of neighbours, mass(x + 1) / mass(x) = (n - x) / (x + 1) p / (1 - p), which holds
-// for fractional n too. The error of a step is a rounding, and what is far from the mode weighs little.
+// From the mode outwards, until the masses are negligible.
 BinomialMasses BinomialMasses::Of(const GroupSize& group, double p) {
   constexpr double smallest = std::numeric_limits<double>::min();
   BinomialMasses masses;
   const double n = group.size;
-  const double mode = std::clamp(std::floor((n + 1) * p), 0.0, static_cast<double>(group.whole));
+  const double last = static_cast<double>(group.whole);
+  const double mode = std::clamp(std::floor((n + 1) * p), 0.0, last);
   long err = 0;
-  const double atMode = KelMath::KelDistFun::PdfBin(mode, n, p, err);
+  KelMath::KelDistFun::PdfBin(mode, n, p, err);
   masses.failed = err != 0;
   if (masses.failed) return masses;
 
-  const double odds = p / (1 - p);
-  double mass = atMode;
+  const RunningMass atMode(n, p, mode);
+  RunningMass down = atMode;
   for (double x = mode; x >= 1; --x) {
-    mass *= x / ((n - x + 1) * odds);
-    if (!(mass >= smallest)) break;
-    masses.mass.push_back(mass);
+    down.LowerCount();
+    if (!(down.Value() >= smallest)) break;
+    masses.mass.push_back(down.Value());
   }
   masses.first = static_cast<std::int64_t>(mode) - static_cast<std::int64_t>(masses.mass.size());
   std::reverse(masses.mass.begin(), masses.mass.end());
-  masses.mass.push_back(atMode);
-  mass = atMode;
-  for (double x = mode; x < static_cast<double>(group.whole); ++x) {
-    mass *= (n - x) * odds / (x + 1);
-    if (!(mass >= smallest)) break;
-    masses.mass.push_back(mass);
+  masses.mass.push_back(atMode.Value());
+  RunningMass up = atMode;
+  for (double x = mode; x < last; ++x) {
+    up.RaiseCount();
+    if (!(up.Value() >= smallest)) break;
+    masses.mass.push_back(up.Value());
   }
   return masses;
 }

@@ -10,6 +10,7 @@
 #include "frame/increasing_search.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "proportions/exact_search.h"
+#include "proportions/running_mass.h"
 
 namespace kelpower::proportions {
 
@@ -38,48 +39,6 @@ PairRange LikelyPairs(double size, double discordant) {
   const double reach = third + std::sqrt(third * third + 2 * negligible * variance);
   return {std::max(1.0, std::floor(mean - reach)), std::min(std::floor(size), std::ceil(mean + reach))};
 }
-
-/// P(count) of a binomial count, kept up to date by recurrence while the count moves away from the mode.
-class RunningMass {
-public:
-  RunningMass(double size, double p, double count) : size_(size), p_(p), odds_(p / (1 - p)), count_(count) {
-    Evaluate();
-  }
-
-  double Value() const { return mass_; }
-
-  void RaiseCount() {
-    mass_ *= (size_ - count_) / (count_ + 1) * odds_;
-    count_ += 1;
-    CountStep();
-  }
-
-  void LowerCount() {
-    mass_ *= count_ / (size_ - count_ + 1) / odds_;
-    count_ -= 1;
-    CountStep();
-  }
-
-private:
-  static constexpr int stepsPerEvaluation = 64;  // the recurrence then stays within 1e-14
-
-  void CountStep() {
-    if (++stepsSinceEvaluation_ == stepsPerEvaluation) Evaluate();
-  }
-
-  void Evaluate() {
-    long error = 0;
-    mass_ = KelDistFun::PdfBin(count_, size_, p_, error);
-    stepsSinceEvaluation_ = 0;
-  }
-
-  double size_;
-  double p_;
-  double odds_;
-  double count_;
-  double mass_ = 0;
-  int stepsSinceEvaluation_ = 0;
-};
 
 /// The probabilities of from, ..., to discordant pairs. Starts at the mode, where they are most accurate, and because
 /// from a mass that has underflowed the recurrence could not rise again.
@@ -157,15 +116,20 @@ Answer McNemarTest::AttainedLevel(double size, const DiscordantPairs& pairs) {
 // Connor, R. J. (1987), Sample size for testing differences in proportions for the paired-sample design, Biometrics 43,
 // 207-211: the standard deviation is sqrt(pd) under the null hypothesis, sqrt(pd - (p12 - p21)^2) under the
 // alternative.
-Answer McNemarTest::NormalPower(double size, const DiscordantPairs& pairs) const {
+PairedStatistic McNemarTest::Statistic(double size, const DiscordantPairs& pairs) const {
   const double discordant = pairs.p12 + pairs.p21;
   const double difference = pairs.p12 - pairs.p21;
   const double shift = std::sqrt(size) * difference;
   const double s0 = std::sqrt(discordant);
   const double s1 = std::fabs(std::sqrt(discordant - difference * difference));
+  return {shift, s0, s1, tail_.z};
+}
 
-  const auto above = [&] { return KelDistFun::CdfStdNorm((shift - s0 * tail_.z) / s1); };
-  const auto below = [&] { return 1 - KelDistFun::CdfStdNorm((s0 * tail_.z + shift) / s1); };
+Answer McNemarTest::NormalPower(double size, const DiscordantPairs& pairs) const {
+  const PairedStatistic of = Statistic(size, pairs);
+  const double margin = of.nullSd * of.critical;
+  const auto above = [&] { return KelDistFun::CdfStdNorm((of.shift - margin) / of.sd); };
+  const auto below = [&] { return 1 - KelDistFun::CdfStdNorm((margin + of.shift) / of.sd); };
   if (!design_.isOneSided) return above() + below();
   return pairs.p12 > pairs.p21 ? above() : below();
 }

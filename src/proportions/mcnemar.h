@@ -34,6 +34,14 @@ struct McNemarDesign {
   double TailLevel() const { return isOneSided ? alpha : alpha / 2; }
 };
 
+/// What the power of the normal test is made of.
+struct PairedStatistic {
+  double shift;     ///< sqrt(N) (p12 - p21)
+  double nullSd;    ///< of one pair's difference under the null hypothesis
+  double sd;        ///< under the alternative
+  double critical;  ///< normal quantile
+};
+
 /// The test, with what its successive calls share: the critical values of the exact test, and its power given the
 /// number of discordant pairs while their odds stay the same.
 class McNemarTest {
@@ -44,6 +52,9 @@ public:
 
   /// Refused for fewer than two pairs, probabilities that are none or exceed 1 together, and a level outside (0, 1).
   Answer Power(double size, const DiscordantPairs& pairs, Stop stop = {});
+
+  /// What the normal test goes by.
+  PairedStatistic Statistic(double size, const DiscordantPairs& pairs) const;
 
   /// The numbers of pairs of the second kind, among `discordant`, that the exact test rejects.
   CriticalRegion Region(double discordant, const DiscordantPairs& pairs) const;

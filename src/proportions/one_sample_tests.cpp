@@ -31,15 +31,20 @@ Tails OneSampleTest::TailsOf(const OneSampleProportions& proportions) const {
 
 // P(|Z0| > z) for Z0 = sqrt(N) (X/N - p0) / s0, with X/N normal of mean p1 and standard deviation s1 / sqrt(N). At p1 =
 // 0 or 1 the quotients are infinite and the power is 0 or 1; at p1 = -0 the root is -0, whose sign must not turn them.
-double OneSampleTest::NormalPower(double size, const OneSampleProportions& proportions) const {
+NormalStatistic OneSampleTest::Statistic(double size, const OneSampleProportions& proportions) const {
   const auto& [altProportion, nullProportion] = proportions;
   const double shift = std::sqrt(size) * (nullProportion - altProportion);
   const double s0 = std::sqrt((1 - nullProportion) * nullProportion);
   const double s1 = std::fabs(std::sqrt((1 - altProportion) * altProportion));
   const double correction = design_.isCorrected ? 1 / (2 * std::sqrt(size)) : 0;
+  return {shift, s0, s1, correction, tail_.z};
+}
 
-  const auto below = [&] { return KelDistFun::CdfStdNorm((shift - s0 * tail_.z - correction) / s1); };
-  const auto above = [&] { return 1 - KelDistFun::CdfStdNorm((s0 * tail_.z + shift + correction) / s1); };
+double OneSampleTest::NormalPower(double size, const OneSampleProportions& proportions) const {
+  const NormalStatistic of = Statistic(size, proportions);
+  const double margin = of.nullSd * of.critical;
+  const auto below = [&] { return KelDistFun::CdfStdNorm((of.shift - margin - of.correction) / of.sd); };
+  const auto above = [&] { return 1 - KelDistFun::CdfStdNorm((margin + of.shift + of.correction) / of.sd); };
   switch (TailsOf(proportions)) {
     case Tails::Lower: return below();
     case Tails::Upper: return above();

@@ -29,6 +29,15 @@ struct OneSampleProportions {
   double null;
 };
 
+/// What the power of the normal test is made of.
+struct NormalStatistic {
+  double shift;       ///< sqrt(N) times the null proportion less the alternative
+  double nullSd;      ///< of one observation under the null hypothesis, s0
+  double sd;          ///< under the alternative, s1
+  double correction;  ///< for continuity
+  double critical;    ///< normal quantile
+};
+
 /// The test. What depends on the significance level alone is computed once, and the critical values of the exact test
 /// once for successive calls at the same size and null proportion.
 class OneSampleTest {
@@ -37,6 +46,9 @@ public:
 
   /// Refused for a size below 1, what is no proportion, and a level outside (0, 1).
   Answer Power(double size, const OneSampleProportions& proportions, Stop stop = {});
+
+  /// What the normal test goes by.
+  NormalStatistic Statistic(double size, const OneSampleProportions& proportions) const;
 
   /// The counts that the exact test rejects at a whole size.
   CriticalRegion Region(double size, const OneSampleProportions& proportions);

@@ -12,21 +12,21 @@ namespace {
 
 using Numbers = std::vector<double>;
 
-const Numbers kMeans = {10, 12, 15};
-const Numbers kSizes = {10, 12, 8};
+const Numbers usualMeans = {10, 12, 15};
+const Numbers usualSizes = {10, 12, 8};
 
 TEST(Overall, PowersAreThoseOfTheExports) {
-  const GroupSpread spread = GroupSpread::Of(kMeans, kSizes);
-  EXPECT_EQ(*PowerOfMeans(spread, 6, 3, 30, 0.05), PowerOverallTest(3, kMeans.data(), 6, kSizes.data(), 0.05));
-  EXPECT_EQ(*PowerOfEffect({0.3, true}, 3, 30, 0.05), PowerOverallTestwES(3, 0.3, 1, kSizes.data(), 0.05));
+  const GroupSpread spread = GroupSpread::Of(usualMeans, usualSizes);
+  EXPECT_EQ(*PowerOfMeans(spread, 6, 3, 30, 0.05), PowerOverallTest(3, usualMeans.data(), 6, usualSizes.data(), 0.05));
+  EXPECT_EQ(*PowerOfEffect({0.3, true}, 3, 30, 0.05), PowerOverallTestwES(3, 0.3, 1, usualSizes.data(), 0.05));
 }
 
 TEST(Overall, SizesSpreadAreThoseOfTheExports) {
   DoubleVector sizes;
-  PowerReverseOverallTest(3, kMeans.data(), 6, kSizes.data(), 0.8, sizes, 0.05);
-  EXPECT_EQ(SpreadByShares(*TotalForPowerOfMeans(kMeans, 6, kSizes, 0.8, 0.05), kSizes), sizes);
-  PowerReversebyHalfCIOverallTest(1.5, 3, kSizes.data(), 6, sizes, 0.05);
-  EXPECT_EQ(SpreadByRatios(*TotalForHalfWidthOfGrandMean(1.5, 3, 6, 0.05), kSizes), sizes);
+  PowerReverseOverallTest(3, usualMeans.data(), 6, usualSizes.data(), 0.8, sizes, 0.05);
+  EXPECT_EQ(SpreadByShares(*TotalForPowerOfMeans(usualMeans, 6, usualSizes, 0.8, 0.05), usualSizes), sizes);
+  PowerReversebyHalfCIOverallTest(1.5, 3, usualSizes.data(), 6, sizes, 0.05);
+  EXPECT_EQ(SpreadByRatios(*TotalForHalfWidthOfGrandMean(1.5, 3, 6, 0.05), usualSizes), sizes);
 }
 
 TEST(Overall, SaysWhyThereIsNoPowerOrSize) {

@@ -111,6 +111,25 @@ TEST(AssuranceOfMeans, FirstSizesAreThoseFoundByTryingAll) {
   }
 }
 
+// With a thousand means the degrees of freedom grow much faster than the size: the assurance rises to 0.122 at three
+// of them, because t falls, falls to 0.001 and rises for good.
+TEST(AssuranceOfMeans, FirstSizesAreFoundBeforeAValley) {
+  const MeanEstimate estimate{1, 434, 1, 1000, 1001};
+  const Wish wish{1, 0.05};
+  EXPECT_EQ(*FirstSize(estimate, wish, 0.12), FirstByTrying(estimate, wish, 0.12));
+  EXPECT_LT(*FirstSize(estimate, wish, 0.12), 1010);
+  EXPECT_LT(*Assurance(estimate, wish, 1200), 0.001);
+  EXPECT_EQ(*FirstSize(estimate, wish, 0.9), FirstByTrying(estimate, wish, 0.9));
+}
+
+TEST(AssuranceOfMeans, GivesEachGroupAnObservation) {
+  EXPECT_EQ(MeanEstimate::OfMean(1).smallest, 2);
+  EXPECT_EQ(MeanEstimate::OfDifference(1, 1).smallest, 2);
+  EXPECT_EQ(MeanEstimate::OfDifference(1, 0.2).smallest, 5);
+  EXPECT_EQ(MeanEstimate::OfContrast({1, -1, 0}, {1, 1, 1}, 1).smallest, 4);
+  EXPECT_EQ(MeanEstimate::OfContrast({1, -1, 0}, {4, 4, 2}, 1).smallest, 5);
+}
+
 // What the bisection rests on: from 14 degrees of freedom, as many as groups, and c = 0.7 on.
 TEST(AssuranceOfMeans, RisesWhereTheSearchTakesItToRise) {
   for (const double groups : {1.0, 2.0, 5.0, 40.0}) {

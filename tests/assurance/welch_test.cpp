@@ -60,6 +60,38 @@ TEST(AssuranceOfWelch, FirstSizesAreThoseFoundByTryingAll) {
   }
 }
 
+// At 54 in the large group the assurance has a peak of 0.00034: with five in the small one the quantile of t falls fast.
+TEST(AssuranceOfWelch, FirstSizesAreFoundBeforeAValley) {
+  const UnequalGroups groups{1, 1};
+  const Wish wish{0.5, 0.001};
+  double size = 20;
+  while (*Assurance(groups, wish, size, 0.1 * size) < 0.0003) ++size;
+  EXPECT_LT(size, 60);
+  EXPECT_EQ(*FirstSize(groups, wish, 0.1, 0.0003), size);
+  EXPECT_LT(*Assurance(groups, wish, 110, 11), 0.0003);
+}
+
+// What the bisection rests on.
+TEST(AssuranceOfWelch, FallsAtMostOnceAndRisesFromThereOn) {
+  for (const double ratio : {0.1, 0.5, 1.0, 8.0}) {
+    for (const double sd2 : {0.1, 1.0, 5.0}) {
+      for (const double halfWidth : {0.15, 0.5}) {
+        for (const double alpha : {0.001, 0.05, 0.5}) {
+          bool hasRisen = false;
+          double last = 2;
+          for (double n = std::ceil(15 / std::min(1.0, ratio)); n < 1e6 && last != 1; n = std::ceil(n * 1.12)) {
+            const double assurance = *Assurance(UnequalGroups{1, sd2}, {halfWidth, alpha}, n, ratio * n);
+            if (assurance > last + 1e-11) hasRisen = true;
+            EXPECT_FALSE(hasRisen && assurance < last - 1e-11) << ratio << ' ' << sd2 << ' ' << halfWidth << ' ' << n;
+            last = assurance;
+          }
+          EXPECT_GT(last, 0.999);
+        }
+      }
+    }
+  }
+}
+
 TEST(AssuranceOfWelch, SaysWhyThereIsNone) {
   const UnequalGroups groups{1, 2};
   EXPECT_EQ(Assurance(groups, {1, 0.05}, 1, 20).Reason(), NoValue::Refused);

@@ -1,5 +1,5 @@
-#ifndef KELPOWER_TESTS_BINDING_H
-#define KELPOWER_TESTS_BINDING_H
+#ifndef KELPOWER_TESTS_BINDING_BINDING_H
+#define KELPOWER_TESTS_BINDING_BINDING_H
 
 /// \file
 /// Calls every export of the library through one interface: the types of its arguments are deduced from the header, so
@@ -67,52 +67,52 @@ template <class T>
 struct Type;
 template <>
 struct Type<double> {
-  static constexpr char kLetter = 'd';
+  static constexpr char letter = 'd';
   static double Get(Argument& a) { return a.number; }
 };
 template <>
 struct Type<std::int32_t> {
-  static constexpr char kLetter = 'i';
+  static constexpr char letter = 'i';
   static std::int32_t Get(Argument& a) { return a.integer; }
 };
 template <>
 struct Type<std::uint8_t> {
-  static constexpr char kLetter = 'b';
+  static constexpr char letter = 'b';
   static std::uint8_t Get(Argument& a) { return static_cast<std::uint8_t>(a.integer); }
 };
 template <>
 struct Type<const double*> {
-  static constexpr char kLetter = 'p';
+  static constexpr char letter = 'p';
   static const double* Get(Argument& a) { return Data(a); }
 };
 template <>
 struct Type<double*> {
-  static constexpr char kLetter = 'P';
+  static constexpr char letter = 'P';
   static double* Get(Argument& a) { return Data(a); }
 };
 template <>
 struct Type<DoubleVector&> {
-  static constexpr char kLetter = 'v';
+  static constexpr char letter = 'v';
   static DoubleVector& Get(Argument& a) { return a.array; }
 };
 template <>
 struct Type<StopRequest*> {
-  static constexpr char kLetter = 's';
+  static constexpr char letter = 's';
   static StopRequest* Get(Argument& a) { return a.isNull ? nullptr : &a.stopRequest; }
 };
 template <>
 struct Type<const void*> {
-  static constexpr char kLetter = 'n';
+  static constexpr char letter = 'n';
   static const void* Get(Argument&) { return nullptr; }
 };
 template <>
 struct Type<XYPlot*> {
-  static constexpr char kLetter = 'X';
+  static constexpr char letter = 'X';
   static XYPlot* Get(Argument& a) { return a.curve; }
 };
 template <>
 struct Type<XYZPlot*> {
-  static constexpr char kLetter = 'Z';
+  static constexpr char letter = 'Z';
   static XYZPlot* Get(Argument& a) { return a.surface; }
 };
 
@@ -142,7 +142,7 @@ Function Bind(const char* name, R (*function)(P...)) {
   const auto call = [](void (*address)(), Argument* arguments) {
     return detail::Invoke(reinterpret_cast<R (*)(P...)>(address), arguments, std::index_sequence_for<P...>());
   };
-  return {name, detail::ResultName(static_cast<R (*)()>(nullptr)), std::string{detail::Type<P>::kLetter...}, call,
+  return {name, detail::ResultName(static_cast<R (*)()>(nullptr)), std::string{detail::Type<P>::letter...}, call,
           reinterpret_cast<void (*)()>(function)};
 }
 

@@ -85,6 +85,7 @@ TEST(Examples, OfTheHelpGiveTheirSentence) {
 
 TEST(Examples, OfTheDocumentsGiveTheirOutput) {
   int count = 0;
+  std::filesystem::current_path(KELPOWER_SOURCE);  // documents name files from there
   for (const auto& document : Documents()) {
     for (const ShownRun& shown : ShownRuns(document)) {
       const Outcome run = RunProgram(Words(shown.command));

@@ -21,6 +21,56 @@ TEST(Help, NamesEveryOptionAndShowsTheExamples) {
   }
 }
 
+TEST(Help, BeginsWithTheCommonestCall) {
+  for (const planner::Test& test : planner::Tests()) {
+    const std::string help = HelpOf(test);
+    const std::size_t call = help.find("  kelpower " + test.name + " --");
+    ASSERT_NE(call, std::string::npos) << test.name;
+    EXPECT_NE(help.substr(call, help.find('\n', call) - call).find(" --power 0."), std::string::npos) << help;
+    EXPECT_EQ(help.substr(call, help.find('\n', call) - call).find(" --n "), std::string::npos) << help;
+    EXPECT_LT(call, help.find("Options")) << test.name;
+    EXPECT_LT(help.find(test.whenNot), call) << test.name;
+  }
+}
+
+/// The lines between two headings.
+std::vector<std::string> UsageLines(const planner::Test& test) {
+  const std::string help = HelpOf(test);
+  std::istringstream usage(
+      help.substr(help.find("Power of a design"), help.find("\nOptions") - help.find("Power of a design")));
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(usage, line);) {
+    if (line.rfind("  kelpower", 0) == 0) lines.push_back(line);
+  }
+  return lines;
+}
+
+TEST(Help, NamesEachInputOfAUsageLineOnceWithWhatStandsForItsValue) {
+  for (const planner::Test& test : planner::Tests()) {
+    const std::vector<std::string> lines = UsageLines(test);
+    EXPECT_FALSE(lines.empty()) << test.name;
+    for (const std::string& line : lines) {
+      std::set<std::string> seen;
+      std::istringstream words(line);
+      std::string before;
+      for (std::string word; words >> word; before = word) {
+        const bool isOption = word.find("--") <= 1;
+        EXPECT_TRUE(!isOption || seen.insert(word).second) << line;
+        const planner::Parameter* parameter =
+            before.rfind("--", 0) == 0 ? planner::FindParameter(test, before.substr(2)) : nullptr;
+        const bool needsValue = parameter && parameter->kind != planner::Kind::Flag;
+        EXPECT_FALSE(needsValue && isOption) << line;
+      }
+    }
+  }
+}
+
+TEST(Help, SaysThatAListOfTwoIsTwoNumbers) {
+  EXPECT_NE(HelpOf(*planner::FindTest("two-means")).find("(two numbers like 52,47)"), std::string::npos);
+  EXPECT_NE(HelpOf(*planner::FindTest("paired-means")).find("(two numbers like 52,47)"), std::string::npos);
+  EXPECT_NE(HelpOf(*planner::FindTest("anova")).find("(a list like 1,2,3, each entry a number)"), std::string::npos);
+}
+
 TEST(Help, ShowsEveryAxisOfChartsOnce) {
   constexpr std::size_t widest = 110;
   for (const planner::Test& test : planner::Tests()) {

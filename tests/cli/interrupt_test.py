@@ -23,6 +23,7 @@ LONG_CHART = (
     "two-proportions --proportions 0.5,0.75 --n 850 --test conditional --chart sizes --from 800,800 --to 860,860"
 ).split()
 
+STOPPED_ROWS = b"kelpower: The computation was stopped; the rows up to there are whole."
 STOPPED = b"kelpower: The computation was stopped; there is no answer."
 
 
@@ -123,6 +124,43 @@ class Interrupts(unittest.TestCase):
                 self.assertEqual((out, error), (b"", b""))
                 return
         self.fail("the program never ended by the second interrupt")
+
+    def test_an_interrupted_file_of_designs_leaves_whole_rows(self):
+        with tempfile.TemporaryDirectory() as folder:
+            rows = 100_000
+            designs = pathlib.Path(folder) / "designs.csv"
+            designs.write_text("effect-d,power\n" + "0.003,0.8\n" * rows)
+            answers = pathlib.Path(folder) / "answers.csv"
+            for jobs in ("1", "2"):
+                answers.unlink(missing_ok=True)
+                process = start(["run", str(designs), "--test", "mean", "--jobs", jobs, "--output", str(answers)],
+                                subprocess.PIPE)
+                wait_until(lambda: answers.exists() and answers.read_text().count("\n") > 20)
+                process.send_signal(signal.SIGINT)
+                out, error = process.communicate(timeout=PATIENCE)
+                self.assertEqual((process.returncode, out, error), (130, b"", STOPPED_ROWS + b"\n"))
+                text = answers.read_text()
+                lines = text.splitlines()
+                self.assertTrue(text.endswith("\n"))
+                self.assertLess(len(lines), rows + 1)
+                self.assertEqual({line.count(",") for line in lines}, {lines[0].count(",")})
+                self.assertEqual(len(set(lines[1:])), 1)
+
+    def test_a_file_of_designs_on_a_terminal_shows_a_bar(self):
+        with tempfile.TemporaryDirectory() as folder:
+            designs = pathlib.Path(folder) / "designs.csv"
+            designs.write_text("proportions,power,exact\n" + "0.5 0.528,0.8,true\n" * 1000)
+            master, slave = open_terminal()
+            process = start(["run", str(designs), "--test", "two-proportions"], slave)
+            os.close(slave)
+            progress = read_until(master, b"%")
+            process.send_signal(signal.SIGINT)
+            rest = read_until(master, b"\n")
+            process.communicate(timeout=PATIENCE)
+            os.close(master)
+            self.assertEqual(process.returncode, 130)
+            self.assertRegex(progress, rb"^\rDesigns \[#* *\] +[0-9]+%")
+            self.assertRegex(rest, rb"\r +\r" + STOPPED_ROWS + rb"\r\n$")
 
     def test_an_interrupted_chart_leaves_no_file(self):
         with tempfile.TemporaryDirectory() as folder:

@@ -14,8 +14,14 @@ TEST(Nearest, FindsTheTypo) {
 TEST(Nearest, TakesTwoLettersForATypoAndThreeForAnotherWord) {
   EXPECT_EQ(Nearest("--mxxns", {"--means"}), "--means");
   EXPECT_EQ(Nearest("--mxxxs", {"--means"}), "");
-  EXPECT_EQ(Nearest("--sxx", {"--sds"}), "--sds");
+  EXPECT_EQ(Nearest("--sxx", {"--sds"}), "");
   EXPECT_EQ(Nearest("-xx", {"-sd"}), "");
+}
+
+TEST(Nearest, DoesNotCountTheDashesAsLetters) {
+  EXPECT_EQ(Nearest("--d", {"--sd", "--n"}), "");
+  EXPECT_EQ(Nearest("--f", {"--n"}), "");
+  EXPECT_EQ(Nearest("--sdx", {"--sds"}), "--sds");
 }
 
 TEST(Nearest, DoesNotGuessWildly) {

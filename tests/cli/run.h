@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_TESTS_CLI_RUN_H
+#define KELPOWER_TESTS_CLI_RUN_H
 
 #include <string>
 #include <vector>
@@ -15,3 +16,5 @@ Outcome RunProgram(const std::vector<std::string>& arguments);
 
 /// The words of a line that single spaces separate.
 std::vector<std::string> Words(const std::string& line);
+
+#endif

@@ -8,17 +8,17 @@
 namespace kelpower::correlation {
 namespace {
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double infinite = std::numeric_limits<double>::infinity();
 
 TEST(FisherDifference, IsThatOfZOrTheLargestDouble) {
-  constexpr double kLargest = std::numeric_limits<double>::max();
+  constexpr double largestDouble = std::numeric_limits<double>::max();
   EXPECT_DOUBLE_EQ(FisherDifference({0.5, 0.2}), std::atanh(0.5) - std::atanh(0.2));
-  EXPECT_EQ(FisherDifference({1, 0.2}), kLargest);
-  EXPECT_EQ(FisherDifference({-1, 0.2}), -kLargest);
-  EXPECT_EQ(FisherDifference({0.2, -1}), kLargest);
-  EXPECT_EQ(FisherDifference({0.2, 1}), -kLargest);
-  EXPECT_EQ(FisherDifference({1, 1}), kLargest);
-  EXPECT_EQ(FisherDifference({-1, -1}), kLargest);
+  EXPECT_EQ(FisherDifference({1, 0.2}), largestDouble);
+  EXPECT_EQ(FisherDifference({-1, 0.2}), -largestDouble);
+  EXPECT_EQ(FisherDifference({0.2, -1}), largestDouble);
+  EXPECT_EQ(FisherDifference({0.2, 1}), -largestDouble);
+  EXPECT_EQ(FisherDifference({1, 1}), largestDouble);
+  EXPECT_EQ(FisherDifference({-1, -1}), largestDouble);
 }
 
 TEST(BackTransformedHalfWidth, IsHalfTheDistanceOfItsEnds) {
@@ -29,9 +29,9 @@ TEST(BackTransformedHalfWidth, IsHalfTheDistanceOfItsEnds) {
   }
   // Small ones are h (1 - tanh^2 z), to the last digit where the difference of the ends has lost half of them.
   EXPECT_DOUBLE_EQ(BackTransformedHalfWidth(0.5, 1e-9), 1e-9 * (1 - std::tanh(0.5) * std::tanh(0.5)));
-  EXPECT_EQ(BackTransformedHalfWidth(0.5, kInfinity), 1);
-  EXPECT_EQ(BackTransformedHalfWidth(kInfinity, 0.5), 0);
-  EXPECT_TRUE(std::isnan(BackTransformedHalfWidth(kInfinity, kInfinity)));
+  EXPECT_EQ(BackTransformedHalfWidth(0.5, infinite), 1);
+  EXPECT_EQ(BackTransformedHalfWidth(infinite, 0.5), 0);
+  EXPECT_TRUE(std::isnan(BackTransformedHalfWidth(infinite, infinite)));
 }
 
 }  // namespace

@@ -55,6 +55,7 @@ TEST(NumberToEnrol, IsNotOneMoreForARoundingError) {
   EXPECT_EQ(*NumberToEnrol(101, 0.2), 127);
   EXPECT_EQ(*NumberToEnrol(64, 0), 64);
   EXPECT_EQ(*NumberToEnrol(33.4, 0.1), 38);
+  EXPECT_EQ(*NumberToEnrol(100.00000001, 0), 101);
   EXPECT_EQ(*NumberToEnrol(1e-20, 0.5), 1);
 }
 

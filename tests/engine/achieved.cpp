@@ -8,18 +8,18 @@
 namespace keltest {
 namespace {
 
-constexpr std::array<const char*, kMetrics> kMetricNames = {"value", "grid", "floatUlps"};
+constexpr std::array<const char*, metricCount> metricNames = {"value", "grid", "floatUlps"};
 
 // A difference may be this much above the stored one: mathematical functions of the platform vary in the last digit.
-constexpr double kGrowthFactor = 1.5;
-constexpr double kGrowthOffset = 1e-16;
+constexpr double growthFactor = 1.5;
+constexpr double growthOffset = 1e-16;
 
 }  // namespace
 
 Achieved Measured(const std::map<std::string, Summary>& summaries) {
   Achieved achieved;
   for (const auto& [name, summary] : summaries)
-    for (std::size_t m = 0; m < kMetrics; ++m) achieved[name][m] = summary.findings.worst[m].difference;
+    for (std::size_t m = 0; m < metricCount; ++m) achieved[name][m] = summary.findings.worst[m].difference;
   return achieved;
 }
 
@@ -29,7 +29,7 @@ Achieved ReadAchieved(const std::string& path) {
   const auto stored = nlohmann::json::parse(file);
   Achieved achieved;
   for (const auto& [name, differences] : stored.items())
-    for (std::size_t m = 0; m < kMetrics; ++m) achieved[name][m] = differences.at(kMetricNames[m]).get<double>();
+    for (std::size_t m = 0; m < metricCount; ++m) achieved[name][m] = differences.at(metricNames[m]).get<double>();
   return achieved;
 }
 
@@ -37,9 +37,9 @@ void WriteAchieved(const std::string& path, const Achieved& achieved) {
   std::string text = "{";
   for (const auto& [name, differences] : achieved) {
     text += (text == "{" ? "\n\"" : ",\n\"") + name + "\": {";
-    for (std::size_t m = 0; m < kMetrics; ++m) {
+    for (std::size_t m = 0; m < metricCount; ++m) {
       char entry[64];
-      std::snprintf(entry, sizeof entry, "%s\"%s\": %.3g", m == 0 ? "" : ", ", kMetricNames[m], differences[m]);
+      std::snprintf(entry, sizeof entry, "%s\"%s\": %.3g", m == 0 ? "" : ", ", metricNames[m], differences[m]);
       text += entry;
     }
     text += "}";
@@ -57,10 +57,10 @@ std::vector<std::string> Growth(const Achieved& stored, const Achieved& measured
       growth.push_back(name + ": no achieved difference is stored");
       continue;
     }
-    for (std::size_t m = 0; m < kMetrics; ++m) {
-      if (differences[m] <= entry->second[m] * kGrowthFactor + kGrowthOffset) continue;
+    for (std::size_t m = 0; m < metricCount; ++m) {
+      if (differences[m] <= entry->second[m] * growthFactor + growthOffset) continue;
       char text[128];
-      std::snprintf(text, sizeof text, ": %s difference %.3g, stored %.3g", kMetricNames[m], differences[m],
+      std::snprintf(text, sizeof text, ": %s difference %.3g, stored %.3g", metricNames[m], differences[m],
                     entry->second[m]);
       growth.push_back(name + text);
     }

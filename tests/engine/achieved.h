@@ -1,5 +1,5 @@
-#ifndef KELPOWER_TESTS_ACHIEVED_H
-#define KELPOWER_TESTS_ACHIEVED_H
+#ifndef KELPOWER_TESTS_ENGINE_ACHIEVED_H
+#define KELPOWER_TESTS_ENGINE_ACHIEVED_H
 
 #include <array>
 #include <map>
@@ -11,7 +11,7 @@
 namespace keltest {
 
 /// The largest difference per metric that the library was measured to have, by function.
-using Achieved = std::map<std::string, std::array<double, kMetrics>>;
+using Achieved = std::map<std::string, std::array<double, metricCount>>;
 
 /// The differences that a run met.
 Achieved Measured(const std::map<std::string, Summary>& summaries);

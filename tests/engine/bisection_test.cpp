@@ -45,24 +45,24 @@ std::vector<VectorCase> CasesOf(const std::string& function) {
   return cases;
 }
 
-const std::vector<double> kExtremes = {0,
-                                       -0.0,
-                                       1,
-                                       -1,
-                                       2,
-                                       1e-300,
-                                       1e-160,
-                                       1e-17,
-                                       1 - 1e-16,
-                                       1e17,
-                                       1e160,
-                                       1e300,
-                                       1e308,
-                                       0.999999,
-                                       1e-9,
-                                       std::numeric_limits<double>::denorm_min(),
-                                       std::numeric_limits<double>::infinity(),
-                                       std::numeric_limits<double>::quiet_NaN()};
+const std::vector<double> extremes = {0,
+                                      -0.0,
+                                      1,
+                                      -1,
+                                      2,
+                                      1e-300,
+                                      1e-160,
+                                      1e-17,
+                                      1 - 1e-16,
+                                      1e17,
+                                      1e160,
+                                      1e300,
+                                      1e308,
+                                      0.999999,
+                                      1e-9,
+                                      std::numeric_limits<double>::denorm_min(),
+                                      std::numeric_limits<double>::infinity(),
+                                      std::numeric_limits<double>::quiet_NaN()};
 
 class Designs {
 public:
@@ -94,7 +94,7 @@ private:
 
   // A number between 0 and 1, such as a level, keeps between them; others keep their sign.
   double Near(double x) {
-    if (Chance(0.02)) return kExtremes[std::uniform_int_distribution<std::size_t>(0, kExtremes.size() - 1)(random_)];
+    if (Chance(0.02)) return extremes[std::uniform_int_distribution<std::size_t>(0, extremes.size() - 1)(random_)];
     if (Chance(0.1)) return x;
     const double factor = std::exp(std::normal_distribution<double>(0, 1)(random_));
     if (x > 0 && x < 1) return x * factor / (1 - x + x * factor);

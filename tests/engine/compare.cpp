@@ -7,12 +7,12 @@
 namespace keltest {
 namespace {
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kMissing = std::numeric_limits<double>::lowest();
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double missingValue = std::numeric_limits<double>::lowest();
 
 bool IsExact(double expected, Metric metric) {
-  if (!std::isfinite(expected) || expected == kMissing) return true;
-  return metric != Metric::kGrid && (expected == -1 || expected == -2);
+  if (!std::isfinite(expected) || expected == missingValue) return true;
+  return metric != Metric::Grid && (expected == -1 || expected == -2);
 }
 
 bool IsSinglePrecision(double v) {
@@ -22,7 +22,7 @@ bool IsSinglePrecision(double v) {
 
 double AbsoluteOrRelative(double actual, double expected) {
   const double difference = std::abs(actual - expected) / std::max(1.0, std::abs(expected));
-  return std::isnan(difference) ? kInfinity : difference;
+  return std::isnan(difference) ? infinite : difference;
 }
 
 double FloatUlps(double actual, double expected) {
@@ -34,8 +34,8 @@ double FloatUlps(double actual, double expected) {
 // A chart stores some values unrounded, such as those that stand in for a point without a power.
 double SinglePrecisionDifference(double actual, double expected) {
   const double difference = AbsoluteOrRelative(actual, expected);
-  if (difference <= Bound(Metric::kGrid)) return 0;
-  if (!IsSinglePrecision(expected) || !IsSinglePrecision(actual)) return kInfinity;
+  if (difference <= Bound(Metric::Grid)) return 0;
+  if (!IsSinglePrecision(expected) || !IsSinglePrecision(actual)) return infinite;
   return FloatUlps(actual, expected);
 }
 
@@ -43,17 +43,17 @@ double SinglePrecisionDifference(double actual, double expected) {
 
 double Bound(Metric metric) {
   switch (metric) {
-    case Metric::kValue: return 1e-10;
-    case Metric::kGrid: return 1e-13;
-    case Metric::kSingle: return 1;
+    case Metric::Value: return 1e-10;
+    case Metric::Grid: return 1e-13;
+    case Metric::Single: return 1;
   }
   return 0;
 }
 
 double Difference(double actual, double expected, Metric metric) {
-  if (std::isnan(expected)) return std::isnan(actual) ? 0 : kInfinity;
-  if (IsExact(expected, metric)) return actual == expected ? 0 : kInfinity;
-  if (metric == Metric::kSingle) return SinglePrecisionDifference(actual, expected);
+  if (std::isnan(expected)) return std::isnan(actual) ? 0 : infinite;
+  if (IsExact(expected, metric)) return actual == expected ? 0 : infinite;
+  if (metric == Metric::Single) return SinglePrecisionDifference(actual, expected);
   return AbsoluteOrRelative(actual, expected);
 }
 

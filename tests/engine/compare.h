@@ -1,13 +1,13 @@
-#ifndef KELPOWER_TESTS_COMPARE_H
-#define KELPOWER_TESTS_COMPARE_H
+#ifndef KELPOWER_TESTS_ENGINE_COMPARE_H
+#define KELPOWER_TESTS_ENGINE_COMPARE_H
 
 namespace keltest {
 
 /// How a number is compared with its reference.
 enum class Metric {
-  kValue,  // a double: difference absolute or relative, whichever is smaller
-  kGrid,   // a coordinate of a chart: the same, with a tighter bound
-  kSingle  // a value rounded to single precision: difference in units in the last place of a float
+  Value,  // a double: difference absolute or relative, whichever is smaller
+  Grid,   // a coordinate of a chart: the same, with a tighter bound
+  Single  // a value rounded to single precision: difference in units in the last place of a float
 };
 
 /// The largest difference that a comparison accepts.

@@ -11,9 +11,9 @@ namespace {
 using nlohmann::json;
 
 // A rounded-up size this near to a whole number depends on the last digits of the reference.
-constexpr double kTieMargin = 1e-7;
+constexpr double tieMargin = 1e-7;
 
-const std::set<std::string> kDoublePrecisionCharts = {
+const std::set<std::string> doublePrecisionCharts = {
     "PlotNOverallTest",    "PlotNOverallTestFES", "PlotNSC",    "PlotNSCFES",
     "PlotNaSDOverallTest", "PlotNaESOverallTest", "PlotNaSDSC",
 };
@@ -56,7 +56,7 @@ public:
   void Curve(const XYPlot& actual, const json& expected, Metric metric) {
     Count("count", actual.count, expected.at("count"));
     const bool readable = actual.count == expected["count"];
-    Array("x", actual.x, readable ? expected.at("x") : Emptied(expected.at("x")), Metric::kGrid);
+    Array("x", actual.x, readable ? expected.at("x") : Emptied(expected.at("x")), Metric::Grid);
     Array("y", actual.y, readable ? expected.at("y") : Emptied(expected.at("y")), metric);
   }
 
@@ -65,8 +65,8 @@ public:
     Count("yCount", actual.yCount, expected.at("yCount"));
     const bool xReadable = actual.xCount == expected["xCount"];
     const bool yReadable = actual.yCount == expected["yCount"];
-    Array("x", actual.x, xReadable ? expected.at("x") : Emptied(expected.at("x")), Metric::kGrid);
-    Array("y", actual.y, yReadable ? expected.at("y") : Emptied(expected.at("y")), Metric::kGrid);
+    Array("x", actual.x, xReadable ? expected.at("x") : Emptied(expected.at("x")), Metric::Grid);
+    Array("y", actual.y, yReadable ? expected.at("y") : Emptied(expected.at("y")), Metric::Grid);
     Array("z", actual.z, xReadable && yReadable ? expected.at("z") : Emptied(expected.at("z")), metric);
   }
 
@@ -85,7 +85,7 @@ bool SameBits(const std::vector<double>& a, const std::vector<double>& b) {
 void CompareResult(const Function& function, const Result& actual, const VectorCase& vectorCase,
                    Comparison& comparison) {
   const bool isDouble = function.result == "d" || StoresDoublePrecision(function.name);
-  const Metric metric = isDouble ? Metric::kValue : Metric::kSingle;
+  const Metric metric = isDouble ? Metric::Value : Metric::Single;
   const json& expected = vectorCase.result;
   if (function.result == "d") comparison.Number("result", actual.number, ToDouble(expected), metric);
   if (function.result == "XY") comparison.Curve(actual.curve, expected, metric);
@@ -105,7 +105,7 @@ void CompareArguments(const Function& function, const std::vector<Argument>& bef
                        static_cast<std::int64_t>(expected.size()));
       if (after[i].array.size() == expected.size())
         for (std::size_t k = 0; k < expected.size(); ++k)
-          comparison.Number(what + "[" + std::to_string(k) + "]", after[i].array[k], expected[k], Metric::kValue);
+          comparison.Number(what + "[" + std::to_string(k) + "]", after[i].array[k], expected[k], Metric::Value);
     } else if (!SameBits(before[i].array, after[i].array)) {
       comparison.Fail(what + " was changed");
     }
@@ -128,7 +128,7 @@ void Release(const std::vector<Function>& functions, const Function& function, R
 // Whether the outcome of the case is to be compared.
 bool Counts(const VectorCase& vectorCase, Summary& summary) {
   const bool isLoose = vectorCase.kind == "loose";
-  const bool isNearTie = !isLoose && vectorCase.margin && *vectorCase.margin < kTieMargin;
+  const bool isNearTie = !isLoose && vectorCase.margin && *vectorCase.margin < tieMargin;
   if (isLoose) ++summary.loose;
   if (isNearTie) ++summary.nearTie;
   return !isLoose && !isNearTie;
@@ -148,7 +148,7 @@ void CallAndCompare(const std::vector<Function>& functions, const Function& func
 
 }  // namespace
 
-bool StoresDoublePrecision(const std::string& function) { return kDoublePrecisionCharts.count(function) > 0; }
+bool StoresDoublePrecision(const std::string& function) { return doublePrecisionCharts.count(function) > 0; }
 
 void RunCase(const std::vector<Function>& functions, const VectorCase& vectorCase, Summary& summary) {
   ++summary.cases;

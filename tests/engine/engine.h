@@ -1,5 +1,5 @@
-#ifndef KELPOWER_TESTS_ENGINE_H
-#define KELPOWER_TESTS_ENGINE_H
+#ifndef KELPOWER_TESTS_ENGINE_ENGINE_H
+#define KELPOWER_TESTS_ENGINE_ENGINE_H
 
 #include <array>
 #include <cstddef>
@@ -13,7 +13,7 @@
 
 namespace keltest {
 
-constexpr std::size_t kMetrics = 3;
+constexpr std::size_t metricCount = 3;
 
 /// The largest difference of one metric, and where it was met.
 struct Worst {
@@ -23,7 +23,7 @@ struct Worst {
 
 /// What a comparison found: the largest difference of each metric, and what is wrong beyond any bound.
 struct Findings {
-  std::array<Worst, kMetrics> worst;
+  std::array<Worst, metricCount> worst;
   std::vector<std::string> failures;
 };
 

@@ -17,8 +17,8 @@ namespace {
 
 using namespace keltest;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kMissing = std::numeric_limits<double>::lowest();
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double missingValue = std::numeric_limits<double>::lowest();
 
 int liveRecords = 0;
 
@@ -36,7 +36,7 @@ void Append(double x, DoubleVector& out) { out.push_back(x); }
 double AskUpTo(std::int32_t times, StopRequest* stop) {
   if (!stop) return -2;
   for (std::int32_t i = 0; i < times; ++i)
-    if (stop->ShouldStop()) return kMissing;
+    if (stop->ShouldStop()) return missingValue;
   return 1;
 }
 double Unused(const void* unused) { return unused ? 1 : 0; }
@@ -68,7 +68,7 @@ void FreeMemXYZPlot(XYZPlot* record) {
   delete[] record->z;
 }
 
-const std::vector<Function> kFunctions = {
+const std::vector<Function> functions = {
     Bind("Echo", &Echo),
     Bind("Mix", &Mix),
     Bind("Sum", &Sum),
@@ -86,7 +86,7 @@ const std::vector<Function> kFunctions = {
 
 Summary RunText(const std::string& text) {
   Summary summary;
-  RunCase(kFunctions, ParseCase(text, 1), summary);
+  RunCase(functions, ParseCase(text, 1), summary);
   return summary;
 }
 
@@ -101,19 +101,19 @@ std::string Failure(const std::string& text) {
 #define EXPECT_FAILS(text, message) EXPECT_NE(Failure(text).find(message), std::string::npos) << Failure(text)
 
 TEST(Binding, DeducesTypes) {
-  EXPECT_EQ(Find(kFunctions, "Mix")->arguments, "dib");
-  EXPECT_EQ(Find(kFunctions, "Sum")->arguments, "ip");
-  EXPECT_EQ(Find(kFunctions, "Repair")->arguments, "P");
-  EXPECT_EQ(Find(kFunctions, "Append")->arguments, "dv");
-  EXPECT_EQ(Find(kFunctions, "AskUpTo")->arguments, "is");
-  EXPECT_EQ(Find(kFunctions, "Unused")->arguments, "n");
-  EXPECT_EQ(Find(kFunctions, "FreeMemXYPlot")->arguments, "X");
-  EXPECT_EQ(Find(kFunctions, "FreeMemXYZPlot")->arguments, "Z");
-  EXPECT_EQ(Find(kFunctions, "Echo")->result, "d");
-  EXPECT_EQ(Find(kFunctions, "Append")->result, "void");
-  EXPECT_EQ(Find(kFunctions, "PlotLine")->result, "XY");
-  EXPECT_EQ(Find(kFunctions, "PlotPlane")->result, "XYZ");
-  EXPECT_EQ(Find(kFunctions, "Absent"), nullptr);
+  EXPECT_EQ(Find(functions, "Mix")->arguments, "dib");
+  EXPECT_EQ(Find(functions, "Sum")->arguments, "ip");
+  EXPECT_EQ(Find(functions, "Repair")->arguments, "P");
+  EXPECT_EQ(Find(functions, "Append")->arguments, "dv");
+  EXPECT_EQ(Find(functions, "AskUpTo")->arguments, "is");
+  EXPECT_EQ(Find(functions, "Unused")->arguments, "n");
+  EXPECT_EQ(Find(functions, "FreeMemXYPlot")->arguments, "X");
+  EXPECT_EQ(Find(functions, "FreeMemXYZPlot")->arguments, "Z");
+  EXPECT_EQ(Find(functions, "Echo")->result, "d");
+  EXPECT_EQ(Find(functions, "Append")->result, "void");
+  EXPECT_EQ(Find(functions, "PlotLine")->result, "XY");
+  EXPECT_EQ(Find(functions, "PlotPlane")->result, "XYZ");
+  EXPECT_EQ(Find(functions, "Absent"), nullptr);
 }
 
 TEST(Engine, PassesRightCases) {
@@ -217,11 +217,11 @@ TEST(Engine, PutsWhatIsWantedInPlaceOfSupersededReferences) {
                               "out": {}}])";
   std::vector<VectorCase> cases = {ParseCase(R"({"fn": "Echo", "kind": "edge", "args": [1.0], "ret": 2.0})", 1),
                                    ParseCase(R"({"fn": "Echo", "kind": "edge", "args": [2.0], "ret": 2.0})", 2)};
-  EXPECT_FALSE(RunCases(kFunctions, cases).at("Echo").findings.failures.empty());
+  EXPECT_FALSE(RunCases(functions, cases).at("Echo").findings.failures.empty());
   Supersede(path, "others", cases);
-  EXPECT_FALSE(RunCases(kFunctions, cases).at("Echo").findings.failures.empty());
+  EXPECT_FALSE(RunCases(functions, cases).at("Echo").findings.failures.empty());
   Supersede(path, "echoes", cases);
-  EXPECT_TRUE(RunCases(kFunctions, cases).at("Echo").findings.failures.empty());
+  EXPECT_TRUE(RunCases(functions, cases).at("Echo").findings.failures.empty());
 
   cases.erase(cases.begin());
   EXPECT_THROW(Supersede(path, "echoes", cases), std::exception);
@@ -248,7 +248,7 @@ TEST(Engine, KeepsTheWorstCase) {
       ParseCase(R"({"fn": "Echo", "kind": "edge", "args": [3.0], "ret": 3.00000000001})", 2),
       ParseCase(R"({"fn": "Echo", "kind": "edge", "args": [2.0], "ret": 2.0})", 3),
   };
-  const Summary summary = RunCases(kFunctions, cases).at("Echo");
+  const Summary summary = RunCases(functions, cases).at("Echo");
   EXPECT_EQ(summary.cases, 3u);
   EXPECT_TRUE(summary.findings.failures.empty());
   EXPECT_NEAR(summary.findings.worst[0].difference, 1e-11 / 3, 1e-14);
@@ -256,31 +256,31 @@ TEST(Engine, KeepsTheWorstCase) {
 }
 
 TEST(Compare, DifferencesAreAbsoluteOrRelative) {
-  EXPECT_EQ(Difference(1.5, 1.5, Metric::kValue), 0);
-  EXPECT_DOUBLE_EQ(Difference(3e-11, 2e-11, Metric::kValue), 1e-11);
-  EXPECT_DOUBLE_EQ(Difference(1e20, 2e20, Metric::kValue), 0.5);
-  EXPECT_EQ(Difference(-kInfinity, kMissing, Metric::kValue), kInfinity);
-  EXPECT_EQ(Difference(kMissing, -kInfinity, Metric::kSingle), kInfinity);
-  EXPECT_EQ(Difference(0.5, std::nan(""), Metric::kGrid), kInfinity);
-  EXPECT_EQ(Difference(std::nan(""), 0.5, Metric::kGrid), kInfinity);
-  EXPECT_EQ(Difference(kInfinity, 0.5, Metric::kSingle), kInfinity);
+  EXPECT_EQ(Difference(1.5, 1.5, Metric::Value), 0);
+  EXPECT_DOUBLE_EQ(Difference(3e-11, 2e-11, Metric::Value), 1e-11);
+  EXPECT_DOUBLE_EQ(Difference(1e20, 2e20, Metric::Value), 0.5);
+  EXPECT_EQ(Difference(-infinite, missingValue, Metric::Value), infinite);
+  EXPECT_EQ(Difference(missingValue, -infinite, Metric::Single), infinite);
+  EXPECT_EQ(Difference(0.5, std::nan(""), Metric::Grid), infinite);
+  EXPECT_EQ(Difference(std::nan(""), 0.5, Metric::Grid), infinite);
+  EXPECT_EQ(Difference(infinite, 0.5, Metric::Single), infinite);
 }
 
 TEST(Compare, SentinelsAreNoCoordinates) {
   const double nearMinusOne = std::nextafter(-1.0, 0.0);
-  EXPECT_EQ(Difference(nearMinusOne, -1, Metric::kValue), kInfinity);
-  EXPECT_EQ(Difference(nearMinusOne, -1, Metric::kSingle), kInfinity);
-  EXPECT_LT(Difference(nearMinusOne, -1, Metric::kGrid), 1e-15);
+  EXPECT_EQ(Difference(nearMinusOne, -1, Metric::Value), infinite);
+  EXPECT_EQ(Difference(nearMinusOne, -1, Metric::Single), infinite);
+  EXPECT_LT(Difference(nearMinusOne, -1, Metric::Grid), 1e-15);
 }
 
 TEST(Compare, SinglePrecisionCountsUlps) {
   const auto next = static_cast<double>(std::nextafter(0.7f, 1.0f));
   const auto reference = static_cast<double>(0.7f);
-  EXPECT_EQ(Difference(next, reference, Metric::kSingle), 1);
-  EXPECT_EQ(Difference(2 * next - reference, reference, Metric::kSingle), 2);
-  EXPECT_EQ(Difference(0.7, reference, Metric::kSingle), kInfinity) << "was not rounded";
-  EXPECT_EQ(Difference(reference, 0.7, Metric::kSingle), kInfinity) << "was rounded";
-  EXPECT_EQ(Difference(0.7, 0.7, Metric::kSingle), 0);
+  EXPECT_EQ(Difference(next, reference, Metric::Single), 1);
+  EXPECT_EQ(Difference(2 * next - reference, reference, Metric::Single), 2);
+  EXPECT_EQ(Difference(0.7, reference, Metric::Single), infinite) << "was not rounded";
+  EXPECT_EQ(Difference(reference, 0.7, Metric::Single), infinite) << "was rounded";
+  EXPECT_EQ(Difference(0.7, 0.7, Metric::Single), 0);
 }
 
 TEST(Achieved, GrowthBeyondHalfIsReported) {

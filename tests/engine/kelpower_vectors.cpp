@@ -15,7 +15,7 @@ namespace {
 
 using namespace keltest;
 
-constexpr const char* kUsage =
+constexpr const char* usage =
     "usage: kelpower_vectors [options] cases.jsonl...\n"
     "Calls the function of every case and compares what it gives with the reference.\n"
     "  --achieved FILE    fail too when a function's largest difference has grown beyond that stored in FILE,\n"
@@ -27,7 +27,7 @@ constexpr const char* kUsage =
     "  --exported         skip functions that the library does not export, instead of failing\n"
     "  --all              print every failure, not only the first five of a function\n";
 
-constexpr std::size_t kFailuresShown = 5;
+constexpr std::size_t failuresShown = 5;
 
 struct Options {
   std::vector<std::string> files;
@@ -98,7 +98,7 @@ void PrintSummary(const std::string& name, const Summary& summary) {
 
 void PrintFailures(const Summary& summary, bool showsAll) {
   const auto& failures = summary.findings.failures;
-  const std::size_t shown = showsAll ? failures.size() : std::min(failures.size(), kFailuresShown);
+  const std::size_t shown = showsAll ? failures.size() : std::min(failures.size(), failuresShown);
   for (std::size_t i = 0; i < shown; ++i) std::printf("FAILED %s\n", failures[i].c_str());
   if (shown < failures.size()) std::printf("       and %zu more\n", failures.size() - shown);
 }
@@ -153,7 +153,7 @@ int main(int argc, char** argv) {
   Options options;
   try {
     if (!Parse(argc, argv, options)) {
-      std::fputs(kUsage, stderr);
+      std::fputs(usage, stderr);
       return 2;
     }
     return Run(options);

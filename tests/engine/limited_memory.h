@@ -1,5 +1,5 @@
-#ifndef KELPOWER_TESTS_LIMITED_MEMORY_H
-#define KELPOWER_TESTS_LIMITED_MEMORY_H
+#ifndef KELPOWER_TESTS_ENGINE_LIMITED_MEMORY_H
+#define KELPOWER_TESTS_ENGINE_LIMITED_MEMORY_H
 
 /// \file
 /// The operators new and delete of a program that is linked with this: they can be made to fail, and they count.

@@ -12,22 +12,22 @@
 namespace keltest {
 namespace {
 
-constexpr double kMissing = std::numeric_limits<double>::lowest();
+constexpr double missingValue = std::numeric_limits<double>::lowest();
 
 // Rounding can leave the sum of two tails this far above 1, or a difference of them below 0.
-constexpr double kRounding = 1e-13;
+constexpr double rounding = 1e-13;
 
 // An exact power that is told to stop is part of a search, which evaluates the other end of its bracket, asks before it
 // widens that, and asks once more before it looks for smaller sizes.
-constexpr std::int64_t kLateQuestions = 3;
+constexpr std::int64_t lateQuestions = 3;
 
 bool StartsWith(const std::string& text, const std::string& start) { return text.compare(0, start.size(), start) == 0; }
 
 bool SameBits(double a, double b) { return std::memcmp(&a, &b, sizeof a) == 0; }
 
 bool IsProbabilityOrSentinel(double value) {
-  if (std::isnan(value) || value == kMissing || value == -1 || value == -2) return true;
-  return value >= -kRounding && value <= 1 + kRounding;
+  if (std::isnan(value) || value == missingValue || value == -1 || value == -2) return true;
+  return value >= -rounding && value <= 1 + rounding;
 }
 
 bool IsSinglePrecision(double value) {
@@ -104,7 +104,8 @@ public:
     for (const Argument& argument : after) {
       const CountingStop& stop = argument.stopRequest;
       const bool isStopped = stop.asked > 0 && stop.asked >= stop.stopsAt;
-      if (isStopped && IsPower(target_) && result.number != kMissing) Report("stopped, but not missing", result.number);
+      if (isStopped && IsPower(target_) && result.number != missingValue)
+        Report("stopped, but not missing", result.number);
     }
   }
 
@@ -145,7 +146,8 @@ private:
     if (ReplacesValues(name)) return;
     const bool isSingle = !StoresDoublePrecision(name);
     for (std::int64_t i = 0; values && i < count; ++i) {
-      const double stored = isSingle && values[i] == -std::numeric_limits<double>::infinity() ? kMissing : values[i];
+      const double stored =
+          isSingle && values[i] == -std::numeric_limits<double>::infinity() ? missingValue : values[i];
       if (isOrdinary_ && !IsProbabilityOrSentinel(stored)) Report("not a power", values[i]);
       if (isSingle && !IsSinglePrecision(values[i])) Report("not in single precision", values[i]);
     }
@@ -183,10 +185,10 @@ private:
   // The one entry of an array that a call may change: contrast coefficients that do not sum to 0 are repaired in the
   // last one. Searches work on a copy.
   std::size_t Writable(const Arguments& before, std::size_t position) const {
-    constexpr std::size_t kNone = SIZE_MAX;
-    if (target_.function->arguments[position] != 'P' || IsSearch(target_)) return kNone;
+    constexpr std::size_t noIndex = SIZE_MAX;
+    if (target_.function->arguments[position] != 'P' || IsSearch(target_)) return noIndex;
     const std::int32_t numGroups = target_.Integer(before, "numGroups");
-    return numGroups > 0 ? static_cast<std::size_t>(numGroups) - 1 : kNone;
+    return numGroups > 0 ? static_cast<std::size_t>(numGroups) - 1 : noIndex;
   }
 
   void SeeArray(const std::string& name, const std::vector<double>& before, const std::vector<double>& after,
@@ -201,14 +203,14 @@ private:
     Append(after.data(), static_cast<std::int64_t>(after.size()));
     if (!outcome_.ranOutOfMemory) return;
     const bool isSame = std::equal(before.begin(), before.end(), after.begin(), after.end(), SameBits);
-    const bool isMissing = std::all_of(after.begin(), after.end(), [](double size) { return size == kMissing; });
+    const bool isMissing = std::all_of(after.begin(), after.end(), [](double size) { return size == missingValue; });
     if (!isSame && !isMissing) Report(name + " is half made");
   }
 
   void SeeQuestions(const CountingStop& stop) {
     Append(static_cast<std::uint64_t>(stop.asked));
     const std::int64_t first = std::max<std::int64_t>(stop.stopsAt, 1);
-    if (stop.asked - first > kLateQuestions) Report("goes on after a true answer", double(stop.asked - first));
+    if (stop.asked - first > lateQuestions) Report("goes on after a true answer", double(stop.asked - first));
   }
 
   const Target& target_;

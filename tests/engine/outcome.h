@@ -1,5 +1,5 @@
-#ifndef KELPOWER_TESTS_OUTCOME_H
-#define KELPOWER_TESTS_OUTCOME_H
+#ifndef KELPOWER_TESTS_ENGINE_OUTCOME_H
+#define KELPOWER_TESTS_ENGINE_OUTCOME_H
 
 #include <cstdint>
 #include <string>

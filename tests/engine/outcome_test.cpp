@@ -14,8 +14,8 @@ namespace {
 using namespace keltest;
 using Problems = std::vector<std::string>;
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr double kMissing = std::numeric_limits<double>::lowest();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double missingValue = std::numeric_limits<double>::lowest();
 
 XYPlot MakeCurve(double y, bool hasX) { return {1, hasX ? new double[1]{0} : nullptr, new double[1]{y}}; }
 
@@ -24,7 +24,7 @@ double PowerSC(double pooledSD) { return pooledSD > 0 ? 0.5 : 1; }
 double PowerStopped(StopRequest* stop, double answer) { return stop->ShouldStop() ? answer : 0.5; }
 double PowerReverse(StopRequest* stop, double questions) {
   for (double i = 0; i < questions; ++i) stop->ShouldStop();
-  return kMissing;
+  return missingValue;
 }
 double Meddle(int numGroups, double* numbers, double position) {
   return numbers[static_cast<int>(position)] = numGroups;
@@ -79,23 +79,23 @@ TEST(Outcome, PowersOfOrdinaryDesignsAreProbabilities) {
   const auto problems = [](double alpha, double power) {
     return ProblemsOf("Power", Power, {"alpha", "x"}, {Number(alpha), Number(power)});
   };
-  for (const double power : {0.0, 0.5, 1.0, -1.0, -2.0, kMissing}) EXPECT_EQ(problems(0.05, power), Problems{});
+  for (const double power : {0.0, 0.5, 1.0, -1.0, -2.0, missingValue}) EXPECT_EQ(problems(0.05, power), Problems{});
   EXPECT_EQ(problems(0.05, 2), Problems{"not a power: 2"});
   EXPECT_EQ(problems(0.05, -0.25), Problems{"not a power: -0.25"});
   EXPECT_EQ(problems(1.5, 2), Problems{});
 }
 
 TEST(Outcome, NaNGivesNoPower) {
-  EXPECT_EQ(ProblemsOf("Power", Power, {"alpha", "x"}, {Number(0.05), Number(kNaN)}), Problems{});
-  EXPECT_EQ(ProblemsOf("Power", PowerSC, {"x"}, {Number(kNaN)}), Problems{"NaN has a power: 1"});
-  EXPECT_EQ(ProblemsOf("PowerSC", PowerSC, {"pooledSD"}, {Number(kNaN)}), Problems{});
+  EXPECT_EQ(ProblemsOf("Power", Power, {"alpha", "x"}, {Number(0.05), Number(quietNaN)}), Problems{});
+  EXPECT_EQ(ProblemsOf("Power", PowerSC, {"x"}, {Number(quietNaN)}), Problems{"NaN has a power: 1"});
+  EXPECT_EQ(ProblemsOf("PowerSC", PowerSC, {"pooledSD"}, {Number(quietNaN)}), Problems{});
 }
 
 TEST(Outcome, StoppedComputationsEnd) {
   const auto power = [](std::int64_t stopsAt, double answer) {
     return ProblemsOf("PowerStopped", PowerStopped, {"stop", "x"}, {StopsAt(stopsAt), Number(answer)});
   };
-  EXPECT_EQ(power(1, kMissing), Problems{});
+  EXPECT_EQ(power(1, missingValue), Problems{});
   EXPECT_EQ(power(2, 0.25), Problems{});
   EXPECT_EQ(power(1, 0.25), Problems{"stopped, but not missing: 0.25"});
   const auto search = [](double questions) {
@@ -125,7 +125,7 @@ TEST(Outcome, AVectorIsNotHalfMadeWhenMemoryRunsOut) {
   EXPECT_TRUE(append(3, 1).ranOutOfMemory);
   EXPECT_EQ(append(3, 1).problems, Problems{"v is half made"});
   EXPECT_EQ(append(1, 1).problems, Problems{});
-  EXPECT_EQ(append(kMissing, 1).problems, Problems{});
+  EXPECT_EQ(append(missingValue, 1).problems, Problems{});
 }
 
 TEST(Outcome, ChartsAreWhole) {
@@ -138,7 +138,7 @@ TEST(Outcome, ChartsAreWhole) {
   EXPECT_EQ(ProblemsOf("PlotPlane", PlotPlane, {"x"}, {Number(3)}), Problems{"not a power: 3"});
   EXPECT_EQ(ProblemsOf("PlotHalf", PlotHalf, {"x"}, {Number(0.5)}),
             (Problems{"only one of two arrays", "points without arrays"}));
-  for (const double step : {0.0, -1.0, kNaN})
+  for (const double step : {0.0, -1.0, quietNaN})
     EXPECT_EQ(ProblemsOf("PlotSteps", PlotSteps, {"step"}, {Number(step)}), Problems{"points without a step"});
   for (const double step : {0.5, 6.0})
     EXPECT_EQ(ProblemsOf("PlotSteps", PlotSteps, {"step"}, {Number(step)}), Problems{});

@@ -17,25 +17,33 @@ namespace {
 
 using namespace keltest;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kHuge = 1e308;
-constexpr double kTiny = 1e-308;
-constexpr double kDenormal = std::numeric_limits<double>::denorm_min();
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double hugeNumber = 1e308;
+constexpr double tinyNumber = 1e-308;
+constexpr double denormal = std::numeric_limits<double>::denorm_min();
 
-const std::vector<double> kDoubles = {
-    std::numeric_limits<double>::quiet_NaN(), kInfinity, -kInfinity, 0.0, -0.0, 1.0, kDenormal, kTiny, kHuge, -kHuge};
-const std::vector<std::int32_t> kInts = {INT_MIN, -1, 0, 1, 2, INT_MAX};
-const std::vector<std::int32_t> kFlags = {0, 1, 2, UINT8_MAX};
+const std::vector<double> asDoubles = {std::numeric_limits<double>::quiet_NaN(),
+                                       infinite,
+                                       -infinite,
+                                       0.0,
+                                       -0.0,
+                                       1.0,
+                                       denormal,
+                                       tinyNumber,
+                                       hugeNumber,
+                                       -hugeNumber};
+const std::vector<std::int32_t> asInts = {INT_MIN, -1, 0, 1, 2, INT_MAX};
+const std::vector<std::int32_t> bothFlags = {0, 1, 2, UINT8_MAX};
 
 // As long as such an axis may be in a test; INT_MAX points would be honest work without end.
-const std::vector<std::int32_t> kAxisEnds = {INT_MIN, -1, 0, 1, 2, 300};
+const std::vector<std::int32_t> axisEnds = {INT_MIN, -1, 0, 1, 2, 300};
 
 // A search for a power that no size has goes on until the StopRequest ends it.
-constexpr std::int64_t kQuestions = 12;
+constexpr std::int64_t questions = 12;
 
 // An axis has as many points as its step demands, so that nothing is wrong when such a chart takes long.
 bool IsUnbounded(const std::string& name, double value) {
-  return name.find("step") != std::string::npos && (value == kTiny || value == kDenormal);
+  return name.find("step") != std::string::npos && (value == tinyNumber || value == denormal);
 }
 
 // The length of the arrays that an argument counts.
@@ -47,7 +55,7 @@ std::int32_t ArrayLength(const Arguments& arguments, const std::string& types) {
 }
 
 std::vector<std::int32_t> IntegersFor(const std::string& name, std::int32_t arrayLength) {
-  std::vector<std::int32_t> values = IsSizeAxisEnd(name) ? kAxisEnds : kInts;
+  std::vector<std::int32_t> values = IsSizeAxisEnd(name) ? axisEnds : asInts;
   if (name == "numGroups")
     values.erase(std::remove_if(values.begin(), values.end(), [&](std::int32_t v) { return v > arrayLength; }),
                  values.end());
@@ -61,7 +69,7 @@ std::vector<Arguments> Variations(const Target& target, const Arguments& typical
   const auto add = [&]() -> Argument& { return variations.emplace_back(typical)[position]; };
   switch (types[position]) {
     case 'd':
-      for (const double value : kDoubles)
+      for (const double value : asDoubles)
         if (!IsUnbounded(target.names[position], value)) add().number = value;
       break;
     case 'i':
@@ -69,12 +77,12 @@ std::vector<Arguments> Variations(const Target& target, const Arguments& typical
         add().integer = value;
       break;
     case 'b':
-      for (const std::int32_t value : kFlags) add().integer = value;
+      for (const std::int32_t value : bothFlags) add().integer = value;
       break;
     case 'p':
     case 'P':
       for (std::size_t entry = 0; entry < typical[position].array.size(); ++entry)
-        for (const double value : kDoubles) add().array[entry] = value;
+        for (const double value : asDoubles) add().array[entry] = value;
       break;
     case 'v': add().array = {1, 2, 3}; break;
     case 's':
@@ -105,7 +113,7 @@ void Bound(Arguments& arguments, const Target& target) {
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     if (target.function->arguments[i] != 's') continue;
     arguments[i].isNull = false;
-    arguments[i].stopRequest.stopsAt = IsSearch(target) ? kQuestions : INT64_MAX;
+    arguments[i].stopRequest.stopsAt = IsSearch(target) ? questions : INT64_MAX;
   }
 }
 

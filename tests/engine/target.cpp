@@ -11,12 +11,12 @@ namespace {
 
 using nlohmann::json;
 
-const std::string kVectorFolder = KELPOWER_VECTORS;
+const std::string vectorFolder = KELPOWER_VECTORS;
 
 bool Contains(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
 std::vector<Target> MakeTargets() {
-  std::ifstream file(kVectorFolder + "/signatures.json");
+  std::ifstream file(vectorFolder + "/signatures.json");
   const json signatures = json::parse(file);
   std::vector<Target> targets;
   for (const Function& function : Exports()) {
@@ -29,7 +29,7 @@ std::vector<Target> MakeTargets() {
 
 std::vector<VectorCase> ReadAllCases() {
   std::vector<VectorCase> all;
-  for (const auto& entry : std::filesystem::directory_iterator(kVectorFolder)) {
+  for (const auto& entry : std::filesystem::directory_iterator(vectorFolder)) {
     if (entry.path().extension() != ".jsonl") continue;
     for (VectorCase& vectorCase : ReadCases(entry.path().string())) all.push_back(std::move(vectorCase));
   }

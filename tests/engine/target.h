@@ -1,5 +1,5 @@
-#ifndef KELPOWER_TESTS_TARGET_H
-#define KELPOWER_TESTS_TARGET_H
+#ifndef KELPOWER_TESTS_ENGINE_TARGET_H
+#define KELPOWER_TESTS_ENGINE_TARGET_H
 
 /// \file
 /// Exports with the names of their arguments, for tests and fuzz targets that visit all of them.

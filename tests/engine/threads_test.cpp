@@ -16,8 +16,8 @@ namespace {
 using namespace keltest;
 using Bits = std::vector<std::uint64_t>;
 
-constexpr std::size_t kThreads = 8;
-constexpr std::size_t kMostCases = 6;
+constexpr std::size_t threadCount = 8;
+constexpr std::size_t mostCases = 6;
 
 // A few of the function's reference cases of all kinds, spread evenly, with the typical ones.
 std::vector<Arguments> Calls(const Target& target) {
@@ -27,7 +27,7 @@ std::vector<Arguments> Calls(const Target& target) {
       all.push_back(MakeArguments(vectorCase, target.function->arguments));
   }
   std::vector<Arguments> calls = TypicalCalls(target);
-  const std::size_t count = std::min(kMostCases, all.size());
+  const std::size_t count = std::min(mostCases, all.size());
   for (std::size_t i = 0; i < count; ++i) calls.push_back(all[i * all.size() / count]);
   return calls;
 }
@@ -47,7 +47,7 @@ std::vector<std::vector<Bits>> CallFromThreads(const Target& target, const std::
   std::promise<void> start;
   const std::shared_future<void> started = start.get_future().share();
   std::vector<std::future<std::vector<Bits>>> threads;
-  for (std::size_t thread = 0; thread < kThreads; ++thread) {
+  for (std::size_t thread = 0; thread < threadCount; ++thread) {
     threads.push_back(std::async(std::launch::async, [&, thread, started] {
       started.wait();
       return CallAll(target, calls, thread / 2);

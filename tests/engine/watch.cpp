@@ -13,8 +13,8 @@ namespace {
 
 // Together five seconds: long enough for sanitizers, far too short for a method that does not end. A machine that
 // stands still and lets its clocks run on costs the call one slice, however long it stood.
-constexpr int kSlicesACall = 50;
-constexpr int kMicrosecondsASlice = 100000;
+constexpr int slicesACall = 50;
+constexpr int microsecondsASlice = 100000;
 
 char watchedCall[4096];
 volatile std::sig_atomic_t slicesLeft;
@@ -37,9 +37,9 @@ void RepeatTimer(int microseconds) {
 
 Watch::Watch(const std::string& call) {
   std::snprintf(watchedCall, sizeof watchedCall, "%s\n", call.c_str());
-  slicesLeft = kSlicesACall;
+  slicesLeft = slicesACall;
   std::signal(SIGPROF, CountSlice);
-  RepeatTimer(kMicrosecondsASlice);
+  RepeatTimer(microsecondsASlice);
 }
 
 Watch::~Watch() { RepeatTimer(0); }

@@ -11,12 +11,12 @@
 namespace keltest {
 namespace {
 
-constexpr unsigned long long kHundredNanosecondsACall = 50'000'000;  // five seconds
-constexpr unsigned long long kNever = ~0ULL;
-constexpr DWORD kMillisecondsALook = 100;
+constexpr unsigned long long hundredNanosecondsACall = 50'000'000;  // five seconds
+constexpr unsigned long long neverStops = ~0ULL;
+constexpr DWORD millisecondsALook = 100;
 
 char watchedCall[4096];
-std::atomic<unsigned long long> end{kNever};
+std::atomic<unsigned long long> end{neverStops};
 
 unsigned long long ProcessorTime() {
   FILETIME start, stop, kernel, user;
@@ -25,7 +25,7 @@ unsigned long long ProcessorTime() {
 }
 
 void Look() {
-  for (;; Sleep(kMillisecondsALook)) {
+  for (;; Sleep(millisecondsALook)) {
     if (ProcessorTime() < end) continue;
     std::fprintf(stderr, "does not return: %s", watchedCall);
     std::fflush(stderr);
@@ -39,9 +39,9 @@ Watch::Watch(const std::string& call) {
   static const bool isLooking = (std::thread(Look).detach(), true);
   static_cast<void>(isLooking);
   std::snprintf(watchedCall, sizeof watchedCall, "%s\n", call.c_str());
-  end = ProcessorTime() + kHundredNanosecondsACall;
+  end = ProcessorTime() + hundredNanosecondsACall;
 }
 
-Watch::~Watch() { end = kNever; }
+Watch::~Watch() { end = neverStops; }
 
 }  // namespace keltest

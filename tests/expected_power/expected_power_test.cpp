@@ -7,6 +7,7 @@
 
 #include "frame/rejection.h"
 #include "kelcommon/kel_dist_fun.h"
+#include "support/reference_rows.h"
 #include "support/share_of_studies.h"
 
 namespace kelpower::expected_power {
@@ -48,6 +49,19 @@ TEST(ExpectedPower, OfANormalStatisticIsThatOfItsClosedForm) {
         }
       }
     }
+  }
+}
+
+TEST(ExpectedPower, AgreesWithMultiplePrecision) {
+  const auto rows = ReferenceRows(KELPOWER_REFERENCES "/t_test.csv");
+  ASSERT_EQ(rows.size(), 6u);
+  for (const auto& row : rows) {
+    const TTest test = TTest::OneSided(row[3], row[2] - 1);
+    const auto powerAt = [&](double effect) {
+      const double noncentrality = effect * std::sqrt(row[2]);
+      return row[4] == 1 ? test.PowerUpperTail(noncentrality) : test.PowerBothTails(noncentrality);
+    };
+    EXPECT_NEAR(*ExpectedPower(powerAt, {row[0], row[1]}), row[5], 1e-12) << row[0] << ' ' << row[2];
   }
 }
 
@@ -191,6 +205,13 @@ TEST(SizeForExpectedPower, SaysWhyThereIsNone) {
   EXPECT_EQ(SizeOfT(belief, Success::AboveNull, 0.8, {2}, [] { return true; }).Reason(), NoValue::Stopped);
   const auto nan = [](double) { return Answer(std::numeric_limits<double>::quiet_NaN()); };
   EXPECT_EQ(FirstSize(nan, belief, Success::AboveNull, 0.8, {2}).Reason(), NoValue::NotReached);
+  const auto uncalled = [](double) -> Answer {
+    ADD_FAILURE() << "the limit is known before";
+    return 0;
+  };
+  EXPECT_EQ(FirstSize(uncalled, belief, Success::AboveNull, 0.85, {2}).Reason(), NoValue::NotReached);
+  EXPECT_EQ(SizeOfT(belief, Success::AboveNull, 0.5, {0}).Reason(), NoValue::Refused);
+  EXPECT_EQ(SizeOfT(belief, Success::AboveNull, 0.5, {2, 1e10}).Reason(), NoValue::Refused);
   const auto refused = [](double) { return Answer(NoValue::Refused); };
   EXPECT_EQ(FirstSize(refused, belief, Success::AboveNull, 0.8, {2}).Reason(), NoValue::NotReached);
 }

@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
 
 /// The coefficient by sums of logarithms, term by term.
 double CombinationByLogarithms(double n, double k) {
@@ -62,20 +62,20 @@ TEST(Combination, HasItsEdges) {
 
 TEST(Combination, IsTotalAndReturnsAtOnce) {
   EXPECT_EQ(Combination(1e300, 1), 1e300);
-  EXPECT_EQ(Combination(1e300, 3), kInfinity);
+  EXPECT_EQ(Combination(1e300, 3), infinite);
   EXPECT_NEAR(Combination(1.8e154, 2) / 1.62e308, 1, 1e-15);
-  EXPECT_EQ(Combination(1e18, 5e17), kInfinity);
-  EXPECT_EQ(Combination(1e308, 1e308 - 1e300), kInfinity);
-  EXPECT_EQ(Combination(kInfinity, 3), kInfinity);
-  EXPECT_EQ(Combination(kInfinity, kInfinity), 1);
-  EXPECT_EQ(Combination(kInfinity, -kInfinity), 1);
+  EXPECT_EQ(Combination(1e18, 5e17), infinite);
+  EXPECT_EQ(Combination(1e308, 1e308 - 1e300), infinite);
+  EXPECT_EQ(Combination(infinite, 3), infinite);
+  EXPECT_EQ(Combination(infinite, infinite), 1);
+  EXPECT_EQ(Combination(infinite, -infinite), 1);
   EXPECT_EQ(Combination(-1e300, 5), 1);
-  EXPECT_EQ(Combination(3, kInfinity), 1);
-  EXPECT_EQ(Combination(kNaN, 0), 1);
-  EXPECT_TRUE(std::isnan(Combination(kNaN, 3)));
-  EXPECT_TRUE(std::isnan(Combination(3, kNaN)));
+  EXPECT_EQ(Combination(3, infinite), 1);
+  EXPECT_EQ(Combination(quietNaN, 0), 1);
+  EXPECT_TRUE(std::isnan(Combination(quietNaN, 3)));
+  EXPECT_TRUE(std::isnan(Combination(3, quietNaN)));
   // The largest coefficients that are representable
-  EXPECT_EQ(Combination(1030, 515), kInfinity);
+  EXPECT_EQ(Combination(1030, 515), infinite);
 }
 
 TEST(InvTanh, IsTheInverseOfTanh) {
@@ -89,11 +89,11 @@ TEST(InvTanh, IsTheInverseOfTanh) {
 TEST(InvTanh, HasItsEdges) {
   EXPECT_EQ(InvTanh(1.5), -1);
   EXPECT_EQ(InvTanh(-1.5), -1);
-  EXPECT_EQ(InvTanh(kInfinity), -1);
-  EXPECT_EQ(InvTanh(1), kInfinity);
-  EXPECT_EQ(InvTanh(-1), -kInfinity);
+  EXPECT_EQ(InvTanh(infinite), -1);
+  EXPECT_EQ(InvTanh(1), infinite);
+  EXPECT_EQ(InvTanh(-1), -infinite);
   EXPECT_EQ(InvTanh(1e-13), 1e-13);
-  EXPECT_TRUE(std::isnan(InvTanh(kNaN)));
+  EXPECT_TRUE(std::isnan(InvTanh(quietNaN)));
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ namespace {
 
 using KelCommon::KelMV;
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
 
 std::vector<double> PositionsOf(const Axis& axis) {
   std::vector<double> positions;
@@ -48,22 +48,22 @@ TEST(Axes, FractionsEndInThreeWays) {
 TEST(Axes, AnEmptyRangeHasOnePositionAndABadStepNone) {
   for (const AxisEnd end : {AxisEnd::Open, AxisEnd::OnGrid, AxisEnd::Exact}) {
     EXPECT_EQ(PositionsOf(*FractionAxis(0.4, 0.4, 0.1, end)), std::vector<double>{0.4});
-    for (const double fraction : {0.0, -0.1, kNaN}) EXPECT_FALSE(FractionAxis(0, 1, fraction, end));
-    EXPECT_FALSE(FractionAxis(0, kNaN, 0.1, end));
+    for (const double fraction : {0.0, -0.1, quietNaN}) EXPECT_FALSE(FractionAxis(0, 1, fraction, end));
+    EXPECT_FALSE(FractionAxis(0, quietNaN, 0.1, end));
     EXPECT_FALSE(FractionAxis(0, 1, 1e-12, end));
   }
 }
 
 TEST(Axes, CountsOutOfRangeHaveNoAxis) {
   EXPECT_FALSE(CountedAxis(-1, 0, 1));
-  EXPECT_FALSE(CountedAxis(kNaN, 0, 1));
+  EXPECT_FALSE(CountedAxis(quietNaN, 0, 1));
   EXPECT_FALSE(CountedAxis(2147483648.0, 0, 1));
   EXPECT_EQ(CountedAxis(2147483647, 0, 1)->count, 2147483647);
 }
 
 TEST(Axes, InnerPositionsLeaveOutTheOrigin) {
   EXPECT_EQ(PositionsOf(*InnerAxis(3, -1, 0.5)), (std::vector<double>{-0.5, 0, 0.5}));
-  for (const double step : {0.0, -0.1, kNaN}) EXPECT_FALSE(InnerAxis(3, 0, step));
+  for (const double step : {0.0, -0.1, quietNaN}) EXPECT_FALSE(InnerAxis(3, 0, step));
 }
 
 TEST(Axes, AFractionMultipliesLast) {

@@ -20,7 +20,7 @@ using KelCommon::KelMV;
 using keltest::CountingStop;
 using keltest::OrMissing;
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
 
 /// What a search finds, and how much work it was.
 struct Search {
@@ -118,17 +118,17 @@ TEST(SolveIncreasingPower, TakesStepsMissingAndInvalidPowersAsThePlainSearchDoes
   const auto step = [](double n) { return n < 20.25 ? 0.3 : 0.9; };
   const auto none = [](double n) { return n < 20.25 ? KelMV::Missing() : TwoSidedTest(0.5, 0.05)(n); };
   const auto invalid = [](double n) { return n < 420.25 ? -1.0 : 0.9; };
-  constexpr int kMostEvaluationsInVain = 34;  // 16 steps up, 16 towards a root, and one on either side of it
-  const auto notANumber = [](double) { return kNaN; };
+  constexpr int mostEvaluationsInVain = 34;  // 16 steps up, 16 towards a root, and one on either side of it
+  const auto notANumber = [](double) { return quietNaN; };
   for (const FunctionView<double(double)> powerAt :
        {FunctionView<double(double)>(step), FunctionView<double(double)>(none), FunctionView<double(double)>(invalid),
         FunctionView<double(double)>(notANumber)}) {
-    for (const double target : {0.1, 0.3, 0.5, 0.9, 1.0, 2.0, kNaN}) {
+    for (const double target : {0.1, 0.3, 0.5, 0.9, 1.0, 2.0, quietNaN}) {
       const Search fast = Fast(powerAt, target);
       const Search plain = Plain(powerAt, target);
       EXPECT_EQ(fast.size, plain.size);
       EXPECT_EQ(fast.questions, plain.questions);
-      EXPECT_LE(fast.evaluations, plain.evaluations + kMostEvaluationsInVain);
+      EXPECT_LE(fast.evaluations, plain.evaluations + mostEvaluationsInVain);
     }
   }
 }
@@ -158,8 +158,8 @@ TEST(SolveHalfWidth, IsThePlainSearchInAThirdOfTheEvaluations) {
 
 TEST(SolveHalfWidth, IsThePlainSearchWhereTheEquationMakesNoSense) {
   const auto dfAt = [](double n) { return n - 1; };
-  for (const double slope : {-1.0, 0.0, 0.01, std::numeric_limits<double>::infinity(), kNaN}) {
-    for (const double weight : {-1.0, 0.0, 1.0, kNaN}) {
+  for (const double slope : {-1.0, 0.0, 0.01, std::numeric_limits<double>::infinity(), quietNaN}) {
+    for (const double weight : {-1.0, 0.0, 1.0, quietNaN}) {
       const HalfWidthEquation equation{slope, weight, 0.05, dfAt};
       EXPECT_EQ(FastHalfWidth(equation), PlainHalfWidth(equation)) << slope << ", " << weight;
     }

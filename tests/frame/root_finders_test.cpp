@@ -17,8 +17,8 @@ using KelCommon::KelMV;
 using keltest::CountingStop;
 using keltest::OrMissing;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
 
 /// Keeps the points at which an objective was evaluated.
 struct Trace {
@@ -104,7 +104,7 @@ TEST(SolveContinuous, TakesAMissingObjectiveForANegativeOne) {
 }
 
 TEST(SolveContinuous, ANaNObjectiveCountsAsABracketAndKeepsTheLowerEnd) {
-  EXPECT_EQ(FindContinuous(2, 400, 1e-9, [](double) { return kNaN; }), 2);
+  EXPECT_EQ(FindContinuous(2, 400, 1e-9, [](double) { return quietNaN; }), 2);
 }
 
 TEST(SolveContinuous, AsksBeforeEachWideningAndEachBisectionStep) {
@@ -121,12 +121,12 @@ TEST(SolveContinuous, AsksBeforeEachWideningAndEachBisectionStep) {
 
 TEST(SolveContinuous, NoArgumentsMakeItEndless) {
   const auto line = [](double x) { return x - 10.5; };
-  for (const double tolerance : {0.0, -1.0, kNaN, 1e-300}) {
+  for (const double tolerance : {0.0, -1.0, quietNaN, 1e-300}) {
     const double root = FindContinuous(2, 402, tolerance, line);
     EXPECT_NEAR(root, 10.5, 1e-14);
     EXPECT_LE(root, 10.5);
   }
-  for (const double end : {kNaN, kInfinity, -kInfinity}) {
+  for (const double end : {quietNaN, infinite, -infinite}) {
     EXPECT_TRUE(KelMV::IsMissing(FindContinuous(end, 402, 1e-9, line)));
     EXPECT_TRUE(KelMV::IsMissing(FindContinuous(2, end, 1e-9, line)));
     EXPECT_TRUE(KelMV::IsMissing(FindInteger(end, 402, line)));
@@ -159,7 +159,7 @@ TEST(SolveInteger, EndsTheWalkAtAnExactRoot) {
 }
 
 TEST(SolveInteger, DoesNotWalkFromANaN) {
-  EXPECT_EQ(FindInteger(1, 100, [](double) { return kNaN; }), 1);
+  EXPECT_EQ(FindInteger(1, 100, [](double) { return quietNaN; }), 1);
 }
 
 TEST(SolveInteger, AsksBeforeEachStepOfTheWalkToo) {
@@ -189,12 +189,12 @@ TEST(SolveIntegerSmallest, FindsTheFirstOfSeveralCrossings) {
 
 TEST(SolveIntegerSmallest, LeavesItsStartingValueWhereItCannotSearch) {
   const auto line = [](double x) { return x - 10.5; };
-  for (const double start : {KelMV::Missing(), kInfinity}) {
+  for (const double start : {KelMV::Missing(), infinite}) {
     CountingStop never;
     EXPECT_EQ(FindIntegerSmallest(start, line, never), start);
     EXPECT_EQ(never.asked, 1);
   }
-  EXPECT_TRUE(std::isnan(FindIntegerSmallest(kNaN, line)));
+  EXPECT_TRUE(std::isnan(FindIntegerSmallest(quietNaN, line)));
   CountingStop atOnce(1);
   EXPECT_EQ(FindIntegerSmallest(30, line, atOnce), 30);
   CountingStop second(2);  // the stop ends the first pass, whose missing result ends the search

@@ -31,11 +31,15 @@ const ContractRow contractRows[] = {
     {"IdfF", {0.5, 0, 20}, missing, 0},
     {"IdfF", {0.5, 3, 0}, missing, 0},
     {"IdfF", {0.5, 3, -1}, missing, 0},
+    {"IdfF", {0, 0, 20}, missing, 0},
+    {"IdfF", {1, 3, -1}, missing, 0},
     {"IdfF", {0, 3, 20}, 0, 0},
     {"IdfF", {1, 3, 20}, infinity, 0},
     {"NonCentralCdfF", {1, 0, 20, 1, 0}, missing, 0},
     {"NonCentralCdfF", {1, 3, 0, 1, 0}, missing, 0},
     {"NonCentralCdfF", {1, 3, 20, -1, 0}, missing, 0},
+    {"NonCentralCdfF", {1, 3, 20, -1e-300, 0}, missing, 0},
+    {"NonCentralCdfF", {-1, 0, 20, 1, 0}, missing, 0},
     {"NonCentralCdfF", {0, 3, 20, 1, 0}, 0, 0},
     {"NonCentralCdfF", {-2, 3, 20, 1, 0}, 0, 0},
     {"NonCentralCdfF", {-infinity, 3, 20, 1, 0}, 0, 0},
@@ -44,6 +48,9 @@ const ContractRow contractRows[] = {
     {"NonCentralCdfF", {5, 3, 20, infinity, 0}, 0, 0},
     {"IdfT", {-0.1, 10, 0, 0}, missing, 0},
     {"IdfT", {1.1, 10, 0, 0}, missing, 0},
+    {"IdfT", {-1e-300, 10, 0, 0}, missing, 0},
+    {"IdfT", {1.0000000000000002, 10, 0, 0}, missing, 0},
+    {"IdfT", {0, -infinity, 0, 0}, missing, 0},
     {"IdfT", {0.5, 0, 0, 0}, missing, 0},
     {"IdfT", {0.5, -3, 0, 0}, missing, 0},
     {"IdfT", {0, 10, 0, 0}, -infinity, 0},
@@ -51,6 +58,8 @@ const ContractRow contractRows[] = {
     {"IdfT", {0.5, 10, 0, 0}, 0, 0},
     {"NonCentralCdfT", {1, 0, 1, 0}, missing, 0},
     {"NonCentralCdfT", {1, -1, 1, 0}, missing, 0},
+    {"NonCentralCdfT", {infinity, 0, 1, 0}, missing, 0},
+    {"NonCentralCdfT", {1, -2, infinity, 0}, missing, 0},
     {"NonCentralCdfT", {-infinity, 10, 1, 0}, 0, 0},
     {"NonCentralCdfT", {missing, 10, 1, 0}, 0, 0},
     {"NonCentralCdfT", {infinity, 10, 1, 0}, 1, 0},
@@ -188,9 +197,9 @@ TEST(Contract, NanInAnyArgumentGivesNan) {
 }
 
 TEST(Contract, TuningArgumentsChangeNothing) {
-  EXPECT_EQ(KelDistFun::IdfT(0.975, 17, 1e-40, 1e-30), KelDistFun::IdfT(0.975, 17, 1e-20, 1e-12));
-  EXPECT_EQ(KelDistFun::NonCentralCdfT(2, 17, 1.5, 1e-12), KelDistFun::NonCentralCdfT(2, 17, 1.5, 0));
-  EXPECT_EQ(KelDistFun::NonCentralCdfF(2, 3, 17, 1.5, 1e-12), KelDistFun::NonCentralCdfF(2, 3, 17, 1.5, 1e-10));
+  EXPECT_EQ(KelDistFun::IdfT(0.975, 17, 1e-40, 1e-30), KelDistFun::IdfT(0.975, 17, nan, -1));
+  EXPECT_EQ(KelDistFun::NonCentralCdfT(2, 17, 1.5, 1e-12), KelDistFun::NonCentralCdfT(2, 17, 1.5, nan));
+  EXPECT_EQ(KelDistFun::NonCentralCdfF(2, 3, 17, 1.5, 1e-12), KelDistFun::NonCentralCdfF(2, 3, 17, 1.5, nan));
 }
 
 TEST(Missing, IsTheMostNegativeDoubleAndNothingElse) {

@@ -133,7 +133,7 @@ TEST(Anova, RefusesMoreGroupsThanCanBeReported) {
     Solved(*FindTest("anova"), given);
     ADD_FAILURE() << "nothing thrown";
   } catch (const InputError& error) {
-    EXPECT_EQ(Said(error), "--means tells 10001 groups, but at most 10000 are allowed.");
+    EXPECT_EQ(Said(error), "--means gives 10001 groups, but at most 10000 are allowed.");
   }
 }
 

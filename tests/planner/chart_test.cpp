@@ -12,7 +12,6 @@
 #include "pictures/svg.h"
 #include "solve/axes.h"
 #include "support.h"
-#include "words/alternatives.h"
 #include "words/numbers.h"
 #include "words/parse.h"
 #include "words/render.h"
@@ -233,7 +232,7 @@ TEST(Chart, TheEffectFoundIsTheDesign) {
 
 TEST(Chart, SeveralValuesMakeSeveralCurves) {
   ChartRequest request = Named("n");
-  request.alternatives = Alternatives{"effect-d", {0.2, 0.5, 0.8}};
+  request.alternatives = Alternatives{FindParameter(*FindTest("two-means"), Name("effect-d")), {0.2, 0.5, 0.8}};
   const ChartData chart = Computed("two-means", request, {{"power", 0.8}});
   ASSERT_EQ(chart.curves.size(), 3u);
   const double found[] = {394, 64, 26};
@@ -327,9 +326,10 @@ ChartData TwoProportions(const ChartRequest& request, const InputValues& given =
 }
 
 TEST(Chart, CurvesOfTwoProportionsPassThroughTheDesign) {
-  const std::vector<InputValues> effects = {{{"proportions", Numbers{0.5, 0.4}}},
+  const std::vector<InputValues> effects = {{{"proportions", Numbers{0.5, 0.6}}},
+                                            {{"proportion1", 0.5}, {"proportion2", 0.6}},
                                             {{"proportion1", 0.5}, {"risk-difference", 0.1}},
-                                            {{"proportion1", 0.5}, {"risk-ratio", 1.25}},
+                                            {{"proportion1", 0.5}, {"risk-ratio", 1.2}},
                                             {{"proportion1", 0.5}, {"odds-ratio", 1.5}}};
   for (const std::string test : {"z", "t", "likelihood-ratio", "arcsine", "conditional"}) {
     for (InputValues groups : effects) {
@@ -414,10 +414,10 @@ TEST(Chart, WrongRequestsGetASentence) {
   EXPECT_EQ(Complaint("anova", sizesAsked),
             "--y n draws the sizes that reach a target: give --power in place of the sizes.");
   ChartRequest several = Named("n-sd");
-  several.alternatives = Alternatives{"alpha", {0.01, 0.05}};
+  several.alternatives = Alternatives{FindParameter(*FindTest("two-means"), Name("alpha")), {0.01, 0.05}};
   EXPECT_EQ(Complaint("anova", several), "--alpha has several values, but --chart over two axes draws one design.");
   several = Named("alpha");
-  several.alternatives = Alternatives{"alpha", {0.01, 0.05}};
+  several.alternatives = Alternatives{FindParameter(*FindTest("two-means"), Name("alpha")), {0.01, 0.05}};
   EXPECT_EQ(Complaint("anova", several), "--alpha has several values, but --chart varies it along an axis: give one.");
   const InputValues interval{{"sd", 6.0}, {"n", sizes}, {"interval", true}};
   EXPECT_EQ(Complaint("anova", Named("n-sd"), interval),
@@ -512,18 +512,6 @@ TEST(Chart, TitlesStandAlone) {
   EXPECT_EQ(FigureOf(chart, "Mine").title, "Mine");
 }
 
-TEST(Alternatives, AreSpelledByListsSequencesAndRepetition) {
-  const Parameter& d = *FindParameter(*FindTest("two-means"), Name("effect-d"));
-  const auto parsed = [&](const std::vector<std::string>& texts) { return ParseAlternatives(d, texts); };
-  EXPECT_EQ(parsed({"0.2,0.5", "0.8"}), (std::vector<Value>{0.2, 0.5, 0.8}));
-  EXPECT_EQ(parsed({"0.1:0.4:0.1"}), (std::vector<Value>{0.1, 0.2, 0.3, 0.4}));
-  EXPECT_THROW(parsed({"0.1:0.4"}), InputError);
-  EXPECT_THROW(parsed({"0.1:0.4:0"}), InputError);
-  EXPECT_THROW(parsed({"0.1,,0.4"}), InputError);
-  const Parameter& list = *FindParameter(*FindTest("two-means"), Name("means"));
-  EXPECT_EQ(ParseAlternatives(list, {"1,2", "1,3"}), (std::vector<Value>{Numbers{1, 2}, Numbers{1, 3}}));
-}
-
 TEST(Svg, HasATitleAndADescription) {
   const std::string svg = "<?xml?><svg width=\"9\"><title>Gnuplot</title><desc>by it</desc><g/></svg>";
   EXPECT_EQ(WithTitleAndDescription(svg, "A < B", "power & n"),
@@ -532,10 +520,7 @@ TEST(Svg, HasATitleAndADescription) {
 }
 
 TEST(Chart, StopsOnRequest) {
-  class Always : public StopRequest {
-  public:
-    bool ShouldStop() override { return true; }
-  } stop;
+  CountingStop stop(1);
   EXPECT_THROW(ComputeChart(*FindTest("anova"), Named("n"), design, &stop), Stopped);
 }
 

@@ -71,11 +71,11 @@ TEST(ChooseRoute, SaysWhatExcludesWhat) {
 }
 
 TEST(ChooseRoute, SaysWhatIsMissing) {
-  EXPECT_EQ(Complaint(Question::HalfWidth, {"interval", "n"}), "Also give --sd to be told the half-width.");
-  EXPECT_EQ(Complaint(Question::Power, {"mean", "n"}), "Also give --sd to be told the power.");
+  EXPECT_EQ(Complaint(Question::HalfWidth, {"interval", "n"}), "Also give --sd for the half-width.");
+  EXPECT_EQ(Complaint(Question::Power, {"mean", "n"}), "Also give --sd for the power.");
   EXPECT_EQ(Complaint(Question::Power, {"mean", "sd"}),
-            "Also give --n to be told the power; to be told the sample size, give --power in place of --n.");
-  EXPECT_EQ(Complaint(Question::Power, {"n"}), "Also give --mean and --sd, or --effect-d to be told the power.");
+            "Also give --n for the power; for the sample size, give --power in place of --n.");
+  EXPECT_EQ(Complaint(Question::Power, {"n"}), "Also give --mean and --sd, or --effect-d for the power.");
 }
 
 }  // namespace

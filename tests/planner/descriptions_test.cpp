@@ -144,6 +144,7 @@ TEST_P(Descriptions, FillTheirSentencesWithKnownNames) {
       "sizes", "total", "groups", "power", "half-width", "target-power", "target-half-width", "confidence"};
   for (const Parameter& parameter : GetParam().parameters) known.emplace(parameter.name.Text());
   for (const Phrase& phrase : GetParam().phrases) known.insert(phrase.name);
+  for (const Assumption& assumption : GetParam().assumptions) known.insert(assumption.name);
   const auto expect = [&](std::string_view name) {
     EXPECT_EQ(known.count(std::string(name)), 1u) << name;
     return std::string();
@@ -160,6 +161,16 @@ TEST_P(Descriptions, FillTheirSentencesWithKnownNames) {
       Expand(wording, expect, expectFlag);
     }
   }
+}
+
+TEST_P(Descriptions, SayWhatTheyAssumeOfKnownInputs) {
+  for (const Assumption& assumption : GetParam().assumptions) {
+    EXPECT_TRUE(IsLowercaseWord(assumption.name));
+    EXPECT_NE(assumption.wording.find("<0>"), std::string::npos) << assumption.name;
+    for (Name name : assumption.needs) EXPECT_TRUE(FindParameter(GetParam(), name)) << name.Text();
+  }
+  EXPECT_EQ(GetParam().whenNot.rfind("Not for ", 0), 0u);
+  EXPECT_TRUE(GetParam().details);
 }
 
 TEST_P(Descriptions, HaveAnExampleOfEveryQuestion) {

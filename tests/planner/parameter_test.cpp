@@ -62,7 +62,7 @@ TEST(Parse, NamesOptionValueAndWhatIsAllowed) {
   EXPECT_EQ(ComplaintAbout(OneOf("adjust", "", "", {{"sidak", 1, ""}, {"none", 2, ""}}), "both"),
             "--adjust is \"both\", but must be sidak or none.");
   EXPECT_EQ(ComplaintAbout(List("pair", "", "").Length(2), "1,2,3"),
-            "--pair is 1, 2, 3, but must be 2 numbers, each a number.");
+            "--pair is 1, 2, 3, but must be two numbers like 52,47.");
   EXPECT_EQ(ComplaintAbout(PerGroup("n", "", "").AtLeast(1).Spreads(), "5,0"),
             "--n is 5, 0, but must be a number of at least 1, or a list of such, one for each group.");
 }

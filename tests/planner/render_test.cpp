@@ -22,8 +22,8 @@ TEST(Render, JsonKeepsEveryDigit) {
   const Report report = Example();
   const auto json = nlohmann::json::parse(RenderJson(report));
   EXPECT_EQ(json["results"]["power"].get<double>(), std::get<double>(ResultOf(report, "power")));
-  EXPECT_EQ(json["results"]["sizes"].get<Numbers>(), std::get<Numbers>(ResultOf(report, "sizes")));
-  EXPECT_EQ(json["inputs"]["power"], 0.9);
+  EXPECT_EQ(json["results"]["n"].get<Numbers>(), std::get<Numbers>(ResultOf(report, "n")));
+  EXPECT_EQ(json["inputs"]["target-power"], 0.9);
   EXPECT_EQ(json["question"], "sample-size");
   EXPECT_EQ(json["sentence"], report.sentence);
 }
@@ -31,8 +31,8 @@ TEST(Render, JsonKeepsEveryDigit) {
 TEST(Render, CsvHasAsManyValuesAsNamesAndTellsTheTargetApart) {
   const std::string csv = RenderCsv(Example());
   const std::size_t end = csv.find('\n');
-  EXPECT_EQ(csv.substr(0, end), "test,means,sd,target-power,alpha,rmsse,sizes,total,power");
-  EXPECT_EQ(std::count(csv.begin(), csv.begin() + static_cast<std::ptrdiff_t>(end), ','), 8);
+  EXPECT_EQ(csv.substr(0, end), "test,means,sd,target-power,alpha,effect-f,eta-squared,n,total,power");
+  EXPECT_EQ(std::count(csv.begin(), csv.begin() + static_cast<std::ptrdiff_t>(end), ','), 9);
   EXPECT_EQ(csv.compare(end + 1, 26, "anova,10 12 15,6,0.9,0.05,"), 0);
 }
 

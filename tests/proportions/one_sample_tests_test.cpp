@@ -11,7 +11,7 @@
 namespace kelpower::proportions {
 namespace {
 
-constexpr OneSampleDesign kExact{true, true, 0.05};
+constexpr OneSampleDesign byTables{true, true, 0.05};
 
 TEST(OneSampleTest, IsThatOfTheExports) {
   for (const bool isExact : {false, true}) {
@@ -24,7 +24,7 @@ TEST(OneSampleTest, IsThatOfTheExports) {
 }
 
 TEST(OneSampleTest, HasTheRegionOfTheTextbook) {
-  OneSampleTest test(kExact);
+  OneSampleTest test(byTables);
   const CriticalRegion region = test.Region(20, {0.80, 0.65});
   EXPECT_EQ(region.lower, -1);
   EXPECT_EQ(region.upper, 17);
@@ -53,15 +53,15 @@ TEST(OneSampleTest, AttainsALevelUpToItsOwn) {
 }
 
 TEST(OneSampleTest, SaysWhyThereIsNoPowerOrSize) {
-  OneSampleTest test(kExact);
+  OneSampleTest test(byTables);
   EXPECT_EQ(test.Power(0.5, {0.8, 0.65}).Reason(), NoValue::Refused);
   EXPECT_EQ(test.Power(20, {1.2, 0.65}).Reason(), NoValue::Refused);
   EXPECT_EQ(test.Power(2147483648.0, {0.8, 0.65}).Reason(), NoValue::Uncountable);
   keltest::CountingStop stop(3);
   EXPECT_EQ(test.Power(20, {0.8, 0.65}, stop).Reason(), NoValue::Stopped);
-  EXPECT_EQ(SizeForPower(kExact, {0.650001, 0.65}, 1.5).Reason(), NoValue::Uncountable);
+  EXPECT_EQ(SizeForPower(byTables, {0.650001, 0.65}, 1.5).Reason(), NoValue::Uncountable);
   keltest::CountingStop late(40);
-  EXPECT_EQ(SizeForPower(kExact, {0.8, 0.65}, 0.8, late).Reason(), NoValue::Stopped);
+  EXPECT_EQ(SizeForPower(byTables, {0.8, 0.65}, 0.8, late).Reason(), NoValue::Stopped);
 }
 
 TEST(OneSampleInterval, IsThatOfTheExports) {

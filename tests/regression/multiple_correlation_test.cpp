@@ -15,9 +15,9 @@
 namespace kelpower::regression {
 namespace {
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr double kAccuracy = 1e-12;
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double accuracy = 1e-12;
 
 double Cdf(double df1, double df2, double critical, double rhoSquared) {
   return CdfSquaredMultipleCorrelation({df1, df2, critical, 1e-10}, rhoSquared);
@@ -31,7 +31,7 @@ TEST(SquaredMultipleCorrelation, AgreesWithMultiplePrecisionReferences) {
   for (; std::getline(file, line); ++rows) {
     double df1, df2, critical, rhoSquared, cdf;
     ASSERT_EQ(5, std::sscanf(line.c_str(), "%lf,%lf,%lf,%lf,%lf", &df1, &df2, &critical, &rhoSquared, &cdf)) << line;
-    EXPECT_NEAR(Cdf(df1, df2, critical, rhoSquared), cdf, kAccuracy) << line;
+    EXPECT_NEAR(Cdf(df1, df2, critical, rhoSquared), cdf, accuracy) << line;
   }
   EXPECT_GT(rows, 200);
 }
@@ -45,7 +45,7 @@ TEST(SquaredMultipleCorrelation, EqualsTheStatedSeriesOverRandomDesigns) {
     const double df2 = uniform(1, 25);
     const double rhoSquared = uniform(1e-4, 0.25);
     const FTest test = FTest::AtLevel(std::exp(uniform(std::log(1e-3), std::log(0.5))), df1, df2);
-    ASSERT_NEAR(CdfSquaredMultipleCorrelation(test, rhoSquared), CdfByStatedSeries(test, rhoSquared), kAccuracy)
+    ASSERT_NEAR(CdfSquaredMultipleCorrelation(test, rhoSquared), CdfByStatedSeries(test, rhoSquared), accuracy)
         << "df1 " << df1 << " df2 " << df2 << " critical " << test.critical << " rho^2 " << rhoSquared;
   }
 }
@@ -65,7 +65,7 @@ TEST(SquaredMultipleCorrelation, HasTheClosedFormOfTwoAndTwoDegreesOfFreedom) {
       const double beyond = 1 / (1 + critical);
       const double c = critical * beyond;
       const double base = (1 - rhoSquared) / (1 - rhoSquared + beyond * rhoSquared);
-      EXPECT_NEAR(Cdf(2, 2, critical, rhoSquared), c * base * base, kAccuracy) << critical << ' ' << rhoSquared;
+      EXPECT_NEAR(Cdf(2, 2, critical, rhoSquared), c * base * base, accuracy) << critical << ' ' << rhoSquared;
     }
   }
 }
@@ -94,7 +94,7 @@ TEST(SquaredMultipleCorrelation, IsContinuousWhereTheMethodChanges) {
     const double centre = 1 + 2 * h / df1 * high / (1 - high);
     for (const double factor : {0.98, 1.0, 1.01}) {
       const double below = Cdf(df1, df2, centre * factor, low * (1 - 1e-15));
-      EXPECT_NEAR(below, Cdf(df1, df2, centre * factor, high * (1 + 1e-15)), kAccuracy) << df2;
+      EXPECT_NEAR(below, Cdf(df1, df2, centre * factor, high * (1 + 1e-15)), accuracy) << df2;
       EXPECT_GT(below, 0);
       EXPECT_LT(below, 1);
     }
@@ -113,13 +113,13 @@ TEST(SquaredMultipleCorrelation, FallsWithTheCorrelation) {
 
 TEST(SquaredMultipleCorrelation, AnswersAtTheEndsOfItsArguments) {
   EXPECT_EQ(Cdf(5, 94, 2.3, 1), 0);
-  EXPECT_EQ(Cdf(5, 94, kInfinity, 0.3), 1);
+  EXPECT_EQ(Cdf(5, 94, infinite, 0.3), 1);
   EXPECT_TRUE(std::isnan(Cdf(5, 94, 2.3, -1e-9)));
   EXPECT_TRUE(std::isnan(Cdf(5, 94, 2.3, 1 + 1e-9)));
-  EXPECT_TRUE(std::isnan(Cdf(5, 94, 2.3, kNaN)));
-  EXPECT_TRUE(std::isnan(Cdf(5, 94, kNaN, 0.3)));
-  EXPECT_TRUE(std::isnan(Cdf(kNaN, 94, 2.3, 0.3)));
-  EXPECT_EQ(Cdf(5, kInfinity, 2.3, 0.3), 0);
+  EXPECT_TRUE(std::isnan(Cdf(5, 94, 2.3, quietNaN)));
+  EXPECT_TRUE(std::isnan(Cdf(5, 94, quietNaN, 0.3)));
+  EXPECT_TRUE(std::isnan(Cdf(quietNaN, 94, 2.3, 0.3)));
+  EXPECT_EQ(Cdf(5, infinite, 2.3, 0.3), 0);
 }
 
 }  // namespace

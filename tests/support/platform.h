@@ -1,5 +1,5 @@
-#ifndef TESTS_SUPPORT_PLATFORM_H
-#define TESTS_SUPPORT_PLATFORM_H
+#ifndef KELPOWER_TESTS_SUPPORT_PLATFORM_H
+#define KELPOWER_TESTS_SUPPORT_PLATFORM_H
 
 #include <filesystem>
 #include <string>

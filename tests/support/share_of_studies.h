@@ -20,7 +20,8 @@ struct SimulatedShare {
 /// More standard errors than this is no chance: one simulation in 15,000.
 constexpr double kMostStandardErrors = 4;
 
-/// Draws `studies` studies of which `succeeds` tells, from an engine with a fixed seed.
+/// Draws `studies` studies of which `succeeds` tells, from an engine with a fixed seed. Standard libraries differ in how
+/// they draw, so elsewhere these are other studies.
 template <typename Study>
 SimulatedShare Simulate(int studies, unsigned seed, Study succeeds) {
   std::mt19937_64 engine(seed);

@@ -10,9 +10,9 @@
 namespace {
 
 // Three groups of the means 10, 12 and 15 with a standard deviation of 6, and five groups with a small effect f.
-constexpr double kThreeMeans[] = {10, 12, 15};
-constexpr double kTwenty[] = {20, 20, 20};
-constexpr double kManyEach[] = {240, 240, 240, 240, 240};
+constexpr double threeMeans[] = {10, 12, 15};
+constexpr double twenty[] = {20, 20, 20};
+constexpr double manyEach[] = {240, 240, 240, 240, 240};
 
 // The size of the first group, as the functions of two groups give it.
 template <typename Search>
@@ -51,15 +51,14 @@ const Design designs[] = {
      [] {
        return FirstSize([](DoubleVector& sizes) { PowerReverseIndependentNondirectionalES(0.8, 2, 0.5, sizes, 0.05); });
      }},
-    {"anova", [] { return PowerOverallTest(3, kThreeMeans, 6, kTwenty, 0.05); },
+    {"anova", [] { return PowerOverallTest(3, threeMeans, 6, twenty, 0.05); },
      [] {
        return FirstSize(
-           [](DoubleVector& sizes) { PowerReverseOverallTest(3, kThreeMeans, 6, kTwenty, 0.8, sizes, 0.05); });
+           [](DoubleVector& sizes) { PowerReverseOverallTest(3, threeMeans, 6, twenty, 0.8, sizes, 0.05); });
      }},
-    {"anova-small-effect", [] { return PowerOverallTestwES(5, 0.1, 0, kManyEach, 0.05); },
+    {"anova-small-effect", [] { return PowerOverallTestwES(5, 0.1, 0, manyEach, 0.05); },
      [] {
-       return FirstSize(
-           [](DoubleVector& sizes) { PowerReverseOverallTestwES(5, 0.1, 0, kManyEach, 0.8, sizes, 0.05); });
+       return FirstSize([](DoubleVector& sizes) { PowerReverseOverallTestwES(5, 0.1, 0, manyEach, 0.8, sizes, 0.05); });
      }},
     {"one-proportion", [] { return PowerOneSampBinom(50, 0.7, 0.5, 0, 0, 0.05, 0, nullptr); },
      [] { return PowerReverseOneSampBinom(0.8, 0.7, 0.5, 0, 0, 0.05, 0, nullptr); }},

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "regression/f_test.h"
+#include "regression/test_of_predictors.h"
 
 namespace kelpower::exports {
 

@@ -13,28 +13,28 @@ namespace {
 
 using KelCommon::KelMV;
 
-const std::vector<double> kMeans = {10, 12, 15};
-const std::vector<double> kSizes = {20, 20, 20};
+const std::vector<double> usualMeans = {10, 12, 15};
+const std::vector<double> usualSizes = {20, 20, 20};
 
 /// The group sizes scaled to a total.
 std::vector<double> Scaled(double total) {
-  std::vector<double> sizes = kSizes;
+  std::vector<double> sizes = usualSizes;
   for (double& size : sizes) size *= total / 60;
   return sizes;
 }
 
 TEST(PlotNOverallTest, HoldsThePowerAtEverySize) {
-  const CurveRecord plot(PlotNOverallTest(3, kMeans.data(), 6, kSizes.data(), 3, 90, 0.05));
+  const CurveRecord plot(PlotNOverallTest(3, usualMeans.data(), 6, usualSizes.data(), 3, 90, 0.05));
   ASSERT_EQ(plot.count, 88);
   for (int i = 0; i < plot.count; ++i) {
     EXPECT_EQ(plot.x[i], 3 + i);
-    EXPECT_NEAR(plot.y[i], PowerOverallTest(3, kMeans.data(), 6, Scaled(plot.x[i]).data(), 0.05), 1e-13);
+    EXPECT_NEAR(plot.y[i], PowerOverallTest(3, usualMeans.data(), 6, Scaled(plot.x[i]).data(), 0.05), 1e-13);
   }
 }
 
 TEST(PlotNOverallTest, TakesAnAutomaticRangeWhenEitherEndIsZero) {
-  const double power = PowerOverallTest(3, kMeans.data(), 6, kSizes.data(), 0.05);
-  const CurveRecord plot(PlotNOverallTest(3, kMeans.data(), 6, kSizes.data(), 0, 50, 0.05));
+  const double power = PowerOverallTest(3, usualMeans.data(), 6, usualSizes.data(), 0.05);
+  const CurveRecord plot(PlotNOverallTest(3, usualMeans.data(), 6, usualSizes.data(), 0, 50, 0.05));
   ASSERT_GT(plot.count, 1);
   EXPECT_EQ(plot.x[0], std::fmax(6, std::floor((1 - power) * 60)));
   EXPECT_EQ(plot.x[plot.count - 1], std::ceil((2 - power) * 60));
@@ -43,7 +43,7 @@ TEST(PlotNOverallTest, TakesAnAutomaticRangeWhenEitherEndIsZero) {
 TEST(PlotNOverallTest, RejectsRangesThatStartOrEndAtOne) {
   for (const std::vector<int>& range :
        std::vector<std::vector<int>>{{1, 5}, {5, 4}, {-1, 5}, {0, 1}, {1, 1}, {-3, -2}}) {
-    const CurveRecord plot(PlotNOverallTest(3, kMeans.data(), 6, kSizes.data(), range[0], range[1], 0.05));
+    const CurveRecord plot(PlotNOverallTest(3, usualMeans.data(), 6, usualSizes.data(), range[0], range[1], 0.05));
     EXPECT_EQ(plot.count, 0);
     EXPECT_EQ(plot.x, nullptr);
     EXPECT_EQ(plot.y, nullptr);
@@ -52,38 +52,38 @@ TEST(PlotNOverallTest, RejectsRangesThatStartOrEndAtOne) {
 
 TEST(PlotNOverallTest, ChartsASizeWithoutErrorDegreesOfFreedom) {
   const std::vector<double> sizes = {10, 10};
-  const CurveRecord plot(PlotNOverallTest(2, kMeans.data(), 6, sizes.data(), 2, 2, 0.05));
+  const CurveRecord plot(PlotNOverallTest(2, usualMeans.data(), 6, sizes.data(), 2, 2, 0.05));
   ASSERT_EQ(plot.count, 1);
   EXPECT_EQ(plot.x[0], 2);
   EXPECT_EQ(plot.y[0], 1);
 }
 
 TEST(PlotESOverallTest, OfAProportionOfVarianceStopsShortOfOne) {
-  const CurveRecord eta(PlotESOverallTest(3, 1, kSizes.data(), 0, 0, 0.05, 0.25));
-  const CurveRecord f(PlotESOverallTest(3, 0, kSizes.data(), 0, 0, 0.05, 0.25));
+  const CurveRecord eta(PlotESOverallTest(3, 1, usualSizes.data(), 0, 0, 0.05, 0.25));
+  const CurveRecord f(PlotESOverallTest(3, 0, usualSizes.data(), 0, 0, 0.05, 0.25));
   ASSERT_EQ(eta.count, 4);
   ASSERT_EQ(f.count, 5);
   for (int i = 0; i < eta.count; ++i) {
     EXPECT_EQ(eta.x[i], 0.25 * i);
-    EXPECT_EQ(eta.y[i], Single(PowerOverallTestwES(3, eta.x[i], 1, kSizes.data(), 0.05)));
+    EXPECT_EQ(eta.y[i], Single(PowerOverallTestwES(3, eta.x[i], 1, usualSizes.data(), 0.05)));
   }
   for (int i = 0; i < f.count; ++i) {
     EXPECT_EQ(f.x[i], 0.5 * i);
-    EXPECT_EQ(f.y[i], Single(PowerOverallTestwES(3, f.x[i], 0, kSizes.data(), 0.05)));
+    EXPECT_EQ(f.y[i], Single(PowerOverallTestwES(3, f.x[i], 0, usualSizes.data(), 0.05)));
   }
 }
 
 TEST(PlotSDOverallTest, EndsAtItsEndExactly) {
-  const CurveRecord plot(PlotSDOverallTest(3, kMeans.data(), 6, kSizes.data(), 2, 9, 0.05, 0.3));
+  const CurveRecord plot(PlotSDOverallTest(3, usualMeans.data(), 6, usualSizes.data(), 2, 9, 0.05, 0.3));
   ASSERT_EQ(plot.count, 5);
   EXPECT_EQ(plot.x[4], 9);
   for (int i = 0; i < plot.count; ++i) {
-    EXPECT_EQ(plot.y[i], Single(PowerOverallTest(3, kMeans.data(), plot.x[i], kSizes.data(), 0.05)));
+    EXPECT_EQ(plot.y[i], Single(PowerOverallTest(3, usualMeans.data(), plot.x[i], usualSizes.data(), 0.05)));
   }
 }
 
 TEST(PlotSDOverallTest, TakesTheAutomaticRangeWhenItStartsAtZero) {
-  const CurveRecord plot(PlotSDOverallTest(3, kMeans.data(), 6, kSizes.data(), 0, 9, 0.05, 0.1));
+  const CurveRecord plot(PlotSDOverallTest(3, usualMeans.data(), 6, usualSizes.data(), 0, 9, 0.05, 0.1));
   const double distance = std::sqrt(20 * (std::pow(7.0 / 3, 2) + std::pow(1.0 / 3, 2) + std::pow(8.0 / 3, 2)));
   ASSERT_EQ(plot.count, 11);
   EXPECT_NEAR(plot.x[0], distance / 5, 1e-13);
@@ -91,33 +91,34 @@ TEST(PlotSDOverallTest, TakesTheAutomaticRangeWhenItStartsAtZero) {
 }
 
 TEST(Surfaces, HoldTheScalarPowers) {
-  const SurfaceRecord bySD(PlotNaSDOverallTest(3, kMeans.data(), 6, kSizes.data(), 30, 40, 3, 9, 0.05, 0.25));
+  const SurfaceRecord bySD(PlotNaSDOverallTest(3, usualMeans.data(), 6, usualSizes.data(), 30, 40, 3, 9, 0.05, 0.25));
   ASSERT_EQ(bySD.xCount, 11);
   ASSERT_EQ(bySD.yCount, 5);
-  const SurfaceRecord byEffect(PlotNaESOverallTest(3, 0.3, 0, kSizes.data(), 30, 40, 0.1, 0.9, 0.05, 0.25));
+  const SurfaceRecord byEffect(PlotNaESOverallTest(3, 0.3, 0, usualSizes.data(), 30, 40, 0.1, 0.9, 0.05, 0.25));
   ASSERT_EQ(byEffect.yCount, 5);
   for (int i = 0; i < 11; ++i) {
     for (int j = 0; j < 5; ++j) {
       const std::vector<double> sizes = Scaled(bySD.x[i]);
-      EXPECT_NEAR(bySD.z[i * 5 + j], PowerOverallTest(3, kMeans.data(), bySD.y[j], sizes.data(), 0.05), 1e-13);
+      EXPECT_NEAR(bySD.z[i * 5 + j], PowerOverallTest(3, usualMeans.data(), bySD.y[j], sizes.data(), 0.05), 1e-13);
       EXPECT_NEAR(byEffect.z[i * 5 + j], PowerOverallTestwES(3, byEffect.y[j], 0, sizes.data(), 0.05), 1e-13);
     }
   }
 }
 
 TEST(Surfaces, OfTheOverallTestDoNotRejectALevelAboveOne) {
-  const SurfaceRecord plot(PlotNaSDOverallTest(3, kMeans.data(), 6, kSizes.data(), 30, 32, 3, 9, 1.5, 0.5));
+  const SurfaceRecord plot(PlotNaSDOverallTest(3, usualMeans.data(), 6, usualSizes.data(), 30, 32, 3, 9, 1.5, 0.5));
   ASSERT_EQ(plot.xCount * plot.yCount, 9);
   for (int i = 0; i < 9; ++i) EXPECT_TRUE(KelMV::IsMissing(plot.z[i]));
 
-  EXPECT_EQ(PlotNaSDOverallTest(3, kMeans.data(), 6, kSizes.data(), 0, 0, 3, 9, 1.5, 0.5).x, nullptr);
+  EXPECT_EQ(PlotNaSDOverallTest(3, usualMeans.data(), 6, usualSizes.data(), 0, 0, 3, 9, 1.5, 0.5).x, nullptr);
   std::vector<double> coefficients = {1, 0, -1};
-  EXPECT_EQ(PlotNaSDSC(3, kMeans.data(), 6, kSizes.data(), coefficients.data(), 30, 32, 3, 9, 0, 1.5, 0.5).x, nullptr);
+  EXPECT_EQ(PlotNaSDSC(3, usualMeans.data(), 6, usualSizes.data(), coefficients.data(), 30, 32, 3, 9, 0, 1.5, 0.5).x,
+            nullptr);
 }
 
 TEST(PlotNSCFES, TakesAZeroAsItStands) {
   const std::vector<double> coefficients = {1, 0, -1};
-  const CurveRecord plot(PlotNSCFES(3, 0.5, kSizes.data(), coefficients.data(), 0, 3, 0, 0.05));
+  const CurveRecord plot(PlotNSCFES(3, 0.5, usualSizes.data(), coefficients.data(), 0, 3, 0, 0.05));
   ASSERT_EQ(plot.count, 4);
   for (int i = 0; i < 3; ++i) {
     EXPECT_EQ(plot.x[i], i);
@@ -130,26 +131,27 @@ TEST(ContrastCharts, HoldTheScalarPowers) {
   for (const int isDirectional : {0, 1}) {
     std::vector<double> coefficients = {0.5, 0.5, -1};
     const CurveRecord bySize(
-        PlotNSC(3, kMeans.data(), 6, kSizes.data(), coefficients.data(), 9, 60, isDirectional, 0.05));
+        PlotNSC(3, usualMeans.data(), 6, usualSizes.data(), coefficients.data(), 9, 60, isDirectional, 0.05));
     ASSERT_EQ(bySize.count, 52);
     for (int i = 0; i < bySize.count; ++i) {
-      EXPECT_NEAR(bySize.y[i],
-                  PowerSC(3, kMeans.data(), 6, Scaled(bySize.x[i]).data(), coefficients.data(), isDirectional, 0.05),
-                  1e-13);
+      EXPECT_NEAR(
+          bySize.y[i],
+          PowerSC(3, usualMeans.data(), 6, Scaled(bySize.x[i]).data(), coefficients.data(), isDirectional, 0.05),
+          1e-13);
     }
     const CurveRecord bySD(
-        PlotSDSC(3, kMeans.data(), 6, kSizes.data(), coefficients.data(), 2, 9, isDirectional, 0.05, 0.1));
+        PlotSDSC(3, usualMeans.data(), 6, usualSizes.data(), coefficients.data(), 2, 9, isDirectional, 0.05, 0.1));
     for (int i = 0; i < bySD.count; ++i) {
       const double power =
-          PowerSC(3, kMeans.data(), bySD.x[i], kSizes.data(), coefficients.data(), isDirectional, 0.05);
+          PowerSC(3, usualMeans.data(), bySD.x[i], usualSizes.data(), coefficients.data(), isDirectional, 0.05);
       EXPECT_NEAR(bySD.y[i], power, 1e-7);
     }
-    const SurfaceRecord surface(
-        PlotNaSDSC(3, kMeans.data(), 6, kSizes.data(), coefficients.data(), 9, 20, 2, 9, isDirectional, 0.05, 0.5));
+    const SurfaceRecord surface(PlotNaSDSC(3, usualMeans.data(), 6, usualSizes.data(), coefficients.data(), 9, 20, 2, 9,
+                                           isDirectional, 0.05, 0.5));
     for (int i = 0; i < surface.xCount; ++i) {
       for (int j = 0; j < surface.yCount; ++j) {
         EXPECT_NEAR(surface.z[i * surface.yCount + j],
-                    PowerSC(3, kMeans.data(), surface.y[j], Scaled(surface.x[i]).data(), coefficients.data(),
+                    PowerSC(3, usualMeans.data(), surface.y[j], Scaled(surface.x[i]).data(), coefficients.data(),
                             isDirectional, 0.05),
                     1e-13);
       }
@@ -159,14 +161,14 @@ TEST(ContrastCharts, HoldTheScalarPowers) {
 
 TEST(ContrastCharts, RepairTheCallersCoefficientsAtTheFirstPointComputed) {
   std::vector<double> coefficients = {1, 1, 5};
-  const CurveRecord plot(PlotSDSC(3, kMeans.data(), 6, kSizes.data(), coefficients.data(), 2, 4, 0, 0.05, 0.5));
+  const CurveRecord plot(PlotSDSC(3, usualMeans.data(), 6, usualSizes.data(), coefficients.data(), 2, 4, 0, 0.05, 0.5));
   EXPECT_EQ(coefficients[2], -2);
   ASSERT_EQ(plot.count, 3);
   EXPECT_EQ(plot.y[0], 1);  // the repaired coefficient is out of range: an effect without bound
   EXPECT_LT(plot.y[2], 1);  // the next point finds coefficients that sum to zero
 
   coefficients = {1, 0, 0};
-  const CurveRecord nothing(PlotNSC(3, kMeans.data(), 6, kSizes.data(), coefficients.data(), 2, 2, 0, 0.05));
+  const CurveRecord nothing(PlotNSC(3, usualMeans.data(), 6, usualSizes.data(), coefficients.data(), 2, 2, 0, 0.05));
   EXPECT_TRUE(KelMV::IsMissing(nothing.y[0]));
   EXPECT_EQ(coefficients[2], 0);  // no power was computed
 }

@@ -13,26 +13,26 @@ namespace {
 using KelCommon::KelMV;
 using KelMath::KelDistFun;
 
-const std::vector<double> kMeans = {10, 12, 15};
-const std::vector<double> kSizes = {20, 15, 25};
+const std::vector<double> usualMeans = {10, 12, 15};
+const std::vector<double> usualSizes = {20, 15, 25};
 
 TEST(EffectSizeSC, RepairsTheLastCoefficient) {
   std::vector<double> coefficients = {1, 0, 0};
-  EXPECT_DOUBLE_EQ(EffectSizeSC(3, kMeans.data(), 4, coefficients.data()), -1.25);
+  EXPECT_DOUBLE_EQ(EffectSizeSC(3, usualMeans.data(), 4, coefficients.data()), -1.25);
   EXPECT_EQ(coefficients, (std::vector<double>{1, 0, -1}));
 }
 
 TEST(EffectSizeSC, IsMissingWhenTheRepairedCoefficientIsOutOfRange) {
   std::vector<double> coefficients = {1, 1, 5};
-  EXPECT_TRUE(KelMV::IsMissing(EffectSizeSC(3, kMeans.data(), 4, coefficients.data())));
+  EXPECT_TRUE(KelMV::IsMissing(EffectSizeSC(3, usualMeans.data(), 4, coefficients.data())));
   EXPECT_EQ(coefficients, (std::vector<double>{1, 1, -2}));
   // The next call finds coefficients that sum to zero.
-  EXPECT_DOUBLE_EQ(EffectSizeSC(3, kMeans.data(), 4, coefficients.data()), -2);
+  EXPECT_DOUBLE_EQ(EffectSizeSC(3, usualMeans.data(), 4, coefficients.data()), -2);
 }
 
 TEST(EffectSizeSC, RepairsBeforeItChecksTheStandardDeviation) {
   std::vector<double> coefficients = {0.5, 0.5, 0};
-  EXPECT_TRUE(KelMV::IsMissing(EffectSizeSC(3, kMeans.data(), 0, coefficients.data())));
+  EXPECT_TRUE(KelMV::IsMissing(EffectSizeSC(3, usualMeans.data(), 0, coefficients.data())));
   EXPECT_EQ(coefficients, (std::vector<double>{0.5, 0.5, -1}));
 }
 
@@ -47,9 +47,9 @@ TEST(PowerSC, OneSidedIsTheUpperTailOfTheNoncentralT) {
   const double variance = 0.25 / 20 + 0.25 / 15 + 1.0 / 25;
   const double t = KelDistFun::IdfT(0.95, 57, 1e-40, 1e-30);
   const double wanted = 1 - KelDistFun::NonCentralCdfT(t, 57, std::fabs(effect) / std::sqrt(variance), 1e-12);
-  EXPECT_NEAR(PowerSC(3, kMeans.data(), 6, kSizes.data(), coefficients.data(), 1, 0.05), wanted, 1e-14);
-  EXPECT_NEAR(PowerSCwES(3, effect, kSizes.data(), coefficients.data(), -1, 0.05), wanted, 1e-14);
-  EXPECT_NEAR(PowerSCwES(3, -effect, kSizes.data(), coefficients.data(), 1, 0.05), wanted, 1e-14);
+  EXPECT_NEAR(PowerSC(3, usualMeans.data(), 6, usualSizes.data(), coefficients.data(), 1, 0.05), wanted, 1e-14);
+  EXPECT_NEAR(PowerSCwES(3, effect, usualSizes.data(), coefficients.data(), -1, 0.05), wanted, 1e-14);
+  EXPECT_NEAR(PowerSCwES(3, -effect, usualSizes.data(), coefficients.data(), 1, 0.05), wanted, 1e-14);
 }
 
 TEST(PowerSC, TwoSidedIsBothTailsOfTheNoncentralT) {
@@ -58,24 +58,24 @@ TEST(PowerSC, TwoSidedIsBothTailsOfTheNoncentralT) {
   const double t = KelDistFun::IdfT(0.975, 57, 1e-40, 1e-30);
   const double wanted =
       1 - KelDistFun::NonCentralCdfT(t, 57, delta, 1e-12) + KelDistFun::NonCentralCdfT(-t, 57, delta, 1e-12);
-  EXPECT_NEAR(PowerSC(3, kMeans.data(), 6, kSizes.data(), coefficients.data(), 0, 0.05), wanted, 1e-13);
+  EXPECT_NEAR(PowerSC(3, usualMeans.data(), 6, usualSizes.data(), coefficients.data(), 0, 0.05), wanted, 1e-13);
 }
 
 TEST(PowerSC, RepairsTheCallersCoefficientsUnlessItRejects) {
   std::vector<double> coefficients = {1, 0, 0};
-  PowerSC(3, kMeans.data(), 6, kSizes.data(), coefficients.data(), 0, 0.05);
+  PowerSC(3, usualMeans.data(), 6, usualSizes.data(), coefficients.data(), 0, 0.05);
   EXPECT_EQ(coefficients[2], -1);
 
   coefficients = {1, 0, 0};
-  EXPECT_TRUE(KelMV::IsMissing(PowerSC(3, kMeans.data(), 6, kSizes.data(), coefficients.data(), 0, 1)));
-  EXPECT_TRUE(KelMV::IsMissing(PowerSC(3, kMeans.data(), 0, kSizes.data(), coefficients.data(), 0, 0.05)));
-  EXPECT_TRUE(KelMV::IsMissing(PowerSC(1, kMeans.data(), 6, kSizes.data(), coefficients.data(), 0, 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerSC(3, usualMeans.data(), 6, usualSizes.data(), coefficients.data(), 0, 1)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerSC(3, usualMeans.data(), 0, usualSizes.data(), coefficients.data(), 0, 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerSC(1, usualMeans.data(), 6, usualSizes.data(), coefficients.data(), 0, 0.05)));
   EXPECT_EQ(coefficients[2], 0);
 }
 
 TEST(PowerSC, OfACoefficientThatCannotBeRepairedIsOne) {
   std::vector<double> coefficients = {1, 1, 5};  // the missing effect counts as infinite
-  EXPECT_EQ(PowerSC(3, kMeans.data(), 6, kSizes.data(), coefficients.data(), 0, 0.05), 1);
+  EXPECT_EQ(PowerSC(3, usualMeans.data(), 6, usualSizes.data(), coefficients.data(), 0, 0.05), 1);
 }
 
 TEST(PowerSCwES, OfAnEmptyGroupIsAlpha) {
@@ -91,11 +91,11 @@ TEST(PowerReverseSC, ReachesThePowerAndOneLessDoesNot) {
   for (const int isDirectional : {0, 1}) {
     std::vector<double> coefficients = {1, 0, -1};
     DoubleVector sizes;
-    PowerReverseSC(3, kMeans.data(), 6, equal.data(), coefficients.data(), 0.9, sizes, isDirectional, 0.05);
+    PowerReverseSC(3, usualMeans.data(), 6, equal.data(), coefficients.data(), 0.9, sizes, isDirectional, 0.05);
     ASSERT_EQ(sizes.size(), 3U);
-    EXPECT_GE(PowerSC(3, kMeans.data(), 6, sizes.data(), coefficients.data(), isDirectional, 0.05), 0.9);
+    EXPECT_GE(PowerSC(3, usualMeans.data(), 6, sizes.data(), coefficients.data(), isDirectional, 0.05), 0.9);
     const std::vector<double> less(3, sizes[0] - 1);
-    EXPECT_LT(PowerSC(3, kMeans.data(), 6, less.data(), coefficients.data(), isDirectional, 0.05), 0.9);
+    EXPECT_LT(PowerSC(3, usualMeans.data(), 6, less.data(), coefficients.data(), isDirectional, 0.05), 0.9);
 
     DoubleVector byEffect;
     PowerReverseSCwES(3, -5.0 / 6, equal.data(), coefficients.data(), 0.9, byEffect, isDirectional, 0.05);
@@ -108,8 +108,8 @@ TEST(PowerReverseSC, DoesNotRepairTheCallersCoefficients) {
   std::vector<double> repaired = {1, 0, -1};
   DoubleVector sizes;
   DoubleVector wanted;
-  PowerReverseSC(3, kMeans.data(), 6, kSizes.data(), coefficients.data(), 0.9, sizes, 0, 0.05);
-  PowerReverseSC(3, kMeans.data(), 6, kSizes.data(), repaired.data(), 0.9, wanted, 0, 0.05);
+  PowerReverseSC(3, usualMeans.data(), 6, usualSizes.data(), coefficients.data(), 0.9, sizes, 0, 0.05);
+  PowerReverseSC(3, usualMeans.data(), 6, usualSizes.data(), repaired.data(), 0.9, wanted, 0, 0.05);
   EXPECT_EQ(coefficients, (std::vector<double>{1, 0, 0}));
   EXPECT_EQ(sizes, wanted);
 }
@@ -136,50 +136,50 @@ TEST(PairwiseDiff, IsTheContrastOfTwoGroupsAtTheAdjustedLevel) {
   const std::vector<double> levels = {0.1 / 3 / 2, 1 - std::pow(0.95, 1.0 / 3), 0.05};
   for (int adjustment = 0; adjustment <= 2; ++adjustment) {
     const double level = levels[static_cast<std::size_t>(adjustment)];
-    EXPECT_NEAR(PowerPairwiseDiff(3, kMeans.data(), 6, kSizes.data(), 1, 3, adjustment, 0.05),
-                PowerSC(3, kMeans.data(), 6, kSizes.data(), contrast.data(), 0, level), 1e-14);
-    EXPECT_NEAR(HalfCIPairwiseDiff(60, 3, kSizes.data(), 1, 3, 6, adjustment, 0.05),
-                HalfCISCTest(60, 3, kSizes.data(), contrast.data(), 6, level), 1e-12);
+    EXPECT_NEAR(PowerPairwiseDiff(3, usualMeans.data(), 6, usualSizes.data(), 1, 3, adjustment, 0.05),
+                PowerSC(3, usualMeans.data(), 6, usualSizes.data(), contrast.data(), 0, level), 1e-14);
+    EXPECT_NEAR(HalfCIPairwiseDiff(60, 3, usualSizes.data(), 1, 3, 6, adjustment, 0.05),
+                HalfCISCTest(60, 3, usualSizes.data(), contrast.data(), 6, level), 1e-12);
     DoubleVector sizes;
     DoubleVector wanted;
-    PowerReversePairwiseDiff(3, kMeans.data(), 6, kSizes.data(), 1, 3, 0.8, sizes, adjustment, 0.05);
-    PowerReverseSC(3, kMeans.data(), 6, kSizes.data(), contrast.data(), 0.8, wanted, 0, level);
+    PowerReversePairwiseDiff(3, usualMeans.data(), 6, usualSizes.data(), 1, 3, 0.8, sizes, adjustment, 0.05);
+    PowerReverseSC(3, usualMeans.data(), 6, usualSizes.data(), contrast.data(), 0.8, wanted, 0, level);
     EXPECT_EQ(sizes, wanted);
-    PowerReversebyHalfCIPairwiseDiff(2, 3, kSizes.data(), 1, 3, 6, sizes, adjustment, 0.05);
-    PowerReversebyHalfCISCTest(2, 3, kSizes.data(), contrast.data(), 6, wanted, level);
+    PowerReversebyHalfCIPairwiseDiff(2, 3, usualSizes.data(), 1, 3, 6, sizes, adjustment, 0.05);
+    PowerReversebyHalfCISCTest(2, 3, usualSizes.data(), contrast.data(), 6, wanted, level);
     EXPECT_EQ(sizes, wanted);
   }
-  EXPECT_DOUBLE_EQ(EffectSizePairwiseDiff(3, kMeans.data(), 4, nullptr, 1, 3), -1.25);
+  EXPECT_DOUBLE_EQ(EffectSizePairwiseDiff(3, usualMeans.data(), 4, nullptr, 1, 3), -1.25);
 }
 
 TEST(PairwiseDiff, RefusesAnUnknownAdjustment) {
   DoubleVector sizes;
-  EXPECT_TRUE(KelMV::IsMissing(PowerPairwiseDiff(3, kMeans.data(), 6, kSizes.data(), 1, 2, 3, 0.05)));
-  EXPECT_TRUE(KelMV::IsMissing(HalfCIPairwiseDiff(60, 3, kSizes.data(), 1, 2, 6, -1, 0.05)));
-  EXPECT_TRUE(
-      KelMV::IsMissing(PowerReversePairwiseDiff(3, kMeans.data(), 6, kSizes.data(), 1, 2, 0.8, sizes, 3, 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerPairwiseDiff(3, usualMeans.data(), 6, usualSizes.data(), 1, 2, 3, 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(HalfCIPairwiseDiff(60, 3, usualSizes.data(), 1, 2, 6, -1, 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(
+      PowerReversePairwiseDiff(3, usualMeans.data(), 6, usualSizes.data(), 1, 2, 0.8, sizes, 3, 0.05)));
   EXPECT_EQ(sizes, DoubleVector(3, KelMV::Missing()));
   sizes.clear();
-  EXPECT_TRUE(KelMV::IsMissing(PowerReversebyHalfCIPairwiseDiff(2, 3, kSizes.data(), 1, 2, 6, sizes, 3, 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerReversebyHalfCIPairwiseDiff(2, 3, usualSizes.data(), 1, 2, 6, sizes, 3, 0.05)));
   EXPECT_EQ(sizes, DoubleVector(3, KelMV::Missing()));
 }
 
 TEST(PairwiseDiff, TheFirstGroupMustComeFirstExceptForHalfWidths) {
-  EXPECT_TRUE(KelMV::IsMissing(PowerPairwiseDiff(3, kMeans.data(), 6, kSizes.data(), 2, 1, 2, 0.05)));
-  EXPECT_TRUE(KelMV::IsMissing(PowerPairwiseDiff(3, kMeans.data(), 6, kSizes.data(), 2, 2, 2, 0.05)));
-  EXPECT_TRUE(KelMV::IsMissing(PowerPairwiseDiff(3, kMeans.data(), 6, kSizes.data(), 0, 2, 2, 0.05)));
-  EXPECT_TRUE(KelMV::IsMissing(EffectSizePairwiseDiff(3, kMeans.data(), 6, nullptr, 3, 1)));
-  EXPECT_EQ(HalfCIPairwiseDiff(60, 3, kSizes.data(), 2, 1, 6, 2, 0.05),
-            HalfCIPairwiseDiff(60, 3, kSizes.data(), 1, 2, 6, 2, 0.05));
+  EXPECT_TRUE(KelMV::IsMissing(PowerPairwiseDiff(3, usualMeans.data(), 6, usualSizes.data(), 2, 1, 2, 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerPairwiseDiff(3, usualMeans.data(), 6, usualSizes.data(), 2, 2, 2, 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerPairwiseDiff(3, usualMeans.data(), 6, usualSizes.data(), 0, 2, 2, 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(EffectSizePairwiseDiff(3, usualMeans.data(), 6, nullptr, 3, 1)));
+  EXPECT_EQ(HalfCIPairwiseDiff(60, 3, usualSizes.data(), 2, 1, 6, 2, 0.05),
+            HalfCIPairwiseDiff(60, 3, usualSizes.data(), 1, 2, 6, 2, 0.05));
 }
 
 TEST(PairwiseDiff, GroupNumbersThatNameNoGroupTouchNoMemory) {
   const int huge = std::numeric_limits<int>::max();
   const int tiny = std::numeric_limits<int>::min();
   for (const int second : {4, huge}) {
-    EXPECT_GT(PowerPairwiseDiff(3, kMeans.data(), 6, kSizes.data(), 1, second, 2, 0.05), 0);
+    EXPECT_GT(PowerPairwiseDiff(3, usualMeans.data(), 6, usualSizes.data(), 1, second, 2, 0.05), 0);
   }
-  EXPECT_EQ(HalfCIPairwiseDiff(60, 3, kSizes.data(), tiny, huge, 6, 2, 0.05), 0);  // a contrast of zeros
+  EXPECT_EQ(HalfCIPairwiseDiff(60, 3, usualSizes.data(), tiny, huge, 6, 2, 0.05), 0);  // a contrast of zeros
   EXPECT_EQ(HalfCIPairwiseDiff(60, tiny, nullptr, 1, 2, 6, 2, 0.05),
             HalfCIPairwiseDiff(60, tiny, nullptr, 1, 2, 6, 2, 0.05));
 }

@@ -15,11 +15,11 @@ namespace {
 
 using KelCommon::KelMV;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
 
-const std::vector<double> kMeans = {10, 12, 15};
-const std::vector<double> kSizes = {20, 20, 20};
+const std::vector<double> usualMeans = {10, 12, 15};
+const std::vector<double> usualSizes = {20, 20, 20};
 
 double Power(const std::vector<double>& means, double sd, const std::vector<double>& sizes, double alpha = 0.05) {
   return PowerOverallTest(static_cast<int>(means.size()), means.data(), sd, sizes.data(), alpha);
@@ -49,29 +49,29 @@ TEST(PowerOverallTest, OfEqualMeansIsAlpha) {
 TEST(PowerOverallTest, GrowsWithSizeEffectAndAlphaAndFallsWithTheStandardDeviation) {
   double last = 0;
   for (double n = 2; n <= 200; n += 3) {
-    const double power = Power(kMeans, 6, {n, n, n});
+    const double power = Power(usualMeans, 6, {n, n, n});
     EXPECT_GT(power, last);
     last = power;
   }
   last = 0;
   for (double f = 0.05; f < 1; f += 0.05) {
-    EXPECT_GT(PowerOfF(f, kSizes), last);
-    last = PowerOfF(f, kSizes);
+    EXPECT_GT(PowerOfF(f, usualSizes), last);
+    last = PowerOfF(f, usualSizes);
   }
   last = 0;
   for (double alpha = 0.01; alpha < 1; alpha += 0.01) {
-    EXPECT_GT(Power(kMeans, 6, kSizes, alpha), last);
-    last = Power(kMeans, 6, kSizes, alpha);
+    EXPECT_GT(Power(usualMeans, 6, usualSizes, alpha), last);
+    last = Power(usualMeans, 6, usualSizes, alpha);
   }
   last = 1;
   for (double sd = 1; sd < 30; sd += 1) {
-    EXPECT_LE(Power(kMeans, sd, kSizes), last);
-    last = Power(kMeans, sd, kSizes);
+    EXPECT_LE(Power(usualMeans, sd, usualSizes), last);
+    last = Power(usualMeans, sd, usualSizes);
   }
 }
 
 TEST(PowerOverallTest, DoesNotDependOnTheUnitOfTheMeans) {
-  const double power = Power(kMeans, 6, {10, 20, 15});
+  const double power = Power(usualMeans, 6, {10, 20, 15});
   EXPECT_NEAR(Power({1010, 1012, 1015}, 6, {10, 20, 15}), power, 1e-14);
   EXPECT_NEAR(Power({10e200, 12e200, 15e200}, 6e200, {10, 20, 15}), power, 1e-14);
   EXPECT_NEAR(Power({10e-200, 12e-200, 15e-200}, 6e-200, {10, 20, 15}), power, 1e-14);
@@ -80,15 +80,15 @@ TEST(PowerOverallTest, DoesNotDependOnTheUnitOfTheMeans) {
 
 TEST(PowerOverallTest, AgreesWithTheEffectSizeThatTheMeansHave) {
   // With equal sizes f is the standard deviation of the means around their mean over that of the groups.
-  const double grandMean = std::accumulate(kMeans.begin(), kMeans.end(), 0.0) / 3;
+  const double grandMean = std::accumulate(usualMeans.begin(), usualMeans.end(), 0.0) / 3;
   double variance = 0;
-  for (const double mean : kMeans) variance += (mean - grandMean) * (mean - grandMean) / 3;
+  for (const double mean : usualMeans) variance += (mean - grandMean) * (mean - grandMean) / 3;
   const double f = std::sqrt(variance) / 6;
-  EXPECT_NEAR(Power(kMeans, 6, kSizes), PowerOfF(f, kSizes), 1e-13);
+  EXPECT_NEAR(Power(usualMeans, 6, usualSizes), PowerOfF(f, usualSizes), 1e-13);
   const double etaSquared = f * f / (1 + f * f);
-  EXPECT_NEAR(PowerOverallTestwES(3, etaSquared, 1, kSizes.data(), 0.05), PowerOfF(f, kSizes), 1e-13);
-  EXPECT_EQ(PowerOverallTestwES(3, etaSquared, -7, kSizes.data(), 0.05),
-            PowerOverallTestwES(3, etaSquared, 1, kSizes.data(), 0.05));
+  EXPECT_NEAR(PowerOverallTestwES(3, etaSquared, 1, usualSizes.data(), 0.05), PowerOfF(f, usualSizes), 1e-13);
+  EXPECT_EQ(PowerOverallTestwES(3, etaSquared, -7, usualSizes.data(), 0.05),
+            PowerOverallTestwES(3, etaSquared, 1, usualSizes.data(), 0.05));
 }
 
 TEST(PowerOverallTest, OfTwoGroupsIsThatOfTheTwoSidedTTest) {
@@ -100,50 +100,50 @@ TEST(PowerOverallTest, OfTwoGroupsIsThatOfTheTwoSidedTTest) {
 }
 
 TEST(PowerOverallTest, RejectsWhatItMust) {
-  EXPECT_TRUE(KelMV::IsMissing(PowerOverallTest(1, kMeans.data(), 6, kSizes.data(), 0.05)));
-  EXPECT_TRUE(KelMV::IsMissing(PowerOverallTest(-3, kMeans.data(), 6, kSizes.data(), 0.05)));
-  for (const double sd : {0.0, -1.0, -kInfinity}) EXPECT_TRUE(KelMV::IsMissing(Power(kMeans, sd, kSizes)));
-  for (const double alpha : {0.0, 1.0, -0.05, 1.5, kInfinity}) {
-    EXPECT_TRUE(KelMV::IsMissing(Power(kMeans, 6, kSizes, alpha)));
-    EXPECT_TRUE(KelMV::IsMissing(PowerOfF(0.3, kSizes, alpha)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerOverallTest(1, usualMeans.data(), 6, usualSizes.data(), 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerOverallTest(-3, usualMeans.data(), 6, usualSizes.data(), 0.05)));
+  for (const double sd : {0.0, -1.0, -infinite}) EXPECT_TRUE(KelMV::IsMissing(Power(usualMeans, sd, usualSizes)));
+  for (const double alpha : {0.0, 1.0, -0.05, 1.5, infinite}) {
+    EXPECT_TRUE(KelMV::IsMissing(Power(usualMeans, 6, usualSizes, alpha)));
+    EXPECT_TRUE(KelMV::IsMissing(PowerOfF(0.3, usualSizes, alpha)));
   }
-  EXPECT_TRUE(KelMV::IsMissing(Power(kMeans, 6, {1, 1, 0.5})));  // fewer subjects than groups
+  EXPECT_TRUE(KelMV::IsMissing(Power(usualMeans, 6, {1, 1, 0.5})));  // fewer subjects than groups
 }
 
 TEST(PowerOverallTest, ANaNPassesTheChecks) {
-  EXPECT_TRUE(std::isnan(Power(kMeans, kNaN, kSizes)));
-  EXPECT_TRUE(std::isnan(Power(kMeans, 6, kSizes, kNaN)));
-  EXPECT_TRUE(std::isnan(Power({10, kNaN, 15}, 6, kSizes)));
-  EXPECT_TRUE(std::isnan(PowerOfF(kNaN, kSizes)));
+  EXPECT_TRUE(std::isnan(Power(usualMeans, quietNaN, usualSizes)));
+  EXPECT_TRUE(std::isnan(Power(usualMeans, 6, usualSizes, quietNaN)));
+  EXPECT_TRUE(std::isnan(Power({10, quietNaN, 15}, 6, usualSizes)));
+  EXPECT_TRUE(std::isnan(PowerOfF(quietNaN, usualSizes)));
 }
 
 TEST(PowerOverallTest, WithoutErrorDegreesOfFreedomIsOne) {
-  EXPECT_EQ(Power(kMeans, 6, {1, 1, 1}), 1);  // the noncentral probability is missing and counts as 0
+  EXPECT_EQ(Power(usualMeans, 6, {1, 1, 1}), 1);  // the noncentral probability is missing and counts as 0
   EXPECT_EQ(PowerOfF(0.3, {1, 1, 1}), 1);
 }
 
 TEST(PowerOverallTestwES, OfAProportionOfVarianceOfOneIsOne) {
-  EXPECT_EQ(PowerOverallTestwES(3, 1, 1, kSizes.data(), 0.05), 1);
+  EXPECT_EQ(PowerOverallTestwES(3, 1, 1, usualSizes.data(), 0.05), 1);
 }
 
 TEST(RMSSEOverallTest, IsUnweightedAroundTheWeightedMean) {
-  EXPECT_NEAR(RMSSEOverallTest(3, kMeans.data(), 6, kSizes.data(), 0.05),
+  EXPECT_NEAR(RMSSEOverallTest(3, usualMeans.data(), 6, usualSizes.data(), 0.05),
               std::sqrt((std::pow(10 - 37.0 / 3, 2) + std::pow(12 - 37.0 / 3, 2) + std::pow(15 - 37.0 / 3, 2)) / 2) / 6,
               1e-15);
   const std::vector<double> unequal = {30, 20, 10};
   const double weightedMean = (300 + 240 + 150) / 60.0;
   EXPECT_NEAR(
-      RMSSEOverallTest(3, kMeans.data(), 6, unequal.data(), 0.05),
+      RMSSEOverallTest(3, usualMeans.data(), 6, unequal.data(), 0.05),
       std::sqrt((std::pow(10 - weightedMean, 2) + std::pow(12 - weightedMean, 2) + std::pow(15 - weightedMean, 2)) /
                 2) /
           6,
       1e-15);
   for (const double alpha : {0.0, 1.0}) {
-    EXPECT_TRUE(KelMV::IsMissing(RMSSEOverallTest(3, kMeans.data(), 6, kSizes.data(), alpha)));
+    EXPECT_TRUE(KelMV::IsMissing(RMSSEOverallTest(3, usualMeans.data(), 6, usualSizes.data(), alpha)));
   }
-  EXPECT_TRUE(KelMV::IsMissing(RMSSEOverallTest(1, kMeans.data(), 6, kSizes.data(), 0.05)));
-  EXPECT_TRUE(KelMV::IsMissing(RMSSEOverallTest(3, kMeans.data(), 0, kSizes.data(), 0.05)));
-  EXPECT_EQ(RMSSEOverallTest(2, std::vector<double>{4, 4}.data(), 6, kSizes.data(), 0.05), 0);
+  EXPECT_TRUE(KelMV::IsMissing(RMSSEOverallTest(1, usualMeans.data(), 6, usualSizes.data(), 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(RMSSEOverallTest(3, usualMeans.data(), 0, usualSizes.data(), 0.05)));
+  EXPECT_EQ(RMSSEOverallTest(2, std::vector<double>{4, 4}.data(), 6, usualSizes.data(), 0.05), 0);
 }
 
 TEST(SampleSizeTotal, SumsWhatItIsTold) {
@@ -158,13 +158,13 @@ TEST(PowerReverseOverallTest, ReachesThePowerAndOneTotalLessDoesNot) {
   for (const double power : {0.5, 0.8, 0.95}) {
     for (const double sd : {3.0, 6.0, 20.0}) {
       DoubleVector sizes;
-      const double total = PowerReverseOverallTest(3, kMeans.data(), sd, kSizes.data(), power, sizes, 0.05);
+      const double total = PowerReverseOverallTest(3, usualMeans.data(), sd, usualSizes.data(), power, sizes, 0.05);
       ASSERT_EQ(sizes.size(), 3U);
       EXPECT_EQ(total, SampleSizeTotal(3, sizes.data()));
-      EXPECT_GE(Power(kMeans, sd, sizes), power);
+      EXPECT_GE(Power(usualMeans, sd, sizes), power);
       const double perGroup = sizes[0] - 1;
       if (perGroup >= 2) {
-        EXPECT_LT(Power(kMeans, sd, {perGroup, perGroup, perGroup}), power);
+        EXPECT_LT(Power(usualMeans, sd, {perGroup, perGroup, perGroup}), power);
       }
     }
   }
@@ -176,8 +176,8 @@ TEST(PowerReverseOverallTest, RoundsUpATotalThatIsFoundToSixDecimals) {
   for (int n = 5; n <= 40; ++n) {
     for (const double excess : {-1e-4, 1e-4}) {
       DoubleVector sizes;
-      const double power = Power(kMeans, 6, std::vector<double>(3, n + excess));
-      PowerReverseOverallTest(3, kMeans.data(), 6, ratios.data(), power, sizes, 0.05);
+      const double power = Power(usualMeans, 6, std::vector<double>(3, n + excess));
+      PowerReverseOverallTest(3, usualMeans.data(), 6, ratios.data(), power, sizes, 0.05);
       EXPECT_EQ(sizes, DoubleVector(3, excess > 0 ? n + 1 : n)) << n;
     }
   }
@@ -194,7 +194,7 @@ TEST(PowerReverseOverallTest, MatchesAPublishedSize) {
 TEST(PowerReverseOverallTest, SpreadsTheTotalByTheRatiosWithAtLeastTwoEach) {
   DoubleVector sizes = {1, 2, 3, 4, 5};
   const std::vector<double> ratios = {1, 50, 100};
-  const double total = PowerReverseOverallTest(3, kMeans.data(), 6, ratios.data(), 0.8, sizes, 0.05);
+  const double total = PowerReverseOverallTest(3, usualMeans.data(), 6, ratios.data(), 0.8, sizes, 0.05);
   ASSERT_EQ(sizes.size(), 3U);
   EXPECT_EQ(sizes[0], 2);
   EXPECT_EQ(total, sizes[0] + sizes[1] + sizes[2]);
@@ -203,31 +203,31 @@ TEST(PowerReverseOverallTest, SpreadsTheTotalByTheRatiosWithAtLeastTwoEach) {
 
 TEST(PowerReverseOverallTest, ATargetAtOrBelowAlphaIsReachedByTwoEach) {
   DoubleVector sizes;
-  EXPECT_EQ(PowerReverseOverallTest(3, kMeans.data(), 6, kSizes.data(), 0.05, sizes, 0.05), 6);
+  EXPECT_EQ(PowerReverseOverallTest(3, usualMeans.data(), 6, usualSizes.data(), 0.05, sizes, 0.05), 6);
   EXPECT_EQ(sizes, (DoubleVector{2, 2, 2}));
 }
 
 TEST(PowerReverseOverallTest, AnUnreachablePowerGivesTwoEach) {
   DoubleVector sizes;
-  EXPECT_EQ(PowerReverseOverallTest(3, std::vector<double>{5, 5, 5}.data(), 6, kSizes.data(), 0.8, sizes, 0.05), 6);
-  EXPECT_EQ(PowerReverseOverallTestwES(3, 0, 0, kSizes.data(), 0.8, sizes, 0.05), 6);
-  EXPECT_EQ(PowerReverseOverallTestwES(3, 0.3, 0, kSizes.data(), 1.5, sizes, 0.05), 6);
+  EXPECT_EQ(PowerReverseOverallTest(3, std::vector<double>{5, 5, 5}.data(), 6, usualSizes.data(), 0.8, sizes, 0.05), 6);
+  EXPECT_EQ(PowerReverseOverallTestwES(3, 0, 0, usualSizes.data(), 0.8, sizes, 0.05), 6);
+  EXPECT_EQ(PowerReverseOverallTestwES(3, 0.3, 0, usualSizes.data(), 1.5, sizes, 0.05), 6);
 }
 
 TEST(PowerReverseOverallTest, LeavesTheOutputAloneOnInvalidInput) {
   DoubleVector sizes = {42};
-  EXPECT_TRUE(KelMV::IsMissing(PowerReverseOverallTest(1, kMeans.data(), 6, kSizes.data(), 0.8, sizes, 0.05)));
-  EXPECT_TRUE(KelMV::IsMissing(PowerReverseOverallTest(3, kMeans.data(), 0, kSizes.data(), 0.8, sizes, 0.05)));
-  EXPECT_TRUE(KelMV::IsMissing(PowerReverseOverallTest(3, kMeans.data(), 6, kSizes.data(), 0.8, sizes, 1)));
-  EXPECT_TRUE(KelMV::IsMissing(PowerReverseOverallTestwES(1, 0.3, 0, kSizes.data(), 0.8, sizes, 0.05)));
-  EXPECT_TRUE(KelMV::IsMissing(PowerReversebyHalfCIOverallTest(1, 3, kSizes.data(), -6, sizes, 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerReverseOverallTest(1, usualMeans.data(), 6, usualSizes.data(), 0.8, sizes, 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerReverseOverallTest(3, usualMeans.data(), 0, usualSizes.data(), 0.8, sizes, 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerReverseOverallTest(3, usualMeans.data(), 6, usualSizes.data(), 0.8, sizes, 1)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerReverseOverallTestwES(1, 0.3, 0, usualSizes.data(), 0.8, sizes, 0.05)));
+  EXPECT_TRUE(KelMV::IsMissing(PowerReversebyHalfCIOverallTest(1, 3, usualSizes.data(), -6, sizes, 0.05)));
   EXPECT_EQ(sizes, DoubleVector{42});
 }
 
 TEST(HalfCIOverallTest, IsInvertedByTheSizeForIt) {
   for (const double halfWidth : {0.5, 1.0, 3.0}) {
     DoubleVector sizes;
-    const double total = PowerReversebyHalfCIOverallTest(halfWidth, 3, kSizes.data(), 6, sizes, 0.05);
+    const double total = PowerReversebyHalfCIOverallTest(halfWidth, 3, usualSizes.data(), 6, sizes, 0.05);
     EXPECT_LE(HalfCIOverallTest(total, 3, 6, 0.05), halfWidth);
     EXPECT_GT(HalfCIOverallTest(total - 3, 3, 6, 0.05), halfWidth);
   }
@@ -244,7 +244,7 @@ TEST(HalfCIOverallTest, WithoutDegreesOfFreedomComesBackAllTheSame) {
 
 TEST(RMSSEOverallTest, OfEqualMeansKeepsTheStandardDeviation) {
   const std::vector<double> equal = {5, 5};
-  EXPECT_TRUE(std::isnan(RMSSEOverallTest(2, equal.data(), std::nan(""), kSizes.data(), 0.05)));
+  EXPECT_TRUE(std::isnan(RMSSEOverallTest(2, equal.data(), std::nan(""), usualSizes.data(), 0.05)));
 }
 
 // Only the group without subjects lies apart, so the means do not differ, however small the standard deviation.

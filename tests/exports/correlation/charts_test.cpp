@@ -9,7 +9,7 @@
 namespace kelpower {
 namespace {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
 
 TEST(SizeCurve, OfPearsonMayStartAtZero) {
   const CurveRecord curve(PlotNOneSampPearson(20, 0.3, 0, 0, 0, 0.05, 0, 10));
@@ -114,7 +114,7 @@ TEST(PlotNPartialoutOneSampPartial, EndsAtFiveBelowTheSize) {
 }
 
 TEST(CorrelationCharts, RejectInvalidInput) {
-  for (const double step : {0.51, 0.0, -0.1, -10.0, kNaN, 1e-12}) {
+  for (const double step : {0.51, 0.0, -0.1, -10.0, quietNaN, 1e-12}) {
     EXPECT_TRUE(IsEmpty(PlotNullOneSampPearson(20, 0.3, 0, 0, 0.05, step))) << step;
     EXPECT_TRUE(IsEmpty(PlotRiskDiffOneSampPartial(20, 1, 0.3, 0, 0.05, step))) << step;
     EXPECT_TRUE(IsEmpty(PlotNullAlterOneSampSpearman(20, 0, 0, 0.05, step))) << step;

@@ -16,9 +16,9 @@ using keltest::CountingStop;
 using KelCommon::KelMV;
 using KelMath::KelDistFun;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr std::uint8_t kFlags[] = {0, 1};
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr std::uint8_t bothFlags[] = {0, 1};
 
 TEST(PowerbyOneSampPearson, MatchesPublishedTables) {
   // Cohen (1988), Tables 3.3.5 and 3.3.2: two-sided 0.05, r 0.30, n 84: 0.80; one-sided 0.05, r 0.30, n 68: 0.80.
@@ -44,7 +44,7 @@ TEST(PowerbyOneSampPearson, OfEqualCorrelationsIsAlpha) {
 
 TEST(PowerbyOneSampPearson, IsSymmetricInTheSigns) {
   for (const int oneSided : {0, 1}) {
-    for (const std::uint8_t adjustBias : kFlags) {
+    for (const std::uint8_t adjustBias : bothFlags) {
       EXPECT_NEAR(PowerbyOneSampPearson(30, 0.5, 0.1, oneSided, adjustBias, 0.05),
                   PowerbyOneSampPearson(30, -0.5, -0.1, oneSided, adjustBias, 0.05), 1e-15);
     }
@@ -52,7 +52,7 @@ TEST(PowerbyOneSampPearson, IsSymmetricInTheSigns) {
 }
 
 TEST(PowerbyOneSampPearson, GrowsWithSizeEffectAndAlpha) {
-  for (const std::uint8_t adjustBias : kFlags) {
+  for (const std::uint8_t adjustBias : bothFlags) {
     double last = 0;
     for (double n = 4; n < 100; n += 1.5) {
       EXPECT_GT(PowerbyOneSampPearson(n, 0.4, 0.1, 0, adjustBias, 0.05), last);
@@ -84,9 +84,9 @@ TEST(PowerbyOneSampPearson, AnswersAtTheEndsOfItsArguments) {
   EXPECT_EQ(PowerbyOneSampPearson(30, -1, 0.5, 0, 1, 0.05), 1);
   EXPECT_EQ(PowerbyOneSampPearson(1e308, 0.1, 0, 0, 1, 0.05), 1);
   EXPECT_NEAR(PowerbyOneSampPearson(1e307, 0.2, 0.2, 0, 1, 0.05), 0.05, 1e-14);
-  EXPECT_TRUE(std::isnan(PowerbyOneSampPearson(kNaN, 0.3, 0, 0, 0, 0.05)));
-  EXPECT_TRUE(std::isnan(PowerbyOneSampPearson(30, kNaN, 0, 0, 0, 0.05)));
-  EXPECT_TRUE(std::isnan(PowerbyOneSampPearson(30, 0.3, 0, 0, 0, kNaN)));
+  EXPECT_TRUE(std::isnan(PowerbyOneSampPearson(quietNaN, 0.3, 0, 0, 0, 0.05)));
+  EXPECT_TRUE(std::isnan(PowerbyOneSampPearson(30, quietNaN, 0, 0, 0, 0.05)));
+  EXPECT_TRUE(std::isnan(PowerbyOneSampPearson(30, 0.3, 0, 0, 0, quietNaN)));
 }
 
 // The power functions correct for 1 alone, the searches for every byte but 0.
@@ -103,7 +103,7 @@ TEST(AdjustBias, IsReadDifferentlyByPowersAndSearches) {
 
 TEST(PowerReversebyOneSampPearson, GivesTheSizeThatReachesTheTarget) {
   for (const int oneSided : {0, 1}) {
-    for (const std::uint8_t adjustBias : kFlags) {
+    for (const std::uint8_t adjustBias : bothFlags) {
       for (const double target : {0.2, 0.8, 0.99}) {
         const double n = PowerReversebyOneSampPearson(target, 0.25, 0.1, oneSided, adjustBias, 0.05, nullptr);
         EXPECT_NE(n, std::floor(n));

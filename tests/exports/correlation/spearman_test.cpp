@@ -12,10 +12,10 @@ namespace {
 using KelCommon::KelMV;
 using KelMath::KelDistFun;
 
-constexpr double kCritical = 1.959963984540054;
+constexpr double critical = 1.959963984540054;
 
 double TwoSided(double shift) {
-  return KelDistFun::CdfStdNorm(shift - kCritical) + KelDistFun::CdfStdNorm(-shift - kCritical);
+  return KelDistFun::CdfStdNorm(shift - critical) + KelDistFun::CdfStdNorm(-shift - critical);
 }
 
 TEST(PowerbyOneSampSpearman, HasThreeVariances) {

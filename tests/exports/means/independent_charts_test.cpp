@@ -18,7 +18,7 @@ using exports::SidesOf;
 using KelCommon::KelMV;
 using means::Sides;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double infinite = std::numeric_limits<double>::infinity();
 
 double PowerByTotal(Sides sides, double totalSize, double ratio, double difference, double sd1, double sd2) {
   return exports::PowerOrMissing(exports::WelchTestByTotal(sides, totalSize, ratio, sd1, sd2, 0.05), difference);
@@ -41,7 +41,7 @@ TEST(PlotRatioIndependent, ChartsAnAutomaticRangeSymmetricAroundOne) {
     EXPECT_EQ(x.back(), 40);
   }
   EXPECT_TRUE(IsEmpty(PlotRatioIndependentFES(2, 0.5, 0, 0, 0, 0.05, 0.1)));
-  EXPECT_TRUE(IsEmpty(PlotRatioIndependentFES(kInfinity, 0.5, 0, 0, 0, 0.05, 0.1)));
+  EXPECT_TRUE(IsEmpty(PlotRatioIndependentFES(infinite, 0.5, 0, 0, 0, 0.05, 0.1)));
 }
 
 TEST(PlotRatioIndependent, HoldsThePowerAtEveryRatio) {
@@ -70,7 +70,7 @@ TEST(PlotRatioIndependent, RepeatsTheLeftNeighbourOfABadPoint) {
   const double least = std::nextafter(1.0 / 6, 1);
   const CurveRecord bad(PlotRatioIndependentFES(7, 0.5, least, least, 0, 0.05, 0.5));
   ASSERT_EQ(bad.count, 3);
-  for (int i = 0; i < 3; ++i) EXPECT_EQ(bad.y[i], -kInfinity);
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(bad.y[i], -infinite);
 
   // The greatest leaves the first group no more than 1.
   const double greatest = std::nextafter(8.0, 0);
@@ -162,11 +162,11 @@ TEST(PlotRatioaESIndependent, ReplacesValuesOutsideTheUnitInterval) {
   const SurfaceRecord plot(PlotRatioaESIndependent(20, 0.01, 30, 0, 1, 0, 0.05, 0.5));
   ASSERT_EQ(plot.xCount, 3);
   ASSERT_EQ(plot.yCount, 3);
-  EXPECT_EQ(plot.z[0], -kInfinity);  // the first column keeps its value
+  EXPECT_EQ(plot.z[0], -infinite);  // the first column keeps its value
   EXPECT_EQ(plot.z[1], plot.y[0]);
   EXPECT_EQ(plot.z[2], plot.y[1]);
   for (int j = 3; j < 6; ++j) EXPECT_TRUE(plot.z[j] > 0 && plot.z[j] < 1);
-  EXPECT_EQ(plot.z[6], -kInfinity);
+  EXPECT_EQ(plot.z[6], -infinite);
   EXPECT_TRUE(KelMV::IsMissing(plot.z[7]));
   EXPECT_TRUE(KelMV::IsMissing(plot.z[8]));
 }

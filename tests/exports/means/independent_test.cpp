@@ -13,7 +13,7 @@ namespace {
 using KelCommon::KelMV;
 using KelMath::KelDistFun;
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
 
 /// The sizes of a search in a vector that was empty.
 template <typename Search>
@@ -141,10 +141,10 @@ TEST(Independent, RejectsInvalidDesigns) {
 }
 
 TEST(Independent, NotANumberGoesThroughToThePower) {
-  EXPECT_TRUE(std::isnan(PowerIndependentNondirectional(20, 0, 10, 20, 5, kNaN, 0.05)));
-  EXPECT_TRUE(std::isnan(PowerIndependentDirectional(20, kNaN, 10, 20, 5, 10, 0.05)));
-  EXPECT_TRUE(std::isnan(PowerIndependentNondirectionalES(20, kNaN, 0.5, 0.05)));
-  EXPECT_TRUE(std::isnan(PowerIndependentDirectionalES(kNaN, 20, 0.5, 0.05)));
+  EXPECT_TRUE(std::isnan(PowerIndependentNondirectional(20, 0, 10, 20, 5, quietNaN, 0.05)));
+  EXPECT_TRUE(std::isnan(PowerIndependentDirectional(20, quietNaN, 10, 20, 5, 10, 0.05)));
+  EXPECT_TRUE(std::isnan(PowerIndependentNondirectionalES(20, quietNaN, 0.5, 0.05)));
+  EXPECT_TRUE(std::isnan(PowerIndependentDirectionalES(quietNaN, 20, 0.5, 0.05)));
 }
 
 TEST(IndependentSizes, ReachThePowerAndOneLessDoesNot) {

@@ -13,11 +13,11 @@ namespace {
 using KelCommon::KelMV;
 using KelMath::KelDistFun;
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
 
-const std::vector<double> kSizes = {1.1, 1.5, 2, 3, 8, 20.5, 60, 400, 1e4, 1e9, 1e15, 1e154, 1e307};
-const std::vector<double> kEffects = {0.01, 0.2, 0.5, 0.8, 1.5};
-const std::vector<double> kLevels = {0.001, 0.01, 0.05, 0.1, 0.5};
+const std::vector<double> usualSizes = {1.1, 1.5, 2, 3, 8, 20.5, 60, 400, 1e4, 1e9, 1e15, 1e154, 1e307};
+const std::vector<double> effects = {0.01, 0.2, 0.5, 0.8, 1.5};
+const std::vector<double> levels = {0.001, 0.01, 0.05, 0.1, 0.5};
 
 TEST(OneSample, GivesPublishedPowers) {
   // Cohen 1988, section 2.5: d = 0.2, n = 60, two-sided at 0.10.
@@ -31,8 +31,8 @@ TEST(OneSample, EffectSizeRejectsOnlyAStandardDeviationOfZero) {
 }
 
 TEST(OneSample, WithoutEffectThePowerIsTheLevel) {
-  for (double n : kSizes) {
-    for (double alpha : kLevels) {
+  for (double n : usualSizes) {
+    for (double alpha : levels) {
       EXPECT_NEAR(PowerOneSampleNondirectionalES(n, 0, alpha), alpha, 1e-13) << n;
       EXPECT_NEAR(PowerOneSampleDirectionalES(n, 0, alpha), alpha, 1e-13) << n;
     }
@@ -41,7 +41,7 @@ TEST(OneSample, WithoutEffectThePowerIsTheLevel) {
 
 TEST(OneSample, IsSymmetricInTheSignOfTheEffect) {
   for (double n : {1.5, 3.0, 20.5, 60.0, 1e4}) {
-    for (double d : kEffects) {
+    for (double d : effects) {
       EXPECT_NEAR(PowerOneSampleNondirectionalES(n, -d, 0.05), PowerOneSampleNondirectionalES(n, d, 0.05), 1e-13);
       EXPECT_EQ(PowerOneSampleDirectionalES(n, -d, 0.05), PowerOneSampleDirectionalES(n, d, 0.05));
     }
@@ -63,7 +63,7 @@ TEST(OneSample, PowerGrowsWithSizeEffectAndLevel) {
 TEST(OneSample, TheTwoTailsAreThoseOfTwoOneSidedTests) {
   // At the halved level the one-sided power is the upper tail; the lower tail of d is at most half the level.
   for (double n : {2.0, 8.0, 60.0}) {
-    for (double d : kEffects) {
+    for (double d : effects) {
       const double upper = PowerOneSampleDirectionalES(n, d, 0.025);
       const double both = PowerOneSampleNondirectionalES(n, d, 0.05);
       EXPECT_GT(both, upper * (1 - 1e-14));
@@ -137,10 +137,10 @@ TEST(OneSample, RejectsStandardDeviationsInTheRawForms) {
 }
 
 TEST(OneSample, NotANumberGoesThroughToThePower) {
-  EXPECT_TRUE(std::isnan(PowerOneSampleNondirectionalES(kNaN, 0.5, 0.05)));
-  EXPECT_TRUE(std::isnan(PowerOneSampleNondirectional(20, 12, kNaN, 10, 0.05)));
-  EXPECT_TRUE(std::isnan(PowerOneSampleDirectionalES(20, kNaN, 0.05)));
-  EXPECT_TRUE(std::isnan(PowerOneSampleDirectional(20, 12, 4, 10, kNaN)));
+  EXPECT_TRUE(std::isnan(PowerOneSampleNondirectionalES(quietNaN, 0.5, 0.05)));
+  EXPECT_TRUE(std::isnan(PowerOneSampleNondirectional(20, 12, quietNaN, 10, 0.05)));
+  EXPECT_TRUE(std::isnan(PowerOneSampleDirectionalES(20, quietNaN, 0.05)));
+  EXPECT_TRUE(std::isnan(PowerOneSampleDirectional(20, 12, 4, 10, quietNaN)));
 }
 
 TEST(OneSampleSize, IsTheUnroundedSizeThatReachesThePower) {

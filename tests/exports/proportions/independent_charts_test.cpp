@@ -16,8 +16,8 @@ struct Choice {
   int oneSided;
 };
 
-const std::vector<Choice> kChoices = {{0, 0, 0}, {0, 1, 1}, {0, 2, 0}, {0, 3, 1}, {1, 0, 0},
-                                      {1, 0, 1}, {1, 1, 0}, {1, 2, 1}, {1, 3, 0}, {1, 3, 1}};
+const std::vector<Choice> choices = {{0, 0, 0}, {0, 1, 1}, {0, 2, 0}, {0, 3, 1}, {1, 0, 0},
+                                     {1, 0, 1}, {1, 1, 0}, {1, 2, 1}, {1, 3, 0}, {1, 3, 1}};
 
 double PowerOf(const Choice& choice, double n1, double n2, double p1, double p2) {
   return Single(PowerIndSampBinom(n1, n2, p1, p2, choice.exact, choice.method, choice.oneSided, 0.05, 0, 1, nullptr));
@@ -29,7 +29,7 @@ XYZPlot SizeSurface(const Choice& choice, int min1, int max1, int min2, int max2
 }
 
 TEST(IndependentSizeSurface, HoldsTheScalarPowers) {
-  for (const Choice& choice : kChoices) {
+  for (const Choice& choice : choices) {
     const SurfaceRecord surface(SizeSurface(choice, 5, 12, 7, 10));
     ASSERT_EQ(surface.xCount, 8);
     ASSERT_EQ(surface.yCount, 4);
@@ -79,7 +79,7 @@ TEST(IndependentSizeSurface, RejectsRangesThatStartAtOneOrDescend) {
 }
 
 TEST(IndependentProportionSurface, HoldsTheScalarPowers) {
-  for (const Choice& choice : kChoices) {
+  for (const Choice& choice : choices) {
     const SurfaceRecord surface(
         PlotPropIndSampBinom(15, 22.5, 0.3, 0.5, choice.exact, choice.method, choice.oneSided, 0.05, 0, 1, 0.1));
     ASSERT_EQ(surface.xCount, 9);
@@ -105,7 +105,7 @@ TEST(IndependentProportionSurface, CountsWholeStepsBelowOne) {
 }
 
 TEST(IndependentRatioCurve, SplitsTheTotal) {
-  for (const Choice& choice : kChoices) {
+  for (const Choice& choice : choices) {
     const CurveRecord given(
         PlotNRatioIndSampBinom(41, 0.3, 0.5, choice.exact, choice.method, choice.oneSided, 0.05, 0, 1, 0.5, 2, 0.3));
     ASSERT_EQ(given.count, 5);
@@ -128,7 +128,7 @@ TEST(IndependentRatioCurve, OfTwoSubjectsHasOneRatio) {
 }
 
 TEST(IndependentEffectCurves, HoldTheScalarPowers) {
-  for (const Choice& choice : kChoices) {
+  for (const Choice& choice : choices) {
     const CurveRecord difference(
         PlotRiskDiffIndSampBinom(18, 25, 0.4, choice.exact, choice.method, choice.oneSided, 0.05, 0, 1, 0.1));
     ASSERT_EQ(difference.count, 9);

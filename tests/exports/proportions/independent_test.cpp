@@ -28,15 +28,15 @@ using keltest::CountingStop;
 using KelCommon::KelMV;
 using KelMath::KelDistFun;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr int kLargeSample = 0;
-constexpr int kExact = 1;
-constexpr int kZ = 0;
-constexpr int kT = 1;
-constexpr int kLikelihoodRatio = 2;
-constexpr int kArcsine = 3;
-constexpr int kConditional = 3;
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr int byLargeSample = 0;
+constexpr int byTables = 1;
+constexpr int zMethod = 0;
+constexpr int tMethod = 1;
+constexpr int likelihoodRatioMethod = 2;
+constexpr int arcsineMethod = 3;
+constexpr int conditionalMethod = 3;
 
 struct Options {
   bool oneSided = false;
@@ -59,19 +59,19 @@ std::vector<double> Sizes(double power, double p1, double p2, int exact, int met
   return sizes;
 }
 
-const std::vector<double> kBothMissing = {KelMV::Missing(), KelMV::Missing()};
+const std::vector<double> bothMissing = {KelMV::Missing(), KelMV::Missing()};
 
 // Published values ----------------------------------------------------------------------------------------------------
 
 TEST(IndependentZTest, MatchesPublishedValues) {
   Options pooled;
   pooled.pooled = true;
-  EXPECT_NEAR(Power(50, 50, 0.5, 0.75, kLargeSample, kZ, pooled), 0.7401672, 5e-8);
+  EXPECT_NEAR(Power(50, 50, 0.5, 0.75, byLargeSample, zMethod, pooled), 0.7401672, 5e-8);
 
   Options oneSided = pooled;
   oneSided.oneSided = true;
-  EXPECT_EQ(Sizes(0.8, 0.022, 0.001, kLargeSample, kZ, oneSided), (std::vector<double>{318, 318}));
-  EXPECT_NEAR(Power(317.6901, 317.6901, 0.022, 0.001, kLargeSample, kZ, oneSided), 0.8, 5e-8);
+  EXPECT_EQ(Sizes(0.8, 0.022, 0.001, byLargeSample, zMethod, oneSided), (std::vector<double>{318, 318}));
+  EXPECT_NEAR(Power(317.6901, 317.6901, 0.022, 0.001, byLargeSample, zMethod, oneSided), 0.8, 5e-8);
 }
 
 // Newcombe (1998), table II, example (a): 56/70 and 48/80 have the interval 0.0524 to 0.3339 by method 10.
@@ -86,9 +86,9 @@ TEST(IndependentConditionalTest, RejectsATailThatEqualsTheLevel) {
   oneSided.oneSided = true;
   const double p1 = 0.9;
   const double p2 = 0.2;
-  EXPECT_NEAR(Power(3, 3, p1, p2, kExact, kConditional, oneSided), std::pow(p1 * (1 - p2), 3), 1e-15);
+  EXPECT_NEAR(Power(3, 3, p1, p2, byTables, conditionalMethod, oneSided), std::pow(p1 * (1 - p2), 3), 1e-15);
   oneSided.alpha = std::nextafter(0.05, 0);
-  EXPECT_EQ(Power(3, 3, p1, p2, kExact, kConditional, oneSided), 0);
+  EXPECT_EQ(Power(3, 3, p1, p2, byTables, conditionalMethod, oneSided), 0);
 }
 
 // Exact powers against their definitions ------------------------------------------------------------------------------
@@ -106,8 +106,8 @@ protected:
   }
 
   double Level() {
-    constexpr double kUsual[] = {0.01, 0.025, 0.05, 0.1, 0.2, 0.5, 0.9};
-    return Choice(4) == 0 ? Uniform(0.0001, 0.9999) : kUsual[Choice(7)];
+    constexpr double usualLevels[] = {0.01, 0.025, 0.05, 0.1, 0.2, 0.5, 0.9};
+    return Choice(4) == 0 ? Uniform(0.0001, 0.9999) : usualLevels[Choice(7)];
   }
 
   IndependentDesign AnyTest(int method) {
@@ -148,7 +148,7 @@ TEST_F(IndependentExact, EnumeratedPowersAreTheSumsOverAllTables) {
 // Where all are successes the proportions are moved off 1 and differ by more than where all but one are: at levels of
 // which this is all, the row has two rejected ends.
 TEST_F(IndependentExact, TheTableOfSuccessesOnlyCanRejectBeyondAcceptedOnes) {
-  for (const int method : {kZ, kT}) {
+  for (const int method : {zMethod, tMethod}) {
     const IndependentDesign test = IndependentDesignOf(1, method, 0, 0.88, 0, 0);
     for (const auto& [n1, n2] : {std::pair(1.0, 100.0), std::pair(100.0, 1.0)}) {
       EXPECT_NEAR(PowerIndSampBinom(n1, n2, 0.97, 0.99, 1, method, 0, 0.88, 0, 0, nullptr),
@@ -172,7 +172,7 @@ TEST_F(IndependentExact, ConditionalPowersAreTheSumsOverAllTotals) {
   for (int i = 0; i < 2500; ++i) {
     const double n1 = Size(14);
     const double n2 = Size(14);
-    Compare(AnyTest(kConditional), n1, n2);
+    Compare(AnyTest(conditionalMethod), n1, n2);
   }
 }
 
@@ -190,9 +190,9 @@ TEST_F(IndependentExact, RejectingEverythingHasPowerOne) {
   all.oneSided = true;
   all.alpha = 1 - 1e-12;
   for (const double n : {5.0, 60.0, 700.0, 5000.0}) {
-    EXPECT_NEAR(Power(n, n, 0.3, 0.6, kExact, kZ, all), 1, 1e-11) << n;
+    EXPECT_NEAR(Power(n, n, 0.3, 0.6, byTables, zMethod, all), 1, 1e-11) << n;
     if (n < 60) continue;
-    EXPECT_NEAR(Power(n, n, 0.3, 0.6, kExact, kT, all), 1, 1e-11) << n;
+    EXPECT_NEAR(Power(n, n, 0.3, 0.6, byTables, tMethod, all), 1, 1e-11) << n;
   }
 }
 
@@ -205,10 +205,10 @@ TEST_F(IndependentExact, MirroredDesignsHaveTheSamePower) {
     Options options;
     options.oneSided = Choice(2) == 1;
     options.alpha = 0.0437;  // no table ties with it
-    for (const int method : {kZ, kT, kLikelihoodRatio, kConditional}) {
-      const double power = Power(n1, n2, p1, p2, kExact, method, options);
-      EXPECT_NEAR(Power(n2, n1, p2, p1, kExact, method, options), power, 1e-12);
-      EXPECT_NEAR(Power(n1, n2, 1 - p1, 1 - p2, kExact, method, options), power, 1e-12);
+    for (const int method : {zMethod, tMethod, likelihoodRatioMethod, conditionalMethod}) {
+      const double power = Power(n1, n2, p1, p2, byTables, method, options);
+      EXPECT_NEAR(Power(n2, n1, p2, p1, byTables, method, options), power, 1e-12);
+      EXPECT_NEAR(Power(n1, n2, 1 - p1, 1 - p2, byTables, method, options), power, 1e-12);
     }
   }
 }
@@ -216,23 +216,24 @@ TEST_F(IndependentExact, MirroredDesignsHaveTheSamePower) {
 // Boschloo (1970): conditioning keeps the level at every common proportion, the normal approximation only about.
 TEST_F(IndependentExact, ConditionalTestKeepsItsLevel) {
   for (const double n : {10.0, 40.0, 150.0, 800.0}) {
-    for (double p = 0.05; p < 1; p += 0.1) EXPECT_LE(Power(n, n + 7, p, p, kExact, kConditional), 0.05);
+    for (double p = 0.05; p < 1; p += 0.1) EXPECT_LE(Power(n, n + 7, p, p, byTables, conditionalMethod), 0.05);
   }
 }
 
 TEST_F(IndependentExact, LargeSampleAndExactPowersMeetInLargeGroups) {
-  const double exact = Power(20000, 20000, 0.5, 0.51, kExact, kZ);
-  EXPECT_NEAR(Power(20000, 20000, 0.5, 0.51, kLargeSample, kZ), exact, 2e-3);
-  EXPECT_NEAR(Power(20000, 20000, 0.5, 0.51, kExact, kT), exact, 2e-3);
-  EXPECT_NEAR(Power(20000, 20000, 0.5, 0.51, kExact, kLikelihoodRatio), exact, 2e-3);
+  const double exact = Power(20000, 20000, 0.5, 0.51, byTables, zMethod);
+  EXPECT_NEAR(Power(20000, 20000, 0.5, 0.51, byLargeSample, zMethod), exact, 2e-3);
+  EXPECT_NEAR(Power(20000, 20000, 0.5, 0.51, byTables, tMethod), exact, 2e-3);
+  EXPECT_NEAR(Power(20000, 20000, 0.5, 0.51, byTables, likelihoodRatioMethod), exact, 2e-3);
 }
 
 // From 1,020 subjects on binomial coefficients are not representable and the terms come from a recurrence.
 TEST_F(IndependentExact, ConditionalTermsByRecurrenceContinueThoseByCoefficients) {
-  const double below = Power(510, 510, 0.5, 0.58, kExact, kConditional);
-  const double above = Power(511, 511, 0.5, 0.58, kExact, kConditional);
+  const double below = Power(510, 510, 0.5, 0.58, byTables, conditionalMethod);
+  const double above = Power(511, 511, 0.5, 0.58, byTables, conditionalMethod);
   EXPECT_NEAR(above, below, 2e-3);
-  EXPECT_NEAR(Power(3000, 2000, 0.5, 0.54, kExact, kConditional), Power(3000, 2000, 0.5, 0.54, kLargeSample, kZ), 0.02);
+  EXPECT_NEAR(Power(3000, 2000, 0.5, 0.54, byTables, conditionalMethod),
+              Power(3000, 2000, 0.5, 0.54, byLargeSample, zMethod), 0.02);
 }
 
 // Invalid input and edges ---------------------------------------------------------------------------------------------
@@ -253,64 +254,64 @@ TEST(IndependentPower, RejectsInvalidDesigns) {
         EXPECT_EQ(Power(10, 10, 0.4, 0.5, exact, method, options), -1);
       }
     }
-    EXPECT_EQ(Power(1, 1, 0.4, 0.5, exact, kT), -1);
+    EXPECT_EQ(Power(1, 1, 0.4, 0.5, exact, tMethod), -1);
   }
 }
 
 TEST(IndependentPower, LetsNaNThrough) {
-  for (const int method : {kZ, kT, kLikelihoodRatio, kArcsine}) {
-    EXPECT_TRUE(std::isnan(Power(kNaN, 10, 0.4, 0.5, kLargeSample, method)));
-    EXPECT_TRUE(std::isnan(Power(10, 10, kNaN, 0.5, kLargeSample, method)));
-    EXPECT_EQ(Power(kNaN, 10, 0.4, 0.5, kExact, method), 0);
-    EXPECT_EQ(Power(10, kNaN, 0.4, 0.5, kExact, method), 0);
+  for (const int method : {zMethod, tMethod, likelihoodRatioMethod, arcsineMethod}) {
+    EXPECT_TRUE(std::isnan(Power(quietNaN, 10, 0.4, 0.5, byLargeSample, method)));
+    EXPECT_TRUE(std::isnan(Power(10, 10, quietNaN, 0.5, byLargeSample, method)));
+    EXPECT_EQ(Power(quietNaN, 10, 0.4, 0.5, byTables, method), 0);
+    EXPECT_EQ(Power(10, quietNaN, 0.4, 0.5, byTables, method), 0);
     Options options;
-    options.alpha = kNaN;
-    EXPECT_EQ(Power(10, 10, 0.4, 0.5, kExact, method, options), 0);
+    options.alpha = quietNaN;
+    EXPECT_EQ(Power(10, 10, 0.4, 0.5, byTables, method, options), 0);
   }
-  EXPECT_EQ(Power(10, 10, kNaN, 0.5, kExact, kZ), -2);
-  EXPECT_EQ(Power(10, 10, 0.5, kNaN, kExact, kLikelihoodRatio), -2);
-  EXPECT_TRUE(std::isnan(Power(10, 10, 0.5, kNaN, kExact, kConditional)));
+  EXPECT_EQ(Power(10, 10, quietNaN, 0.5, byTables, zMethod), -2);
+  EXPECT_EQ(Power(10, 10, 0.5, quietNaN, byTables, likelihoodRatioMethod), -2);
+  EXPECT_TRUE(std::isnan(Power(10, 10, 0.5, quietNaN, byTables, conditionalMethod)));
   // A level that no table reaches asks nothing of the binomial distribution.
   Options tiny;
   tiny.alpha = 1e-300;
-  EXPECT_EQ(Power(2e9, 2e9, kNaN, 0.5, kExact, kZ, tiny), 0);
+  EXPECT_EQ(Power(2e9, 2e9, quietNaN, 0.5, byTables, zMethod, tiny), 0);
 }
 
 TEST(IndependentPower, IsMissingForGroupsThatCannotBeCounted) {
-  for (const int method : {kZ, kT, kLikelihoodRatio, kConditional}) {
-    EXPECT_TRUE(KelMV::IsMissing(Power(2147483648.0, 10, 0.4, 0.5, kExact, method)));
-    EXPECT_TRUE(KelMV::IsMissing(Power(10, kInfinity, 0.4, 0.5, kExact, method)));
+  for (const int method : {zMethod, tMethod, likelihoodRatioMethod, conditionalMethod}) {
+    EXPECT_TRUE(KelMV::IsMissing(Power(2147483648.0, 10, 0.4, 0.5, byTables, method)));
+    EXPECT_TRUE(KelMV::IsMissing(Power(10, infinite, 0.4, 0.5, byTables, method)));
   }
 }
 
 TEST(IndependentPower, AsksOnceATableAndOnceARejectedTable) {
   CountingStop z;
-  Power(8, 9, 0.2, 0.7, kExact, kZ, {}, &z);
+  Power(8, 9, 0.2, 0.7, byTables, zMethod, {}, &z);
   EXPECT_EQ(z.asked, 9 * 10);
   CountingStop fractional;
-  Power(8.5, 9, 0.2, 0.7, kExact, kZ, {}, &fractional);
+  Power(8.5, 9, 0.2, 0.7, byTables, zMethod, {}, &fractional);
   EXPECT_EQ(fractional.asked, 10 * 10);
   CountingStop conditional;
-  Power(8, 9, 0.2, 0.7, kExact, kConditional, {}, &conditional);
+  Power(8, 9, 0.2, 0.7, byTables, conditionalMethod, {}, &conditional);
   EXPECT_EQ(conditional.asked, 18);
   CountingStop t;
-  Power(8, 9, 0.2, 0.7, kExact, kT, {}, &t);
+  Power(8, 9, 0.2, 0.7, byTables, tMethod, {}, &t);
   ASSERT_GT(t.asked, 90);
   for (const std::int64_t n : {std::int64_t{1}, std::int64_t{90}, std::int64_t{91}, t.asked}) {
     CountingStop stop(n);
-    EXPECT_TRUE(KelMV::IsMissing(Power(8, 9, 0.2, 0.7, kExact, kT, {}, &stop)));
+    EXPECT_TRUE(KelMV::IsMissing(Power(8, 9, 0.2, 0.7, byTables, tMethod, {}, &stop)));
     EXPECT_EQ(stop.asked, n);
   }
 }
 
 TEST(IndependentPower, EqualProportionsHaveTheLevel) {
   for (const double n : {20.0, 1e4, 1e150, 1e160, 1e307}) {
-    EXPECT_NEAR(Power(n, n, 0.3, 0.3, kLargeSample, kZ), 0.05, 1e-14) << n;
-    EXPECT_NEAR(Power(n, 3, 0.3, 0.3, kLargeSample, kLikelihoodRatio), 0.05, 1e-14) << n;
-    EXPECT_NEAR(Power(n, n, 0.3, 0.3, kLargeSample, kArcsine), 0.05, 1e-14) << n;
+    EXPECT_NEAR(Power(n, n, 0.3, 0.3, byLargeSample, zMethod), 0.05, 1e-14) << n;
+    EXPECT_NEAR(Power(n, 3, 0.3, 0.3, byLargeSample, likelihoodRatioMethod), 0.05, 1e-14) << n;
+    EXPECT_NEAR(Power(n, n, 0.3, 0.3, byLargeSample, arcsineMethod), 0.05, 1e-14) << n;
     Options pooled;
     pooled.pooled = true;
-    EXPECT_NEAR(Power(n, n, 0.3, 0.3, kLargeSample, kZ, pooled), 0.05, 1e-14) << n;
+    EXPECT_NEAR(Power(n, n, 0.3, 0.3, byLargeSample, zMethod, pooled), 0.05, 1e-14) << n;
   }
 }
 
@@ -323,15 +324,15 @@ TEST(IndependentPower, LikelihoodRatioKeepsItsDigitsNearEqualProportions) {
   const double expected = KelDistFun::CdfStdNorm(shift - z) + KelDistFun::CdfStdNorm(-shift - z);
   const double actualD = (0.5 + d / 2) - (0.5 - d / 2);
   EXPECT_NEAR(actualD, d, 1e-16);
-  EXPECT_NEAR(Power(n, n, 0.5 + d / 2, 0.5 - d / 2, kLargeSample, kLikelihoodRatio), expected, 1e-8);
-  EXPECT_NEAR(Power(n, n, 0.5 + d / 2, 0.5 - d / 2, kLargeSample, kArcsine), expected, 1e-8);
-  EXPECT_NEAR(Power(n, n, 0.5 + d / 2, 0.5 - d / 2, kLargeSample, kZ), expected, 1e-8);
+  EXPECT_NEAR(Power(n, n, 0.5 + d / 2, 0.5 - d / 2, byLargeSample, likelihoodRatioMethod), expected, 1e-8);
+  EXPECT_NEAR(Power(n, n, 0.5 + d / 2, 0.5 - d / 2, byLargeSample, arcsineMethod), expected, 1e-8);
+  EXPECT_NEAR(Power(n, n, 0.5 + d / 2, 0.5 - d / 2, byLargeSample, zMethod), expected, 1e-8);
 }
 
 TEST(IndependentPower, ArcsineTestNeedsHalfASubjectOfEachOutcome) {
-  EXPECT_EQ(Power(1, 20, 0.3, 0.2, kLargeSample, kArcsine), -1);
-  EXPECT_GT(Power(2, 20, 0.3, 0.2, kLargeSample, kArcsine), 0);
-  EXPECT_EQ(Power(20, 1, 0.2, 0.3, kLargeSample, kArcsine), -1);
+  EXPECT_EQ(Power(1, 20, 0.3, 0.2, byLargeSample, arcsineMethod), -1);
+  EXPECT_GT(Power(2, 20, 0.3, 0.2, byLargeSample, arcsineMethod), 0);
+  EXPECT_EQ(Power(20, 1, 0.2, 0.3, byLargeSample, arcsineMethod), -1);
 }
 
 // The correction is added to the one-sided statistic and subtracted from the two-sided one.
@@ -339,30 +340,30 @@ TEST(IndependentPower, CorrectionRaisesTheOneSidedStatistic) {
   Options plain;
   Options corrected;
   corrected.corrected = true;
-  EXPECT_LT(Power(30, 30, 0.3, 0.6, kExact, kZ, corrected), Power(30, 30, 0.3, 0.6, kExact, kZ, plain));
+  EXPECT_LT(Power(30, 30, 0.3, 0.6, byTables, zMethod, corrected), Power(30, 30, 0.3, 0.6, byTables, zMethod, plain));
   plain.oneSided = corrected.oneSided = true;
-  EXPECT_GT(Power(30, 30, 0.3, 0.6, kExact, kZ, corrected), Power(30, 30, 0.3, 0.6, kExact, kZ, plain));
+  EXPECT_GT(Power(30, 30, 0.3, 0.6, byTables, zMethod, corrected), Power(30, 30, 0.3, 0.6, byTables, zMethod, plain));
 }
 
 // Sizes ---------------------------------------------------------------------------------------------------------------
 
 TEST(IndependentSizes, LargeSampleSizesReachThePowerAndOneLessDoesNot) {
-  for (const int method : {kZ, kT, kLikelihoodRatio, kArcsine}) {
+  for (const int method : {zMethod, tMethod, likelihoodRatioMethod, arcsineMethod}) {
     for (const double target : {0.5, 0.8, 0.99}) {
-      const std::vector<double> sizes = Sizes(target, 0.3, 0.45, kLargeSample, method);
+      const std::vector<double> sizes = Sizes(target, 0.3, 0.45, byLargeSample, method);
       ASSERT_EQ(sizes.size(), 2u);
-      EXPECT_GE(Power(sizes[0], sizes[1], 0.3, 0.45, kLargeSample, method), target - 1e-9);
-      EXPECT_LT(Power(sizes[0] - 1, sizes[1] - 1, 0.3, 0.45, kLargeSample, method), target);
+      EXPECT_GE(Power(sizes[0], sizes[1], 0.3, 0.45, byLargeSample, method), target - 1e-9);
+      EXPECT_LT(Power(sizes[0] - 1, sizes[1] - 1, 0.3, 0.45, byLargeSample, method), target);
     }
   }
 }
 
 TEST(IndependentSizes, ExactSizesReachThePower) {
-  for (const int method : {kZ, kT, kLikelihoodRatio, 4}) {
+  for (const int method : {zMethod, tMethod, likelihoodRatioMethod, 4}) {
     for (const double ratio : {0.5, 1.0, 1.7}) {
-      const std::vector<double> sizes = Sizes(0.85, 0.3, 0.55, kExact, method, {}, ratio);
+      const std::vector<double> sizes = Sizes(0.85, 0.3, 0.55, byTables, method, {}, ratio);
       ASSERT_EQ(sizes.size(), 2u);
-      EXPECT_GE(Power(sizes[0], sizes[1], 0.3, 0.55, kExact, method), 0.85);
+      EXPECT_GE(Power(sizes[0], sizes[1], 0.3, 0.55, byTables, method), 0.85);
       EXPECT_EQ(sizes[1], std::floor(ratio * sizes[0] + 0.5));
     }
   }
@@ -372,7 +373,7 @@ TEST(IndependentSizes, ExactSizesReachThePower) {
 /// there are any, and from there the first whole size that reaches the power by the method `reached`.
 std::vector<double> LiteralSizes(double power, double p1, double p2, double ratio, int searched, int reached) {
   const auto objective = [&](double n1) {
-    return Power(n1, std::max(1.0, ratio * n1), p1, p2, kExact, searched) - power;
+    return Power(n1, std::max(1.0, ratio * n1), p1, p2, byTables, searched) - power;
   };
   const auto search = [&](double lower, double upper) {
     return keltest::OrMissing(SolveContinuous(lower, upper, 1e-9, objective, {}));
@@ -386,7 +387,7 @@ std::vector<double> LiteralSizes(double power, double p1, double p2, double rati
     found.push_back(next);
   }
   double n1 = *std::min_element(found.begin(), found.end());
-  while (Power(n1, second(n1), p1, p2, kExact, reached) < power) n1 += 1;
+  while (Power(n1, second(n1), p1, p2, byTables, reached) < power) n1 += 1;
   return {n1, second(n1)};
 }
 
@@ -394,21 +395,21 @@ std::vector<double> LiteralSizes(double power, double p1, double p2, double rati
 TEST(IndependentSizes, ExactSearchesAreThoseOfTheirMethods) {
   for (const double power : {0.5, 0.7, 0.9}) {
     for (const double ratio : {0.5, 1.0, 2.0}) {
-      for (const int method : {kZ, kT, kLikelihoodRatio}) {
-        EXPECT_EQ(Sizes(power, 0.9, 0.2, kExact, method, {}, ratio),
+      for (const int method : {zMethod, tMethod, likelihoodRatioMethod}) {
+        EXPECT_EQ(Sizes(power, 0.9, 0.2, byTables, method, {}, ratio),
                   LiteralSizes(power, 0.9, 0.2, ratio, method, method));
       }
-      EXPECT_EQ(Sizes(power, 0.9, 0.2, kExact, 4, {}, ratio), LiteralSizes(power, 0.9, 0.2, ratio, kZ, 4));
+      EXPECT_EQ(Sizes(power, 0.9, 0.2, byTables, 4, {}, ratio), LiteralSizes(power, 0.9, 0.2, ratio, zMethod, 4));
     }
   }
-  EXPECT_EQ(Sizes(0.7, 0.9, 0.1, kExact, 4), (std::vector<double>{5, 5}));
+  EXPECT_EQ(Sizes(0.7, 0.9, 0.1, byTables, 4), (std::vector<double>{5, 5}));
   EXPECT_EQ(LiteralSizes(0.7, 0.9, 0.1, 1, 4, 4), (std::vector<double>{7, 7}));
 }
 
 TEST(IndependentSizes, SquaresTheFirstSizeInOneCombinationOfFlags) {
   Options options;
   options.oneSided = options.corrected = options.pooled = true;
-  const std::vector<double> sizes = Sizes(0.8, 0.3, 0.6, kLargeSample, kZ, options);
+  const std::vector<double> sizes = Sizes(0.8, 0.3, 0.6, byLargeSample, zMethod, options);
   ASSERT_EQ(sizes.size(), 2u);
   EXPECT_GT(sizes[1], (sizes[0] - 1) * (sizes[0] - 1));
   EXPECT_LE(sizes[1], sizes[0] * sizes[0]);
@@ -416,12 +417,12 @@ TEST(IndependentSizes, SquaresTheFirstSizeInOneCombinationOfFlags) {
 
 TEST(IndependentSizes, SecondSizeIsAtLeastOne) {
   for (const double ratio : {1e-9, 0.0, -1.0}) {
-    for (const int exact : {kLargeSample, kExact}) {
-      const std::vector<double> sizes = Sizes(0.5, 0.9, 0.1, exact, kZ, {}, ratio);
+    for (const int exact : {byLargeSample, byTables}) {
+      const std::vector<double> sizes = Sizes(0.5, 0.9, 0.1, exact, zMethod, {}, ratio);
       ASSERT_EQ(sizes.size(), 2u);
       EXPECT_GE(sizes[0], 2);
       EXPECT_EQ(sizes[1], 1);
-      EXPECT_GE(Power(sizes[0], 1, 0.9, 0.1, exact, kZ), 0.5);
+      EXPECT_GE(Power(sizes[0], 1, 0.9, 0.1, exact, zMethod), 0.5);
     }
   }
 }
@@ -435,22 +436,22 @@ TEST(IndependentSizes, LeavesANonEmptyVectorAlone) {
 }
 
 TEST(IndependentSizes, AreMissingWhenThePowerIsOutOfReach) {
-  for (const int method : {kZ, kT, kLikelihoodRatio, kArcsine}) {
-    EXPECT_EQ(Sizes(0.8, 0.3, 0.3, kLargeSample, method), kBothMissing) << method;
-    EXPECT_EQ(Sizes(1.5, 0.3, 0.6, kLargeSample, method), kBothMissing) << method;
+  for (const int method : {zMethod, tMethod, likelihoodRatioMethod, arcsineMethod}) {
+    EXPECT_EQ(Sizes(0.8, 0.3, 0.3, byLargeSample, method), bothMissing) << method;
+    EXPECT_EQ(Sizes(1.5, 0.3, 0.6, byLargeSample, method), bothMissing) << method;
   }
-  EXPECT_EQ(Sizes(0.8, 1.3, 0.6, kLargeSample, kZ), kBothMissing);
+  EXPECT_EQ(Sizes(0.8, 1.3, 0.6, byLargeSample, zMethod), bothMissing);
   // The exact tests end when the tables can no longer be counted, after groups of a thousand million.
-  for (const int method : {kZ, kT}) {
-    EXPECT_EQ(Sizes(0.8, 0.3, 0.3, kExact, method), kBothMissing) << method;
+  for (const int method : {zMethod, tMethod}) {
+    EXPECT_EQ(Sizes(0.8, 0.3, 0.3, byTables, method), bothMissing) << method;
   }
 }
 
 TEST(IndependentSizes, StopWhenAsked) {
-  for (const int method : {kZ, kT, kLikelihoodRatio, kConditional}) {
+  for (const int method : {zMethod, tMethod, likelihoodRatioMethod, conditionalMethod}) {
     for (const std::int64_t n : {std::int64_t{1}, std::int64_t{2}, std::int64_t{1000}, std::int64_t{200000}}) {
       CountingStop stop(n);
-      EXPECT_EQ(Sizes(0.8, 0.3, 0.3, kExact, method, {}, 1, &stop), kBothMissing);
+      EXPECT_EQ(Sizes(0.8, 0.3, 0.3, byTables, method, {}, 1, &stop), bothMissing);
       EXPECT_GE(stop.asked, n);
     }
   }
@@ -458,26 +459,26 @@ TEST(IndependentSizes, StopWhenAsked) {
 
 // The sizes of the first search stand when the refinement is stopped.
 TEST(IndependentSizes, AreNotRefinedAfterAStop) {
-  constexpr int kUnrefined = 2;
-  for (const int method : {kZ, kT, kLikelihoodRatio, kConditional}) {
+  constexpr int byUnrefinedTables = 2;
+  for (const int method : {zMethod, tMethod, likelihoodRatioMethod, conditionalMethod}) {
     CountingStop first;
-    const std::vector<double> unrefined = Sizes(0.9, 0.25, 0.6, kUnrefined, method, {}, 1.3, &first);
+    const std::vector<double> unrefined = Sizes(0.9, 0.25, 0.6, byUnrefinedTables, method, {}, 1.3, &first);
     CountingStop whole;
-    EXPECT_NE(Sizes(0.9, 0.25, 0.6, kExact, method, {}, 1.3, &whole), kBothMissing);
+    EXPECT_NE(Sizes(0.9, 0.25, 0.6, byTables, method, {}, 1.3, &whole), bothMissing);
     ASSERT_GT(whole.asked, first.asked);
     for (const std::int64_t n : {first.asked + 1, first.asked + 2, whole.asked - 1, whole.asked}) {
       CountingStop stop(n);
-      EXPECT_EQ(Sizes(0.9, 0.25, 0.6, kExact, method, {}, 1.3, &stop), unrefined) << method << ' ' << n;
+      EXPECT_EQ(Sizes(0.9, 0.25, 0.6, byTables, method, {}, 1.3, &stop), unrefined) << method << ' ' << n;
     }
   }
 }
 
 TEST(IndependentSizes, AreNotRefinedWhenTheFirstQuestionOfTheRefinementStops) {
   CountingStop first;
-  const std::vector<double> unrefined = Sizes(0.9, 0.25, 0.6, 2, kZ, {}, 1.3, &first);
+  const std::vector<double> unrefined = Sizes(0.9, 0.25, 0.6, 2, zMethod, {}, 1.3, &first);
   CountingStop stop(first.asked + 1);
   stop.stopsOnce = true;
-  EXPECT_EQ(Sizes(0.9, 0.25, 0.6, kExact, kZ, {}, 1.3, &stop), unrefined);
+  EXPECT_EQ(Sizes(0.9, 0.25, 0.6, byTables, zMethod, {}, 1.3, &stop), unrefined);
   EXPECT_EQ(stop.asked, first.asked + 1);
 }
 
@@ -528,8 +529,8 @@ TEST(IndependentInterval, SizesReachTheHalfWidth) {
 // test; the next larger tables have too many to be counted.
 TEST(IndependentSizes, AreMissingWhereTheNextTablesCannotBeCounted) {
   std::vector<double> sizes;
-  PowerReverseIndSampBinom(0.9, 0.99, 0.3, sizes, 8e8, kExact, 4, 0, 0.05, 0, 0, nullptr);
-  EXPECT_EQ(sizes, kBothMissing);
+  PowerReverseIndSampBinom(0.9, 0.99, 0.3, sizes, 8e8, byTables, 4, 0, 0.05, 0, 0, nullptr);
+  EXPECT_EQ(sizes, bothMissing);
 }
 
 TEST(IndependentInterval, SecondSizeIsAtLeastTwo) {
@@ -546,10 +547,10 @@ TEST(IndependentInterval, SizesAreMissingWhenStoppedOrOutOfReach) {
   std::vector<double> sizes = {5};
   CountingStop stop(1);
   PowerReversebyHalfCIIndSampBinom(0.01, 0.3, 0.6, sizes, 1, 1, 0.05, 0, &stop);
-  EXPECT_EQ(sizes, kBothMissing);
+  EXPECT_EQ(sizes, bothMissing);
   for (int method = 1; method <= 5; ++method) {
     PowerReversebyHalfCIIndSampBinom(-1, 0.3, 0.6, sizes, 1, method, 0.05, 0, nullptr);
-    EXPECT_EQ(sizes, kBothMissing) << method;
+    EXPECT_EQ(sizes, bothMissing) << method;
   }
   PowerReversebyHalfCIIndSampBinom(0.1, 0.3, 0.6, sizes, 1, 9, 0.05, 0, nullptr);
   EXPECT_EQ(sizes, (std::vector<double>{400, 400}));
@@ -593,13 +594,14 @@ TEST(IndependentArcsine, SizesReachTheirPower) {
 
 TEST(IndependentPower, OfExactTestsIsNeverAboveOne) {
   const Options oneSided{true, 0.011599387884959771, 0, 0};
-  EXPECT_EQ(
-      Power(79.326830636181043, 186, 0.13321620511778842, 0.98694341478576708, kExact, kLikelihoodRatio, oneSided), 1);
+  EXPECT_EQ(Power(79.326830636181043, 186, 0.13321620511778842, 0.98694341478576708, byTables, likelihoodRatioMethod,
+                  oneSided),
+            1);
   for (int n = 20; n <= 300; n += 20) {
-    for (const int method : {kZ, kT, kLikelihoodRatio, 3}) {
+    for (const int method : {zMethod, tMethod, likelihoodRatioMethod, 3}) {
       for (const double p1 : {0.9, 0.95, 0.999}) {
         for (const double p2 : {0.02, 0.1, 0.16, 0.3})
-          EXPECT_LE(Power(n, n, p1, p2, kExact, method), 1) << n << ' ' << p1 << ' ' << p2 << ' ' << method;
+          EXPECT_LE(Power(n, n, p1, p2, byTables, method), 1) << n << ' ' << p1 << ' ' << p2 << ' ' << method;
       }
     }
   }

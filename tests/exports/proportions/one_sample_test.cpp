@@ -21,10 +21,10 @@ using keltest::OrMissing;
 using KelCommon::KelMV;
 using KelMath::KelDistFun;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
 
-constexpr std::uint8_t kCorrections[] = {0, 1};
+constexpr std::uint8_t corrections[] = {0, 1};
 
 double Normal(double n, double alternative, double null, int oneSided, double alpha = 0.05, bool corrected = false) {
   return PowerOneSampBinom(n, alternative, null, 0, oneSided, alpha, corrected, nullptr);
@@ -122,8 +122,8 @@ TEST(PowerOneSampBinom, StopsWhereItsDefinitionStops) {
 
 TEST(PowerOneSampBinom, OfTheExactTestTakesNaNsAsItsDefinitionDoes) {
   for (int oneSided : {0, 1}) {
-    for (const Design& d : {Design{12.5, kNaN, 0.4, oneSided, 0.05}, Design{12.5, 0.3, kNaN, oneSided, 0.05},
-                            Design{12.5, 0.3, 0.4, oneSided, kNaN}, Design{kNaN, 0.3, 0.4, oneSided, 0.05}}) {
+    for (const Design& d : {Design{12.5, quietNaN, 0.4, oneSided, 0.05}, Design{12.5, 0.3, quietNaN, oneSided, 0.05},
+                            Design{12.5, 0.3, 0.4, oneSided, quietNaN}, Design{quietNaN, 0.3, 0.4, oneSided, 0.05}}) {
       CountingStop expectedStop;
       CountingStop stop;
       EXPECT_EQ(PowerOneSampBinom(d.size, d.alternative, d.null, 1, oneSided, d.alpha, 0, &stop),
@@ -182,11 +182,11 @@ TEST(PowerOneSampBinom, IsMinusOneForInvalidInput) {
       return PowerOneSampBinom(n, alternative, null, method, 0, alpha, 0, nullptr);
     };
     EXPECT_EQ(power(0.5, 0.6, 0.4, 0.05), -1);
-    EXPECT_EQ(power(-kInfinity, 0.6, 0.4, 0.05), -1);
+    EXPECT_EQ(power(-infinite, 0.6, 0.4, 0.05), -1);
     EXPECT_EQ(power(20, -1e-300, 0.4, 0.05), -1);
     EXPECT_EQ(power(20, 1.0000001, 0.4, 0.05), -1);
     EXPECT_EQ(power(20, 0.6, -0.1, 0.05), -1);
-    EXPECT_EQ(power(20, 0.6, kInfinity, 0.05), -1);
+    EXPECT_EQ(power(20, 0.6, infinite, 0.05), -1);
     EXPECT_EQ(power(20, 0.6, 0.4, 0), -1);
     EXPECT_EQ(power(20, 0.6, 0.4, 1), -1);
     EXPECT_NE(power(1, 0, 1, 0.05), -1);
@@ -196,7 +196,7 @@ TEST(PowerOneSampBinom, IsMinusOneForInvalidInput) {
 TEST(PowerOneSampBinom, OfTheExactTestIsMissingBeyondTheLargestCount) {
   EXPECT_TRUE(KelMV::IsMissing(Exact(2147483648.0, 0.5, 0.4, 0)));
   EXPECT_TRUE(KelMV::IsMissing(Exact(1e300, 0.5, 0.4, 1)));
-  EXPECT_TRUE(KelMV::IsMissing(Exact(kInfinity, 0.5, 0.4, 0)));
+  EXPECT_TRUE(KelMV::IsMissing(Exact(infinite, 0.5, 0.4, 0)));
   EXPECT_NEAR(Exact(2147483647.0, 0.4, 0.4, 0), 0.05, 1e-5);
 }
 
@@ -259,7 +259,7 @@ TEST(PowerReverseOneSampBinom, IsMissingWhereNoSizeReachesThePower) {
   EXPECT_TRUE(KelMV::IsMissing(ExactSize(1.5, 0.7, 0.5, 0)));
   EXPECT_TRUE(KelMV::IsMissing(ExactSize(1.5, 0.7, 0.5, 1)));
   EXPECT_TRUE(KelMV::IsMissing(ExactSize(0.8, 0.5 + 1e-7, 0.5, 1)));
-  EXPECT_TRUE(KelMV::IsMissing(ExactSize(kNaN, 0.7, 0.5, 1)) || ExactSize(kNaN, 0.7, 0.5, 1) >= 1);
+  EXPECT_TRUE(KelMV::IsMissing(ExactSize(quietNaN, 0.7, 0.5, 1)) || ExactSize(quietNaN, 0.7, 0.5, 1) >= 1);
   CountingStop stop(3);
   EXPECT_TRUE(KelMV::IsMissing(PowerReverseOneSampBinom(1.5, 0.7, 0.5, 1, 0, 0.05, 0, &stop)));
 }
@@ -287,7 +287,7 @@ TEST(HalfCIOneSampBinom, HasNoOverflowOfItsOwn) {
 
 TEST(HalfCIOneSampBinom, IsSymmetricInSuccessesAndFailures) {
   for (int method = 0; method <= 6; ++method) {
-    for (const std::uint8_t correction : kCorrections) {
+    for (const std::uint8_t correction : corrections) {
       EXPECT_NEAR(HalfWidth(37, 0.2, method, correction), HalfWidth(37, 0.8, method, correction), 1e-14);
     }
   }
@@ -322,7 +322,7 @@ TEST(PowerReversebyHalfCIOneSampBinom, MatchesPublishedSizes) {
 
 TEST(PowerReversebyHalfCIOneSampBinom, HasTheHalfWidth) {
   for (int method = 0; method <= 6; ++method) {
-    for (const std::uint8_t correction : kCorrections) {
+    for (const std::uint8_t correction : corrections) {
       const double n = SizeForHalfWidth(0.04, 0.35, method, correction);
       EXPECT_NEAR(HalfWidth(n, 0.35, method, correction), 0.04, 1e-12) << method;
     }

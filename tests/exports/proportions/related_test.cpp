@@ -19,8 +19,8 @@ using keltest::OrMissing;
 
 using KelCommon::KelMV;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
 
 double LargeSample(double n, double p12, double p21, int oneSided, double alpha = 0.05) {
   return PowerbyPRelSampBionm(n, p12, p21, oneSided, 0, alpha, nullptr);
@@ -96,7 +96,7 @@ private:
 
 // The library and the definition add the same terms in another way, and binomial masses as evaluated are good to about
 // 1e-14.
-constexpr double kRounding = 1e-14;
+constexpr double rounding = 1e-14;
 
 TEST(PowerbyPRelSampBionm, OfTheExactTestIsThatOfItsDefinition) {
   RandomDesigns designs(20240612);
@@ -106,7 +106,7 @@ TEST(PowerbyPRelSampBionm, OfTheExactTestIsThatOfItsDefinition) {
     CountingStop expectedStop;
     const double expected = literal::PairedPower(d.size, d.p12, d.p21, d.oneSided, d.alpha, &expectedStop);
     CountingStop stop;
-    EXPECT_NEAR(PowerbyPRelSampBionm(d.size, d.p12, d.p21, d.oneSided, 1, d.alpha, &stop), expected, kRounding) << d;
+    EXPECT_NEAR(PowerbyPRelSampBionm(d.size, d.p12, d.p21, d.oneSided, 1, d.alpha, &stop), expected, rounding) << d;
     EXPECT_EQ(stop.asked, expectedStop.asked) << d;
   }
 }
@@ -120,7 +120,7 @@ TEST(PowerbyPRelSampBionm, StopsWhereItsDefinitionStops) {
     CountingStop expectedStop(trueFrom);
     CountingStop stop(trueFrom);
     EXPECT_NEAR(PowerbyPRelSampBionm(d.size, d.p12, d.p21, d.oneSided, 1, d.alpha, &stop),
-                literal::PairedPower(d.size, d.p12, d.p21, d.oneSided, d.alpha, &expectedStop), kRounding)
+                literal::PairedPower(d.size, d.p12, d.p21, d.oneSided, d.alpha, &expectedStop), rounding)
         << d;
     EXPECT_EQ(stop.asked, expectedStop.asked) << d;
   }
@@ -129,9 +129,9 @@ TEST(PowerbyPRelSampBionm, StopsWhereItsDefinitionStops) {
 TEST(PowerbyPRelSampBionm, OfTheExactTestFailsAsItsDefinitionDoes) {
   for (int oneSided : {0, 1}) {
     for (const Design& d :
-         {Design{20, 0, 0, oneSided, 0.05}, Design{3, 0, 0, oneSided, 0.05}, Design{20, kNaN, 0.1, oneSided, 0.05},
-          Design{20, 0.1, kNaN, oneSided, 0.05}, Design{20, 0.1, 0.2, oneSided, kNaN},
-          Design{kNaN, 0.1, 0.2, oneSided, 0.05}, Design{2000, 0, 0, oneSided, 1e-300}}) {
+         {Design{20, 0, 0, oneSided, 0.05}, Design{3, 0, 0, oneSided, 0.05}, Design{20, quietNaN, 0.1, oneSided, 0.05},
+          Design{20, 0.1, quietNaN, oneSided, 0.05}, Design{20, 0.1, 0.2, oneSided, quietNaN},
+          Design{quietNaN, 0.1, 0.2, oneSided, 0.05}, Design{2000, 0, 0, oneSided, 1e-300}}) {
       CountingStop expectedStop;
       CountingStop stop;
       EXPECT_EQ(PowerbyPRelSampBionm(d.size, d.p12, d.p21, oneSided, 1, d.alpha, &stop),
@@ -173,7 +173,7 @@ TEST(PowerbyPRelSampBionm, DoesNotDependOnWhichMeasureComesFirst) {
     // Away from ties, which fall to one side, and from levels that 1 - alpha rounds.
     const double alpha = d.alpha * 1.000001;
     EXPECT_NEAR(Exact(d.size, d.p12, d.p21, d.oneSided, alpha), Exact(d.size, d.p21, d.p12, d.oneSided, alpha),
-                kRounding)
+                rounding)
         << d;
   }
   EXPECT_NEAR(LargeSample(70, 0.12, 0.3, 1), LargeSample(70, 0.3, 0.12, 1), 1e-14);
@@ -209,7 +209,7 @@ TEST(PowerbyPRelSampBionm, IsMinusOneForInvalidInput) {
 
 TEST(PowerbyPRelSampBionm, OfTheExactTestIsMissingBeyondTheLargestCount) {
   EXPECT_TRUE(KelMV::IsMissing(Exact(2147483648.0, 0.2, 0.1, 0)));
-  EXPECT_TRUE(KelMV::IsMissing(Exact(kInfinity, 0.2, 0.1, 0)));
+  EXPECT_TRUE(KelMV::IsMissing(Exact(infinite, 0.2, 0.1, 0)));
   EXPECT_NEAR(Exact(2147483647.0, 0.2, 0.2, 0), 0.05, 1e-4);
 }
 

@@ -9,7 +9,7 @@
 namespace kelpower {
 namespace {
 
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
 
 TEST(PlotNmlr, HasAPointASizeWithFixedPredictors) {
   const CurveRecord curve(PlotNmlr(4, 4, 0.5, 0, 0, 1, 0.05, 10, 20));
@@ -62,7 +62,7 @@ TEST(PlotNmlr, RejectsInvalidInput) {
   EXPECT_TRUE(IsEmpty(PlotNmlr(4, 4, 0.5, 0, 0, 1, 0.05, 10, 5005)));
   EXPECT_TRUE(IsEmpty(PlotNmlrFES(4, 5, 0.5, 0, 1, 0.05, 10, 20)));
   EXPECT_TRUE(IsEmpty(PlotNmlrFES(1e300, 5, 0.5, 0, 1, 0.05, 0, 0)));
-  EXPECT_TRUE(IsEmpty(PlotNmlrFES(kNaN, 5, 0.5, 0, 1, 0.05, 0, 0)));
+  EXPECT_TRUE(IsEmpty(PlotNmlrFES(quietNaN, 5, 0.5, 0, 1, 0.05, 0, 0)));
 }
 
 TEST(PlotESmlr, LeavesOutBothEnds) {
@@ -75,7 +75,7 @@ TEST(PlotESmlr, LeavesOutBothEnds) {
 }
 
 TEST(PlotESmlr, AnswersForEveryStep) {
-  for (const double step : {0.0, -0.1, kNaN, 1e-12}) EXPECT_TRUE(IsEmpty(PlotESmlr(30, 4, 2, 1, 1, 0.05, step)));
+  for (const double step : {0.0, -0.1, quietNaN, 1e-12}) EXPECT_TRUE(IsEmpty(PlotESmlr(30, 4, 2, 1, 1, 0.05, step)));
   const CurveRecord curve(PlotESmlr(30, 4, 2, 1, 1, 0.05, 1.5));
   EXPECT_EQ(curve.count, 0);
   EXPECT_NE(curve.x, nullptr);

@@ -11,20 +11,20 @@ namespace {
 
 using KelCommon::KelMV;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr int kFixed = 0;
-constexpr int kRandom = 1;
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr int withFixed = 0;
+constexpr int withRandom = 1;
 
 TEST(Powerbymlr, MatchesPublishedValues) {
-  EXPECT_NEAR(PowerbymlrwES(95, 5, 5, 1.0 / 9, kFixed, 1, 0.05), 0.673586, 5e-7);
-  EXPECT_NEAR(Powerbymlr(95, 5, 5, std::sqrt(0.1), 0, kRandom, 1, 0.05), 0.662627, 5e-7);
-  EXPECT_NEAR(PowerbymlrwES(90, 9, 4, 0.0714286, kFixed, 1, 0.01), 0.241297, 5e-7);
-  EXPECT_NEAR(PowerReversebymlrwES(0.80, 9, 4, 0.0714286, kFixed, 1, 0.01), 241.3212, 5e-5);
+  EXPECT_NEAR(PowerbymlrwES(95, 5, 5, 1.0 / 9, withFixed, 1, 0.05), 0.673586, 5e-7);
+  EXPECT_NEAR(Powerbymlr(95, 5, 5, std::sqrt(0.1), 0, withRandom, 1, 0.05), 0.662627, 5e-7);
+  EXPECT_NEAR(PowerbymlrwES(90, 9, 4, 0.0714286, withFixed, 1, 0.01), 0.241297, 5e-7);
+  EXPECT_NEAR(PowerReversebymlrwES(0.80, 9, 4, 0.0714286, withFixed, 1, 0.01), 241.3212, 5e-5);
 }
 
 TEST(Powerbymlr, TakesFitsOrTheEffectThatFollowsFromThem) {
-  for (const int random : {kFixed, kRandom}) {
+  for (const int random : {withFixed, withRandom}) {
     const double r = 0.4;
     EXPECT_NEAR(Powerbymlr(60, 4, 4, r, 0, random, 1, 0.05),
                 PowerbymlrwES(60, 4, 4, r * r / (1 - r * r), random, 1, 0.05), 1e-13);
@@ -34,12 +34,12 @@ TEST(Powerbymlr, TakesFitsOrTheEffectThatFollowsFromThem) {
 }
 
 TEST(Powerbymlr, SquaresTheFullFitOnlyWithoutAReducedModel) {
-  EXPECT_EQ(Powerbymlr(60, 4, 4, -0.5, 0, kFixed, 1, 0.05), Powerbymlr(60, 4, 4, 0.5, 0, kFixed, 1, 0.05));
-  EXPECT_EQ(Powerbymlr(60, 4, 4, -0.5, 0.2, kFixed, 1, 0.05), -1);
+  EXPECT_EQ(Powerbymlr(60, 4, 4, -0.5, 0, withFixed, 1, 0.05), Powerbymlr(60, 4, 4, 0.5, 0, withFixed, 1, 0.05));
+  EXPECT_EQ(Powerbymlr(60, 4, 4, -0.5, 0.2, withFixed, 1, 0.05), -1);
 }
 
 TEST(Powerbymlr, WithoutEffectIsAlpha) {
-  for (const int random : {kFixed, kRandom}) {
+  for (const int random : {withFixed, withRandom}) {
     for (const double alpha : {1e-6, 0.01, 0.05, 0.5, 0.99}) {
       EXPECT_NEAR(PowerbymlrwES(50, 3, 2, 0, random, 1, alpha), alpha, 1e-13);
       EXPECT_NEAR(Powerbymlr(50, 3, 2, 0.3, 0.3, random, 1, alpha), alpha, 1e-13);
@@ -49,7 +49,7 @@ TEST(Powerbymlr, WithoutEffectIsAlpha) {
 }
 
 TEST(Powerbymlr, GrowsWithSizeEffectAndAlpha) {
-  for (const int random : {kFixed, kRandom}) {
+  for (const int random : {withFixed, withRandom}) {
     double last = 0;
     for (double n = 7; n < 300; n += 3.5) {
       const double power = PowerbymlrwES(n, 5, 3, 0.1, random, 1, 0.05);
@@ -74,12 +74,12 @@ TEST(Powerbymlr, GrowsWithSizeEffectAndAlpha) {
 // Random predictors spread the noncentrality, which costs power in the usual region.
 TEST(Powerbymlr, OfRandomPredictorsStaysBelowThatOfFixedOnes) {
   for (double n = 20; n < 200; n += 15) {
-    EXPECT_LT(PowerbymlrwES(n, 4, 4, 0.2, kRandom, 1, 0.05), PowerbymlrwES(n, 4, 4, 0.2, kFixed, 1, 0.05));
+    EXPECT_LT(PowerbymlrwES(n, 4, 4, 0.2, withRandom, 1, 0.05), PowerbymlrwES(n, 4, 4, 0.2, withFixed, 1, 0.05));
   }
 }
 
 TEST(Powerbymlr, RejectsWhatHasNoTest) {
-  for (const int random : {kFixed, kRandom}) {
+  for (const int random : {withFixed, withRandom}) {
     EXPECT_GT(Powerbymlr(5, 3, 3, 0.5, 0, random, 1, 0.05), 0.05);
     EXPECT_EQ(Powerbymlr(std::nextafter(5.0, 0), 3, 3, 0.5, 0, random, 1, 0.05), -1);
     EXPECT_GT(Powerbymlr(4, 3, 3, 0.5, 0, random, 0, 0.05), 0.05);
@@ -101,36 +101,36 @@ TEST(Powerbymlr, RejectsWhatHasNoTest) {
 }
 
 TEST(Powerbymlr, GivesNaNForNaN) {
-  for (const int random : {kFixed, kRandom}) {
-    EXPECT_TRUE(std::isnan(Powerbymlr(kNaN, 3, 3, 0.5, 0, random, 1, 0.05)));
-    EXPECT_TRUE(std::isnan(Powerbymlr(50, kNaN, 3, 0.5, 0, random, 1, 0.05)));
-    EXPECT_TRUE(std::isnan(Powerbymlr(50, 3, 3, kNaN, 0, random, 1, 0.05)));
-    EXPECT_TRUE(std::isnan(Powerbymlr(50, 3, 3, 0.5, kNaN, random, 1, 0.05)));
-    EXPECT_TRUE(std::isnan(PowerbymlrwES(50, 3, 3, kNaN, random, 1, 0.05)));
-    EXPECT_TRUE(std::isnan(PowerbymlrwES(50, 3, 3, 0.1, random, 1, kNaN)));
-    EXPECT_TRUE(std::isnan(PowerbymlrwES(kNaN, 3, 3, 1e300, random, 1, 0.05)));
+  for (const int random : {withFixed, withRandom}) {
+    EXPECT_TRUE(std::isnan(Powerbymlr(quietNaN, 3, 3, 0.5, 0, random, 1, 0.05)));
+    EXPECT_TRUE(std::isnan(Powerbymlr(50, quietNaN, 3, 0.5, 0, random, 1, 0.05)));
+    EXPECT_TRUE(std::isnan(Powerbymlr(50, 3, 3, quietNaN, 0, random, 1, 0.05)));
+    EXPECT_TRUE(std::isnan(Powerbymlr(50, 3, 3, 0.5, quietNaN, random, 1, 0.05)));
+    EXPECT_TRUE(std::isnan(PowerbymlrwES(50, 3, 3, quietNaN, random, 1, 0.05)));
+    EXPECT_TRUE(std::isnan(PowerbymlrwES(50, 3, 3, 0.1, random, 1, quietNaN)));
+    EXPECT_TRUE(std::isnan(PowerbymlrwES(quietNaN, 3, 3, 1e300, random, 1, 0.05)));
   }
 }
 
 TEST(PowerbymlrwES, AnswersForEveryEffect) {
-  EXPECT_EQ(PowerbymlrwES(50, 3, 3, -0.1, kFixed, 1, 0.05), 1);
-  for (const double effect : {-0.1, -1.0, -2.0, -1e300, -kInfinity})
-    EXPECT_TRUE(std::isnan(PowerbymlrwES(50, 3, 3, effect, kRandom, 1, 0.05))) << effect;
-  for (const int random : {kFixed, kRandom}) {
+  EXPECT_EQ(PowerbymlrwES(50, 3, 3, -0.1, withFixed, 1, 0.05), 1);
+  for (const double effect : {-0.1, -1.0, -2.0, -1e300, -infinite})
+    EXPECT_TRUE(std::isnan(PowerbymlrwES(50, 3, 3, effect, withRandom, 1, 0.05))) << effect;
+  for (const int random : {withFixed, withRandom}) {
     EXPECT_EQ(PowerbymlrwES(50, 3, 3, 1e300, random, 1, 0.05), 1);
-    EXPECT_EQ(PowerbymlrwES(50, 3, 3, kInfinity, random, 1, 0.05), 1);
+    EXPECT_EQ(PowerbymlrwES(50, 3, 3, infinite, random, 1, 0.05), 1);
   }
 }
 
 TEST(Powerbymlr, CountsEveryOtherByteAsOneIntercept) {
   for (const int flag : {2, 7, 255}) {
-    EXPECT_EQ(PowerbymlrwES(50, 3, 3, 0.1, kFixed, static_cast<std::uint8_t>(flag), 0.05),
-              PowerbymlrwES(50, 3, 3, 0.1, kFixed, 1, 0.05));
+    EXPECT_EQ(PowerbymlrwES(50, 3, 3, 0.1, withFixed, static_cast<std::uint8_t>(flag), 0.05),
+              PowerbymlrwES(50, 3, 3, 0.1, withFixed, 1, 0.05));
   }
 }
 
 TEST(PowerReversebymlr, GivesTheSizeThatReachesTheTarget) {
-  for (const int random : {kFixed, kRandom}) {
+  for (const int random : {withFixed, withRandom}) {
     for (const double f2 : {1e-8, 1e-3, 0.02, 0.15, 0.35}) {
       for (const double target : {0.2, 0.8, 0.99}) {
         const double size = PowerReversebymlrwES(target, 6, 2, f2, random, 1, 0.05);
@@ -144,21 +144,21 @@ TEST(PowerReversebymlr, GivesTheSizeThatReachesTheTarget) {
 }
 
 TEST(PowerReversebymlr, StartsAtOneErrorDegreeOfFreedom) {
-  EXPECT_EQ(PowerReversebymlrwES(0.01, 6, 2, 0.1, kRandom, 1, 0.05), 8);
-  EXPECT_EQ(PowerReversebymlrwES(0.01, 6, 2, 0.1, kRandom, 0, 0.05), 7);
+  EXPECT_EQ(PowerReversebymlrwES(0.01, 6, 2, 0.1, withRandom, 1, 0.05), 8);
+  EXPECT_EQ(PowerReversebymlrwES(0.01, 6, 2, 0.1, withRandom, 0, 0.05), 7);
 }
 
 // At a level so small that the critical value is near 1e26, each power once took half a second.
 TEST(PowerReversebymlr, FindsSizesAtTinyLevels) {
-  const double size = PowerReversebymlrwES(0.8, 12079, 1215, 41732, kRandom, 1, 1e-13);
-  EXPECT_NEAR(PowerbymlrwES(size, 12079, 1215, 41732, kRandom, 1, 1e-13), 0.8, 1e-6);
+  const double size = PowerReversebymlrwES(0.8, 12079, 1215, 41732, withRandom, 1, 1e-13);
+  EXPECT_NEAR(PowerbymlrwES(size, 12079, 1215, 41732, withRandom, 1, 1e-13), 0.8, 1e-6);
   EXPECT_LT(size, 12090);
-  EXPECT_EQ(PowerReversebymlrwES(kNaN, 12079, 1215, 41732, kRandom, 1, 1e-13), 12081);
+  EXPECT_EQ(PowerReversebymlrwES(quietNaN, 12079, 1215, 41732, withRandom, 1, 1e-13), 12081);
 }
 
 // Searches that double the size up to half the largest double before they find it, or find that there is none.
 TEST(PowerReversebymlr, WalksToTheLargestSizes) {
-  for (const int random : {kFixed, kRandom}) {
+  for (const int random : {withFixed, withRandom}) {
     EXPECT_TRUE(KelMV::IsMissing(PowerReversebymlrwES(0.8, 5, 5, 0, random, 1, 0.05)));
     EXPECT_TRUE(KelMV::IsMissing(PowerReversebymlrwES(1.5, 5, 5, 0.1, random, 1, 0.05)));
     EXPECT_TRUE(KelMV::IsMissing(PowerReversebymlr(0.8, 5, 5, 1.5, 0, random, 1, 0.05)));

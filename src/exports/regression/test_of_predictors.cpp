@@ -1,4 +1,4 @@
-#include "regression/f_test.h"
+#include "regression/test_of_predictors.h"
 
 #include "exports/regression/model.h"
 #include "exports/sentinels.h"

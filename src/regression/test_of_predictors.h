@@ -1,5 +1,5 @@
-#ifndef KELPOWER_REGRESSION_F_TEST_H
-#define KELPOWER_REGRESSION_F_TEST_H
+#ifndef KELPOWER_REGRESSION_TEST_OF_PREDICTORS_H
+#define KELPOWER_REGRESSION_TEST_OF_PREDICTORS_H
 
 #include <optional>
 
@@ -52,6 +52,10 @@ public:
 
   /// The same to 1e-12, faster where many effects of fixed predictors are asked about.
   double PowerOfMany(const Effect& effect);
+  /// N f^2, of fixed predictors.
+  double Noncentrality(const Effect& effect) const { return size_ * effect.fSquared; }
+
+  const FTest& AtCriticalValue() const { return test_; }
 
 private:
   RegressionTest(const Model& model, double size);

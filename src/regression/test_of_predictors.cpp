@@ -1,4 +1,4 @@
-#include "regression/f_test.h"
+#include "regression/test_of_predictors.h"
 
 #include <cmath>
 #include <limits>
@@ -37,7 +37,7 @@ RegressionTest::RegressionTest(const Model& model, double size)
 
 double RegressionTest::Power(const Effect& effect) const {
   if (isRandom_) return 1 - CdfSquaredMultipleCorrelation(test_, effect.rhoSquared);
-  return test_.Power(size_ * effect.fSquared);
+  return test_.Power(Noncentrality(effect));
 }
 
 double RegressionTest::PowerOfMany(const Effect& effect) {

@@ -1,0 +1,181 @@
+#include "hints.h"
+
+#include <algorithm>
+
+namespace {
+
+/// A word that can mean one test alone.
+struct OtherName {
+  std::string_view word;
+  std::string_view test;
+};
+
+constexpr OtherName otherNames[] = {
+    {"mcnemar", "paired-proportions"},   {"mcnemar-test", "paired-proportions"},
+    {"one-way-anova", "anova"},          {"oneway", "anova"},
+    {"paired-t-test", "paired-means"},   {"paired-ttest", "paired-means"},
+    {"one-sample-t-test", "mean"},       {"two-sample-t-test", "two-means"},
+    {"independent-t-test", "two-means"}, {"welch", "two-means"},
+    {"binomial-test", "proportion"},     {"one-proportion", "proportion"},
+    {"pearson-correlation", "pearson"},  {"spearman-correlation", "spearman"},
+    {"partial-correlation", "partial"},  {"multiple-regression", "regression"},
+};
+
+/// A word, and what is said to it.
+struct Answer {
+  std::string_view word;
+  std::string_view text;
+};
+
+constexpr std::string_view tTests =
+    "t tests are two-means for two groups, paired-means for pairs and mean for one sample";
+constexpr std::string_view chiSquare =
+    "the chi-square test of two groups is two-proportions: its z test squared; there is none of larger tables";
+constexpr std::string_view fisher = "Fisher's exact test is two-proportions with --method conditional";
+constexpr std::string_view correlations = "correlations are pearson, spearman and partial";
+constexpr std::string_view ranks = "there is no test of ranks but spearman; a t test such as two-means is another test";
+constexpr std::string_view survival =
+    "there is no test of survival times; two-proportions at a fixed time is another test";
+
+constexpr Answer answersToTests[] = {
+    {"t-test", tTests},
+    {"ttest", tTests},
+    {"t", tTests},
+    {"student", tTests},
+    {"fisher", fisher},
+    {"fisher-test", fisher},
+    {"fisher-exact", fisher},
+    {"chi-square", chiSquare},
+    {"chisquare", chiSquare},
+    {"chi-squared", chiSquare},
+    {"chisq", chiSquare},
+    {"chi2", chiSquare},
+    {"ancova",
+     "there is no analysis of covariance; regression tests predictors beside covariates, anova has none of them"},
+    {"manova", "there is no multivariate analysis of variance; anova is another test, of one outcome"},
+    {"two-way-anova", "there is no two-way analysis; contrast tests single effects of the cells taken as groups"},
+    {"repeated-measures", "there is no analysis of repeated measures but paired-means, of two of them"},
+    {"correlation", correlations},
+    {"r", correlations},
+    {"kendall", "there is no test of Kendall's tau; spearman is another test, of Spearman's rho"},
+    {"f-test", "F tests are anova, of group means, and regression, of predictors"},
+    {"tukey", "pairwise tests pairs of groups, with Bonferroni's or Sidak's adjustment in place of Tukey's"},
+    {"wilcoxon", ranks},
+    {"mann-whitney", ranks},
+    {"kruskal-wallis", ranks},
+    {"logistic", "there is no logistic regression; two-proportions with --odds-ratio tests a predictor of two groups"},
+    {"log-rank", survival},
+    {"logrank", survival},
+    {"survival", survival},
+    {"binomial", "tests of proportions are proportion, two-proportions and paired-proportions"},
+    {"proportions", "tests of proportions are proportion, two-proportions and paired-proportions"},
+    {"means", "tests of means are mean, two-means, paired-means and anova"},
+    {"z-test", "z tests are proportion and two-proportions; with a standard deviation that is known, mean is near"},
+    {"help", "write kelpower --help, or kelpower TEST --help"},
+};
+
+/// What is said to an option where the test has an input.
+struct OptionAnswer {
+  std::string_view option;
+  std::string_view input;
+  std::string_view text;
+};
+
+constexpr std::string_view sizesOfGroups = "--n gives the size of each group, so divide the total among them";
+constexpr std::string_view sizesOfTwo = "give the sizes of the groups as --n N1,N2";
+constexpr std::string_view oneSided = "tests are two-sided unless --one-sided is given";
+constexpr std::string_view confidence = "give --alpha 0.05 for a confidence of 95%";
+constexpr std::string_view level = "--alpha is the significance level";
+
+constexpr OptionAnswer answersToOptions[] = {
+    {"--total", "ratio", sizesOfGroups},
+    {"--total", "ratios", sizesOfGroups},
+    {"--total", "n", "--n is the total sample size here"},
+    {"--n-total", "ratio", sizesOfGroups},
+    {"--n-total", "ratios", sizesOfGroups},
+    {"--n-total", "n", "--n is the total sample size here"},
+    {"--n1", "ratio", sizesOfTwo},
+    {"--n1", "ratios", sizesOfTwo},
+    {"--n2", "ratio", sizesOfTwo},
+    {"--n2", "ratios", sizesOfTwo},
+    {"--npergroup", "ratio", "--n N gives each group the size N"},
+    {"--npergroup", "ratios", "--n N gives each group the size N"},
+    {"--delta", "mean-difference", "give --mean-difference, or --effect-d for the difference in standard deviations"},
+    {"--delta", "risk-difference", "give --risk-difference with --proportion1"},
+    {"--delta", "test-value",
+     "give --mean and --test-value, or --effect-d for their difference in standard deviations"},
+    {"--delta", "means", "give --means"},
+    {"--diff", "mean-difference", "give --mean-difference"},
+    {"--diff", "risk-difference", "give --risk-difference with --proportion1"},
+    {"--difference", "mean-difference", "give --mean-difference"},
+    {"--difference", "risk-difference", "give --risk-difference with --proportion1"},
+    {"--effect", "effect-d", "give --effect-d"},
+    {"--effect", "effect-f", "give --effect-f or --eta-squared"},
+    {"--effect", "effect-f2", "give --effect-f2 or --r-squared"},
+    {"--effect-size", "effect-d", "give --effect-d"},
+    {"--effect-size", "effect-f", "give --effect-f or --eta-squared"},
+    {"--effect-size", "effect-f2", "give --effect-f2 or --r-squared"},
+    {"--d", "effect-f", "the effect size of several groups is --effect-f"},
+    {"--f", "effect-d", "the effect size here is --effect-d"},
+    {"--f", "effect-f2", "the effect size here is --effect-f2, the square of f"},
+    {"--h", "risk-difference", "give the proportions themselves with --proportions"},
+    {"--w", "risk-difference", "give the proportions themselves with --proportions"},
+    {"--p", "proportions", "give --proportions P1,P2"},
+    {"--p", "proportion", "give --proportion and --null"},
+    {"--p1", "proportion1", "give --proportion1"},
+    {"--p2", "proportion2", "give --proportion2"},
+    {"--p0", "null", "give --null"},
+    {"--mu", "test-value", "give --mean, and --test-value for the mean under the null hypothesis"},
+    {"--null-mean", "test-value", "give --test-value"},
+    {"--k", "groups", "give --groups"},
+    {"--rr", "risk-ratio", "give --risk-ratio with --proportion1"},
+    {"--or", "odds-ratio", "give --odds-ratio with --proportion1"},
+    {"--variance", "sd", "--sd is the standard deviation, the root of the variance"},
+    {"--sigma", "sd", "give --sd"},
+    {"--std", "sd", "give --sd"},
+    {"--allocation", "ratio", "give --ratio, the second size over the first"},
+    {"--allocation", "ratios", "give --ratios"},
+    {"--confidence", "alpha", confidence},
+    {"--conf-level", "alpha", confidence},
+    {"--confidence-level", "alpha", confidence},
+    {"--level", "alpha", level},
+    {"--sig-level", "alpha", level},
+    {"--significance", "alpha", level},
+    {"--beta", "power", "--power is 1 minus beta"},
+    {"--sides", "one-sided", oneSided},
+    {"--tails", "one-sided", oneSided},
+    {"--alternative", "one-sided", oneSided},
+    {"--two-sided", "one-sided", oneSided},
+    {"--one-tailed", "one-sided", "give --one-sided"},
+    {"--welch", "mean-difference", "--sd S1,S2 with two standard deviations that differ is Welch's test"},
+    {"--unequal-variances", "mean-difference", "--sd S1,S2 with two standard deviations that differ is Welch's test"},
+    {"--paired", "ratio", "paired measurements are another test: paired-means or paired-proportions"},
+    {"--yates", "correction", "give --correction"},
+    {"--fisher", "method", "Fisher's test is --method conditional"},
+    {"--width", "half-width", "--half-width is half of the width"},
+    {"--margin", "half-width", "give --half-width"},
+    {"--precision", "half-width", "give --half-width"},
+};
+
+}  // namespace
+
+std::vector<std::string> OtherNamesOf(std::string_view test) {
+  std::vector<std::string> names;
+  for (const auto& [word, meant] : otherNames) {
+    if (meant == test) names.emplace_back(word);
+  }
+  return names;
+}
+
+std::string HintForTest(std::string_view word) {
+  const auto* found = std::find_if(std::begin(answersToTests), std::end(answersToTests),
+                                   [&](const Answer& answer) { return answer.word == word; });
+  return found == std::end(answersToTests) ? "" : std::string(found->text);
+}
+
+std::string HintForOption(const planner::Test& test, std::string_view option) {
+  for (const auto& [word, input, text] : answersToOptions) {
+    if (word == option && planner::FindParameter(test, input)) return std::string(text);
+  }
+  return "";
+}

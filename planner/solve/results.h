@@ -1,0 +1,37 @@
+#ifndef KELPOWER_PLANNER_SOLVE_RESULTS_H
+#define KELPOWER_PLANNER_SOLVE_RESULTS_H
+
+#include <string>
+#include <vector>
+
+#include "model/test.h"
+
+namespace planner {
+
+/// How a result is read. Results come in this order.
+enum class Reading {
+  Figure,     // a number of some scale
+  Sizes,      // a list of counts, one for each group
+  Size,       // a count
+  Power,      // a probability
+  HalfWidth,  // in the unit of the data
+};
+
+/// A result that the answers of a route have, known before any of them is computed.
+struct ResultColumn {
+  std::string name;
+  std::string label;
+  Reading reading;
+  const Derived* derived = nullptr;  // of a figure; null for the number that is solved for
+  bool isLasting = false;            // of sizes: those from which on all reach the target
+};
+
+/// The results of the route's answers, in the order of a report. `unknown` is what is solved for with the route, or
+/// null; `isUneven` says whether the power jumps with the size. Figures may be missing in an answer.
+std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, const Unknown* unknown, bool isUneven);
+
+double TotalOf(const Numbers& sizes);
+
+}  // namespace planner
+
+#endif

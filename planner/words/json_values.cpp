@@ -1,0 +1,53 @@
+#include "words/json_values.h"
+
+#include <cmath>
+#include <nlohmann/json.hpp>
+
+#include "words/numbers.h"
+
+namespace planner {
+
+void AppendJsonText(std::string& out, std::string_view text) {
+  using Json = nlohmann::json;
+  out += Json(text).dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+void AppendJson(std::string& out, const Numbers& numbers) {
+  out += '[';
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    if (i > 0) out += ',';
+    AppendShortest(out, numbers[i]);
+  }
+  out += ']';
+}
+
+void AppendJson(std::string& out, const Value& value) {
+  if (const auto* flag = std::get_if<bool>(&value)) {
+    out += *flag ? "true" : "false";
+  } else if (const auto* number = std::get_if<double>(&value)) {
+    AppendShortest(out, *number);
+  } else if (const auto* numbers = std::get_if<Numbers>(&value)) {
+    AppendJson(out, *numbers);
+  } else {
+    AppendJsonText(out, std::get<std::string>(value));
+  }
+}
+
+void OpenObject::AddNumber(std::string_view name, double number) { AppendShortest(Begin(name), number); }
+
+std::string& OpenObject::Begin(std::string_view name) {
+  if (!isEmpty_) out_ += ',';
+  isEmpty_ = false;
+  AppendJsonText(out_, name);
+  return out_ += ':';
+}
+
+void AppendCsvResult(const DesignAnswer& answer, std::size_t column, std::string& out) {
+  if ((*answer.columns)[column].reading == Reading::Sizes) {
+    out += ListedWithSpaces(answer.SizesOf((*answer.columns)[column]));
+  } else if (!std::isnan(answer.values[column])) {
+    AppendShortest(out, answer.values[column]);
+  }
+}
+
+}  // namespace planner

@@ -1,0 +1,181 @@
+"""The page docs/other-programs.md: how other programs are asked what kelpower answers, with what they say.
+
+page.py write KELPOWER PAGE    runs kelpower and R, and writes the page.
+page.py check KELPOWER PAGE    the page is what they say now. Where R or its package pwr is not installed, only
+                               kelpower's side is compared, what was left out is said, and the status is 77.
+
+A call that kelpower calls the same must agree: a power within 1e-6, a size once it is rounded up. One that it says
+differs must differ.
+"""
+
+import json
+import math
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+QUESTIONS = [
+    "mean --mean 104 --test-value 100 --sd 10 --n 40",
+    "mean --effect-d 0.4 --power 0.8 --one-sided",
+    "mean --sd 10 --n 40 --interval",
+    "paired-means --means 25,21 --sds 8,7 --correlation 0.6 --n 30",
+    "paired-means --mean-difference 4 --sd-difference 8 --power 0.9",
+    "paired-means --sds 8,7 --correlation 0.6 --n 30 --interval",
+    "two-means --effect-d 0.5 --power 0.8",
+    "two-means --effect-d 0.6 --n 90,60 --one-sided",
+    "two-means --means 52,47 --sd 10 --n 40",
+    "two-means --means 52,47 --sd 10,14 --n 40",
+    "two-means --sd 10,14 --n 40 --interval",
+    "anova --means 10,12,15 --sd 6 --power 0.9",
+    "anova --effect-f 0.25 --n 30,30,40",
+    "anova --sd 6 --n 20 --groups 3 --interval",
+    "contrast --coefficients -0.5,-0.5,1 --means 10,12,15 --sd 6 --n 20",
+    "contrast --coefficients 1,-1,0 --effect-d 0.5 --n 40 --one-sided",
+    "pairwise --pair 1,3 --means 10,12,15 --sd 6 --n 20",
+    "pairwise --pair 1,2 --groups 3 --sd 6 --n 20 --interval",
+    "regression --effect-f2 0.15 --predictors 5 --n 80",
+    "regression --r-squared 0.3 --r-squared-reduced 0.25 --predictors 6 --tested 2 --n 139",
+    "regression --r-squared 0.1 --predictors 5 --n 95 --random",
+    "pearson --r 0.3 --n 84",
+    "pearson --r 0.5 --null 0.2 --n 84 --one-sided --adjust-bias",
+    "pearson --r 0.3 --n 84 --interval",
+    "spearman --r 0.3 --n 84",
+    "spearman --r 0.3 --n 84 --interval",
+    "partial --r 0.3 --partialled-out 3 --n 84",
+    "proportion --proportion 0.65 --null 0.5 --n 60",
+    "proportion --proportion 0.65 --null 0.5 --n 60 --correction --one-sided",
+    "proportion --proportion 0.65 --null 0.8 --n 72 --exact",
+    "proportion --proportion 0.2 --n 40 --interval --interval-method wilson",
+    "proportion --proportion 0.2 --n 40 --interval --interval-method clopper-pearson",
+    "paired-proportions --p12 0.08 --p21 0.32 --n 50",
+    "paired-proportions --p12 0.08 --p21 0.32 --n 50 --exact --one-sided",
+    "paired-proportions --p12 0.3 --p21 0.1 --n 100 --interval",
+    "two-proportions --proportions 0.5,0.75 --n 50 --pooled",
+    "two-proportions --proportions 0.5,0.75 --power 0.8 --pooled",
+    "two-proportions --proportions 0.5,0.75 --n 50,100 --correction --one-sided",
+    "two-proportions --proportions 0.5,0.75 --n 50 --method t --pooled",
+    "two-proportions --proportions 0.5,0.75 --n 50 --method arcsine",
+    "two-proportions --proportions 0.5,0.75 --n 50,100 --method likelihood-ratio",
+    "two-proportions --proportions 0.5,0.75 --n 30 --method conditional",
+    "two-proportions --proportions 0.8,0.6 --n 70,80 --interval --interval-method wald",
+]
+
+HEAD = """# The same question in other programs
+
+`kelpower TEST ... --explain` tells how pwr, base R, G*Power and SAS are asked the same. This page has it for one
+question or more of each test. The calls of R, with its package pwr, are run by the tests, which compare the answers;
+their numbers stand behind the calls. G*Power and SAS are not run, so nothing here says that their numbers were seen:
+their calls follow their manuals, and stand only where we are sure of them.
+
+A size that R gives is not rounded up. Where a program's answer differs, the reason is said.
+"""
+
+
+def run_kelpower(program, question):
+    done = subprocess.run([program, *question.split(), "--explain", "--format", "json"], capture_output=True, text=True,
+                          check=True)
+    return json.loads(done.stdout)
+
+
+def answer_of(reply):
+    """The kind of the answer and its value: a first size that was found, a power or a half-width."""
+    results = reply["results"]
+    if reply["question"] == "sample-size":
+        return "size", results["sizes"][0] if "sizes" in results else results["n"]
+    kind = "half-width" if reply["question"].endswith("half-width") else "power"
+    return kind, results[kind]
+
+
+def runs_in_r(call):
+    return call["program"] in ("R", "pwr") and "(" in call["call"]
+
+
+def run_r(calls):
+    """What R says to each call; None for those of pwr where it is not installed."""
+    script = ["havePwr <- suppressWarnings(require(pwr, quietly = TRUE))"]
+    for call in calls:
+        line = f'cat(sprintf("%.17g\\n", {call["call"]}))'
+        script.append(f'if (havePwr) {line} else cat("none\\n")' if call["program"] == "pwr" else line)
+    with tempfile.NamedTemporaryFile("w", suffix=".R") as file:
+        file.write("\n".join(script))
+        file.flush()
+        done = subprocess.run(["Rscript", "--vanilla", file.name], capture_output=True, text=True, check=True)
+    answers = done.stdout.split()
+    assert len(answers) == len(calls), done.stdout
+    return [None if answer == "none" else float(answer) for answer in answers]
+
+
+def disagreement(call, kind, ours, theirs, target):
+    """Why the answers do not stand to each other as the call says; empty when they do."""
+    is_size = re.search(r"\$n$", call["call"])
+    if is_size:
+        same = math.ceil(theirs - 1e-4) == ours
+    else:
+        same = abs(theirs - (target if kind == "size" else ours)) < 1e-6
+    if same == call["same"]:
+        return ""
+    return f"{call['program']} says {theirs} to {call['call']}, which should {'' if call['same'] else 'not '}be {ours}"
+
+
+def sections(program, with_r):
+    """The text of the page after its head, and what is wrong."""
+    replies = [(question, run_kelpower(program, question)) for question in QUESTIONS]
+    asked = [call for _, reply in replies for call in reply["details"]["programs"] if runs_in_r(call)]
+    said = dict(zip(map(id, asked), run_r(asked))) if with_r else {}
+    text, problems, missing_pwr = "", [], False
+    test = ""
+    for question, reply in replies:
+        if reply["test"] != test:
+            test = reply["test"]
+            text += f"\n## {test}\n"
+        kind, ours = answer_of(reply)
+        at_sizes = reply["results"].get("power", ours)
+        text += f"\n`kelpower {question}`: {kind} {ours:.6g}\n\n"
+        for call in reply["details"]["programs"]:
+            theirs = said.get(id(call))
+            if theirs is not None:
+                problem = disagreement(call, kind, ours, theirs, at_sizes)
+                problems += [f"{question}: {problem}"] if problem else []
+            missing_pwr = missing_pwr or (with_r and runs_in_r(call) and theirs is None)
+            text += f"- {call['program']}: `{call['call']}`"
+            text += f" gives {theirs:.6g}" if theirs is not None else ""
+            text += "" if call["same"] else "; differs"
+            text += f": {call['remark']}" if call.get("remark") else ""
+            text += "\n"
+        if not reply["details"]["programs"]:
+            text += "- none of the four answers it\n"
+    return text, problems, missing_pwr
+
+
+def without_their_numbers(text):
+    return re.sub(r"` gives [-+.e0-9]+", "`", text)
+
+
+def main():
+    if len(sys.argv) != 4 or sys.argv[1] not in ("write", "check"):
+        sys.exit(__doc__)
+    mode, program, page = sys.argv[1], sys.argv[2], Path(sys.argv[3])
+    with_r = shutil.which("Rscript") is not None
+    text, problems, missing_pwr = sections(program, with_r)
+    is_whole = with_r and not missing_pwr
+    if mode == "write":
+        if not is_whole:
+            sys.exit("R with its package pwr is needed to write the page: tools/install_packages.sh peers")
+        page.write_text(HEAD + text)
+    else:
+        wanted, shown = HEAD + text, page.read_text()
+        if not is_whole:
+            wanted, shown = without_their_numbers(wanted), without_their_numbers(shown)
+            print(f"SKIPPED: {'pwr is' if with_r else 'R is'} not installed, so its answers are not compared")
+        if wanted != shown:
+            problems.append(f"{page} is out of date: tools/other_programs/page.py write")
+    print("\n".join(problems) or f"{len(QUESTIONS)} questions agree")
+    skipped = 77  # which the test reports as such
+    sys.exit(1 if problems else 0 if is_whole else skipped)
+
+
+if __name__ == "__main__":
+    main()
