@@ -5,7 +5,7 @@
 
 #include "model/chart.h"
 
-// Axes that the charts of several tests share.
+// Axes that the charts of several tests share. Those of sizes are in size_axes.cpp.
 namespace planner {
 
 /// The usual ranges of axes, from the design and its power.

@@ -1,59 +1,15 @@
+#include "catalogue/pairwise.h"
+
 #include <algorithm>
 #include <utility>
 
-#include "anova/contrast.h"
-#include "catalogue/axes.h"
 #include "catalogue/charts.h"
-#include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
 
 namespace planner {
 namespace {
-
-namespace anova = kelpower::anova;
-
-/// The mean with the smaller number less the other one.
-Numbers Contrast(const Inputs& in) {
-  const auto [first, second] = std::minmax(in.List("pair")[0], in.List("pair")[1]);
-  return anova::PairContrast(in.Groups(), static_cast<int>(first), static_cast<int>(second));
-}
-
-double EffectOfMeans(const Inputs& in) {
-  return anova::ContrastValue(Contrast(in), in.List("means")) / in.Number("sd");
-}
-
-/// The level of the one comparison.
-double Level(const Inputs& in) {
-  return anova::AdjustedAlpha(anova::Adjustment(in.Choice("adjust")), in.Groups(), in.Alpha());
-}
-
-constexpr bool oneSided = false;
-
-double Power(const Inputs& in) {
-  const Numbers contrast = Contrast(in);
-  return OrNaN(anova::Power({contrast, in.List("n"), EffectOfMeans(in), oneSided, Level(in)}, TotalSize(in)));
-}
-
-Numbers Sizes(const Inputs& in) {
-  const Numbers contrast = Contrast(in);
-  const Numbers weights = in.Weights();
-  const anova::ContrastDesign design{contrast, weights, EffectOfMeans(in), oneSided, Level(in)};
-  return SpreadByShares(anova::TotalForPower(design, in.Number("power")), weights);
-}
-
-double HalfWidth(const Inputs& in) {
-  const Numbers contrast = Contrast(in);
-  return anova::HalfWidth({contrast, in.List("n"), in.Number("sd"), Level(in)}, TotalSize(in));
-}
-
-Numbers SizesForHalfWidth(const Inputs& in) {
-  const Numbers contrast = Contrast(in);
-  const Numbers weights = in.Weights();
-  const anova::ContrastInterval interval{contrast, weights, in.Number("sd"), Level(in)};
-  return SpreadByRatios(anova::TotalForHalfWidth(interval, in.Number("half-width")), weights);
-}
 
 std::vector<Parameter> Parameters() {
   return {
@@ -68,31 +24,6 @@ std::vector<Parameter> Parameters() {
              {"sidak", 1, "with Sidak's adjustment for all pairs of groups"},
              {"none", 2, "without adjustment for other pairs of groups"}})
           .Default("bonferroni"),
-  };
-}
-
-std::vector<Route> Routes() {
-  return {
-      {.question = Question::Power,
-       .needs = {"pair", "means", "sd", "n"},
-       .accepts = {"groups", "adjust"},
-       .exportName = "PowerPairwiseDiff",
-       .value = Power},
-      {.question = Question::SampleSize,
-       .needs = {"pair", "means", "sd"},
-       .accepts = {"ratios", "groups", "adjust"},
-       .exportName = "PowerReversePairwiseDiff",
-       .sizes = Sizes},
-      {.question = Question::HalfWidth,
-       .needs = {"pair", "sd", "n"},
-       .accepts = {"groups", "adjust"},
-       .exportName = "HalfCIPairwiseDiff",
-       .value = HalfWidth},
-      {.question = Question::SampleSizeForHalfWidth,
-       .needs = {"pair", "sd"},
-       .accepts = {"ratios", "groups", "adjust"},
-       .exportName = "PowerReversebyHalfCIPairwiseDiff",
-       .sizes = SizesForHalfWidth},
   };
 }
 
@@ -118,19 +49,19 @@ Test PairwiseTest() {
             .about = "Tests whether two of the groups have equal means, at a level adjusted for all pairs of groups.",
             .groups = groupsFromInputs};
   test.parameters = Parameters();
-  test.routes = Routes();
+  test.routes = RoutesOfPairwise();
   test.conditions = Conditions();
   test.sizeExists = {
       {.code = "no-effect",
        .about = {"means"},
-       .holds = [](const Inputs& in) { return EffectOfMeans(in) != 0; },
+       .holds = [](const Inputs& in) { return EffectOfPair(in) != 0; },
        .sentence = "The two means are equal: without a difference, no sample size reaches the power."},
   };
   test.derived = {
       {.name = "effect-d",
        .label = "standardized difference d",
        .needs = {"means", "sd", "pair"},
-       .call = EffectOfMeans},
+       .call = EffectOfPair},
   };
   test.charts = ChartsOfPairwise();
   AddWordsOfPairwise(test);

@@ -1,4 +1,5 @@
-#include <algorithm>
+#include "catalogue/partial.h"
+
 #include <utility>
 
 #include "catalogue/core.h"
@@ -12,12 +13,6 @@ namespace planner {
 namespace {
 
 namespace correlation = kelpower::correlation;
-
-constexpr double mostPartialledOut = 1e5;
-
-double PartialledOut(const Inputs& in) { return in.Number("partialled-out"); }
-
-double SmallestSize(const Inputs& in) { return PartialledOut(in) + 4; }
 
 /// The test of a partial correlation corrects the bias, and its interval does not.
 correlation::PearsonTest TestOf(const Inputs& in) {
@@ -40,37 +35,6 @@ Numbers SizeForHalfWidth(const Inputs& in) {
   return RoundedUp(correlation::SizeForHalfWidth(IntervalOf(in), in.Number("half-width"), StopOf(in)));
 }
 
-std::optional<Problem> RefuseDrawnSizes(const Inputs& in, const Range& sizes) {
-  constexpr double sizesBeyondPartialledOut = 5000;
-  return RefuseSizes(sizes, {SmallestSize(in), PartialledOut(in) + sizesBeyondPartialledOut});
-}
-
-// The chart has a point for each case; beyond this there would be more than it can show.
-constexpr double largestPartialledOutSize = 1e6;
-
-std::optional<Problem> RefuseManyCases(const Inputs& in, const Range&) {
-  if (in.Number("n") <= largestPartialledOutSize) return std::nullopt;
-  return Problem{.code = Code::ChartRangeRefused,
-                 .inputs = {"chart", "n"},
-                 .sentence = "{chart} partialled-out has a point for each case: {n} must be at most 1000000."};
-}
-
-Chart OverVariablesPartialledOut() {
-  Axis axis{.title = "variables partialled out",
-            .symbol = "k",
-            .limits = {0, mostPartialledOut, true, true, true},
-            .input = Name("partialled-out"),
-            .usual = [](const Inputs& in, double) -> Range {
-              return {0, std::max(in.Number("n") - 5, 1.0)};
-            },
-            .refuse = RefuseManyCases};
-  return {.name = "partialled-out",
-          .axes = {std::move(axis)},
-          .needs = {"r", "partialled-out", "n"},
-          .accepts = {"null", "one-sided"},
-          .example = "partial --r 0.3 --partialled-out 3 --n 84 --chart partialled-out --from 0 --to 60"};
-}
-
 }  // namespace
 
 Test PartialTest() {
@@ -86,7 +50,7 @@ Test PartialTest() {
                                .size = Size,
                                .halfWidth = HalfWidth,
                                .sizeForHalfWidth = SizeForHalfWidth,
-                               .refuseSizes = RefuseDrawnSizes});
+                               .refuseSizes = RefusePartialSizes});
   test.parameters = {
       Correlation("correlation expected"),
       NullCorrelation(),
@@ -100,10 +64,10 @@ Test PartialTest() {
   test.conditions = {
       {.code = "error-degrees",
        .about = {"n", "partialled-out"},
-       .holds = [](const Inputs& in) { return in.Number("n") >= SmallestSize(in); },
+       .holds = [](const Inputs& in) { return in.Number("n") >= SmallestPartialSize(in); },
        .sentence = "{n} must exceed the number of variables partialled out by at least 4."},
   };
-  test.charts.push_back(OverVariablesPartialledOut());
+  test.charts.push_back(PowerOverVariablesPartialledOut());
   AddWordsOfPartial(test);
   return WithCommonParameters(std::move(test));
 }

@@ -1,41 +1,17 @@
 #include "catalogue/regression.h"
 
-#include <algorithm>
-#include <cmath>
 #include <utility>
 
-#include "catalogue/axes.h"
 #include "catalogue/charts.h"
-#include "catalogue/core.h"
 #include "catalogue/correlation_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
-#include "regression/test_of_predictors.h"
 
 namespace planner {
 namespace {
 
-namespace regression = kelpower::regression;
-
-double Tested(const Inputs& in) { return in.Has("tested") ? in.Number("tested") : Predictors(in); }
-
-double Reduced(const Inputs& in) { return in.Has("r-squared-reduced") ? in.Number("r-squared-reduced") : 0; }
-
-double EffectOfFits(const Inputs& in) { return (in.Number("r-squared") - Reduced(in)) / (1 - in.Number("r-squared")); }
-
-regression::Model ModelOf(const Inputs& in) {
-  return {Predictors(in), Tested(in), in.Flag("random"), Intercept(in), in.Alpha()};
-}
-
-regression::Effect EffectOf(const Inputs& in) {
-  if (in.Has("effect-f2")) return regression::Effect::OfFSquared(in.Number("effect-f2"));
-  return regression::Effect::OfRSquared(in.Number("r-squared"), Reduced(in));
-}
-
-double Power(const Inputs& in) { return OrNaN(regression::Power(ModelOf(in), in.Number("n"), EffectOf(in))); }
-
-Numbers Size(const Inputs& in) {
-  return RoundedUp(regression::SizeForPower(ModelOf(in), EffectOf(in), in.Number("power")));
+double EffectOfFits(const Inputs& in) {
+  return (in.Number("r-squared") - ReducedFit(in)) / (1 - in.Number("r-squared"));
 }
 
 std::vector<Parameter> Parameters() {
@@ -59,47 +35,20 @@ std::vector<Parameter> Parameters() {
   };
 }
 
-std::vector<Route> Routes() {
-  const Names ofFits{"r-squared-reduced", "tested", "random", "no-intercept"};
-  const Names ofEffect{"tested", "random", "no-intercept"};
-  return {
-      {.question = Question::Power,
-       .needs = {"r-squared", "predictors", "n"},
-       .accepts = ofFits,
-       .exportName = "Powerbymlr",
-       .value = Power},
-      {.question = Question::Power,
-       .needs = {"effect-f2", "predictors", "n"},
-       .accepts = ofEffect,
-       .exportName = "PowerbymlrwES",
-       .value = Power},
-      {.question = Question::SampleSize,
-       .needs = {"r-squared", "predictors"},
-       .accepts = ofFits,
-       .exportName = "PowerReversebymlr",
-       .sizes = Size},
-      {.question = Question::SampleSize,
-       .needs = {"effect-f2", "predictors"},
-       .accepts = ofEffect,
-       .exportName = "PowerReversebymlrwES",
-       .sizes = Size},
-  };
-}
-
 std::vector<Condition> Conditions() {
   return {
       {.code = "tested-predictors",
        .about = {"predictors", "tested"},
-       .holds = [](const Inputs& in) { return Tested(in) <= Predictors(in); },
+       .holds = [](const Inputs& in) { return TestedPredictors(in) <= Predictors(in); },
        .sentence = "{tested} must not exceed {predictors}."},
       {.code = "reduced-fit",
        .about = {"r-squared", "r-squared-reduced"},
-       .holds = [](const Inputs& in) { return Reduced(in) <= in.Number("r-squared"); },
+       .holds = [](const Inputs& in) { return ReducedFit(in) <= in.Number("r-squared"); },
        .sentence =
            "{r-squared-reduced} must not exceed {r-squared}: predictors cannot explain less than some of them."},
       {.code = "reduced-model",
        .about = {"r-squared-reduced", "predictors"},
-       .holds = [](const Inputs& in) { return Reduced(in) == 0 || Tested(in) < Predictors(in); },
+       .holds = [](const Inputs& in) { return ReducedFit(in) == 0 || TestedPredictors(in) < Predictors(in); },
        .sentence =
            "{r-squared-reduced} above 0 needs predictors that are not tested: give {tested}, below {predictors}."},
       {.code = "error-degrees",
@@ -115,7 +64,7 @@ std::vector<Condition> SizeExists() {
   return {
       {.code = "no-effect",
        .about = {"r-squared"},
-       .holds = [](const Inputs& in) { return in.Number("r-squared") > Reduced(in); },
+       .holds = [](const Inputs& in) { return in.Number("r-squared") > ReducedFit(in); },
        .sentence = "The predictors tested explain nothing: without an effect, no sample size reaches the power."},
       {.code = "no-effect",
        .about = {"effect-f2"},
@@ -132,7 +81,7 @@ Test RegressionTest() {
             .about = "Tests whether some or all predictors of a multiple linear regression add nothing.",
             .counted = "cases"};
   test.parameters = Parameters();
-  test.routes = Routes();
+  test.routes = RoutesOfRegression();
   test.conditions = Conditions();
   test.sizeExists = SizeExists();
   test.derived = {

@@ -1,0 +1,48 @@
+#include <cmath>
+
+#include "catalogue/mean_parameters.h"
+#include "catalogue/paired_means.h"
+
+namespace planner {
+namespace {
+
+bool DifferencesSpread(const Inputs& in) {
+  const Numbers& sds = in.List("sds");
+  return sds[0] != sds[1] || std::abs(in.Number("correlation")) != 1;
+}
+
+}  // namespace
+
+std::vector<Condition> ConditionsOfPairedMeans() {
+  return {
+      {.code = "uncorrelated-pairs",
+       .about = {"means", "correlation"},
+       .holds = [](const Inputs& in) { return in.Number("correlation") != 0; },
+       .sentence = "{correlation} is 0: measurements that do not correlate are not pairs; two-means tests them."},
+      {.code = "one-sided-correlation",
+       .about = {"means", "correlation"},
+       .holds = [](const Inputs& in) { return in.Number("correlation") < 1 || !in.Flag("one-sided"); },
+       .sentence = "{correlation} of a one-sided test must be below 1."},
+      {.code = "differences-spread",
+       .about = {"means", "correlation"},
+       .holds = DifferencesSpread,
+       .sentence =
+           "{sds} are equal and {correlation} is 1 or -1, which the test refuses: give {sd-difference} instead."},
+  };
+}
+
+std::vector<Condition> SizeExistsForPairedMeans() {
+  return {
+      {.code = "no-effect",
+       .about = {"means"},
+       .holds = [](const Inputs& in) { return in.List("means")[0] != in.List("means")[1]; },
+       .sentence = "The two means are equal: without a difference, no sample size reaches the power."},
+      {.code = "no-effect",
+       .about = {"mean-difference"},
+       .holds = [](const Inputs& in) { return in.Number("mean-difference") != 0; },
+       .sentence = "The mean difference is zero: without a difference, no sample size reaches the power."},
+      HasEffectD(),
+  };
+}
+
+}  // namespace planner
