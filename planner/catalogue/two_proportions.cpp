@@ -21,18 +21,6 @@ bool IsConditional(const Inputs& in) { return TestOf(in) == TwoProportionTest::C
 
 bool IsExact(const Inputs& in) { return in.Flag("exact") || IsConditional(in); }
 
-double FirstProportion(const Inputs& in) {
-  return in.Has("proportions") ? in.List("proportions")[0] : in.Number("proportion1");
-}
-
-double SecondProportion(const Inputs& in) {
-  if (in.Has("proportions")) return in.List("proportions")[1];
-  const double first = FirstProportion(in);
-  if (in.Has("risk-difference")) return first - in.Number("risk-difference");
-  if (in.Has("risk-ratio")) return first / in.Number("risk-ratio");
-  return SecondOfOddsRatio(first, in.Number("odds-ratio"));
-}
-
 kelpower::proportions::IndependentDesign DesignOf(const Inputs& in) {
   return {TestOf(in),       IsExact(in), in.Flag("one-sided"), in.Alpha(), in.Flag("continuity-correction"),
           in.Flag("pooled")};
@@ -41,18 +29,6 @@ kelpower::proportions::IndependentDesign DesignOf(const Inputs& in) {
 kelpower::proportions::IndependentSizes WantedOf(const Inputs& in) {
   return {FirstProportion(in), SecondProportion(in), in.Number("ratio")};
 }
-
-double RiskDifference(const Inputs& in) { return FirstProportion(in) - SecondProportion(in); }
-
-double RiskRatio(const Inputs& in) { return FirstProportion(in) / SecondProportion(in); }
-
-double OddsRatio(const Inputs& in) {
-  const double first = FirstProportion(in);
-  const double second = SecondProportion(in);
-  return first / (1 - first) / (second / (1 - second));
-}
-
-double SecondOfOddsRatio(double first, double oddsRatio) { return first / (first + oddsRatio * (1 - first)); }
 
 std::vector<Names> EffectsOfTwoProportions() {
   return {{"proportions"},
@@ -108,12 +84,7 @@ Test TwoProportionsTest() {
   test.routes = RoutesOfTwoProportions();
   test.conditions = ConditionsOfTwoProportions();
   test.sizeExists = SizeExistsForTwoProportions();
-  test.derived = {
-      {.name = "proportion2", .label = "second proportion", .needs = {"proportion1"}, .call = SecondProportion},
-      {.name = "risk-difference", .label = "risk difference", .needs = {"proportions"}, .call = RiskDifference},
-      {.name = "risk-ratio", .label = "risk ratio", .needs = {"proportions"}, .call = RiskRatio},
-      {.name = "odds-ratio", .label = "odds ratio", .needs = {"proportions"}, .call = OddsRatio},
-  };
+  test.derived = FiguresOfTwoProportions();
   test.charts = ChartsOfTwoProportions();
   AddWordsOfTwoProportions(test);
   return WithCommonParameters(std::move(test));

@@ -50,7 +50,22 @@ Names With(Names names, Name name);
 std::vector<Parameter> ParametersOfTwoProportions();
 std::vector<Route> RoutesOfTwoProportions();
 std::vector<Condition> ConditionsOfTwoProportions();
+std::vector<Condition> SizeConditionsOfTwoProportions();
 std::vector<Condition> SizeExistsForTwoProportions();
+std::vector<Derived> FiguresOfTwoProportions();
+
+/// About how many steps a power takes: the conditional test goes over tables, the other exact ones over rows.
+double StepsOfTwoProportionsPower(const Inputs& in);
+
+/// Gives the inputs the first proportion of the design and this second one.
+void KeepFirstProportion(Inputs& in, const Inputs& design, double second);
+
+std::vector<Axis> SizeAxesOfTwoProportions();
+std::vector<Axis> ProportionAxesOfTwoProportions();
+Axis SizeRatioAxisOfTwoProportions();
+Axis RiskDifferenceAxisOfTwoProportions();
+Axis RiskRatioAxisOfTwoProportions();
+Axis OddsRatioAxisOfTwoProportions();
 
 }  // namespace planner
 

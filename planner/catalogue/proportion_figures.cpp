@@ -1,0 +1,57 @@
+#include "catalogue/core.h"
+#include "catalogue/proportion.h"
+#include "proportions/lasting_size.h"
+#include "proportions/one_sample_tests.h"
+
+namespace planner {
+namespace {
+
+namespace proportions = kelpower::proportions;
+
+proportions::CriticalRegion RegionOf(const Inputs& in) {
+  return proportions::OneSampleTest(OneSampleDesignOf(in)).Region(in.Number("n"), OneSampleProportionsOf(in));
+}
+
+// No number, and so not reported, where no count in that tail rejects.
+double LargestLowRejection(const Inputs& in) {
+  const double count = RegionOf(in).lower;
+  return count < 0 ? OrNaN(kelpower::NoValue::NotReached) : count;
+}
+
+double SmallestHighRejection(const Inputs& in) {
+  const double count = RegionOf(in).upper;
+  return count > in.Number("n") ? OrNaN(kelpower::NoValue::NotReached) : count;
+}
+
+double AttainedLevel(const Inputs& in) {
+  return proportions::OneSampleTest(OneSampleDesignOf(in)).AttainedLevel(in.Number("n"), OneSampleProportionsOf(in));
+}
+
+double LastingSize(const Inputs& in) {
+  return OrNaN(proportions::LastingSize(OneSampleDesignOf(in), OneSampleProportionsOf(in), in.Number("power")));
+}
+
+}  // namespace
+
+std::vector<Derived> FiguresOfProportion() {
+  return {
+      {.name = "rejects-to",
+       .label = "rejects up to this count",
+       .needs = {"proportion", "null", "n", "exact"},
+       .call = LargestLowRejection},
+      {.name = "rejects-from",
+       .label = "rejects from this count",
+       .needs = {"proportion", "null", "n", "exact"},
+       .call = SmallestHighRejection},
+      {.name = "attained-level",
+       .label = "significance level attained",
+       .needs = {"proportion", "null", "n", "exact"},
+       .call = AttainedLevel},
+      {.name = "lasting-n",
+       .label = "from here on every sample size reaches the power",
+       .needs = {"proportion", "null", "exact", "power"},
+       .call = LastingSize},
+  };
+}
+
+}  // namespace planner
