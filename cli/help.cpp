@@ -51,16 +51,6 @@ std::string Usage(const Test& test, const Route& route) {
   return text;
 }
 
-/// Whether the line of another route says all that this one's would, such as that of the one-sided form of a test.
-bool IsCovered(const Test& test, const Route& route) {
-  return std::any_of(test.routes.begin(), test.routes.end(), [&](const Route& other) {
-    const auto takes = [&](Name name) { return other.Takes(name); };
-    return other.question == route.question && other.needs == route.needs &&
-           other.accepts.size() > route.accepts.size() &&
-           std::all_of(route.accepts.begin(), route.accepts.end(), takes);
-  });
-}
-
 std::string UsageSection(const Test& test, const Highlights& highlights) {
   std::string text;
   for (Question question :
@@ -68,7 +58,7 @@ std::string UsageSection(const Test& test, const Highlights& highlights) {
     if (!Answers(test, question)) continue;
     text += fmt::format("{}To be told {}{}\n", highlights.heading, Wording(question), highlights.end);
     for (const Route& route : test.routes) {
-      if (route.question == question && !IsCovered(test, route)) text += "  " + Usage(test, route) + '\n';
+      if (route.question == question) text += "  " + Usage(test, route) + '\n';
     }
     text += '\n';
   }

@@ -8,6 +8,14 @@
 
 namespace planner {
 
+/// The core, called with the inputs of the test.
+struct CorrelationCalls {
+  double (*power)(const Inputs&);
+  Numbers (*size)(const Inputs&);
+  double (*halfWidth)(const Inputs&);
+  Numbers (*sizeForHalfWidth)(const Inputs&);
+};
+
 /// What is particular to the test of one kind of correlation.
 struct CorrelationKind {
   std::string name;     // "pearson"
@@ -22,11 +30,7 @@ struct CorrelationKind {
   Names accepts = {};                 // inputs of the method
   double mostPartialledOut = 0;
 
-  // The core, called with the inputs of the test.
-  double (*power)(const Inputs&);
-  Numbers (*size)(const Inputs&);
-  double (*halfWidth)(const Inputs&);
-  Numbers (*sizeForHalfWidth)(const Inputs&);
+  CorrelationCalls calls;
 
   /// The problem of sizes that the charts cannot draw with these inputs. Null where they draw all.
   std::optional<Problem> (*refuseSizes)(const Inputs&, const Range&) = nullptr;

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "catalogue/core.h"
 #include "catalogue/correlation.h"
+#include "catalogue/correlation_calls.h"
 #include "catalogue/correlation_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
@@ -23,18 +23,6 @@ correlation::PearsonInterval IntervalOf(const Inputs& in) {
   return {correlation::Confidence(in.Alpha()), in.Number("r"), PartialledOut(in), false};
 }
 
-double Power(const Inputs& in) { return OrNaN(correlation::Power(TestOf(in), in.Number("n"), HypothesesOf(in))); }
-
-Numbers Size(const Inputs& in) {
-  return RoundedUp(correlation::SizeForPower(TestOf(in), HypothesesOf(in), in.Number("power"), StopOf(in)));
-}
-
-double HalfWidth(const Inputs& in) { return correlation::HalfWidth(IntervalOf(in), in.Number("n")); }
-
-Numbers SizeForHalfWidth(const Inputs& in) {
-  return RoundedUp(correlation::SizeForHalfWidth(IntervalOf(in), in.Number("half-width"), StopOf(in)));
-}
-
 }  // namespace
 
 Test PartialTest() {
@@ -46,10 +34,7 @@ Test PartialTest() {
                                .exampleArguments = " --partialled-out 3",
                                .needs = {"partialled-out"},
                                .mostPartialledOut = mostPartialledOut,
-                               .power = Power,
-                               .size = Size,
-                               .halfWidth = HalfWidth,
-                               .sizeForHalfWidth = SizeForHalfWidth,
+                               .calls = CallsWith<TestOf, IntervalOf>(),
                                .refuseSizes = RefusePartialSizes});
   test.parameters = {
       Correlation("correlation expected"),

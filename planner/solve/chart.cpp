@@ -126,13 +126,17 @@ void CheckEnds(const Axis& axis, const Inputs& inputs, const Range& range) {
   throw InputError({.code = Code::ChartEndsDescend, .inputs = {"from", "to"}, .values = {range.from, range.to}});
 }
 
+[[noreturn]] void RejectUnknownRange(const Chart& chart) {
+  throw InputError({.code = Code::ChartRangeUnknown, .inputs = {"chart", "from", "to"}, .words = {chart.name}});
+}
+
 Range UsualRange(const Chart& chart, const Axis& axis, const Inputs& inputs, double power) {
   if (axis.IsOfSizes() && axis.PlaceOf(inputs) > largestUsualTotal) {
     throw InputError({.code = Code::ChartSizesUnknown, .inputs = {"from", "to"}, .values = {largestUsualTotal}});
   }
   const Range range = axis.usual(inputs, power);
   if (range.from < range.to && std::isfinite(range.to - range.from)) return range;
-  throw InputError({.code = Code::ChartRangeUnknown, .inputs = {"chart", "from", "to"}, .words = {chart.name}});
+  RejectUnknownRange(chart);
 }
 
 std::vector<Range> RangesOf(const Chart& chart, const ChartRequest& request, const Inputs& inputs, double power) {
@@ -192,9 +196,7 @@ bool CanBeDrawn(const Series& series) {
 }
 
 [[noreturn]] void RejectEmpty(const Chart& chart, const ChartRequest& request, const Series& series) {
-  if (request.from.empty()) {
-    throw InputError({.code = Code::ChartRangeUnknown, .inputs = {"chart", "from", "to"}, .words = {chart.name}});
-  }
+  if (request.from.empty()) RejectUnknownRange(chart);
   if (!series.power.empty()) throw InputError({.code = Code::ChartWithoutPower, .inputs = {"from", "to"}});
   RejectRanges(chart);
 }
