@@ -20,7 +20,10 @@ std::string Option(Name name) { return OptionOf(name.Text()); }
 /// "--n, --group-sizes LIST"
 std::string OptionText(const Parameter& parameter) {
   std::string text = Option(parameter.name);
-  for (const std::string& alias : parameter.aliases) text += ", --" + alias;
+  for (const std::string& alias : parameter.aliases) {
+    // What answers call a target is understood as an option too.
+    if (alias != fmt::format("target-{}", parameter.name.Text())) text += ", --" + alias;
+  }
   switch (parameter.kind) {
     case Kind::Flag: return text;
     case Kind::Number: return text + " NUMBER";
@@ -122,16 +125,6 @@ std::string Usage(const Test& test, const Route& route) {
   return text;
 }
 
-/// Whether the line of another route says all that this one's would, such as that of the one-sided form of a test.
-bool IsCovered(const Test& test, const Route& route) {
-  return std::any_of(test.routes.begin(), test.routes.end(), [&](const Route& other) {
-    const auto takes = [&](Name name) { return other.Takes(name); };
-    return other.question == route.question && other.needs == route.needs &&
-           other.accepts.size() > route.accepts.size() &&
-           std::all_of(route.accepts.begin(), route.accepts.end(), takes);
-  });
-}
-
 const char* HeadingOf(Question question) {
   switch (question) {
     case Question::Power: return "Power of a design";
@@ -163,7 +156,7 @@ std::string UsageSection(const Test& test, const Highlights& highlights) {
     if (!Answers(test, question)) continue;
     text += fmt::format("{}{}{}\n", highlights.heading, HeadingOf(question), highlights.end);
     for (const Route& route : test.routes) {
-      if (route.question == question && !IsCovered(test, route)) text += "  " + Usage(test, route) + '\n';
+      if (route.question == question) text += "  " + Usage(test, route) + '\n';
     }
     text += '\n';
   }

@@ -8,6 +8,14 @@
 
 namespace planner {
 
+/// The core, called with the inputs of the test.
+struct CorrelationCalls {
+  double (*power)(const Inputs&);
+  Numbers (*size)(const Inputs&);
+  double (*halfWidth)(const Inputs&);
+  Numbers (*sizeForHalfWidth)(const Inputs&);
+};
+
 /// What is particular to the test of one kind of correlation.
 struct CorrelationKind {
   std::string name;     // "pearson"
@@ -20,11 +28,7 @@ struct CorrelationKind {
   Names needs = {};                   // inputs besides `r` and `n`
   Names accepts = {};                 // inputs of the method
 
-  // The core, called with the inputs of the test.
-  double (*power)(const Inputs&);
-  Numbers (*size)(const Inputs&);
-  double (*halfWidth)(const Inputs&);
-  Numbers (*sizeForHalfWidth)(const Inputs&);
+  CorrelationCalls calls;
 };
 
 /// The description of the test of a correlation: routes, sentences and axes. The caller adds parameters, conditions and

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "catalogue/core.h"
 #include "catalogue/correlation.h"
+#include "catalogue/correlation_calls.h"
 #include "catalogue/correlation_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
@@ -28,18 +28,6 @@ correlation::PearsonInterval IntervalOf(const Inputs& in) {
   return {correlation::Confidence(in.Alpha()), in.Number("r"), PartialledOut(in), false};
 }
 
-double Power(const Inputs& in) { return OrNaN(correlation::Power(TestOf(in), in.Number("n"), HypothesesOf(in))); }
-
-Numbers Size(const Inputs& in) {
-  return RoundedUp(correlation::SizeForPower(TestOf(in), HypothesesOf(in), in.Number("power"), StopOf(in)));
-}
-
-double HalfWidth(const Inputs& in) { return correlation::HalfWidth(IntervalOf(in), in.Number("n")); }
-
-Numbers SizeForHalfWidth(const Inputs& in) {
-  return RoundedUp(correlation::SizeForHalfWidth(IntervalOf(in), in.Number("half-width"), StopOf(in)));
-}
-
 }  // namespace
 
 Test PartialTest() {
@@ -49,10 +37,7 @@ Test PartialTest() {
                                .definition = "two variables, given others,",
                                .given = " given {partialled-out} variables",
                                .needs = {"partialled-out"},
-                               .power = Power,
-                               .size = Size,
-                               .halfWidth = HalfWidth,
-                               .sizeForHalfWidth = SizeForHalfWidth});
+                               .calls = CallsWith<TestOf, IntervalOf>()});
   test.parameters = {
       Correlation("correlation expected"),
       NullCorrelation(),

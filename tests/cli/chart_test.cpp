@@ -198,4 +198,16 @@ TEST_F(ChartFiles, NeedGnuplotForADrawing) {
   EXPECT_EQ(table.status, 0);
 }
 
+TEST_F(ChartFiles, SayThatGnuplotFailed) {
+  const std::filesystem::path fake = folder / "gnuplot";
+  std::ofstream(fake) << "#!/bin/sh\nexit 1\n";
+  std::filesystem::permissions(fake, std::filesystem::perms::owner_all);
+  const std::string path = std::getenv("PATH");
+  setenv("PATH", (folder.string() + ":" + path).c_str(), 1);
+  const Outcome run = RunProgram(Words(design + " --chart n"));
+  setenv("PATH", path.c_str(), 1);
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.err, "kelpower: The chart cannot be drawn: gnuplot failed.\n");
+}
+
 }  // namespace

@@ -88,6 +88,23 @@ TEST(Chart, EveryTestOfGroupsHasACurveOverSizes) {
             PowerIndSampBinom(50, 50, 0.5, 0.75, 0, 0, 0, 0.05, 0, 0, nullptr));
 }
 
+TEST(Chart, UsualRangesOfPairedProportionsHaveAPowerAtEachPoint) {
+  for (const std::string name : {"ratio", "odds-ratio"}) {
+    for (const auto& [p12, p21] : {std::pair(0.3, 0.1), std::pair(0.6, 0.2)}) {
+      const InputValues pairs{{"p12", p12}, {"p21", p21}, {"n", 60.0}};
+      const ChartData chart = ComputeChart(*FindTest("paired-proportions"), Named(name), pairs);
+      ASSERT_GT(chart.First().x.size(), 50u) << name << ' ' << p12;
+      for (double power : chart.First().value) EXPECT_TRUE(power > 0 && power <= 1) << name << ' ' << p12;
+    }
+  }
+}
+
+TEST(Chart, UsualRangeOfAnEffectHoldsTheDesign) {
+  const InputValues regression{{"effect-f2", 0.15}, {"predictors", 5.0}, {"n", 80.0}};
+  const ChartData chart = ComputeChart(*FindTest("regression"), Named("effect-f2"), regression);
+  EXPECT_EQ(MarkOf(chart).at, Numbers{0.15});
+}
+
 TEST(Chart, DeviationCurveIsThePowerAtEachDeviation) {
   const ChartData chart = Anova({"sd", {2}, {12}, 0.25});
   ASSERT_EQ(chart.First().x, (Numbers{2, 4.5, 7, 9.5, 12}));
