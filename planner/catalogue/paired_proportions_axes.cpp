@@ -1,3 +1,5 @@
+#include <limits>
+
 #include "catalogue/axes.h"
 #include "catalogue/paired_proportions.h"
 
@@ -41,7 +43,11 @@ Axis RatioAxis() {
                 } else {
                   in.Set("p12", at * P21(design));
                 }
-              }};
+              },
+          .scale = [](const Inputs& in) -> Range {
+            if (VariesP21(in)) return {Odds(P12(in)), std::numeric_limits<double>::infinity()};
+            return {0, 1 / Odds(P21(in))};
+          }};
 }
 
 Axis OddsRatioAxis() {
@@ -55,7 +61,10 @@ Axis OddsRatioAxis() {
               [](Inputs& in, const Inputs& design, double at) {
                 const double p12 = P12(design);
                 in.Set("p21", p12 / ((1 - p12) * at + p12));
-              }};
+              },
+          .scale = [](const Inputs& in) -> Range {
+            return {Odds(P12(in)) * Odds(P12(in)), std::numeric_limits<double>::infinity()};
+          }};
 }
 
 }  // namespace

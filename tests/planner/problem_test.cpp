@@ -43,7 +43,7 @@ TEST(Problem, IsWordedInTheNamesOfAFrontEnd) {
 
 TEST(Problem, SaysWhatAFlagMustBe) {
   const Problem problem = ProblemOf("mean", {{"effect-d", 0.4}, {"n", 40.0}, {"one-sided", 1.0}});
-  EXPECT_EQ(SentenceTemplate(problem), "{one-sided} is 1, but must be yes or no.");
+  EXPECT_EQ(SentenceTemplate(problem), "{one-sided} is 1, but must be true or false.");
 }
 
 TEST(Problem, NamesInputsThatDoNotGoTogether) {
