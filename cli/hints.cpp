@@ -151,6 +151,7 @@ constexpr OptionAnswer answersToOptions[] = {
     {"--unequal-variances", "mean-difference", "--sd S1,S2 with two standard deviations that differ is Welch's test"},
     {"--paired", "ratio", "paired measurements are another test: paired-means or paired-proportions"},
     {"--yates", "correction", "give --correction"},
+    {"--pooled", "unpooled", "the standard error is pooled unless --unpooled is given"},
     {"--fisher", "method", "Fisher's test is --method conditional"},
     {"--width", "half-width", "--half-width is half of the width"},
     {"--margin", "half-width", "give --half-width"},

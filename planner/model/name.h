@@ -61,7 +61,6 @@ private:
       "p21",
       "pair",
       "partialled-out",
-      "pooled",
       "power",
       "predictors",
       "proportion",
@@ -86,6 +85,7 @@ private:
       "test-value",
       "tested",
       "to",
+      "unpooled",
       "variance",
   };
 
