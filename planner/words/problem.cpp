@@ -269,6 +269,7 @@ std::string Wording(Question question) {
     case Question::SampleSize: return "the sample size";
     case Question::HalfWidth: return "the half-width";
     case Question::SampleSizeForHalfWidth: return "the sample size for a half-width";
+    case Question::EffectSizes: return "the effect sizes";
   }
   return "";
 }
