@@ -273,9 +273,6 @@ void ReadEffect(const CLI::App& command, Request& request) {
   }
   request.values = ValuesOf(alternatives);
   request.isExplained = FlagOf(command, "explain");
-  if (request.values.empty()) {
-    throw UsageError("Nothing to convert is given; \"kelpower effect --help\" names what can be.");
-  }
   if (request.format == Format::Ndjson) throw UsageError("--format of effect must be text, json, csv or markdown.");
   if (request.isExplained && request.format == Format::Csv) {
     throw UsageError("--explain does not go with --format csv: text, json and markdown have room for it.");
@@ -318,6 +315,9 @@ Request RequestOf(const CLI::App& app) {
     ReadTest(command, request);
   }
   if (const auto extras = app.remaining(true); !extras.empty()) RejectExtra(command, extras.front());
+  if (isEffect && request.values.empty()) {
+    throw UsageError("Nothing to convert is given; \"kelpower effect --help\" names what can be.");
+  }
   return request;
 }
 

@@ -8,8 +8,9 @@ namespace {
 Effects Described() {
   Effects effects{.inputs = {.name = "effect",
                              .title = "Effect sizes",
-                             .about = "Converts what a study reports into effect sizes: means and standard deviations, "
-                                      "test statistics, correlations,\nproportions and counts, or another effect size."}};
+                             .about =
+                                 "Converts what a study reports into effect sizes: means and standard deviations, "
+                                 "test statistics, correlations,\nproportions and counts, or another effect size."}};
   effects.inputs.whenNot =
       "With the sizes of the study each has its confidence interval. What you give decides what is converted.";
   effects.inputs.parameters = ParametersOfEffects();

@@ -6,8 +6,8 @@ namespace {
 using Gives = std::vector<std::string>;
 
 /// With the sizes unknown some of these cannot be computed, and are left out.
-const Gives fromD{"d", "g", "r", "f", "f2", "eta-squared", "superiority", "u3", "approximate-odds-ratio",
-                  "noncentrality"};
+const Gives fromD{
+    "d", "g", "r", "f", "f2", "eta-squared", "superiority", "u3", "approximate-odds-ratio", "noncentrality"};
 const Gives fromDz{"dz", "gz", "noncentrality"};
 const Gives fromF{"f2", "f", "eta-squared", "omega-squared", "noncentrality"};
 const Gives fromRSquared{"f2", "r-squared", "adjusted-r-squared", "noncentrality"};
@@ -48,15 +48,16 @@ void AddConversionsOfTwoMeans(Effects& effects) {
 
 void AddConversionsOfOneSample(Effects& effects) {
   const auto add = [&](std::string title, Names needs, Names accepts, std::string given, std::vector<EffectUse> uses) {
-    effects.conversions.push_back({std::move(title), std::move(needs), std::move(accepts), std::move(given), "dz", fromDz,
-                                   std::move(uses)});
+    effects.conversions.push_back(
+        {std::move(title), std::move(needs), std::move(accepts), std::move(given), "dz", fromDz, std::move(uses)});
   };
   add("One sample, or pairs", {"mean", "sd"}, {"test-value", "n"},
       "a mean of {mean} against {test-value} with a standard deviation of {sd}{in-sample}", usesOfMean);
   add("", {"means", "sd", "correlation"}, {"n"},
       "means of {means} with {sds} and a correlation of {correlation}{in-pairs}", usesOfPairs);
   add("", {"mean-difference", "sd-difference"}, {"n"},
-      "differences with a mean of {mean-difference} and a standard deviation of {sd-difference}{in-pairs}", usesOfPairs);
+      "differences with a mean of {mean-difference} and a standard deviation of {sd-difference}{in-pairs}",
+      usesOfPairs);
   add("", {"t", "n", "one-sample"}, {}, "a t of one sample or of pairs of {t}{in-sample}", usesOfDz);
   add("", {"t", "df", "one-sample"}, {}, "a t of one sample or of pairs of {t} on {df} degrees of freedom", usesOfDz);
   add("", {"effect-d", "n", "one-sample"}, {}, "a Cohen's dz of {effect-d}{in-sample}", usesOfDz);
@@ -77,21 +78,27 @@ void AddConversionsOfVariance(Effects& effects) {
   add("", {"effect-f", "df"}, {"n"}, "a Cohen's f of {effect-f} on {df} degrees of freedom{in-sample}", "eta-squared",
       fromF, usesOfF);
   add("Regression", {"r-squared"}, {}, "an R squared of {r-squared}", "f2", fromRSquared, usesOfF2);
-  add("", {"r-squared", "predictors", "n"}, {}, "an R squared of {r-squared} with predictors: {predictors}{in-sample}",
-      "f2", fromRSquared, usesOfF2);
+  add("", {"r-squared", "predictors", "n"}, {}, "an R squared of {r-squared}{with-predictors}{in-sample}", "f2",
+      fromRSquared, usesOfF2);
   add("", {"effect-f2"}, {}, "an f squared of {effect-f2}", "r-squared", fromRSquared, usesOfF2);
-  add("", {"effect-f2", "predictors", "n"}, {}, "an f squared of {effect-f2} with predictors: {predictors}{in-sample}",
-      "r-squared", fromRSquared, usesOfF2);
+  add("", {"effect-f2", "predictors", "n"}, {}, "an f squared of {effect-f2}{with-predictors}{in-sample}", "r-squared",
+      fromRSquared, usesOfF2);
 }
 
 void AddConversionsOfCorrelations(Effects& effects) {
   const Gives fromR{"r", "fisher-z", "r-squared", "f2", "d"};
   auto& all = effects.conversions;
-  all.push_back({"Correlations", {"r"}, {"n"}, "a correlation of {r}{in-sample}", "r", fromR,
-                 {{"pearson", "r", {"r"}}}, "r-squared"});
+  all.push_back({"Correlations",
+                 {"r"},
+                 {"n"},
+                 "a correlation of {r}{in-sample}",
+                 "r",
+                 fromR,
+                 {{"pearson", "r", {"r"}}},
+                 "r-squared"});
   all.push_back({"", {"correlations"}, {"n"}, "correlations of {correlations}{in-groups}", "q", {"q"}});
-  all.push_back({"", {"effect-q", "r"}, {}, "a Cohen's q of {effect-q} from a correlation of {r}", "second-r",
-                 {"q", "second-r"}});
+  all.push_back(
+      {"", {"effect-q", "r"}, {}, "a Cohen's q of {effect-q} and a correlation of {r}", "second-r", {"q", "second-r"}});
 }
 
 void AddConversionsOfProportions(Effects& effects) {
@@ -99,21 +106,25 @@ void AddConversionsOfProportions(Effects& effects) {
                               "h",           "log-odds-ratio", "approximate-d",   "approximate-r"};
   const std::vector<EffectUse> uses{{"two-proportions", "proportions", {"proportion1", "proportion2"}}};
   const auto add = [&](std::string title, Names needs, Names accepts, std::string given, const std::string& tells) {
-    effects.conversions.push_back({std::move(title), std::move(needs), std::move(accepts), std::move(given), tells,
-                                   fromProportions, uses});
+    effects.conversions.push_back(
+        {std::move(title), std::move(needs), std::move(accepts), std::move(given), tells, fromProportions, uses});
   };
   add("Proportions and counts of two groups", {"proportions"}, {"n"}, "proportions of {proportions}{in-groups}", "h");
   add("", {"events", "n"}, {}, "events of {events}{in-groups}", "odds-ratio");
   add("", {"counts"}, {}, "counts of {counts}", "odds-ratio");
   add("", {"proportion1", "odds-ratio"}, {"n"},
-      "an odds ratio of {odds-ratio} from a proportion of {proportion1}{in-groups}", "proportion2");
+      "an odds ratio of {odds-ratio} and a first proportion of {proportion1}{in-groups}", "proportion2");
   add("", {"proportion1", "risk-ratio"}, {"n"},
-      "a risk ratio of {risk-ratio} from a proportion of {proportion1}{in-groups}", "proportion2");
+      "a risk ratio of {risk-ratio} and a first proportion of {proportion1}{in-groups}", "proportion2");
   add("", {"proportion1", "risk-difference"}, {"n"},
-      "a risk difference of {risk-difference} from a proportion of {proportion1}{in-groups}", "proportion2");
+      "a risk difference of {risk-difference} and a first proportion of {proportion1}{in-groups}", "proportion2");
   add("", {"proportion1", "effect-h"}, {"n"},
-      "a Cohen's h of {effect-h} from a proportion of {proportion1}{in-groups}", "proportion2");
-  effects.conversions.push_back({"", {"odds-ratio"}, {}, "an odds ratio of {odds-ratio}", "approximate-d",
+      "a Cohen's h of {effect-h} and a first proportion of {proportion1}{in-groups}", "proportion2");
+  effects.conversions.push_back({"",
+                                 {"odds-ratio"},
+                                 {},
+                                 "an odds ratio of {odds-ratio}",
+                                 "approximate-d",
                                  {"odds-ratio", "log-odds-ratio", "approximate-d", "approximate-r"},
                                  {{"two-proportions", "odds-ratio", {"odds-ratio"}}}});
 }

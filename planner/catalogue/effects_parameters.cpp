@@ -7,8 +7,9 @@ void AddOfMeans(std::vector<Parameter>& parameters) {
   parameters.insert(
       parameters.end(),
       {List("means", "group means", "means of two groups, or of the two measurements of pairs").Length(2),
-       Number("mean-difference", "difference of the means", "first mean minus the second, or mean of the differences of pairs"),
-       List("sd", "standard deviations", "standard deviation within the groups, or one for each").Above(0).Spreads(),
+       Number("mean-difference", "difference of the means",
+              "first mean minus the second, or mean of the differences of pairs"),
+       List("sd", "standard deviation", "standard deviation within the groups, or one for each").Above(0).Spreads(),
        Number("sd-difference", "SD of the differences", "standard deviation of the differences of pairs").Above(0),
        Number("correlation", "correlation of the pairs", "correlation of the two measurements of pairs")
            .Above(-1)
@@ -30,14 +31,20 @@ void AddStatistics(std::vector<Parameter>& parameters) {
 void AddEffects(std::vector<Parameter>& parameters) {
   parameters.insert(
       parameters.end(),
-      {Number("effect-d", "effect size d", "Cohen's d: first mean minus the second, in standard deviations").Alias("d").AtLeast(-1e6).AtMost(1e6),
+      {Number("effect-d", "effect size d", "Cohen's d: first mean minus the second, in standard deviations")
+           .Alias("d")
+           .AtLeast(-1e6)
+           .AtMost(1e6),
        Number("hedges-g", "Hedges' g", "Hedges' g: d corrected for its bias").Alias("g").AtLeast(-1e6).AtMost(1e6),
        Number("superiority", "probability of superiority",
               "probability that someone of the first group has more than someone of the second")
            .Above(0)
            .Below(1),
        Number("effect-f", "effect size f", "Cohen's f of group means").AtLeast(0).AtMost(1e6),
-       Number("effect-f2", "effect size f squared", "Cohen's f squared of a regression").Alias("f2").AtLeast(0).AtMost(1e12),
+       Number("effect-f2", "effect size f squared", "Cohen's f squared of a regression")
+           .Alias("f2")
+           .AtLeast(0)
+           .AtMost(1e12),
        Number("eta-squared", "eta squared", "share of the variance that groups explain").AtLeast(0).Below(1),
        Number("r-squared", "R squared", "share of the variance that predictors explain").AtLeast(0).Below(1),
        Number("predictors", "predictors", "number of predictors of a regression").Whole().AtLeast(1).AtMost(1e6)});
@@ -56,8 +63,7 @@ void AddProportions(std::vector<Parameter>& parameters) {
       parameters.end(),
       {List("proportions", "proportions", "proportions in two groups").Length(2).AtLeast(0).AtMost(1),
        List("events", "events", "numbers of people in two groups who had the event").Length(2).Whole().AtLeast(0),
-       List("counts", "counts",
-            "a table of counts: with and without the event in the first group, then in the second")
+       List("counts", "counts", "a table of counts: with and without the event in the first group, then in the second")
            .Length(4)
            .Whole()
            .AtLeast(0)
@@ -80,13 +86,16 @@ std::vector<Parameter> ParametersOfEffects() {
   AddEffects(parameters);
   AddCorrelations(parameters);
   AddProportions(parameters);
+  parameters.push_back(List("n", "sample size", "size of the study: of two groups one for each, or one that both have")
+                           .Whole()
+                           .AtLeast(1)
+                           .AtMost(1e9)
+                           .Spreads());
   parameters.push_back(
-      List("n", "sample sizes", "size of the study: of two groups one for each, or one that both have")
-          .Whole()
-          .AtLeast(1)
-          .AtMost(1e9)
-          .Spreads());
-  parameters.push_back(Number("confidence", "confidence", "confidence of the intervals, which need the sizes of the study").Above(0).Below(1).Default(0.95));
+      Number("confidence", "confidence", "confidence of the intervals, which need the sizes of the study")
+          .Above(0)
+          .Below(1)
+          .Default(0.95));
   return parameters;
 }
 

@@ -74,13 +74,15 @@ void AddRatios(std::vector<EffectFormula>& formulas) {
   formulas.push_back({.effect = "risk-difference",
                       .compute = RiskDifference,
                       .formula = "p2 - p1",
-                      .source = borenstein + "chapter 5; its interval by the scores of both proportions (Newcombe 1998, "
-                                             "Statistics in Medicine 17, 873-890, method 10)"});
+                      .source = borenstein +
+                                "chapter 5; its interval by the scores of both proportions (Newcombe 1998, "
+                                "Statistics in Medicine 17, 873-890, method 10)"});
   formulas.push_back({.effect = "risk-ratio",
                       .compute = RiskRatio,
                       .formula = "p2 / p1",
-                      .source = borenstein + "chapter 5; its interval by the logarithm (Katz et al. 1978, Biometrics 34, "
-                                             "469-474)"});
+                      .source = borenstein +
+                                "chapter 5; its interval by the logarithm (Katz et al. 1978, Biometrics 34, "
+                                "469-474)"});
   formulas.push_back({.effect = "odds-ratio",
                       .needs = {"proportion1"},
                       .compute = OddsRatio,
@@ -105,17 +107,19 @@ void AddRatios(std::vector<EffectFormula>& formulas) {
   formulas.push_back({.effect = "h",
                       .compute = CohensH,
                       .formula = "h = 2 asin(sqrt(p2)) - 2 asin(sqrt(p1)); its interval h -+ z sqrt(1 / n1 + 1 / n2)",
-                      .source = "Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., section "
-                                "6.2"});
+                      .source =
+                          "Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., section "
+                          "6.2"});
 }
 
 void AddApproximations(std::vector<EffectFormula>& formulas) {
-  formulas.push_back({.effect = "approximate-d",
-                      .from = "odds-ratio",
-                      .map = [](double ratio, const Inputs&) { return core::CohensDOfOddsRatio(ratio); },
-                      .formula = "d = ln(odds ratio) sqrt(3) / pi",
-                      .source = "Chinn (2000), Statistics in Medicine 19, 3127-3131; " + borenstein + "chapter 7",
-                      .note = "Cohen's d and r are approximate: those of a logistic distribution that was cut in two."});
+  formulas.push_back(
+      {.effect = "approximate-d",
+       .from = "odds-ratio",
+       .map = [](double ratio, const Inputs&) { return core::CohensDOfOddsRatio(ratio); },
+       .formula = "d = ln(odds ratio) sqrt(3) / pi",
+       .source = "Chinn (2000), Statistics in Medicine 19, 3127-3131; " + borenstein + "chapter 7",
+       .note = "Cohen's d and r are approximate: those of a logistic distribution that was cut in two."});
   formulas.push_back({.effect = "approximate-r",
                       .from = "approximate-d",
                       .map = [](double d, const Inputs&) { return core::CorrelationOfCohensD(d); },
@@ -126,16 +130,17 @@ void AddApproximations(std::vector<EffectFormula>& formulas) {
 }  // namespace
 
 void AddEffectsOfProportions(Effects& effects) {
-  effects.sizes.insert(effects.sizes.end(), {{"proportion1", "first proportion", "the first proportion"},
-                                             {"proportion2", "second proportion", "the second proportion"},
-                                             {"risk-difference", "risk difference (second minus first)"},
-                                             {"risk-ratio", "risk ratio (second over first)"},
-                                             {"odds-ratio", "odds ratio (second over first)",
-                                              "the odds ratio of the second group over the first"},
-                                             {"log-odds-ratio", "logarithm of the odds ratio"},
-                                             {"h", "Cohen's h (second minus first)", "Cohen's h of the second group minus the first"},
-                                             {"approximate-d", "Cohen's d, approximate", "Cohen's d approximately"},
-                                             {"approximate-r", "correlation r, approximate"}});
+  effects.sizes.insert(
+      effects.sizes.end(),
+      {{"proportion1", "first proportion", "the first proportion"},
+       {"proportion2", "second proportion", "the second proportion"},
+       {"risk-difference", "risk difference (second minus first)"},
+       {"risk-ratio", "risk ratio (second over first)"},
+       {"odds-ratio", "odds ratio (second over first)", "the odds ratio of the second group over the first"},
+       {"log-odds-ratio", "logarithm of the odds ratio"},
+       {"h", "Cohen's h (second minus first)", "Cohen's h of the second group minus the first"},
+       {"approximate-d", "Cohen's d, approximate", "the approximate Cohen's d"},
+       {"approximate-r", "correlation r, approximate"}});
   AddProportions(effects.formulas);
   AddRatios(effects.formulas);
   AddApproximations(effects.formulas);

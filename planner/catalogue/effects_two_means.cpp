@@ -72,11 +72,8 @@ void AddCohensD(std::vector<EffectFormula>& formulas) {
                       .formula = "d = difference / sd, sd^2 = ((n1 - 1) sd1^2 + (n2 - 1) sd2^2) / (n1 + n2 - 2); "
                                  "without sizes sd^2 = (sd1^2 + sd2^2) / 2",
                       .source = pooled});
-  formulas.push_back({.effect = "d",
-                      .needs = {"t", "n"},
-                      .compute = OfT,
-                      .formula = "d = t sqrt(1 / n1 + 1 / n2)",
-                      .source = pooled});
+  formulas.push_back(
+      {.effect = "d", .needs = {"t", "n"}, .compute = OfT, .formula = "d = t sqrt(1 / n1 + 1 / n2)", .source = pooled});
   formulas.push_back({.effect = "d",
                       .needs = {"t", "df"},
                       .compute = OfT,
@@ -159,12 +156,13 @@ void AddWhatFollowsFromD(std::vector<EffectFormula>& formulas) {
 }  // namespace
 
 void AddEffectsOfTwoMeans(Effects& effects) {
-  effects.sizes.insert(effects.sizes.end(), {{"d", "Cohen's d"},
-                                             {"g", "Hedges' g"},
-                                             {"superiority", "probability of superiority", "the probability of superiority"},
-                                             {"u3", "Cohen's U3"},
-                                             {"approximate-odds-ratio", "odds ratio, approximate"},
-                                             {"noncentrality", "noncentrality"}});
+  effects.sizes.insert(effects.sizes.end(),
+                       {{"d", "Cohen's d"},
+                        {"g", "Hedges' g"},
+                        {"superiority", "probability of superiority", "the probability of superiority"},
+                        {"u3", "Cohen's U3"},
+                        {"approximate-odds-ratio", "odds ratio, approximate"},
+                        {"noncentrality", "noncentrality"}});
   AddCohensD(effects.formulas);
   AddWhatFollowsFromD(effects.formulas);
 }

@@ -19,9 +19,7 @@ EffectValue WithInterval(double value, const Inputs& in) {
 
 std::optional<EffectValue> FSquared(const Inputs& in) { return WithInterval<core::FSquared>(FSquaredOf(in), in); }
 
-std::optional<EffectValue> GivenF(const Inputs& in) {
-  return WithInterval<core::CohensF>(in.Number("effect-f"), in);
-}
+std::optional<EffectValue> GivenF(const Inputs& in) { return WithInterval<core::CohensF>(in.Number("effect-f"), in); }
 
 std::optional<EffectValue> GivenEtaSquared(const Inputs& in) {
   return WithInterval<core::EtaSquared>(in.Number("eta-squared"), in);
@@ -85,17 +83,17 @@ void AddFSquared(std::vector<EffectFormula>& formulas) {
                       .formula = "f2 = R2 / (1 - R2)",
                       .source = cohen + "section 9.2" + interval});
   formulas.push_back({.effect = "f2",
-                      .from = "r",
-                      .map = [](double r, const Inputs&) { return r * r / ((1 - r) * (1 + r)); },
-                      .course = Course::OfMagnitude,
-                      .formula = "f2 = r^2 / (1 - r^2)",
-                      .source = cohen + "section 9.2"});
-  formulas.push_back({.effect = "f2",
                       .from = "f",
                       .map = [](double f, const Inputs&) { return f * f; },
                       .course = Course::OfMagnitude,
                       .formula = "f2 = f^2",
                       .source = cohen + "section 8.2"});
+  formulas.push_back({.effect = "f2",
+                      .from = "r",
+                      .map = [](double r, const Inputs&) { return r * r / ((1 - r) * (1 + r)); },
+                      .course = Course::OfMagnitude,
+                      .formula = "f2 = r^2 / (1 - r^2)",
+                      .source = cohen + "section 9.2"});
 }
 
 void AddWhatFollowsFromFSquared(std::vector<EffectFormula>& formulas) {

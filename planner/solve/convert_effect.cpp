@@ -30,7 +30,8 @@ const EffectValue* Find(const std::vector<EffectResult>& results, const std::str
 
 /// Both limits on the far side of the formula. Where the magnitude alone counts and 0 is inside, the least is at 0.
 std::optional<ConfidenceLimits> Mapped(const EffectFormula& formula, const ConfidenceLimits& from, const Inputs& in) {
-  if (formula.course == Course::Rises) return ConfidenceLimits{formula.map(from.lower, in), formula.map(from.upper, in)};
+  if (formula.course == Course::Rises)
+    return ConfidenceLimits{formula.map(from.lower, in), formula.map(from.upper, in)};
   const double low = std::fabs(from.lower);
   const double high = std::fabs(from.upper);
   const bool holds0 = from.lower <= 0 && from.upper >= 0;

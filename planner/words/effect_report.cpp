@@ -43,7 +43,8 @@ std::vector<Entry> InputEntries(const EffectAnswer& answer) {
     const Name name = parameter.name;
     const bool isTaken = Contains(conversion.needs, name) || Contains(conversion.accepts, name);
     if (!isTaken || !in.Has(name)) continue;
-    const Value value = in.ValueOf(parameter);
+    Value value = in.ValueOf(parameter);
+    if (parameter.spreads && in.List(name).size() == 1) value = in.List(name).front();
     entries.push_back({std::string(name.Text()), parameter.label, value, Shown(value)});
   }
   if (HasAnyInterval(answer)) {
@@ -57,7 +58,8 @@ void AddResult(const EffectResult& result, std::size_t width, std::vector<Entry>
   const auto& [name, label, wording] = *result.size;
   const auto& [value, limits] = result.value;
   if (!limits) return entries.push_back({name, label, value, ForReading(value)});
-  entries.push_back({name, label, value, fmt::format("{:<{}}  ({})", ForReading(value), width, IntervalForReading(*limits))});
+  entries.push_back(
+      {name, label, value, fmt::format("{:<{}}  ({})", ForReading(value), width, IntervalForReading(*limits))});
   const auto addLimit = [&](const char* which, double limit) {
     const std::string suffix = std::string("-") + which;
     entries.push_back({name + suffix, label, limit, ForReading(limit), false, true});
@@ -111,6 +113,10 @@ std::string LookUp(const EffectAnswer& answer, std::string_view name) {
   if (name == "in-groups") return InGroups(in);
   if (name == "in-sample") return in.Has("n") ? " in a sample of " + Listed(in.List("n")) : "";
   if (name == "in-pairs") return in.Has("n") ? fmt::format(" in {} pairs", Listed(in.List("n"))) : "";
+  if (name == "with-predictors") {
+    const double predictors = in.Number("predictors");
+    return fmt::format(" with {} predictor{}", Shortest(predictors), predictors == 1 ? "" : "s");
+  }
   if (name == "sds") {
     const Numbers& sds = in.List("sd");
     return (sds.size() == 1 ? "a standard deviation of " : "standard deviations of ") + ListedInSentence(sds);
@@ -128,9 +134,9 @@ std::string SentenceOf(const EffectAnswer& answer) {
   }
   if (!told) told = &answer.results.front();
   const auto lookUp = [&](std::string_view name) { return LookUp(answer, name); };
-  std::string text = fmt::format("From {}, {} is {}", Expand(conversion.given, lookUp, [](std::string_view) { return false; }),
-                                 told->size->wording.empty() ? told->size->label : told->size->wording,
-                                 ForReading(told->value.value));
+  std::string text =
+      fmt::format("From {}, {} is {}", Expand(conversion.given, lookUp, [](std::string_view) { return false; }),
+                  told->size->wording.empty() ? told->size->label : told->size->wording, ForReading(told->value.value));
   if (told->value.limits) {
     text += fmt::format(" ({} confidence interval {})", Percent(answer.inputs.Number("confidence")),
                         IntervalForReading(*told->value.limits));
@@ -148,7 +154,8 @@ std::string OnIntervals(const EffectAnswer& answer) {
   for (const EffectResult& result : answer.results) {
     if (!result.value.limits) without.push_back(result.size->label);
   }
-  return without.empty() ? "" : fmt::format("No confidence interval can be computed here of {}.", Joined(without, " and "));
+  return without.empty() ? ""
+                         : fmt::format("No confidence interval can be computed here of {}.", Joined(without, " and "));
 }
 
 std::string NoteOf(const EffectAnswer& answer) {

@@ -86,10 +86,10 @@ TEST(Hints, OfEffectSizesTellWhichOptionIsMeant) {
 // An option that a hint names must be one of the test's.
 TEST(Hints, NameOnlyOptionsThatThereAre) {
   const std::regex option("--[a-z0-9-]+");
-  const char* const typed[] = {"--total", "--n1",  "--delta", "--difference", "--effect", "--d",    "--f",
-                               "--p",     "--p0",  "--mu",    "--k",          "--rr",     "--or",   "--sigma",
-                               "--beta",  "--std", "--h",     "--yates",      "--level",  "--width", "--alpha", "--df1",   "--mean1",
-                               "--sd2",   "--r1",  "--r2",    "--eta2",       "--rd",     "--conf-level"};
+  const char* const typed[] = {
+      "--total", "--n1",  "--delta", "--difference", "--effect", "--d",   "--f",    "--p",     "--p0",        "--mu",
+      "--k",     "--rr",  "--or",    "--sigma",      "--beta",   "--std", "--h",    "--yates", "--level",     "--width",
+      "--alpha", "--df1", "--mean1", "--sd2",        "--r1",     "--r2",  "--eta2", "--rd",    "--conf-level"};
   int hints = 0;
   std::vector<planner::Test> all = planner::Tests();
   all.push_back(planner::EffectSizes().inputs);

@@ -1,3 +1,5 @@
+#include "catalogue/effects.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -7,7 +9,6 @@
 #include <set>
 #include <sstream>
 
-#include "catalogue/effects.h"
 #include "solve/convert_effect.h"
 #include "support.h"
 #include "words/effect_report.h"
@@ -68,15 +69,21 @@ bool Holds(const std::string& text, const std::string& part) { return text.find(
 
 /// Arguments that a conversion takes, with usual values.
 std::string Typed(const Names& names) {
-  static const std::map<std::string, std::string> usual = {
-      {"means", "52,47"},      {"mean-difference", "5"}, {"sd", "10"},          {"sd-difference", "9"},
-      {"correlation", "0.4"},  {"mean", "52"},           {"test-value", "50"},  {"t", "2.3"},
-      {"f-statistic", "5"},    {"df", "38"},             {"effect-d", "0.5"},   {"hedges-g", "0.5"},
-      {"superiority", "0.6"},  {"effect-f", "0.25"},     {"effect-f2", "0.15"}, {"eta-squared", "0.06"},
-      {"r-squared", "0.3"},    {"predictors", "3"},      {"r", "0.3"},          {"correlations", "0.5,0.3"},
-      {"effect-q", "0.2"},     {"proportions", "0.3,0.5"}, {"events", "6,10"},  {"counts", "10,90,5,95"},
-      {"proportion1", "0.3"},  {"odds-ratio", "2"},      {"risk-ratio", "1.5"}, {"risk-difference", "0.1"},
-      {"effect-h", "0.2"},     {"n", "20"}};
+  static const std::map<std::string, std::string> usual = {{"means", "52,47"},     {"mean-difference", "5"},
+                                                           {"sd", "10"},           {"sd-difference", "9"},
+                                                           {"correlation", "0.4"}, {"mean", "52"},
+                                                           {"test-value", "50"},   {"t", "2.3"},
+                                                           {"f-statistic", "5"},   {"df", "38"},
+                                                           {"effect-d", "0.5"},    {"hedges-g", "0.5"},
+                                                           {"superiority", "0.6"}, {"effect-f", "0.25"},
+                                                           {"effect-f2", "0.15"},  {"eta-squared", "0.06"},
+                                                           {"r-squared", "0.3"},   {"predictors", "3"},
+                                                           {"r", "0.3"},           {"correlations", "0.5,0.3"},
+                                                           {"effect-q", "0.2"},    {"proportions", "0.3,0.5"},
+                                                           {"events", "6,10"},     {"counts", "10,90,5,95"},
+                                                           {"proportion1", "0.3"}, {"odds-ratio", "2"},
+                                                           {"risk-ratio", "1.5"},  {"risk-difference", "0.1"},
+                                                           {"effect-h", "0.2"},    {"n", "20"}};
   std::string text;
   for (Name name : names) {
     const std::string input(name.Text());
@@ -282,9 +289,9 @@ TEST(EffectConversions, AgreeWhicheverWayTheStudyIsReported) {
   const std::string means = "--means 52,47 --sd 10,12 --n 20,25";
   const EffectAnswer answer = Converted(means);
   const auto typed = [&](const std::string& effect) { return Shortest(Of(answer, effect).value); };
-  for (const std::string& same : {"--effect-d " + typed("d") + " --n 20,25", "--hedges-g " + typed("g") + " --n 20,25",
-                                  "--t " + typed("noncentrality") + " --n 20,25",
-                                  "--superiority " + typed("superiority") + " --n 20,25"}) {
+  for (const std::string& same :
+       {"--effect-d " + typed("d") + " --n 20,25", "--hedges-g " + typed("g") + " --n 20,25",
+        "--t " + typed("noncentrality") + " --n 20,25", "--superiority " + typed("superiority") + " --n 20,25"}) {
     for (const EffectResult& result : answer.results) {
       const EffectValue other = Of(Converted(same), result.size->name);
       EXPECT_NEAR(other.value, result.value.value, 1e-12) << same << ' ' << result.size->name;
@@ -299,22 +306,27 @@ TEST(EffectConversions, ComeBackToWhereTheyBegan) {
     const EffectAnswer answer = Converted("--effect-d " + Shortest(d));
     EXPECT_NEAR(ValueOf("--r " + Shortest(Of(answer, "r").value), "d"), d, 1e-12);
     EXPECT_NEAR(ValueOf("--superiority " + Shortest(Of(answer, "superiority").value), "d"), d, 1e-11);
-    EXPECT_NEAR(ValueOf("--odds-ratio " + Shortest(Of(answer, "approximate-odds-ratio").value), "approximate-d"), d, 1e-12);
+    EXPECT_NEAR(ValueOf("--odds-ratio " + Shortest(Of(answer, "approximate-odds-ratio").value), "approximate-d"), d,
+                1e-12);
     EXPECT_NEAR(ValueOf("--eta-squared " + Shortest(Of(answer, "eta-squared").value), "f"), std::fabs(d) / 2, 1e-12);
   }
   for (const char* effect : {"odds-ratio", "risk-ratio", "risk-difference"}) {
     const double value = ValueOf("--proportions 0.3,0.45", effect);
-    EXPECT_NEAR(ValueOf("--proportion1 0.3 --" + std::string(effect) + ' ' + Shortest(value), "proportion2"), 0.45, 1e-14);
+    EXPECT_NEAR(ValueOf("--proportion1 0.3 --" + std::string(effect) + ' ' + Shortest(value), "proportion2"), 0.45,
+                1e-14);
   }
-  EXPECT_NEAR(ValueOf("--proportion1 0.3 --effect-h " + Shortest(ValueOf("--proportions 0.3,0.45", "h")), "proportion2"),
-              0.45, 1e-14);
-  EXPECT_NEAR(ValueOf("--r 0.5 --effect-q " + Shortest(ValueOf("--correlations 0.5,-0.3", "q")), "second-r"), -0.3, 1e-14);
+  EXPECT_NEAR(
+      ValueOf("--proportion1 0.3 --effect-h " + Shortest(ValueOf("--proportions 0.3,0.45", "h")), "proportion2"), 0.45,
+      1e-14);
+  EXPECT_NEAR(ValueOf("--r 0.5 --effect-q " + Shortest(ValueOf("--correlations 0.5,-0.3", "q")), "second-r"), -0.3,
+              1e-14);
 }
 
 // Two measurements as uncorrelated groups of one standard deviation have sqrt(2) times it between their differences.
 TEST(EffectConversions, OfPairsCountTheirCorrelation) {
   EXPECT_NEAR(ValueOf("--means 52,47 --sd 10 --correlation 0.5 --n 30", "dz"), 0.5, 1e-15);
-  EXPECT_NEAR(ValueOf("--means 52,47 --sd 8,12 --correlation 0.3", "dz"), 5 / std::sqrt(64 + 144 - 2 * 0.3 * 96), 1e-15);
+  EXPECT_NEAR(ValueOf("--means 52,47 --sd 8,12 --correlation 0.3", "dz"), 5 / std::sqrt(64 + 144 - 2 * 0.3 * 96),
+              1e-15);
   EXPECT_NEAR(ValueOf("--mean-difference 5 --sd-difference 10", "dz"), 0.5, 1e-15);
   EXPECT_NEAR(ValueOf("--mean 52 --test-value 47 --sd 10", "dz"), 0.5, 1e-15);
 }
@@ -372,8 +384,8 @@ TEST(EffectConversions, WithoutEventsLeaveOutWhatDividesByThem) {
 }
 
 TEST(EffectConversions, RefuseWhatDoesNotFit) {
-  EXPECT_EQ(Refusal("--sd 10"),
-            "Also give --means, or --mean-difference, or --mean, or --means and --correlation for the effect sizes.");
+  EXPECT_EQ(Refusal("--sd 10"), "Also give --means, or --mean-difference, or --mean for the effect sizes.");
+  EXPECT_TRUE(Holds(Refusal("--n 20"), "or --mean-difference and --sd-difference, or others for the effect sizes."));
   EXPECT_TRUE(Holds(Refusal("--effect-d 0.5 --r 0.3"), "exclude each other"));
   EXPECT_TRUE(Holds(Refusal("--t 2 --n 10,20,30"), "--n must be one size that both groups have, or two sizes."));
   EXPECT_TRUE(Holds(Refusal("--r 0.3 --n 10,20"), "--n must be one number here"));
@@ -392,7 +404,8 @@ TEST(EffectConversions, RefuseWhatDoesNotFit) {
   EXPECT_TRUE(Holds(Refusal("--proportion1 0.8 --risk-difference 0.3"), "--risk-difference puts"));
   EXPECT_TRUE(Holds(Refusal("--proportion1 0.8 --effect-h 2"), "--effect-h puts the second proportion outside"));
   EXPECT_TRUE(Holds(Refusal("--r-squared 0.3 --predictors 3 --n 4"), "--n must be at least --predictors + 2"));
-  EXPECT_EQ(Refusal("--proportion1 0 --risk-ratio 2 --odds-ratio 2"), "--odds-ratio and --risk-ratio exclude each other.");
+  EXPECT_EQ(Refusal("--proportion1 0 --risk-ratio 2 --odds-ratio 2"),
+            "--odds-ratio and --risk-ratio exclude each other.");
 }
 
 // Whatever the inputs are, there is an answer or a reason, and no number that is none.
@@ -466,7 +479,8 @@ TEST(EffectReports, RepeatWhatWasGivenAsItIs) {
 }
 
 TEST(EffectReports, SayWhatIsApproximateOrMissing) {
-  EXPECT_TRUE(Holds(Reported("--effect-d 0.5").note, "Without the size of the study there are no confidence intervals."));
+  EXPECT_TRUE(
+      Holds(Reported("--effect-d 0.5").note, "Without the size of the study there are no confidence intervals."));
   EXPECT_TRUE(Holds(Reported("--effect-d 0.5").note, "two equal groups"));
   EXPECT_TRUE(Holds(Reported("--effect-d 0.5").note, "The odds ratio is approximate"));
   EXPECT_TRUE(Holds(Reported("--effect-d 0.5 --n 20").note, "Hedges' g is d corrected for its bias"));
