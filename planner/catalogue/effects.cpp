@@ -17,10 +17,13 @@ Effects Described() {
   effects.inputs.conditions = ConditionsOfEffects();
   effects.inputs.examples = ExamplesOfEffects();
   AddEffectsOfTwoMeans(effects);
+  AddEffectsFromD(effects);
   AddEffectsOfOneSample(effects);
   AddEffectsOfVariance(effects);
+  AddEffectsFromFSquared(effects);
   AddEffectsOfCorrelations(effects);
   AddEffectsOfProportions(effects);
+  AddEffectsOfRatios(effects);
   AddConversionsOfTwoMeans(effects);
   AddConversionsOfOneSample(effects);
   AddConversionsOfVariance(effects);

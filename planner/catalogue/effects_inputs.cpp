@@ -83,4 +83,10 @@ EffectValue ValueOr(const std::optional<core::Estimate>& estimate, double value)
   return {value, ConfidenceLimits{estimate->interval.lower, estimate->interval.upper}};
 }
 
+EffectValue GivenOr(Name name, double computed, OfCounts estimated, const Inputs& in) {
+  const double value = in.Has(name) ? in.Number(name) : computed;
+  const std::optional<TwoEventCounts> counts = EventCountsOf(in);
+  return ValueOr(counts ? estimated(counts->second, counts->first, in.Alpha()) : std::nullopt, value);
+}
+
 }  // namespace planner

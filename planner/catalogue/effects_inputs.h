@@ -58,6 +58,14 @@ std::optional<TwoEventCounts> EventCountsOf(const Inputs& in);
 /// An estimate of the core, or the value alone where there is none.
 EffectValue ValueOr(const std::optional<kelpower::effects::Estimate>& estimate, double value);
 
+/// An effect size of two groups, of the first in this order over the second.
+using OfCounts = std::optional<kelpower::effects::Estimate> (*)(const kelpower::effects::EventCount&,
+                                                                const kelpower::effects::EventCount&, double alpha);
+
+/// The input of that name or, where it is not given, the computed effect size; with the interval of the counts. The
+/// first group is the one of reference, as in the tests of two proportions.
+EffectValue GivenOr(Name name, double computed, OfCounts estimated, const Inputs& in);
+
 }  // namespace planner
 
 #endif

@@ -12,12 +12,16 @@ namespace planner {
 std::vector<Parameter> ParametersOfEffects();
 std::vector<Condition> ConditionsOfEffects();
 std::vector<Example> ExamplesOfEffects();
+void AddConditionsOfProportions(std::vector<Condition>& conditions);
 
 void AddEffectsOfTwoMeans(Effects& effects);
+void AddEffectsFromD(Effects& effects);
 void AddEffectsOfOneSample(Effects& effects);
 void AddEffectsOfVariance(Effects& effects);
+void AddEffectsFromFSquared(Effects& effects);
 void AddEffectsOfCorrelations(Effects& effects);
 void AddEffectsOfProportions(Effects& effects);
+void AddEffectsOfRatios(Effects& effects);
 
 void AddConversionsOfTwoMeans(Effects& effects);
 void AddConversionsOfOneSample(Effects& effects);
