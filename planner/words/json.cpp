@@ -5,6 +5,7 @@
 
 #include "catalogue/catalogue.h"
 #include "catalogue/effects.h"
+#include "solve/axes.h"
 #include "words/render.h"
 
 namespace planner {
@@ -127,17 +128,7 @@ Json ToJson(const Unknown& unknown) {
 }
 
 Json ToJson(const Axis& axis) {
-  return {{"title", axis.title}, {"symbol", axis.symbol}, {"limits", ToJson(axis.limits)}};
-}
-
-Json ToJson(const Chart& chart) {
-  Json object;
-  object["name"] = chart.name;
-  for (const Axis& axis : chart.axes) object["axes"].push_back(ToJson(axis));
-  object["needs"] = ToJson(chart.needs);
-  object["accepts"] = ToJson(chart.accepts);
-  object["example"] = chart.example;
-  return object;
+  return {{"name", axis.name}, {"title", axis.title}, {"symbol", axis.symbol}, {"limits", ToJson(axis.limits)}};
 }
 
 Json ToJson(const Test& test) {
@@ -152,7 +143,30 @@ Json ToJson(const Test& test) {
   for (const Example& example : test.examples) {
     object["examples"].push_back({{"arguments", example.arguments}, {"sentence", example.sentence}});
   }
-  for (const Chart& chart : test.charts) object["charts"].push_back(ToJson(chart));
+  for (const Axis& axis : AllAxes(test)) object["axes"].push_back(ToJson(axis));
+  return object;
+}
+
+const char* TextOf(Quantity quantity) {
+  switch (quantity) {
+    case Quantity::Power: return "power";
+    case Quantity::HalfWidth: return "half-width";
+    case Quantity::Size: return "sample-size";
+  }
+  return "";
+}
+
+/// The inputs of the design, also those that had to be found or have a default.
+Json InputsOf(const ChartData& chart, const ChartCurve& curve) {
+  Json object = Json::object();
+  for (const Parameter& parameter : chart.test->parameters) {
+    const bool isOfRoute = curve.route->Takes(parameter.name) || parameter.name == AskedBy(curve.route->question);
+    const bool isFlag = parameter.kind == Kind::Flag;
+    if (!isOfRoute && parameter.name != Name("alpha")) continue;
+    if (!curve.design.Has(parameter.name) && !isFlag) continue;
+    const bool isSet = curve.design.Has(parameter.name) && curve.design.Flag(parameter.name);
+    object[parameter.name.Text()] = isFlag ? Json(isSet) : ToJson(curve.design.ValueOf(parameter));
+  }
   return object;
 }
 
@@ -194,6 +208,24 @@ Json PowersOf(const Numbers& powers, std::size_t first, std::size_t count) {
   return list;
 }
 
+Json CurveOf(const ChartData& chart, const ChartCurve& curve) {
+  const Series& series = curve.series;
+  Json object;
+  if (curve.alternative) object[chart.varied->Text()] = ToJson(*curve.alternative);
+  object["inputs"] = InputsOf(chart, curve);
+  const char* quantity = TextOf(chart.quantity);
+  if (curve.mark) object["design"] = {{"at", curve.mark->at}, {quantity, curve.mark->value}};
+  if (!chart.IsSurface()) {
+    object[quantity] = PowersOf(series.value, 0, series.value.size());
+  } else {
+    object[quantity] = Json::array();
+    const std::size_t row = series.y.size();
+    for (std::size_t i = 0; i < series.x.size(); ++i) object[quantity].push_back(PowersOf(series.value, i * row, row));
+  }
+  object["export"] = curve.route->ExportFor(curve.design);
+  return object;
+}
+
 std::string Text(const Json& json) { return json.dump(2, ' ', false, Json::error_handler_t::replace) + '\n'; }
 
 }  // namespace
@@ -215,22 +247,15 @@ std::string RenderJson(const Report& report) {
 }
 
 std::string RenderJson(const ChartData& chart) {
-  const Series& series = chart.series;
   Json object;
   object["test"] = chart.test->name;
-  object["chart"] = chart.chart->name;
-  for (const Axis& axis : chart.chart->axes) object["axes"].push_back(axis.title);
-  if (chart.mark) object["design"] = {{"at", chart.mark->at}, {"power", chart.mark->power}};
-  object["x"] = series.x;
-  if (series.y.empty()) {
-    object["power"] = PowersOf(series.power, 0, series.power.size());
-  } else {
-    object["y"] = series.y;
-    object["power"] = Json::array();
-    const std::size_t row = series.y.size();
-    for (std::size_t i = 0; i < series.x.size(); ++i) object["power"].push_back(PowersOf(series.power, i * row, row));
-  }
-  object["export"] = chart.exportName;
+  object["chart"] = chart.name;
+  for (const Axis& axis : chart.axes) object["axes"].push_back({{"name", axis.name}, {"title", axis.title}});
+  object["quantity"] = TextOf(chart.quantity);
+  object["x"] = chart.First().x;
+  if (chart.IsSurface()) object["y"] = chart.First().y;
+  if (chart.varied) object["varied"] = chart.varied->Text();
+  for (const ChartCurve& curve : chart.curves) object["curves"].push_back(CurveOf(chart, curve));
   return object.dump() + '\n';
 }
 
