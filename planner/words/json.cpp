@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/effects.h"
 #include "solve/axes.h"
 #include "words/render.h"
 
@@ -36,6 +37,10 @@ Json ToJson(const std::vector<Entry>& entries) {
 
 Json ToJson(const Explanation& explanation) {
   Json object;
+  for (const auto& [name, label, formula, source] : explanation.formulas) {
+    object[name] = {{"formula", formula}, {"source", source}};
+  }
+  if (!explanation.formulas.empty()) return object;
   object["figures"] = Json::object();
   for (const auto& figure : explanation.figures) object["figures"][figure.name] = ToJson(figure.value);
   object["formula"] = explanation.formula;
@@ -66,6 +71,7 @@ const char* TextOf(Question question) {
     case Question::SampleSize: return "sample-size";
     case Question::HalfWidth: return "half-width";
     case Question::SampleSizeForHalfWidth: return "sample-size-for-half-width";
+    case Question::EffectSizes: return "effect-sizes";
   }
   return "";
 }
@@ -164,6 +170,36 @@ Json InputsOf(const ChartData& chart, const ChartCurve& curve) {
   return object;
 }
 
+Json ToJson(const EffectFormula& formula) {
+  Json object;
+  if (!formula.from.empty()) object["from"] = formula.from;
+  object["needs"] = ToJson(formula.needs);
+  object["formula"] = formula.formula;
+  object["source"] = formula.source;
+  if (!formula.note.empty()) object["note"] = formula.note;
+  return object;
+}
+
+Json ToJson(const EffectSize& size, const std::vector<EffectFormula>& formulas) {
+  Json object{{"name", size.name}, {"label", size.label}, {"formulas", Json::array()}};
+  for (const EffectFormula& formula : formulas) {
+    if (formula.effect == size.name) object["formulas"].push_back(ToJson(formula));
+  }
+  return object;
+}
+
+Json ToJson(const EffectConversion& conversion) {
+  Json object{{"title", conversion.title},
+              {"needs", ToJson(conversion.needs)},
+              {"accepts", ToJson(conversion.accepts)},
+              {"gives", conversion.gives},
+              {"uses", Json::array()}};
+  for (const auto& [test, input, effects] : conversion.uses) {
+    object["uses"].push_back({{"test", test}, {"input", input.Text()}, {"effects", effects}});
+  }
+  return object;
+}
+
 Json PowersOf(const Numbers& powers, std::size_t first, std::size_t count) {
   Json list = Json::array();
   for (std::size_t i = first; i < first + count; ++i) {
@@ -205,7 +241,7 @@ std::string RenderJson(const Report& report) {
   object["results"] = ToJson(report.results);
   object["sentence"] = report.sentence;
   if (!report.note.empty()) object["note"] = report.note;
-  object["export"] = report.exportName;
+  if (!report.exportName.empty()) object["export"] = report.exportName;
   if (report.explanation) object["details"] = ToJson(*report.explanation);
   return Text(object);
 }
@@ -227,6 +263,18 @@ std::string RenderListJson() {
   Json tests = Json::array();
   for (const Test& test : Tests()) tests.push_back(ToJson(test));
   return Text(tests);
+}
+
+std::string RenderEffectsJson() {
+  const Effects& effects = EffectSizes();
+  Json object{{"name", effects.inputs.name}, {"title", effects.inputs.title}, {"about", effects.inputs.about}};
+  for (const Parameter& parameter : effects.inputs.parameters) object["parameters"].push_back(ToJson(parameter));
+  for (const EffectConversion& conversion : effects.conversions) object["conversions"].push_back(ToJson(conversion));
+  for (const EffectSize& size : effects.sizes) object["effect-sizes"].push_back(ToJson(size, effects.formulas));
+  for (const Example& example : effects.inputs.examples) {
+    object["examples"].push_back({{"arguments", example.arguments}, {"sentence", example.sentence}});
+  }
+  return Text(object);
 }
 
 }  // namespace planner
