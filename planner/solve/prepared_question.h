@@ -55,6 +55,9 @@ public:
   /// where no input could, such as to a fraction of an observation.
   Row Evaluate(const Inputs& inputs);
 
+  /// Who is asked to stop from here on, of a copy that serves another call; null for none.
+  void SetStop(StopRequest* stop) { inputs_.SetStop(stop); }
+
   /// The sizes that the last answer found.
   const Numbers& Sizes() const { return sizes_; }
 

@@ -1,154 +1,12 @@
 #include <cmath>
-#include <cstdint>
-#include <limits>
 #include <nlohmann/json.hpp>
 
-#include "catalogue/catalogue.h"
 #include "words/render.h"
 
 namespace planner {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-/// Whole numbers are written without a decimal point.
-Json ToJson(double number) {
-  constexpr double largestExactWhole = 9007199254740992;  // 2^53
-  if (number == std::trunc(number) && std::abs(number) <= largestExactWhole) return static_cast<std::int64_t>(number);
-  return number;
-}
-
-Json ToJson(const Value& value) {
-  if (const auto* flag = std::get_if<bool>(&value)) return *flag;
-  if (const auto* number = std::get_if<double>(&value)) return ToJson(*number);
-  if (const auto* word = std::get_if<std::string>(&value)) return *word;
-  Json list = Json::array();
-  for (double number : std::get<Numbers>(value)) list.push_back(ToJson(number));
-  return list;
-}
-
-Json ToJson(const std::vector<Entry>& entries) {
-  Json object = Json::object();
-  for (const Entry& entry : entries) object[entry.name] = ToJson(entry.value);
-  return object;
-}
-
-Json ToJson(const Explanation& explanation) {
-  Json object;
-  object["figures"] = Json::object();
-  for (const auto& figure : explanation.figures) object["figures"][figure.name] = ToJson(figure.value);
-  object["formula"] = explanation.formula;
-  object["source"] = explanation.source;
-  object["programs"] = Json::array();
-  for (const auto& [program, call, isSame, remark] : explanation.programs) {
-    Json entry{{"program", program}, {"call", call}, {"same", isSame}};
-    if (!remark.empty()) entry["remark"] = remark;
-    object["programs"].push_back(std::move(entry));
-  }
-  return object;
-}
-
-const char* TextOf(Kind kind) {
-  switch (kind) {
-    case Kind::Number: return "number";
-    case Kind::Flag: return "flag";
-    case Kind::Choice: return "choice";
-    case Kind::List: return "list";
-    case Kind::PerGroup: return "per-group";
-  }
-  return "";
-}
-
-const char* TextOf(Question question) {
-  switch (question) {
-    case Question::Power: return "power";
-    case Question::SampleSize: return "sample-size";
-    case Question::HalfWidth: return "half-width";
-    case Question::SampleSizeForHalfWidth: return "sample-size-for-half-width";
-  }
-  return "";
-}
-
-Json ToJson(const Limits& limits) {
-  Json object = Json::object();
-  if (limits.low > -std::numeric_limits<double>::infinity()) {
-    object[limits.lowAllowed ? "minimum" : "exclusive-minimum"] = ToJson(limits.low);
-  }
-  if (limits.high < std::numeric_limits<double>::infinity()) {
-    object[limits.highAllowed ? "maximum" : "exclusive-maximum"] = ToJson(limits.high);
-  }
-  if (limits.whole) object["whole"] = true;
-  return object;
-}
-
-Json ToJson(const Names& names) {
-  Json list = Json::array();
-  for (Name name : names) list.push_back(name.Text());
-  return list;
-}
-
-Json ToJson(const Parameter& parameter) {
-  Json object;
-  object["name"] = parameter.name.Text();
-  object["aliases"] = parameter.aliases;
-  object["kind"] = TextOf(parameter.kind);
-  object["label"] = parameter.label;
-  object["meaning"] = parameter.meaning;
-  if (!parameter.unit.empty()) object["unit"] = parameter.unit;
-  object["limits"] = ToJson(parameter.limits);
-  if (parameter.length != 0) object["length"] = parameter.length;
-  if (parameter.kind == Kind::PerGroup) object["spreads"] = parameter.spreads;
-  for (const Choice& choice : parameter.choices) object["choices"].push_back(choice.word);
-  if (parameter.fallback) object["default"] = ToJson(*parameter.fallback);
-  return object;
-}
-
-Json ToJson(const Route& route) {
-  Json object{{"question", TextOf(route.question)},
-              {"needs", ToJson(route.needs)},
-              {"accepts", ToJson(route.accepts)},
-              {"export", route.exportName}};
-  if (!route.oneSidedExport.empty()) object["one-sided-export"] = route.oneSidedExport;
-  return object;
-}
-
-Json ToJson(const Unknown& unknown) {
-  return {{"name", unknown.input.Text()},
-          {"target", TextOf(unknown.target)},
-          {"trend", unknown.trend == Trend::Rises ? "rises" : "falls"},
-          {"reason", unknown.reason},
-          {"below", unknown.pieceBelow != nullptr}};
-}
-
-Json ToJson(const Axis& axis) {
-  return {{"title", axis.title}, {"symbol", axis.symbol}, {"limits", ToJson(axis.limits)}};
-}
-
-Json ToJson(const Chart& chart) {
-  Json object;
-  object["name"] = chart.name;
-  for (const Axis& axis : chart.axes) object["axes"].push_back(ToJson(axis));
-  object["needs"] = ToJson(chart.needs);
-  object["accepts"] = ToJson(chart.accepts);
-  object["example"] = chart.example;
-  return object;
-}
-
-Json ToJson(const Test& test) {
-  Json object;
-  object["name"] = test.name;
-  object["title"] = test.title;
-  object["about"] = test.about;
-  object["counted"] = test.counted;
-  for (const Parameter& parameter : test.parameters) object["parameters"].push_back(ToJson(parameter));
-  for (const Route& route : test.routes) object["routes"].push_back(ToJson(route));
-  for (const Unknown& unknown : test.unknowns) object["unknowns"].push_back(ToJson(unknown));
-  for (const Example& example : test.examples) {
-    object["examples"].push_back({{"arguments", example.arguments}, {"sentence", example.sentence}});
-  }
-  for (const Chart& chart : test.charts) object["charts"].push_back(ToJson(chart));
-  return object;
-}
 
 Json PowersOf(const Numbers& powers, std::size_t first, std::size_t count) {
   Json list = Json::array();
@@ -158,25 +16,7 @@ Json PowersOf(const Numbers& powers, std::size_t first, std::size_t count) {
   return list;
 }
 
-std::string Text(const Json& json) { return json.dump(2, ' ', false, Json::error_handler_t::replace) + '\n'; }
-
 }  // namespace
-
-std::string RenderJson(const Report& report) {
-  constexpr int schemaVersion = 1;  // grows when a field changes its name or meaning
-  Json object;
-  object["schema-version"] = schemaVersion;
-  object["test"] = report.test->name;
-  object["question"] = TextOf(report.question);
-  object["inputs"] = ToJson(report.inputs);
-  if (!report.assumptions.empty()) object["assumptions"] = ToJson(report.assumptions);
-  object["results"] = ToJson(report.results);
-  object["sentence"] = report.sentence;
-  if (!report.note.empty()) object["note"] = report.note;
-  object["export"] = report.exportName;
-  if (report.explanation) object["details"] = ToJson(*report.explanation);
-  return Text(object);
-}
 
 std::string RenderJson(const ChartData& chart) {
   const Series& series = chart.series;
@@ -196,12 +36,6 @@ std::string RenderJson(const ChartData& chart) {
   }
   object["export"] = chart.exportName;
   return object.dump() + '\n';
-}
-
-std::string RenderListJson() {
-  Json tests = Json::array();
-  for (const Test& test : Tests()) tests.push_back(ToJson(test));
-  return Text(tests);
 }
 
 }  // namespace planner

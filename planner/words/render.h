@@ -5,6 +5,7 @@
 
 #include "model/chart.h"
 #include "model/test.h"
+#include "words/json_writer.h"
 #include "words/report.h"
 
 namespace planner {
@@ -35,7 +36,7 @@ std::string RenderCsv(const ChartData& chart);
 std::string RenderJson(const ChartData& chart);
 
 /// The descriptions of all tests, for other front ends.
-std::string RenderListJson();
+std::string RenderListJson(JsonLayout layout = JsonLayout::Lines);
 
 }  // namespace planner
 
