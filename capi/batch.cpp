@@ -182,18 +182,19 @@ private:
   const Rows& rows_;
 };
 
-std::vector<ColumnRequest> Checked(std::vector<ColumnRequest> columns) {
+const std::vector<ColumnRequest>& Checked(const std::vector<ColumnRequest>& columns) {
   CheckColumns(columns);
   return columns;
 }
 
 }  // namespace
 
-Batch::Batch(const Request& request)
-    : columns_(Checked(request.Columns())),
-      question_(request.AskedTest(), ValuesWithColumns(request, columns_)),
-      results_(ResultsOf(question_)) {
-  question_.SetColumns(BoundColumns(question_, columns_, sources_));
+Batch::Batch(const Request& request, const std::vector<ColumnRequest>& columns)
+    : Batch(request, Checked(columns), ValuesWithColumns(request, Checked(columns))) {}
+
+Batch::Batch(const Request& request, const std::vector<ColumnRequest>& columns, const planner::InputValues& values)
+    : columns_(columns), question_(request.AskedTest(), values), results_(ResultsOf(question_)) {
+  question_.SetColumns(BoundColumns(question_, values, columns_, sources_));
 }
 
 Batch::~Batch() { delete spare_.load(); }

@@ -37,8 +37,10 @@ struct Rows {
 class Batch {
 public:
   /// Throws an InputError or a BadRequest.
-  explicit Batch(const Request& request);
+  explicit Batch(const Request& request) : Batch(request, request.Columns()) {}
   ~Batch();
+  Batch(const Batch&) = delete;
+  Batch& operator=(const Batch&) = delete;
 
   const planner::PreparedQuestion& Question() const { return question_; }
   const std::vector<ColumnRequest>& Columns() const { return columns_; }
@@ -51,6 +53,9 @@ public:
 private:
   struct Worker;
   class Lent;
+
+  Batch(const Request& request, const std::vector<ColumnRequest>& columns);
+  Batch(const Request& request, const std::vector<ColumnRequest>& columns, const planner::InputValues& values);
 
   std::vector<ColumnRequest> columns_;
   std::vector<std::size_t> sources_;  // of each column of the question, among the batch's

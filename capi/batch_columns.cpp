@@ -94,7 +94,7 @@ planner::InputValues ValuesWithColumns(const Request& request, const std::vector
   return values;
 }
 
-std::vector<planner::Column> BoundColumns(const planner::PreparedQuestion& question,
+std::vector<planner::Column> BoundColumns(const planner::PreparedQuestion& question, const planner::InputValues& values,
                                           const std::vector<ColumnRequest>& columns,
                                           std::vector<std::size_t>& sources) {
   std::vector<planner::Column> bound;
@@ -104,6 +104,9 @@ std::vector<planner::Column> BoundColumns(const planner::PreparedQuestion& quest
     const std::size_t first = columns[i].entry.value_or(0);
     const std::size_t last = columns[i].entry ? first : entries - 1;
     if (last >= entries) Reject(parameter, "it has no such entry");
+    if (columns[i].entry && std::get<planner::Numbers>(values.at(NameOf(parameter))).size() < entries) {
+      Reject(parameter, "nothing gives its other entries");
+    }
     for (std::size_t entry = first; entry <= last; ++entry) {
       bound.push_back({parameter.name, entry});
       sources.push_back(i);

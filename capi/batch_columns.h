@@ -17,8 +17,9 @@ void CheckColumns(const std::vector<ColumnRequest>& columns);
 planner::InputValues ValuesWithColumns(const Request& request, const std::vector<ColumnRequest>& columns);
 
 /// The columns of the question: one for each number or entry that a column of the batch sets. `sources` receives that
-/// column's index. Throws a BadRequest for an entry that a list does not have.
-std::vector<planner::Column> BoundColumns(const planner::PreparedQuestion& question,
+/// column's index. Throws a BadRequest for an entry that a list does not have, and where nothing gives the entries beside
+/// it.
+std::vector<planner::Column> BoundColumns(const planner::PreparedQuestion& question, const planner::InputValues& values,
                                           const std::vector<ColumnRequest>& columns, std::vector<std::size_t>& sources);
 
 }  // namespace kelplan
