@@ -8,6 +8,7 @@
 #include "solve/densities.h"
 #include "solve/solve.h"
 #include "table.h"
+#include "words/chart_json.h"
 #include "words/densities_json.h"
 #include "words/explain.h"
 #include "words/render.h"
@@ -48,18 +49,15 @@ void Solve(Call& call) {
   ReplyWithTable(call, request);
 }
 
-/// The series of a chart, as the program writes it.
 void Draw(Call& call) {
   const JsonTree tree = ReadJson(call.request);
   call.names = NamesOf(tree);
-  const Request request(tree, {"chart", "from", "to", "step"});
+  const Request request(tree, {"chart", "from", "to", "step", "y"});
+  const planner::ChartRequest asked = request.Chart();
   const planner::ChartData chart =
-      planner::ComputeChart(request.AskedTest(), request.Chart(), request.Values(), call.stop);
-  std::string series = planner::RenderJson(chart);
-  series.pop_back();  // the end of the line
+      planner::ComputeChart(request.AskedTest(), asked, request.ValuesBesides(asked.alternatives), call.stop);
   Reply reply(call);
-  reply.Key("chart");
-  reply.Written(series);
+  planner::WriteChart(reply, chart);
   reply.CloseObject();
 }
 

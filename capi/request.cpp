@@ -74,9 +74,10 @@ bool Request::HasAlternatives() const {
   return std::any_of(inputs_.begin(), inputs_.end(), [](const auto& input) { return input.values.size() > 1; });
 }
 
-planner::InputValues Request::Values() const {
+planner::InputValues Request::ValuesBesides(const std::optional<planner::Alternatives>& others) const {
   planner::InputValues values;
   for (const auto& [parameter, alternatives] : inputs_) {
+    if (others && others->parameter == parameter) continue;
     const std::string name(parameter->name.Text());
     if (alternatives.size() > 1) {
       throw BadRequest("several-values", "\"" + name + "\" has several values, but here a design has one.");
@@ -101,6 +102,13 @@ planner::Numbers Request::EndsOf(std::string_view member) const {
   return *numbers;
 }
 
+bool Request::ShowsSizes() const {
+  const JsonTree* y = tree_.Find("y");
+  if (!y) return false;
+  if (!y->Is(Kind::Text) || y->text != "n") Reject("y", *y, "\"n\"");
+  return true;
+}
+
 planner::ChartRequest Request::Chart() const {
   const JsonTree* name = tree_.Find("chart");
   if (!name) throw BadRequest("chart-missing", "The request has no \"chart\".");
@@ -109,6 +117,10 @@ planner::ChartRequest Request::Chart() const {
   if (const JsonTree* step = tree_.Find("step")) {
     if (!step->Is(Kind::Number)) Reject("step", *step, "a number");
     chart.step = step->number;
+  }
+  chart.showsSizes = ShowsSizes();
+  for (const planner::Alternatives& input : inputs_) {
+    if (input.values.size() > 1 && !chart.alternatives) chart.alternatives = input;
   }
   return chart;
 }

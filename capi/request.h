@@ -30,10 +30,13 @@ public:
   const std::vector<planner::Alternatives>& Inputs() const { return inputs_; }
 
   /// The inputs of a single design. Throws an InputError where one has several values.
-  planner::InputValues Values() const;
+  planner::InputValues Values() const { return ValuesBesides(std::nullopt); }
+  /// Those besides the alternatives of an input.
+  planner::InputValues ValuesBesides(const std::optional<planner::Alternatives>& alternatives) const;
   bool HasAlternatives() const;
 
   bool IsSet(std::string_view member) const;
+  /// What is drawn. One input may have several values, a curve for each.
   planner::ChartRequest Chart() const;
   std::vector<ColumnRequest> Columns() const;
 
@@ -43,6 +46,7 @@ private:
   ColumnRequest ColumnOf(const JsonTree& column) const;
   const planner::Parameter& ParameterOf(const std::string& name) const;
   planner::Numbers EndsOf(std::string_view member) const;
+  bool ShowsSizes() const;
 
   const JsonTree& tree_;
   const planner::Test* test_ = nullptr;

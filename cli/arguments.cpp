@@ -10,6 +10,7 @@
 #include "hints.h"
 #include "nearest.h"
 #include "usage_error.h"
+#include "words/numbers.h"
 #include "words/parse.h"
 
 namespace {
@@ -42,7 +43,8 @@ CLI::App* AddCommand(CLI::App& app, const std::string& name) {
 
 std::string NameOf(const Parameter& parameter) { return fmt::format("--{}", parameter.name.Text()); }
 
-const std::vector<std::string> rangeOptions{"from", "to", "step", "output"};
+/// Options that have a use only with a chart.
+const std::vector<std::string> chartOptions{"from", "to", "step", "y", "title", "width", "height", "dpi", "output"};
 
 void AddRun(CLI::App& app) {
   CLI::App* command = AddCommand(app, "run");
@@ -55,7 +57,7 @@ void AddTest(CLI::App& app, const Test& test) {
   for (const std::string& name : OtherNamesOf(test.name)) command->alias(name);
   command->add_flag("--explain");
   AddOption(*command, "--chart");
-  for (const std::string& name : rangeOptions) AddOption(*command, "--" + name);
+  for (const std::string& name : chartOptions) AddOption(*command, "--" + name);
   for (const char* name : {"--save", "--jobs"}) AddOption(*command, name);
   for (const Parameter& parameter : test.parameters) {
     std::string names = NameOf(parameter);
@@ -161,11 +163,32 @@ planner::ChartRequest ChartOf(const CLI::App& command, const std::string& name) 
   if (const std::string* text = TextOf(command, "to")) chart.to = Ends("to", *text);
   if (const std::string* text = TextOf(command, "step"))
     chart.step = std::get<double>(planner::Parse(planner::Number("step", "", ""), *text));
+  if (const std::string* text = TextOf(command, "y")) {
+    if (*text != "n") throw UsageError(fmt::format("--y is \"{}\", but must be n.", *text));
+    chart.showsSizes = true;
+  }
   return chart;
 }
 
-void RejectRangeOptions(const CLI::App& command) {
-  for (const std::string& name : rangeOptions) {
+std::optional<double> LengthOf(const CLI::App& command, const std::string& name, double least, double most) {
+  const std::string* text = TextOf(command, name);
+  if (!text) return std::nullopt;
+  double number = 0;
+  if (planner::ParseNumber(*text, number) && number >= least && number <= most) return number;
+  throw UsageError(fmt::format("--{} is \"{}\", but must be a number from {} to {}.", name, *text, least, most));
+}
+
+PictureOptions PictureOf(const CLI::App& command) {
+  PictureOptions picture;
+  if (const std::string* text = TextOf(command, "title")) picture.title = *text;
+  picture.width = LengthOf(command, "width", 200, 5000);
+  picture.height = LengthOf(command, "height", 150, 5000);
+  picture.dpi = LengthOf(command, "dpi", 30, 600);
+  return picture;
+}
+
+void RejectChartOptions(const CLI::App& command) {
+  for (const std::string& name : chartOptions) {
     if (TextOf(command, name)) throw UsageError(fmt::format("--{} has a use only together with --chart.", name));
   }
 }
@@ -202,6 +225,20 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
   throw UsageError(fmt::format("\"{}\" is not a test; \"kelpower list\" names them.", word));
 }
 
+/// The input of a chart that has several values, if any: each is a curve.
+std::optional<planner::Alternatives> OfChart(const std::vector<planner::Alternatives>& all) {
+  std::optional<planner::Alternatives> several;
+  for (const planner::Alternatives& alternatives : all) {
+    if (alternatives.values.size() < 2) continue;
+    if (several) {
+      throw UsageError(fmt::format("{} and {} both have several values, but a chart varies one.",
+                                   NameOf(*several->parameter), NameOf(*alternatives.parameter)));
+    }
+    several = alternatives;
+  }
+  return several;
+}
+
 /// An explanation is of one answer, and takes more room than a row.
 void RejectUnexplainable(const Request& request) {
   if (request.command == Command::Table && Varying(request.alternatives)) {
@@ -218,20 +255,21 @@ void ReadTest(const CLI::App& command, Request& request) {
   request.values = ValuesOf(request.alternatives);
   request.jobs = JobsOf(command);
   request.save = FileOf(command, "save");
-  const Parameter* varying = Varying(request.alternatives);
-  const std::string* chart = TextOf(command, "chart");
   request.isExplained = FlagOf(command, "explain");
-  if (request.isExplained && chart) throw UsageError("--explain and --chart exclude each other.");
+  const std::string* chart = TextOf(command, "chart");
   if (!chart) {
-    if (varying || request.format == Format::Ndjson) request.command = Command::Table;
-    RejectRangeOptions(command);
+    if (Varying(request.alternatives) || request.format == Format::Ndjson) request.command = Command::Table;
+    RejectChartOptions(command);
     if (request.isExplained) RejectUnexplainable(request);
     return;
   }
-  if (varying) throw UsageError(fmt::format("{} has several values, but a chart is of one design.", NameOf(*varying)));
+  if (request.isExplained) throw UsageError("--explain and --chart exclude each other.");
   if (!request.save.empty()) throw UsageError("--save has no use together with --chart.");
   request.command = Command::Chart;
   request.chart = ChartOf(command, *chart);
+  request.chart.alternatives = OfChart(request.alternatives);
+  if (request.chart.alternatives) request.values.erase(std::string(request.chart.alternatives->parameter->name.Text()));
+  request.picture = PictureOf(command);
   request.output = FileOf(command, "output");
 }
 

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "catalogue/axes.h"
-#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/tests.h"
@@ -154,7 +153,7 @@ Test ContrastTest() {
        .needs = {"means", "sd", "coefficients"},
        .call = EffectOfMeans},
   };
-  test.charts = ChartsOfContrast();
+  test.effect = [](const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : EffectOfMeans(in); };
   AddWordsOfContrast(test);
   return WithCommonParameters(std::move(test));
 }

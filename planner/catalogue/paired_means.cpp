@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "catalogue/axes.h"
-#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/mean_parameters.h"
 #include "catalogue/tests.h"
@@ -33,9 +32,9 @@ double EffectSize(const Inputs& in) {
   return MeanDifference(in) / means::DifferenceVariance::Of(SpreadOf(in)).StandardDeviation();
 }
 
-means::OneSampleDesign DesignOf(const Inputs& in) {
-  return {in.Has("effect-d") ? in.Number("effect-d") : EffectSize(in), SidesOf(in), in.Alpha()};
-}
+double Effect(const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : EffectSize(in); }
+
+means::OneSampleDesign DesignOf(const Inputs& in) { return {Effect(in), SidesOf(in), in.Alpha()}; }
 
 double Power(const Inputs& in) { return OrNaN(means::Power(DesignOf(in), in.Number("n"))); }
 
@@ -190,7 +189,8 @@ Test PairedMeansTest() {
       {.name = "effect-d", .label = "effect size d", .needs = {"means", "sds", "correlation"}, .call = EffectSize},
       {.name = "effect-d", .label = "effect size d", .needs = {"mean-difference", "sd-difference"}, .call = EffectSize},
   };
-  test.charts = ChartsOfPairedMeans();
+  test.effect = Effect;
+  test.axes = {MeanDifferenceAxis()};
   AddWordsOfPairedMeans(test);
   return WithCommonParameters(std::move(test));
 }

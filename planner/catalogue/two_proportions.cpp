@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/tests.h"
@@ -35,8 +34,7 @@ double SecondProportion(const Inputs& in) {
 }
 
 kelpower::proportions::IndependentDesign DesignOf(const Inputs& in) {
-  return {TestOf(in),       IsExact(in), in.Flag("one-sided"), in.Alpha(), in.Flag("correction"),
-          in.Flag("pooled")};
+  return {TestOf(in), IsExact(in), in.Flag("one-sided"), in.Alpha(), in.Flag("correction"), in.Flag("pooled")};
 }
 
 kelpower::proportions::IndependentSizes WantedOf(const Inputs& in) {
@@ -188,7 +186,9 @@ Test TwoProportionsTest() {
   test.sizeExists = SizeExistsForTwoProportions();
   test.derived = DerivedFigures();
   test.assumptions = Assumptions();
-  test.charts = ChartsOfTwoProportions();
+  test.axes = AxesOfTwoProportions();
+  test.effect = RiskDifference;
+  test.steps = StepsOfPower;
   AddWordsOfTwoProportions(test);
   return WithCommonParameters(std::move(test));
 }

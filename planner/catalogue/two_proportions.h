@@ -63,6 +63,10 @@ std::vector<Route> RoutesOfTwoProportions();
 std::vector<Unknown> UnknownsOfTwoProportions();
 std::vector<Condition> ConditionsOfTwoProportions();
 std::vector<Condition> SizeExistsForTwoProportions();
+std::vector<Axis> AxesOfTwoProportions();
+
+/// About how many steps a power takes.
+double StepsOfPower(const Inputs& in);
 
 }  // namespace planner
 

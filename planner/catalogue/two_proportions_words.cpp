@@ -47,7 +47,7 @@ void AddWordsOfTwoProportions(Test& test) {
       {"two-proportions --proportions 0.5,0.75 --power 0.8 --method conditional",
        "To detect proportions of 0.5 and 0.75 with a power of 0.8, the two-sided conditional (Fisher) test of two "
        "independent proportions, with at most half of the level in each tail, at a significance level of 0.05 needs 64 "
-       "observations in each of 2 groups (128 in total); its power is then 0.8017."},
+       "observations in each of 2 groups (128 in total); its power is then 0.8017. All larger sample sizes reach it too."},
       {"two-proportions --proportion1 0.3 --risk-ratio 1.5 --power 0.9 --ratio 2 --method arcsine",
        "To detect a risk ratio of 1.5 from 0.3 to 0.45 with a power of 0.9, the two-sided arcsine test of two "
        "independent proportions, corrected by half an observation in each group, at a significance level of 0.05 needs "

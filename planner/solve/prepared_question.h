@@ -58,6 +58,11 @@ public:
   /// Who is asked to stop from here on, of a copy that serves another call; null for none.
   void SetStop(StopRequest* stop) { inputs_.SetStop(stop); }
 
+  /// Lets what designs of the same sizes share be kept. The last digits of a value may then depend on it.
+  void ExpectSharedSizes() {
+    if (route_.surfaceValue) value_ = route_.surfaceValue;
+  }
+
   /// The sizes that the last answer found.
   const Numbers& Sizes() const { return sizes_; }
 

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_RESULTS_H
+#define KELPOWER_PLANNER_SOLVE_RESULTS_H
 
 #include <string>
 #include <vector>
@@ -32,3 +33,5 @@ std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, co
 double TotalOf(const Numbers& sizes);
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_EXPLAIN_H
+#define KELPOWER_PLANNER_WORDS_EXPLAIN_H
 
 #include <string>
 #include <vector>
@@ -42,3 +43,5 @@ std::string RenderText(const Explanation& explanation, const std::string& headin
 std::string RenderMarkdown(const Explanation& explanation);
 
 }  // namespace planner
+
+#endif

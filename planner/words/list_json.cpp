@@ -2,6 +2,7 @@
 #include <set>
 
 #include "catalogue/catalogue.h"
+#include "solve/axes.h"
 #include "solve/results.h"
 #include "solve/solve.h"
 #include "words/example_inputs.h"
@@ -144,19 +145,20 @@ void WriteExample(JsonWriter& json, const Test& test, const Example& example) {
   json.CloseObject();
 }
 
-void WriteChart(JsonWriter& json, const Chart& chart) {
+void WriteAxis(JsonWriter& json, const Axis& axis) {
   json.OpenObject();
-  json.Text("name", chart.name);
-  WriteList(json, "axes", chart.axes, [&](const Axis& axis) {
+  json.Key("name");
+  json.Name(axis.name);
+  json.Text("title", axis.title);
+  json.Text("symbol", axis.symbol);
+  WriteLimits(json, axis.limits);
+  if (axis.usual) {
+    json.Key("usual");
     json.OpenObject();
-    json.Text("title", axis.title);
-    json.Text("symbol", axis.symbol);
-    WriteLimits(json, axis.limits);
+    json.Number("from", axis.usual->from);
+    json.Number("to", axis.usual->to);
     json.CloseObject();
-  });
-  WriteNames(json, "needs", chart.needs);
-  WriteNames(json, "accepts", chart.accepts);
-  json.Text("example", chart.example);
+  }
   json.CloseObject();
 }
 
@@ -199,7 +201,7 @@ void WriteTest(JsonWriter& json, const Test& test) {
   WriteList(json, "assumptions", test.assumptions, [&](const Assumption& one) { WriteNamed(json, one); });
   WriteList(json, "sources", SourcesOf(test), [&](const std::string& source) { json.Text(source); });
   WriteList(json, "examples", test.examples, [&](const Example& one) { WriteExample(json, test, one); });
-  WriteList(json, "charts", test.charts, [&](const Chart& one) { WriteChart(json, one); });
+  WriteList(json, "axes", AllAxes(test), [&](const Axis& one) { WriteAxis(json, one); });
   json.CloseObject();
 }
 

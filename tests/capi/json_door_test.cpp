@@ -48,7 +48,7 @@ TEST(JsonDoor, DescribesEveryTest) {
   const Json description = Json::parse(kelplan_describe());
   EXPECT_EQ(description["schema"], 1);
   ASSERT_EQ(description["tests"].size(), planner::Tests().size());
-  EXPECT_EQ(description["tests"], Json::parse(planner::RenderListJson()));
+  EXPECT_TRUE(description["tests"] == Json::parse(planner::RenderListJson()));
   EXPECT_EQ(kelplan_describe(), kelplan_describe());
   for (const Json& test : description["tests"]) {
     EXPECT_FALSE(test["examples"].empty()) << test["name"];
@@ -180,11 +180,26 @@ TEST(JsonDoor, TellsTheDistributionsOfTheStatistic) {
 
 TEST(JsonDoor, DrawsAChart) {
   const Json request{{"test", "two-means"},
-                     {"inputs", {{"means", {52, 47}}, {"sd", 10}, {"n", {50, 50}}}},
-                     {"chart", "ratio-difference"}};
+                     {"names", "underscore"},
+                     {"inputs", {{"effect_d", {0.2, 0.5}}, {"power", 0.8}}},
+                     {"chart", "n"}};
   const Reply reply = Asked(kelplan_draw, request.dump());
-  EXPECT_EQ(reply.status, KELPLAN_OK) << reply.json;
-  EXPECT_GT(reply.json["chart"]["x"].size(), 10u);
+  ASSERT_EQ(reply.status, KELPLAN_OK) << reply.json;
+  EXPECT_GT(reply.json["x"].size(), 10u);
+  ASSERT_EQ(reply.json["curves"].size(), 2u);
+  EXPECT_EQ(reply.json["varied"], "effect_d");
+  EXPECT_EQ(reply.json["curves"][1]["effect_d"], 0.5);
+  EXPECT_EQ(reply.json["curves"][1]["power"].size(), reply.json["x"].size());
+  Json sizes = request;
+  sizes["inputs"]["effect_d"] = 0.5;
+  sizes["chart"] = "effect-d";
+  sizes["y"] = "n";
+  EXPECT_EQ(Asked(kelplan_draw, sizes.dump()).json["quantity"], "sample-size");
+  sizes["y"] = "x";
+  EXPECT_EQ(Asked(kelplan_draw, sizes.dump()).json["error"]["code"], "wrong-type");
+  Json twice = request;
+  twice["inputs"]["power"] = {0.8, 0.9};
+  EXPECT_EQ(Asked(kelplan_draw, twice.dump()).json["error"]["code"], "several-values");
   Json wrong = request;
   wrong["chart"] = "nothing";
   EXPECT_EQ(Asked(kelplan_draw, wrong.dump()).status, KELPLAN_BAD_INPUT);

@@ -113,11 +113,16 @@ class SchemaTest(unittest.TestCase):
 
     def test_charts(self):
         for test in described()["tests"]:
-            for chart in test["charts"]:
-                reply = ask(LIBRARY.kelplan_draw, {"test": test["name"], "chart": chart["name"]}, None)[1]
+            for axis in test["axes"]:
+                reply = ask(LIBRARY.kelplan_draw, {"test": test["name"], "chart": axis["name"]}, None)[1]
                 self.check("error", reply)
-        request = {"test": "two-means", "inputs": {"means": [52, 47], "sd": 10, "n": 50}, "chart": "ratio-difference"}
-        self.check("chart", ask(LIBRARY.kelplan_draw, request, None)[1])
+        request = {"test": "two-means", "inputs": {"means": [52, 47], "sd": 10, "n": 50}}
+        for chart in ({"chart": "n"}, {"chart": "n-sd", "step": 0.1}, {"chart": "n", "names": "underscore"}):
+            status, reply = ask(LIBRARY.kelplan_draw, {**request, **chart}, None)
+            self.assertEqual(status, 0, reply)
+            self.check("chart", reply)
+        curves = {"test": "two-means", "inputs": {"effect-d": [0.2, 0.5], "power": 0.8}, "chart": "n"}
+        self.check("chart", ask(LIBRARY.kelplan_draw, curves, None)[1])
 
     def test_errors(self):
         wrong = [b"", b"\xff", b"[" * 100000, b"{}", {"test": "none"}, {"test": "anova"},

@@ -84,7 +84,7 @@ def answer_of(reply):
     """The kind of the answer and its value: a first size that was found, a power or a half-width."""
     results = reply["results"]
     if reply["question"] == "sample-size":
-        return "size", results["sizes"][0] if "sizes" in results else results["n"]
+        return "size", results["n"][0] if isinstance(results["n"], list) else results["n"]
     kind = "half-width" if reply["question"].endswith("half-width") else "power"
     return kind, results[kind]
 

@@ -39,7 +39,7 @@ static void show_batch(void) {
 
 int main(void) {
   const char* const request =
-      "{\"test\":\"two-means\",\"inputs\":{\"means\":[52,47],\"sd\":10,\"n\":50},\"chart\":\"ratio-difference\"}";
+      "{\"test\":\"two-means\",\"inputs\":{\"means\":[52,47],\"sd\":10,\"n\":50},\"chart\":\"n\"}";
   char* answer = NULL;
   int status;
   printf("interface %d, version %d\n", KELPLAN_API, strlen(kelplan_version()) > 0);
