@@ -108,7 +108,7 @@ mutants: ## demand that a test fails for each of the deliberate faults in tools/
 	@sh tools/install_packages.sh build
 	@python3 -B tools/mutants/run.py . build/mutants
 
-fuzz: fuzz-kelcommon fuzz-kelpower ## fuzz each library for FUZZ_SECONDS, with new inputs each time unless a FUZZ_SEED is given; with -j2 both at once
+fuzz: fuzz-kelcommon fuzz-kelpower fuzz-kelplan ## fuzz each library for FUZZ_SECONDS, with new inputs each time unless a FUZZ_SEED is given; with -j2 two at once
 
 fuzz-build:
 	@sh tools/install_packages.sh build fuzz
@@ -117,6 +117,7 @@ fuzz-build:
 
 fuzz-kelcommon: MAX_LEN := 64
 fuzz-kelpower: MAX_LEN := 256
+fuzz-kelplan: MAX_LEN := 1024
 fuzz-%: fuzz-build
 	@sh tools/fuzz.sh $(FUZZ) $* $(FUZZ_SECONDS) $(MAX_LEN) $(FUZZ_SEED)
 

@@ -12,6 +12,14 @@ if(TARGET kelpower_cli)
 endif()
 
 install(TARGETS kelcommon kelpower EXPORT kelpowerTargets)
+set(libraries kelcommon kelpower)
+if(TARGET kelplan)
+  list(APPEND libraries kelplan)
+  set_target_properties(kelplan PROPERTIES INSTALL_RPATH "$ORIGIN")
+  install(TARGETS kelplan EXPORT kelpowerTargets)
+  install(FILES capi/kelplan.h TYPE INCLUDE)
+  install(DIRECTORY capi/schema DESTINATION ${CMAKE_INSTALL_DATADIR}/kelpower)
+endif()
 install(FILES include/kelpower.h TYPE INCLUDE)
 install(DIRECTORY kelcommon/include/kelcommon TYPE INCLUDE FILES_MATCHING PATTERN "*.h")
 
@@ -25,7 +33,7 @@ install(FILES ${PROJECT_BINARY_DIR}/kelpowerConfig.cmake ${PROJECT_BINARY_DIR}/k
 set(pkgConfigDir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${pkgConfigDir}
            OUTPUT_VARIABLE prefixFromPkgConfig)
-foreach(library kelcommon kelpower)
+foreach(library IN LISTS libraries)
   configure_file(cmake/${library}.pc.in ${library}.pc @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/${library}.pc DESTINATION ${pkgConfigDir})
 endforeach()

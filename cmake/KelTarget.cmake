@@ -57,9 +57,10 @@ endfunction()
 # Makes the library `name` from SOURCES and the CORE under them. Of a shared one only the names in the file EXPORTS are visible: one a line, a C
 # name or a demangled C++ signature. Blank lines and lines that start with # are skipped. The objects of SOURCES stand
 # alone as `<name>_objects`, so that tests reach the internal routines which the library hides. The core is the static
-# library `<name>_core`, for programs of this project that go by it rather than by what is exported.
+# library `<name>_core`, for programs of this project that go by it rather than by what is exported. The objects of the
+# static libraries WITH are inside the library too.
 function(kel_library name)
-  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "EXPORTS" "SOURCES;CORE")
+  cmake_parse_arguments(PARSE_ARGV 1 ARG "" "EXPORTS" "SOURCES;CORE;WITH")
 
   add_library(${name}_objects OBJECT ${ARG_SOURCES})
   set(parts ${name}_objects)
@@ -76,6 +77,11 @@ function(kel_library name)
       VISIBILITY_INLINES_HIDDEN ON)
     kel_compile_options(${part})
     list(APPEND objects $<TARGET_OBJECTS:${part}>)
+  endforeach()
+
+  foreach(inner IN LISTS ARG_WITH)
+    target_link_libraries(${name}_objects PUBLIC ${inner})
+    list(APPEND objects $<TARGET_OBJECTS:${inner}>)
   endforeach()
 
   if(KELPOWER_BUILD_SHARED)

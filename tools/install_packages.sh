@@ -7,7 +7,7 @@ set -eu
 packages=""
 for group in "$@"; do
   case $group in
-    build) packages="$packages g++ cmake ninja-build pkg-config python3 libfast-float-dev libcli11-dev libfmt-dev
+    build) packages="$packages g++ cmake ninja-build pkg-config python3 python3-jsonschema libfast-float-dev libcli11-dev libfmt-dev
                      nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev gnuplot-nox" ;;
     clang) packages="$packages clang" ;;
     arm64) packages="$packages g++-aarch64-linux-gnu qemu-user googletest" ;;

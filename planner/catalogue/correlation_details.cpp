@@ -18,6 +18,7 @@ Details OfPower(const correlation::Level& level, const correlation::ShiftedNorma
   AddCriticalZ(details, level.critical);
   details.Add("shift", "mean of the statistic", statistic.shift);
   details.Add("spread", "standard deviation of the statistic", statistic.spread);
+  SetNormalStatistic(details, statistic.shift, statistic.spread, level.critical, TailsOf(level.isOneSided, isAbove));
   details.value = level.Power(statistic.shift, statistic.spread, isAbove);
   std::string tails = "Phi((m - z) / s) + Phi((-m - z) / s)";
   if (level.isOneSided) tails = isAbove ? "Phi((m - z) / s)" : "Phi((-m - z) / s)";

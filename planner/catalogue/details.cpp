@@ -9,6 +9,9 @@ void AddTTest(Details& details, const kelpower::TTest& test, double noncentralit
   details.Add("df", "degrees of freedom", test.df);
   details.Add("critical-t", "critical value of t", test.critical);
   details.Add("noncentrality", "noncentrality", noncentrality);
+  details.statistic = {
+      .family = StatisticFamily::T, .df1 = test.df, .noncentrality = noncentrality, .rejectsFrom = test.critical};
+  if (!isOneSided) details.statistic->rejectsTo = -test.critical;
   details.value = isOneSided ? test.PowerUpperTail(noncentrality) : test.PowerBothTails(noncentrality);
   details.formula = formula + " = {noncentrality}; power = " +
                     (isOneSided ? "P(T > {critical-t})" : "P(T > {critical-t}) + P(T < -{critical-t})") +
@@ -26,10 +29,21 @@ void AddFTest(Details& details, const kelpower::FTest& test, double noncentralit
   details.Add("df2", "degrees of freedom of the error", test.df2);
   details.Add("critical-f", "critical value of F", test.critical);
   details.Add("noncentrality", "noncentrality", noncentrality);
+  details.statistic = {.family = StatisticFamily::F,
+                       .df1 = test.df1,
+                       .df2 = test.df2,
+                       .noncentrality = noncentrality,
+                       .rejectsFrom = test.critical};
   details.value = test.Power(noncentrality);
   details.formula = formula +
                     " = {noncentrality}; power = P(F > {critical-f}), F noncentral F on {df1} and {df2} degrees of "
                     "freedom";
+}
+
+void SetNormalStatistic(Details& details, double mean, double sd, double critical, Tails tails) {
+  details.statistic = {.family = StatisticFamily::Normal, .mean = mean, .sd = sd};
+  if (tails != Tails::Lower) details.statistic->rejectsFrom = critical;
+  if (tails != Tails::Upper) details.statistic->rejectsTo = -critical;
 }
 
 void AddIntervalT(Details& details, double level, double df) {

@@ -35,6 +35,15 @@ void AddTTest(Details& details, const kelpower::TTest& test, double noncentralit
 /// The same of an F test.
 void AddFTest(Details& details, const kelpower::FTest& test, double noncentrality, const std::string& formula);
 
+/// Which directions a normal test rejects in.
+enum class Tails { Both, Upper, Lower };
+inline Tails TailsOf(bool isOneSided, bool isAbove) {
+  return isOneSided ? (isAbove ? Tails::Upper : Tails::Lower) : Tails::Both;
+}
+
+/// The statistic of a normal test: `mean` and `sd` with the effect, in units of the standard deviation without.
+void SetNormalStatistic(Details& details, double mean, double sd, double critical, Tails tails);
+
 /// The t quantile of an interval, with `df` degrees of freedom at `level`.
 void AddIntervalT(Details& details, double level, double df);
 

@@ -49,6 +49,8 @@ void AddNormal(Details& details, const proportions::McNemarTest& test, const pro
   details.Add("shift", "sqrt(n) (p12 - p21)", of.shift);
   details.Add("null-sd", "standard deviation under the null hypothesis", of.nullSd);
   details.Add("sd", "standard deviation at the proportions expected", of.sd);
+  SetNormalStatistic(details, of.shift / of.nullSd, of.sd / of.nullSd, of.critical,
+                     TailsOf(in.Flag("one-sided"), pairs.p12 > pairs.p21));
   const std::string above = "(({shift}) - {null-sd} * {critical-z}) / {sd}";
   const std::string below = "(-({shift}) - {null-sd} * {critical-z}) / {sd}";
   std::string formula = "Phi(" + above + ") + Phi(" + below + ")";

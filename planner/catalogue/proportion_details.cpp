@@ -69,6 +69,12 @@ Details OfExactTest(proportions::OneSampleTest& test, const proportions::OneSamp
   details.Add("rejects-to", "rejects up to this count (-1: none)", region.lower);
   details.Add("rejects-from", "rejects from this count on", region.upper);
   details.Add("attained-level", "significance level attained", test.AttainedLevel(n, expected));
+  details.statistic = {.family = StatisticFamily::Count,
+                       .trials = n,
+                       .nullProportion = expected.null,
+                       .proportion = expected.alternative,
+                       .rejectsTo = region.lower,
+                       .rejectsFrom = region.upper};
   details.formula =
       "power = P(X <= {rejects-to}) + P(X >= {rejects-from}), X binomial with n = {n} and p = {proportion}";
   details.source =
@@ -100,6 +106,8 @@ Details OfNormalTest(const proportions::OneSampleTest& test, const proportions::
   details.Add("null-sd", "standard deviation under the null hypothesis", of.nullSd);
   details.Add("sd", "standard deviation at the proportion expected", of.sd);
   if (in.Flag("correction")) details.Add("correction", "continuity correction", of.correction);
+  SetNormalStatistic(details, -of.shift / of.nullSd, of.sd / of.nullSd, of.critical + of.correction / of.nullSd,
+                     TailsOf(in.Flag("one-sided"), expected.alternative > expected.null));
   const std::string c = in.Flag("correction") ? " - {correction}" : "";
   const std::string below = "(({shift}) - {null-sd} * {critical-z}" + c + ") / {sd}";
   const std::string above = "(-({shift}) - {null-sd} * {critical-z}" + c + ") / {sd}";

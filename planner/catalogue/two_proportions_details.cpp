@@ -70,6 +70,10 @@ void AddZ(Details& details, const proportions::LargeSampleTest& test, const Inpu
   details.Add("error", "standard error at the proportions expected", of.error);
   const bool isCorrected = in.Flag("correction");
   if (isCorrected) details.Add("correction", "continuity correction", of.correction);
+  const double difference = FirstProportion(in) - SecondProportion(in);
+  SetNormalStatistic(details, difference / of.nullError, of.error / of.nullError,
+                     test.CriticalZ() + (isCorrected ? of.correction / of.nullError : 0),
+                     TailsOf(in.Flag("one-sided"), difference > 0));
   const std::string c = isCorrected ? " - {correction}" : "";
   const std::string above = "(({difference}) - {null-error} * {critical-z}" + c + ") / {error}";
   const std::string below = "(-({difference}) - {null-error} * {critical-z}" + c + ") / {error}";
@@ -105,10 +109,12 @@ void AddZ(Details& details, const proportions::LargeSampleTest& test, const Inpu
 void AddArcsine(Details& details, const proportions::LargeSampleTest& test, const Inputs& in) {
   AddCriticalZ(details, test.CriticalZ());
   details.Add("shift", "mean of the statistic", test.Noncentrality(FirstProportion(in), SecondProportion(in)));
+  const bool isAboveZero = FirstProportion(in) < SecondProportion(in);
+  SetNormalStatistic(details, test.Noncentrality(FirstProportion(in), SecondProportion(in)), 1, test.CriticalZ(),
+                     TailsOf(in.Flag("one-sided"), isAboveZero));
   const std::string above = "pnorm(({shift}) - {critical-z})";
   const std::string below = "pnorm(-({shift}) - {critical-z})";
-  const bool isAbove = FirstProportion(in) < SecondProportion(in);
-  const std::string call = in.Flag("one-sided") ? (isAbove ? above : below) : above + " + " + below;
+  const std::string call = in.Flag("one-sided") ? (isAboveZero ? above : below) : above + " + " + below;
   details.formula = std::string("power = ") + (in.Flag("one-sided") ? "Phi(|m| - z)" : "Phi(m - z) + Phi(-m - z)") +
                     ", m = {shift}, z = {critical-z}; m compares arcsines of roots of the proportions, each moved "
                     "towards the other by 1 / (2 n)";
@@ -134,6 +140,8 @@ void AddLikelihoodRatio(Details& details, const proportions::LargeSampleTest& te
   AddCriticalZ(details, test.CriticalZ());
   details.Add("shift", "root of the likelihood-ratio statistic at the proportions expected",
               test.Noncentrality(FirstProportion(in), SecondProportion(in)));
+  SetNormalStatistic(details, test.Noncentrality(FirstProportion(in), SecondProportion(in)), 1, test.CriticalZ(),
+                     TailsOf(in.Flag("one-sided"), true));
   const std::string tail = "pnorm({shift} - {critical-z})";
   details.formula = std::string("power = Phi(G - z)") + (in.Flag("one-sided") ? "" : " + Phi(-G - z)") +
                     ", G = {shift}, z = {critical-z}";

@@ -272,6 +272,7 @@ Unevenness PreparedQuestion::UnevennessOf(const Inputs& inputs) const {
 }
 
 Row PreparedQuestion::FindSizes(const Inputs& inputs) {
+  lasting_.clear();
   Numbers found = route_.sizes(inputs);
   if (IsStopped()) return stopped;
   if (!AreSizes(found)) found.clear();

@@ -55,6 +55,9 @@ public:
   /// where no input could, such as to a fraction of an observation.
   Row Evaluate(const Inputs& inputs);
 
+  /// Who is asked to stop from here on, of a copy that serves another call; null for none.
+  void SetStop(StopRequest* stop) { inputs_.SetStop(stop); }
+
   /// Lets what designs of the same sizes share be kept. The last digits of a value may then depend on it.
   void ExpectSharedSizes() {
     if (route_.surfaceValue) value_ = route_.surfaceValue;

@@ -1,5 +1,6 @@
 #include "words/json_values.h"
 
+#include <algorithm>
 #include <cmath>
 #include <nlohmann/json.hpp>
 
@@ -8,6 +9,13 @@
 namespace planner {
 
 void AppendJsonText(std::string& out, std::string_view text) {
+  const auto isPlain = [](char letter) { return letter >= ' ' && letter <= '~' && letter != '"' && letter != '\\'; };
+  if (std::all_of(text.begin(), text.end(), isPlain)) {
+    out += '"';
+    out += text;
+    out += '"';
+    return;
+  }
   using Json = nlohmann::json;
   out += Json(text).dump(-1, ' ', false, Json::error_handler_t::replace);
 }

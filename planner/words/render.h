@@ -5,6 +5,7 @@
 
 #include "model/chart.h"
 #include "model/test.h"
+#include "words/json_writer.h"
 #include "words/report.h"
 
 namespace planner {
@@ -35,10 +36,10 @@ std::string RenderCsv(const ChartData& chart);
 std::string RenderJson(const ChartData& chart);
 
 /// The descriptions of all tests, for other front ends.
-std::string RenderListJson();
+std::string RenderListJson(JsonLayout layout = JsonLayout::Lines);
 
 /// The description of all conversions of effect sizes, which `ConvertEffect` in words/effect_report.h makes.
-std::string RenderEffectsJson();
+std::string RenderEffectsJson(JsonLayout layout = JsonLayout::Lines);
 
 }  // namespace planner
 

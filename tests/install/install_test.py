@@ -9,6 +9,7 @@ import tempfile
 from pathlib import Path
 
 CONSUMER = Path(__file__).resolve().parent / "consumer"
+C_CONSUMER = CONSUMER.with_name("c_consumer")
 
 
 def run(*command, **options):
@@ -29,7 +30,7 @@ def install(options):
     shutil.rmtree(options.prefix, ignore_errors=True)
     run(options.cmake, "--install", options.build, "--prefix", options.prefix)
     libraries = options.prefix / options.libdir
-    for name in ("kelcommon", "kelpower"):
+    for name in ("kelcommon", "kelpower") + (("kelplan",) if options.c_compiler else ()):
         real = f"lib{name}.so.{options.release}"
         expect(f"the link of {name} for linking", (libraries / f"lib{name}.so").resolve().name, real)
         expect(f"the link of {name} for loading", (libraries / f"lib{name}.so.{options.soversion}").resolve().name, real)
@@ -71,6 +72,33 @@ def with_pkg_config(options, folder):
     return program
 
 
+def in_c_with_cmake(options, folder):
+    run(options.cmake, "-S", folder, "-B", folder / "build", f"-DCMAKE_C_COMPILER={options.c_compiler}",
+        f"-DCMAKE_C_FLAGS={options.flags}", f"-DCMAKE_PREFIX_PATH={options.prefix}", "-DCMAKE_BUILD_TYPE=Release")
+    run(options.cmake, "--build", folder / "build")
+    return folder / "build" / "consumer"
+
+
+def in_c_with_pkg_config(options, folder):
+    search = {**os.environ, "PKG_CONFIG_LIBDIR": str(options.prefix / options.libdir / "pkgconfig")}
+    flags = run(options.pkg_config, "--cflags", "--libs", "kelplan", env=search).split()
+    libraries = options.prefix / options.libdir
+    program = folder / "consumer_by_pkg_config"
+    run(options.c_compiler, "-std=c99", "-Wall", "-Wextra", "-Werror", "-pedantic", *options.flags.split(), "consumer.c",
+        *flags, f"-Wl,-rpath,{libraries}", f"-Wl,-rpath-link,{libraries}", "-o", program, cwd=folder)
+    return program
+
+
+def check_consumer(options, source, builds):
+    """The consumer prints what it must, however it is built."""
+    expected = (source / "consumer.out").read_text()
+    with tempfile.TemporaryDirectory() as temporary:
+        folder = Path(temporary) / "consumer"
+        shutil.copytree(source, folder)
+        for build in builds:
+            expect(f"the output of the consumer built {build.__name__}", run(build(options, folder)), expected)
+
+
 def check_program(options):
     """The installed program finds the installed libraries without help, wherever the installation is moved."""
     moved = options.prefix.with_name("moved")
@@ -91,6 +119,7 @@ def parse():
     parser.add_argument("--build", required=True, type=Path)
     parser.add_argument("--prefix", required=True, type=Path)
     parser.add_argument("--program")
+    parser.add_argument("--c-compiler", help="builds the consumer of the C interface; without it there is none")
     return parser.parse_args()
 
 
@@ -98,12 +127,9 @@ def main():
     options = parse()
     install(options)
     check_that_nothing_names(("boost", str(options.build)), options.prefix)
-    expected = (CONSUMER / "consumer.out").read_text()
-    with tempfile.TemporaryDirectory() as temporary:
-        folder = Path(temporary) / "consumer"
-        shutil.copytree(CONSUMER, folder)
-        for build in (with_cmake, with_pkg_config):
-            expect(f"the output of the consumer built {build.__name__}", run(build(options, folder)), expected)
+    check_consumer(options, CONSUMER, (with_cmake, with_pkg_config))
+    if options.c_compiler:
+        check_consumer(options, C_CONSUMER, (in_c_with_cmake, in_c_with_pkg_config))
     if options.program:
         check_program(options)
     print("an installation can be used by CMake and by pkg-config")

@@ -8,6 +8,7 @@
   families alone.
 - A room of the planner (a folder of planner) includes the rooms that PLANNER_ROOMS names; the program includes the
   planner's. Of the library they include the core: the catalogue its families and frame, solve its frame.
+- The C interface (capi) includes its own headers and the planner's. Nothing of the product includes it.
 """
 
 import re
@@ -36,6 +37,10 @@ PACKAGES = {"CLI", "fast_float", "fmt", "nlohmann"}
 def rejected_in_planner(path, kind, header, is_own):
     """Why a file of the planner or the program may not include `header`; empty when it may."""
     top = header.split("/")[0]
+    if path.parts[0] == "capi":
+        return rejected_in_capi(kind, top, is_own)
+    if top == "kelplan.h":
+        return "includes the C interface"
     room = path.parts[1]
     if path.parts[0] == "cli":
         if kind == "<" or is_own:
@@ -49,6 +54,13 @@ def rejected_in_planner(path, kind, header, is_own):
     return "" if top in PLANNER_ROOMS[room] | {room} else f"{room} includes {top}"
 
 
+def rejected_in_capi(kind, top, is_own):
+    """Why the C interface may not include a header."""
+    if kind == "<":
+        return f"the C interface includes the package {top}" if top in PACKAGES - {"nlohmann"} else ""
+    return "" if is_own or top in PLANNER_ROOMS else f"the C interface includes {top}"
+
+
 def rejected(path, kind, header, is_own):
     """Why the file `path`, relative to the project, may not include `header`; empty when it may."""
     parts = path.parts
@@ -59,7 +71,7 @@ def rejected(path, kind, header, is_own):
         return "includes what is private to kelcommon"
     if top == "boost":
         return "includes Boost"
-    if parts[0] in ("planner", "cli"):
+    if parts[0] in ("planner", "cli", "capi"):
         return rejected_in_planner(path, kind, header, is_own)
     if kind == "<":
         return ""

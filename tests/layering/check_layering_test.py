@@ -36,6 +36,17 @@ class LayeringTest(unittest.TestCase):
         self.assertEqual(problems("cli/a.cpp", '#include "own.h"'), 0)
         self.assertEqual(problems("cli/a.cpp", '#include "words/b.h"'), 0)
 
+    def test_c_interface(self):
+        self.assertEqual(problems("capi/a.cpp", '#include "own.h"'), 0)
+        self.assertEqual(problems("capi/a.cpp", '#include "solve/b.h"'), 0)
+        self.assertEqual(problems("capi/a.cpp", "#include <nlohmann/json.hpp>"), 0)
+        self.assertEqual(problems("capi/a.cpp", "#include <fmt/format.h>"), 1)
+        self.assertEqual(problems("capi/a.cpp", '#include "means/b.h"'), 1)
+        self.assertEqual(problems("capi/a.cpp", '#include "frame/b.h"'), 1)
+        self.assertEqual(problems("cli/a.cpp", '#include "kelplan.h"'), 1)
+        self.assertEqual(problems("cli/a.cpp", "#include <kelplan.h>"), 1)
+        self.assertEqual(problems("planner/words/a.cpp", "#include <kelplan.h>"), 1)
+
     def test_reports_in_planner(self):
         self.assertEqual(problems("planner/model/a.h", '#include "solve/b.h"'), 1)
         self.assertEqual(problems("planner/model/a.h", '#include "kelpower.h"'), 1)

@@ -8,7 +8,7 @@ import re
 
 from sources import check_all
 
-PRODUCT = {"include", "src", "kelcommon", "planner", "cli"}
+PRODUCT = {"include", "src", "kelcommon", "planner", "cli", "capi"}
 GUARD = re.compile(r"\A(?:[ \t]*//[^\n]*\n|\s*\n|/\*.*?\*/)*#ifndef (\w+)\n#define (\w+)\n", re.S)
 
 

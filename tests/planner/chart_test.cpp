@@ -83,7 +83,7 @@ TEST(Chart, EveryTestOfGroupsHasACurveOverSizes) {
   const InputValues two{{"means", Numbers{52, 47}}, {"sd", Numbers{10, 14}}, {"n", Numbers{40}}};
   EXPECT_EQ(At(Computed("two-means", {"n", {10}, {60}}, two), 40),
             PowerIndependentNondirectional(40, 52, 10, 40, 47, 14, 0.05));
-  const InputValues proportions{{"proportions", Numbers{0.5, 0.75}}, {"n", Numbers{50}}};
+  const InputValues proportions{{"proportions", Numbers{0.5, 0.75}}, {"n", Numbers{50}}, {"unpooled", true}};
   EXPECT_EQ(At(Computed("two-proportions", {"n", {10}, {60}}, proportions), 50),
             PowerIndSampBinom(50, 50, 0.5, 0.75, 0, 0, 0, 0.05, 0, 0, nullptr));
 }

@@ -37,6 +37,11 @@ def exported_names(objdump, library):
     return subprocess.run(["c++filt"], input=names, check=True, capture_output=True, text=True).stdout.splitlines()
 
 
+def declared_in_c(text):
+    """The functions that the header of the C interface declares, in order."""
+    return re.findall(r"^KELPLAN_EXPORT\s[^;(]*?(\w+)\(", text, re.M)
+
+
 def compare_names(what, listed, found):
     problems = [f"{name}: listed twice" for name in sorted({name for name in listed if listed.count(name) > 1})]
     problems += [f"{name}: listed, but not in the {what}" for name in sorted(set(listed) - set(found))]
@@ -72,6 +77,7 @@ def main():
     reader.add_argument("--nm", help="reads a library of a Unix system")
     reader.add_argument("--objdump", help="reads a DLL")
     parser.add_argument("--header", help="header that declares the listed names with KELPOWER_API")
+    parser.add_argument("--c-header", help="header of the C interface, that declares the listed names")
     parser.add_argument("--signatures", help="JSON file of all functions of the interface with their parameters")
     parser.add_argument("--complete", action="store_true", help="demand that every function of --signatures is listed")
     arguments = parser.parse_args()
@@ -90,6 +96,9 @@ def main():
             signatures = json.loads(Path(arguments.signatures).read_text())
             problems += compare_parameters(signatures, declarations)
             problems += compare_complete(signatures, listed) if arguments.complete else []
+    if arguments.c_header:
+        declared = declared_in_c(Path(arguments.c_header).read_text())
+        problems += compare_names("header", listed, declared) or compare_order(listed, declared)
     print("\n".join(problems) or f"{len(listed)} names agree")
     sys.exit(1 if problems or not listed else 0)
 

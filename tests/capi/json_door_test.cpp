@@ -1,0 +1,242 @@
+#include "catalogue/catalogue.h"
+#include "solve/solve.h"
+#include "support.h"
+#include "words/example_inputs.h"
+#include "words/explain.h"
+#include "words/render.h"
+
+namespace {
+
+using namespace keltest;
+
+Json RequestOf(const planner::Test& test, const planner::Example& example) {
+  std::string inputs;
+  planner::JsonWriter json(inputs);
+  json.OpenObject();
+  for (const auto& [name, value] : planner::InputsOf(test, example)) {
+    json.Key(name);
+    json.Of(value);
+  }
+  json.CloseObject();
+  return {{"test", test.name}, {"inputs", Json::parse(inputs)}};
+}
+
+TEST(JsonDoor, AnswersEveryExampleAsTheProgramDoes) {
+  for (const planner::Test& test : planner::Tests()) {
+    for (const planner::Example& example : test.examples) {
+      SCOPED_TRACE(example.arguments);
+      const planner::Answer answer = planner::Solve(test, planner::InputsOf(test, example));
+      planner::Report report = planner::MakeReport(answer);
+      report.explanation = planner::Explain(answer);
+      Json expected = Json::parse(planner::RenderJson(report));
+      expected.erase("schema-version");
+      Json request = RequestOf(test, example);
+      request["explain"] = true;
+      Reply reply = Solved(request);
+      EXPECT_EQ(reply.status, KELPLAN_OK);
+      EXPECT_EQ(reply.json["schema"], 1);
+      EXPECT_EQ(reply.json["version"], kelplan_version());
+      reply.json.erase("schema");
+      reply.json.erase("version");
+      EXPECT_EQ(reply.json, expected);
+      EXPECT_EQ(std::string(reply.json["sentence"]).rfind(example.sentence, 0), 0u);
+    }
+  }
+}
+
+TEST(JsonDoor, DescribesEveryTest) {
+  const Json description = Json::parse(kelplan_describe());
+  EXPECT_EQ(description["schema"], 1);
+  ASSERT_EQ(description["tests"].size(), planner::Tests().size());
+  EXPECT_TRUE(description["tests"] == Json::parse(planner::RenderListJson()));
+  EXPECT_EQ(kelplan_describe(), kelplan_describe());
+  for (const Json& test : description["tests"]) {
+    EXPECT_FALSE(test["examples"].empty()) << test["name"];
+    EXPECT_FALSE(test["sources"].empty()) << test["name"];
+    for (const Json& route : test["routes"]) EXPECT_FALSE(route["results"].empty()) << test["name"];
+  }
+}
+
+struct Wrong {
+  std::string request;
+  int status;
+  std::string kind;
+  std::string code;
+};
+
+std::string OfTwoMeans(const std::string& inputs) { return R"({"test":"two-means","inputs":)" + inputs + "}"; }
+
+TEST(JsonDoor, SaysWhatIsWrongWithARequest) {
+  const Wrong wrongs[] = {
+      {"", 2, "request", "not-json"},
+      {"\xff", 2, "request", "not-json"},
+      {"{\"test\":\"\xc3\"}", 2, "request", "not-json"},
+      {"{} {}", 2, "request", "not-json"},
+      {OfTwoMeans(R"({"effect-d":NaN,"n":20})"), 2, "request", "not-json"},
+      {OfTwoMeans(R"({"effect-d":1e999,"n":20})"), 2, "request", "not-json"},
+      {"[1]", 2, "request", "not-an-object"},
+      {std::string(100000, '['), 2, "request", "nested-too-deeply"},
+      {R"({"a":)" + std::string(100000, '{'), 2, "request", "not-json"},
+      {std::string(17 << 20, ' '), 2, "request", "too-large"},
+      {OfTwoMeans(R"({"effect-d":1,"effect-d":2,"n":20})"), 2, "request", "key-repeated"},
+      {OfTwoMeans(R"({"effect-d":1,"d":2,"n":20})"), 2, "request", "key-repeated"},
+      {"{}", 2, "request", "test-missing"},
+      {R"({"test":1})", 2, "request", "wrong-type"},
+      {R"({"test":"t-test"})", 2, "request", "test-unknown"},
+      {R"({"test":"two-means","inputs":[]})", 2, "request", "wrong-type"},
+      {R"({"test":"two-means","names":"camel"})", 2, "request", "wrong-type"},
+      {R"({"test":"two-means","columns":[]})", 2, "request", "unknown-member"},
+      {R"({"test":"two-means","inputs":{"effect-d":0.5,"n":20},"explain":1})", 2, "request", "wrong-type"},
+      {R"({"test":"two-means","inputs":{"effect-d":[0.5,1],"n":20},"explain":true})", 2, "request", "several-values"},
+      {OfTwoMeans(R"({"effect-d":"half","n":20})"), 2, "input", "not-allowed"},
+      {OfTwoMeans(R"({"effect-d":{},"n":20})"), 2, "input", "not-allowed"},
+      {OfTwoMeans(R"({"effect-d":true,"n":20})"), 2, "input", "not-allowed"},
+      {OfTwoMeans(R"({"effect-d":[],"n":20})"), 2, "input", "not-allowed"},
+      {OfTwoMeans(R"({"effect-d":0.5,"n":[20,"x"]})"), 2, "input", "not-allowed"},
+      {OfTwoMeans(R"({"effect-d":0.5,"power":2})"), 2, "input", "not-allowed"},
+      {OfTwoMeans(R"({"effect-d":0.5})"), 2, "input", "incomplete"},
+      {OfTwoMeans(R"({"colour":0.5})"), 2, "input", "not-an-input"},
+      {OfTwoMeans(R"({"effect-d":0,"power":0.8})"), 3, "no-solution", "no-effect"},
+  };
+  for (const auto& [request, status, kind, code] : wrongs) {
+    SCOPED_TRACE(request.substr(0, 100));
+    const Reply reply = Asked(kelplan_solve, request);
+    EXPECT_EQ(reply.status, status);
+    ASSERT_TRUE(reply.json.contains("error")) << reply.json;
+    EXPECT_EQ(reply.json["error"]["kind"], kind);
+    EXPECT_EQ(reply.json["error"]["code"], code);
+    EXPECT_NE(reply.json["error"]["message"], "");
+  }
+}
+
+TEST(JsonDoor, RefusesArraysThatAreTooLarge) {
+  std::string many = "[0.5";
+  for (int i = 0; i < 300000; ++i) many += ",1";
+  EXPECT_EQ(Asked(kelplan_solve, OfTwoMeans("{\"effect-d\":" + many + "]}")).json["error"]["code"], "too-large");
+  Json alpha = Json::array();
+  Json effects = Json::array();
+  for (int i = 1; i <= 1000; ++i) {
+    alpha.push_back(i * 1e-4);
+    effects.push_back(i * 1e-3);
+  }
+  const Reply reply = Solved({{"test", "two-means"}, {"inputs", {{"effect-d", effects}, {"n", 20}, {"alpha", alpha}}}});
+  EXPECT_EQ(reply.status, KELPLAN_BAD_INPUT);
+  EXPECT_EQ(reply.json["error"]["code"], "too-many-designs");
+}
+
+TEST(JsonDoor, AnErrorNamesTheParameterTheValueAndWhatIsAllowed) {
+  const Json error = Asked(kelplan_solve, OfTwoMeans(R"({"effect-d":0.5,"power":2})")).json["error"];
+  EXPECT_EQ(error["parameter"], "power");
+  EXPECT_EQ(error["parameters"], Json({"power"}));
+  EXPECT_EQ(error["value"], 2);
+  EXPECT_EQ(error["allowed"], "a number between 0 and 1, neither included");
+  EXPECT_EQ(error["message"], "power is 2, but must be a number between 0 and 1, neither included.");
+  EXPECT_EQ(error["template"], "{power} is 2, but must be a number between 0 and 1, neither included.");
+}
+
+TEST(JsonDoor, SpellsNamesWithUnderscoresWhereAsked) {
+  Json request{{"test", "two-means"}, {"names", "underscore"}, {"inputs", {{"effect_d", 0.5}, {"power", 0.8}}}};
+  const Reply reply = Solved(request);
+  EXPECT_EQ(reply.json["inputs"]["target_power"], 0.8);
+  EXPECT_EQ(reply.json["inputs"]["effect_d"], 0.5);
+  request["inputs"]["effect_d"] = "x";
+  const Json error = Solved(request).json["error"];
+  EXPECT_EQ(error["parameter"], "effect_d");
+  EXPECT_EQ(std::string(error["message"]).substr(0, 12), "effect_d is ");
+}
+
+TEST(JsonDoor, AlternativesGiveATableWithErrorsInTheirRows) {
+  const Reply reply =
+      Solved({{"test", "two-means"}, {"inputs", {{"effect-d", {0.2, 0}}, {"power", {0.8, 0.9}}, {"ratio", 2}}}});
+  ASSERT_EQ(reply.status, KELPLAN_OK);
+  EXPECT_EQ(reply.json["inputs"]["ratio"], 2);
+  EXPECT_FALSE(reply.json["inputs"].contains("effect-d"));
+  ASSERT_EQ(reply.json["rows"].size(), 4u);
+  const Json alone =
+      Solved({{"test", "two-means"}, {"inputs", {{"effect-d", 0.2}, {"power", 0.9}, {"ratio", 2}}}}).json;
+  EXPECT_EQ(reply.json["rows"][1]["results"], alone["results"]);
+  EXPECT_EQ(reply.json["rows"][1]["inputs"], Json({{"effect-d", 0.2}, {"target-power", 0.9}}));
+  EXPECT_EQ(reply.json["rows"][2]["error"]["code"], "no-effect");
+  EXPECT_FALSE(reply.json["rows"][2].contains("results"));
+}
+
+TEST(JsonDoor, AListVariesAsAnArrayOfArrays) {
+  const Reply reply = Solved({{"test", "two-means"}, {"inputs", {{"effect-d", 0.5}, {"n", {{20, 30}, {40, 40}}}}}});
+  ASSERT_EQ(reply.status, KELPLAN_OK);
+  EXPECT_EQ(reply.json["rows"][0]["inputs"]["n"], Json({20, 30}));
+  EXPECT_EQ(reply.json["rows"][1]["results"]["total"], 80);
+}
+
+TEST(JsonDoor, TellsTheDistributionsOfTheStatistic) {
+  const Json t = Solved({{"test", "two-means"}, {"inputs", {{"effect-d", 0.5}, {"n", 50}}}, {"densities", true}}).json;
+  EXPECT_EQ(t["densities"]["statistic"], "t");
+  EXPECT_NEAR(double(t["densities"]["power"]), double(t["results"]["power"]), 1e-12);
+  EXPECT_NEAR(double(t["densities"]["level"]), 0.05, 1e-12);
+  EXPECT_EQ(t["densities"]["x"].size(), t["densities"]["with"].size());
+  const Json width =
+      Solved({{"test", "mean"}, {"inputs", {{"sd", 1}, {"n", 50}, {"interval", true}}}, {"densities", true}}).json;
+  EXPECT_TRUE(width["densities"].is_null());
+}
+
+TEST(JsonDoor, DrawsAChart) {
+  const Json request{{"test", "two-means"},
+                     {"names", "underscore"},
+                     {"inputs", {{"effect_d", {0.2, 0.5}}, {"power", 0.8}}},
+                     {"chart", "n"}};
+  const Reply reply = Asked(kelplan_draw, request.dump());
+  ASSERT_EQ(reply.status, KELPLAN_OK) << reply.json;
+  EXPECT_GT(reply.json["x"].size(), 10u);
+  ASSERT_EQ(reply.json["curves"].size(), 2u);
+  EXPECT_EQ(reply.json["varied"], "effect_d");
+  EXPECT_EQ(reply.json["curves"][1]["effect_d"], 0.5);
+  EXPECT_EQ(reply.json["curves"][1]["power"].size(), reply.json["x"].size());
+  Json sizes = request;
+  sizes["inputs"]["effect_d"] = 0.5;
+  sizes["chart"] = "effect-d";
+  sizes["y"] = "n";
+  EXPECT_EQ(Asked(kelplan_draw, sizes.dump()).json["quantity"], "sample-size");
+  sizes["y"] = "x";
+  EXPECT_EQ(Asked(kelplan_draw, sizes.dump()).json["error"]["code"], "wrong-type");
+  Json twice = request;
+  twice["inputs"]["power"] = {0.8, 0.9};
+  EXPECT_EQ(Asked(kelplan_draw, twice.dump()).json["error"]["code"], "several-values");
+  Json wrong = request;
+  wrong["chart"] = "nothing";
+  EXPECT_EQ(Asked(kelplan_draw, wrong.dump()).status, KELPLAN_BAD_INPUT);
+  wrong["chart"] = 3;
+  EXPECT_EQ(Asked(kelplan_draw, wrong.dump()).json["error"]["code"], "wrong-type");
+  wrong.erase("chart");
+  EXPECT_EQ(Asked(kelplan_draw, wrong.dump()).json["error"]["code"], "chart-missing");
+}
+
+int CountAndStop(void* payload) {
+  ++*static_cast<int*>(payload);
+  return 1;
+}
+
+TEST(JsonDoor, StopsWhereTheCallerAsksForIt) {
+  int asked = 0;
+  kelplan_options options{sizeof(kelplan_options), CountAndStop, &asked};
+  const Json request{{"test", "two-means"}, {"inputs", {{"effect-d", 0.5}, {"n", 50}}}};
+  const Reply reply = Solved(request, &options);
+  EXPECT_EQ(reply.status, KELPLAN_STOPPED);
+  EXPECT_EQ(reply.json["error"]["kind"], "stopped");
+  EXPECT_EQ(asked, 1);
+  const Json table{{"test", "two-means"}, {"inputs", {{"effect-d", {0.5, 0.6}}, {"n", 50}}}};
+  EXPECT_EQ(Solved(table, &options).status, KELPLAN_STOPPED);
+  options.size = sizeof(size_t);  // of a caller that knows no more than the size
+  EXPECT_EQ(Solved(request, &options).status, KELPLAN_OK);
+  options = {sizeof(kelplan_options), nullptr, nullptr};
+  EXPECT_EQ(Solved(request, &options).status, KELPLAN_OK);
+}
+
+TEST(JsonDoor, TakesNullForWhatIsNotThere) {
+  EXPECT_EQ(kelplan_solve(nullptr, nullptr, nullptr), KELPLAN_BAD_INPUT);
+  char* answer = nullptr;
+  EXPECT_EQ(kelplan_draw(nullptr, nullptr, &answer), KELPLAN_BAD_INPUT);
+  EXPECT_EQ(Taken(answer)["error"]["code"], "not-json");
+  kelplan_free(nullptr);
+  kelplan_release(nullptr);
+}
+
+}  // namespace
