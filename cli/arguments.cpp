@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/effects.h"
 #include "hints.h"
 #include "nearest.h"
 #include "usage_error.h"
@@ -52,6 +53,24 @@ void AddRun(CLI::App& app) {
   for (const char* name : {"--test", "--output", "--jobs"}) AddOption(*command, name);
 }
 
+void AddInputs(CLI::App& command, const Test& test) {
+  for (const Parameter& parameter : test.parameters) {
+    std::string names = NameOf(parameter);
+    for (const std::string& alias : parameter.aliases) names += ",--" + alias;
+    if (parameter.kind == Kind::Flag) {
+      command.add_flag(names);
+    } else {
+      AddOption(command, names);
+    }
+  }
+}
+
+void AddEffect(CLI::App& app) {
+  CLI::App* command = AddCommand(app, planner::EffectSizes().inputs.name);
+  command->add_flag("--explain");
+  AddInputs(*command, planner::EffectSizes().inputs);
+}
+
 void AddTest(CLI::App& app, const Test& test) {
   CLI::App* command = AddCommand(app, test.name);
   for (const std::string& name : OtherNamesOf(test.name)) command->alias(name);
@@ -59,15 +78,7 @@ void AddTest(CLI::App& app, const Test& test) {
   AddOption(*command, "--chart");
   for (const std::string& name : chartOptions) AddOption(*command, "--" + name);
   for (const char* name : {"--save", "--jobs"}) AddOption(*command, name);
-  for (const Parameter& parameter : test.parameters) {
-    std::string names = NameOf(parameter);
-    for (const std::string& alias : parameter.aliases) names += ",--" + alias;
-    if (parameter.kind == Kind::Flag) {
-      command->add_flag(names);
-    } else {
-      AddOption(*command, names);
-    }
-  }
+  AddInputs(*command, test);
 }
 
 /// The one text given for an option, or null when it is not given.
@@ -201,9 +212,15 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
   return names;
 }
 
+/// What the inputs of a command are those of, or null.
+const Test* InputsOf(const std::string& command) {
+  const Test& effect = planner::EffectSizes().inputs;
+  return command == effect.name ? &effect : planner::FindTest(command);
+}
+
 [[noreturn]] void RejectExtra(const CLI::App& command, const std::string& extra) {
   const std::string option = extra.substr(0, extra.find('='));
-  const planner::Test* test = planner::FindTest(command.get_name());
+  const planner::Test* test = InputsOf(command.get_name());
   if (const std::string known = test ? HintForOption(*test, option) : ""; !known.empty()) {
     throw UsageError(fmt::format("\"{}\" is not an option of {}; {}.", option, command.get_name(), known));
   }
@@ -218,7 +235,7 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
   if (const std::string known = HintForTest(word); !known.empty()) {
     throw UsageError(fmt::format("\"{}\" is not a test; {}.", word, known));
   }
-  std::vector<std::string> names{"list", "run"};
+  std::vector<std::string> names{"list", "run", "effect"};
   for (const Test& test : planner::Tests()) names.push_back(test.name);
   const std::string nearest = Nearest(word, names);
   if (!nearest.empty()) throw UsageError(fmt::format("\"{}\" is not a test; did you mean {}?", word, nearest));
@@ -286,6 +303,27 @@ void ReadRun(const CLI::App& command, Request& request) {
   request.jobs = JobsOf(command);
 }
 
+void ReadEffect(const CLI::App& command, Request& request) {
+  request.command = Command::Effect;
+  const std::vector<planner::Alternatives> alternatives = AlternativesOf(command, planner::EffectSizes().inputs);
+  if (const Parameter* varying = Varying(alternatives)) {
+    throw UsageError(fmt::format("{} has several values, but effect converts one study at a time.", NameOf(*varying)));
+  }
+  request.values = ValuesOf(alternatives);
+  request.isExplained = FlagOf(command, "explain");
+  if (request.format == Format::Ndjson) throw UsageError("--format of effect must be text, json, csv or markdown.");
+  if (request.isExplained && request.format == Format::Csv) {
+    throw UsageError("--explain does not go with --format csv: text, json and markdown have room for it.");
+  }
+}
+
+/// The help of a command.
+Command HelpOf(const Request& request, const std::string& command) {
+  if (request.test) return Command::TestHelp;
+  if (command == "run") return Command::RunHelp;
+  return command == "effect" ? Command::EffectHelp : Command::Overview;
+}
+
 Request RequestOf(const CLI::App& app) {
   const bool version = FlagOf(app, "version");
   Request request;
@@ -297,10 +335,11 @@ Request RequestOf(const CLI::App& app) {
   }
   const CLI::App& command = *app.get_subcommands().front();
   const bool isRun = command.get_name() == "run";
+  const bool isEffect = command.get_name() == "effect";
   if (!isRun) request.test = planner::FindTest(command.get_name());
   const bool help = FlagOf(command, "help");
   if (help || FlagOf(app, "help")) {
-    request.command = request.test ? Command::TestHelp : isRun ? Command::RunHelp : Command::Overview;
+    request.command = HelpOf(request, command.get_name());
     return request;
   }
   request.format = FormatOf(command);
@@ -308,10 +347,15 @@ Request RequestOf(const CLI::App& app) {
   request.command = request.test ? Command::Solve : Command::List;
   if (isRun) {
     ReadRun(command, request);
+  } else if (isEffect) {
+    ReadEffect(command, request);
   } else if (request.test) {
     ReadTest(command, request);
   }
   if (const auto extras = app.remaining(true); !extras.empty()) RejectExtra(command, extras.front());
+  if (isEffect && request.values.empty()) {
+    throw UsageError("Nothing to convert is given; \"kelpower effect --help\" names what can be.");
+  }
   return request;
 }
 
@@ -326,6 +370,7 @@ Request ParseArguments(int argc, const char* const* argv) {
   app.add_flag("--version");
   AddCommand(app, "list");
   AddRun(app);
+  AddEffect(app);
   for (const Test& test : planner::Tests()) AddTest(app, test);
   try {
     app.parse(argc, argv);

@@ -10,7 +10,7 @@
 #include "picture.h"
 #include "solve/designs.h"
 
-enum class Command { Overview, Version, List, TestHelp, RunHelp, Solve, Table, Chart, Run };
+enum class Command { Overview, Version, List, TestHelp, RunHelp, EffectHelp, Solve, Table, Chart, Run, Effect };
 
 enum class Format { Text, Json, Csv, Markdown, Ndjson };
 
@@ -19,9 +19,9 @@ struct Request {
   Command command = Command::Overview;
   Format format = Format::Text;
   const planner::Test* test = nullptr;  // of TestHelp, Solve, Table and Chart; of Run where it is named
-  planner::InputValues values;          // of Solve and Chart
+  planner::InputValues values;          // of Solve, Chart and Effect
   std::vector<planner::Alternatives> alternatives = {};  // of Table, in the order of the command line
-  bool isExplained = false;                              // of Solve: what is behind the answer is told too
+  bool isExplained = false;                              // of Solve and Effect: what is behind the answer is told too
   planner::ChartRequest chart;
   PictureOptions picture;  // of a chart
   std::string input;       // the file of Run; "-" for the standard input

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/effects.h"
 #include "solve/axes.h"
 #include "words/expand.h"
 #include "words/numbers.h"
@@ -99,6 +100,17 @@ constexpr Placeholder placeholders[] = {
     {"predictors", "K"},
     {"tested", "Q"},
     {"partialled-out", "K"},
+    {"t", "T"},
+    {"f-statistic", "F"},
+    {"df", "DF"},
+    {"hedges-g", "G"},
+    {"superiority", "P"},
+    {"correlations", "R1,R2"},
+    {"effect-q", "Q"},
+    {"effect-h", "H"},
+    {"events", "E1,E2"},
+    {"counts", "A,B,C,D"},
+    {"confidence", "C"},
 };
 
 std::string PlaceholderOf(const Test& test, Name name) {
@@ -131,6 +143,7 @@ const char* HeadingOf(Question question) {
     case Question::SampleSize: return "Sample size for a power";
     case Question::HalfWidth: return "Half-width of the confidence interval of a design";
     case Question::SampleSizeForHalfWidth: return "Sample size for a half-width";
+    case Question::EffectSizes: return "What you have";
   }
   return "";
 }
@@ -210,9 +223,13 @@ std::string ChartSection(const Test& test, const Highlights& highlights) {
              DesignOfExample(test), axes.front().name);
 }
 
-std::string OptionLines(const Test& test) {
+std::size_t OptionWidth(const Test& test) {
   std::size_t width = 0;
   for (const Parameter& parameter : test.parameters) width = std::max(width, OptionText(parameter).size());
+  return width;
+}
+
+std::string InputLines(const Test& test, std::size_t width) {
   std::string text;
   for (const Parameter& parameter : test.parameters) {
     const std::string unit = parameter.unit.empty() ? "" : ", in " + parameter.unit;
@@ -221,6 +238,12 @@ std::string OptionLines(const Test& test) {
       text += fmt::format("  {:<{}}{}\n", "", width, details);
     }
   }
+  return text;
+}
+
+std::string OptionLines(const Test& test) {
+  const std::size_t width = OptionWidth(test);
+  std::string text = InputLines(test, width);
   text += fmt::format("  {:<{}}  also tell what is behind the answer, and how other programs are asked the same\n",
                       "--explain", width);
   text += fmt::format("  {:<{}}  text (default), json, csv, markdown or ndjson\n", "--format WORD", width);
@@ -253,6 +276,29 @@ std::string HelpOf(const Test& test, const Highlights& highlights) {
   return text;
 }
 
+std::string HelpOfEffects(const Highlights& highlights) {
+  const Effects& effects = EffectSizes();
+  const Test& test = effects.inputs;
+  const auto heading = [&](const std::string& words) {
+    return fmt::format("{}{}{}\n", highlights.heading, words, highlights.end);
+  };
+  std::string text = heading(test.title) + fmt::format("{}\n{}\n\n", test.about, test.whenNot);
+  text += heading("For example") + ExampleText(test.examples.front());
+  for (std::size_t i = 0; i < effects.conversions.size(); ++i) {
+    const std::string& title = effects.conversions[i].title;
+    if (!title.empty()) text += '\n' + heading(title);
+    text += "  " + Usage(test, test.routes[i]) + '\n';
+  }
+  const std::size_t width = OptionWidth(test);
+  text += '\n' + heading("Options") + InputLines(test, width);
+  text += fmt::format("  {:<{}}  also tell the formula and source of each effect size\n", "--explain", width);
+  text += fmt::format("  {:<{}}  text (default), json, csv or markdown\n", "--format WORD", width);
+  text += fmt::format("  {:<{}}  this help\n", "--help", width);
+  text += '\n' + heading("More examples");
+  for (std::size_t i = 1; i < test.examples.size(); ++i) text += ExampleText(test.examples[i]);
+  return text;
+}
+
 std::string HelpOfRun(const Highlights& highlights) {
   return fmt::format(
       "{0}Answers a file of designs{1}\n"
@@ -280,5 +326,7 @@ std::string ListOfTests(const Highlights& highlights) {
   for (const Test& test : Tests()) {
     text += fmt::format("{}{:<{}}{}  {}\n", highlights.heading, test.name, width, highlights.end, test.title);
   }
+  text += fmt::format("\n{}{:<{}}{}  No test: converts what a study reports into effect sizes\n", highlights.heading,
+                      EffectSizes().inputs.name, width, highlights.end);
   return text;
 }

@@ -120,24 +120,16 @@ std::vector<Route> Routes() {
 
 bool DifferencesSpread(const Inputs& in) {
   const Numbers& sds = in.List("sds");
-  return sds[0] != sds[1] || std::abs(in.Number("correlation")) != 1;
+  return sds[0] != sds[1] || in.Number("correlation") != 1;
 }
 
 std::vector<Condition> Conditions() {
   return {
-      {.code = "uncorrelated-pairs",
-       .about = {"means", "correlation"},
-       .holds = [](const Inputs& in) { return in.Number("correlation") != 0; },
-       .sentence = "{correlation} is 0: measurements that do not correlate are not pairs; two-means tests them."},
-      {.code = "one-sided-correlation",
-       .about = {"means", "correlation"},
-       .holds = [](const Inputs& in) { return in.Number("correlation") < 1 || !in.Flag("one-sided"); },
-       .sentence = "{correlation} of a one-sided test must be below 1."},
       {.code = "differences-spread",
        .about = {"means", "correlation"},
        .holds = DifferencesSpread,
-       .sentence =
-           "{sds} are equal and {correlation} is 1 or -1, which the test refuses: give {sd-difference} instead."},
+       .sentence = "{sds} are equal and {correlation} is 1: the differences do not vary, so that there is nothing to "
+                   "test."},
   };
 }
 

@@ -140,6 +140,11 @@ std::vector<Condition> Conditions() {
        .about = {"predictors", "tested"},
        .holds = [](const Inputs& in) { return Tested(in) <= Predictors(in); },
        .sentence = "{tested} must not exceed {predictors}."},
+      {.code = "reduced-missing",
+       .about = {"r-squared", "tested", "predictors"},
+       .holds = [](const Inputs& in) { return Tested(in) >= Predictors(in) || in.Has("r-squared-reduced"); },
+       .sentence = "Also give {r-squared-reduced}, how much the predictors that are not tested explain: {tested} is "
+                   "below {predictors}. It is 0 where they explain nothing."},
       {.code = "reduced-fit",
        .about = {"r-squared", "r-squared-reduced"},
        .holds = [](const Inputs& in) { return Reduced(in) <= in.Number("r-squared"); },

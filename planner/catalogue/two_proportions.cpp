@@ -18,6 +18,8 @@ TwoProportionTest TestOf(const Inputs& in) { return TwoProportionTest(in.Choice(
 
 bool IsConditional(const Inputs& in) { return TestOf(in) == TwoProportionTest::Conditional; }
 
+bool IsPooled(const Inputs& in) { return !in.Flag("unpooled"); }
+
 bool IsExact(const Inputs& in) { return in.Flag("exact") || IsConditional(in); }
 
 double FirstProportion(const Inputs& in) {
@@ -34,7 +36,7 @@ double SecondProportion(const Inputs& in) {
 }
 
 kelpower::proportions::IndependentDesign DesignOf(const Inputs& in) {
-  return {TestOf(in), IsExact(in), in.Flag("one-sided"), in.Alpha(), in.Flag("correction"), in.Flag("pooled")};
+  return {TestOf(in), IsExact(in), in.Flag("one-sided"), in.Alpha(), in.Flag("correction"), IsPooled(in)};
 }
 
 kelpower::proportions::IndependentSizes WantedOf(const Inputs& in) {
@@ -62,7 +64,7 @@ std::vector<Names> EffectsOfTwoProportions() {
           {"proportion1", "odds-ratio"}};
 }
 
-Names OptionsOfTwoProportions() { return {"method", "exact", "pooled", "correction", "one-sided"}; }
+Names OptionsOfTwoProportions() { return {"method", "exact", "unpooled", "correction", "one-sided"}; }
 
 Names With(Names names, Name name) {
   names.push_back(name);
@@ -90,7 +92,7 @@ std::vector<Parameter> ParametersOfTwoProportions() {
           .Alias("test")
           .Default("z"),
       Flag("exact", "exact power", "sum over all tables in place of the large-sample formula"),
-      Flag("pooled", "pooled variance", "standard error under equal proportions (z), pooled variance (t)"),
+      Flag("unpooled", "unpooled variance", "do not take the proportions (z) or the variances (t) to be equal in the standard error"),
       Flag("correction", "continuity correction", "correct the z test or the interval for continuity")
           .Alias("continuity-correction"),
       Flag("one-sided", "one-sided test", "test in the direction of the difference only"),
@@ -134,8 +136,7 @@ std::vector<Derived> DerivedFigures() {
 
 std::string StandardError(const Inputs& in) {
   if (TestOf(in) != TwoProportionTest::Z && TestOf(in) != TwoProportionTest::T) return "";
-  const bool isPooled = in.Flag("pooled") || (IsExact(in) && TestOf(in) == TwoProportionTest::Z);
-  return isPooled ? "pooled" : "unpooled";
+  return IsPooled(in) ? "pooled" : "unpooled";
 }
 
 std::string Tails(const Inputs& in) {
@@ -152,7 +153,7 @@ std::vector<Assumption> Assumptions() {
   return {
       {.name = "standard-error",
        .label = "standard error",
-       .needs = {"method", "pooled"},
+       .needs = {"method", "unpooled"},
        .call = StandardError,
        .wording = "<0> "},
       {.name = "tails",

@@ -32,7 +32,12 @@ std::string RenderCsv(const Report& report) {
     values += ',' + CsvField(value);
   };
   for (const Entry& entry : report.inputs) add(entry.name, CsvValue(entry.value));
-  for (const Entry& entry : report.results) add(entry.name, CsvValue(entry.value));
+  for (const Entry& entry : report.results) {
+    // An effect size that was given stands among its conversions once more.
+    const bool isThere = std::any_of(report.inputs.begin(), report.inputs.end(),
+                                     [&](const Entry& input) { return input.name == entry.name; });
+    if (!isThere) add(entry.name, CsvValue(entry.value));
+  }
   return names + '\n' + values + '\n';
 }
 

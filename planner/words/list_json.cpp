@@ -1,3 +1,5 @@
+#include "words/list_json.h"
+
 #include <limits>
 #include <set>
 
@@ -24,19 +26,6 @@ const char* WordOf(Kind kind) {
   return "";
 }
 
-/// Writes a list under a key, an entry at a time.
-template <typename List, typename Write>
-void WriteList(JsonWriter& json, const char* key, const List& list, const Write& write) {
-  json.Key(key);
-  json.OpenArray();
-  for (const auto& entry : list) write(entry);
-  json.CloseArray();
-}
-
-void WriteNames(JsonWriter& json, const char* key, const Names& names) {
-  WriteList(json, key, names, [&](planner::Name name) { json.Name(name.Text()); });
-}
-
 void WriteLimits(JsonWriter& json, const Limits& limits) {
   json.Key("limits");
   json.OpenObject();
@@ -59,6 +48,12 @@ void WriteChoices(JsonWriter& json, const Parameter& parameter) {
   json.CloseObject();
 }
 
+}  // namespace
+
+void WriteNames(JsonWriter& json, const char* key, const Names& names) {
+  WriteList(json, key, names, [&](planner::Name name) { json.Name(name.Text()); });
+}
+
 void WriteParameter(JsonWriter& json, const Parameter& parameter) {
   json.OpenObject();
   json.Key("name");
@@ -78,6 +73,8 @@ void WriteParameter(JsonWriter& json, const Parameter& parameter) {
   }
   json.CloseObject();
 }
+
+namespace {
 
 void WriteResult(JsonWriter& json, const ResultColumn& column) {
   json.OpenObject();

@@ -43,8 +43,13 @@ private:
 
   /// "--sd and --n, or --effect-f and --n"
   std::string Ways(const std::string& last, const std::string& other) const {
+    constexpr std::size_t mostNamed = 8;
     std::vector<std::string> ways;
     for (const Names& names : problem_.missing) {
+      if (ways.size() == mostNamed) {
+        ways.emplace_back("others");
+        break;
+      }
       std::vector<std::string> way;
       for (Name name : names) way.push_back(name_(name.Text()));
       ways.push_back(Joined(way, " and "));
@@ -270,6 +275,7 @@ std::string Wording(Question question) {
     case Question::SampleSize: return "the sample size";
     case Question::HalfWidth: return "the half-width";
     case Question::SampleSizeForHalfWidth: return "the sample size for a half-width";
+    case Question::EffectSizes: return "the effect sizes";
   }
   return "";
 }

@@ -24,9 +24,19 @@ void WriteProgram(JsonWriter& json, const ProgramCall& program) {
   json.CloseObject();
 }
 
+void WriteFormula(JsonWriter& json, const ExplainedFormula& formula) {
+  json.KeyOfName(formula.name);
+  json.OpenObject();
+  json.Text("formula", formula.formula);
+  json.Text("source", formula.source);
+  json.CloseObject();
+}
+
 void WriteExplanation(JsonWriter& json, const Explanation& explanation) {
   json.Key("details");
   json.OpenObject();
+  for (const ExplainedFormula& formula : explanation.formulas) WriteFormula(json, formula);
+  if (!explanation.formulas.empty()) return json.CloseObject();
   json.Key("figures");
   json.OpenObject();
   for (const ExplainedFigure& figure : explanation.figures) {
@@ -51,6 +61,7 @@ const char* WordOf(Question question) {
     case Question::SampleSize: return "sample-size";
     case Question::HalfWidth: return "half-width";
     case Question::SampleSizeForHalfWidth: return "sample-size-for-half-width";
+    case Question::EffectSizes: return "effect-sizes";
   }
   return "";
 }
@@ -74,7 +85,7 @@ void WriteReport(JsonWriter& json, const Report& report) {
   WriteEntries(json, "results", report.results);
   json.Text("sentence", report.sentence);
   if (!report.note.empty()) json.Text("note", report.note);
-  json.Text("export", report.exportName);
+  if (!report.exportName.empty()) json.Text("export", report.exportName);
   if (report.explanation) WriteExplanation(json, *report.explanation);
 }
 

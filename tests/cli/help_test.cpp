@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/effects.h"
 #include "solve/axes.h"
 
 namespace {
@@ -19,6 +20,19 @@ TEST(Help, NamesEveryOptionAndShowsTheExamples) {
     for (const auto& example : test.examples) EXPECT_NE(help.find(example.arguments), std::string::npos);
     EXPECT_EQ(help.find('{'), std::string::npos) << "inputs are named as options: " << help;
   }
+}
+
+TEST(Help, OfEffectSizesBeginsWithAnExampleAndNamesEveryInput) {
+  const std::string help = HelpOfEffects();
+  const planner::Test& inputs = planner::EffectSizes().inputs;
+  for (const planner::Parameter& parameter : inputs.parameters) {
+    EXPECT_NE(help.find("\n  " + OptionOf(parameter.name.Text())), std::string::npos) << parameter.name.Text();
+  }
+  for (const auto& example : inputs.examples) EXPECT_NE(help.find(example.arguments), std::string::npos);
+  EXPECT_LT(help.find("For example\n  kelpower effect --means"), help.find("\nMeans and standard deviations"));
+  EXPECT_EQ(help.find('{'), std::string::npos);
+  EXPECT_EQ(help.find(" X"), std::string::npos) << "a value without a name";
+  EXPECT_EQ(help.find("--jobs"), std::string::npos);
 }
 
 TEST(Help, BeginsWithTheCommonestCall) {

@@ -19,7 +19,7 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]', re.M)
 SOURCES = {".h", ".hpp", ".cpp", ".in"}
 
 
-FAMILIES = {"anova", "correlation", "means", "proportions", "regression"}
+FAMILIES = {"anova", "correlation", "effects", "means", "proportions", "regression"}
 
 # What each room of the planner may include besides itself: other rooms, and folders of the core.
 PLANNER_ROOMS = {

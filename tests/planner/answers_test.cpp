@@ -53,12 +53,9 @@ TEST(PairedProportions, HasAnExactSizeForMarginalProportions) {
 }
 
 TEST(TwoProportions, DoesNotSquareTheSecondSize) {
-  const Answer answer = Solve(*FindTest("two-proportions"), {{"proportions", Numbers{0.6, 0.3}},
-                                                             {"power", 0.8},
-                                                             {"ratio", 1.5},
-                                                             {"one-sided", true},
-                                                             {"continuity-correction", true},
-                                                             {"pooled", true}});
+  const Answer answer = Solve(
+      *FindTest("two-proportions"),
+      {{"proportions", Numbers{0.6, 0.3}}, {"power", 0.8}, {"ratio", 1.5}, {"one-sided", true}, {"correction", true}});
   // The ratio applies to the first size before it is rounded up.
   EXPECT_GT(answer.sizes[1], 1.5 * (answer.sizes[0] - 1));
   EXPECT_LE(answer.sizes[1], std::ceil(1.5 * answer.sizes[0]));
