@@ -15,7 +15,7 @@
 
 #include <stddef.h>
 
-#if defined(__GNUC__)
+#if defined(__GNUC__) && !defined(_WIN32)
 #define KELPLAN_EXPORT __attribute__((visibility("default")))
 #else
 #define KELPLAN_EXPORT
