@@ -53,7 +53,8 @@ const FileKind* KindOfFormat(Format format) {
     case Format::Text: return &inCharacters;
     case Format::Csv: return &fileKinds[3];
     case Format::Json: return &fileKinds[4];
-    case Format::Markdown: break;
+    case Format::Markdown:
+    case Format::Ndjson: break;
   }
   throw UsageError("--format of a chart must be text, json or csv.");
 }
