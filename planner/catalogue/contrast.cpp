@@ -7,6 +7,7 @@
 #include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
+#include "catalogue/offers.h"
 #include "catalogue/tests.h"
 #include "catalogue/unknowns.h"
 #include "catalogue/words.h"
@@ -155,6 +156,7 @@ Test ContrastTest() {
        .call = EffectOfMeans},
   };
   test.charts = ChartsOfContrast();
+  test.offers = OffersOfContrast();
   AddWordsOfContrast(test);
   return WithCommonParameters(std::move(test));
 }

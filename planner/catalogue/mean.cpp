@@ -5,6 +5,7 @@
 #include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/mean_parameters.h"
+#include "catalogue/offers.h"
 #include "catalogue/tests.h"
 #include "catalogue/unknowns.h"
 #include "catalogue/words.h"
@@ -124,6 +125,7 @@ Test MeanTest() {
       {.name = "effect-d", .label = "effect size d", .needs = {"mean", "test-value", "sd"}, .call = EffectSize},
   };
   test.charts = ChartsOfMean();
+  test.offers = OffersOfMean();
   AddWordsOfMean(test);
   return WithCommonParameters(std::move(test));
 }

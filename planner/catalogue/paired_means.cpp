@@ -6,6 +6,7 @@
 #include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/mean_parameters.h"
+#include "catalogue/offers.h"
 #include "catalogue/tests.h"
 #include "catalogue/unknowns.h"
 #include "catalogue/words.h"
@@ -191,6 +192,7 @@ Test PairedMeansTest() {
       {.name = "effect-d", .label = "effect size d", .needs = {"mean-difference", "sd-difference"}, .call = EffectSize},
   };
   test.charts = ChartsOfPairedMeans();
+  test.offers = OffersOfPairedMeans();
   AddWordsOfPairedMeans(test);
   return WithCommonParameters(std::move(test));
 }

@@ -157,6 +157,7 @@ Test PairwiseTest() {
                           .needs = {"adjust"},
                           .call = Level});
   test.charts = ChartsOfPairwise();
+  test.offers.comparisons = false;  // the pairs have an adjustment of their own
   AddWordsOfPairwise(test);
   return WithCommonParameters(std::move(test));
 }

@@ -4,6 +4,7 @@
 #include "catalogue/core.h"
 #include "catalogue/correlation.h"
 #include "catalogue/correlation_parameters.h"
+#include "catalogue/offers.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
 #include "correlation/pearson.h"
@@ -104,6 +105,7 @@ Test PartialTest() {
        .sentence = "{n} must exceed the number of variables partialled out by at least 4."},
   };
   test.charts.push_back(OverVariablesPartialledOut());
+  test.offers = OffersOfPartial();
   AddWordsOfPartial(test);
   return WithCommonParameters(std::move(test));
 }

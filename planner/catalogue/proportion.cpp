@@ -5,6 +5,7 @@
 #include "catalogue/axes.h"
 #include "catalogue/charts.h"
 #include "catalogue/core.h"
+#include "catalogue/offers.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
 #include "frame/counts.h"
@@ -233,6 +234,7 @@ Test ProportionTest() {
                        .wording = ", with <0>,"}};
   test.largestExactSearch = largestCount;
   test.charts = ChartsOfProportion();
+  test.offers = OffersOfProportion();
   AddWordsOfProportion(test);
   return WithCommonParameters(std::move(test));
 }

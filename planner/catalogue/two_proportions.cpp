@@ -189,6 +189,7 @@ Test TwoProportionsTest() {
   test.derived = DerivedFigures();
   test.assumptions = Assumptions();
   test.charts = ChartsOfTwoProportions();
+  test.offers.clusters = true;
   AddWordsOfTwoProportions(test);
   return WithCommonParameters(std::move(test));
 }

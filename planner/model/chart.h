@@ -64,7 +64,10 @@ struct Chart {
   bool isAnotherWay = false;                 // to draw the chart before it, so that help need not name it
   double (*steps)(const Inputs&) = nullptr;  // of one power, where a chart of many may take long
 
-  bool Takes(Name input) const { return input == Name("alpha") || Contains(needs, input) || Contains(accepts, input); }
+  bool Takes(Name input) const {
+    static const Names always{"alpha", "comparisons", "cluster-size", "icc", "cluster-cv", "effect-sd"};
+    return Contains(always, input) || Contains(needs, input) || Contains(accepts, input);
+  }
 };
 
 /// What the user asks of a chart. Of a surface, `from` and `to` have one entry for each axis. Empty, they stand for the

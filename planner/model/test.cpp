@@ -87,6 +87,7 @@ Test WithCommonParameters(Test test) {
           .Above(0)
           .Below(1)
           .Default(0.05));
+  AddOffers(test);
   AddUnknownLevels(test);
   AddParametersOfUnknowns(test);
   if (test.unevenness) AddStableSizes(test);

@@ -154,6 +154,16 @@ Asked FindUnknownAsked(const Test& test, const InputValues& values, const Names&
   RejectUnknown(test, target, named, given);
 }
 
+/// What belongs to sizes that are found.
+void RejectBesideSizes(const Names& given) {
+  for (Name name : {Name("dropout"), Name("assurance")}) {
+    for (Name other : {Name("n"), Name("solve")}) {
+      if (!Contains(given, name) || !Contains(given, other)) continue;
+      throw InputError({.code = Code::BelongsToSizesFound, .inputs = Texts({name, other})});
+    }
+  }
+}
+
 }  // namespace
 
 std::vector<std::string> Texts(const Names& names) {
@@ -202,6 +212,7 @@ const Route& ChooseRoute(const Test& test, Question question, const Names& given
 
 Asked FindAsked(const Test& test, const InputValues& values) {
   const Names given = GivenNames(test, values);
+  RejectBesideSizes(given);
   const Question question = AskedQuestion(given);
   if (const std::optional<Name> target = TargetOfUnknown(given)) {
     return FindUnknownAsked(test, values, given, *target);

@@ -49,9 +49,17 @@ std::vector<ResultColumn> PossibleResults(const Test& test, const std::vector<co
   std::vector<ResultColumn> results;
   for (const Route& route : test.routes) {
     const auto add = [&](const Unknown* unknown) {
-      const bool mayBeUneven = test.unevenness != nullptr;
-      for (ResultColumn& column : ResultColumns(test, route, unknown, mayBeUneven)) {
-        results.push_back(std::move(column));
+      Names offers;
+      std::copy_if(OfferedInputs().begin(), OfferedInputs().end(), std::back_inserter(offers),
+                   [&](Name name) { return Contains(names, name) && route.Takes(name); });
+      const bool mayBeUneven =
+          test.unevenness || (Contains(offers, "assurance") && test.offers.lastingAssuredSizes);
+      // A row may leave out what is offered.
+      for (const Names& given : {Names{}, offers}) {
+        for (ResultColumn& column : ResultColumns(test, route, unknown, given, mayBeUneven)) {
+          results.push_back(std::move(column));
+        }
+        if (offers.empty()) break;
       }
     };
     if (IsPossible(route, names)) add(nullptr);

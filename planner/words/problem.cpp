@@ -247,6 +247,13 @@ std::string Words::Sentence() const {
     case Code::TargetNotReached: return TargetNotReached();
     case Code::TargetReachedAlways:
       return fmt::format("{} {} is reached whatever {} is.", Input(0), Figure(0), Input(1));
+    case Code::BelongsToSizesFound:
+      return fmt::format("{} goes with sizes that are found, so {} cannot be given as well.", Input(0), Input(1));
+    case Code::BeyondPowerLimit:
+      return fmt::format(
+          "{} {} is not reached by any sample size: with {} {} the expected power stays below {}, the probability that "
+          "the effect has the direction expected.",
+          Input(0), Figure(0), Input(1), Figure(1), Rounded(2));
     case Code::SizesNotFound: return SizesNotFound();
     case Code::NotComputable:
       return fmt::format("These inputs have no answer: {} cannot be computed.", Wording(*problem_.question));
