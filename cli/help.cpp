@@ -116,7 +116,7 @@ std::string Usage(const Test& test, const Route& route) {
   for (Name need : route.needs) text += ' ' + given(need);
   if (asker) text += ' ' + given(*asker);
   for (Name input : route.accepts) {
-    if (input != asker) text += fmt::format(" [{}]", given(input));
+    if (input != asker && !Contains(OfferedInputs(), input)) text += fmt::format(" [{}]", given(input));
   }
   return text;
 }

@@ -23,7 +23,14 @@ void Refuse(Test& test, std::string code, Names about, std::function<bool(const 
   test.conditions.push_back({std::move(code), std::move(about), std::move(holds), std::move(sentence)});
 }
 
-bool Never(const Inputs&) { return false; }
+/// Neither as a target nor as what is solved for.
+void RefuseAssuranceWith(Test& test, Name other, const std::string& sentence) {
+  const std::string code = "assurance-with-" + std::string(other.Text());
+  const auto never = [](const Inputs&) { return false; };
+  const auto solvesForAnother = [](const Inputs& in) { return !SolvesForAssurance(in); };
+  Refuse(test, code, {"assurance", other}, never, sentence);
+  Refuse(test, code, {"solve", other}, solvesForAnother, sentence);
+}
 
 void AddClusters(Test& test, const std::vector<Question>& all) {
   Add(test,
@@ -71,13 +78,13 @@ void AddAssurance(Test& test) {
           .AtMost(0.999999),
       {Question::SampleSizeForHalfWidth});
   if (test.offers.population != FinitePopulation::None) {
-    Refuse(test, "assurance-of-population", {"assurance", "population"}, Never,
-           "{assurance} and {population} do not go together: the assurance is that of a sample from a large "
-           "population.");
+    RefuseAssuranceWith(test, "population",
+                        "An assurance and {population} do not go together: it is that of a sample from a large "
+                        "population.");
   }
   if (test.offers.clusters) {
-    Refuse(test, "assurance-of-clusters", {"assurance", "cluster-size"}, Never,
-           "{assurance} and {cluster-size} do not go together: the assurance is that of independent observations.");
+    RefuseAssuranceWith(test, "cluster-size",
+                        "An assurance and {cluster-size} do not go together: it is that of independent observations.");
   }
 }
 
@@ -108,6 +115,10 @@ void AddOffers(Test& test) {
             .Above(0),
         {Question::Power, Question::SampleSize});
   }
+}
+
+bool SolvesForAssurance(const Inputs& inputs) {
+  return inputs.Has("solve") && inputs.Choice("solve") == static_cast<int>(Name("assurance").Index());
 }
 
 const Names& OfferedInputs() {

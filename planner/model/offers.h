@@ -41,6 +41,9 @@ struct Offers {
 /// Adds the parameters of what the test offers, to the routes of the questions that they go with, and the conditions.
 void AddOffers(Test& test);
 
+/// Whether the assurance of sizes that are given is asked for.
+bool SolvesForAssurance(const Inputs& inputs);
+
 /// The inputs of offers.
 const Names& OfferedInputs();
 

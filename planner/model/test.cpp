@@ -33,6 +33,7 @@ std::vector<Choice> ChoicesOfUnknowns(const Test& test) {
         std::any_of(choices.begin(), choices.end(), [&](const Choice& choice) { return choice.word == word; });
     if (!isKnown) choices.push_back({word, static_cast<int>(unknown.input.Index()), word});
   }
+  if (test.offers.assurance) choices.push_back({"assurance", static_cast<int>(Name("assurance").Index()), "assurance"});
   return choices;
 }
 

@@ -147,6 +147,9 @@ Asked FindUnknownAsked(const Test& test, const InputValues& values, const Names&
   const Question question = target == Name("power") ? Question::Power : Question::HalfWidth;
   const std::optional<Name> named = NamedUnknown(values);
   const Names design = Without(given, {"power", "half-width", "interval"});
+  if (named == Name("assurance") && question == Question::HalfWidth) {
+    return {.route = &ChooseRoute(test, question, design), .isAssurance = true};
+  }
   for (const Unknown* unknown : UnknownsOf(test, question, named)) {
     if (Contains(given, unknown->input)) continue;
     if (const Route* route = RouteWith(test, *unknown, design)) return {route, unknown};

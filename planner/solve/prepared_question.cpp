@@ -101,6 +101,7 @@ PreparedQuestion::PreparedQuestion(const Test& test, const Asked& asked, const I
       unknown_(asked.unknown),
       inputs_(MakeInputs(test, WithUnknown(test, asked.unknown, values), stop)) {
   conditions_ = Applicable(test.conditions, inputs_);
+  if (asked.isAssurance || inputs_.Has("assurance")) assurance_ = test.offers.assurance;
   if (!AsksForSizes(route_.question)) {
     value_ = AdjustedValue(test, route_, inputs_);
     return;
@@ -109,7 +110,6 @@ PreparedQuestion::PreparedQuestion(const Test& test, const Asked& asked, const I
   sizeConditions_ = Applicable(test.conditions, AtSizes(inputs_, WholeSizes(test, inputs_).At(1)));
   const Route& atSizes = RouteAtSizes(test, ValueQuestion(route_.question), GivenNames(test, values));
   value_ = AdjustedValue(test, atSizes, AtSizes(inputs_, WholeSizes(test, inputs_).At(1)));
-  if (inputs_.Has("assurance")) assurance_ = test.offers.assurance;
 }
 
 void PreparedQuestion::SetColumns(std::vector<Column> columns) {
@@ -216,7 +216,9 @@ const Condition* PreparedQuestion::FailingEffect(const Inputs& inputs) const {
 }
 
 Row PreparedQuestion::Checked(const Inputs& inputs) {
-  return AsksForSizes(route_.question) ? FindSizes(inputs) : ValueOf(inputs);
+  if (AsksForSizes(route_.question)) return FindSizes(inputs);
+  if (assurance_) assured_ = assurance_(inputs);
+  return ValueOf(inputs);
 }
 
 bool PreparedQuestion::IsUneven() const {

@@ -41,6 +41,7 @@ Names OffersOf(const Inputs& design) {
   Names given;
   std::copy_if(OfferedInputs().begin(), OfferedInputs().end(), std::back_inserter(given),
                [&](Name name) { return design.Has(name); });
+  if (SolvesForAssurance(design)) given.push_back("assurance");
   return given;
 }
 

@@ -40,6 +40,13 @@ bool IsPossible(const Unknown& unknown, const Route& route, const Names& names) 
                      [&](Name name) { return name == unknown.input || Contains(names, name); });
 }
 
+/// Whether such a design may ask for the assurance of its sizes, with the route of their half-width.
+bool IsAssurancePossible(const Test& test, const Route& route, const Names& names) {
+  if (!test.offers.assurance || route.question != Question::HalfWidth) return false;
+  if (!Contains(names, "solve") || !Contains(names, "half-width")) return false;
+  return std::all_of(route.needs.begin(), route.needs.end(), [&](Name name) { return Contains(names, name); });
+}
+
 /// The results that designs with values for these parameters may have.
 std::vector<ResultColumn> PossibleResults(const Test& test, const std::vector<const Parameter*>& parameters) {
   Names names;
@@ -63,6 +70,11 @@ std::vector<ResultColumn> PossibleResults(const Test& test, const std::vector<co
       }
     };
     if (IsPossible(route, names)) add(nullptr);
+    if (IsAssurancePossible(test, route, names)) {
+      for (ResultColumn& column : ResultColumns(test, route, nullptr, {"assurance"}, false)) {
+        results.push_back(std::move(column));
+      }
+    }
     for (const Unknown& unknown : test.unknowns) {
       if (IsPossible(unknown, route, names)) add(&unknown);
     }

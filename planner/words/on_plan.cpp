@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
 #include <utility>
 
@@ -69,18 +70,20 @@ std::string OnPopulation(const Inputs& inputs) {
 }
 
 std::string OnAssurance(const Answer& answer) {
-  return fmt::format(
-      " The interval of the data is that narrow, {} or less, with a probability of {}; at least {} was asked for.",
-      Shortest(answer.inputs.Number("half-width")), ShownResult(Reading::Power, answer.assurance),
-      Shortest(answer.inputs.Number("assurance")));
+  const std::string text =
+      fmt::format(" The half-width of the data is at most {} with a probability of {}",
+                  Shortest(answer.inputs.Number("half-width")), ShownResult(Reading::Power, answer.assurance));
+  if (!answer.SizesFound()) return text + ".";
+  return text + fmt::format("; at least {} was asked for.", Shortest(answer.inputs.Number("assurance")));
 }
 
 std::string OnUncertainty(const Answer& answer) {
   const double limit = *PlannedFigure(Planned::PowerLimit, *answer.test, answer.inputs);
+  const std::string shown = limit > 0.9999 ? "1" : ShownResult(Reading::Power, limit);
   return fmt::format(
       " The expected power averages the power over a normal uncertainty about the effect with a standard deviation of "
       "{}, counts rejections in the direction of the effect, and stays below {} however large the study is.",
-      Shortest(answer.inputs.Number("effect-sd")), ShownResult(Reading::Power, limit));
+      Shortest(answer.inputs.Number("effect-sd")), shown);
 }
 
 }  // namespace
@@ -90,7 +93,7 @@ std::string OnPlan(const Answer& answer) {
   std::string text;
   if (inputs.Has("comparisons")) text += OnComparisons(inputs);
   if (inputs.Has("population")) text += OnPopulation(inputs);
-  if (inputs.Has("assurance")) text += OnAssurance(answer);
+  if (!std::isnan(answer.assurance)) text += OnAssurance(answer);
   if (inputs.Has("effect-sd")) text += OnUncertainty(answer);
   if (inputs.Has("cluster-size")) text += OnClusters(answer);
   if (inputs.Has("dropout")) text += OnDropout(answer);

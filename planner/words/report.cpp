@@ -242,14 +242,16 @@ std::vector<const Parameter*> ListedParameters(const Test& test, const Route& ro
     const Name name = parameter.name;
     if (!inputs.Has(name)) continue;
     if (unknown && name == unknown->input) continue;
-    if (!route.Takes(name) && name != target && name != Name("alpha")) continue;
+    const bool isWish = name == Name("half-width") && SolvesForAssurance(inputs);
+    if (!route.Takes(name) && name != target && name != Name("alpha") && !isWish) continue;
     listed.push_back(&parameter);
   }
   return listed;
 }
 
 std::string NameInReports(const Parameter& parameter, const Route& route, const Unknown* unknown) {
-  const bool isTarget = parameter.name == TargetOf(route, unknown) || parameter.name == Name("assurance");
+  const Names targets{"half-width", "assurance"};
+  const bool isTarget = parameter.name == TargetOf(route, unknown) || Contains(targets, parameter.name);
   return (isTarget ? "target-" : "") + std::string(parameter.name.Text());
 }
 
