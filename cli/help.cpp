@@ -197,17 +197,30 @@ std::string ChartSection(const Test& test, const Highlights& highlights) {
          "  --output FILE              .svg, .png, .pdf, .csv or .json; without it the chart is drawn in characters\n";
 }
 
-std::string OptionLines(const Test& test) {
+std::size_t WidthOfOptions(const Test& test) {
   std::size_t width = 0;
   for (const Parameter& parameter : test.parameters) width = std::max(width, OptionText(parameter).size());
+  return width;
+}
+
+/// The options that are offered around every question, or the others.
+std::string ParameterLines(const Test& test, bool areOffered) {
+  const std::size_t width = WidthOfOptions(test);
   std::string text;
   for (const Parameter& parameter : test.parameters) {
+    if (Contains(OfferedInputs(), parameter.name) != areOffered) continue;
     const std::string unit = parameter.unit.empty() ? "" : ", in " + parameter.unit;
     text += fmt::format("  {:<{}}  {}{}\n", OptionText(parameter), width, Meaning(parameter), unit);
     if (const std::string details = Details(test, parameter); !details.empty()) {
       text += fmt::format("  {:<{}}{}\n", "", width, details);
     }
   }
+  return text;
+}
+
+std::string OptionLines(const Test& test) {
+  const std::size_t width = WidthOfOptions(test);
+  std::string text = ParameterLines(test, false);
   text += fmt::format("  {:<{}}  also tell what is behind the answer, and how other programs are asked the same\n",
                       "--explain", width);
   text += fmt::format("  {:<{}}  text (default), json, csv, markdown or ndjson\n", "--format WORD", width);
@@ -231,7 +244,8 @@ std::string HelpOf(const Test& test, const Highlights& highlights) {
   text += fmt::format("{}\n{}\n\n", test.about, test.whenNot);
   text += heading("For example") + ExampleText(first) + "What you leave out is what is solved for.\n\n";
   text += UsageSection(test, highlights) + UnknownSection(test, highlights);
-  text += heading("Options") + OptionLines(test);
+  text += heading("Options") + OptionLines(test) + '\n';
+  text += heading("Before the study starts") + ParameterLines(test, true);
   text += ChartSection(test, highlights);
   text += fmt::format("\n{}", heading("More examples"));
   for (const Example& example : test.examples) {

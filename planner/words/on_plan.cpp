@@ -69,14 +69,6 @@ std::string OnPopulation(const Inputs& inputs) {
                      Shortest(inputs.Number("population")));
 }
 
-std::string OnAssurance(const Answer& answer) {
-  const std::string text =
-      fmt::format(" The half-width of the data is at most {} with a probability of {}",
-                  Shortest(answer.inputs.Number("half-width")), ShownResult(Reading::Power, answer.assurance));
-  if (!answer.SizesFound()) return text + ".";
-  return text + fmt::format("; at least {} was asked for.", Shortest(answer.inputs.Number("assurance")));
-}
-
 std::string OnUncertainty(const Answer& answer) {
   const double limit = *PlannedFigure(Planned::PowerLimit, *answer.test, answer.inputs);
   const std::string shown = limit > 0.9999 ? "1" : ShownResult(Reading::Power, limit);
@@ -93,11 +85,19 @@ std::string OnPlan(const Answer& answer) {
   std::string text;
   if (inputs.Has("comparisons")) text += OnComparisons(inputs);
   if (inputs.Has("population")) text += OnPopulation(inputs);
-  if (!std::isnan(answer.assurance)) text += OnAssurance(answer);
   if (inputs.Has("effect-sd")) text += OnUncertainty(answer);
   if (inputs.Has("cluster-size")) text += OnClusters(answer);
   if (inputs.Has("dropout")) text += OnDropout(answer);
   return text;
+}
+
+std::string OnAssurance(const Answer& answer) {
+  if (std::isnan(answer.assurance)) return "";
+  const std::string text =
+      fmt::format(" The half-width of the data is at most {} with a probability of {}",
+                  Shortest(answer.inputs.Number("half-width")), ShownResult(Reading::Power, answer.assurance));
+  if (!answer.SizesFound()) return text + ".";
+  return text + fmt::format("; at least {} was asked for.", Shortest(answer.inputs.Number("assurance")));
 }
 
 std::string InExpectation(const Answer& answer, std::string sentence) {

@@ -293,7 +293,7 @@ Report MakeReport(const Answer& answer) {
           .assumptions = AssumptionEntries(answer),
           .results = ResultEntries(answer),
           .sentence = Words(answer).Of(InExpectation(answer, SentenceOf(*answer.test, answer.Asked()))) +
-                      OnUnevenness(answer) + OnPlan(answer),
+                      OnAssurance(answer) + OnUnevenness(answer) + OnPlan(answer),
           .note = NoteOn(answer.Asked(), answer.inputs, answer.value)};
 }
 
