@@ -3,9 +3,8 @@
 #include <cmath>
 #include <string>
 
-#include "assurance/means.h"
+#include "expected_power/expected_power.h"
 #include "frame/rejection.h"
-#include "kelcommon/kel_dist_fun.h"
 #include "means/independent.h"
 #include "solve/plan.h"
 #include "support.h"
@@ -205,12 +204,18 @@ TEST(Assurance, OfAProportionIsThatOfAllCounts) {
 
 TEST(EffectSd, AveragesThePower) {
   const Answer answer = Solve(TwoMeans(), {{"effect-d", 0.5}, {"n", Numbers{64}}, {"effect-sd", 0.2}});
-  // With a normal effect the numerator of t has the variance 1 + S^2 n / 2, so that t is noncentral t times its root.
-  using KelMath::KelDistFun;
-  const double spread = std::sqrt(1 + 0.04 * 32);
-  const double critical = kelpower::IntervalQuantileT(0.05, 126);
-  EXPECT_NEAR(answer.value, 1 - KelDistFun::NonCentralCdfT(critical / spread, 126, 0.5 * std::sqrt(32.0) / spread, 0),
-              1e-9);
+  const kelpower::TTest test = kelpower::TTest::TwoSided(0.05, 126);
+  const auto powerAt = [&](double d) { return test.PowerUpperTail(d * std::sqrt(32.0)); };
+  EXPECT_NEAR(answer.value, *kelpower::expected_power::ExpectedPower(powerAt, {0.5, 0.2}), 1e-10);
+}
+
+TEST(EffectSd, AveragesThePowerOfWelchsTest) {
+  const InputValues design{{"means", Numbers{52, 47}}, {"sd", Numbers{10, 14}}, {"n", Numbers{40, 60}}};
+  namespace means = kelpower::means;
+  const auto test = means::TwoSampleTest({10, 14, false}, means::Sides::One, 0.05, 40, 60);
+  const auto powerAt = [&](double at) { return test->AtCriticalValue().PowerUpperTail(at / test->StandardError()); };
+  const Answer answer = Solve(TwoMeans(), With(design, {{"effect-sd", 2.0}, {"one-sided", true}}));
+  EXPECT_NEAR(answer.value, *kelpower::expected_power::ExpectedPower(powerAt, {5, 2}), 1e-10);
 }
 
 TEST(EffectSd, IsTheShareOfSimulatedStudies) {
