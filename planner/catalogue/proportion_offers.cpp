@@ -28,16 +28,14 @@ double Assurance(const Inputs& in) {
 
 Numbers AssuredSize(const Inputs& in) {
   const double wished = in.Number("assurance");
-  return RoundedUp(WithWish(in, [&](const auto& wish) {
-    return assurance::FirstSize(wish, wished, kelpower::largestCount, StopOf(in));
-  }));
+  return RoundedUp(WithWish(
+      in, [&](const auto& wish) { return assurance::FirstSize(wish, wished, kelpower::largestCount, StopOf(in)); }));
 }
 
 Numbers LastingSize(const Inputs& in) {
   const double wished = in.Number("assurance");
-  return RoundedUp(WithWish(in, [&](const auto& wish) {
-    return assurance::LastingSize(wish, wished, kelpower::largestCount, StopOf(in));
-  }));
+  return RoundedUp(WithWish(
+      in, [&](const auto& wish) { return assurance::LastingSize(wish, wished, kelpower::largestCount, StopOf(in)); }));
 }
 
 }  // namespace

@@ -44,9 +44,9 @@ double EffectOf(const Inputs& in) { return in.Has("effect-d") ? in.Number("effec
 double ExpectedPower(const Inputs& in) {
   const Numbers& n = in.List("n");
   const bool isStandardized = in.Has("effect-d");
-  const means::GroupSpreads spreads = isStandardized ? means::GroupSpreads{1, 1, true}
-                                                     : means::GroupSpreads{in.List("sd")[0], in.List("sd")[1],
-                                                                           IsPooled(in)};
+  const means::GroupSpreads spreads = isStandardized
+                                          ? means::GroupSpreads{1, 1, true}
+                                          : means::GroupSpreads{in.List("sd")[0], in.List("sd")[1], IsPooled(in)};
   const auto test = means::TwoSampleTest(spreads, SidesOf(in), in.Alpha(), n[0], n[1]);
   return test ? ExpectedPowerOfT(*test, EffectOf(in), in.Number("effect-sd")) : OrNaN(kelpower::NoValue::Refused);
 }

@@ -66,8 +66,7 @@ void AddPopulation(Test& test) {
       {Question::HalfWidth, Question::SampleSizeForHalfWidth});
   Refuse(
       test, "sample-of-population", {"n", "population"},
-      [](const Inputs& in) { return in.Number("n") <= in.Number("population"); },
-      "{n} must not exceed {population}.");
+      [](const Inputs& in) { return in.Number("n") <= in.Number("population"); }, "{n} must not exceed {population}.");
 }
 
 void AddAssurance(Test& test) {

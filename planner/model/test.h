@@ -93,7 +93,7 @@ struct Test {
   std::vector<ReportSentence> sentences = {};
   std::vector<Example> examples = {};
   std::string whenNot = {};       // what the test is not for, and which one is
-  Offers offers = {};         // of the circumstances of a study
+  Offers offers = {};             // of the circumstances of a study
   double largestExactSearch = 0;  // of an exact test: the size at which its search ends; 0 where there is no such end
   std::vector<Chart> charts = {};
   /// What is behind the answer of a question, from the inputs at the sizes given or found.

@@ -25,8 +25,8 @@ bool AreInOrder(const std::vector<std::size_t>& sources) {
 
 DesignSolver::Shape::Shape(const DesignRow& row, StopRequest* stop)
     : question(row.AskedTest(), row.Values(), stop),
-      columns(ResultColumns(row.AskedTest(), question.ChosenRoute(), question.SolvedFor(),
-                            OffersOf(question.Design()), question.IsUneven())) {
+      columns(ResultColumns(row.AskedTest(), question.ChosenRoute(), question.SolvedFor(), OffersOf(question.Design()),
+                            question.IsUneven())) {
   std::vector<Column> inputs;
   for (const auto& [parameter, first, count] : row.NumbersGiven()) {
     if (parameter->name == Name("groups")) continue;

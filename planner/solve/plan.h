@@ -11,13 +11,13 @@ namespace planner {
 
 enum class Planned {
   None,
-  Level,        // of each of several comparisons
-  Effect,       // of the design, of clusters
-  Clusters,     // in each group
-  Enrol,        // with those who are lost
-  EnrolTotal,   // in all groups
-  Assurance,    // that the sizes found have
-  PowerLimit,   // of an expected power
+  Level,       // of each of several comparisons
+  Effect,      // of the design, of clusters
+  Clusters,    // in each group
+  Enrol,       // with those who are lost
+  EnrolTotal,  // in all groups
+  Assurance,   // that the sizes found have
+  PowerLimit,  // of an expected power
 };
 
 /// What sizes in clusters are multiplied by; 1 without clusters.

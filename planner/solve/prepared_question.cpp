@@ -187,6 +187,7 @@ void PreparedQuestion::RejectUnanswered() {
     problem.code = Code::SizesNotFound;
     problem.inputs = Texts({*AskedBy(question)});
     problem.values = {inputs_.Number(*AskedBy(question))};
+    if (assurance_) problem.words = {" with that assurance"};
     if (IsBeyondLimit(inputs_)) {
       problem.code = Code::BeyondPowerLimit;
       problem.inputs = Texts({"power", "effect-sd"});
@@ -300,27 +301,30 @@ Row PreparedQuestion::FindUnevenAssurance(const Inputs& inputs) {
   lasting_ = test_.offers.lastingAssuredSizes(inputs);
   if (IsStopped()) return stopped;
   if (!AreSizes(found) || !AreSizes(lasting_)) return unanswered;
-  sizes_ = found;
+  sizes_ = inputs.Flag("stable") ? lasting_ : found;
   const Inputs atSizes = AtSizes(inputs, sizes_);
   assured_ = assurance_(atSizes);
   return ValueOf(atSizes);
 }
 
 /// Where to look for whole sizes.
-Numbers PreparedQuestion::Start(const Inputs& inputs) const {
-  return assurance_ ? test_.offers.assuredSizes(inputs) : AdjustedStart(route_.sizes(inputs), inputs);
+Numbers PreparedQuestion::Start(const Inputs& inputs, const WholeSizes& whole) const {
+  Numbers sizes = assurance_ ? test_.offers.assuredSizes(inputs) : AdjustedStart(route_.sizes(inputs), inputs);
+  if (!AreSizes(sizes)) return {};
+  // The power at an effect that is small for certain tells little of one that may be large.
+  const bool isFarOff = inputs.Has("effect-sd") && !whole.AreCountable(sizes);
+  return isFarOff ? Numbers{} : sizes;
 }
 
 Row PreparedQuestion::FindSizes(const Inputs& inputs) {
   if (IsBeyondLimit(inputs)) return unanswered;
   if (IsAssuredUnevenly()) return FindUnevenAssurance(inputs);
-  Numbers found = Start(inputs);
+  const WholeSizes whole(test_, inputs);
+  Numbers found = Start(inputs, whole);
   if (IsStopped()) return stopped;
-  if (!AreSizes(found)) found.clear();
   const bool isUneven = UnevennessOf(inputs) != Unevenness::Even;
   if (isUneven && found.empty()) return unanswered;
 
-  const WholeSizes whole(test_, inputs);
   Inputs tried = AtSizes(inputs, whole.At(whole.Smallest()));
   if (!found.empty() && !whole.AreCountable(found)) {
     sizes_ = std::move(found);

@@ -99,7 +99,7 @@ private:
   Row ValueOf(const Inputs& inputs) const;
   Row FindSizes(const Inputs& inputs);
   Row FindUnevenAssurance(const Inputs& inputs);
-  Numbers Start(const Inputs& inputs) const;
+  Numbers Start(const Inputs& inputs, const WholeSizes& whole) const;
   bool IsAssuredUnevenly() const;
   bool IsBeyondLimit(const Inputs& inputs) const;
   std::optional<double> FindWhole(const WholeSizes& whole, const Numbers& found, Reaches reaches) const;
@@ -123,7 +123,7 @@ private:
   std::vector<const Condition*> sizeConditions_;  // of the sizes that are looked for
   std::vector<BoundColumn> columns_;
   Numbers sizes_;
-  Evaluation value_;  // a copy of the route's own, which may keep something between its calls
+  Evaluation value_;      // a copy of the route's own, which may keep something between its calls
   Evaluation assurance_;  // of the sizes that are looked for, where one is asked for
   double assured_ = std::numeric_limits<double>::quiet_NaN();
   double found_ = 0;  // of the unknown

@@ -11,8 +11,7 @@ namespace {
 
 void AddFigure(std::vector<ResultColumn>& columns, std::string name, std::string label, Planned planned,
                Reading reading = Reading::Figure) {
-  columns.push_back(
-      {.name = std::move(name), .label = std::move(label), .reading = reading, .planned = planned});
+  columns.push_back({.name = std::move(name), .label = std::move(label), .reading = reading, .planned = planned});
 }
 
 /// What the circumstances of the study change besides the sizes.

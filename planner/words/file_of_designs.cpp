@@ -59,8 +59,7 @@ std::vector<ResultColumn> PossibleResults(const Test& test, const std::vector<co
       Names offers;
       std::copy_if(OfferedInputs().begin(), OfferedInputs().end(), std::back_inserter(offers),
                    [&](Name name) { return Contains(names, name) && route.Takes(name); });
-      const bool mayBeUneven =
-          test.unevenness || (Contains(offers, "assurance") && test.offers.lastingAssuredSizes);
+      const bool mayBeUneven = test.unevenness || (Contains(offers, "assurance") && test.offers.lastingAssuredSizes);
       // A row may leave out what is offered.
       for (const Names& given : {Names{}, offers}) {
         for (ResultColumn& column : ResultColumns(test, route, unknown, given, mayBeUneven)) {

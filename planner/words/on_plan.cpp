@@ -102,8 +102,8 @@ std::string OnAssurance(const Answer& answer) {
 
 std::string InExpectation(const Answer& answer, std::string sentence) {
   if (!answer.inputs.Has("effect-sd")) return sentence;
-  const std::pair<std::string_view, std::string_view> wordings[] = {
-      {"a power of {", "an expected power of {"}, {"its power is", "its expected power is"}};
+  const std::pair<std::string_view, std::string_view> wordings[] = {{"a power of {", "an expected power of {"},
+                                                                    {"its power is", "its expected power is"}};
   for (const auto& [plain, expected] : wordings) {
     const std::size_t at = sentence.find(plain);
     if (at != std::string::npos) sentence.replace(at, plain.size(), expected);

@@ -55,8 +55,8 @@ PlanNote OnPopulation(const Answer& answer) {
 
 PlanNote OnAssurance(const Answer& answer) {
   return {.figures = {{"assurance", "assurance", answer.assurance}},
-          .formula = fmt::format("assurance = P(half-width of the data <= {})",
-                                 Shortest(answer.inputs.Number("half-width"))),
+          .formula =
+              fmt::format("assurance = P(half-width of the data <= {})", Shortest(answer.inputs.Number("half-width"))),
           .source = "Kupper and Hafner 1989, The American Statistician 43, 101-105"};
 }
 

@@ -112,7 +112,8 @@ std::string Words::TooLarge() const {
 
 std::string Words::SizesNotFound() const {
   const std::string end = problem_.values.size() > 1 ? " up to " + Figure(1) : "";
-  return fmt::format("No sample size{} was found that reaches a {} of {}.", end, problem_.inputs[0], Figure(0));
+  const std::string how = problem_.words.empty() ? "" : problem_.words[0];
+  return fmt::format("No sample size{} was found that reaches a {} of {}{}.", end, problem_.inputs[0], Figure(0), how);
 }
 
 std::string Words::NothingUnknown() const {

@@ -203,9 +203,8 @@ double ResultOf(const Answer& answer, const ResultColumn& column) {
 
 std::vector<Entry> ResultEntries(const Answer& answer) {
   std::vector<Entry> entries;
-  for (const ResultColumn& column :
-       ResultColumns(*answer.test, *answer.route, answer.unknown, OffersOf(answer.inputs),
-                     !answer.lastingSizes.empty())) {
+  for (const ResultColumn& column : ResultColumns(*answer.test, *answer.route, answer.unknown, OffersOf(answer.inputs),
+                                                  !answer.lastingSizes.empty())) {
     if (column.reading == Reading::Sizes) {
       const Numbers sizes = SizesOf(answer, column);
       entries.push_back({column.name, column.label, sizes, ShownSizes(sizes)});

@@ -100,10 +100,9 @@ TEST(Clusters, OfAMeanSizeAreCountedAsTheyAre) {
 }
 
 TEST(Clusters, WithLossAreEnrolledWhole) {
-  const Report report =
-      Solved(TwoMeans(), With(clusters, {{"effect-d", 0.5}, {"power", 0.8}, {"dropout", 0.15}}));
-  EXPECT_EQ(Result(report, "n"), 125);         // 64 x 1.95, rounded up
-  EXPECT_EQ(Result(report, "enrol"), 160);     // 125 / 0.85 = 147.06 in clusters of 20
+  const Report report = Solved(TwoMeans(), With(clusters, {{"effect-d", 0.5}, {"power", 0.8}, {"dropout", 0.15}}));
+  EXPECT_EQ(Result(report, "n"), 125);      // 64 x 1.95, rounded up
+  EXPECT_EQ(Result(report, "enrol"), 160);  // 125 / 0.85 = 147.06 in clusters of 20
   EXPECT_EQ(Result(report, "clusters"), 8);
   EXPECT_GE(160 * 0.85, 125);
 }
@@ -144,9 +143,9 @@ TEST(Assurance, IsHadFirstAtTheSizesFound) {
     std::string test;
     InputValues design;
   };
-  for (const auto& [name, design] : {Case{"mean", {{"sd", 10.0}}}, Case{"paired-means", {{"sd-difference", 7.0}}},
-                                     Case{"two-means", {{"sd", Numbers{10}}}},
-                                     Case{"two-means", {{"sd", Numbers{10, 14}}, {"ratio", 1.5}}}}) {
+  for (const auto& [name, design] :
+       {Case{"mean", {{"sd", 10.0}}}, Case{"paired-means", {{"sd-difference", 7.0}}},
+        Case{"two-means", {{"sd", Numbers{10}}}}, Case{"two-means", {{"sd", Numbers{10, 14}}, {"ratio", 1.5}}}}) {
     const planner::Test& test = *FindTest(name);
     const Answer answer = Solve(test, With(design, wish));
     EXPECT_GE(answer.assurance, 0.9) << name;
@@ -200,6 +199,17 @@ TEST(Assurance, OfAProportionIsThatOfAllCounts) {
   while (assuranceOf(lasting - 1) >= 0.9) --lasting;
   EXPECT_EQ(answer.sizes, Numbers{first});
   EXPECT_EQ(answer.lastingSizes, Numbers{lasting});
+}
+
+TEST(Assurance, OfStableSizesIsThatOfTheLastingOne) {
+  const InputValues wish{
+      {"proportion", 0.02}, {"half-width", 0.01}, {"assurance", 0.95}, {"interval-method", std::string("wald")}};
+  const planner::Test& test = *FindTest("proportion");
+  const Answer first = Solve(test, wish);
+  EXPECT_EQ(first.sizes, Numbers{1});  // neither 0 nor 1 event among 1 leaves Wald's interval a width
+  const Answer stable = Solve(test, With(wish, {{"stable", true}}));
+  EXPECT_EQ(stable.sizes, first.lastingSizes);
+  EXPECT_GE(stable.assurance, 0.95);
 }
 
 TEST(EffectSd, AveragesThePower) {
@@ -260,6 +270,12 @@ TEST(EffectSd, HasALimitThatNoSizePasses) {
               "--power 0.9 is not reached by any sample size: with --effect-sd 0.4 the expected power stays below "
               "0.8944, the probability that the effect has the direction expected.");
   }
+}
+
+TEST(EffectSd, MayNeedFewWhereTheEffectExpectedIsTiny) {
+  const Answer answer = Solve(*FindTest("mean"), {{"effect-d", 1e-9}, {"effect-sd", 1.0}, {"power", 0.4}});
+  EXPECT_GE(answer.value, 0.4);
+  EXPECT_LT(answer.sizes.front(), 1000);
 }
 
 TEST(EffectSd, GoesWithClustersAndComparisons) {
