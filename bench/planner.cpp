@@ -155,9 +155,28 @@ BENCHMARK(SizeSolve)->Name("planner/size/solve");
 
 void Surface(benchmark::State& state) {
   for (auto _ : state) {
-    benchmark::DoNotOptimize(planner::ComputeChart(TwoMeans(), {.name = "ratio-difference"}, design).series.power);
+    benchmark::DoNotOptimize(planner::ComputeChart(TwoMeans(), {.name = "ratio-difference"}, design).First().value);
   }
 }
 BENCHMARK(Surface)->Name("planner/chart/surface_of_101_by_101")->Unit(benchmark::kMillisecond);
+
+// Surfaces of 500 sizes by 50 effects; bench/anova.cpp has their distribution values one by one.
+void SurfaceOfFTest(benchmark::State& state) {
+  const InputValues groups{{"effect-f", 0.3}, {"n", Numbers{40, 40, 40}}};
+  for (auto _ : state) {
+    const planner::ChartRequest request{"n-effect-f", {4, 0.02}, {503, 1}, 1.0 / 49};
+    benchmark::DoNotOptimize(planner::ComputeChart(*planner::FindTest("anova"), request, groups).First().value);
+  }
+}
+BENCHMARK(SurfaceOfFTest)->Name("planner/chart/f_test_500_by_50")->Unit(benchmark::kMillisecond);
+
+void SurfaceOfRegression(benchmark::State& state) {
+  const InputValues model{{"effect-f2", 0.1}, {"predictors", 3.0}, {"n", 80.0}};
+  for (auto _ : state) {
+    const planner::ChartRequest request{"n-effect-f2", {10, 0.0004}, {509, 1}, 1.0 / 49};
+    benchmark::DoNotOptimize(planner::ComputeChart(*planner::FindTest("regression"), request, model).First().value);
+  }
+}
+BENCHMARK(SurfaceOfRegression)->Name("planner/chart/regression_500_by_50")->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -7,9 +7,11 @@
 #include <utility>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/effects.h"
 #include "hints.h"
 #include "nearest.h"
 #include "usage_error.h"
+#include "words/numbers.h"
 #include "words/parse.h"
 
 namespace {
@@ -42,7 +44,8 @@ CLI::App* AddCommand(CLI::App& app, const std::string& name) {
 
 std::string NameOf(const Parameter& parameter) { return fmt::format("--{}", parameter.name.Text()); }
 
-const std::vector<std::string> rangeOptions{"from", "to", "step", "output"};
+/// Options that have a use only with a chart.
+const std::vector<std::string> chartOptions{"from", "to", "step", "y", "title", "width", "height", "dpi", "output"};
 
 void AddRun(CLI::App& app) {
   CLI::App* command = AddCommand(app, "run");
@@ -50,22 +53,32 @@ void AddRun(CLI::App& app) {
   for (const char* name : {"--test", "--output", "--jobs"}) AddOption(*command, name);
 }
 
+void AddInputs(CLI::App& command, const Test& test) {
+  for (const Parameter& parameter : test.parameters) {
+    std::string names = NameOf(parameter);
+    for (const std::string& alias : parameter.aliases) names += ",--" + alias;
+    if (parameter.kind == Kind::Flag) {
+      command.add_flag(names);
+    } else {
+      AddOption(command, names);
+    }
+  }
+}
+
+void AddEffect(CLI::App& app) {
+  CLI::App* command = AddCommand(app, planner::EffectSizes().inputs.name);
+  command->add_flag("--explain");
+  AddInputs(*command, planner::EffectSizes().inputs);
+}
+
 void AddTest(CLI::App& app, const Test& test) {
   CLI::App* command = AddCommand(app, test.name);
   for (const std::string& name : OtherNamesOf(test.name)) command->alias(name);
   command->add_flag("--explain");
   AddOption(*command, "--chart");
-  for (const std::string& name : rangeOptions) AddOption(*command, "--" + name);
+  for (const std::string& name : chartOptions) AddOption(*command, "--" + name);
   for (const char* name : {"--save", "--jobs"}) AddOption(*command, name);
-  for (const Parameter& parameter : test.parameters) {
-    std::string names = NameOf(parameter);
-    for (const std::string& alias : parameter.aliases) names += ",--" + alias;
-    if (parameter.kind == Kind::Flag) {
-      command->add_flag(names);
-    } else {
-      AddOption(*command, names);
-    }
-  }
+  AddInputs(*command, test);
 }
 
 /// The one text given for an option, or null when it is not given.
@@ -161,11 +174,32 @@ planner::ChartRequest ChartOf(const CLI::App& command, const std::string& name) 
   if (const std::string* text = TextOf(command, "to")) chart.to = Ends("to", *text);
   if (const std::string* text = TextOf(command, "step"))
     chart.step = std::get<double>(planner::Parse(planner::Number("step", "", ""), *text));
+  if (const std::string* text = TextOf(command, "y")) {
+    if (*text != "n") throw UsageError(fmt::format("--y is \"{}\", but must be n.", *text));
+    chart.showsSizes = true;
+  }
   return chart;
 }
 
-void RejectRangeOptions(const CLI::App& command) {
-  for (const std::string& name : rangeOptions) {
+std::optional<double> LengthOf(const CLI::App& command, const std::string& name, double least, double most) {
+  const std::string* text = TextOf(command, name);
+  if (!text) return std::nullopt;
+  double number = 0;
+  if (planner::ParseNumber(*text, number) && number >= least && number <= most) return number;
+  throw UsageError(fmt::format("--{} is \"{}\", but must be a number from {} to {}.", name, *text, least, most));
+}
+
+PictureOptions PictureOf(const CLI::App& command) {
+  PictureOptions picture;
+  if (const std::string* text = TextOf(command, "title")) picture.title = *text;
+  picture.width = LengthOf(command, "width", 200, 5000);
+  picture.height = LengthOf(command, "height", 150, 5000);
+  picture.dpi = LengthOf(command, "dpi", 30, 600);
+  return picture;
+}
+
+void RejectChartOptions(const CLI::App& command) {
+  for (const std::string& name : chartOptions) {
     if (TextOf(command, name)) throw UsageError(fmt::format("--{} has a use only together with --chart.", name));
   }
 }
@@ -178,9 +212,15 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
   return names;
 }
 
+/// What the inputs of a command are those of, or null.
+const Test* InputsOf(const std::string& command) {
+  const Test& effect = planner::EffectSizes().inputs;
+  return command == effect.name ? &effect : planner::FindTest(command);
+}
+
 [[noreturn]] void RejectExtra(const CLI::App& command, const std::string& extra) {
   const std::string option = extra.substr(0, extra.find('='));
-  const planner::Test* test = planner::FindTest(command.get_name());
+  const planner::Test* test = InputsOf(command.get_name());
   if (const std::string known = test ? HintForOption(*test, option) : ""; !known.empty()) {
     throw UsageError(fmt::format("\"{}\" is not an option of {}; {}.", option, command.get_name(), known));
   }
@@ -195,11 +235,25 @@ std::vector<std::string> OptionNames(const CLI::App& command) {
   if (const std::string known = HintForTest(word); !known.empty()) {
     throw UsageError(fmt::format("\"{}\" is not a test; {}.", word, known));
   }
-  std::vector<std::string> names{"list", "run"};
+  std::vector<std::string> names{"list", "run", "effect"};
   for (const Test& test : planner::Tests()) names.push_back(test.name);
   const std::string nearest = Nearest(word, names);
   if (!nearest.empty()) throw UsageError(fmt::format("\"{}\" is not a test; did you mean {}?", word, nearest));
   throw UsageError(fmt::format("\"{}\" is not a test; \"kelpower list\" names them.", word));
+}
+
+/// The input of a chart that has several values, if any: each is a curve.
+std::optional<planner::Alternatives> OfChart(const std::vector<planner::Alternatives>& all) {
+  std::optional<planner::Alternatives> several;
+  for (const planner::Alternatives& alternatives : all) {
+    if (alternatives.values.size() < 2) continue;
+    if (several) {
+      throw UsageError(fmt::format("{} and {} both have several values, but a chart varies one.",
+                                   NameOf(*several->parameter), NameOf(*alternatives.parameter)));
+    }
+    several = alternatives;
+  }
+  return several;
 }
 
 /// An explanation is of one answer, and takes more room than a row.
@@ -218,20 +272,21 @@ void ReadTest(const CLI::App& command, Request& request) {
   request.values = ValuesOf(request.alternatives);
   request.jobs = JobsOf(command);
   request.save = FileOf(command, "save");
-  const Parameter* varying = Varying(request.alternatives);
-  const std::string* chart = TextOf(command, "chart");
   request.isExplained = FlagOf(command, "explain");
-  if (request.isExplained && chart) throw UsageError("--explain and --chart exclude each other.");
+  const std::string* chart = TextOf(command, "chart");
   if (!chart) {
-    if (varying || request.format == Format::Ndjson) request.command = Command::Table;
-    RejectRangeOptions(command);
+    if (Varying(request.alternatives) || request.format == Format::Ndjson) request.command = Command::Table;
+    RejectChartOptions(command);
     if (request.isExplained) RejectUnexplainable(request);
     return;
   }
-  if (varying) throw UsageError(fmt::format("{} has several values, but a chart is of one design.", NameOf(*varying)));
+  if (request.isExplained) throw UsageError("--explain and --chart exclude each other.");
   if (!request.save.empty()) throw UsageError("--save has no use together with --chart.");
   request.command = Command::Chart;
   request.chart = ChartOf(command, *chart);
+  request.chart.alternatives = OfChart(request.alternatives);
+  if (request.chart.alternatives) request.values.erase(std::string(request.chart.alternatives->parameter->name.Text()));
+  request.picture = PictureOf(command);
   request.output = FileOf(command, "output");
 }
 
@@ -248,6 +303,27 @@ void ReadRun(const CLI::App& command, Request& request) {
   request.jobs = JobsOf(command);
 }
 
+void ReadEffect(const CLI::App& command, Request& request) {
+  request.command = Command::Effect;
+  const std::vector<planner::Alternatives> alternatives = AlternativesOf(command, planner::EffectSizes().inputs);
+  if (const Parameter* varying = Varying(alternatives)) {
+    throw UsageError(fmt::format("{} has several values, but effect converts one study at a time.", NameOf(*varying)));
+  }
+  request.values = ValuesOf(alternatives);
+  request.isExplained = FlagOf(command, "explain");
+  if (request.format == Format::Ndjson) throw UsageError("--format of effect must be text, json, csv or markdown.");
+  if (request.isExplained && request.format == Format::Csv) {
+    throw UsageError("--explain does not go with --format csv: text, json and markdown have room for it.");
+  }
+}
+
+/// The help of a command.
+Command HelpOf(const Request& request, const std::string& command) {
+  if (request.test) return Command::TestHelp;
+  if (command == "run") return Command::RunHelp;
+  return command == "effect" ? Command::EffectHelp : Command::Overview;
+}
+
 Request RequestOf(const CLI::App& app) {
   const bool version = FlagOf(app, "version");
   Request request;
@@ -259,10 +335,11 @@ Request RequestOf(const CLI::App& app) {
   }
   const CLI::App& command = *app.get_subcommands().front();
   const bool isRun = command.get_name() == "run";
+  const bool isEffect = command.get_name() == "effect";
   if (!isRun) request.test = planner::FindTest(command.get_name());
   const bool help = FlagOf(command, "help");
   if (help || FlagOf(app, "help")) {
-    request.command = request.test ? Command::TestHelp : isRun ? Command::RunHelp : Command::Overview;
+    request.command = HelpOf(request, command.get_name());
     return request;
   }
   request.format = FormatOf(command);
@@ -270,10 +347,15 @@ Request RequestOf(const CLI::App& app) {
   request.command = request.test ? Command::Solve : Command::List;
   if (isRun) {
     ReadRun(command, request);
+  } else if (isEffect) {
+    ReadEffect(command, request);
   } else if (request.test) {
     ReadTest(command, request);
   }
   if (const auto extras = app.remaining(true); !extras.empty()) RejectExtra(command, extras.front());
+  if (isEffect && request.values.empty()) {
+    throw UsageError("Nothing to convert is given; \"kelpower effect --help\" names what can be.");
+  }
   return request;
 }
 
@@ -288,6 +370,7 @@ Request ParseArguments(int argc, const char* const* argv) {
   app.add_flag("--version");
   AddCommand(app, "list");
   AddRun(app);
+  AddEffect(app);
   for (const Test& test : planner::Tests()) AddTest(app, test);
   try {
     app.parse(argc, argv);

@@ -7,9 +7,10 @@
 
 #include "model/chart.h"
 #include "model/test.h"
+#include "picture.h"
 #include "solve/designs.h"
 
-enum class Command { Overview, Version, List, TestHelp, RunHelp, Solve, Table, Chart, Run };
+enum class Command { Overview, Version, List, TestHelp, RunHelp, EffectHelp, Solve, Table, Chart, Run, Effect };
 
 enum class Format { Text, Json, Csv, Markdown, Ndjson };
 
@@ -18,13 +19,14 @@ struct Request {
   Command command = Command::Overview;
   Format format = Format::Text;
   const planner::Test* test = nullptr;  // of TestHelp, Solve, Table and Chart; of Run where it is named
-  planner::InputValues values;          // of Solve and Chart
+  planner::InputValues values;          // of Solve, Chart and Effect
   std::vector<planner::Alternatives> alternatives = {};  // of Table, in the order of the command line
-  bool isExplained = false;             // of Solve: what is behind the answer is told too
+  bool isExplained = false;                              // of Solve and Effect: what is behind the answer is told too
   planner::ChartRequest chart;
-  std::string input;   // the file of Run; "-" for the standard input
-  std::string output;  // the file of a chart or of Run; empty for the standard output
-  std::string save;    // the file that keeps the design of Solve or Table; empty for none
+  PictureOptions picture;  // of a chart
+  std::string input;       // the file of Run; "-" for the standard input
+  std::string output;      // the file of a chart or of Run; empty for the standard output
+  std::string save;        // the file that keeps the design of Solve or Table; empty for none
   std::optional<Format> formatGiven = {};
   unsigned jobs = 0;  // threads of Table and Run; 0 for one on each core
 };

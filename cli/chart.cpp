@@ -2,16 +2,15 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <cctype>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <stdexcept>
 
-#include "gnuplot.h"
 #include "interrupts.h"
-#include "pictures/gnuplot.h"
 #include "solve/chart.h"
-#include "terminal.h"
 #include "usage_error.h"
 #include "words/render.h"
 
@@ -20,42 +19,68 @@ namespace {
 using planner::ChartData;
 
 struct FileKind {
-  std::string ending;
-  std::string (*content)(const ChartData&);
+  const char* ending;
+  std::string (*content)(const ChartData&, const PictureOptions&);
+  bool isPicture;
 };
-
-constexpr const char* font = "DejaVu Sans";
-
-std::string Drawn(const ChartData& chart, const std::string& terminal) {
-  return RunGnuplot(planner::GnuplotCommands(planner::FigureOf(chart), {terminal, false}));
-}
 
 const FileKind fileKinds[] = {
-    {".svg",
-     [](const ChartData& chart) {
-       return Drawn(chart, fmt::format("svg noenhanced size 800,560 font '{},14'", font));
-     }},
-    {".png",
-     [](const ChartData& chart) {
-       return Drawn(chart, fmt::format("pngcairo noenhanced size 1000,700 font '{},15'", font));
-     }},
-    {".pdf",
-     [](const ChartData& chart) {
-       return Drawn(chart, fmt::format("pdfcairo noenhanced size 18cm,12.6cm font '{},11'", font));
-     }},
-    {".csv", [](const ChartData& chart) { return planner::RenderCsv(chart); }},
-    {".json", [](const ChartData& chart) { return planner::RenderJson(chart); }},
+    {".svg", SvgPicture, true},
+    {".png", PngPicture, true},
+    {".pdf", PdfPicture, true},
+    {".csv", [](const ChartData& chart, const PictureOptions&) { return planner::RenderCsv(chart); }, false},
+    {".json", [](const ChartData& chart, const PictureOptions&) { return planner::RenderJson(chart); }, false},
 };
 
+const FileKind inCharacters{"", PictureInCharacters, false};
+
 bool EndsWith(const std::string& text, const std::string& ending) {
-  return text.size() > ending.size() && text.compare(text.size() - ending.size(), ending.size(), ending) == 0;
+  const auto isSame = [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == b; };
+  return text.size() > ending.size() &&
+         std::equal(ending.begin(), ending.end(), text.end() - static_cast<std::ptrdiff_t>(ending.size()),
+                    [&](char expected, char given) { return isSame(given, expected); });
 }
 
-const FileKind& KindOf(const std::string& name) {
+const FileKind* KindOfName(const std::string& name) {
   for (const FileKind& kind : fileKinds) {
-    if (EndsWith(name, kind.ending)) return kind;
+    if (EndsWith(name, kind.ending)) return &kind;
   }
-  throw UsageError(fmt::format("--output is \"{}\", but must end in .svg, .png, .pdf, .csv or .json.", name));
+  return nullptr;
+}
+
+const FileKind* KindOfFormat(Format format) {
+  switch (format) {
+    case Format::Text: return &inCharacters;
+    case Format::Csv: return &fileKinds[3];
+    case Format::Json: return &fileKinds[4];
+    case Format::Markdown: break;
+  }
+  throw UsageError("--format of a chart must be text, json or csv.");
+}
+
+/// What is written: the format asked for, or without one what the file's name says.
+const FileKind& KindOf(const Request& request) {
+  const FileKind* named = request.output.empty() ? nullptr : KindOfName(request.output);
+  if (!request.formatGiven && !request.output.empty()) {
+    if (named) return *named;
+    throw UsageError(
+        fmt::format("--output is \"{}\", but must end in .svg, .png, .pdf, .csv or .json.", request.output));
+  }
+  const FileKind* asked = KindOfFormat(request.format);
+  if (named && named != asked) {
+    throw UsageError(
+        fmt::format("--output is \"{}\", which is not of the --format asked for: leave out --format, or "
+                    "name another file.",
+                    request.output));
+  }
+  return *asked;
+}
+
+void CheckPicture(const PictureOptions& options, const FileKind& kind) {
+  if ((options.width || options.height) && !kind.isPicture) {
+    throw UsageError("--width and --height have a use only with an --output of .svg, .png or .pdf.");
+  }
+  if (options.dpi && kind.content != PngPicture) throw UsageError("--dpi has a use only with an --output of .png.");
 }
 
 void Write(const std::string& name, const std::string& content) {
@@ -67,27 +92,14 @@ void Write(const std::string& name, const std::string& content) {
   if (!written || !closed) throw std::runtime_error(fmt::format("\"{}\" cannot be written whole.", name));
 }
 
-std::string InCharacters(const ChartData& chart) {
-  const TerminalSize size = SizeOf(stdout);
-  const std::string terminal = fmt::format("dumb {} {} noenhanced", size.columns, size.lines);
-  return RunGnuplot(planner::GnuplotCommands(planner::FigureOf(chart), {terminal, true}));
-}
-
-std::string Printed(const ChartData& chart, Format format) {
-  if (format == Format::Csv) return planner::RenderCsv(chart);
-  if (format == Format::Json) return planner::RenderJson(chart);
-  return InCharacters(chart);
-}
-
 }  // namespace
 
 std::string ChartAnswer(const Request& request) {
-  if (request.format == Format::Markdown) {
-    throw UsageError("--format of a chart must be text, json or csv.");
-  }
-  const FileKind* kind = request.output.empty() ? nullptr : &KindOf(request.output);
+  const FileKind& kind = KindOf(request);
+  CheckPicture(request.picture, kind);
   const ChartData chart = planner::ComputeChart(*request.test, request.chart, request.values);
-  if (!kind) return Printed(chart, request.format);
-  Write(request.output, kind->content(chart));
+  const std::string content = kind.content(chart, request.picture);
+  if (request.output.empty()) return content;
+  Write(request.output, content);
   return "";
 }

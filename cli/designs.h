@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_DESIGNS_H
+#define KELPOWER_CLI_DESIGNS_H
 
 #include "arguments.h"
 #include "words/render.h"
@@ -11,3 +12,5 @@ void SaveDesign(const Request& request);
 
 /// Answers the designs of a file. Gives whether it came to its end.
 bool RunFile(const Request& request);
+
+#endif

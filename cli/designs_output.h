@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_DESIGNS_OUTPUT_H
+#define KELPOWER_CLI_DESIGNS_OUTPUT_H
 
 #include <cstddef>
 #include <cstdio>
@@ -45,3 +46,5 @@ private:
 
 /// The number of threads to work with: `jobs`, or as many as there are cores.
 unsigned ThreadCount(unsigned jobs);
+
+#endif

@@ -5,6 +5,8 @@
 #include <algorithm>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/effects.h"
+#include "solve/axes.h"
 #include "words/expand.h"
 #include "words/numbers.h"
 #include "words/parse.h"
@@ -19,7 +21,10 @@ std::string Option(Name name) { return OptionOf(name.Text()); }
 /// "--n, --group-sizes LIST"
 std::string OptionText(const Parameter& parameter) {
   std::string text = Option(parameter.name);
-  for (const std::string& alias : parameter.aliases) text += ", --" + alias;
+  for (const std::string& alias : parameter.aliases) {
+    // What answers call a target is understood as an option too.
+    if (alias != fmt::format("target-{}", parameter.name.Text())) text += ", --" + alias;
+  }
   switch (parameter.kind) {
     case Kind::Flag: return text;
     case Kind::Number: return text + " NUMBER";
@@ -95,6 +100,17 @@ constexpr Placeholder placeholders[] = {
     {"predictors", "K"},
     {"tested", "Q"},
     {"partialled-out", "K"},
+    {"t", "T"},
+    {"f-statistic", "F"},
+    {"df", "DF"},
+    {"hedges-g", "G"},
+    {"superiority", "P"},
+    {"correlations", "R1,R2"},
+    {"effect-q", "Q"},
+    {"effect-h", "H"},
+    {"events", "E1,E2"},
+    {"counts", "A,B,C,D"},
+    {"confidence", "C"},
 };
 
 std::string PlaceholderOf(const Test& test, Name name) {
@@ -121,22 +137,13 @@ std::string Usage(const Test& test, const Route& route) {
   return text;
 }
 
-/// Whether the line of another route says all that this one's would, such as that of the one-sided form of a test.
-bool IsCovered(const Test& test, const Route& route) {
-  return std::any_of(test.routes.begin(), test.routes.end(), [&](const Route& other) {
-    const auto takes = [&](Name name) { return other.Takes(name); };
-    return other.question == route.question && other.needs == route.needs &&
-           other.accepts.size() > route.accepts.size() &&
-           std::all_of(route.accepts.begin(), route.accepts.end(), takes);
-  });
-}
-
 const char* HeadingOf(Question question) {
   switch (question) {
     case Question::Power: return "Power of a design";
     case Question::SampleSize: return "Sample size for a power";
     case Question::HalfWidth: return "Half-width of the confidence interval of a design";
     case Question::SampleSizeForHalfWidth: return "Sample size for a half-width";
+    case Question::EffectSizes: return "What you have";
   }
   return "";
 }
@@ -162,7 +169,7 @@ std::string UsageSection(const Test& test, const Highlights& highlights) {
     if (!Answers(test, question)) continue;
     text += fmt::format("{}{}{}\n", highlights.heading, HeadingOf(question), highlights.end);
     for (const Route& route : test.routes) {
-      if (route.question == question && !IsCovered(test, route)) text += "  " + Usage(test, route) + '\n';
+      if (route.question == question) text += "  " + Usage(test, route) + '\n';
     }
     text += '\n';
   }
@@ -178,34 +185,52 @@ std::string UnknownSection(const Test& test, const Highlights& highlights) {
       highlights.heading, highlights.end);
 }
 
-std::string ChartUsage(const Chart& chart) {
-  std::string text = fmt::format("--chart {}  power over {}", chart.name, chart.axes.front().title);
-  if (chart.axes.size() > 1) text += " and " + chart.axes.back().title;
-  return text;
+/// Where the usual range of an axis goes, in few words.
+std::string UsualRange(const Axis& axis) {
+  if (axis.isOfSizes) return "from the smallest";
+  if (axis.usual) return fmt::format("{} to {}", axis.usual->from, axis.usual->to);
+  return "";
 }
+
+std::string AxisLine(const Axis& axis, std::size_t width) {
+  const std::string usual = UsualRange(axis);
+  return fmt::format("  {:<{}}  {}{}\n", axis.name, width, axis.title, usual.empty() ? "" : ", " + usual);
+}
+
+/// The design of the first example, which a chart can draw.
+std::string DesignOfExample(const Test& test) { return test.examples.front().arguments; }
 
 std::string ChartSection(const Test& test, const Highlights& highlights) {
-  if (test.charts.empty()) return "";
+  const std::vector<Axis> axes = AllAxes(test);
+  std::size_t width = 0;
+  for (const Axis& axis : axes) width = std::max(width, axis.name.size());
   std::string text = fmt::format("\n{}Charts{}\n", highlights.heading, highlights.end);
-  for (const Chart& chart : test.charts) {
-    if (chart.isAnotherWay) continue;
-    text += fmt::format("  {}\n    kelpower {}\n", ChartUsage(chart), chart.example);
-  }
+  text +=
+      "  --chart AXIS draws the power (with --interval the half-width) over one of these axes, and --chart AXIS-AXIS\n"
+      "  the power over two of them:\n";
+  for (const Axis& axis : axes) text += AxisLine(axis, width);
   return text +
-         "  --from NUMBER --to NUMBER  ends of the axis; of two axes, two numbers each: --from 12,2\n"
-         "  --step NUMBER              step of an axis that is not of sizes, as a share of its range (default 0.01)\n"
-         "  --output FILE              .svg, .png, .pdf, .csv or .json; without it the chart is drawn in characters\n";
+         fmt::format(
+             "  The usual range goes from a power near alpha to one of 0.99, with the design inside.\n"
+             "  Give the design by its sizes, or by --power to draw it at the sizes found. One option may have\n"
+             "  several values, by repeating it or as in --alpha 0.01,0.05, for a curve each.\n"
+             "  --y n                      the sizes that reach --power or --half-width, over any other axis\n"
+             "  --from NUMBER --to NUMBER  ends of the axis; of two axes, two numbers each: --from 12,2\n"
+             "  --step NUMBER              step between points, as a share of the range; whole numbers go by ones\n"
+             "  --output FILE              .svg, .png, .pdf, .csv or .json; without it drawn in characters\n"
+             "  --title TEXT  --width PIXELS  --height PIXELS  --dpi NUMBER (of .png)\n"
+             "  kelpower {} --chart {}\n",
+             DesignOfExample(test), axes.front().name);
 }
 
-std::size_t WidthOfOptions(const Test& test) {
+std::size_t OptionWidth(const Test& test) {
   std::size_t width = 0;
   for (const Parameter& parameter : test.parameters) width = std::max(width, OptionText(parameter).size());
   return width;
 }
 
-/// The options that are offered around every question, or the others.
-std::string ParameterLines(const Test& test, bool areOffered) {
-  const std::size_t width = WidthOfOptions(test);
+/// The lines of the options that are offered around every question, or of the others.
+std::string InputLines(const Test& test, std::size_t width, bool areOffered = false) {
   std::string text;
   for (const Parameter& parameter : test.parameters) {
     if (Contains(OfferedInputs(), parameter.name) != areOffered) continue;
@@ -219,8 +244,8 @@ std::string ParameterLines(const Test& test, bool areOffered) {
 }
 
 std::string OptionLines(const Test& test) {
-  const std::size_t width = WidthOfOptions(test);
-  std::string text = ParameterLines(test, false);
+  const std::size_t width = OptionWidth(test);
+  std::string text = InputLines(test, width);
   text += fmt::format("  {:<{}}  also tell what is behind the answer, and how other programs are asked the same\n",
                       "--explain", width);
   text += fmt::format("  {:<{}}  text (default), json, csv, markdown or ndjson\n", "--format WORD", width);
@@ -245,12 +270,35 @@ std::string HelpOf(const Test& test, const Highlights& highlights) {
   text += heading("For example") + ExampleText(first) + "What you leave out is what is solved for.\n\n";
   text += UsageSection(test, highlights) + UnknownSection(test, highlights);
   text += heading("Options") + OptionLines(test) + '\n';
-  text += heading("Before the study starts") + ParameterLines(test, true);
+  text += heading("Before the study starts") + InputLines(test, OptionWidth(test), true);
   text += ChartSection(test, highlights);
   text += fmt::format("\n{}", heading("More examples"));
   for (const Example& example : test.examples) {
     if (&example != &first) text += ExampleText(example);
   }
+  return text;
+}
+
+std::string HelpOfEffects(const Highlights& highlights) {
+  const Effects& effects = EffectSizes();
+  const Test& test = effects.inputs;
+  const auto heading = [&](const std::string& words) {
+    return fmt::format("{}{}{}\n", highlights.heading, words, highlights.end);
+  };
+  std::string text = heading(test.title) + fmt::format("{}\n{}\n\n", test.about, test.whenNot);
+  text += heading("For example") + ExampleText(test.examples.front());
+  for (std::size_t i = 0; i < effects.conversions.size(); ++i) {
+    const std::string& title = effects.conversions[i].title;
+    if (!title.empty()) text += '\n' + heading(title);
+    text += "  " + Usage(test, test.routes[i]) + '\n';
+  }
+  const std::size_t width = OptionWidth(test);
+  text += '\n' + heading("Options") + InputLines(test, width);
+  text += fmt::format("  {:<{}}  also tell the formula and source of each effect size\n", "--explain", width);
+  text += fmt::format("  {:<{}}  text (default), json, csv or markdown\n", "--format WORD", width);
+  text += fmt::format("  {:<{}}  this help\n", "--help", width);
+  text += '\n' + heading("More examples");
+  for (std::size_t i = 1; i < test.examples.size(); ++i) text += ExampleText(test.examples[i]);
   return text;
 }
 
@@ -281,5 +329,7 @@ std::string ListOfTests(const Highlights& highlights) {
   for (const Test& test : Tests()) {
     text += fmt::format("{}{:<{}}{}  {}\n", highlights.heading, test.name, width, highlights.end, test.title);
   }
+  text += fmt::format("\n{}{:<{}}{}  No test: converts what a study reports into effect sizes\n", highlights.heading,
+                      EffectSizes().inputs.name, width, highlights.end);
   return text;
 }

@@ -15,7 +15,10 @@ std::string HelpOf(const planner::Test& test, const planner::Highlights& highlig
 /// What files of designs look like, and how they are answered.
 std::string HelpOfRun(const planner::Highlights& highlights = {});
 
-/// The tests that there are, one a line.
+/// What effect sizes are converted from, with worked examples.
+std::string HelpOfEffects(const planner::Highlights& highlights = {});
+
+/// The tests that there are and what there is besides, one a line.
 std::string ListOfTests(const planner::Highlights& highlights = {});
 
 #endif

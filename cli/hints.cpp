@@ -37,6 +37,8 @@ constexpr std::string_view ranks = "there is no test of ranks but spearman; a t 
 constexpr std::string_view survival =
     "there is no test of survival times; two-proportions at a fixed time is another test";
 
+constexpr std::string_view effectSizes = "effect sizes are converted by effect";
+
 constexpr Answer answersToTests[] = {
     {"t-test", tTests},
     {"ttest", tTests},
@@ -71,6 +73,10 @@ constexpr Answer answersToTests[] = {
     {"proportions", "tests of proportions are proportion, two-proportions and paired-proportions"},
     {"means", "tests of means are mean, two-means, paired-means and anova"},
     {"z-test", "z tests are proportion and two-proportions; with a standard deviation that is known, mean is near"},
+    {"effect-size", effectSizes},
+    {"effect-sizes", effectSizes},
+    {"convert", effectSizes},
+    {"odds-ratio", effectSizes},
     {"help", "write kelpower --help, or kelpower TEST --help"},
 };
 
@@ -86,6 +92,32 @@ constexpr std::string_view sizesOfTwo = "give the sizes of the groups as --n N1,
 constexpr std::string_view oneSided = "tests are two-sided unless --one-sided is given";
 constexpr std::string_view confidence = "give --alpha 0.05 for a confidence of 95%";
 constexpr std::string_view level = "--alpha is the significance level";
+
+// Of effect, which has inputs of many tests.
+constexpr Answer answersOfEffect[] = {
+    {"--f", "the F statistic is --f-statistic, Cohen's f is --effect-f"},
+    {"--alpha", "give --confidence 0.95 for an alpha of 0.05"},
+    {"--conf-level", "give --confidence"},
+    {"--confidence-level", "give --confidence"},
+    {"--n1", sizesOfTwo},
+    {"--n2", sizesOfTwo},
+    {"--total", "--n gives the sizes of the groups, or that of the one sample"},
+    {"--df1", "give both degrees of freedom as --df DF1,DF2"},
+    {"--df2", "give both degrees of freedom as --df DF1,DF2"},
+    {"--mean1", "give both means as --means M1,M2"},
+    {"--mean2", "give both means as --means M1,M2"},
+    {"--sd1", "give both standard deviations as --sd SD1,SD2"},
+    {"--sd2", "give both standard deviations as --sd SD1,SD2"},
+    {"--r1", "give both correlations as --correlations R1,R2"},
+    {"--r2", "the square of a correlation is --r-squared; two correlations are --correlations R1,R2"},
+    {"--eta2", "give --eta-squared"},
+    {"--or", "give --odds-ratio"},
+    {"--rr", "give --risk-ratio with --proportion1"},
+    {"--rd", "give --risk-difference with --proportion1"},
+    {"--p", "a p-value is no effect size: give the statistic, as --t or --f-statistic"},
+    {"--effect-size", "give --effect-d, --effect-f, --effect-f2, --effect-h or --effect-q"},
+    {"--effect", "give --effect-d, --effect-f, --effect-f2, --effect-h or --effect-q"},
+};
 
 constexpr OptionAnswer answersToOptions[] = {
     {"--total", "ratio", sizesOfGroups},
@@ -151,6 +183,7 @@ constexpr OptionAnswer answersToOptions[] = {
     {"--unequal-variances", "mean-difference", "--sd S1,S2 with two standard deviations that differ is Welch's test"},
     {"--paired", "ratio", "paired measurements are another test: paired-means or paired-proportions"},
     {"--yates", "correction", "give --correction"},
+    {"--pooled", "unpooled", "the standard error is pooled unless --unpooled is given"},
     {"--fisher", "method", "Fisher's test is --method conditional"},
     {"--width", "half-width", "--half-width is half of the width"},
     {"--margin", "half-width", "give --half-width"},
@@ -174,6 +207,11 @@ std::string HintForTest(std::string_view word) {
 }
 
 std::string HintForOption(const planner::Test& test, std::string_view option) {
+  if (test.name == "effect") {
+    for (const auto& [word, text] : answersOfEffect) {
+      if (word == option) return std::string(text);
+    }
+  }
   for (const auto& [word, input, text] : answersToOptions) {
     if (word == option && planner::FindParameter(test, input)) return std::string(text);
   }

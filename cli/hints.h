@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_HINTS_H
+#define KELPOWER_CLI_HINTS_H
 
 #include <string>
 #include <string_view>
@@ -17,3 +18,5 @@ std::string HintForTest(std::string_view word);
 /// What to use in place of an option that the test does not have, as the end of a sentence; empty where nothing is
 /// known of it.
 std::string HintForOption(const planner::Test& test, std::string_view option);
+
+#endif

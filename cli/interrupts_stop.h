@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_INTERRUPTS_STOP_H
+#define KELPOWER_CLI_INTERRUPTS_STOP_H
 
 #include "interrupts.h"
 #include "model/stop_request.h"
@@ -20,3 +21,5 @@ private:
   };
   mutable Asked asked_;
 };
+
+#endif

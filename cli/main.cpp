@@ -12,6 +12,7 @@
 #include "solve/solve.h"
 #include "terminal.h"
 #include "usage_error.h"
+#include "words/effect_report.h"
 #include "words/problem.h"
 #include "words/render.h"
 
@@ -26,6 +27,7 @@ std::string Overview(const planner::Highlights& highlights) {
       "  kelpower TEST --help      what a test takes and answers, with examples\n"
       "  kelpower TEST ... --chart NAME   draw the power of a design\n"
       "  kelpower run FILE         answer a file of designs; kelpower run --help says how\n"
+      "  kelpower effect ...       effect sizes from what a study reports; kelpower effect --help says how\n"
       "  kelpower list             the tests; with --format json their descriptions\n"
       "  kelpower --version\n\n"
       "{0}Tests{1}\n{2}",
@@ -65,6 +67,9 @@ std::string Answer(const Request& request, const planner::Highlights& highlights
     case Command::List: return List(request.format, highlights);
     case Command::TestHelp: return HelpOf(*request.test, highlights);
     case Command::RunHelp: return HelpOfRun(highlights);
+    case Command::EffectHelp: return HelpOfEffects(highlights);
+    case Command::Effect:
+      return Rendered(planner::ConvertEffect(request.values, request.isExplained), request.format, highlights);
     case Command::Solve: return Rendered(Solved(request), request.format, highlights);
     case Command::Chart: return ChartAnswer(request);
     case Command::Table:

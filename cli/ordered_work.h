@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_ORDERED_WORK_H
+#define KELPOWER_CLI_ORDERED_WORK_H
 
 #include <cstddef>
 #include <functional>
@@ -34,3 +35,5 @@ struct OrderedWork {
   /// work and is thrown again.
   bool Run(unsigned threads) const;
 };
+
+#endif

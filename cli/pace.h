@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_PACE_H
+#define KELPOWER_CLI_PACE_H
 
 #include <algorithm>
 #include <atomic>
@@ -30,3 +31,5 @@ private:
   std::size_t most_;
   std::atomic<std::size_t> size_;
 };
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_ROWS_INPUT_H
+#define KELPOWER_CLI_ROWS_INPUT_H
 
 #include <cstddef>
 #include <cstdio>
@@ -44,3 +45,5 @@ private:
   std::string buffer_;
   std::size_t at_ = 0;  // of the rows to be taken next
 };
+
+#endif

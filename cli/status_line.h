@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_CLI_STATUS_LINE_H
+#define KELPOWER_CLI_STATUS_LINE_H
 
 #include <cstddef>
 #include <string>
@@ -20,3 +21,5 @@ private:
   bool isShown_;
   std::size_t width_ = 0;  // of the text that stands there
 };
+
+#endif

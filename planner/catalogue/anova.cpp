@@ -2,7 +2,6 @@
 
 #include "anova/overall.h"
 #include "catalogue/axes.h"
-#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/tests.h"
@@ -28,6 +27,20 @@ double PowerOfEffect(const Inputs& in) {
   return OrNaN(anova::PowerOfEffect(EffectOf(in), in.Groups(), TotalSize(in), in.Alpha()));
 }
 
+/// Powers over many effects at the same sizes.
+class PowersOverEffects {
+public:
+  double operator()(const Inputs& in) {
+    const double total = TotalSize(in);
+    anova::OverallTest& test = kept_.For({double(in.Groups()), total, in.Alpha()}, in.Groups(), total, in.Alpha());
+    if (!in.Has("means")) return OrNaN(test.PowerOfMany(EffectOf(in).Noncentrality(total)));
+    const auto spread = anova::GroupSpread::Of(in.List("means"), in.List("n"));
+    return OrNaN(test.PowerOfMany(spread.Noncentrality(in.Number("sd"), total)));
+  }
+
+private:
+  Kept<anova::OverallTest, 3> kept_;
+};
 /// With the groups weighted by their shares (Cohen 1988, formula 8.2.1 and section 8.2.3).
 double EffectFOfMeans(const Inputs& in) {
   return std::sqrt(anova::GroupSpread::Of(in.List("means"), in.Weights()).Noncentrality(in.Number("sd"), 1));
@@ -72,17 +85,20 @@ std::vector<Route> Routes() {
        .needs = {"means", "sd", "n"},
        .accepts = {"groups"},
        .exportName = "PowerOverallTest",
-       .value = PowerOfMeans},
+       .value = PowerOfMeans,
+       .surfaceValue = PowersOverEffects()},
       {.question = Question::Power,
        .needs = {"effect-f", "n"},
        .accepts = {"groups"},
        .exportName = "PowerOverallTestwES",
-       .value = PowerOfEffect},
+       .value = PowerOfEffect,
+       .surfaceValue = PowersOverEffects()},
       {.question = Question::Power,
        .needs = {"eta-squared", "n"},
        .accepts = {"groups"},
        .exportName = "PowerOverallTestwES",
-       .value = PowerOfEffect},
+       .value = PowerOfEffect,
+       .surfaceValue = PowersOverEffects()},
       {.question = Question::SampleSize,
        .needs = {"means", "sd"},
        .accepts = {"ratios", "groups"},
@@ -147,7 +163,6 @@ Test AnovaTest() {
       {.name = "effect-f", .label = "effect size f", .needs = {"means", "sd"}, .call = EffectFOfMeans},
       {.name = "eta-squared", .label = "eta squared", .needs = {"means", "sd"}, .call = EtaSquaredOfMeans},
   };
-  test.charts = ChartsOfAnova();
   AddWordsOfAnova(test);
   return WithCommonParameters(std::move(test));
 }

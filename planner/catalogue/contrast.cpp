@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "catalogue/axes.h"
-#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/offers.h"
@@ -155,8 +154,8 @@ Test ContrastTest() {
        .needs = {"means", "sd", "coefficients"},
        .call = EffectOfMeans},
   };
-  test.charts = ChartsOfContrast();
   test.offers = OffersOfContrast();
+  test.effect = [](const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : EffectOfMeans(in); };
   AddWordsOfContrast(test);
   return WithCommonParameters(std::move(test));
 }

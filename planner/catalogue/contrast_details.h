@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_CONTRAST_DETAILS_H
+#define KELPOWER_PLANNER_CATALOGUE_CONTRAST_DETAILS_H
 
 #include "anova/contrast.h"
 #include "model/details.h"
@@ -19,3 +20,5 @@ struct AskedContrast {
 Details DetailsOf(const AskedContrast& contrast, Question question, const Inputs& in);
 
 }  // namespace planner
+
+#endif

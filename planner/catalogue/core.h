@@ -40,7 +40,7 @@ inline Numbers SpreadByRatios(kelpower::Answer total, const Numbers& weights) {
 
 /// The code of a choice that stands for a value of an enumeration.
 template <typename Enumeration>
-constexpr int CodeOf(Enumeration value) {
+consteval int CodeOf(Enumeration value) {
   return static_cast<int>(value);
 }
 

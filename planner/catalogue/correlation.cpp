@@ -17,29 +17,29 @@ Names Effect(const CorrelationKind& kind) { return Joined({"r"}, kind.needs); }
 
 std::vector<Route> Routes(const CorrelationKind& kind) {
   const Names effect = Effect(kind);
-  const Names design = CorrelationDesign(kind);
-  const Names options = CorrelationOptions(kind);
+  const Names design = Joined(effect, {"n"});
+  const Names options = Joined({"null", "one-sided"}, kind.accepts);
   return {
       {.question = Question::Power,
        .needs = design,
        .accepts = options,
        .exportName = "PowerbyOneSamp" + kind.exports,
-       .value = kind.power},
+       .value = kind.calls.power},
       {.question = Question::SampleSize,
        .needs = effect,
        .accepts = options,
        .exportName = "PowerReversebyOneSamp" + kind.exports,
-       .sizes = kind.size},
+       .sizes = kind.calls.size},
       {.question = Question::HalfWidth,
        .needs = design,
        .accepts = kind.accepts,
        .exportName = "HalfCIOneSamp" + kind.exports,
-       .value = kind.halfWidth},
+       .value = kind.calls.halfWidth},
       {.question = Question::SampleSizeForHalfWidth,
        .needs = effect,
        .accepts = kind.accepts,
        .exportName = "PowerReversebyHalfCIOneSamp" + kind.exports,
-       .sizes = kind.sizeForHalfWidth},
+       .sizes = kind.calls.sizeForHalfWidth},
   };
 }
 
@@ -60,6 +60,22 @@ std::vector<ReportSentence> Sentences(const CorrelationKind& kind) {
            " with a half-width of at most {target-half-width}, the study needs {sizes}; the half-width is then "
            "{half-width}."},
   };
+}
+
+double Difference(const Inputs& in) { return in.Number("r") - in.Number("null"); }
+
+/// The differences that the null correlation leaves.
+Range AllDifferences(const Inputs& in) { return {-1 - in.Number("null"), 1 - in.Number("null")}; }
+
+Axis DifferenceAxis() {
+  return {.name = "difference",
+          .title = "difference of the correlation from the null",
+          .symbol = "difference",
+          .needs = {"r", "null"},
+          .limits = {-2, 2, true, true, false},
+          .design = Difference,
+          .vary = [](Inputs& in, const Inputs& design, double at) { in.Set("r", at + design.Number("null")); },
+          .scale = AllDifferences};
 }
 
 std::vector<Unknown> Unknowns() {
@@ -90,10 +106,6 @@ std::vector<Unknown> Unknowns() {
 
 }  // namespace
 
-Names CorrelationDesign(const CorrelationKind& kind) { return Joined(Effect(kind), {"n"}); }
-
-Names CorrelationOptions(const CorrelationKind& kind) { return Joined({"null", "one-sided"}, kind.accepts); }
-
 Test CorrelationTest(const CorrelationKind& kind) {
   return {.name = kind.name,
           .title = "Test of a " + kind.wording + " correlation",
@@ -103,7 +115,8 @@ Test CorrelationTest(const CorrelationKind& kind) {
           .unknowns = Unknowns(),
           .sizeExists = {CorrelationsDiffer()},
           .sentences = Sentences(kind),
-          .charts = CorrelationCharts(kind)};
+          .axes = {DifferenceAxis()},
+          .effect = Difference};
 }
 
 }  // namespace planner

@@ -8,6 +8,14 @@
 
 namespace planner {
 
+/// The core, called with the inputs of the test.
+struct CorrelationCalls {
+  double (*power)(const Inputs&);
+  Numbers (*size)(const Inputs&);
+  double (*halfWidth)(const Inputs&);
+  Numbers (*sizeForHalfWidth)(const Inputs&);
+};
+
 /// What is particular to the test of one kind of correlation.
 struct CorrelationKind {
   std::string name;     // "pearson"
@@ -17,30 +25,15 @@ struct CorrelationKind {
   std::string definition;             // what the correlation is of, in the words of `about`
   std::string method = "Fisher's z";  // in sentences
   std::string given = {};             // "given {partialled-out} variables", after a space
-  std::string exampleArguments = {};  // that every example needs besides --r and --n, after a space
   Names needs = {};                   // inputs besides `r` and `n`
   Names accepts = {};                 // inputs of the method
-  double mostPartialledOut = 0;
 
-  // The core, called with the inputs of the test.
-  double (*power)(const Inputs&);
-  Numbers (*size)(const Inputs&);
-  double (*halfWidth)(const Inputs&);
-  Numbers (*sizeForHalfWidth)(const Inputs&);
-
-  /// The problem of sizes that the charts cannot draw with these inputs. Null where they draw all.
-  std::optional<Problem> (*refuseSizes)(const Inputs&, const Range&) = nullptr;
+  CorrelationCalls calls;
 };
 
-/// The description of the test of a correlation: routes, sentences and charts. The caller adds parameters, conditions
-/// and examples.
+/// The description of the test of a correlation: routes, sentences and axes. The caller adds parameters, conditions and
+/// examples.
 Test CorrelationTest(const CorrelationKind& kind);
-
-std::vector<Chart> CorrelationCharts(const CorrelationKind& kind);
-
-/// The inputs of a design and those that choose the test.
-Names CorrelationDesign(const CorrelationKind& kind);
-Names CorrelationOptions(const CorrelationKind& kind);
 
 }  // namespace planner
 

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_DETAILS_H
+#define KELPOWER_PLANNER_CATALOGUE_DETAILS_H
 
 #include <string>
 
@@ -44,3 +45,5 @@ void AddIntervalZ(Details& details, const Inputs& in);
 void AddCriticalZ(Details& details, double critical);
 
 }  // namespace planner
+
+#endif

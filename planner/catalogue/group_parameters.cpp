@@ -1,27 +1,8 @@
 #include "catalogue/group_parameters.h"
 
-#include <cmath>
-
 #include "catalogue/axes.h"
 
 namespace planner {
-namespace {
-
-/// From a fifth to five times D = sqrt(sum n_i (m_i - G)^2), with G the mean of all observations.
-Range AroundDistanceOfMeans(const Inputs& in, double) {
-  const Numbers& means = in.List("means");
-  const Numbers& sizes = in.List("n");
-  double grandMean = 0;
-  for (std::size_t i = 0; i < means.size(); ++i) grandMean += means[i] * (sizes[i] / TotalSize(in));
-  double distance = 0;
-  for (std::size_t i = 0; i < means.size(); ++i) {
-    distance = std::hypot(distance, std::sqrt(sizes[i]) * (means[i] - grandMean));
-  }
-  return {distance / 5, distance * 5};
-}
-
-}  // namespace
-
 Parameter GroupMeans() { return PerGroup("means", "group means", "mean expected in each group"); }
 
 Parameter WithinSd() { return Number("sd", "standard deviation", "standard deviation within the groups").Above(0); }
@@ -68,7 +49,5 @@ Condition ErrorDegrees() {
       .holds = [](const Inputs& in) { return TotalSize(in) > in.Groups(); },
       .sentence = "{n} leaves nothing to estimate the standard deviation from: at least one group needs 2 or more."};
 }
-
-Axis WithinSdAxis() { return ParameterAxis(WithinSd(), "SD", AroundDistanceOfMeans); }
 
 }  // namespace planner

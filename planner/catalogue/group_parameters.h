@@ -20,9 +20,6 @@ Parameter EtaSquared();
 /// The condition that more observations than groups leave something to estimate the standard deviation from.
 Condition ErrorDegrees();
 
-/// An axis of standard deviations within the groups, around the distance of the means.
-Axis WithinSdAxis();
-
 }  // namespace planner
 
 #endif

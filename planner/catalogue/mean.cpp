@@ -2,7 +2,6 @@
 #include <utility>
 
 #include "catalogue/axes.h"
-#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/mean_parameters.h"
 #include "catalogue/offers.h"
@@ -18,9 +17,9 @@ namespace means = kelpower::means;
 
 double EffectSize(const Inputs& in) { return (in.Number("mean") - in.Number("test-value")) / in.Number("sd"); }
 
-means::OneSampleDesign DesignOf(const Inputs& in) {
-  return {in.Has("effect-d") ? in.Number("effect-d") : EffectSize(in), SidesOf(in), in.Alpha()};
-}
+double Effect(const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : EffectSize(in); }
+
+means::OneSampleDesign DesignOf(const Inputs& in) { return {Effect(in), SidesOf(in), in.Alpha()}; }
 
 double Power(const Inputs& in) { return OrNaN(means::Power(DesignOf(in), in.Number("n"))); }
 
@@ -124,8 +123,8 @@ Test MeanTest() {
   test.derived = {
       {.name = "effect-d", .label = "effect size d", .needs = {"mean", "test-value", "sd"}, .call = EffectSize},
   };
-  test.charts = ChartsOfMean();
   test.offers = OffersOfMean();
+  test.effect = Effect;
   AddWordsOfMean(test);
   return WithCommonParameters(std::move(test));
 }

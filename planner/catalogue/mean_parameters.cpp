@@ -13,9 +13,7 @@ Parameter EffectD(std::string meaning) {
   return Number("effect-d", "effect size d", std::move(meaning)).Alias("d").AtLeast(-1e6).AtMost(1e6);
 }
 
-Parameter OneSided() {
-  return Flag("one-sided", "one-sided test", "test in the direction of the effect only");
-}
+Parameter OneSided() { return Flag("one-sided", "one-sided test", "test in the direction of the effect only"); }
 
 kelpower::means::Sides SidesOf(const Inputs& in) {
   using kelpower::means::Sides;
@@ -27,19 +25,6 @@ Condition HasEffectD() {
           .about = {"effect-d"},
           .holds = [](const Inputs& in) { return in.Number("effect-d") != 0; },
           .sentence = "The effect size is zero: without an effect, no sample size reaches the power."};
-}
-
-Axis EffectDAxis() {
-  const auto usual = [](const Inputs& in, double) -> Range {
-    const double effect = std::abs(in.Number("effect-d"));
-    return {0, effect > 0 ? 2 * effect : 1.5};
-  };
-  return {.title = "effect size d",
-          .symbol = "d",
-          .limits = {0, 1e6, true, true, false},
-          .design = [](const Inputs& in) { return std::abs(in.Number("effect-d")); },
-          .vary = [](Inputs& in, const Inputs&, double at) { in.Set("effect-d", at); },
-          .usual = usual};
 }
 
 }  // namespace planner

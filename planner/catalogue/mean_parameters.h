@@ -21,10 +21,6 @@ kelpower::means::Sides SidesOf(const Inputs& in);
 /// The condition for a size that the effect size is not zero.
 Condition HasEffectD();
 
-/// An axis of effect sizes of either direction, whose design is `effect-d`: from 0 to twice the design's, or to 1.5 for
-/// a design without an effect.
-Axis EffectDAxis();
-
 }  // namespace planner
 
 #endif

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "catalogue/axes.h"
-#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/mean_parameters.h"
 #include "catalogue/offers.h"
@@ -34,9 +33,9 @@ double EffectSize(const Inputs& in) {
   return MeanDifference(in) / means::DifferenceVariance::Of(SpreadOf(in)).StandardDeviation();
 }
 
-means::OneSampleDesign DesignOf(const Inputs& in) {
-  return {in.Has("effect-d") ? in.Number("effect-d") : EffectSize(in), SidesOf(in), in.Alpha()};
-}
+double Effect(const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : EffectSize(in); }
+
+means::OneSampleDesign DesignOf(const Inputs& in) { return {Effect(in), SidesOf(in), in.Alpha()}; }
 
 double Power(const Inputs& in) { return OrNaN(means::Power(DesignOf(in), in.Number("n"))); }
 
@@ -122,24 +121,16 @@ std::vector<Route> Routes() {
 
 bool DifferencesSpread(const Inputs& in) {
   const Numbers& sds = in.List("sds");
-  return sds[0] != sds[1] || std::abs(in.Number("correlation")) != 1;
+  return sds[0] != sds[1] || in.Number("correlation") != 1;
 }
 
 std::vector<Condition> Conditions() {
   return {
-      {.code = "uncorrelated-pairs",
-       .about = {"means", "correlation"},
-       .holds = [](const Inputs& in) { return in.Number("correlation") != 0; },
-       .sentence = "{correlation} is 0: measurements that do not correlate are not pairs; two-means tests them."},
-      {.code = "one-sided-correlation",
-       .about = {"means", "correlation"},
-       .holds = [](const Inputs& in) { return in.Number("correlation") < 1 || !in.Flag("one-sided"); },
-       .sentence = "{correlation} of a one-sided test must be below 1."},
       {.code = "differences-spread",
        .about = {"means", "correlation"},
        .holds = DifferencesSpread,
-       .sentence =
-           "{sds} are equal and {correlation} is 1 or -1, which the test refuses: give {sd-difference} instead."},
+       .sentence = "{sds} are equal and {correlation} is 1: the differences do not vary, so that there is nothing to "
+                   "test."},
   };
 }
 
@@ -191,8 +182,9 @@ Test PairedMeansTest() {
       {.name = "effect-d", .label = "effect size d", .needs = {"means", "sds", "correlation"}, .call = EffectSize},
       {.name = "effect-d", .label = "effect size d", .needs = {"mean-difference", "sd-difference"}, .call = EffectSize},
   };
-  test.charts = ChartsOfPairedMeans();
   test.offers = OffersOfPairedMeans();
+  test.effect = Effect;
+  test.axes = {MeanDifferenceAxis()};
   AddWordsOfPairedMeans(test);
   return WithCommonParameters(std::move(test));
 }

@@ -1,6 +1,7 @@
+#include "catalogue/paired_proportions.h"
+
 #include <utility>
 
-#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
@@ -40,6 +41,11 @@ public:
 private:
   Kept<proportions::McNemarTest, 3> kept_;
 };
+
+double EffectOfPairs(const Inputs& in) {
+  const proportions::DiscordantPairs pairs = PairsOf(in);
+  return pairs.p12 - pairs.p21;
+}
 
 Numbers Size(const Inputs& in) {
   return RoundedUp(proportions::SizeForPower(DesignOf(in), PairsOf(in), in.Number("power")));
@@ -290,6 +296,8 @@ Test PairedProportionsTest() {
        .needs = {"proportion1", "proportion2", "correlation"},
        .call = [](const Inputs& in) { return PairsOf(in).p21; }},
   };
+  test.effect = EffectOfPairs;
+  test.axes = AxesOfPairedProportions();
   test.assumptions = {{.name = "tails",
                        .label = "tails of the test",
                        .needs = {"exact", "one-sided"},
@@ -299,7 +307,6 @@ Test PairedProportionsTest() {
                        },
                        .wording = ", with <0>,"}};
   test.largestExactSearch = kelpower::largestCount;
-  test.charts = ChartsOfPairedProportions();
   AddWordsOfPairedProportions(test);
   return WithCommonParameters(std::move(test));
 }

@@ -3,7 +3,6 @@
 
 #include "anova/contrast.h"
 #include "catalogue/axes.h"
-#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/mean_parameters.h"
@@ -156,7 +155,6 @@ Test PairwiseTest() {
                           .label = "significance level of the comparison",
                           .needs = {"adjust"},
                           .call = Level});
-  test.charts = ChartsOfPairwise();
   test.offers.comparisons = false;  // the pairs have an adjustment of their own
   AddWordsOfPairwise(test);
   return WithCommonParameters(std::move(test));

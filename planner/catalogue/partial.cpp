@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "catalogue/core.h"
 #include "catalogue/correlation.h"
+#include "catalogue/correlation_calls.h"
 #include "catalogue/correlation_parameters.h"
 #include "catalogue/offers.h"
 #include "catalogue/tests.h"
@@ -29,49 +29,6 @@ correlation::PearsonInterval IntervalOf(const Inputs& in) {
   return {correlation::Confidence(in.Alpha()), in.Number("r"), PartialledOut(in), false};
 }
 
-double Power(const Inputs& in) { return OrNaN(correlation::Power(TestOf(in), in.Number("n"), HypothesesOf(in))); }
-
-Numbers Size(const Inputs& in) {
-  return RoundedUp(correlation::SizeForPower(TestOf(in), HypothesesOf(in), in.Number("power"), StopOf(in)));
-}
-
-double HalfWidth(const Inputs& in) { return correlation::HalfWidth(IntervalOf(in), in.Number("n")); }
-
-Numbers SizeForHalfWidth(const Inputs& in) {
-  return RoundedUp(correlation::SizeForHalfWidth(IntervalOf(in), in.Number("half-width"), StopOf(in)));
-}
-
-std::optional<Problem> RefuseDrawnSizes(const Inputs& in, const Range& sizes) {
-  constexpr double sizesBeyondPartialledOut = 5000;
-  return RefuseSizes(sizes, {SmallestSize(in), PartialledOut(in) + sizesBeyondPartialledOut});
-}
-
-// The chart has a point for each case; beyond this there would be more than it can show.
-constexpr double largestPartialledOutSize = 1e6;
-
-std::optional<Problem> RefuseManyCases(const Inputs& in, const Range&) {
-  if (in.Number("n") <= largestPartialledOutSize) return std::nullopt;
-  return Problem{.code = Code::ChartRangeRefused,
-                 .inputs = {"chart", "n"},
-                 .sentence = "{chart} partialled-out has a point for each case: {n} must be at most 1000000."};
-}
-
-Chart OverVariablesPartialledOut() {
-  Axis axis{.title = "variables partialled out",
-            .symbol = "k",
-            .limits = {0, mostPartialledOut, true, true, true},
-            .input = Name("partialled-out"),
-            .usual = [](const Inputs& in, double) -> Range {
-              return {0, std::max(in.Number("n") - 5, 1.0)};
-            },
-            .refuse = RefuseManyCases};
-  return {.name = "partialled-out",
-          .axes = {std::move(axis)},
-          .needs = {"r", "partialled-out", "n"},
-          .accepts = {"null", "one-sided"},
-          .example = "partial --r 0.3 --partialled-out 3 --n 84 --chart partialled-out --from 0 --to 60"};
-}
-
 }  // namespace
 
 Test PartialTest() {
@@ -80,14 +37,8 @@ Test PartialTest() {
                                .exports = "Partial",
                                .definition = "two variables, given others,",
                                .given = " given {partialled-out} variables",
-                               .exampleArguments = " --partialled-out 3",
                                .needs = {"partialled-out"},
-                               .mostPartialledOut = mostPartialledOut,
-                               .power = Power,
-                               .size = Size,
-                               .halfWidth = HalfWidth,
-                               .sizeForHalfWidth = SizeForHalfWidth,
-                               .refuseSizes = RefuseDrawnSizes});
+                               .calls = CallsWith<TestOf, IntervalOf>()});
   test.parameters = {
       Correlation("correlation expected"),
       NullCorrelation(),
@@ -104,7 +55,6 @@ Test PartialTest() {
        .holds = [](const Inputs& in) { return in.Number("n") >= SmallestSize(in); },
        .sentence = "{n} must exceed the number of variables partialled out by at least 4."},
   };
-  test.charts.push_back(OverVariablesPartialledOut());
   test.offers = OffersOfPartial();
   AddWordsOfPartial(test);
   return WithCommonParameters(std::move(test));

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "catalogue/core.h"
 #include "catalogue/correlation.h"
+#include "catalogue/correlation_calls.h"
 #include "catalogue/correlation_parameters.h"
 #include "catalogue/offers.h"
 #include "catalogue/tests.h"
@@ -22,18 +22,6 @@ correlation::PearsonInterval IntervalOf(const Inputs& in) {
   return {correlation::Confidence(in.Alpha()), in.Number("r"), 0, in.Flag("adjust-bias")};
 }
 
-double Power(const Inputs& in) { return OrNaN(correlation::Power(TestOf(in), in.Number("n"), HypothesesOf(in))); }
-
-Numbers Size(const Inputs& in) {
-  return RoundedUp(correlation::SizeForPower(TestOf(in), HypothesesOf(in), in.Number("power"), StopOf(in)));
-}
-
-double HalfWidth(const Inputs& in) { return correlation::HalfWidth(IntervalOf(in), in.Number("n")); }
-
-Numbers SizeForHalfWidth(const Inputs& in) {
-  return RoundedUp(correlation::SizeForHalfWidth(IntervalOf(in), in.Number("half-width"), StopOf(in)));
-}
-
 }  // namespace
 
 Test PearsonTest() {
@@ -43,10 +31,7 @@ Test PearsonTest() {
                                .definition = "two variables",
                                .method = "Fisher's z{adjust-bias?, corrected for bias,}",
                                .accepts = {"adjust-bias"},
-                               .power = Power,
-                               .size = Size,
-                               .halfWidth = HalfWidth,
-                               .sizeForHalfWidth = SizeForHalfWidth});
+                               .calls = CallsWith<TestOf, IntervalOf>()});
   test.parameters = {
       Correlation("correlation expected"),
       NullCorrelation(),

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "catalogue/axes.h"
-#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/offers.h"
 #include "catalogue/tests.h"
@@ -188,6 +187,22 @@ std::vector<Condition> Conditions() {
   };
 }
 
+/// The differences that the null proportion leaves.
+Range AllDifferences(const Inputs& in) { return {-in.Number("null"), 1 - in.Number("null")}; }
+
+double Difference(const Inputs& in) { return in.Number("proportion") - in.Number("null"); }
+
+Axis DifferenceAxis() {
+  return {.name = "difference",
+          .title = "difference of the proportions (expected minus null)",
+          .symbol = "difference",
+          .needs = {"proportion", "null"},
+          .limits = {-1, 1, true, true, false},
+          .design = Difference,
+          .vary = [](Inputs& in, const Inputs& design, double at) { in.Set("proportion", at + design.Number("null")); },
+          .scale = AllDifferences};
+}
+
 std::vector<Derived> DerivedFigures() {
   return {
       {.name = "rejects-to",
@@ -224,6 +239,8 @@ Test ProportionTest() {
            "The proportion expected is the null proportion: without an effect, no sample size reaches the power."},
   };
   test.derived = DerivedFigures();
+  test.effect = Difference;
+  test.axes = {DifferenceAxis()};
   test.assumptions = {{.name = "tails",
                        .label = "tails of the test",
                        .needs = {"exact", "one-sided"},
@@ -233,7 +250,6 @@ Test ProportionTest() {
                        },
                        .wording = ", with <0>,"}};
   test.largestExactSearch = largestCount;
-  test.charts = ChartsOfProportion();
   test.offers = OffersOfProportion();
   AddWordsOfProportion(test);
   return WithCommonParameters(std::move(test));

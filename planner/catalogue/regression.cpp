@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 #include "catalogue/axes.h"
-#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/correlation_parameters.h"
 #include "catalogue/tests.h"
@@ -34,6 +34,29 @@ regression::Effect EffectOf(const Inputs& in) {
 }
 
 double Power(const Inputs& in) { return OrNaN(regression::Power(ModelOf(in), in.Number("n"), EffectOf(in))); }
+
+/// Powers over many effects at the same size.
+class PowersOverEffects {
+public:
+  double operator()(const Inputs& in) {
+    const regression::Model model = ModelOf(in);
+    const double size = in.Number("n");
+    auto& test = kept_
+                     .For({model.predictors, model.tested, double(model.isRandom), double(model.hasIntercept),
+                           model.alpha, size},
+                          model, size)
+                     .test;
+    return test ? test->PowerOfMany(EffectOf(in)) : OrNaN(kelpower::NoValue::Refused);
+  }
+
+private:
+  struct TestOfSize {
+    TestOfSize(const regression::Model& model, double size) : test(regression::RegressionTest::Checked(model, size)) {}
+    std::optional<regression::RegressionTest> test;
+  };
+
+  Kept<TestOfSize, 6> kept_;
+};
 
 Numbers Size(const Inputs& in) {
   return RoundedUp(regression::SizeForPower(ModelOf(in), EffectOf(in), in.Number("power")));
@@ -69,12 +92,14 @@ std::vector<Route> Routes() {
        .needs = {"r-squared", "predictors", "n"},
        .accepts = ofFits,
        .exportName = "Powerbymlr",
-       .value = Power},
+       .value = Power,
+       .surfaceValue = PowersOverEffects()},
       {.question = Question::Power,
        .needs = {"effect-f2", "predictors", "n"},
        .accepts = ofEffect,
        .exportName = "PowerbymlrwES",
-       .value = Power},
+       .value = Power,
+       .surfaceValue = PowersOverEffects()},
       {.question = Question::SampleSize,
        .needs = {"r-squared", "predictors"},
        .accepts = ofFits,
@@ -115,6 +140,11 @@ std::vector<Condition> Conditions() {
        .about = {"predictors", "tested"},
        .holds = [](const Inputs& in) { return Tested(in) <= Predictors(in); },
        .sentence = "{tested} must not exceed {predictors}."},
+      {.code = "reduced-missing",
+       .about = {"r-squared", "tested", "predictors"},
+       .holds = [](const Inputs& in) { return Tested(in) >= Predictors(in) || in.Has("r-squared-reduced"); },
+       .sentence = "Also give {r-squared-reduced}, how much the predictors that are not tested explain: {tested} is "
+                   "below {predictors}. It is 0 where they explain nothing."},
       {.code = "reduced-fit",
        .about = {"r-squared", "r-squared-reduced"},
        .holds = [](const Inputs& in) { return Reduced(in) <= in.Number("r-squared"); },
@@ -147,6 +177,16 @@ std::vector<Condition> SizeExists() {
   };
 }
 
+Axis MultipleCorrelationAxis() {
+  return {.name = "r",
+          .title = "multiple correlation R",
+          .symbol = "R",
+          .needs = {"r-squared"},
+          .limits = {0, 1, true, false, false},
+          .design = [](const Inputs& in) { return std::sqrt(in.Number("r-squared")); },
+          .vary = [](Inputs& in, const Inputs&, double at) { in.Set("r-squared", at * at); }};
+}
+
 }  // namespace
 
 Test RegressionTest() {
@@ -162,7 +202,7 @@ Test RegressionTest() {
   test.derived = {
       {.name = "effect-f2", .label = "effect size f2", .needs = {"r-squared", "predictors"}, .call = EffectOfFits},
   };
-  test.charts = ChartsOfRegression();
+  test.axes = {MultipleCorrelationAxis()};
   AddWordsOfRegression(test);
   return WithCommonParameters(std::move(test));
 }

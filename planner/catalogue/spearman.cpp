@@ -4,6 +4,7 @@
 
 #include "catalogue/core.h"
 #include "catalogue/correlation.h"
+#include "catalogue/correlation_calls.h"
 #include "catalogue/correlation_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
@@ -25,18 +26,6 @@ correlation::SpearmanInterval IntervalOf(const Inputs& in) {
   return {correlation::Confidence(in.Alpha()), in.Number("r"), VarianceOf(in)};
 }
 
-double Power(const Inputs& in) { return OrNaN(correlation::Power(TestOf(in), in.Number("n"), HypothesesOf(in))); }
-
-Numbers Size(const Inputs& in) {
-  return RoundedUp(correlation::SizeForPower(TestOf(in), HypothesesOf(in), in.Number("power"), StopOf(in)));
-}
-
-double HalfWidth(const Inputs& in) { return correlation::HalfWidth(IntervalOf(in), in.Number("n")); }
-
-Numbers SizeForHalfWidth(const Inputs& in) {
-  return RoundedUp(correlation::SizeForHalfWidth(IntervalOf(in), in.Number("half-width"), StopOf(in)));
-}
-
 Parameter Variance() {
   return OneOf("variance", "variance of z", "approximation of the variance of Fisher's z of a rank correlation",
                {{"bonett-wright", CodeOf(RankVariance::BonettWright), "Bonett and Wright"},
@@ -54,10 +43,7 @@ Test SpearmanTest() {
                                .definition = "two variables",
                                .method = "Fisher's z with the variance of {variance}",
                                .accepts = {"variance"},
-                               .power = Power,
-                               .size = Size,
-                               .halfWidth = HalfWidth,
-                               .sizeForHalfWidth = SizeForHalfWidth});
+                               .calls = CallsWith<TestOf, IntervalOf>()});
   test.parameters = {
       Correlation("correlation expected"), NullCorrelation(), CaseCount(3), TowardsCorrelation(), Variance(),
   };

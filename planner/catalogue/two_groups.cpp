@@ -24,13 +24,17 @@ double DifferenceOfMeans(const Inputs& in) {
 
 double SizeRatio(const Inputs& in) { return in.List("n")[1] / in.List("n")[0]; }
 
-Axis SizeRatioAxis(UsualRange usual) {
-  return {.title = "ratio of the sizes (second group over first)",
+Axis SizeRatioAxis() {
+  return {.name = "ratio",
+          .title = "ratio of the sizes (second group over first)",
           .symbol = "ratio",
+          .needs = {"n"},
           .limits = {0.001, 1000, true, true, false},
           .design = SizeRatio,
           .vary = DivideTotal,
-          .usual = usual};
+          .scale = [](const Inputs& in) -> Range {
+            return {1 / (TotalSize(in) - 1), TotalSize(in) - 1};
+          }};
 }
 
 }  // namespace planner

@@ -18,7 +18,7 @@ double DifferenceOfMeans(const Inputs& in);
 double SizeRatio(const Inputs& in);
 
 /// An axis of ratios of the sizes, which keep their total.
-Axis SizeRatioAxis(UsualRange usual);
+Axis SizeRatioAxis();
 
 }  // namespace planner
 

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "catalogue/axes.h"
-#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/mean_parameters.h"
@@ -167,6 +166,8 @@ Test TwoMeansTest() {
       {.name = "effect-d", .label = "effect size d", .needs = {"means", "sd"}, .call = EffectSize},
       {.name = "effect-d", .label = "effect size d", .needs = {"mean-difference", "sd"}, .call = EffectSize},
   };
+  test.effect = [](const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : DifferenceOfMeans(in); };
+  test.axes = {MeanDifferenceAxis(), SizeRatioAxis()};
   test.assumptions = {
       {.name = "variances",
        .label = "variances",
@@ -174,7 +175,6 @@ Test TwoMeansTest() {
        .call =
            [](const Inputs& in) { return std::string(SpreadsOf(in).isPooled ? "pooled" : "unequal, Welch's test"); },
        .wording = " (variances <0>)"}};
-  test.charts = ChartsOfTwoMeans();
   test.offers = OffersOfTwoMeans();
   AddWordsOfTwoMeans(test);
   return WithCommonParameters(std::move(test));

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "catalogue/charts.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/tests.h"
@@ -18,6 +17,8 @@ using kelpower::proportions::TwoProportionTest;
 TwoProportionTest TestOf(const Inputs& in) { return TwoProportionTest(in.Choice("method")); }
 
 bool IsConditional(const Inputs& in) { return TestOf(in) == TwoProportionTest::Conditional; }
+
+bool IsPooled(const Inputs& in) { return !in.Flag("unpooled"); }
 
 bool IsExact(const Inputs& in) { return in.Flag("exact") || IsConditional(in); }
 
@@ -35,8 +36,7 @@ double SecondProportion(const Inputs& in) {
 }
 
 kelpower::proportions::IndependentDesign DesignOf(const Inputs& in) {
-  return {TestOf(in),       IsExact(in), in.Flag("one-sided"), in.Alpha(), in.Flag("correction"),
-          in.Flag("pooled")};
+  return {TestOf(in), IsExact(in), in.Flag("one-sided"), in.Alpha(), in.Flag("correction"), IsPooled(in)};
 }
 
 kelpower::proportions::IndependentSizes WantedOf(const Inputs& in) {
@@ -64,7 +64,7 @@ std::vector<Names> EffectsOfTwoProportions() {
           {"proportion1", "odds-ratio"}};
 }
 
-Names OptionsOfTwoProportions() { return {"method", "exact", "pooled", "correction", "one-sided"}; }
+Names OptionsOfTwoProportions() { return {"method", "exact", "unpooled", "correction", "one-sided"}; }
 
 Names With(Names names, Name name) {
   names.push_back(name);
@@ -92,7 +92,7 @@ std::vector<Parameter> ParametersOfTwoProportions() {
           .Alias("test")
           .Default("z"),
       Flag("exact", "exact power", "sum over all tables in place of the large-sample formula"),
-      Flag("pooled", "pooled variance", "standard error under equal proportions (z), pooled variance (t)"),
+      Flag("unpooled", "unpooled variance", "do not take the proportions (z) or the variances (t) to be equal in the standard error"),
       Flag("correction", "continuity correction", "correct the z test or the interval for continuity")
           .Alias("continuity-correction"),
       Flag("one-sided", "one-sided test", "test in the direction of the difference only"),
@@ -136,8 +136,7 @@ std::vector<Derived> DerivedFigures() {
 
 std::string StandardError(const Inputs& in) {
   if (TestOf(in) != TwoProportionTest::Z && TestOf(in) != TwoProportionTest::T) return "";
-  const bool isPooled = in.Flag("pooled") || (IsExact(in) && TestOf(in) == TwoProportionTest::Z);
-  return isPooled ? "pooled" : "unpooled";
+  return IsPooled(in) ? "pooled" : "unpooled";
 }
 
 std::string Tails(const Inputs& in) {
@@ -154,7 +153,7 @@ std::vector<Assumption> Assumptions() {
   return {
       {.name = "standard-error",
        .label = "standard error",
-       .needs = {"method", "pooled"},
+       .needs = {"method", "unpooled"},
        .call = StandardError,
        .wording = "<0> "},
       {.name = "tails",
@@ -188,8 +187,10 @@ Test TwoProportionsTest() {
   test.sizeExists = SizeExistsForTwoProportions();
   test.derived = DerivedFigures();
   test.assumptions = Assumptions();
-  test.charts = ChartsOfTwoProportions();
   test.offers.clusters = true;
+  test.axes = AxesOfTwoProportions();
+  test.effect = RiskDifference;
+  test.steps = StepsOfPower;
   AddWordsOfTwoProportions(test);
   return WithCommonParameters(std::move(test));
 }

@@ -20,6 +20,9 @@ kelpower::proportions::TwoProportionTest TestOf(const Inputs& in);
 bool IsConditional(const Inputs& in);
 bool IsExact(const Inputs& in);
 
+/// Whether the standard error takes the proportions to be equal, as the null hypothesis does.
+bool IsPooled(const Inputs& in);
+
 /// The proportions, whichever way their difference is given.
 double FirstProportion(const Inputs& in);
 double SecondProportion(const Inputs& in);
@@ -63,6 +66,10 @@ std::vector<Route> RoutesOfTwoProportions();
 std::vector<Unknown> UnknownsOfTwoProportions();
 std::vector<Condition> ConditionsOfTwoProportions();
 std::vector<Condition> SizeExistsForTwoProportions();
+std::vector<Axis> AxesOfTwoProportions();
+
+/// About how many steps a power takes.
+double StepsOfPower(const Inputs& in);
 
 }  // namespace planner
 

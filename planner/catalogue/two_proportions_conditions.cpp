@@ -33,8 +33,8 @@ bool HasDirection(const Inputs& in) {
   return !in.Flag("one-sided") || !in.Flag("exact") || TestOf(in) != TwoProportionTest::LikelihoodRatio;
 }
 
-bool PooledWhereItCanBe(const Inputs& in) {
-  if (!in.Flag("pooled") || TestOf(in) == TwoProportionTest::T) return true;
+bool UnpooledWhereItCanBe(const Inputs& in) {
+  if (!in.Flag("unpooled") || TestOf(in) == TwoProportionTest::T) return true;
   return TestOf(in) == TwoProportionTest::Z && !IsExact(in);
 }
 
@@ -92,11 +92,11 @@ std::vector<Condition> ConditionsOfTwoProportions() {
        .about = {"exact", "method"},
        .holds = ExactWhereItCanBe,
        .sentence = "{exact} does not go with {method} arcsine: its exact form is {method} conditional."},
-      {.code = "pooled-test",
-       .about = {"pooled", "method", "exact"},
-       .holds = PooledWhereItCanBe,
+      {.code = "unpooled-test",
+       .about = {"unpooled", "method", "exact"},
+       .holds = UnpooledWhereItCanBe,
        .sentence =
-           "{pooled} goes with the t test and the large-sample z test only; the exact z test is always pooled."},
+           "{unpooled} goes with the t test and the large-sample z test only; the exact z test is always pooled."},
       {.code = "corrected-test",
        .about = {"correction", "method"},
        .holds = CorrectsATestThatCanBe,

@@ -66,7 +66,7 @@ void AddZ(Details& details, const proportions::LargeSampleTest& test, const Inpu
   AddCriticalZ(details, test.CriticalZ());
   details.Add("difference", "difference of the proportions, first minus second",
               FirstProportion(in) - SecondProportion(in));
-  details.Add("null-error", in.Flag("pooled") ? "standard error, pooled" : "standard error, unpooled", of.nullError);
+  details.Add("null-error", IsPooled(in) ? "standard error, pooled" : "standard error, unpooled", of.nullError);
   details.Add("error", "standard error at the proportions expected", of.error);
   const bool isCorrected = in.Flag("correction");
   if (isCorrected) details.Add("correction", "continuity correction", of.correction);
@@ -83,7 +83,7 @@ void AddZ(Details& details, const proportions::LargeSampleTest& test, const Inpu
   details.formula = "power = " + formula;
   details.source = "Fleiss, Levin and Paik (2003), Statistical Methods for Rates and Proportions, 3rd ed., chapter 4";
   details.equivalents.push_back({.program = "R", .call = call, .remark = "the formula, from the errors on"});
-  const bool isAsInR = in.Flag("pooled") && !isCorrected;
+  const bool isAsInR = IsPooled(in) && !isCorrected;
   std::string why;
   if (!isAsInR) why = isCorrected ? "has no continuity correction" : "pools the proportions in the critical value";
   if (HasEqualGroups(in)) {
@@ -175,7 +175,7 @@ double CommonProportion(const Inputs& in) {
 
 double AttainedLevelOfTwoProportions(const Inputs& in) {
   const proportions::IndependentDesign design{TestOf(in), IsExact(in),           in.Flag("one-sided"),
-                                              in.Alpha(), in.Flag("correction"), in.Flag("pooled")};
+                                              in.Alpha(), in.Flag("correction"), IsPooled(in)};
   if (!design.isExact) return OrNaN(kelpower::NoValue::Refused);
   const auto alternative = proportions::AlternativeOf(design, FirstProportion(in), SecondProportion(in));
   proportions::IndependentPower power(design, in.List("n")[0], in.List("n")[1]);
@@ -195,7 +195,7 @@ Details DetailsOfTwoProportions(Question question, const Inputs& in) {
   const double n1 = in.List("n")[0];
   const double n2 = in.List("n")[1];
   const proportions::IndependentDesign design{TestOf(in), IsExact(in),           in.Flag("one-sided"),
-                                              in.Alpha(), in.Flag("correction"), in.Flag("pooled")};
+                                              in.Alpha(), in.Flag("correction"), IsPooled(in)};
   details.Add("p1", "first proportion", p1);
   details.Add("p2", "second proportion", p2);
   if (design.isExact) {

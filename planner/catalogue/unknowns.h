@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_CATALOGUE_UNKNOWNS_H
+#define KELPOWER_PLANNER_CATALOGUE_UNKNOWNS_H
 
 #include <cmath>
 
@@ -59,3 +60,5 @@ inline Unknown UnknownRatio() {
 }
 
 }  // namespace planner
+
+#endif

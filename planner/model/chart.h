@@ -1,14 +1,17 @@
 #ifndef KELPOWER_PLANNER_MODEL_CHART_H
 #define KELPOWER_PLANNER_MODEL_CHART_H
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "model/alternatives.h"
 #include "model/inputs.h"
 #include "model/name.h"
 #include "model/parameter.h"
-#include "model/problem.h"
+#include "model/route.h"
+#include "model/value.h"
 
 namespace planner {
 
@@ -18,79 +21,68 @@ struct Range {
   double to = 0;
 };
 
-/// Which ends of a scale are points of a chart.
-enum class ScaleEnds { Both, First, None };
+/// How the points of an axis follow each other.
+enum class Spacing {
+  Even,    // by a step
+  Whole,   // by ones: sizes and other counts
+  Totals,  // by the totals that whole groups in the shares of the design make
+};
 
-/// One axis of a chart: a figure of the design that is varied, and where its points lie.
+/// An axis of a chart: a figure of the design that is varied. Every number of a test is one. A description adds figures
+/// that are no inputs, such as a difference of means.
 struct Axis {
-  std::string title;   // with unit: "total sample size (observations)"
+  std::string name;    // the word that asks for it: "n", "difference"
+  std::string title;   // with unit: "sample size per group (observations)"
   std::string symbol;  // in the mark of the design: "n"
-  Limits limits;       // of its ends; whole for sizes
+  Names needs = {};    // inputs without which the design has no such figure
+  Limits limits = {};  // of its ends
+  Spacing spacing = Spacing::Even;
+  bool isOfSizes = false;
+  std::optional<Range> usual = {};  // where it is a fixed one
 
-  /// The input that is varied. Where the figure is none, two functions take its place: where the design lies, and how
-  /// it is moved to `at`, with what the figure does not tell taken from the design itself.
-  std::optional<Name> input = {};
-  double (*design)(const Inputs&) = nullptr;
-  void (*vary)(Inputs& inputs, const Inputs& design, double at) = nullptr;
+  /// Where the design lies, and how it is moved to `at`, with what the figure does not tell taken from the design.
+  std::function<double(const Inputs&)> design = {};
+  std::function<void(Inputs& inputs, const Inputs& design, double at)> vary = {};
 
-  /// The range drawn unless the user gives one, from the design and its power. No length: there is none.
-  Range (*usual)(const Inputs&, double power) = nullptr;
-
-  /// Where there is something to draw with these inputs; its start carries a point. Null: everywhere.
+  /// Beyond these ends, which are no points themselves, the design has no such figure. Null: as the limits say.
   Range (*scale)(const Inputs&) = nullptr;
-  ScaleEnds scaleEnds = ScaleEnds::Both;
-  bool stepIsOfScale = false;  // a step is a share of the scale, and not of the range shown
-  bool isTotal = false;        // of the sizes of all groups together
-
-  /// The problem that a range within the limits has with these inputs.
-  std::optional<Problem> (*refuse)(const Inputs&, const Range&) = nullptr;
-
-  bool IsOfSizes() const { return limits.whole; }
-  double PlaceOf(const Inputs& inputs) const { return input ? inputs.Number(*input) : design(inputs); }
-  void Move(Inputs& inputs, const Inputs& from, double at) const {
-    if (input) return inputs.Set(*input, at);
-    vary(inputs, from, at);
-  }
 };
 
-/// One chart of a test: the power over one or two axes. Several charts with the same name draw it from different
-/// inputs, as routes are ways to an answer.
-struct Chart {
-  std::string name;        // the word that asks for it: "n", "n-sd"
-  std::vector<Axis> axes;  // one for a curve, two for a surface
-  Names needs;
-  Names accepts = {};
-  std::string example;                       // the arguments after the program's name
-  bool isAnotherWay = false;                 // to draw the chart before it, so that help need not name it
-  double (*steps)(const Inputs&) = nullptr;  // of one power, where a chart of many may take long
-
-  bool Takes(Name input) const {
-    static const Names always{"alpha", "comparisons", "cluster-size", "icc", "cluster-cv", "effect-sd"};
-    return Contains(always, input) || Contains(needs, input) || Contains(accepts, input);
-  }
-};
+/// What a chart shows over its axes.
+enum class Quantity { Power, HalfWidth, Size };
 
 /// What the user asks of a chart. Of a surface, `from` and `to` have one entry for each axis. Empty, they stand for the
 /// usual range.
 struct ChartRequest {
-  std::string name;
+  std::string name;  // an axis, or two joined by a hyphen
   Numbers from = {};
   Numbers to = {};
   std::optional<double> step = {};  // as a share of the range
+  bool showsSizes = false;          // the sizes that reach the target, in place of the power or half-width
+  std::optional<Alternatives> alternatives = {};  // of one input: a curve for each
 };
 
-/// The values of a chart: of a curve `power[i]` at `x[i]`, of a surface `power[i * y.size() + j]` at `(x[i], y[j])`.
-/// Where there is no power it is NaN, a gap.
+/// The values of a chart: of a curve `value[i]` at `x[i]`, of a surface `value[i * y.size() + j]` at `(x[i], y[j])`.
+/// Where there is none it is NaN, a gap.
 struct Series {
   Numbers x;
   Numbers y;  // empty for a curve
-  Numbers power;
+  Numbers value;
 };
 
-/// The design on a chart: its place on each axis, and its power.
+/// The design on a chart: its place on each axis, and its value.
 struct DesignMark {
   Numbers at;
-  double power;
+  double value;
+};
+
+/// The values of one design.
+struct ChartCurve {
+  std::optional<Value> alternative;  // that tells it from the others
+  Inputs design;
+  const Route* route;  // that gave the values
+  Series series;
+  std::optional<DesignMark> mark;  // unless the design lies outside
 };
 
 struct Test;
@@ -98,10 +90,14 @@ struct Test;
 /// A computed chart.
 struct ChartData {
   const Test* test;
-  const Chart* chart;
-  std::string exportName;  // that gave the powers
-  Series series;
-  std::optional<DesignMark> mark;  // unless the design lies outside
+  std::string name;
+  std::vector<Axis> axes;  // one of a curve, two of a surface
+  Quantity quantity;
+  std::optional<Name> varied;      // the input that has a value for each curve
+  std::vector<ChartCurve> curves;  // over the same points; of a surface one
+
+  bool IsSurface() const { return axes.size() > 1; }
+  const Series& First() const { return curves.front().series; }
 };
 
 }  // namespace planner

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_DETAILS_H
+#define KELPOWER_PLANNER_MODEL_DETAILS_H
 
 #include <string>
 #include <utility>
@@ -36,3 +37,5 @@ struct Details {
 };
 
 }  // namespace planner
+
+#endif

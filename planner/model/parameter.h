@@ -47,8 +47,8 @@ struct Parameter {
   std::string meaning;  // in help
   std::string unit;     // empty where it is that of the user's data
   Limits limits;
-  std::size_t length = 0;     // of a List; 0 for any
-  bool spreads = false;       // PerGroup: a single number stands for every group
+  std::size_t length = 0;  // of a List; 0 for any
+  bool spreads = false;    // PerGroup: a single number stands for every group; List: it may be a single number
   std::vector<Choice> choices;
   std::vector<std::string> aliases;
   std::optional<Value> fallback;

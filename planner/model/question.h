@@ -7,7 +7,13 @@
 
 namespace planner {
 
-enum class Question { Power, SampleSize, HalfWidth, SampleSizeForHalfWidth };
+enum class Question {
+  Power,
+  SampleSize,
+  HalfWidth,
+  SampleSizeForHalfWidth,
+  EffectSizes,  // of what a study found; no test answers it
+};
 
 /// The questions that an input of their own asks. The power is asked without one.
 inline constexpr Question askedQuestions[] = {Question::SampleSize, Question::HalfWidth,
@@ -16,7 +22,8 @@ inline constexpr Question askedQuestions[] = {Question::SampleSize, Question::Ha
 /// The input that asks the question.
 constexpr std::optional<Name> AskedBy(Question question) {
   switch (question) {
-    case Question::Power: break;
+    case Question::Power:
+    case Question::EffectSizes: break;
     case Question::SampleSize: return Name("power");
     case Question::HalfWidth: return Name("interval");
     case Question::SampleSizeForHalfWidth: return Name("half-width");

@@ -24,6 +24,7 @@ struct Route {
   std::string exportName;
   std::string oneSidedExport = {};                   // where the one-sided form is an export of its own
   Evaluation value = {};                             // of a question about a power or a half-width
+  Evaluation surfaceValue = {};                      // the same to 1e-12, faster where many share their sizes
   Evaluation lastingSize = {};                       // from which on all sizes reach a power, where the core tells it
   std::function<Numbers(const Inputs&)> sizes = {};  // of the others: a whole size for each group, empty for none
 

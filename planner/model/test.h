@@ -92,10 +92,17 @@ struct Test {
   std::vector<Phrase> phrases = {};
   std::vector<ReportSentence> sentences = {};
   std::vector<Example> examples = {};
+  std::vector<Axis> axes = {};  // of charts, over figures that are no inputs
+
+  /// The effect with its sign, whose direction a one-sided test has; null where it has none.
+  double (*effect)(const Inputs&) = nullptr;
+
+  /// About how many steps one power takes, where many may take long.
+  double (*steps)(const Inputs&) = nullptr;
+
   std::string whenNot = {};       // what the test is not for, and which one is
   Offers offers = {};             // of the circumstances of a study
   double largestExactSearch = 0;  // of an exact test: the size at which its search ends; 0 where there is no such end
-  std::vector<Chart> charts = {};
   /// What is behind the answer of a question, from the inputs at the sizes given or found.
   Details (*details)(Question question, const Inputs& atSizes) = nullptr;
 };

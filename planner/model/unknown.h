@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_MODEL_UNKNOWN_H
+#define KELPOWER_PLANNER_MODEL_UNKNOWN_H
 
 #include <string>
 
@@ -36,3 +37,5 @@ struct Unknown {
 };
 
 }  // namespace planner
+
+#endif

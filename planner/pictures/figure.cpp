@@ -6,57 +6,71 @@
 #include <cmath>
 
 #include "model/test.h"
+#include "pictures/captions.h"
+#include "pictures/lasting.h"
 
 namespace planner {
 namespace {
 
 constexpr double drawnLevels[] = {0.5, 0.8, 0.9, 0.95};
 
-/// "n = 60, power 0.63"
-std::string MarkText(const ChartData& chart) {
-  std::string text;
-  for (std::size_t i = 0; i < chart.chart->axes.size(); ++i) {
-    text += fmt::format("{} = {:.4g}, ", chart.chart->axes[i].symbol, chart.mark->at[i]);
+std::vector<FigureMark> MarksOf(const ChartData& chart) {
+  std::vector<FigureMark> marks;
+  for (const ChartCurve& curve : chart.curves) {
+    if (!curve.mark) continue;
+    const auto& [at, value] = *curve.mark;
+    const std::string text = chart.curves.size() == 1 ? "design: " + MarkText(chart, curve)
+                             : marks.empty()          ? "designs"
+                                                      : "";
+    marks.push_back({at[0], chart.IsSurface() ? at[1] : value, text});
   }
-  return text + fmt::format("power {:.2f}", chart.mark->power);
-}
-
-bool InRightHalf(const ChartData& chart) {
-  const Numbers& x = chart.series.x;
-  return chart.mark->at[0] > (x.front() + x.back()) / 2;
-}
-
-/// Between the first and the last point that have a power.
-bool Falls(const Series& series) {
-  const auto isPresent = [](double power) { return !std::isnan(power); };
-  const auto first = std::find_if(series.power.begin(), series.power.end(), isPresent);
-  const auto last = std::find_if(series.power.rbegin(), series.power.rend(), isPresent);
-  return first != series.power.end() && *first > *last;
+  return marks;
 }
 
 }  // namespace
 
-Figure FigureOf(const ChartData& chart) {
-  Figure figure{.title = chart.test->title,
+Figure FigureOf(const ChartData& chart, const std::string& title, std::size_t characters) {
+  Figure figure{.title = title.empty() ? chart.test->title : title,
+                .subtitles = Lines(HeldFixed(chart), "; ", characters),
                 .axisTitles = {},
-                .series = &chart.series,
+                .valueTitle = ValueTitle(chart),
+                .isOfPower = chart.quantity == Quantity::Power,
+                .curves = {},
                 .levels = {},
-                .markAt = {},
-                .markText = {}};
-  for (const Axis& axis : chart.chart->axes) figure.axisTitles.push_back(axis.title);
-  if (figure.IsSurface()) {
-    for (double power : drawnLevels) {
-      figure.levels.push_back({power, fmt::format("power {}", power), LevelLines(chart.series, power)});
-    }
+                .marks = MarksOf(chart)};
+  for (const Axis& axis : chart.axes) figure.axisTitles.push_back(axis.title);
+  for (const ChartCurve& curve : chart.curves) {
+    figure.curves.push_back({curve.alternative ? LabelOf(chart, curve) : "", &curve.series});
   }
-  if (!chart.mark) return figure;
-  figure.hasMark = true;
-  figure.markAt = chart.mark->at;
-  if (!figure.IsSurface()) figure.markAt.push_back(chart.mark->power);
-  figure.markText = MarkText(chart);
-  figure.markTextIsLeft = InRightHalf(chart);
-  figure.markTextIsBelow = figure.markTextIsLeft == Falls(chart.series);
+  if (!chart.IsSurface()) return figure;
+  // The place of a design on a surface takes a line of its own.
+  for (const FigureMark& mark : figure.marks) figure.subtitles.push_back(mark.text);
+  const Lasting lasting = LastingPower(chart);
+  for (double power : drawnLevels) {
+    figure.levels.push_back({power, fmt::format("power {}", power), LevelLines(lasting.surface, power)});
+  }
+  if (lasting.isSmoothed) {
+    figure.subtitles.emplace_back("the power jumps: beyond its line it stays at or above a level");
+  }
   return figure;
+}
+
+std::string DescriptionOf(const ChartData& chart) {
+  const Series& series = chart.First();
+  std::string text = NameOf(chart.quantity);
+  text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
+  text += fmt::format(" over {} from {:.6g} to {:.6g}", chart.axes[0].title, series.x.front(), series.x.back());
+  if (chart.IsSurface()) {
+    text += fmt::format(" and {} from {:.6g} to {:.6g}", chart.axes[1].title, series.y.front(), series.y.back());
+  }
+  for (const std::string& piece : HeldFixed(chart)) text += "; " + piece;
+  text += ".";
+  for (const ChartCurve& curve : chart.curves) {
+    if (!curve.mark) continue;
+    text += curve.alternative ? fmt::format(" {}: {}.", LabelOf(chart, curve), MarkText(chart, curve))
+                              : fmt::format(" Design: {}.", MarkText(chart, curve));
+  }
+  return text;
 }
 
 }  // namespace planner

@@ -16,24 +16,38 @@ struct PowerLevel {
   std::vector<Line> lines;
 };
 
+struct FigureCurve {
+  std::string label;  // empty for the only one
+  const Series* series;
+};
+
+/// A place that is marked, with its text in the key: there it covers no curve.
+struct FigureMark {
+  double x;
+  double y;
+  std::string text;  // "design: n = 60, power 0.63"; empty for further ones of the same text
+};
+
 /// A chart with all that it takes to draw it, whatever draws it.
 struct Figure {
   std::string title;
+  std::vector<std::string> subtitles;  // lines
   std::vector<std::string> axisTitles;
-  const Series* series;  // of the chart, which outlives the figure
+  std::string valueTitle;
+  bool isOfPower = true;
+  std::vector<FigureCurve> curves;  // of the chart, which outlives the figure
   std::vector<PowerLevel> levels;
-
-  bool hasMark = false;
-  Numbers markAt;        // the design's place: on a curve x and power, on a surface x and y
-  std::string markText;  // "n = 60, power 0.63"
-  // Where the mark's text finds room: inwards, and on the side of the curve that is free there.
-  bool markTextIsLeft = false;
-  bool markTextIsBelow = false;
+  std::vector<FigureMark> marks;
 
   bool IsSurface() const { return axisTitles.size() > 1; }
 };
 
-Figure FigureOf(const ChartData& chart);
+/// `title` replaces the name of the test, unless it is empty. Lines below it have at most so many characters.
+Figure FigureOf(const ChartData& chart, const std::string& title = "", std::size_t characters = 90);
+
+/// The figure in words, for those who cannot see it: what is drawn over what, from where to where, what is held fixed,
+/// and where the design lies.
+std::string DescriptionOf(const ChartData& chart);
 
 }  // namespace planner
 

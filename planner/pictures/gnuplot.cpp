@@ -2,8 +2,11 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cmath>
 #include <iterator>
+
+#include "pictures/captions.h"
 
 namespace planner {
 namespace {
@@ -11,14 +14,40 @@ namespace {
 // Of the levels of power, in their order.
 constexpr const char* levelStyles[] = {"dt 3 lw 2", "lw 2", "dt 2 lw 2", "dt 4 lw 2"};
 
+// Told apart by dashes as well as colours, which are those of Okabe and Ito for all kinds of colour vision.
+constexpr const char* curveStyles[] = {"dt 1 lw 2.5 lc rgb '#0072b2'", "dt 2 lw 2.5 lc rgb '#d55e00'",
+                                       "dt 4 lw 2.5 lc rgb '#009e73'", "dt 3 lw 3 lc rgb '#cc79a7'",
+                                       "dt 5 lw 2.5 lc rgb '#333333'", "dt (12,4) lw 2.5 lc rgb '#e69f00'"};
+
+constexpr const char* markStyle = "pt 7 ps 1.2 lc rgb '#b03a2e'";
+
 std::string DataValue(double value) { return std::isnan(value) ? "NaN" : fmt::format("{:.9g}", value); }
 
-std::string CurveData(const Series& series) {
-  std::string text = "$chart << END\n";
-  for (std::size_t i = 0; i < series.x.size(); ++i) {
-    text += fmt::format("{} {}\n", DataValue(series.x[i]), DataValue(series.power[i]));
+/// A text in double quotes. Lines stay apart, and what gnuplot would read as its own is put out of action.
+std::string Quoted(const std::string& text) {
+  std::string quoted = "\"";
+  for (char letter : text) {
+    if (letter == '\n') {
+      quoted += "\\n";
+      continue;
+    }
+    if (letter == '"' || letter == '\\' || letter == '`') quoted += '\\';
+    if (static_cast<unsigned char>(letter) >= ' ') quoted += letter;
   }
-  return text + "END\n";
+  return quoted + '"';
+}
+
+std::string CurveData(const Figure& figure) {
+  std::string text;
+  for (std::size_t k = 0; k < figure.curves.size(); ++k) {
+    const Series& series = *figure.curves[k].series;
+    text += fmt::format("$curve{} << END\n", k);
+    for (std::size_t i = 0; i < series.x.size(); ++i) {
+      text += fmt::format("{} {}\n", DataValue(series.x[i]), DataValue(series.value[i]));
+    }
+    text += "END\n";
+  }
+  return text;
 }
 
 /// A block of lines for each x, separated by blank lines.
@@ -27,51 +56,113 @@ std::string SurfaceData(const Series& series) {
   for (std::size_t i = 0; i < series.x.size(); ++i) {
     for (std::size_t j = 0; j < series.y.size(); ++j) {
       text += fmt::format("{} {} {}\n", DataValue(series.x[i]), DataValue(series.y[j]),
-                          DataValue(series.power[i * series.y.size() + j]));
+                          DataValue(series.value[i * series.y.size() + j]));
     }
     text += '\n';
   }
   return text + "END\n";
 }
 
-std::string Place(const Figure& figure) {
-  return fmt::format("{},{}", figure.markTextIsLeft ? "right offset -1.2" : "left offset 1.2",
-                     figure.markTextIsBelow ? "-0.6" : "0.6");
+std::string MarkData(const Figure& figure) {
+  std::string text = "$marks << END\n";
+  for (const FigureMark& mark : figure.marks) text += fmt::format("{:.9g} {:.9g}\n", mark.x, mark.y);
+  return text + "END\n";
 }
 
-constexpr const char* paperPoint = "point pt 7 ps 1.2 lc rgb '#b03a2e'";
-
-std::string Mark(const Figure& figure, const GnuplotTerminal& terminal) {
-  if (!figure.hasMark) return "";
-  const std::string point = terminal.showsCharactersOnly ? "point pt 1" : fmt::format("boxed {}", paperPoint);
-  return fmt::format("set label 1 \"{}\" at {:.9g},{:.9g} {} front {}\n", figure.markText, figure.markAt[0],
-                     figure.markAt[1], Place(figure), point);
+/// Words in lines of at most so many characters.
+std::string Wrapped(const std::string& text, std::size_t characters) {
+  std::vector<std::string> words;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t end = std::min(text.find(' ', at), text.size());
+    words.push_back(text.substr(at, end - at));
+    at = end + 1;
+  }
+  std::string wrapped;
+  for (const std::string& line : Lines(words, " ", characters)) wrapped += (wrapped.empty() ? "" : "\n") + line;
+  return wrapped;
 }
 
-/// The mark alone. Its text stands below the title, because on the surface it would cover lines and their labels.
-std::string MarkWithCaption(const Figure& figure) {
-  if (!figure.hasMark) return "";
-  return fmt::format("set label 1 \"\" at {:.9g},{:.9g} front {}\nset title \"{}\\nmarked: {}\" offset 0,0.5\n",
-                     figure.markAt[0], figure.markAt[1], paperPoint, figure.title, figure.markText);
+constexpr double lineOfSubtitle = 0.95;  // in lines of ordinary text
+
+double LinesAbove(const Figure& figure) { return 2.8 + lineOfSubtitle * static_cast<double>(figure.subtitles.size()); }
+
+/// The title above its smaller lines, each a label: gnuplot gives a title less room over a surface than over a curve.
+std::string Titles(const Figure& figure, const GnuplotTerminal& terminal) {
+  if (terminal.showsCharactersOnly) {
+    std::string lines = figure.title;
+    for (const std::string& line : figure.subtitles) lines += '\n' + line;
+    return "set title " + Quoted(lines) + '\n';
+  }
+  const double below = static_cast<double>(figure.subtitles.size());
+  std::string text = fmt::format("set label 100 {} at graph 0.5,1 center offset 0,{:.2f} font ',{:.3g}' front\n",
+                                 Quoted(figure.title), 1.1 + lineOfSubtitle * below, 1.15 * terminal.fontSize);
+  for (std::size_t i = 0; i < figure.subtitles.size(); ++i) {
+    text += fmt::format(
+        "set label {} {} at graph 0.5,1 center offset 0,{:.2f} font ',{:.3g}' textcolor rgb '#444444' front\n", 101 + i,
+        Quoted(figure.subtitles[i]), 0.6 + lineOfSubtitle * (below - 1 - static_cast<double>(i)),
+        0.85 * terminal.fontSize);
+  }
+  return text + fmt::format("set tmargin {:.2f}\n", LinesAbove(figure));
 }
 
 std::string Frame(const Figure& figure, const GnuplotTerminal& terminal) {
-  std::string text = "set terminal " + terminal.name + "\nset encoding utf8\n";
-  text += fmt::format("set title \"{}\"\nset xlabel \"{}\"\n", figure.title, figure.axisTitles[0]);
+  std::string text = "set terminal " + terminal.name + "\nset encoding utf8\n" + Titles(figure, terminal);
+  text += fmt::format("set xlabel {}\n", Quoted(figure.axisTitles[0]));
   if (!terminal.showsCharactersOnly) {
-    text +=
-        "set border 3 lc rgb '#555555'\nset tics nomirror\nset grid lc rgb '#dddddd' lt 1\n"
-        "set style textbox opaque noborder fillcolor rgb '#ffffff' margins 0.4,0.3\n";
+    text += "set border 3 lc rgb '#555555'\nset tics nomirror\nset grid lc rgb '#dddddd' lt 1\n";
   }
-  return text + "set key off\n";
+  return text;
+}
+
+/// An upright title has as much room as the drawing is high.
+std::string UprightTitle(const std::string& title, const GnuplotTerminal& terminal) {
+  const std::size_t characters = std::max<std::size_t>(12, terminal.upright);
+  return fmt::format("set ylabel {}\n", Quoted(Wrapped(title, characters)));
+}
+
+std::string Key(const Figure& figure, const GnuplotTerminal& terminal) {
+  const bool isNeeded = figure.curves.size() > 1 || !figure.marks.empty();
+  if (!isNeeded) return "set key off\n";
+  if (terminal.showsCharactersOnly) return "set key below\n";
+  // Rows of the key below the title of the axis, which gnuplot would let it cover.
+  const std::size_t entries = figure.curves.size() == 1 ? 1 : figure.curves.size() + 1;
+  const std::size_t rows = (entries + 2) / 3;
+  return fmt::format(
+      "set bmargin {}\nset key at screen 0.5,character {:.3g} center center horizontal maxrows {} samplen 4 Left reverse\n",
+      4 + 1.1 * static_cast<double>(rows), 0.2 + 0.55 * static_cast<double>(rows), rows);
+}
+
+std::string CurvePlots(const Figure& figure, const GnuplotTerminal& terminal) {
+  std::string plots;
+  if (figure.isOfPower && !terminal.showsCharactersOnly) {
+    plots += "0.8 with lines lw 1 dt 1 lc rgb '#999999' notitle, ";
+  }
+  for (std::size_t k = 0; k < figure.curves.size(); ++k) {
+    const std::string& label = figure.curves[k].label;
+    const std::string title = label.empty() ? "notitle" : "title " + Quoted(label);
+    const std::string style =
+        terminal.showsCharactersOnly ? std::string() : std::string(curveStyles[k % std::size(curveStyles)]) + " ";
+    plots += fmt::format("{}$curve{} using 1:2 with lines {}{}", k == 0 ? "" : ", ", k, style, title);
+  }
+  if (!figure.marks.empty()) {
+    plots += fmt::format(", $marks using 1:2 with points {} title {}",
+                         terminal.showsCharactersOnly ? "pt 1" : markStyle, Quoted(figure.marks.front().text));
+  }
+  return plots;
 }
 
 std::string CurveCommands(const Figure& figure, const GnuplotTerminal& terminal) {
-  std::string text = CurveData(*figure.series) + Frame(figure, terminal);
-  text += "set ylabel \"power\"\nset yrange [0:1]\nset ytics 0.2\n" + Mark(figure, terminal);
-  const char* style = terminal.showsCharactersOnly ? "lines" : "lines lw 2.5 lc rgb '#1f4e79'";
-  return text + fmt::format("plot [{:.9g}:{:.9g}] $chart using 1:2 with {}\n", figure.series->x.front(),
-                            figure.series->x.back(), style);
+  std::string text = CurveData(figure) + MarkData(figure) + Frame(figure, terminal);
+  if (terminal.showsCharactersOnly) {
+    text += "set ylabel " + Quoted(Wrapped(figure.valueTitle, 12)) + '\n';
+  } else {
+    text += UprightTitle(figure.valueTitle, terminal);
+  }
+  text += figure.isOfPower ? "set yrange [0:1]\nset ytics 0.2\n" : "set yrange [0:*]\n";
+  text += Key(figure, terminal);
+  const Series& series = *figure.curves.front().series;
+  return text +
+         fmt::format("plot [{:.9g}:{:.9g}] {}\n", series.x.front(), series.x.back(), CurvePlots(figure, terminal));
 }
 
 /// The lines of equal power as data, level by level, so that each can have its own style. Two blank lines separate lines:
@@ -92,7 +183,7 @@ std::string LevelData(const Figure& figure) {
 
 /// The level in the key, where there is such a line.
 std::string TitleOf(const PowerLevel& level) {
-  return level.lines.empty() ? "notitle" : fmt::format("title '{}'", level.label);
+  return level.lines.empty() ? "notitle" : fmt::format("title {}", Quoted(level.label));
 }
 
 /// The lines of equal power alone, each level drawn with a character of its own.
@@ -101,36 +192,51 @@ std::string LinesInCharacters(const Figure& figure) {
   for (std::size_t i = 0; i < figure.levels.size(); ++i) {
     plot += fmt::format("{} $level{} using 1:2 with lines {}", i == 0 ? "" : ",", i, TitleOf(figure.levels[i]));
   }
-  return LevelData(figure) + "set key outside\nunset ylabel\nplot" + plot + "\n";
+  if (!figure.marks.empty()) {
+    plot += ", $marks using 1:2 with points pt 15 title \"design\"";
+  }
+  return LevelData(figure) + "set key below\nunset ylabel\nplot" + plot + "\n";
+}
+
+/// Margins of a surface, for which gnuplot does not keep room by itself.
+std::string Margins(const Figure& figure, const GnuplotTerminal& terminal) {
+  constexpr double linesBelow = 5.5;
+  return fmt::format(
+      "set lmargin at screen 0.12\nset rmargin at screen 0.86\nset tmargin at screen {:.4f}\n"
+      "set bmargin at screen {:.4f}\n"
+      "set key at screen 0.5,screen {:.4f} center center horizontal maxrows 1 samplen 3 Left reverse\n",
+      1 - LinesAbove(figure) / terminal.lines, linesBelow / terminal.lines, 1 / terminal.lines);
 }
 
 /// Shades of power with lines of equal power, told apart in a key: labels on lines that run close would cover each
 /// other.
-std::string Shades(const Figure& figure) {
+std::string Shades(const Figure& figure, const GnuplotTerminal& terminal) {
   std::string lines;
   for (std::size_t i = 0; i < figure.levels.size(); ++i) {
     lines += fmt::format(", $level{} using 1:2:(0) with lines {} lc rgb '#222222' {}", i,
                          levelStyles[i % std::size(levelStyles)], TitleOf(figure.levels[i]));
   }
-  return LevelData(figure) +
-         "set view map\nset pm3d map\nset cbrange [0:1]\nset cblabel \"power\"\n"
+  if (!figure.marks.empty()) {
+    lines += fmt::format(", $marks using 1:2:(0) with points {} title \"design\"", markStyle);
+  }
+  return LevelData(figure) + Margins(figure, terminal) +
+         "set view map\nset pm3d map corners2color mean\nset cbrange [0:1]\nset cblabel \"power\"\n"
          "set border 15\nunset grid\nset palette defined (0 '#f7fbff', 0.5 '#c6dbef', 0.8 '#9ecae1', 1 '#5a9bcb')\n"
-         "set lmargin at screen 0.1\nset rmargin at screen 0.84\n"
-         "set tmargin at screen 0.87\nset bmargin at screen 0.18\n"
-         "set key on at screen 0.47,0.05 center center horizontal maxrows 1 samplen 3\n"
          "splot $chart with pm3d notitle" +
          lines + "\n";
 }
 
 std::string SurfaceCommands(const Figure& figure, const GnuplotTerminal& terminal) {
-  const Series& series = *figure.series;
-  std::string text = SurfaceData(series) + Frame(figure, terminal);
-  text += fmt::format("set ylabel \"{}\"\nset xrange [{:.9g}:{:.9g}]\nset yrange [{:.9g}:{:.9g}]\n",
-                      figure.axisTitles[1], series.x.front(), series.x.back(), series.y.front(), series.y.back());
-  if (!terminal.showsCharactersOnly) return text + MarkWithCaption(figure) + Shades(figure);
+  const Series& series = *figure.curves.front().series;
+  std::string text = SurfaceData(series) + MarkData(figure) + Frame(figure, terminal);
+  text += fmt::format("set xrange [{:.9g}:{:.9g}]\nset yrange [{:.9g}:{:.9g}]\n", series.x.front(), series.x.back(),
+                      series.y.front(), series.y.back());
+  if (!terminal.showsCharactersOnly)
+    return text + UprightTitle(figure.axisTitles[1], terminal) + Shades(figure, terminal);
   // An upright title does not fit beside a drawing in characters.
-  text += fmt::format("set title \"{}\\nupwards: {}\"\n", figure.title, figure.axisTitles[1]);
-  return text + Mark(figure, terminal) + LinesInCharacters(figure);
+  Figure upwards = figure;
+  upwards.subtitles.push_back("upwards: " + figure.axisTitles[1]);
+  return text + Titles(upwards, terminal) + LinesInCharacters(figure);
 }
 
 }  // namespace

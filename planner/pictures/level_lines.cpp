@@ -1,5 +1,6 @@
 #include "pictures/level_lines.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <map>
@@ -42,17 +43,24 @@ private:
   std::size_t Next(Edge edge) const { return edge / 2 + (edge % 2 == 1 ? 1 : surface_.y.size()); }
 
   bool IsCrossed(Edge edge) const {
-    return (surface_.power[edge / 2] < level_) != (surface_.power[Next(edge)] < level_);
+    return (surface_.value[edge / 2] < level_) != (surface_.value[Next(edge)] < level_);
   }
 
   void JoinCrossings(std::size_t i, std::size_t j) {
+    double sum = 0;
     for (std::size_t corner : {Number(i, j), Number(i + 1, j), Number(i, j + 1), Number(i + 1, j + 1)}) {
-      if (std::isnan(surface_.power[corner])) return;
+      if (std::isnan(surface_.value[corner])) return;
+      sum += surface_.value[corner];
     }
     std::vector<Edge> crossed;
     for (Edge edge : {AlongX(i, j), AlongY(i + 1, j), AlongX(i, j + 1), AlongY(i, j)}) {
       if (IsCrossed(edge)) crossed.push_back(edge);
     }
+    // On a saddle the corners that are on the side of the middle belong together: lines cut off the other two.
+    const bool isMiddleLow = sum / 4 < level_;
+    const bool isFirstLow = surface_.value[Number(i, j)] < level_;
+    if (crossed.size() == 4 && isMiddleLow != isFirstLow)
+      std::rotate(crossed.begin(), crossed.begin() + 3, crossed.end());
     for (std::size_t k = 0; k + 1 < crossed.size(); k += 2) {
       joined_[crossed[k]].push_back(crossed[k + 1]);
       joined_[crossed[k + 1]].push_back(crossed[k]);
@@ -63,7 +71,7 @@ private:
     const std::size_t rows = surface_.y.size();
     const std::size_t a = edge / 2;
     const std::size_t b = Next(edge);
-    const double share = (level_ - surface_.power[a]) / (surface_.power[b] - surface_.power[a]);
+    const double share = (level_ - surface_.value[a]) / (surface_.value[b] - surface_.value[a]);
     line.x.push_back(std::lerp(surface_.x[a / rows], surface_.x[b / rows], share));
     line.y.push_back(std::lerp(surface_.y[a % rows], surface_.y[b % rows], share));
     seen_.insert(edge);

@@ -2,118 +2,88 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <utility>
 
 #include "model/problem.h"
-#include "solve/checks.h"
+#include "solve/axes.h"
+#include "solve/chart_design.h"
 #include "solve/choose_route.h"
 #include "solve/grid.h"
-#include "solve/make_inputs.h"
-#include "solve/prepared_question.h"
+#include "solve/usual_range.h"
 
 namespace planner {
 namespace {
 
 // More points than any screen shows. The limit keeps a slip of the finger from computing for hours.
 constexpr double mostPoints = 1e6;
-constexpr double largestUsualTotal = 1e5;
 
 // Steps of an exact test take a few nanoseconds each.
 constexpr double mostSteps = 5e9;
 
-constexpr double usualStep = 0.01;
+constexpr double stepOfCurve = 0.005;
+constexpr double stepOfSurface = 0.01;
 const Limits stepLimits{0.001, 1, true, true, false};
 
-const Names askers{"power", "interval", "half-width"};
-
-std::vector<const Chart*> ChartsNamed(const Test& test, const std::string& name) {
-  if (test.charts.empty()) throw InputError({.code = Code::NoCharts, .words = {test.name}});
-  std::vector<const Chart*> charts;
-  for (const Chart& chart : test.charts) {
-    if (chart.name == name) charts.push_back(&chart);
-  }
-  if (!charts.empty()) return charts;
-  std::vector<Choice> names;
-  for (const std::string& known : ChartNames(test)) names.push_back({known, 0, ""});
-  throw InputError(
-      {.code = Code::NotAllowed, .inputs = {"chart"}, .values = {name}, .allowed = OneOf("chart", "", "", names)});
+std::vector<Axis> ChooseAxes(const Test& test, const ChartRequest& request, const ChartDesign& design) {
+  const std::vector<Axis> all = AxesOf(test, design.question.ChosenRoute(), design.Design());
+  std::vector<Axis> axes = AxesNamed(request.name, all);
+  if (!axes.empty()) return axes;
+  Problem problem{.code = Code::ChartUnknown, .inputs = {"chart"}, .values = {request.name}};
+  for (const Axis& axis : all) problem.words.push_back(axis.name);
+  throw InputError(std::move(problem));
 }
 
-bool AnyTakes(const std::vector<const Chart*>& charts, const Names& names) {
-  return std::any_of(charts.begin(), charts.end(), [&](const Chart* chart) {
-    return std::all_of(names.begin(), names.end(), [&](Name name) { return chart->Takes(name); });
+std::string NameOf(const Alternatives& alternatives) { return std::string(alternatives.parameter->name.Text()); }
+
+bool IsVaried(const std::vector<Axis>& axes, std::string_view input) {
+  return std::any_of(axes.begin(), axes.end(), [&](const Axis& axis) {
+    const std::vector<std::string> needs = Texts(axis.needs);
+    return axis.name == input || (axis.isOfSizes && input == "n") || (needs.size() == 1 && needs.front() == input);
   });
 }
 
-void RejectWhatNoneTakes(const std::vector<const Chart*>& charts, const Names& given) {
-  for (Name name : given) {
-    if (AnyTakes(charts, {name})) continue;
-    if (name == Name("power") && !Contains(given, "n")) {
-      throw InputError({.code = Code::ChartNeedsSizes, .inputs = {"chart", "n", "power"}});
-    }
-    const Code code = Contains(askers, name) ? Code::ChartOfDesign : Code::ChartWithoutUse;
-    throw InputError({.code = code, .inputs = Texts({name, "chart"}), .words = {charts.front()->name}});
+void CheckQuantity(const ChartRequest& request, const std::vector<Axis>& axes, Quantity quantity) {
+  if (axes.size() == 1) return;
+  if (quantity != Quantity::Power) {
+    throw InputError({.code = Code::ChartOneAxis, .inputs = {"chart"}, .words = {request.name}});
   }
-  for (std::size_t i = 0; i < given.size(); ++i) {
-    for (std::size_t j = i + 1; j < given.size(); ++j) {
-      if (AnyTakes(charts, {given[i], given[j]})) continue;
-      throw InputError({.code = Code::Exclusive, .inputs = Texts({given[i], given[j]})});
-    }
+  if (request.alternatives) {
+    throw InputError({.code = Code::ChartOneDesign, .inputs = {NameOf(*request.alternatives), "chart"}});
   }
 }
 
-const Chart& ChooseChart(const std::vector<const Chart*>& charts, const Names& given) {
-  RejectWhatNoneTakes(charts, given);
-  Problem incomplete{.code = Code::ChartIncomplete, .inputs = {"chart"}, .words = {charts.front()->name}};
-  for (const Chart* chart : charts) {
-    const auto takes = [&](Name name) { return chart->Takes(name); };
-    if (!std::all_of(given.begin(), given.end(), takes)) continue;
-    Names missing;
-    std::copy_if(chart->needs.begin(), chart->needs.end(), std::back_inserter(missing),
-                 [&](Name need) { return !Contains(given, need); });
-    if (missing.empty()) return *chart;
-    incomplete.missing.push_back(std::move(missing));
-  }
-  throw InputError(std::move(incomplete));
-}
-
-void CheckCount(const Chart& chart, const std::string& name, const Numbers& ends) {
-  if (ends.size() == chart.axes.size()) return;
+void CheckCount(const ChartRequest& request, std::size_t axes, const std::string& name, const Numbers& ends) {
+  if (ends.size() == axes) return;
   throw InputError({.code = Code::ChartEndsCount,
                     .inputs = {name, "chart"},
-                    .values = {ends, static_cast<double>(chart.axes.size())},
-                    .words = {chart.name}});
+                    .values = {ends, static_cast<double>(axes)},
+                    .words = {request.name}});
 }
 
-void CheckRequest(const Chart& chart, const ChartRequest& request) {
+void CheckRequest(const ChartRequest& request, const std::vector<Axis>& axes) {
+  if (request.alternatives && IsVaried(axes, NameOf(*request.alternatives))) {
+    throw InputError({.code = Code::ChartVariesAlternatives, .inputs = {NameOf(*request.alternatives), "chart"}});
+  }
   if (request.from.empty() != request.to.empty()) {
     throw InputError({.code = Code::ChartEndMissing, .inputs = {"from", "to"}});
   }
   if (!request.from.empty()) {
-    CheckCount(chart, "from", request.from);
-    CheckCount(chart, "to", request.to);
+    CheckCount(request, axes.size(), "from", request.from);
+    CheckCount(request, axes.size(), "to", request.to);
   }
   if (!request.step) return;
-  const bool onlySizes =
-      std::all_of(chart.axes.begin(), chart.axes.end(), [](const Axis& axis) { return axis.IsOfSizes(); });
-  if (onlySizes) {
-    throw InputError({.code = Code::ChartStepUseless, .inputs = {"step", "chart"}, .words = {chart.name}});
+  if (std::none_of(axes.begin(), axes.end(), [](const Axis& axis) { return axis.spacing == Spacing::Even; })) {
+    throw InputError({.code = Code::ChartStepUseless, .inputs = {"step", "chart"}, .words = {request.name}});
   }
   if (stepLimits.Allow(*request.step)) return;
   throw InputError(
       {.code = Code::ChartStepNotAllowed, .inputs = {"step"}, .values = {*request.step}, .limits = {stepLimits}});
 }
 
-/// A total size must leave the groups something to estimate the standard deviation from. Below that there is no power.
-Limits EndLimits(const Axis& axis, const Inputs& inputs) {
+void CheckEnds(const Axis& axis, const Range& range) {
+  // An end that is no point itself may still end an axis.
   Limits limits = axis.limits;
-  if (axis.isTotal) limits.low = std::max(limits.low, inputs.Groups() + 1.0);
-  return limits;
-}
-
-void CheckEnds(const Axis& axis, const Inputs& inputs, const Range& range) {
-  const Limits limits = EndLimits(axis, inputs);
+  limits.lowAllowed = limits.highAllowed = true;
   for (const auto& [name, end] : {std::pair("from", range.from), std::pair("to", range.to)}) {
     if (limits.Allow(end)) continue;
     throw InputError({.code = Code::ChartEndNotAllowed,
@@ -126,96 +96,200 @@ void CheckEnds(const Axis& axis, const Inputs& inputs, const Range& range) {
   throw InputError({.code = Code::ChartEndsDescend, .inputs = {"from", "to"}, .values = {range.from, range.to}});
 }
 
-Range UsualRange(const Chart& chart, const Axis& axis, const Inputs& inputs, double power) {
-  if (axis.IsOfSizes() && axis.PlaceOf(inputs) > largestUsualTotal) {
-    throw InputError({.code = Code::ChartSizesUnknown, .inputs = {"from", "to"}, .values = {largestUsualTotal}});
-  }
-  const Range range = axis.usual(inputs, power);
-  if (range.from < range.to && std::isfinite(range.to - range.from)) return range;
-  throw InputError({.code = Code::ChartRangeUnknown, .inputs = {"chart", "from", "to"}, .words = {chart.name}});
+// Powers that take longer are not searched for the range of an axis.
+constexpr double mostStepsOfSearch = 1e7;
+
+Range UsualRangeOf(const Axis& axis, ChartDesign& design, double high) {
+  const Inputs planned = design.Design();
+  Inputs moved = planned;
+  const auto steps = design.question.AskedTest().steps;
+  const auto valueAt = [&](double at) {
+    axis.vary(moved, planned, axis.spacing == Spacing::Even ? at : std::round(at));
+    if (steps && moved.Has("n") && steps(moved) > mostStepsOfSearch) return std::nan("");
+    return design.ValueOf(moved);
+  };
+  return UsualRange({.axis = &axis,
+                     .allowed = AllowedOn(axis, planned),
+                     .design = axis.design(planned),
+                     .quantity = design.quantity,
+                     .alpha = planned.Alpha(),
+                     .high = high},
+                    valueAt);
 }
 
-std::vector<Range> RangesOf(const Chart& chart, const ChartRequest& request, const Inputs& inputs, double power) {
-  std::vector<Range> ranges;
-  for (std::size_t i = 0; i < chart.axes.size(); ++i) {
-    const Axis& axis = chart.axes[i];
-    if (request.from.empty()) {
-      ranges.push_back(UsualRange(chart, axis, inputs, power));
-    } else {
-      ranges.push_back({request.from[i], request.to[i]});
-      CheckEnds(axis, inputs, ranges.back());
-    }
+/// A range that serves all designs.
+Range UsualRangeOf(const Axis& axis, const ChartRequest& request, std::vector<ChartDesign>& designs) {
+  Range common{INFINITY, -INFINITY};
+  // Of several curves the flattest would leave little room to the others.
+  const double high = designs.size() > 1 ? 0.9 : 0.99;
+  for (ChartDesign& design : designs) {
+    const Range range = UsualRangeOf(axis, design, high);
+    common = {std::min(common.from, range.from), std::max(common.to, range.to)};
   }
-  return ranges;
+  if (common.from < common.to && std::isfinite(common.to - common.from)) return common;
+  throw InputError({.code = Code::ChartRangeUnknown, .inputs = {"chart", "from", "to"}, .words = {request.name}});
 }
 
-/// Says what the axes allow.
-[[noreturn]] void RejectRanges(const Chart& chart) {
-  Problem problem{.code = Code::ChartEmpty, .inputs = {"from", "to"}};
-  for (const Axis& axis : chart.axes) {
-    problem.words.push_back(axis.title);
-    problem.limits.push_back(axis.limits);
-  }
-  throw InputError(std::move(problem));
+/// What two ranges share; the first where that is nothing.
+Range Common(const Range& range, const Range& other) {
+  const Range common{std::max(range.from, other.from), std::min(range.to, other.to)};
+  return common.from < common.to ? common : range;
 }
 
-void CheckPoints(const Chart& chart, const std::vector<AxisGrid>& grids, const Inputs& design) {
+std::vector<AxisGrid> GridsOf(const std::vector<Axis>& axes, const ChartRequest& request,
+                              std::vector<ChartDesign>& designs) {
+  const bool isUsual = request.from.empty();
+  const bool isSurface = axes.size() > 1;
+  std::vector<AxisGrid> grids;
+  for (std::size_t i = 0; i < axes.size(); ++i) {
+    const Axis& axis = axes[i];
+    if (!isUsual) CheckEnds(axis, {request.from[i], request.to[i]});
+    const Range allowed = AllowedOn(axis, designs.front().Design());
+    const Range range =
+        isUsual ? UsualRangeOf(axis, request, designs) : Common({request.from[i], request.to[i]}, allowed);
+    grids.push_back({.axis = &axis,
+                     .range = range,
+                     .allowed = allowed,
+                     .step = request.step.value_or(isSurface ? stepOfSurface : stepOfCurve),
+                     .spacing = SpacingOf(range, isUsual, isSurface),
+                     .endsExcluded = axis.scale != nullptr});
+  }
+  return grids;
+}
+
+double PointsOf(const std::vector<AxisGrid>& grids) {
   double points = 1;
-  bool anyOfSizes = false;
+  for (const AxisGrid& grid : grids) points *= PointCount(grid);
+  return points;
+}
+
+/// The steps of all powers, by the sizes in the middle.
+double StepsOf(const Test& test, const std::vector<AxisGrid>& grids, const Inputs& design) {
+  if (!test.steps || !design.Has("n")) return 0;
   Inputs middle = design;
   for (const AxisGrid& grid : grids) {
-    points *= PointCount(grid);
-    anyOfSizes = anyOfSizes || grid.axis->IsOfSizes();
-    grid.axis->Move(middle, design, (grid.range.from + grid.range.to) / 2);
+    if (grid.axis->isOfSizes) grid.axis->vary(middle, design, std::round((grid.range.from + grid.range.to) / 2));
   }
+  return PointsOf(grids) * test.steps(middle);
+}
+
+/// Powers that take long are asked at fewer points, unless the user says which.
+void Thin(const Test& test, const ChartRequest& request, std::vector<AxisGrid>& grids, const Inputs& design) {
+  constexpr double usualSteps = 3e8;
+  constexpr double fewestPoints = 20;
+  for (bool isThinned = true; isThinned && StepsOf(test, grids, design) > usualSteps;) {
+    isThinned = false;
+    for (AxisGrid& grid : grids) {
+      if (PointCount(grid) < 2 * fewestPoints) continue;
+      if (grid.axis->spacing == Spacing::Even ? request.step.has_value() : !request.from.empty()) continue;
+      grid.step *= 2;
+      grid.spacing *= 2;
+      isThinned = true;
+    }
+  }
+}
+
+void CheckPoints(const Test& test, const std::vector<AxisGrid>& grids, const Inputs& design) {
+  const double points = PointsOf(grids);
+  const bool anyWhole =
+      std::any_of(grids.begin(), grids.end(), [](const AxisGrid& grid) { return grid.axis->spacing != Spacing::Even; });
   if (points > mostPoints) {
     throw InputError({.code = Code::ChartTooLarge,
-                      .inputs = anyOfSizes ? std::vector<std::string>{"from", "to"} : std::vector<std::string>{"step"},
+                      .inputs = anyWhole ? std::vector<std::string>{"from", "to"} : std::vector<std::string>{"step"},
                       .values = {mostPoints}});
   }
-  for (const AxisGrid& grid : grids) {
-    if (!grid.axis->refuse) continue;
-    std::optional<Problem> problem = grid.axis->refuse(design, grid.range);
-    if (!problem) continue;
-    if (problem->code == Code::ChartEmpty) RejectRanges(chart);
-    throw InputError(std::move(*problem));
-  }
-  if (chart.steps && points * chart.steps(middle) > mostSteps) {
+  if (StepsOf(test, grids, design) > mostSteps) {
     throw InputError({.code = Code::ChartTooSlow, .inputs = {"step", "from", "to"}});
   }
 }
 
-/// A single point, and points without a power, make no chart.
-bool CanBeDrawn(const Series& series) {
-  const auto isPresent = [](double power) { return !std::isnan(power); };
-  return series.x.size() > 1 && std::any_of(series.power.begin(), series.power.end(), isPresent);
-}
-
-[[noreturn]] void RejectEmpty(const Chart& chart, const ChartRequest& request, const Series& series) {
-  if (request.from.empty()) {
-    throw InputError({.code = Code::ChartRangeUnknown, .inputs = {"chart", "from", "to"}, .words = {chart.name}});
+/// The values over the points of one axis.
+Numbers ValuesAlong(const Axis& axis, const Numbers& points, ChartDesign& design) {
+  const Inputs planned = design.Design();
+  Inputs moved = planned;
+  Numbers values;
+  values.reserve(points.size());
+  for (double at : points) {
+    axis.vary(moved, planned, at);
+    values.push_back(design.ValueOf(moved));
   }
-  if (!series.power.empty()) throw InputError({.code = Code::ChartWithoutPower, .inputs = {"from", "to"}});
-  RejectRanges(chart);
+  return values;
 }
 
-/// Where the usual step would draw something, the step is at fault, and otherwise the range.
-void RejectLargeStep(PreparedQuestion& power, std::vector<AxisGrid> grids, const ChartRequest& request) {
-  if (!request.step) return;
-  for (AxisGrid& grid : grids) grid.step = usualStep;
-  if (!CanBeDrawn(ComputeSeries(power, grids))) return;
-  throw InputError({.code = Code::ChartStepTooLarge, .inputs = {"step"}, .values = {*request.step}});
+/// The values of a surface. The design is moved along the sizes first, since the critical values of a test depend on
+/// them alone: neighbours share them.
+void FillSurface(const std::vector<Axis>& axes, Series& series, ChartDesign& design) {
+  const bool isTurned = axes[1].isOfSizes && !axes[0].isOfSizes;
+  const Axis& outer = axes[isTurned ? 1 : 0];
+  const Axis& inner = axes[isTurned ? 0 : 1];
+  const Numbers& outerPoints = isTurned ? series.y : series.x;
+  const Numbers& innerPoints = isTurned ? series.x : series.y;
+  series.value.assign(series.x.size() * series.y.size(), 0);
+  design.question.ExpectSharedSizes();
+  const Inputs planned = design.Design();
+  Inputs base = planned;
+  Inputs moved = planned;
+  for (std::size_t i = 0; i < outerPoints.size(); ++i) {
+    outer.vary(base, planned, outerPoints[i]);
+    moved = base;
+    for (std::size_t j = 0; j < innerPoints.size(); ++j) {
+      inner.vary(moved, base, innerPoints[j]);
+      series.value[isTurned ? j * series.y.size() + i : i * series.y.size() + j] = design.ValueOf(moved);
+    }
+  }
+}
+
+Series SeriesOf(const std::vector<Axis>& axes, const std::vector<AxisGrid>& grids, ChartDesign& design,
+                const Inputs& first) {
+  Series series{Points(grids[0], first), {}, {}};
+  if (axes.size() == 1) {
+    series.value = ValuesAlong(axes[0], series.x, design);
+  } else {
+    series.y = Points(grids[1], first);
+    FillSurface(axes, series, design);
+  }
+  return series;
+}
+
+bool HasPoints(const std::vector<AxisGrid>& grids, const Inputs& design) {
+  return std::all_of(grids.begin(), grids.end(), [&](const AxisGrid& grid) { return Points(grid, design).size() > 1; });
+}
+
+/// Tells a step at fault from a range at fault: the usual step would draw something.
+void RejectWithoutPoints(std::vector<AxisGrid> grids, const ChartRequest& request, const Inputs& design) {
+  if (HasPoints(grids, design)) return;
+  for (AxisGrid& grid : grids) grid.step = stepOfSurface;
+  if (request.step && HasPoints(grids, design)) {
+    throw InputError({.code = Code::ChartStepTooLarge, .inputs = {"step"}, .values = {*request.step}});
+  }
+  Problem problem{.code = Code::ChartEmpty, .inputs = {"from", "to"}};
+  for (const AxisGrid& grid : grids) {
+    Limits limits = grid.axis->limits;
+    limits.low = grid.allowed.from;
+    limits.high = grid.allowed.to;
+    problem.words.push_back(grid.axis->title);
+    problem.limits.push_back(limits);
+  }
+  throw InputError(std::move(problem));
+}
+
+void RejectWithoutValues(const std::vector<ChartCurve>& curves) {
+  for (const ChartCurve& curve : curves) {
+    const Numbers& values = curve.series.value;
+    if (std::any_of(values.begin(), values.end(), [](double value) { return !std::isnan(value); })) return;
+  }
+  throw InputError({.code = Code::ChartWithoutPower, .inputs = {"from", "to"}});
 }
 
 bool Within(const Numbers& values, double value) {
   return !values.empty() && values.front() <= value && value <= values.back();
 }
 
-/// The design's place on the chart and its power, as the question about the power answers it.
-std::optional<DesignMark> MarkOf(const Chart& chart, const Series& series, const Inputs& inputs, const Row& power) {
-  DesignMark mark{{}, power.value};
-  for (const Axis& axis : chart.axes) mark.at.push_back(axis.PlaceOf(inputs));
-  if (power.status != RowStatus::Answered) return std::nullopt;
+/// The design's place on the chart and its value, as the question about it answers.
+std::optional<DesignMark> MarkOf(const std::vector<Axis>& axes, const Series& series, const ChartDesign& design) {
+  if (std::isnan(design.value)) return std::nullopt;
+  DesignMark mark{{}, design.value};
+  for (const Axis& axis : axes) mark.at.push_back(axis.design(design.Design()));
   if (!Within(series.x, mark.at[0])) return std::nullopt;
   if (mark.at.size() > 1 && !Within(series.y, mark.at[1])) return std::nullopt;
   return mark;
@@ -223,32 +297,25 @@ std::optional<DesignMark> MarkOf(const Chart& chart, const Series& series, const
 
 }  // namespace
 
-std::vector<std::string> ChartNames(const Test& test) {
-  std::vector<std::string> names;
-  for (const Chart& chart : test.charts) {
-    if (std::find(names.begin(), names.end(), chart.name) == names.end()) names.push_back(chart.name);
-  }
-  return names;
-}
-
 ChartData ComputeChart(const Test& test, const ChartRequest& request, const InputValues& values, StopRequest* stop) {
-  CheckValues(test, values);
-  const Chart& chart = ChooseChart(ChartsNamed(test, request.name), GivenNames(test, values));
-  CheckConditions(test, MakeInputs(test, values, nullptr));
-  PreparedQuestion power(test, values, stop);
-  const Inputs& design = power.Design();
-  CheckRequest(chart, request);
-  const Row designPower = power.Evaluate(design);
-  if (designPower.status == RowStatus::Stopped) throw Stopped();
-  const std::vector<Range> ranges = RangesOf(chart, request, design, designPower.value);
-  const std::vector<AxisGrid> grids = Grids(chart, ranges, request.step.value_or(usualStep));
-  CheckPoints(chart, grids, design);
-  ChartData data{&test, &chart, power.ChosenRoute().ExportFor(design), ComputeSeries(power, grids), std::nullopt};
-  if (!CanBeDrawn(data.series)) {
-    RejectLargeStep(power, grids, request);
-    RejectEmpty(chart, request, data.series);
+  std::vector<ChartDesign> designs = DesignsOf(test, request, values, stop);
+  const std::vector<Axis> axes = ChooseAxes(test, request, designs.front());
+  CheckQuantity(request, axes, designs.front().quantity);
+  CheckRequest(request, axes);
+  std::vector<AxisGrid> grids = GridsOf(axes, request, designs);
+  const Inputs first = designs.front().Design();
+  Thin(test, request, grids, first);
+  CheckPoints(test, grids, first);
+  RejectWithoutPoints(grids, request, first);
+  ChartData data{&test, request.name, axes, designs.front().quantity, std::nullopt, {}};
+  if (request.alternatives) data.varied = request.alternatives->parameter->name;
+  for (ChartDesign& design : designs) {
+    Series series = SeriesOf(axes, grids, design, first);
+    std::optional<DesignMark> mark = MarkOf(axes, series, design);
+    data.curves.push_back(
+        {design.alternative, design.Design(), &design.question.ChosenRoute(), std::move(series), std::move(mark)});
   }
-  data.mark = MarkOf(chart, data.series, design, designPower);
+  RejectWithoutValues(data.curves);
   return data;
 }
 

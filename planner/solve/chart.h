@@ -9,13 +9,11 @@
 
 namespace planner {
 
-/// Computes a chart. Throws an InputError when the inputs or the range are wrong. `stop` may end it between two points,
-/// and then Stopped is thrown; it may be null.
+/// Computes a chart. Sizes that the values ask for are found first, and are the design. Throws an InputError when the
+/// inputs or the range are wrong, and a NoSolution where no sizes are found. `stop` may end it between two points, and
+/// then Stopped is thrown; it may be null.
 ChartData ComputeChart(const Test& test, const ChartRequest& request, const InputValues& values,
                        StopRequest* stop = nullptr);
-
-/// The names of a test's charts, each once.
-std::vector<std::string> ChartNames(const Test& test);
 
 }  // namespace planner
 

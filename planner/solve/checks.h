@@ -2,6 +2,7 @@
 #define KELPOWER_PLANNER_SOLVE_CHECKS_H
 
 #include "model/inputs.h"
+#include "model/problem.h"
 #include "model/test.h"
 
 namespace planner {

@@ -11,7 +11,9 @@ namespace planner {
 namespace {
 
 bool IsCommon(Name name) {
-  if (name == Name("alpha") || name == Name("solve") || name == Name("below")) return true;
+  for (Name common : {Name("alpha"), Name("solve"), Name("below"), Name("confidence")}) {
+    if (name == common) return true;
+  }
   return std::any_of(std::begin(askedQuestions), std::end(askedQuestions),
                      [&](Question question) { return AskedBy(question) == name; });
 }
@@ -45,7 +47,7 @@ void RejectUnused(const Test& test, Question question, const std::vector<const R
   for (Name name : given) {
     if (AnyTakesAll(routes, {name})) continue;
     Names concerned{name};
-    if (question == Question::Power) {
+    if (!AskedBy(question)) {
       const Names askers = AskersOf(test, name);
       concerned.insert(concerned.end(), askers.begin(), askers.end());
       throw InputError({.code = Code::UselessAlone, .inputs = Texts(concerned)});
@@ -72,13 +74,24 @@ Names Missing(const Route& route, const Names& given) {
   return missing;
 }
 
+bool IsAmong(const Names& names, const Names& all) {
+  return std::all_of(names.begin(), names.end(), [&](Name name) { return Contains(all, name); });
+}
+
+/// Whether another way to complete the inputs needs less of the same.
+bool HasShorterWay(const std::vector<Names>& ways, const Names& way) {
+  return std::any_of(ways.begin(), ways.end(),
+                     [&](const Names& other) { return other.size() < way.size() && IsAmong(other, way); });
+}
+
 [[noreturn]] void RejectIncomplete(const Test& test, Question question, const std::vector<Names>& missing) {
   Problem problem{.code = Code::Incomplete, .question = question};
   bool sizesMissing = true;
   for (const Names& names : missing) {
     sizesMissing = sizesMissing && Contains(names, "n");
     const auto& said = problem.missing;
-    if (std::find(said.begin(), said.end(), names) == said.end()) problem.missing.push_back(names);
+    const bool isSaid = std::find(said.begin(), said.end(), names) != said.end();
+    if (!isSaid && !HasShorterWay(missing, names)) problem.missing.push_back(names);
   }
   // Where only the sizes are missing, they may be what is wanted.
   const bool mayAskForSizes = question == Question::Power && sizesMissing && Answers(test, Question::SampleSize);

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_DESIGN_ROW_H
+#define KELPOWER_PLANNER_SOLVE_DESIGN_ROW_H
 
 #include <cstddef>
 #include <span>
@@ -58,3 +59,5 @@ private:
 };
 
 }  // namespace planner
+
+#endif

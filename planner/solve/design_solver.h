@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_DESIGN_SOLVER_H
+#define KELPOWER_PLANNER_SOLVE_DESIGN_SOLVER_H
 
 #include <memory>
 #include <optional>
@@ -67,3 +68,5 @@ private:
 };
 
 }  // namespace planner
+
+#endif

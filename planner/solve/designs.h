@@ -1,18 +1,14 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_DESIGNS_H
+#define KELPOWER_PLANNER_SOLVE_DESIGNS_H
 
 #include <cstddef>
 #include <vector>
 
+#include "model/alternatives.h"
 #include "model/test.h"
 #include "solve/design_row.h"
 
 namespace planner {
-
-/// The values that an input takes in turn; a single one where it is held fixed.
-struct Alternatives {
-  const Parameter* parameter;
-  std::vector<Value> values;
-};
 
 /// All combinations of alternatives, as designs of one test. The last input varies fastest.
 class Designs {
@@ -39,3 +35,5 @@ private:
 };
 
 }  // namespace planner
+
+#endif

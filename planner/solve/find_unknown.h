@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_FIND_UNKNOWN_H
+#define KELPOWER_PLANNER_SOLVE_FIND_UNKNOWN_H
 
 #include <optional>
 
@@ -29,3 +30,5 @@ UnknownSearch FindUnknown(const Unknown& unknown, const Parameter& parameter, co
                           bool isUneven, kelpower::FunctionView<double(double)> valueAt);
 
 }  // namespace planner
+
+#endif

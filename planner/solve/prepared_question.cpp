@@ -38,6 +38,13 @@ bool Reached(Question question, double value, double assurance, const Inputs& in
   return question == Question::SampleSize ? value >= inputs.Number("power") : value <= inputs.Number("half-width");
 }
 
+/// Within what rounding does to sizes that cannot be counted.
+bool NearlyReached(Question question, double value, const Inputs& inputs) {
+  constexpr double rounding = 1e-6;
+  if (question == Question::SampleSize) return value >= inputs.Number("power") - rounding;
+  return value <= inputs.Number("half-width") * (1 + rounding);
+}
+
 /// The route that answers for the sizes found, from the same inputs.
 const Route& RouteAtSizes(const Test& test, Question question, const Names& given) {
   Names names{"n"};
@@ -330,7 +337,8 @@ Row PreparedQuestion::FindSizes(const Inputs& inputs) {
     sizes_ = std::move(found);
     SetSizes(tried, sizes_);
     if (assurance_) assured_ = assurance_(tried);
-    return ValueOf(tried);
+    const Row row = ValueOf(tried);
+    return row.status != RowStatus::Answered || NearlyReached(route_.question, row.value, inputs) ? row : unanswered;
   }
   Row row = unanswered;
   const auto reaches = [&](double number) {

@@ -57,6 +57,11 @@ public:
   /// where no input could, such as to a fraction of an observation.
   Row Evaluate(const Inputs& inputs);
 
+  /// Lets what designs of the same sizes share be kept. The last digits of a value may then depend on it.
+  void ExpectSharedSizes() {
+    if (route_.surfaceValue) value_ = route_.surfaceValue;
+  }
+
   /// The sizes that the last answer found.
   const Numbers& Sizes() const { return sizes_; }
 

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_RESULTS_H
+#define KELPOWER_PLANNER_SOLVE_RESULTS_H
 
 #include <string>
 #include <vector>
@@ -39,3 +40,5 @@ Names OffersOf(const Inputs& design);
 double TotalOf(const Numbers& sizes);
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_SOLVE_WHOLE_SIZES_H
+#define KELPOWER_PLANNER_SOLVE_WHOLE_SIZES_H
 
 #include <optional>
 
@@ -50,3 +51,5 @@ struct UnevenSizes {
 UnevenSizes AroundUneven(double number, double smallest, bool isSlow, Reaches reaches);
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_CSV_H
+#define KELPOWER_PLANNER_WORDS_CSV_H
 
 #include <cstddef>
 #include <string>
@@ -45,3 +46,5 @@ private:
 };
 
 }  // namespace planner
+
+#endif

@@ -182,6 +182,10 @@ std::string RenderText(const Explanation& explanation, const std::string& headin
   for (const auto& figure : explanation.figures) {
     text += fmt::format("  {:<{}}  {}\n", figure.label, width, figure.shown);
   }
+  for (const ExplainedFormula& of : explanation.formulas) {
+    text += fmt::format("  {}: {}\n    Source: {}.\n", of.label, of.formula, of.source);
+  }
+  if (!explanation.formulas.empty()) return text;
   text += fmt::format("\n  {}\n  Source: {}.\n", explanation.formula, explanation.source);
   if (explanation.programs.empty()) return text;
   text += fmt::format("\n{}Asked of other programs{}\n", heading, end);
@@ -193,7 +197,12 @@ std::string RenderText(const Explanation& explanation, const std::string& headin
 }
 
 std::string RenderMarkdown(const Explanation& explanation) {
-  std::string text = fmt::format("\n**{}**\n\n| | |\n|---|---|\n", explanation.heading);
+  std::string text = fmt::format("\n**{}**\n\n", explanation.heading);
+  for (const ExplainedFormula& of : explanation.formulas) {
+    text += fmt::format("- {}: {}. Source: {}.\n", of.label, of.formula, of.source);
+  }
+  if (!explanation.formulas.empty()) return text;
+  text += "| | |\n|---|---|\n";
   for (const auto& figure : explanation.figures) text += fmt::format("| {} | {} |\n", figure.label, figure.shown);
   text += fmt::format("\n{}\n\nSource: {}.\n", explanation.formula, explanation.source);
   if (explanation.programs.empty()) return text;

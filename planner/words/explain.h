@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_EXPLAIN_H
+#define KELPOWER_PLANNER_WORDS_EXPLAIN_H
 
 #include <string>
 #include <vector>
@@ -23,13 +24,22 @@ struct ProgramCall {
   std::string remark;  // why its answer differs, or what to mind; may be empty
 };
 
-/// What is behind an answer, in words.
+/// How one of several results was computed.
+struct ExplainedFormula {
+  std::string name;
+  std::string label;
+  std::string formula;
+  std::string source;
+};
+
+/// What is behind an answer, in words. Where each result has its own formula, these take the place of the one.
 struct Explanation {
   std::string heading;
   std::vector<ExplainedFigure> figures;
   std::string formula;
   std::string source;
   std::vector<ProgramCall> programs;
+  std::vector<ExplainedFormula> formulas = {};
 };
 
 /// The figures as they are, at the sizes given or found.
@@ -42,3 +52,5 @@ std::string RenderText(const Explanation& explanation, const std::string& headin
 std::string RenderMarkdown(const Explanation& explanation);
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_FILE_OF_DESIGNS_H
+#define KELPOWER_PLANNER_WORDS_FILE_OF_DESIGNS_H
 
 #include <cstddef>
 #include <functional>
@@ -69,3 +70,5 @@ std::vector<std::string> FieldsOfLines(std::string_view lines);
 std::vector<std::string> ColumnsOf(std::string_view line);
 
 }  // namespace planner
+
+#endif

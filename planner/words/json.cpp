@@ -4,6 +4,8 @@
 #include <nlohmann/json.hpp>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/effects.h"
+#include "solve/axes.h"
 #include "words/render.h"
 
 namespace planner {
@@ -35,6 +37,10 @@ Json ToJson(const std::vector<Entry>& entries) {
 
 Json ToJson(const Explanation& explanation) {
   Json object;
+  for (const auto& [name, label, formula, source] : explanation.formulas) {
+    object[name] = {{"formula", formula}, {"source", source}};
+  }
+  if (!explanation.formulas.empty()) return object;
   object["figures"] = Json::object();
   for (const auto& figure : explanation.figures) object["figures"][figure.name] = ToJson(figure.value);
   object["formula"] = explanation.formula;
@@ -65,6 +71,7 @@ const char* TextOf(Question question) {
     case Question::SampleSize: return "sample-size";
     case Question::HalfWidth: return "half-width";
     case Question::SampleSizeForHalfWidth: return "sample-size-for-half-width";
+    case Question::EffectSizes: return "effect-sizes";
   }
   return "";
 }
@@ -121,17 +128,7 @@ Json ToJson(const Unknown& unknown) {
 }
 
 Json ToJson(const Axis& axis) {
-  return {{"title", axis.title}, {"symbol", axis.symbol}, {"limits", ToJson(axis.limits)}};
-}
-
-Json ToJson(const Chart& chart) {
-  Json object;
-  object["name"] = chart.name;
-  for (const Axis& axis : chart.axes) object["axes"].push_back(ToJson(axis));
-  object["needs"] = ToJson(chart.needs);
-  object["accepts"] = ToJson(chart.accepts);
-  object["example"] = chart.example;
-  return object;
+  return {{"name", axis.name}, {"title", axis.title}, {"symbol", axis.symbol}, {"limits", ToJson(axis.limits)}};
 }
 
 Json ToJson(const Test& test) {
@@ -146,7 +143,60 @@ Json ToJson(const Test& test) {
   for (const Example& example : test.examples) {
     object["examples"].push_back({{"arguments", example.arguments}, {"sentence", example.sentence}});
   }
-  for (const Chart& chart : test.charts) object["charts"].push_back(ToJson(chart));
+  for (const Axis& axis : AllAxes(test)) object["axes"].push_back(ToJson(axis));
+  return object;
+}
+
+const char* TextOf(Quantity quantity) {
+  switch (quantity) {
+    case Quantity::Power: return "power";
+    case Quantity::HalfWidth: return "half-width";
+    case Quantity::Size: return "sample-size";
+  }
+  return "";
+}
+
+/// The inputs of the design, also those that had to be found or have a default.
+Json InputsOf(const ChartData& chart, const ChartCurve& curve) {
+  Json object = Json::object();
+  for (const Parameter& parameter : chart.test->parameters) {
+    const bool isOfRoute = curve.route->Takes(parameter.name) || parameter.name == AskedBy(curve.route->question);
+    const bool isFlag = parameter.kind == Kind::Flag;
+    if (!isOfRoute && parameter.name != Name("alpha")) continue;
+    if (!curve.design.Has(parameter.name) && !isFlag) continue;
+    const bool isSet = curve.design.Has(parameter.name) && curve.design.Flag(parameter.name);
+    object[parameter.name.Text()] = isFlag ? Json(isSet) : ToJson(curve.design.ValueOf(parameter));
+  }
+  return object;
+}
+
+Json ToJson(const EffectFormula& formula) {
+  Json object;
+  if (!formula.from.empty()) object["from"] = formula.from;
+  object["needs"] = ToJson(formula.needs);
+  object["formula"] = formula.formula;
+  object["source"] = formula.source;
+  if (!formula.note.empty()) object["note"] = formula.note;
+  return object;
+}
+
+Json ToJson(const EffectSize& size, const std::vector<EffectFormula>& formulas) {
+  Json object{{"name", size.name}, {"label", size.label}, {"formulas", Json::array()}};
+  for (const EffectFormula& formula : formulas) {
+    if (formula.effect == size.name) object["formulas"].push_back(ToJson(formula));
+  }
+  return object;
+}
+
+Json ToJson(const EffectConversion& conversion) {
+  Json object{{"title", conversion.title},
+              {"needs", ToJson(conversion.needs)},
+              {"accepts", ToJson(conversion.accepts)},
+              {"gives", conversion.gives},
+              {"uses", Json::array()}};
+  for (const auto& [test, input, effects] : conversion.uses) {
+    object["uses"].push_back({{"test", test}, {"input", input.Text()}, {"effects", effects}});
+  }
   return object;
 }
 
@@ -156,6 +206,24 @@ Json PowersOf(const Numbers& powers, std::size_t first, std::size_t count) {
     list.push_back(std::isnan(powers[i]) ? Json() : Json(powers[i]));
   }
   return list;
+}
+
+Json CurveOf(const ChartData& chart, const ChartCurve& curve) {
+  const Series& series = curve.series;
+  Json object;
+  if (curve.alternative) object[chart.varied->Text()] = ToJson(*curve.alternative);
+  object["inputs"] = InputsOf(chart, curve);
+  const char* quantity = TextOf(chart.quantity);
+  if (curve.mark) object["design"] = {{"at", curve.mark->at}, {quantity, curve.mark->value}};
+  if (!chart.IsSurface()) {
+    object[quantity] = PowersOf(series.value, 0, series.value.size());
+  } else {
+    object[quantity] = Json::array();
+    const std::size_t row = series.y.size();
+    for (std::size_t i = 0; i < series.x.size(); ++i) object[quantity].push_back(PowersOf(series.value, i * row, row));
+  }
+  object["export"] = curve.route->ExportFor(curve.design);
+  return object;
 }
 
 std::string Text(const Json& json) { return json.dump(2, ' ', false, Json::error_handler_t::replace) + '\n'; }
@@ -173,28 +241,21 @@ std::string RenderJson(const Report& report) {
   object["results"] = ToJson(report.results);
   object["sentence"] = report.sentence;
   if (!report.note.empty()) object["note"] = report.note;
-  object["export"] = report.exportName;
+  if (!report.exportName.empty()) object["export"] = report.exportName;
   if (report.explanation) object["details"] = ToJson(*report.explanation);
   return Text(object);
 }
 
 std::string RenderJson(const ChartData& chart) {
-  const Series& series = chart.series;
   Json object;
   object["test"] = chart.test->name;
-  object["chart"] = chart.chart->name;
-  for (const Axis& axis : chart.chart->axes) object["axes"].push_back(axis.title);
-  if (chart.mark) object["design"] = {{"at", chart.mark->at}, {"power", chart.mark->power}};
-  object["x"] = series.x;
-  if (series.y.empty()) {
-    object["power"] = PowersOf(series.power, 0, series.power.size());
-  } else {
-    object["y"] = series.y;
-    object["power"] = Json::array();
-    const std::size_t row = series.y.size();
-    for (std::size_t i = 0; i < series.x.size(); ++i) object["power"].push_back(PowersOf(series.power, i * row, row));
-  }
-  object["export"] = chart.exportName;
+  object["chart"] = chart.name;
+  for (const Axis& axis : chart.axes) object["axes"].push_back({{"name", axis.name}, {"title", axis.title}});
+  object["quantity"] = TextOf(chart.quantity);
+  object["x"] = chart.First().x;
+  if (chart.IsSurface()) object["y"] = chart.First().y;
+  if (chart.varied) object["varied"] = chart.varied->Text();
+  for (const ChartCurve& curve : chart.curves) object["curves"].push_back(CurveOf(chart, curve));
   return object.dump() + '\n';
 }
 
@@ -202,6 +263,18 @@ std::string RenderListJson() {
   Json tests = Json::array();
   for (const Test& test : Tests()) tests.push_back(ToJson(test));
   return Text(tests);
+}
+
+std::string RenderEffectsJson() {
+  const Effects& effects = EffectSizes();
+  Json object{{"name", effects.inputs.name}, {"title", effects.inputs.title}, {"about", effects.inputs.about}};
+  for (const Parameter& parameter : effects.inputs.parameters) object["parameters"].push_back(ToJson(parameter));
+  for (const EffectConversion& conversion : effects.conversions) object["conversions"].push_back(ToJson(conversion));
+  for (const EffectSize& size : effects.sizes) object["effect-sizes"].push_back(ToJson(size, effects.formulas));
+  for (const Example& example : effects.inputs.examples) {
+    object["examples"].push_back({{"arguments", example.arguments}, {"sentence", example.sentence}});
+  }
+  return Text(object);
 }
 
 }  // namespace planner

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_JSON_VALUES_H
+#define KELPOWER_PLANNER_WORDS_JSON_VALUES_H
 
 #include <string>
 #include <string_view>
@@ -54,3 +55,5 @@ inline void AddResults(OpenObject& object, const DesignAnswer& answer) {
 void AppendCsvResult(const DesignAnswer& answer, std::size_t column, std::string& out);
 
 }  // namespace planner
+
+#endif

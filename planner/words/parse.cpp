@@ -85,6 +85,7 @@ std::string Allowed(const Parameter& parameter) {
     case Kind::List:
       if (parameter.length == 2) return "two numbers like 52,47" + (each == "a number" ? "" : ", each " + each);
       if (parameter.length != 0) return fmt::format("{} numbers, each {}", parameter.length, each);
+      if (parameter.spreads) return fmt::format("{}, or a list of such", each);
       break;
     case Kind::PerGroup:
       if (parameter.spreads) return fmt::format("{}, or a list of such, one for each group", each);

@@ -43,8 +43,13 @@ private:
 
   /// "--sd and --n, or --effect-f and --n"
   std::string Ways(const std::string& last, const std::string& other) const {
+    constexpr std::size_t mostNamed = 8;
     std::vector<std::string> ways;
     for (const Names& names : problem_.missing) {
+      if (ways.size() == mostNamed) {
+        ways.emplace_back("others");
+        break;
+      }
       std::vector<std::string> way;
       for (Name name : names) way.push_back(name_(name.Text()));
       ways.push_back(Joined(way, " and "));
@@ -148,15 +153,19 @@ std::string Words::OfCondition() const {
 
 std::string Words::ChartSentence() const {
   switch (problem_.code) {
-    case Code::NoCharts: return problem_.words[0] + " has no charts.";
-    case Code::ChartOfDesign:
-      return fmt::format("{} draws the power of a design, so {} cannot be given as well.", Input(1), Input(0));
-    case Code::ChartWithoutUse: return fmt::format("{} has no use with {} {}.", Input(0), Input(1), problem_.words[0]);
-    case Code::ChartNeedsSizes:
-      return fmt::format("{} draws the power of a design: give its sizes with {} in place of {}.", Input(0), Input(1),
-                         Input(2));
-    case Code::ChartIncomplete:
-      return fmt::format("Also give {} for {} {}.", Ways(", or ", ", "), Input(0), problem_.words[0]);
+    case Code::ChartUnknown:
+      return fmt::format("{} is {}, but must be {}, or two of them joined by a hyphen.", Input(0),
+                         Given(problem_.values[0]), Joined(problem_.words, " or "));
+    case Code::ChartSizesNeedTarget:
+      return fmt::format("{} n draws the sizes that reach a target: give {} in place of the sizes.", Input(0),
+                         Input(1));
+    case Code::ChartOneAxis:
+      return fmt::format("{} {} has two axes, over which only a power is drawn: name one.", Input(0),
+                         problem_.words[0]);
+    case Code::ChartOneDesign:
+      return fmt::format("{} has several values, but {} over two axes draws one design.", Input(0), Input(1));
+    case Code::ChartVariesAlternatives:
+      return fmt::format("{} has several values, but {} varies it along an axis: give one.", Input(0), Input(1));
     case Code::ChartEndNotAllowed:
       return fmt::format("{} is {}, but of {} must be {}.", Input(0), Figure(0), problem_.words[0],
                          Text(problem_.limits[0]));
@@ -167,11 +176,8 @@ std::string Words::ChartSentence() const {
     case Code::ChartRangeUnknown:
       return fmt::format("{} {} has no usual range for these inputs: also give {}.", Input(0), problem_.words[0],
                          Joined(Inputs(1), " and "));
-    case Code::ChartSizesUnknown:
-      return fmt::format("A design of more than {} observations has no usual range: also give {}.", Figure(0),
-                         Joined(Inputs(), " and "));
     case Code::ChartStepUseless:
-      return fmt::format("{} has no use with {} {}: sizes go by ones.", Input(0), Input(1), problem_.words[0]);
+      return fmt::format("{} has no use with {} {}: whole numbers go by ones.", Input(0), Input(1), problem_.words[0]);
     case Code::ChartStepNotAllowed:
       return fmt::format("{} is {}, but must be {}: a share of the range.", Input(0), Figure(0),
                          Text(problem_.limits[0]));
@@ -182,7 +188,7 @@ std::string Words::ChartSentence() const {
     case Code::ChartTooSlow: return TooSlow();
     case Code::ChartEmpty: return EmptyChart();
     case Code::ChartWithoutPower:
-      return fmt::format("The test has no power anywhere between {}.", Joined(Inputs(), " and "));
+      return fmt::format("The test has no answer anywhere between {}.", Joined(Inputs(), " and "));
     default: return OfCondition();
   }
 }
@@ -277,6 +283,7 @@ std::string Wording(Question question) {
     case Question::SampleSize: return "the sample size";
     case Question::HalfWidth: return "the half-width";
     case Question::SampleSizeForHalfWidth: return "the sample size for a half-width";
+    case Question::EffectSizes: return "the effect sizes";
   }
   return "";
 }

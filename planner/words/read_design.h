@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_READ_DESIGN_H
+#define KELPOWER_PLANNER_WORDS_READ_DESIGN_H
 
 #include <nlohmann/json_fwd.hpp>
 #include <optional>
@@ -25,3 +26,5 @@ std::optional<Problem> ReadObject(std::string_view line, nlohmann::ordered_json&
 std::string TestOfLine(std::string_view line);
 
 }  // namespace planner
+
+#endif

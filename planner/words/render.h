@@ -37,6 +37,9 @@ std::string RenderJson(const ChartData& chart);
 /// The descriptions of all tests, for other front ends.
 std::string RenderListJson();
 
+/// The description of all conversions of effect sizes, which `ConvertEffect` in words/effect_report.h makes.
+std::string RenderEffectsJson();
+
 }  // namespace planner
 
 #endif

@@ -17,8 +17,9 @@ struct Entry {
   std::string name;
   std::string label;
   Value value;
-  std::string shown;     // the value for reading
-  bool isUnset = false;  // a flag that is not set, which tables for reading leave out
+  std::string shown;           // the value for reading
+  bool isUnset = false;        // a flag that is not set, which tables for reading leave out
+  bool isForPrograms = false;  // a result that stands in what is shown of another one
 };
 
 /// An answer in words.

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_ROW_ANSWERS_H
+#define KELPOWER_PLANNER_WORDS_ROW_ANSWERS_H
 
 #include <memory>
 #include <string>
@@ -25,3 +26,5 @@ private:
 };
 
 }  // namespace planner
+
+#endif

@@ -17,10 +17,17 @@ std::vector<Entry> InputsForReading(const Report& report) {
   return entries;
 }
 
+std::vector<Entry> ResultsForReading(const Report& report) {
+  std::vector<Entry> entries;
+  std::copy_if(report.results.begin(), report.results.end(), std::back_inserter(entries),
+               [](const Entry& entry) { return !entry.isForPrograms; });
+  return entries;
+}
+
 std::size_t WidestLabel(const Report& report) {
   std::size_t widest = 0;
   for (const Entry& entry : InputsForReading(report)) widest = std::max(widest, entry.label.size());
-  for (const Entry& entry : report.results) widest = std::max(widest, entry.label.size());
+  for (const Entry& entry : ResultsForReading(report)) widest = std::max(widest, entry.label.size());
   return widest;
 }
 
@@ -36,7 +43,7 @@ std::string RenderText(const Report& report, const Highlights& highlights) {
   for (const Entry& entry : InputsForReading(report))
     text += fmt::format("  {:<{}}  {}\n", entry.label, width, entry.shown);
   text += '\n';
-  for (const Entry& entry : report.results) {
+  for (const Entry& entry : ResultsForReading(report)) {
     text += fmt::format("  {}{:<{}}  {}{}\n", highlights.answer, entry.label, width, entry.shown, highlights.end);
   }
   text += fmt::format("\n{}\n", report.sentence);
@@ -48,7 +55,7 @@ std::string RenderText(const Report& report, const Highlights& highlights) {
 std::string RenderMarkdown(const Report& report) {
   std::string text = fmt::format("**{}**\n\n| | |\n|---|---|\n", report.test->title);
   for (const Entry& entry : InputsForReading(report)) text += MarkdownRow(entry, "");
-  for (const Entry& entry : report.results) text += MarkdownRow(entry, "**");
+  for (const Entry& entry : ResultsForReading(report)) text += MarkdownRow(entry, "**");
   text += fmt::format("\n{}\n", report.sentence);
   if (!report.note.empty()) text += fmt::format("\n{}\n", report.note);
   if (report.explanation) text += RenderMarkdown(*report.explanation);

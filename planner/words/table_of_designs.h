@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_TABLE_OF_DESIGNS_H
+#define KELPOWER_PLANNER_WORDS_TABLE_OF_DESIGNS_H
 
 #include <cstddef>
 #include <memory>
@@ -74,3 +75,5 @@ private:
 std::string RenderDesigns(const Designs& designs);
 
 }  // namespace planner
+
+#endif

@@ -1,4 +1,5 @@
-#pragma once
+#ifndef KELPOWER_PLANNER_WORDS_TEXT_TABLE_H
+#define KELPOWER_PLANNER_WORDS_TEXT_TABLE_H
 
 #include <cstddef>
 #include <string>
@@ -23,3 +24,5 @@ std::string RenderText(const TextTable& table, const Highlights& highlights);
 std::string RenderMarkdown(const TextTable& table);
 
 }  // namespace planner
+
+#endif

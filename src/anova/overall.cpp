@@ -98,6 +98,12 @@ Answer OverallTest::Power(double noncentrality) const {
   return test_ ? Answer(test_->Power(noncentrality)) : NoValue::Refused;
 }
 
+Answer OverallTest::PowerOfMany(double noncentrality) {
+  if (!test_) return NoValue::Refused;
+  if (!many_) many_.emplace(*test_);
+  return many_->Power(noncentrality);
+}
+
 Answer PowerOfMeans(const GroupSpread& spread, double sd, int numGroups, double totalSize, double alpha) {
   if (RejectsStandardDeviation(sd)) return NoValue::Refused;
   return OverallTest(numGroups, totalSize, alpha).Power(spread.Noncentrality(sd, totalSize));

@@ -5,6 +5,7 @@
 
 #include "anova/groups.h"
 #include "frame/answer.h"
+#include "frame/powers_over_effects.h"
 #include "frame/rejection.h"
 
 // The overall F test of one-way analysis of variance. Cohen, J. (1988), Statistical Power Analysis for the Behavioral
@@ -55,11 +56,14 @@ public:
   /// Refused for fewer than two groups, fewer subjects than groups, or no such level.
   Answer Power(double noncentrality) const;
 
+  /// The same to 1e-12, faster where many effects are asked about.
+  Answer PowerOfMany(double noncentrality);
   /// None where the power is refused.
   const std::optional<FTest>& AtCriticalValue() const { return test_; }
 
 private:
   std::optional<FTest> test_;
+  std::optional<PowersOverEffects> many_;
 };
 
 /// The power for given means; also refused for a standard deviation that is not above 0.

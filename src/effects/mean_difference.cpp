@@ -16,6 +16,7 @@ namespace {
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double rootOfTwo = 1.4142135623730950488;
+constexpr double logisticSd = 1.8137993642342178506;  // pi / sqrt(3)
 
 /// d and its interval, where t is `perD` times d.
 std::optional<Estimate> StandardisedBy(double perD, double t, double df, double alpha) {
@@ -70,5 +71,11 @@ double CohensDOfSuperiority(double probability) {
   if (!(probability >= 0 && probability <= 1)) return nan;
   return rootOfTwo * KelDistFun::IdfStdNorm(probability);
 }
+
+double CohensU3(double d) { return KelDistFun::CdfStdNorm(d); }
+
+double OddsRatioOfCohensD(double d) { return std::exp(d * logisticSd); }
+
+double CohensDOfOddsRatio(double oddsRatio) { return std::log(oddsRatio) / logisticSd; }
 
 }  // namespace kelpower::effects

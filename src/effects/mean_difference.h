@@ -44,6 +44,18 @@ double ProbabilityOfSuperiority(double d);
 /// The d with that probability of superiority in (0, 1). Infinite at 0 and 1, NaN outside.
 double CohensDOfSuperiority(double probability);
 
+/// The share, 0 to 1, of the second group that lies below the mean of the first, Phi(d), for normal groups with one
+/// standard deviation (Cohen 1988, section 2.2).
+double CohensU3(double d);
+
+// A measurement cut in two, as d and as odds ratio: exp(d pi / sqrt(3)) for logistic distributions, wherever the cut is
+// (Chinn 2000, Statistics in Medicine 19, 3127-3131). For others it is an approximation.
+
+double OddsRatioOfCohensD(double d);
+
+/// Infinite at 0, NaN below.
+double CohensDOfOddsRatio(double oddsRatio);
+
 }  // namespace kelpower::effects
 
 #endif

@@ -42,6 +42,13 @@ private:
 
 }  // namespace
 
+std::optional<Estimate> Proportion(const EventCount& group, double alpha) {
+  if (Rejects(group, group, alpha)) return std::nullopt;
+  const ScoreInterval around(group, NormalQuantile(alpha));
+  const double p = group.Proportion();
+  return Estimate{p, {p - around.below, p + around.above}};
+}
+
 std::optional<Estimate> OddsRatio(const EventCount& first, const EventCount& second, double alpha) {
   if (Rejects(first, second, alpha)) return std::nullopt;
   const double a = first.events;
@@ -72,6 +79,14 @@ std::optional<Estimate> RiskDifference(const EventCount& first, const EventCount
 
 double CohensH(double proportion1, double proportion2) {
   return 2 * std::asin(std::sqrt(proportion1)) - 2 * std::asin(std::sqrt(proportion2));
+}
+
+std::optional<Estimate> CohensH(const EventCount& first, const EventCount& second, double alpha) {
+  if (Rejects(first, second, alpha)) return std::nullopt;
+  constexpr double pi = 3.14159265358979323846;
+  const double h = CohensH(first.Proportion(), second.Proportion());
+  const double reach = NormalQuantile(alpha) * std::sqrt(1 / first.size + 1 / second.size);
+  return Estimate{h, {std::max(h - reach, -pi), std::min(h + reach, pi)}};
 }
 
 double ProportionOfOddsRatio(double oddsRatio, double proportion2) {

@@ -15,6 +15,10 @@ struct EventCount {
   double Proportion() const { return events / size; }
 };
 
+/// The proportion of a group with its score interval (Wilson 1927, Journal of the American Statistical Association 22,
+/// 209-212).
+std::optional<Estimate> Proportion(const EventCount& group, double alpha);
+
 /// The odds ratio of group 1 over group 2, a d / (b c), with its interval: that of the logarithm, whose variance is
 /// 1 / a + 1 / b + 1 / c + 1 / d (Woolf 1955, Annals of Human Genetics 19, 251-253). None where one of the four counts is 0.
 std::optional<Estimate> OddsRatio(const EventCount& first, const EventCount& second, double alpha);
@@ -29,6 +33,10 @@ std::optional<Estimate> RiskDifference(const EventCount& first, const EventCount
 
 /// Cohen's h = 2 asin(sqrt(p1)) - 2 asin(sqrt(p2)) (Cohen 1988, chapter 6). NaN for what is no proportion.
 double CohensH(double proportion1, double proportion2);
+
+/// The same of data, with its interval h -+ z sqrt(1 / n1 + 1 / n2), -pi to pi: an arcsine has the variance 1 / (4 n) in
+/// large samples (Cohen 1988, section 6.2). None for other arguments.
+std::optional<Estimate> CohensH(const EventCount& first, const EventCount& second, double alpha);
 
 // The same effects of two proportions without data. Infinite or NaN where they divide by 0.
 

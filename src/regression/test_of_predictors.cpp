@@ -40,6 +40,12 @@ double RegressionTest::Power(const Effect& effect) const {
   return test_.Power(Noncentrality(effect));
 }
 
+double RegressionTest::PowerOfMany(const Effect& effect) {
+  if (isRandom_) return Power(effect);
+  if (!many_) many_.emplace(test_);
+  return many_->Power(size_ * effect.fSquared);
+}
+
 std::optional<RegressionTest> RegressionTest::Checked(const Model& model, double size) {
   if (RejectsSize(model, size)) return std::nullopt;
   if (RejectsPredictors(model)) return std::nullopt;

@@ -68,7 +68,7 @@ TEST_F(Designs, AreAnsweredAsSingleQuestionsAre) {
   const auto single =
       nlohmann::json::parse(RunProgram(Words("two-means --effect-d 0.5 --power 0.8 --format json")).out);
   ASSERT_EQ(rows.size(), 1U);
-  EXPECT_EQ(rows[0]["sizes"], single["results"]["sizes"]);
+  EXPECT_EQ(rows[0]["n"], single["results"]["n"]);
   EXPECT_EQ(rows[0]["total"], single["results"]["total"]);
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/effects.h"
 #include "run.h"
 
 // Every example that the help and the documents show is run, and must give what they say.
@@ -72,15 +73,36 @@ std::string WithTwelveDigits(const std::string& text) {
   return cut.append(done, text.end());
 }
 
-TEST(Examples, OfTheHelpGiveTheirSentence) {
-  for (const planner::Test& test : planner::Tests()) {
-    for (const planner::Example& example : test.examples) {
-      const Outcome run = RunProgram(Words(example.arguments));
-      EXPECT_EQ(run.status, 0) << example.arguments << '\n' << run.err;
-      EXPECT_NE(run.out.find("\n\n" + example.sentence + '\n'), std::string::npos) << example.arguments << '\n'
-                                                                                   << run.out;
-    }
+void ExpectSentences(const planner::Test& test) {
+  for (const planner::Example& example : test.examples) {
+    const Outcome run = RunProgram(Words(example.arguments));
+    EXPECT_EQ(run.status, 0) << example.arguments << '\n' << run.err;
+    EXPECT_NE(run.out.find("\n\n" + example.sentence + '\n'), std::string::npos) << example.arguments << '\n'
+                                                                                 << run.out;
   }
+}
+
+TEST(Examples, OfTheHelpGiveTheirSentence) {
+  for (const planner::Test& test : planner::Tests()) ExpectSentences(test);
+  ExpectSentences(planner::EffectSizes().inputs);
+}
+
+// What a conversion says that a test takes, the test takes.
+TEST(Examples, OfEffectSizesLeadToATest) {
+  int count = 0;
+  for (const planner::Example& example : planner::EffectSizes().inputs.examples) {
+    const std::string text = RunProgram(Words(example.arguments)).out;
+    const std::size_t use = text.find("  use it as");
+    if (use == std::string::npos) continue;
+    const std::size_t begin = text.find_first_not_of(' ', use + 11);
+    const std::string told = text.substr(begin, std::min(text.find('\n', begin), text.find(" or ", begin)) - begin);
+    const Outcome run = RunProgram(Words(told + " --n 20"));
+    const bool lacksMore = run.err.find("Also give --") != std::string::npos || run.err.ends_with("give --groups.\n");
+    const bool isTaken = run.status == 0 || lacksMore;
+    EXPECT_TRUE(isTaken) << told << '\n' << run.err;
+    ++count;
+  }
+  EXPECT_GE(count, 8);
 }
 
 TEST(Examples, OfTheDocumentsGiveTheirOutput) {

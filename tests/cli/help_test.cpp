@@ -6,6 +6,8 @@
 #include <sstream>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/effects.h"
+#include "solve/axes.h"
 
 namespace {
 
@@ -18,6 +20,19 @@ TEST(Help, NamesEveryOptionAndShowsTheExamples) {
     for (const auto& example : test.examples) EXPECT_NE(help.find(example.arguments), std::string::npos);
     EXPECT_EQ(help.find('{'), std::string::npos) << "inputs are named as options: " << help;
   }
+}
+
+TEST(Help, OfEffectSizesBeginsWithAnExampleAndNamesEveryInput) {
+  const std::string help = HelpOfEffects();
+  const planner::Test& inputs = planner::EffectSizes().inputs;
+  for (const planner::Parameter& parameter : inputs.parameters) {
+    EXPECT_NE(help.find("\n  " + OptionOf(parameter.name.Text())), std::string::npos) << parameter.name.Text();
+  }
+  for (const auto& example : inputs.examples) EXPECT_NE(help.find(example.arguments), std::string::npos);
+  EXPECT_LT(help.find("For example\n  kelpower effect --means"), help.find("\nMeans and standard deviations"));
+  EXPECT_EQ(help.find('{'), std::string::npos);
+  EXPECT_EQ(help.find(" X"), std::string::npos) << "a value without a name";
+  EXPECT_EQ(help.find("--jobs"), std::string::npos);
 }
 
 TEST(Help, BeginsWithTheCommonestCall) {
@@ -70,13 +85,27 @@ TEST(Help, SaysThatAListOfTwoIsTwoNumbers) {
   EXPECT_NE(HelpOf(*planner::FindTest("anova")).find("(a list like 1,2,3, each entry a number)"), std::string::npos);
 }
 
-TEST(Help, ShowsEveryChartOnce) {
+TEST(Help, ShowsEveryAxisOfChartsOnce) {
+  constexpr std::size_t widest = 110;
   for (const planner::Test& test : planner::Tests()) {
-    const std::string help = HelpOf(test);
-    for (const planner::Chart& chart : test.charts) {
-      EXPECT_NE(help.find("--chart " + chart.name + "  power over"), std::string::npos) << chart.name;
-      EXPECT_EQ(help.find(chart.example + '\n') == std::string::npos, chart.isAnotherWay) << chart.example;
+    std::istringstream help(HelpOf(test));
+    std::set<std::string> shown;
+    bool isInCharts = false;
+    for (std::string line; std::getline(help, line);) {
+      if (line == "Charts") isInCharts = true;
+      if (isInCharts && line.empty()) break;
+      if (!isInCharts) continue;
+      EXPECT_LE(line.size(), widest) << line;
+      std::istringstream words(line);
+      std::string name;
+      words >> name;
+      for (const planner::Axis& axis : planner::AllAxes(test)) {
+        if (axis.name == name && line.find(axis.title) != std::string::npos) {
+          EXPECT_TRUE(shown.insert(name).second) << line;
+        }
+      }
     }
+    EXPECT_EQ(shown.size(), planner::AllAxes(test).size()) << test.name;
   }
 }
 

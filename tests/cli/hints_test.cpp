@@ -5,6 +5,7 @@
 #include <regex>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/effects.h"
 #include "run.h"
 
 namespace {
@@ -71,14 +72,28 @@ TEST(Hints, WriteANumberAsItWasMeant) {
   EXPECT_FALSE(Holds(Said("anova --sd -3"), "write"));
 }
 
+TEST(Hints, OfEffectSizesTellWhichOptionIsMeant) {
+  EXPECT_TRUE(Holds(Said("effect --f 5 --df 2,57"), "the F statistic is --f-statistic, Cohen's f is --effect-f"));
+  EXPECT_TRUE(Holds(Said("effect --d 0.5 --n1 20"), "--n N1,N2"));
+  EXPECT_TRUE(Holds(Said("effect --d 0.5 --alpha 0.1"), "--confidence 0.95"));
+  EXPECT_TRUE(Holds(Said("effect --p 0.03"), "a p-value is no effect size"));
+  EXPECT_TRUE(Holds(Said("effect --hedge-g 0.5 --n 20"), "did you mean --hedges-g?"));
+  EXPECT_TRUE(Holds(Said("effects --d 0.5"), "did you mean effect?"));
+  EXPECT_TRUE(Holds(Said("effect-size --d 0.5"), "effect sizes are converted by effect"));
+  EXPECT_EQ(RunProgram(Words("effect --F 5 --df 2,57")).out, RunProgram(Words("effect --f-statistic 5 --df 2,57")).out);
+}
+
 // An option that a hint names must be one of the test's.
 TEST(Hints, NameOnlyOptionsThatThereAre) {
   const std::regex option("--[a-z0-9-]+");
-  const char* const typed[] = {"--total", "--n1",  "--delta", "--difference", "--effect", "--d",    "--f",
-                               "--p",     "--p0",  "--mu",    "--k",          "--rr",     "--or",   "--sigma",
-                               "--beta",  "--std", "--h",     "--yates",      "--level",  "--width"};
+  const char* const typed[] = {
+      "--total", "--n1",  "--delta", "--difference", "--effect", "--d",   "--f",    "--p",     "--p0",        "--mu",
+      "--k",     "--rr",  "--or",    "--sigma",      "--beta",   "--std", "--h",    "--yates", "--level",     "--width",
+      "--alpha", "--df1", "--mean1", "--sd2",        "--r1",     "--r2",  "--eta2", "--rd",    "--conf-level"};
   int hints = 0;
-  for (const planner::Test& test : planner::Tests()) {
+  std::vector<planner::Test> all = planner::Tests();
+  all.push_back(planner::EffectSizes().inputs);
+  for (const planner::Test& test : all) {
     for (const char* word : typed) {
       const std::string hint = HintForOption(test, word);
       for (std::sregex_iterator match(hint.begin(), hint.end(), option), end; match != end; ++match) {

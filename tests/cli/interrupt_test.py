@@ -19,7 +19,9 @@ PATIENCE = 240  # seconds until a step is given up
 LONG_SEARCH = "two-proportions --proportions 0.5,0.528 --power 0.8 --test conditional".split()
 SHORT_SEARCH = "two-proportions --proportions 0.5,0.75 --power 0.8 --test conditional".split()
 LONG_WITHOUT_QUESTIONS = "paired-proportions --p12 0.4501 --p21 0.45 --power 0.9 --alpha 0.01 --exact".split()
-LONG_CHART = "two-proportions --proportions 0.5,0.75 --n 5000 --test conditional --chart sizes".split()
+LONG_CHART = (
+    "two-proportions --proportions 0.5,0.75 --n 850 --test conditional --chart sizes --from 800,800 --to 860,860"
+).split()
 
 STOPPED_ROWS = b"kelpower: The computation was stopped; the rows up to there are whole."
 STOPPED = b"kelpower: The computation was stopped; there is no answer."

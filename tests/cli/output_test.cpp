@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "catalogue/catalogue.h"
+#include "catalogue/effects.h"
 #include "run.h"
 
 namespace {
@@ -29,6 +30,26 @@ TEST(Output, EveryTestHasHelpAndIsListed) {
     EXPECT_EQ(help.status, 0) << test.name;
     EXPECT_EQ(help.out.rfind(test.title, 0), 0u) << test.name;
     EXPECT_NE(list.out.find(test.title), std::string::npos) << test.name;
+  }
+}
+
+TEST(Output, EffectSizesHaveHelpAndAreListed) {
+  EXPECT_NE(RunProgram({"list"}).out.find("\neffect  "), std::string::npos);
+  EXPECT_NE(RunProgram({"--help"}).out.find("kelpower effect --help"), std::string::npos);
+  const Outcome help = RunProgram({"effect", "--help"});
+  EXPECT_EQ(help.status, 0);
+  EXPECT_EQ(help.out.rfind("Effect sizes\n", 0), 0u);
+}
+
+TEST(Output, EveryFormatOfEffectSizes) {
+  for (const planner::Example& example : planner::EffectSizes().inputs.examples) {
+    for (const char* format : {"text", "json", "csv", "markdown"}) {
+      std::vector<std::string> arguments = Words(example.arguments);
+      arguments.insert(arguments.end(), {"--format", format});
+      const Outcome run = RunProgram(arguments);
+      EXPECT_EQ(run.status, 0) << example.arguments << ' ' << format << run.err;
+      EXPECT_EQ(nlohmann::json::accept(run.out), std::string(format) == "json") << run.out;
+    }
   }
 }
 

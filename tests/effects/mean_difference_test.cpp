@@ -102,5 +102,22 @@ TEST(Superiority, IsTheShareOfPairs) {
   EXPECT_LT(share.StandardErrorsFrom(ProbabilityOfSuperiority(0.5)), kMostStandardErrors);
 }
 
+// Cohen (1988), table 2.2.1.
+TEST(CohensU3, IsThatOfCohen) {
+  EXPECT_NEAR(CohensU3(0.2), 0.579, 5e-4);
+  EXPECT_NEAR(CohensU3(0.8), 0.788, 5e-4);
+  EXPECT_EQ(CohensU3(0), 0.5);
+  EXPECT_EQ(CohensU3(HUGE_VAL), 1);
+}
+
+// Borenstein et al. (2009), chapter 7: an odds ratio with the logarithm 0.9069 is a d of 0.5.
+TEST(OddsRatioOfCohensD, IsThatOfBorenstein) {
+  EXPECT_NEAR(CohensDOfOddsRatio(std::exp(0.9069)), 0.5, 5e-5);
+  EXPECT_NEAR(OddsRatioOfCohensD(0.5), std::exp(0.9069), 5e-4);
+  for (double d : {-8.0, -0.5, 0.0, 0.2, 3.0}) EXPECT_NEAR(CohensDOfOddsRatio(OddsRatioOfCohensD(d)), d, 1e-14);
+  EXPECT_EQ(CohensDOfOddsRatio(0), -HUGE_VAL);
+  EXPECT_TRUE(std::isnan(CohensDOfOddsRatio(-1)));
+}
+
 }  // namespace
 }  // namespace kelpower::effects

@@ -77,6 +77,22 @@ TEST(CohensH, IsThatOfCohen) {
   EXPECT_TRUE(std::isnan(CohensH(1.1, 0.5)));
 }
 
+TEST(CohensH, HasAnIntervalWithinItsRange) {
+  const double reach = 1.959963984540054 * std::sqrt(1 / 50.0 + 1 / 40.0);
+  ExpectInterval(CohensH({35, 50}, {20, 40}, 0.05), CohensH(0.7, 0.5) - reach, CohensH(0.7, 0.5) + reach, 1e-14);
+  EXPECT_EQ(CohensH({10, 10}, {0, 10}, 0.05)->interval.upper, std::acos(-1.0));
+  EXPECT_EQ(CohensH({0, 10}, {10, 10}, 0.05)->interval.lower, -std::acos(-1.0));
+}
+
+// Newcombe (1998), Statistics in Medicine 17, 857-872, table I, method 3.
+TEST(Proportion, HasTheScoreIntervalOfNewcombesTable) {
+  ExpectInterval(Proportion({81, 263}, 0.05), 0.2553, 0.3662, 5e-5);
+  ExpectInterval(Proportion({15, 148}, 0.05), 0.0624, 0.1605, 5e-5);
+  ExpectInterval(Proportion({0, 20}, 0.05), 0, 0.1611, 5e-5);
+  ExpectInterval(Proportion({1, 29}, 0.05), 0.0061, 0.1718, 5e-5);
+  EXPECT_EQ(Proportion({20, 20}, 0.05)->value, 1);
+}
+
 TEST(OddsRatio, ConvertsBothWays) {
   EXPECT_DOUBLE_EQ(OddsRatio(0.4, 0.25), 2);
   EXPECT_DOUBLE_EQ(ProportionOfOddsRatio(2, 0.25), 0.4);
@@ -93,6 +109,10 @@ TEST(TwoProportions, AreNoneForOtherArguments) {
   EXPECT_FALSE(RiskDifference({0, 0}, {6, 50}, 0.05));
   EXPECT_FALSE(RiskDifference({12, 40}, {6, 50}, 1));
   EXPECT_FALSE(RiskDifference({12, HUGE_VAL}, {6, 50}, 0.05));
+  EXPECT_FALSE(CohensH({41, 40}, {6, 50}, 0.05));
+  EXPECT_FALSE(CohensH({12, 40}, {6, 50}, 0));
+  EXPECT_FALSE(Proportion({41, 40}, 0.05));
+  EXPECT_FALSE(Proportion({12, 40}, 0));
 }
 
 }  // namespace

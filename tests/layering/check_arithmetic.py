@@ -4,8 +4,8 @@ An extended type has another precision on every platform, so that answers would 
 """
 
 import re
-import sys
-from pathlib import Path
+
+from sources import check_all
 
 SOURCES = {".h", ".hpp", ".cpp", ".inc"}
 COMMENT = re.compile(r"//[^\n]*|/\*.*?\*/", re.S)
@@ -29,15 +29,5 @@ def check(path, text):
     return problems
 
 
-def main():
-    root = Path(sys.argv[1])
-    paths = [path for folder in sys.argv[2:] for path in sorted((root / folder).rglob("*")) if path.suffix in SOURCES]
-    problems = []
-    for path in paths:
-        problems += check(path.relative_to(root), path.read_text())
-    print("\n".join(problems) or f"{len(paths)} files compute in doubles")
-    sys.exit(1 if problems or not paths else 0)
-
-
 if __name__ == "__main__":
-    main()
+    check_all(check, SOURCES, "compute in doubles")

@@ -5,8 +5,8 @@
 """
 
 import re
-import sys
-from pathlib import Path
+
+from sources import check_all
 
 PRODUCT = {"include", "src", "kelcommon", "planner", "cli"}
 GUARD = re.compile(r"\A(?:[ \t]*//[^\n]*\n|\s*\n|/\*.*?\*/)*#ifndef (\w+)\n#define (\w+)\n", re.S)
@@ -37,15 +37,5 @@ def check(path, text):
     return problems
 
 
-def main():
-    root = Path(sys.argv[1])
-    paths = [path for folder in sys.argv[2:] for path in sorted((root / folder).rglob("*")) if path.suffix in {".h", ".cpp"}]
-    problems = []
-    for path in paths:
-        problems += check(path.relative_to(root), path.read_text())
-    print("\n".join(problems) or f"{len(paths)} files are named and guarded as all are")
-    sys.exit(1 if problems or not paths else 0)
-
-
 if __name__ == "__main__":
-    main()
+    check_all(check, {".h", ".cpp"}, "are named and guarded as all are")

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <set>
 
+#include "solve/axes.h"
 #include "solve/choose_route.h"
 #include "support.h"
 #include "words/expand.h"
@@ -46,7 +47,8 @@ TEST_P(Descriptions, HaveNameTitleAndPurpose) {
 }
 
 TEST_P(Descriptions, NameEveryParameterOnce) {
-  std::set<std::string> names{"format", "help", "chart", "from", "to", "step", "output"};
+  std::set<std::string> names{"format", "help",  "chart", "from",   "to",  "step",
+                              "y",      "title", "width", "height", "dpi", "output"};
   for (const Parameter& parameter : GetParam().parameters) {
     EXPECT_TRUE(IsLowercaseWord(std::string(parameter.name.Text())));
     EXPECT_TRUE(names.emplace(parameter.name.Text()).second) << parameter.name.Text();
@@ -109,16 +111,22 @@ TEST_P(Descriptions, AskConditionsOfKnownParameters) {
 }
 
 TEST_P(Descriptions, VaryADesignOnEveryAxis) {
-  for (const Chart& chart : GetParam().charts) {
-    for (Name name : chart.needs) EXPECT_TRUE(FindParameter(GetParam(), name)) << name.Text();
-    for (Name name : chart.accepts) EXPECT_TRUE(FindParameter(GetParam(), name)) << name.Text();
-    EXPECT_GE(chart.axes.size(), 1u);
-    EXPECT_LE(chart.axes.size(), 2u);
-    for (const Axis& axis : chart.axes) {
-      EXPECT_TRUE(axis.input || (axis.design && axis.vary)) << axis.title;
-      EXPECT_TRUE(axis.usual) << axis.title;
-    }
+  std::set<std::string> names;
+  for (const Axis& axis : AllAxes(GetParam())) {
+    EXPECT_TRUE(IsLowercaseWord(axis.name));
+    EXPECT_TRUE(names.insert(axis.name).second) << axis.name;
+    EXPECT_FALSE(axis.title.empty()) << axis.name;
+    EXPECT_FALSE(axis.symbol.empty()) << axis.name;
+    EXPECT_TRUE(axis.design && axis.vary) << axis.name;
+    for (Name name : axis.needs) EXPECT_TRUE(FindParameter(GetParam(), name)) << name.Text();
   }
+  EXPECT_TRUE(names.count("n"));
+  EXPECT_TRUE(names.count("alpha"));
+}
+
+TEST_P(Descriptions, TellTheSideOfAOneSidedTest) {
+  const bool hasSides = FindParameter(GetParam(), Name("one-sided")) != nullptr;
+  EXPECT_EQ(GetParam().effect != nullptr, hasSides);
 }
 
 TEST_P(Descriptions, HaveASentenceForEveryQuestionTheyAnswer) {

@@ -41,6 +41,16 @@ TEST(Problem, IsWordedInTheNamesOfAFrontEnd) {
             "the half-width asks for the sample size for a half-width, so the test-value cannot be given as well.");
 }
 
+TEST(Problem, SaysWhatAFlagMustBe) {
+  const Problem problem = ProblemOf("mean", {{"effect-d", 0.4}, {"n", 40.0}, {"one-sided", 1.0}});
+  EXPECT_EQ(SentenceTemplate(problem), "{one-sided} is 1, but must be true or false.");
+}
+
+TEST(Problem, NamesInputsThatDoNotGoTogether) {
+  const Problem problem{.code = Code::DoNotGoTogether, .inputs = {"mean", "sd", "exact"}};
+  EXPECT_EQ(SentenceTemplate(problem), "{mean}, {sd} and {exact} do not go together.");
+}
+
 TEST(Problem, LeavesWhatTheUserTypedAlone) {
   const Parameter adjust = OneOf("adjust", "", "", {{"none", 0, ""}});
   const Problem problem{

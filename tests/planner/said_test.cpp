@@ -46,13 +46,30 @@ TEST(Said, VariancesOfTwoMeans) {
 
 TEST(Said, StandardErrorAndTailsOfTwoProportions) {
   const std::string question = "two-proportions --proportions 0.5,0.75 --n 30 ";
-  EXPECT_TRUE(Holds(RenderText(Answered(question + "--pooled")), "standard error "));
-  EXPECT_TRUE(Holds(Answered(question + "--pooled").sentence, "pooled z test"));
+  EXPECT_TRUE(Holds(RenderText(Answered(question)), "standard error "));
+  EXPECT_TRUE(Holds(Answered(question).sentence, "two-sided pooled z test"));
+  EXPECT_TRUE(Holds(Answered(question + "--unpooled").sentence, "two-sided unpooled z test"));
   EXPECT_TRUE(Holds(Answered(question + "--exact").sentence, "exact pooled z test"));
   EXPECT_TRUE(Holds(Answered(question + "--method conditional").sentence, "at most half of the level in each tail"));
   EXPECT_FALSE(Holds(Answered(question + "--method conditional --one-sided").sentence, "tail"));
   EXPECT_TRUE(
       Holds(Answered(question + "--method arcsine").sentence, "corrected by half an observation in each group"));
+}
+
+// Who does not know the correlation of pairs plans cautiously with none.
+TEST(Said, PairsWithoutACorrelation) {
+  const std::string question = "paired-means --means 25,21 --sds 8,8 --power 0.8 --correlation ";
+  EXPECT_EQ(ResultOf(Answered(question + "0"), "n"), ResultOf(Answered(question + "1e-7"), "n"));
+  EXPECT_EQ(ResultOf(Answered(question + "0"), "n"), 65);
+  // The differences vary most where one measurement rises as the other falls.
+  EXPECT_EQ(ResultOf(Answered(question + "-1"), "n"),
+            ResultOf(Answered("paired-means --mean-difference 4 --sd-difference 16 --power 0.8"), "n"));
+}
+
+TEST(Said, WhatPredictorsThatAreNotTestedExplain) {
+  const std::string question = "regression --r-squared 0.3 --predictors 6 --tested 2 --power 0.8 --r-squared-reduced ";
+  EXPECT_EQ(ResultOf(Answered(question + "0"), "n"), 27);
+  EXPECT_EQ(ResultOf(Answered(question + "0.25"), "n"), 139);
 }
 
 TEST(Said, TheLevelThatAnExactTestAttains) {

@@ -3,36 +3,15 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <sstream>
 #include <string>
 #include <utility>
 
 #include "solve/find_unknown.h"
 #include "solve/prepared_question.h"
 #include "support.h"
-#include "words/parse.h"
 
 namespace planner {
 namespace {
-
-/// The values of an example of the help.
-InputValues ValuesOf(const Test& test, const std::string& arguments) {
-  InputValues values;
-  std::istringstream words(arguments);
-  std::string word;
-  words >> word;
-  while (words >> word) {
-    const Parameter& parameter = *FindParameter(test, std::string_view(word).substr(2));
-    const std::string name(parameter.name.Text());
-    if (parameter.kind == Kind::Flag) {
-      values[name] = true;
-    } else {
-      words >> word;
-      values[name] = Parse(parameter, word);
-    }
-  }
-  return values;
-}
 
 double NumberOf(const Answer& answer, const Parameter& parameter) {
   return parameter.IsList() ? answer.inputs.List(parameter.name).front() : answer.inputs.Number(parameter.name);
@@ -89,7 +68,7 @@ TEST(Unknown, IsFoundAgainInEveryExample) {
   int count = 0;
   for (const planner::Test& test : Tests()) {
     for (const Example& example : test.examples) {
-      const InputValues values = ValuesOf(test, example.arguments);
+      const InputValues values = ValuesTyped(test, example.arguments);
       const Answer design = Solve(test, values);
       if (design.SizesFound() || design.unknown) continue;
       SCOPED_TRACE(example.arguments);

@@ -53,10 +53,10 @@ QUESTIONS = [
     "paired-proportions --p12 0.08 --p21 0.32 --n 50",
     "paired-proportions --p12 0.08 --p21 0.32 --n 50 --exact --one-sided",
     "paired-proportions --p12 0.3 --p21 0.1 --n 100 --interval",
-    "two-proportions --proportions 0.5,0.75 --n 50 --pooled",
-    "two-proportions --proportions 0.5,0.75 --power 0.8 --pooled",
+    "two-proportions --proportions 0.5,0.75 --n 50",
+    "two-proportions --proportions 0.5,0.75 --power 0.8",
     "two-proportions --proportions 0.5,0.75 --n 50,100 --correction --one-sided",
-    "two-proportions --proportions 0.5,0.75 --n 50 --method t --pooled",
+    "two-proportions --proportions 0.5,0.75 --n 50 --method t",
     "two-proportions --proportions 0.5,0.75 --n 50 --method arcsine",
     "two-proportions --proportions 0.5,0.75 --n 50,100 --method likelihood-ratio",
     "two-proportions --proportions 0.5,0.75 --n 30 --method conditional",
@@ -84,7 +84,7 @@ def answer_of(reply):
     """The kind of the answer and its value: a first size that was found, a power or a half-width."""
     results = reply["results"]
     if reply["question"] == "sample-size":
-        return "size", results["sizes"][0] if "sizes" in results else results["n"]
+        return "size", results["n"][0] if isinstance(results["n"], list) else results["n"]
     kind = "half-width" if reply["question"].endswith("half-width") else "power"
     return kind, results[kind]
 

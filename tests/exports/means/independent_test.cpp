@@ -252,6 +252,10 @@ TEST(PowerReverseIndependentDirectional, TakesNothingForGrantedAtALevelAboveOneH
   PowerReverseIndependentDirectional(.64388645773345288, .00020353021050115904, 1, 3.0355388521757156, 1,
                                      .78533116551411286, sizes, .64388645773345288);
   EXPECT_EQ(sizes, (DoubleVector{6400, 2}));
+  sizes.clear();
+  PowerReverseIndependentDirectional(0.83758474443573216, 9.7656250690435158e-06, 0.010520184381508519, 1, 0,
+                                     4.0330198194082811, sizes, 0.72238930656501354);
+  EXPECT_EQ(sizes, (DoubleVector{102400, 2}));
 }
 
 }  // namespace
