@@ -43,6 +43,21 @@ void PreparedRow(benchmark::State& state) {
 }
 BENCHMARK(PreparedRow)->Name("planner/power/prepared_row");
 
+// In clusters the sizes are divided by the design effect, in inputs of their own.
+void PreparedRowOfClusters(benchmark::State& state) {
+  InputValues values = design;
+  values["cluster-size"] = 20.0;
+  values["icc"] = 0.05;
+  PreparedQuestion question(TwoMeans(), values);
+  question.SetColumns({{"means", 0}});
+  double mean = 50;
+  for (auto _ : state) {
+    const double row[] = {NextMean(mean)};
+    benchmark::DoNotOptimize(question.Evaluate(row).value);
+  }
+}
+BENCHMARK(PreparedRowOfClusters)->Name("planner/power/prepared_row_of_clusters");
+
 // The cheapest export shows the planner's own share best.
 void CheapExport(benchmark::State& state) {
   double r = 0.1;

@@ -132,7 +132,7 @@ std::string Usage(const Test& test, const Route& route) {
   for (Name need : route.needs) text += ' ' + given(need);
   if (asker) text += ' ' + given(*asker);
   for (Name input : route.accepts) {
-    if (input != asker) text += fmt::format(" [{}]", given(input));
+    if (input != asker && !Contains(OfferedInputs(), input)) text += fmt::format(" [{}]", given(input));
   }
   return text;
 }
@@ -229,9 +229,11 @@ std::size_t OptionWidth(const Test& test) {
   return width;
 }
 
-std::string InputLines(const Test& test, std::size_t width) {
+/// The lines of the options that are offered around every question, or of the others.
+std::string InputLines(const Test& test, std::size_t width, bool areOffered = false) {
   std::string text;
   for (const Parameter& parameter : test.parameters) {
+    if (Contains(OfferedInputs(), parameter.name) != areOffered) continue;
     const std::string unit = parameter.unit.empty() ? "" : ", in " + parameter.unit;
     text += fmt::format("  {:<{}}  {}{}\n", OptionText(parameter), width, Meaning(parameter), unit);
     if (const std::string details = Details(test, parameter); !details.empty()) {
@@ -267,7 +269,8 @@ std::string HelpOf(const Test& test, const Highlights& highlights) {
   text += fmt::format("{}\n{}\n\n", test.about, test.whenNot);
   text += heading("For example") + ExampleText(first) + "What you leave out is what is solved for.\n\n";
   text += UsageSection(test, highlights) + UnknownSection(test, highlights);
-  text += heading("Options") + OptionLines(test);
+  text += heading("Options") + OptionLines(test) + '\n';
+  text += heading("Before the study starts") + InputLines(test, OptionWidth(test), true);
   text += ChartSection(test, highlights);
   text += fmt::format("\n{}", heading("More examples"));
   for (const Example& example : test.examples) {

@@ -6,6 +6,7 @@
 #include "catalogue/axes.h"
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
+#include "catalogue/offers.h"
 #include "catalogue/tests.h"
 #include "catalogue/unknowns.h"
 #include "catalogue/words.h"
@@ -153,6 +154,7 @@ Test ContrastTest() {
        .needs = {"means", "sd", "coefficients"},
        .call = EffectOfMeans},
   };
+  test.offers = OffersOfContrast();
   test.effect = [](const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : EffectOfMeans(in); };
   AddWordsOfContrast(test);
   return WithCommonParameters(std::move(test));

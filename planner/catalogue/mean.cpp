@@ -4,6 +4,7 @@
 #include "catalogue/axes.h"
 #include "catalogue/core.h"
 #include "catalogue/mean_parameters.h"
+#include "catalogue/offers.h"
 #include "catalogue/tests.h"
 #include "catalogue/unknowns.h"
 #include "catalogue/words.h"
@@ -122,6 +123,7 @@ Test MeanTest() {
   test.derived = {
       {.name = "effect-d", .label = "effect size d", .needs = {"mean", "test-value", "sd"}, .call = EffectSize},
   };
+  test.offers = OffersOfMean();
   test.effect = Effect;
   AddWordsOfMean(test);
   return WithCommonParameters(std::move(test));

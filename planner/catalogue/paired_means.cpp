@@ -5,6 +5,7 @@
 #include "catalogue/axes.h"
 #include "catalogue/core.h"
 #include "catalogue/mean_parameters.h"
+#include "catalogue/offers.h"
 #include "catalogue/tests.h"
 #include "catalogue/unknowns.h"
 #include "catalogue/words.h"
@@ -181,6 +182,7 @@ Test PairedMeansTest() {
       {.name = "effect-d", .label = "effect size d", .needs = {"means", "sds", "correlation"}, .call = EffectSize},
       {.name = "effect-d", .label = "effect size d", .needs = {"mean-difference", "sd-difference"}, .call = EffectSize},
   };
+  test.offers = OffersOfPairedMeans();
   test.effect = Effect;
   test.axes = {MeanDifferenceAxis()};
   AddWordsOfPairedMeans(test);

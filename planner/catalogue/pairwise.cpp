@@ -155,6 +155,7 @@ Test PairwiseTest() {
                           .label = "significance level of the comparison",
                           .needs = {"adjust"},
                           .call = Level});
+  test.offers.comparisons = false;  // the pairs have an adjustment of their own
   AddWordsOfPairwise(test);
   return WithCommonParameters(std::move(test));
 }

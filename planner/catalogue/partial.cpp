@@ -4,6 +4,7 @@
 #include "catalogue/correlation.h"
 #include "catalogue/correlation_calls.h"
 #include "catalogue/correlation_parameters.h"
+#include "catalogue/offers.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
 #include "correlation/pearson.h"
@@ -54,6 +55,7 @@ Test PartialTest() {
        .holds = [](const Inputs& in) { return in.Number("n") >= SmallestSize(in); },
        .sentence = "{n} must exceed the number of variables partialled out by at least 4."},
   };
+  test.offers = OffersOfPartial();
   AddWordsOfPartial(test);
   return WithCommonParameters(std::move(test));
 }

@@ -5,6 +5,7 @@
 #include "catalogue/correlation.h"
 #include "catalogue/correlation_calls.h"
 #include "catalogue/correlation_parameters.h"
+#include "catalogue/offers.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
 
@@ -38,6 +39,7 @@ Test PearsonTest() {
       TowardsCorrelation(),
       Flag("adjust-bias", "bias adjustment", "correct Fisher's z for its bias in small samples"),
   };
+  test.offers = OffersOfPearson();
   AddWordsOfPearson(test);
   return WithCommonParameters(std::move(test));
 }

@@ -4,6 +4,7 @@
 
 #include "catalogue/axes.h"
 #include "catalogue/core.h"
+#include "catalogue/offers.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
 #include "frame/counts.h"
@@ -249,6 +250,7 @@ Test ProportionTest() {
                        },
                        .wording = ", with <0>,"}};
   test.largestExactSearch = largestCount;
+  test.offers = OffersOfProportion();
   AddWordsOfProportion(test);
   return WithCommonParameters(std::move(test));
 }

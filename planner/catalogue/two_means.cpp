@@ -7,6 +7,7 @@
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/mean_parameters.h"
+#include "catalogue/offers.h"
 #include "catalogue/tests.h"
 #include "catalogue/two_groups.h"
 #include "catalogue/unknowns.h"
@@ -174,6 +175,7 @@ Test TwoMeansTest() {
        .call =
            [](const Inputs& in) { return std::string(SpreadsOf(in).isPooled ? "pooled" : "unequal, Welch's test"); },
        .wording = " (variances <0>)"}};
+  test.offers = OffersOfTwoMeans();
   AddWordsOfTwoMeans(test);
   return WithCommonParameters(std::move(test));
 }

@@ -44,6 +44,11 @@ void AddWordsOfTwoMeans(Test& test) {
        "To detect an effect size d of 0.5 with a power of 0.8, the two-sided independent-samples t test at a "
        "significance level of 0.05 needs 64 observations in each of 2 groups (128 in total); its power is then "
        "0.8015."},
+      {"two-means --effect-d 0.5 --power 0.8 --cluster-size 20 --icc 0.05 --dropout 0.15",
+       "To detect an effect size d of 0.5 with a power of 0.8, the two-sided independent-samples t test at a "
+       "significance level of 0.05 needs 125 observations in each of 2 groups (250 in total); its power is then 0.8021. "
+       "These are members of clusters of 20 with an intracluster correlation of 0.05: the design effect is 1.95. Enrol "
+       "160 in each group (320 in total), 8 clusters in each group (16 in total), of whom 15% may drop out."},
       {"two-means --sd 10 --n 35,50 --power 0.8",
        "With 35 and 50 observations in 2 groups (85 in total), the two-sided independent-samples t test (variances "
        "pooled) at a significance level of 0.05 has a power of 0.8000 to detect a difference of the means of 6.247 "

@@ -187,6 +187,7 @@ Test TwoProportionsTest() {
   test.sizeExists = SizeExistsForTwoProportions();
   test.derived = DerivedFigures();
   test.assumptions = Assumptions();
+  test.offers.clusters = true;
   test.axes = AxesOfTwoProportions();
   test.effect = RiskDifference;
   test.steps = StepsOfPower;

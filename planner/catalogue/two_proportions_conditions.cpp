@@ -113,6 +113,11 @@ std::vector<Condition> ConditionsOfTwoProportions() {
        .about = {"power", "alpha"},
        .holds = ExactCanReach,
        .sentence = "{power} of an exact test must be from {alpha} to 0.9999."},
+      {.code = "clusters-of-exact",
+       .about = {"cluster-size", "exact", "method"},
+       .holds = [](const Inputs& in) { return !IsExact(in); },
+       .sentence = "{cluster-size} goes with large-sample tests only: {exact} and {method} conditional count "
+                   "observations that are independent of each other."},
       {.code = "arcsine-size",
        .about = {"n"},
        .holds = LeavesArcsineItsCorrection,

@@ -1,6 +1,7 @@
 #ifndef KELPOWER_PLANNER_MODEL_ANSWER_H
 #define KELPOWER_PLANNER_MODEL_ANSWER_H
 
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,7 @@ struct Answer {
   const Unknown* unknown = nullptr;  // what was solved for, unless sizes or the value; its number stands in the inputs
   std::vector<DerivedFigure> derived = {};
   Numbers lastingSizes = {};  // of sizes found, where a power is uneven: from these on all sizes reach it
+  double assurance = std::numeric_limits<double>::quiet_NaN();  // that the sizes found have, where it was asked for
 
   Question Asked() const { return route->question; }
   bool SizesFound() const { return AsksForSizes(route->question); }

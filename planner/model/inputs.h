@@ -34,13 +34,16 @@ public:
   }
   /// Sets one entry of a list that is there.
   void SetEntry(Name name, std::size_t entry, double number) { slots_[name.Index()].list[entry] = number; }
+  /// Takes over an input from others that describe the same design.
+  void Take(Name name, const Inputs& others) { slots_[name.Index()] = others.slots_[name.Index()]; }
   void Erase(Name name) { slots_[name.Index()].isGiven = false; }
 
   /// Sets an input to a value that its parameter allows; the second gives it back.
   void SetValue(const Parameter& parameter, const Value& value);
   Value ValueOf(const Parameter& parameter) const;
 
-  double Alpha() const { return Number("alpha"); }
+  /// The level of the test. Several comparisons share that which is given (Bonferroni).
+  double Alpha() const { return Has("comparisons") ? Number("alpha") / Number("comparisons") : Number("alpha"); }
   int Groups() const { return groups_; }
   void SetGroups(int groups) { groups_ = groups; }
   /// Shares of the groups in the total: the sizes where they are given, else the ratios, else all equal.

@@ -35,6 +35,7 @@ enum class Code {
   NotSolvedFor = 213,
   NothingUnknown = 214,
   SolvesWithoutTarget = 215,
+  BelongsToSizesFound = 216,
   // Charts.
   ChartEndNotAllowed = 305,
   ChartEndsDescend = 306,
@@ -59,6 +60,7 @@ enum class Code {
   NotComputable = 402,
   TargetNotReached = 403,
   TargetReachedAlways = 404,
+  BeyondPowerLimit = 405,
   // Designs in files and tables.
   TestNowhere = 600,
   TestMissing = 601,

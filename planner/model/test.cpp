@@ -33,6 +33,7 @@ std::vector<Choice> ChoicesOfUnknowns(const Test& test) {
         std::any_of(choices.begin(), choices.end(), [&](const Choice& choice) { return choice.word == word; });
     if (!isKnown) choices.push_back({word, static_cast<int>(unknown.input.Index()), word});
   }
+  if (test.offers.assurance) choices.push_back({"assurance", static_cast<int>(Name("assurance").Index()), "assurance"});
   return choices;
 }
 
@@ -51,16 +52,20 @@ void AddParametersOfUnknowns(Test& test) {
 void AddStableSizes(Test& test) {
   test.parameters.push_back(Flag(
       "stable", "stable size", "of an exact test: the size from which on all reach the power, in place of the first"));
+  const bool isOfferedForWidths = test.offers.lastingAssuredSizes != nullptr;
   for (Route& route : test.routes) {
-    if (route.question == Question::SampleSize) route.accepts.push_back("stable");
+    const bool isOfWidth = isOfferedForWidths && route.question == Question::SampleSizeForHalfWidth;
+    if (route.question == Question::SampleSize || isOfWidth) route.accepts.push_back("stable");
   }
-  test.conditions.push_back(
-      {.code = "stable-of-even",
-       .about = {"stable"},
-       .holds = [unevenness = test.unevenness](
-                    const Inputs& in) { return !in.Flag("stable") || unevenness(in) != Unevenness::Even; },
-       .sentence = "{stable} goes with exact tests only: the power of others never falls with a "
-                   "further observation."});
+  test.conditions.push_back({.code = "stable-of-even",
+                             .about = {"stable"},
+                             .holds =
+                                 [unevenness = test.unevenness](const Inputs& in) {
+                                   return !in.Flag("stable") || in.Has("assurance") ||
+                                          unevenness(in) != Unevenness::Even;
+                                 },
+                             .sentence = "{stable} goes with exact tests only: the power of others never falls with a "
+                                         "further observation."});
 }
 
 }  // namespace
@@ -87,6 +92,7 @@ Test WithCommonParameters(Test test) {
           .Above(0)
           .Below(1)
           .Default(0.05));
+  AddOffers(test);
   AddUnknownLevels(test);
   AddParametersOfUnknowns(test);
   if (test.unevenness) AddStableSizes(test);

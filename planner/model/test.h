@@ -10,6 +10,7 @@
 #include "model/chart.h"
 #include "model/details.h"
 #include "model/inputs.h"
+#include "model/offers.h"
 #include "model/parameter.h"
 #include "model/route.h"
 #include "model/unknown.h"
@@ -100,6 +101,7 @@ struct Test {
   double (*steps)(const Inputs&) = nullptr;
 
   std::string whenNot = {};       // what the test is not for, and which one is
+  Offers offers = {};             // of the circumstances of a study
   double largestExactSearch = 0;  // of an exact test: the size at which its search ends; 0 where there is no such end
   /// What is behind the answer of a question, from the inputs at the sizes given or found.
   Details (*details)(Question question, const Inputs& atSizes) = nullptr;
@@ -107,7 +109,7 @@ struct Test {
 
 /// The test with the parameters that every test has: `alpha`; `power`, `half-width` and `interval` as its routes answer
 /// the questions they ask; `solve` and `below` as it has unknowns; `stable` where a power may be uneven. The level is an unknown of every
-/// test.
+/// test. What the test offers comes by itself too.
 Test WithCommonParameters(Test test);
 
 /// The parameter of that name, or null.

@@ -160,11 +160,24 @@ Asked FindUnknownAsked(const Test& test, const InputValues& values, const Names&
   const Question question = target == Name("power") ? Question::Power : Question::HalfWidth;
   const std::optional<Name> named = NamedUnknown(values);
   const Names design = Without(given, {"power", "half-width", "interval"});
+  if (named == Name("assurance") && question == Question::HalfWidth) {
+    return {.route = &ChooseRoute(test, question, design), .isAssurance = true};
+  }
   for (const Unknown* unknown : UnknownsOf(test, question, named)) {
     if (Contains(given, unknown->input)) continue;
     if (const Route* route = RouteWith(test, *unknown, design)) return {route, unknown};
   }
   RejectUnknown(test, target, named, given);
+}
+
+/// What belongs to sizes that are found.
+void RejectBesideSizes(const Names& given) {
+  for (Name name : {Name("dropout"), Name("assurance")}) {
+    for (Name other : {Name("n"), Name("solve")}) {
+      if (!Contains(given, name) || !Contains(given, other)) continue;
+      throw InputError({.code = Code::BelongsToSizesFound, .inputs = Texts({name, other})});
+    }
+  }
 }
 
 }  // namespace
@@ -215,6 +228,7 @@ const Route& ChooseRoute(const Test& test, Question question, const Names& given
 
 Asked FindAsked(const Test& test, const InputValues& values) {
   const Names given = GivenNames(test, values);
+  RejectBesideSizes(given);
   const Question question = AskedQuestion(given);
   if (const std::optional<Name> target = TargetOfUnknown(given)) {
     return FindUnknownAsked(test, values, given, *target);

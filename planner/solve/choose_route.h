@@ -17,6 +17,7 @@ Question AskedQuestion(const Names& given);
 struct Asked {
   const Route* route;
   const Unknown* unknown = nullptr;  // whose number brings the route's value to the target
+  bool isAssurance = false;          // that the half-width of the design is as wished
 };
 
 /// What the values ask. A target besides the sizes, or besides `solve`, asks for an unknown. Throws an InputError with

@@ -25,7 +25,8 @@ bool AreInOrder(const std::vector<std::size_t>& sources) {
 
 DesignSolver::Shape::Shape(const DesignRow& row, StopRequest* stop)
     : question(row.AskedTest(), row.Values(), stop),
-      columns(ResultColumns(row.AskedTest(), question.ChosenRoute(), question.SolvedFor(), question.IsUneven())) {
+      columns(ResultColumns(row.AskedTest(), question.ChosenRoute(), question.SolvedFor(), OffersOf(question.Design()),
+                            question.IsUneven())) {
   std::vector<Column> inputs;
   for (const auto& [parameter, first, count] : row.NumbersGiven()) {
     if (parameter->name == Name("groups")) continue;
@@ -96,6 +97,10 @@ void DesignSolver::Collect(Shape& shape, double value) {
   answer_.values.clear();
   for (std::size_t i = 0; i < shape.columns.size(); ++i) {
     const ResultColumn& column = shape.columns[i];
+    if (const std::optional<double> figure = question.Figure(column.planned)) {
+      answer_.values.push_back(*figure);
+      continue;
+    }
     switch (column.reading) {
       case Reading::Figure:
         if (!column.derived) answer_.values.push_back(question.FoundUnknown());

@@ -26,8 +26,10 @@ struct DesignAnswer {
   bool IsAnswered() const { return !problem; }
 
   /// In place of the value of a column of sizes.
-  const Numbers& SizesOf(const ResultColumn& column) const {
-    return column.isLasting ? question->LastingSizes() : question->SizesOfAnswer();
+  Numbers SizesOf(const ResultColumn& column) const {
+    if (column.isLasting) return question->LastingSizes();
+    const Numbers& sizes = question->SizesOfAnswer();
+    return column.planned == Planned::None ? sizes : PlannedSizes(column.planned, question->Design(), sizes);
   }
 };
 

@@ -5,6 +5,7 @@
 #include <limits>
 #include <utility>
 
+#include "solve/adjusted_value.h"
 #include "solve/checks.h"
 #include "solve/choose_route.h"
 #include "solve/make_inputs.h"
@@ -32,7 +33,8 @@ bool NeedsEffect(Question question, const Inputs& inputs) {
   return question == Question::SampleSize && inputs.Number("power") >= inputs.Alpha();
 }
 
-bool Reached(Question question, double value, const Inputs& inputs) {
+bool Reached(Question question, double value, double assurance, const Inputs& inputs) {
+  if (inputs.Has("assurance")) return assurance >= inputs.Number("assurance");
   return question == Question::SampleSize ? value >= inputs.Number("power") : value <= inputs.Number("half-width");
 }
 
@@ -106,13 +108,15 @@ PreparedQuestion::PreparedQuestion(const Test& test, const Asked& asked, const I
       unknown_(asked.unknown),
       inputs_(MakeInputs(test, WithUnknown(test, asked.unknown, values), stop)) {
   conditions_ = Applicable(test.conditions, inputs_);
+  if (asked.isAssurance || inputs_.Has("assurance")) assurance_ = test.offers.assurance;
   if (!AsksForSizes(route_.question)) {
-    value_ = route_.value;
+    value_ = AdjustedValue(test, route_, inputs_);
     return;
   }
   effects_ = Applicable(test.sizeExists, inputs_);
   sizeConditions_ = Applicable(test.conditions, AtSizes(inputs_, WholeSizes(test, inputs_).At(1)));
-  value_ = RouteAtSizes(test, ValueQuestion(route_.question), GivenNames(test, values)).value;
+  const Route& atSizes = RouteAtSizes(test, ValueQuestion(route_.question), GivenNames(test, values));
+  value_ = AdjustedValue(test, atSizes, AtSizes(inputs_, WholeSizes(test, inputs_).At(1)));
 }
 
 void PreparedQuestion::SetColumns(std::vector<Column> columns) {
@@ -165,6 +169,7 @@ Answer PreparedQuestion::Solve() {
     answer.sizes = test_.groups == 1 ? Numbers{inputs_.Number("n")} : inputs_.List("n");
   }
   if (answer.SizesFound()) answer.lastingSizes = lasting_;
+  answer.assurance = assured_;
   answer.derived = DerivedFigures(test_, route_, inputs_);
   if (IsStopped()) throw Stopped();
   return answer;
@@ -172,6 +177,10 @@ Answer PreparedQuestion::Solve() {
 
 void PreparedQuestion::TakeUnknown() {
   if (unknown_) SetUnknown(inputs_, *unknown_, *FindParameter(test_, unknown_->input), found_);
+}
+
+std::optional<double> PreparedQuestion::Figure(Planned planned) const {
+  return planned == Planned::Assurance ? std::optional(assured_) : PlannedFigure(planned, test_, inputs_);
 }
 
 Name PreparedQuestion::TargetName() const {
@@ -185,6 +194,13 @@ void PreparedQuestion::RejectUnanswered() {
     problem.code = Code::SizesNotFound;
     problem.inputs = Texts({*AskedBy(question)});
     problem.values = {inputs_.Number(*AskedBy(question))};
+    if (assurance_) problem.words = {" with that assurance"};
+    if (IsBeyondLimit(inputs_)) {
+      problem.code = Code::BeyondPowerLimit;
+      problem.inputs = Texts({"power", "effect-sd"});
+      problem.values.insert(problem.values.end(),
+                            {inputs_.Number("effect-sd"), test_.offers.expectedPowerLimit(inputs_)});
+    }
     if (test_.largestExactSearch > 0 && inputs_.Has("exact") && inputs_.Flag("exact")) {
       problem.values.emplace_back(test_.largestExactSearch);
     }
@@ -208,7 +224,22 @@ const Condition* PreparedQuestion::FailingEffect(const Inputs& inputs) const {
 }
 
 Row PreparedQuestion::Checked(const Inputs& inputs) {
-  return AsksForSizes(route_.question) ? FindSizes(inputs) : ValueOf(inputs);
+  if (AsksForSizes(route_.question)) return FindSizes(inputs);
+  if (assurance_) assured_ = assurance_(inputs);
+  return ValueOf(inputs);
+}
+
+bool PreparedQuestion::IsUneven() const {
+  if (!AsksForSizes(route_.question)) return false;
+  return UnevennessOf(inputs_) != Unevenness::Even || IsAssuredUnevenly();
+}
+
+bool PreparedQuestion::IsAssuredUnevenly() const { return assurance_ && test_.offers.lastingAssuredSizes; }
+
+/// However large the study is, its expected power stays below the limit.
+bool PreparedQuestion::IsBeyondLimit(const Inputs& inputs) const {
+  if (route_.question != Question::SampleSize || !inputs.Has("effect-sd")) return false;
+  return !(inputs.Number("power") < test_.offers.expectedPowerLimit(inputs));
 }
 
 bool PreparedQuestion::IsStopped() const {
@@ -271,19 +302,42 @@ Unevenness PreparedQuestion::UnevennessOf(const Inputs& inputs) const {
   return test_.unevenness ? test_.unevenness(inputs) : Unevenness::Even;
 }
 
+/// An assurance that is a sawtooth in the size is searched by the core alone.
+Row PreparedQuestion::FindUnevenAssurance(const Inputs& inputs) {
+  const Numbers found = test_.offers.assuredSizes(inputs);
+  lasting_ = test_.offers.lastingAssuredSizes(inputs);
+  if (IsStopped()) return stopped;
+  if (!AreSizes(found) || !AreSizes(lasting_)) return unanswered;
+  sizes_ = inputs.Flag("stable") ? lasting_ : found;
+  const Inputs atSizes = AtSizes(inputs, sizes_);
+  assured_ = assurance_(atSizes);
+  return ValueOf(atSizes);
+}
+
+/// Where to look for whole sizes.
+Numbers PreparedQuestion::Start(const Inputs& inputs, const WholeSizes& whole) const {
+  Numbers sizes = assurance_ ? test_.offers.assuredSizes(inputs) : AdjustedStart(route_.sizes(inputs), inputs);
+  if (!AreSizes(sizes)) return {};
+  // The power at an effect that is small for certain tells little of one that may be large.
+  const bool isFarOff = inputs.Has("effect-sd") && !whole.AreCountable(sizes);
+  return isFarOff ? Numbers{} : sizes;
+}
+
 Row PreparedQuestion::FindSizes(const Inputs& inputs) {
   lasting_.clear();
-  Numbers found = route_.sizes(inputs);
+  if (IsBeyondLimit(inputs)) return unanswered;
+  if (IsAssuredUnevenly()) return FindUnevenAssurance(inputs);
+  const WholeSizes whole(test_, inputs);
+  Numbers found = Start(inputs, whole);
   if (IsStopped()) return stopped;
-  if (!AreSizes(found)) found.clear();
   const bool isUneven = UnevennessOf(inputs) != Unevenness::Even;
   if (isUneven && found.empty()) return unanswered;
 
-  const WholeSizes whole(test_, inputs);
   Inputs tried = AtSizes(inputs, whole.At(whole.Smallest()));
   if (!found.empty() && !whole.AreCountable(found)) {
     sizes_ = std::move(found);
     SetSizes(tried, sizes_);
+    if (assurance_) assured_ = assurance_(tried);
     const Row row = ValueOf(tried);
     return row.status != RowStatus::Answered || NearlyReached(route_.question, row.value, inputs) ? row : unanswered;
   }
@@ -293,8 +347,9 @@ Row PreparedQuestion::FindSizes(const Inputs& inputs) {
     sizes_ = whole.At(number);
     SetSizes(tried, sizes_);
     row = FirstFailing(sizeConditions_, tried) ? refused : ValueOf(tried);
+    if (assurance_) assured_ = assurance_(tried);
     return row.status == RowStatus::Stopped ||
-           (row.status == RowStatus::Answered && Reached(route_.question, row.value, inputs));
+           (row.status == RowStatus::Answered && Reached(route_.question, row.value, assured_, inputs));
   };
   std::optional<double> number = FindWhole(whole, found, reaches);
   if (number && isUneven) number = FindUneven(whole, inputs, *number, reaches);

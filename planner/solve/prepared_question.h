@@ -1,6 +1,7 @@
 #ifndef KELPOWER_PLANNER_SOLVE_PREPARED_QUESTION_H
 #define KELPOWER_PLANNER_SOLVE_PREPARED_QUESTION_H
 
+#include <limits>
 #include <optional>
 #include <span>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "model/test.h"
 #include "solve/choose_route.h"
 #include "solve/find_unknown.h"
+#include "solve/plan.h"
 #include "solve/whole_sizes.h"
 
 namespace planner {
@@ -70,8 +72,14 @@ public:
   const Numbers& SizesOfAnswer() const { return AsksForSizes(route_.question) ? sizes_ : inputs_.List("n"); }
 
   /// Whether sizes are found of a power that jumps with the size; then those from which on all reach the target.
-  bool IsUneven() const { return AsksForSizes(route_.question) && UnevennessOf(inputs_) != Unevenness::Even; }
+  bool IsUneven() const;
   const Numbers& LastingSizes() const { return lasting_; }
+
+  /// That the interval of the data is as narrow as asked, at the sizes of the last answer; NaN where none is asked for.
+  double Assured() const { return assured_; }
+
+  /// The figure, of those that the circumstances of the study add and that is no number of people or clusters.
+  std::optional<double> Figure(Planned planned) const;
 
   /// What is solved for, or null; and its number in the last answer.
   const Unknown* SolvedFor() const { return unknown_; }
@@ -98,6 +106,10 @@ private:
   Row Checked(const Inputs& inputs);
   Row ValueOf(const Inputs& inputs) const;
   Row FindSizes(const Inputs& inputs);
+  Row FindUnevenAssurance(const Inputs& inputs);
+  Numbers Start(const Inputs& inputs, const WholeSizes& whole) const;
+  bool IsAssuredUnevenly() const;
+  bool IsBeyondLimit(const Inputs& inputs) const;
   std::optional<double> FindWhole(const WholeSizes& whole, const Numbers& found, Reaches reaches) const;
   double FindUneven(const WholeSizes& whole, const Inputs& inputs, double number, Reaches reaches);
   Unevenness UnevennessOf(const Inputs& inputs) const;
@@ -119,7 +131,9 @@ private:
   std::vector<const Condition*> sizeConditions_;  // of the sizes that are looked for
   std::vector<BoundColumn> columns_;
   Numbers sizes_;
-  Evaluation value_;  // a copy of the route's own, which may keep something between its calls
+  Evaluation value_;      // a copy of the route's own, which may keep something between its calls
+  Evaluation assurance_;  // of the sizes that are looked for, where one is asked for
+  double assured_ = std::numeric_limits<double>::quiet_NaN();
   double found_ = 0;  // of the unknown
   Numbers lasting_;   // the sizes from which on all reach an uneven power
 };

@@ -1,11 +1,51 @@
 #include "solve/results.h"
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
+#include <utility>
 
 namespace planner {
 
-std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, const Unknown* unknown, bool isUneven) {
+namespace {
+
+void AddFigure(std::vector<ResultColumn>& columns, std::string name, std::string label, Planned planned,
+               Reading reading = Reading::Figure) {
+  columns.push_back({.name = std::move(name), .label = std::move(label), .reading = reading, .planned = planned});
+}
+
+/// What the circumstances of the study change besides the sizes.
+void AddPlannedFigures(std::vector<ResultColumn>& columns, const Names& offers) {
+  if (Contains(offers, "comparisons")) {
+    AddFigure(columns, "level", "level of each comparison", Planned::Level);
+  }
+  if (Contains(offers, "cluster-size")) AddFigure(columns, "design-effect", "design effect", Planned::Effect);
+}
+
+void AddPlannedSizes(std::vector<ResultColumn>& columns, const Names& offers, bool isGrouped) {
+  const Reading sizes = isGrouped ? Reading::Sizes : Reading::Size;
+  const bool isEnrolled = Contains(offers, "dropout");
+  if (isEnrolled) AddFigure(columns, "enrol", isGrouped ? "to enrol in each group" : "to enrol", Planned::Enrol, sizes);
+  if (isEnrolled && isGrouped) {
+    AddFigure(columns, "enrol-total", "to enrol in total", Planned::EnrolTotal, Reading::Size);
+  }
+  if (Contains(offers, "cluster-size")) {
+    AddFigure(columns, "clusters", isGrouped ? "clusters in each group" : "clusters", Planned::Clusters, sizes);
+  }
+}
+
+}  // namespace
+
+Names OffersOf(const Inputs& design) {
+  Names given;
+  std::copy_if(OfferedInputs().begin(), OfferedInputs().end(), std::back_inserter(given),
+               [&](Name name) { return design.Has(name); });
+  if (SolvesForAssurance(design)) given.push_back("assurance");
+  return given;
+}
+
+std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, const Unknown* unknown,
+                                        const Names& offers, bool isUneven) {
   std::vector<ResultColumn> columns;
   if (unknown) {
     const Parameter& parameter = *FindParameter(test, unknown->input);
@@ -16,6 +56,7 @@ std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, co
     if (!std::all_of(derived.needs.begin(), derived.needs.end(), takes)) continue;
     columns.push_back({derived.name, derived.label, Reading::Figure, &derived});
   }
+  AddPlannedFigures(columns, offers);
   const bool findsSizes = AsksForSizes(route.question);
   const bool isGrouped = test.groups != 1;
   const Reading sizes = isGrouped ? Reading::Sizes : Reading::Size;
@@ -24,11 +65,18 @@ std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, co
   if (findsSizes && isUneven) {
     columns.push_back({"lasting-n", "all larger sizes reach it from", sizes, nullptr, true});
   }
+  AddPlannedSizes(columns, offers, isGrouped);
   const std::string suffix = findsSizes ? " at these sizes" : "";
-  if (IsAboutPower(route.question)) {
+  if (Contains(offers, "effect-sd")) {
+    columns.push_back({"expected-power", "expected power" + suffix, Reading::Power});
+    AddFigure(columns, "expected-power-limit", "limit of the expected power", Planned::PowerLimit, Reading::Power);
+  } else if (IsAboutPower(route.question)) {
     columns.push_back({"power", "power" + suffix, Reading::Power});
   } else {
     columns.push_back({"half-width", "half-width" + suffix, Reading::HalfWidth});
+  }
+  if (Contains(offers, "assurance")) {
+    AddFigure(columns, "assurance", "assurance" + suffix, Planned::Assurance, Reading::Power);
   }
   return columns;
 }

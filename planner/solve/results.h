@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "model/test.h"
+#include "solve/plan.h"
 
 namespace planner {
 
@@ -24,11 +25,17 @@ struct ResultColumn {
   Reading reading;
   const Derived* derived = nullptr;  // of a figure; null for the number that is solved for
   bool isLasting = false;            // of sizes: those from which on all reach the target
+  Planned planned = Planned::None;   // what the circumstances of the study add
 };
 
 /// The results of the route's answers, in the order of a report. `unknown` is what is solved for with the route, or
-/// null; `isUneven` says whether the power jumps with the size. Figures may be missing in an answer.
-std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, const Unknown* unknown, bool isUneven);
+/// null; `offers` are the inputs of the circumstances of the study that are given; `isUneven` says whether the power
+/// jumps with the size. Figures may be missing in an answer.
+std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, const Unknown* unknown,
+                                        const Names& offers, bool isUneven);
+
+/// Those of the offered inputs that the design gives.
+Names OffersOf(const Inputs& design);
 
 double TotalOf(const Numbers& sizes);
 

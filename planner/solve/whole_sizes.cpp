@@ -48,7 +48,9 @@ double Downwards(double reached, double smallest, Reaches reaches) {
 
 WholeSizes::WholeSizes(const Test& test, const Inputs& inputs) : hasRatio_(inputs.Has("ratio")) {
   least_ = FindParameter(test, Name("n"))->limits.low;
-  smallest_ = least_;
+  // Where some are lost, those who are enrolled come in whole clusters.
+  if (inputs.Has("cluster-size") && !inputs.Has("dropout")) unit_ = inputs.Number("cluster-size");
+  smallest_ = std::ceil(least_ / unit_);
   if (test.groups == 1) return;
   if (hasRatio_) {
     ratio_ = inputs.Number("ratio");
@@ -61,17 +63,21 @@ WholeSizes::WholeSizes(const Test& test, const Inputs& inputs) : hasRatio_(input
 }
 
 Numbers WholeSizes::At(double number) const {
-  if (hasRatio_) return {number, std::max(least_, std::ceil(number * ratio_))};
+  if (hasRatio_) return {Members(number), std::max(least_, Members(std::ceil(number * ratio_)))};
   if (weights_.empty()) return {number};
   Numbers sizes;
   for (double weight : weights_) sizes.push_back(std::max(least_, std::ceil(number * weight * (1 - 1e-15))));
   return sizes;
 }
 
+double WholeSizes::Members(double number) const {
+  return unit_ == 1 ? number : std::ceil(number * unit_ * (1 - 1e-15));
+}
+
 bool WholeSizes::AreCountable(const Numbers& sizes) const { return NumberOf(sizes) < largestNumber; }
 
 double WholeSizes::NumberOf(const Numbers& sizes) const {
-  return weights_.empty() ? sizes.front() : std::accumulate(sizes.begin(), sizes.end(), 0.0);
+  return weights_.empty() ? sizes.front() / unit_ : std::accumulate(sizes.begin(), sizes.end(), 0.0);
 }
 
 std::optional<double> FirstWhole(double start, double smallest, Reaches reaches) {

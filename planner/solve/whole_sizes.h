@@ -10,7 +10,7 @@
 namespace planner {
 
 /// The sizes that a study can have, in the order of their sum: one number tells them all. It is the size of the first of
-/// two groups, and the total of several, each with its share.
+/// two groups, and the total of several, each with its share. Of clusters that are assigned whole they are counted.
 class WholeSizes {
 public:
   WholeSizes(const Test& test, const Inputs& inputs);
@@ -24,8 +24,11 @@ public:
   bool AreCountable(const Numbers& sizes) const;
 
 private:
+  double Members(double number) const;
+
   bool hasRatio_;  // two groups, of which the second follows from the first
   double ratio_ = 1;
+  double unit_ = 1;  // members of a cluster
   Numbers weights_;
   double least_;  // of each group
   double smallest_;

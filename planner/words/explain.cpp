@@ -4,14 +4,18 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
+#include "solve/adjusted_value.h"
 #include "words/expand.h"
 #include "words/numbers.h"
+#include "words/plan_notes.h"
 
 namespace planner {
 namespace {
 
-/// The inputs with the sizes that were given or found.
+/// The inputs with the sizes that were given or found; of clusters, with those of as many independent observations as
+/// tell as much.
 Inputs AtSizes(const Answer& answer) {
   Inputs inputs = answer.inputs;
   inputs.Erase("ratios");
@@ -20,7 +24,7 @@ Inputs AtSizes(const Answer& answer) {
   } else {
     inputs.SetList("n", answer.sizes);
   }
-  return inputs;
+  return AtEffectiveSizes(std::move(inputs));
 }
 
 std::string ForReading(double number) {
@@ -117,6 +121,7 @@ private:
     const bool isJoined = last == '|' || last == '_';
     const Parameter* parameter = FindParameter(*answer_.test, isJoined ? name.substr(0, name.size() - 1) : name);
     if (!parameter || !inputs_.Has(parameter->name)) return "";
+    if (parameter->name == Name("alpha")) return digits(inputs_.Alpha());
     const Value value = inputs_.ValueOf(*parameter);
     if (const auto* number = std::get_if<double>(&value)) return digits(*number);
     const auto* numbers = std::get_if<Numbers>(&value);
@@ -150,9 +155,19 @@ Explanation Explain(const Answer& answer) {
                           .formula = filled.Formula(details.formula),
                           .source = details.source,
                           .programs = {}};
+  bool programs = true;
   for (const auto& [name, label, value] : details.figures) {
     explanation.figures.push_back({name, label, value, ForReading(value)});
   }
+  for (const PlanNote& note : NotesOnPlan(answer)) {
+    for (const auto& [name, label, value] : note.figures) {
+      explanation.figures.push_back({name, label, value, ForReading(value)});
+    }
+    explanation.formula += "; " + note.formula;
+    explanation.source += "; " + note.source;
+    if (!note.isKnownElsewhere) programs = false;
+  }
+  if (!programs) return explanation;
   for (const Equivalent& equivalent : details.equivalents) {
     explanation.programs.push_back(
         {equivalent.program, filled.Call(equivalent.call), equivalent.isSame, equivalent.remark});

@@ -40,6 +40,13 @@ bool IsPossible(const Unknown& unknown, const Route& route, const Names& names) 
                      [&](Name name) { return name == unknown.input || Contains(names, name); });
 }
 
+/// Whether such a design may ask for the assurance of its sizes, with the route of their half-width.
+bool IsAssurancePossible(const Test& test, const Route& route, const Names& names) {
+  if (!test.offers.assurance || route.question != Question::HalfWidth) return false;
+  if (!Contains(names, "solve") || !Contains(names, "half-width")) return false;
+  return std::all_of(route.needs.begin(), route.needs.end(), [&](Name name) { return Contains(names, name); });
+}
+
 /// The results that designs with values for these parameters may have.
 std::vector<ResultColumn> PossibleResults(const Test& test, const std::vector<const Parameter*>& parameters) {
   Names names;
@@ -49,12 +56,24 @@ std::vector<ResultColumn> PossibleResults(const Test& test, const std::vector<co
   std::vector<ResultColumn> results;
   for (const Route& route : test.routes) {
     const auto add = [&](const Unknown* unknown) {
-      const bool mayBeUneven = test.unevenness != nullptr;
-      for (ResultColumn& column : ResultColumns(test, route, unknown, mayBeUneven)) {
-        results.push_back(std::move(column));
+      Names offers;
+      std::copy_if(OfferedInputs().begin(), OfferedInputs().end(), std::back_inserter(offers),
+                   [&](Name name) { return Contains(names, name) && route.Takes(name); });
+      const bool mayBeUneven = test.unevenness || (Contains(offers, "assurance") && test.offers.lastingAssuredSizes);
+      // A row may leave out what is offered.
+      for (const Names& given : {Names{}, offers}) {
+        for (ResultColumn& column : ResultColumns(test, route, unknown, given, mayBeUneven)) {
+          results.push_back(std::move(column));
+        }
+        if (offers.empty()) break;
       }
     };
     if (IsPossible(route, names)) add(nullptr);
+    if (IsAssurancePossible(test, route, names)) {
+      for (ResultColumn& column : ResultColumns(test, route, nullptr, {"assurance"}, false)) {
+        results.push_back(std::move(column));
+      }
+    }
     for (const Unknown& unknown : test.unknowns) {
       if (IsPossible(unknown, route, names)) add(&unknown);
     }

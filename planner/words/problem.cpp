@@ -117,7 +117,8 @@ std::string Words::TooLarge() const {
 
 std::string Words::SizesNotFound() const {
   const std::string end = problem_.values.size() > 1 ? " up to " + Figure(1) : "";
-  return fmt::format("No sample size{} was found that reaches a {} of {}.", end, problem_.inputs[0], Figure(0));
+  const std::string how = problem_.words.empty() ? "" : problem_.words[0];
+  return fmt::format("No sample size{} was found that reaches a {} of {}{}.", end, problem_.inputs[0], Figure(0), how);
 }
 
 std::string Words::NothingUnknown() const {
@@ -253,6 +254,13 @@ std::string Words::Sentence() const {
     case Code::TargetNotReached: return TargetNotReached();
     case Code::TargetReachedAlways:
       return fmt::format("{} {} is reached whatever {} is.", Input(0), Figure(0), Input(1));
+    case Code::BelongsToSizesFound:
+      return fmt::format("{} goes with sizes that are found, so {} cannot be given as well.", Input(0), Input(1));
+    case Code::BeyondPowerLimit:
+      return fmt::format(
+          "{} {} is not reached by any sample size: with {} {} the expected power stays below {}, the probability that "
+          "the effect has the direction expected.",
+          Input(0), Figure(0), Input(1), Figure(1), Rounded(2));
     case Code::SizesNotFound: return SizesNotFound();
     case Code::NotComputable:
       return fmt::format("These inputs have no answer: {} cannot be computed.", Wording(*problem_.question));

@@ -10,6 +10,7 @@
 
 #include "words/expand.h"
 #include "words/numbers.h"
+#include "words/on_plan.h"
 
 namespace planner {
 namespace {
@@ -58,6 +59,11 @@ double NumberOf(const Answer& answer) {
   return isList ? answer.inputs.List(name).front() : answer.inputs.Number(name);
 }
 
+std::string Confidence(const Inputs& inputs) {
+  // A level that is divided may have no end of digits.
+  return fmt::format("{:.{}g}%", 100 * (1 - inputs.Alpha()), inputs.Has("comparisons") ? 6 : 10);
+}
+
 /// Gives the words of a sentence's braces.
 class Words {
 public:
@@ -78,7 +84,8 @@ private:
     if (name == "half-width") return ShownHalfWidth(answer_.value);
     if (name == "target-power") return Shortest(inputs_.Number("power"));
     if (name == "target-half-width") return Shortest(inputs_.Number("half-width"));
-    if (name == "confidence") return fmt::format("{:.10g}%", 100 * (1 - inputs_.Alpha()));
+    if (name == "alpha" && inputs_.Has("comparisons")) return fmt::format("{:.4g}", inputs_.Alpha());
+    if (name == "confidence") return Confidence(inputs_);
     for (const Phrase& phrase : test_.phrases) {
       if (phrase.name == name) return OfPhrase(phrase);
     }
@@ -154,8 +161,6 @@ bool IsTaken(const Answer& answer, const Names& needs) {
                      [&](Name name) { return answer.inputs.Has(name) && answer.route->Takes(name); });
 }
 
-std::string Confidence(const Inputs& inputs) { return fmt::format("{:.10g}%", 100 * (1 - inputs.Alpha())); }
-
 std::vector<Entry> AssumptionEntries(const Answer& answer) {
   std::vector<Entry> entries;
   for (const Assumption& assumption : answer.test->assumptions) {
@@ -176,10 +181,19 @@ double FigureOf(const Answer& answer, const Derived* derived) {
   return std::numeric_limits<double>::quiet_NaN();
 }
 
+/// Those found, those from which on all reach the target, or what the circumstances of the study make of them.
+Numbers SizesOf(const Answer& answer, const ResultColumn& column) {
+  if (column.isLasting) return answer.lastingSizes;
+  return column.planned == Planned::None ? answer.sizes : PlannedSizes(column.planned, answer.inputs, answer.sizes);
+}
+
 double ResultOf(const Answer& answer, const ResultColumn& column) {
+  if (column.planned == Planned::Assurance) return answer.assurance;
+  const std::optional<double> planned = PlannedFigure(column.planned, *answer.test, answer.inputs);
+  if (planned) return *planned;
   switch (column.reading) {
     case Reading::Figure: return column.derived ? FigureOf(answer, column.derived) : NumberOf(answer);
-    case Reading::Size: return TotalOf(column.isLasting ? answer.lastingSizes : answer.sizes);
+    case Reading::Size: return TotalOf(SizesOf(answer, column));
     case Reading::Sizes: break;
     case Reading::Power:
     case Reading::HalfWidth: return answer.value;
@@ -189,10 +203,10 @@ double ResultOf(const Answer& answer, const ResultColumn& column) {
 
 std::vector<Entry> ResultEntries(const Answer& answer) {
   std::vector<Entry> entries;
-  for (const ResultColumn& column :
-       ResultColumns(*answer.test, *answer.route, answer.unknown, !answer.lastingSizes.empty())) {
+  for (const ResultColumn& column : ResultColumns(*answer.test, *answer.route, answer.unknown, OffersOf(answer.inputs),
+                                                  !answer.lastingSizes.empty())) {
     if (column.reading == Reading::Sizes) {
-      const Numbers& sizes = column.isLasting ? answer.lastingSizes : answer.sizes;
+      const Numbers sizes = SizesOf(answer, column);
       entries.push_back({column.name, column.label, sizes, ShownSizes(sizes)});
       continue;
     }
@@ -227,14 +241,16 @@ std::vector<const Parameter*> ListedParameters(const Test& test, const Route& ro
     const Name name = parameter.name;
     if (!inputs.Has(name)) continue;
     if (unknown && name == unknown->input) continue;
-    if (!route.Takes(name) && name != target && name != Name("alpha")) continue;
+    const bool isWish = name == Name("half-width") && SolvesForAssurance(inputs);
+    if (!route.Takes(name) && name != target && name != Name("alpha") && !isWish) continue;
     listed.push_back(&parameter);
   }
   return listed;
 }
 
 std::string NameInReports(const Parameter& parameter, const Route& route, const Unknown* unknown) {
-  const bool isTarget = parameter.name == TargetOf(route, unknown);
+  const Names targets{"half-width", "assurance"};
+  const bool isTarget = parameter.name == TargetOf(route, unknown) || Contains(targets, parameter.name);
   return (isTarget ? "target-" : "") + std::string(parameter.name.Text());
 }
 
@@ -275,7 +291,8 @@ Report MakeReport(const Answer& answer) {
           .inputs = InputEntries(answer),
           .assumptions = AssumptionEntries(answer),
           .results = ResultEntries(answer),
-          .sentence = Words(answer).Of(SentenceOf(*answer.test, answer.Asked())) + OnUnevenness(answer),
+          .sentence = Words(answer).Of(InExpectation(answer, SentenceOf(*answer.test, answer.Asked()))) +
+                      OnAssurance(answer) + OnUnevenness(answer) + OnPlan(answer),
           .note = NoteOn(answer.Asked(), answer.inputs, answer.value)};
 }
 

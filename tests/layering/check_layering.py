@@ -7,7 +7,8 @@
 - The exports (src/exports) include those of all of them and kelpower.h. A folder of exports leaves the cores of other
   families alone.
 - A room of the planner (a folder of planner) includes the rooms that PLANNER_ROOMS names; the program includes the
-  planner's. Of the library they include the core: the catalogue its families and frame, solve its frame.
+  planner's. Of the library they include the core: the catalogue its families and frame, solve its frame and the
+  effect of a design.
 - The C interface (capi) includes its own headers and the planner's. Nothing of the product includes it.
 """
 
@@ -21,11 +22,14 @@ SOURCES = {".h", ".hpp", ".cpp", ".in"}
 
 FAMILIES = {"anova", "correlation", "effects", "means", "proportions", "regression"}
 
+# The core around the tests: widths that are assured, and powers over an uncertain effect.
+AROUND_TESTS = {"assurance", "expected_power"}
+
 # What each room of the planner may include besides itself: other rooms, and folders of the core.
 PLANNER_ROOMS = {
     "model": set(),
-    "catalogue": {"model", "frame"} | FAMILIES,
-    "solve": {"model", "frame"},
+    "catalogue": {"model", "frame"} | FAMILIES | AROUND_TESTS,
+    "solve": {"model", "frame", "design_effect"},
     "words": {"model", "solve", "catalogue"},
     "pictures": {"model", "solve"},
 }

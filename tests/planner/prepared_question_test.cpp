@@ -51,6 +51,21 @@ TEST(PreparedQuestion, TakesNoMemoryForARow) {
   EXPECT_EQ(allocations, before);
 }
 
+TEST(PreparedQuestion, TakesNoMemoryForARowOfClusters) {
+  PreparedQuestion question(*FindTest("two-means"), {{"means", Numbers{52, 47}},
+                                                     {"sd", Numbers{10, 14}},
+                                                     {"n", Numbers{40, 60}},
+                                                     {"cluster-size", 20.0},
+                                                     {"icc", 0.05},
+                                                     {"comparisons", 3.0}});
+  question.SetColumns({{"means", 0}, {"n", 1}, {"icc"}});
+  Numbers row{50, 60, 0.01};
+  question.Evaluate(row);
+  const std::size_t before = allocations;
+  for (row[0] = 50; row[0] < 60; row[0] += 1) EXPECT_EQ(question.Evaluate(row).status, RowStatus::Answered);
+  EXPECT_EQ(allocations, before);
+}
+
 // Rows may share what an exact test computes once: its regions at given sizes and level.
 TEST(PreparedQuestion, KeepsOfAnExactTestOnlyWhatItsDesignsShare) {
   PreparedQuestion question(*FindTest("two-proportions"),
