@@ -38,43 +38,20 @@ std::ptrdiff_t StrideOf(const std::ptrdiff_t* strides, std::size_t i) {
   return strides ? strides[i] : static_cast<std::ptrdiff_t>(sizeof(double));
 }
 
-bool HasAll(const planner::Inputs& inputs, const planner::Names& names) {
-  return std::all_of(names.begin(), names.end(), [&](planner::Name name) { return inputs.Has(name); });
-}
-
 std::vector<BatchResult> ResultsOf(const planner::PreparedQuestion& question) {
   std::vector<BatchResult> results;
-  const planner::Inputs& design = question.Design();
-  for (const planner::ResultColumn& column : planner::ResultColumns(question.AskedTest(), question.ChosenRoute(),
-                                                                    question.SolvedFor(), question.IsUneven())) {
+  for (const planner::ResultColumn& column : planner::ResultColumnsOf(question)) {
     const bool isOfGroups = column.reading == Reading::Sizes;
-    const auto entries = isOfGroups ? static_cast<std::size_t>(design.Groups()) : 1;
-    const bool hasFigure = column.derived && HasAll(design, column.derived->needs);
-    for (std::size_t entry = 0; entry < entries; ++entry) results.push_back({column, entry, hasFigure});
+    const auto entries = isOfGroups ? static_cast<std::size_t>(question.Design().Groups()) : 1;
+    for (std::size_t entry = 0; entry < entries; ++entry) results.push_back({column, entry});
   }
   return results;
 }
 
-const planner::Numbers& SizesOf(const planner::PreparedQuestion& question, const planner::ResultColumn& column) {
-  return column.isLasting ? question.LastingSizes() : question.SizesOfAnswer();
-}
-
-double FigureOf(const planner::PreparedQuestion& question, const BatchResult& result) {
-  if (!result.column.derived) return question.FoundUnknown();
-  return result.hasFigure ? result.column.derived->call(question.Design()) : none;
-}
-
 double ValueOf(const planner::PreparedQuestion& question, const BatchResult& result, double value) {
-  switch (result.column.reading) {
-    case Reading::Figure: return FigureOf(question, result);
-    case Reading::Power:
-    case Reading::HalfWidth: return value;
-    case Reading::Sizes:
-    case Reading::Size: break;
-  }
-  const planner::Numbers& sizes = SizesOf(question, result.column);
-  if (result.entry >= sizes.size()) return none;
-  return result.column.reading == Reading::Size ? planner::TotalOf(sizes) : sizes[result.entry];
+  if (result.column.reading != Reading::Sizes) return planner::NumberOf(question, result.column, value);
+  const planner::Numbers sizes = planner::SizesOf(question, result.column);
+  return result.entry < sizes.size() ? sizes[result.entry] : none;
 }
 
 /// Of an unknown without an answer the whole question tells whether the inputs are at fault.

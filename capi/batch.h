@@ -9,16 +9,14 @@
 #include "batch_columns.h"
 #include "kelplan.h"
 #include "request.h"
-#include "solve/prepared_question.h"
-#include "solve/results.h"
+#include "solve/row_results.h"
 
 namespace kelplan {
 
 /// A number of each row that is answered.
 struct BatchResult {
   planner::ResultColumn column;
-  std::size_t entry = 0;   // of sizes, one for each group
-  bool hasFigure = false;  // of a figure that follows from inputs: whether these are there
+  std::size_t entry = 0;  // of sizes, one for each group
 };
 
 /// Where a call of a batch reads and writes.

@@ -5,7 +5,7 @@
 
 #include "model/problem.h"
 #include "solve/design_solver.h"
-#include "solve/results.h"
+#include "solve/row_results.h"
 #include "words/problem_json.h"
 #include "words/report.h"
 #include "words/report_json.h"
@@ -78,8 +78,7 @@ private:
   void WriteColumns() {
     json_.Key("columns");
     json_.OpenArray();
-    for (const planner::ResultColumn& column : planner::ResultColumns(designs_.AskedTest(), question_.ChosenRoute(),
-                                                                      question_.SolvedFor(), question_.IsUneven())) {
+    for (const planner::ResultColumn& column : planner::ResultColumnsOf(question_)) {
       json_.OpenObject();
       json_.Key("name");
       json_.Name(column.name);

@@ -1,7 +1,6 @@
 #include "solve/design_solver.h"
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 #include "solve/solve.h"
@@ -11,8 +10,6 @@ namespace {
 
 // A file may have as many shapes as designs; beyond this all are prepared anew.
 constexpr std::size_t mostShapes = 256;
-
-constexpr double none = std::numeric_limits<double>::quiet_NaN();
 
 bool AreInOrder(const std::vector<std::size_t>& sources) {
   for (std::size_t i = 0; i < sources.size(); ++i) {
@@ -24,9 +21,7 @@ bool AreInOrder(const std::vector<std::size_t>& sources) {
 }  // namespace
 
 DesignSolver::Shape::Shape(const DesignRow& row, StopRequest* stop)
-    : question(row.AskedTest(), row.Values(), stop),
-      columns(ResultColumns(row.AskedTest(), question.ChosenRoute(), question.SolvedFor(), OffersOf(question.Design()),
-                            question.IsUneven())) {
+    : question(row.AskedTest(), row.Values(), stop), columns(ResultColumnsOf(question)) {
   std::vector<Column> inputs;
   for (const auto& [parameter, first, count] : row.NumbersGiven()) {
     if (parameter->name == Name("groups")) continue;
@@ -38,10 +33,6 @@ DesignSolver::Shape::Shape(const DesignRow& row, StopRequest* stop)
   }
   if (AreInOrder(sources) && sources.size() == row.AllNumbers().size()) sources.clear();
   question.SetColumns(std::move(inputs));
-  for (const ResultColumn& column : columns) {
-    const auto has = [&](Name name) { return question.Design().Has(name); };
-    hasFigure.push_back(column.derived && std::all_of(column.derived->needs.begin(), column.derived->needs.end(), has));
-  }
 }
 
 const DesignAnswer& DesignSolver::Solve(const DesignRow& row) {
@@ -88,30 +79,13 @@ Row DesignSolver::Evaluate(Shape& shape, const DesignRow& row) {
 void DesignSolver::Collect(Shape& shape, double value) {
   PreparedQuestion& question = shape.question;
   question.TakeUnknown();
-  const Inputs& inputs = question.Design();
   answer_.problem.reset();
   answer_.shape = shape.number;
   answer_.columns = &shape.columns;
   answer_.question = &question;
   answer_.value = value;
   answer_.values.clear();
-  for (std::size_t i = 0; i < shape.columns.size(); ++i) {
-    const ResultColumn& column = shape.columns[i];
-    if (const std::optional<double> figure = question.Figure(column.planned)) {
-      answer_.values.push_back(*figure);
-      continue;
-    }
-    switch (column.reading) {
-      case Reading::Figure:
-        if (!column.derived) answer_.values.push_back(question.FoundUnknown());
-        if (column.derived) answer_.values.push_back(shape.hasFigure[i] ? column.derived->call(inputs) : none);
-        break;
-      case Reading::Sizes: answer_.values.push_back(none); break;
-      case Reading::Size: answer_.values.push_back(TotalOf(answer_.SizesOf(column))); break;
-      case Reading::Power:
-      case Reading::HalfWidth: answer_.values.push_back(value); break;
-    }
-  }
+  for (const ResultColumn& column : shape.columns) answer_.values.push_back(NumberOf(question, column, value));
 }
 
 void DesignSolver::Refuse(Problem problem) {

@@ -10,7 +10,7 @@
 #include "model/problem.h"
 #include "solve/design_row.h"
 #include "solve/prepared_question.h"
-#include "solve/results.h"
+#include "solve/row_results.h"
 
 namespace planner {
 
@@ -26,11 +26,7 @@ struct DesignAnswer {
   bool IsAnswered() const { return !problem; }
 
   /// In place of the value of a column of sizes.
-  Numbers SizesOf(const ResultColumn& column) const {
-    if (column.isLasting) return question->LastingSizes();
-    const Numbers& sizes = question->SizesOfAnswer();
-    return column.planned == Planned::None ? sizes : PlannedSizes(column.planned, question->Design(), sizes);
-  }
+  Numbers SizesOf(const ResultColumn& column) const { return planner::SizesOf(*question, column); }
 };
 
 /// Answers designs of any tests, one after another. What designs of one shape share is prepared once, so that an answer
@@ -49,7 +45,6 @@ private:
     PreparedQuestion question;
     std::vector<std::size_t> sources;  // of each column of the question, among the numbers of a row; empty for the same
     std::vector<ResultColumn> columns;
-    std::vector<bool> hasFigure;  // of each column of one, as far as the inputs tell
     std::size_t number = 0;
   };
 

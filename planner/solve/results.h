@@ -26,6 +26,7 @@ struct ResultColumn {
   const Derived* derived = nullptr;  // of a figure; null for the number that is solved for
   bool isLasting = false;            // of sizes: those from which on all reach the target
   Planned planned = Planned::None;   // what the circumstances of the study add
+  bool isTold = true;                // of a derived figure: whether the inputs of the design tell it
 };
 
 /// The results of the route's answers, in the order of a report. `unknown` is what is solved for with the route, or

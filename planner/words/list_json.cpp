@@ -91,7 +91,7 @@ void WriteRoute(JsonWriter& json, const Test& test, const Route& route) {
   json.Text("question", WordOf(route.question));
   WriteNames(json, "needs", route.needs);
   WriteNames(json, "accepts", route.accepts);
-  WriteList(json, "results", ResultColumns(test, route, nullptr, test.unevenness != nullptr),
+  WriteList(json, "results", ResultColumns(test, route, nullptr, {}, test.unevenness != nullptr),
             [&](const ResultColumn& column) { WriteResult(json, column); });
   json.Text("export", route.exportName);
   if (!route.oneSidedExport.empty()) json.Text("one-sided-export", route.oneSidedExport);

@@ -30,8 +30,7 @@ void TableOfDesigns::FindColumns() {
     designs_.Fill(i, row);
     try {
       const PreparedQuestion question(designs_.AskedTest(), row.Values());
-      results_ = ResultColumns(designs_.AskedTest(), question.ChosenRoute(), question.SolvedFor(),
-                               OffersOf(question.Design()), question.IsUneven());
+      results_ = ResultColumnsOf(question);
       return ListInputs(question);
     } catch (const InputError& error) {
       if (!first) first = error;

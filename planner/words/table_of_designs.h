@@ -8,8 +8,7 @@
 
 #include "model/stop_request.h"
 #include "solve/designs.h"
-#include "solve/prepared_question.h"
-#include "solve/results.h"
+#include "solve/row_results.h"
 #include "words/problem.h"
 #include "words/render.h"
 

@@ -1,0 +1,40 @@
+#include "solve/row_results.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+
+namespace planner {
+
+std::vector<ResultColumn> ResultColumnsOf(const PreparedQuestion& question) {
+  std::vector<ResultColumn> columns = ResultColumns(question.AskedTest(), question.ChosenRoute(), question.SolvedFor(),
+                                                    OffersOf(question.Design()), question.IsUneven());
+  const auto has = [&](Name name) { return question.Design().Has(name); };
+  for (ResultColumn& column : columns) {
+    column.isTold = !column.derived || std::all_of(column.derived->needs.begin(), column.derived->needs.end(), has);
+  }
+  return columns;
+}
+
+Numbers SizesOf(const PreparedQuestion& question, const ResultColumn& column) {
+  if (column.isLasting) return question.LastingSizes();
+  const Numbers& sizes = question.SizesOfAnswer();
+  return column.planned == Planned::None ? sizes : PlannedSizes(column.planned, question.Design(), sizes);
+}
+
+double NumberOf(const PreparedQuestion& question, const ResultColumn& column, double value) {
+  constexpr double none = std::numeric_limits<double>::quiet_NaN();
+  if (const std::optional<double> figure = question.Figure(column.planned)) return *figure;
+  switch (column.reading) {
+    case Reading::Figure:
+      if (!column.derived) return question.FoundUnknown();
+      return column.isTold ? column.derived->call(question.Design()) : none;
+    case Reading::Sizes: return none;
+    case Reading::Size: return TotalOf(column.isLasting ? question.LastingSizes() : question.SizesOfAnswer());
+    case Reading::Power:
+    case Reading::HalfWidth: return value;
+  }
+  return none;
+}
+
+}  // namespace planner
