@@ -22,6 +22,15 @@ Numbers SizesOf(const PreparedQuestion& question, const ResultColumn& column) {
   return column.planned == Planned::None ? sizes : PlannedSizes(column.planned, question.Design(), sizes);
 }
 
+namespace {
+
+double TotalSize(const PreparedQuestion& question, const ResultColumn& column) {
+  if (column.planned != Planned::None) return TotalOf(SizesOf(question, column));
+  return TotalOf(column.isLasting ? question.LastingSizes() : question.SizesOfAnswer());
+}
+
+}  // namespace
+
 double NumberOf(const PreparedQuestion& question, const ResultColumn& column, double value) {
   constexpr double none = std::numeric_limits<double>::quiet_NaN();
   if (const std::optional<double> figure = question.Figure(column.planned)) return *figure;
@@ -30,7 +39,7 @@ double NumberOf(const PreparedQuestion& question, const ResultColumn& column, do
       if (!column.derived) return question.FoundUnknown();
       return column.isTold ? column.derived->call(question.Design()) : none;
     case Reading::Sizes: return none;
-    case Reading::Size: return TotalOf(column.isLasting ? question.LastingSizes() : question.SizesOfAnswer());
+    case Reading::Size: return TotalSize(question, column);
     case Reading::Power:
     case Reading::HalfWidth: return value;
   }

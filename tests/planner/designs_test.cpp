@@ -97,30 +97,50 @@ TEST(Designs, AreAMillionAtMost) {
   EXPECT_THROW(Designs(*FindTest("mean"), {{&d, thousand}, {&n, more}}), InputError);
 }
 
-// Row after row, by the same solver, the answers are those of the whole question, with the same names.
+/// Checks that a row has the results of the whole question, with the same names.
+void CheckRow(DesignSolver& solver, const planner::Test& test, const InputValues& values) {
+  const DesignAnswer& answer = solver.Solve(RowOf(test, values));
+  ASSERT_TRUE(answer.IsAnswered());
+  const Report report = Solved(test, values);
+  std::size_t entry = 0;
+  for (std::size_t i = 0; i < answer.columns->size(); ++i) {
+    const ResultColumn& column = (*answer.columns)[i];
+    const bool isSizes = column.reading == Reading::Sizes;
+    if (!isSizes && std::isnan(answer.values[i])) continue;
+    ASSERT_LT(entry, report.results.size());
+    const Entry& said = report.results[entry++];
+    EXPECT_EQ(column.name, said.name);
+    EXPECT_EQ(column.label, said.label);
+    EXPECT_EQ(isSizes ? Value(answer.SizesOf(column)) : Value(answer.values[i]), said.value) << column.name;
+  }
+  EXPECT_EQ(entry, report.results.size());
+}
+
+// Row after row, by the same solver, the answers are those of the whole question.
 TEST(DesignSolver, AnswersEveryExampleAsTheQuestionItself) {
   DesignSolver solver;
   for (int round = 0; round < 2; ++round) {
     for (const planner::Test& test : Tests()) {
       for (const Example& example : test.examples) {
-        const InputValues values = ValuesOf(test, example);
-        const DesignAnswer& answer = solver.Solve(RowOf(test, values));
-        ASSERT_TRUE(answer.IsAnswered()) << example.arguments;
-        const Report report = Solved(test, values);
-        std::size_t entry = 0;
-        for (std::size_t i = 0; i < answer.columns->size(); ++i) {
-          const ResultColumn& column = (*answer.columns)[i];
-          const bool isSizes = column.reading == Reading::Sizes;
-          if (!isSizes && std::isnan(answer.values[i])) continue;
-          ASSERT_LT(entry, report.results.size()) << example.arguments;
-          const Entry& said = report.results[entry++];
-          EXPECT_EQ(column.name, said.name);
-          EXPECT_EQ(column.label, said.label);
-          EXPECT_EQ(isSizes ? Value(answer.SizesOf(column)) : Value(answer.values[i]), said.value) << example.arguments;
-        }
-        EXPECT_EQ(entry, report.results.size()) << example.arguments;
+        SCOPED_TRACE(example.arguments);
+        CheckRow(solver, test, ValuesOf(test, example));
       }
     }
+  }
+}
+
+TEST(DesignSolver, TellsWhatAStudyPlansForAsTheQuestionItself) {
+  DesignSolver solver;
+  for (const std::string arguments :
+       {"two-means --effect-d 0.5 --power 0.8 --dropout 0.15 --cluster-size 20 --icc 0.05",
+        "two-means --effect-d 0.5 --power 0.8 --comparisons 3 --dropout 0.2",
+        "two-proportions --proportions 0.3,0.5 --n 60 --cluster-size 10 --icc 0.02 --cluster-cv 0.4",
+        "mean --sd 10 --half-width 2 --population 500", "mean --sd 10 --half-width 2 --assurance 0.9",
+        "proportion --proportion 0.3 --half-width 0.1 --assurance 0.9 --dropout 0.1",
+        "mean --effect-d 0.4 --effect-sd 0.1 --power 0.8"}) {
+    SCOPED_TRACE(arguments);
+    const planner::Test& test = *FindTest(arguments.substr(0, arguments.find(' ')));
+    CheckRow(solver, test, ValuesTyped(test, arguments));
   }
 }
 
