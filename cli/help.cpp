@@ -6,7 +6,8 @@
 
 #include "catalogue/catalogue.h"
 #include "catalogue/effects.h"
-#include "solve/axes.h"
+#include "help_charts.h"
+#include "help_usage.h"
 #include "words/expand.h"
 #include "words/numbers.h"
 #include "words/parse.h"
@@ -56,126 +57,6 @@ std::string Details(const Test& test, const Parameter& parameter) {
   return text + ")";
 }
 
-/// What stands for the value of an option in usage lines.
-struct Placeholder {
-  std::string_view input;
-  std::string_view text;
-};
-
-constexpr Placeholder placeholders[] = {
-    {"means", "M1,M2"},
-    {"mean", "M"},
-    {"mean-difference", "D"},
-    {"test-value", "M0"},
-    {"sd", "SD"},
-    {"sds", "SD1,SD2"},
-    {"sd-difference", "SD"},
-    {"effect-d", "D"},
-    {"effect-f", "F"},
-    {"effect-f2", "F2"},
-    {"eta-squared", "ETA2"},
-    {"n", "N"},
-    {"ratio", "R"},
-    {"ratios", "R1,R2,R3"},
-    {"groups", "K"},
-    {"coefficients", "C1,C2,C3"},
-    {"pair", "I,J"},
-    {"power", "POWER"},
-    {"half-width", "W"},
-    {"alpha", "ALPHA"},
-    {"proportion", "P"},
-    {"null", "VALUE0"},
-    {"proportions", "P1,P2"},
-    {"proportion1", "P1"},
-    {"proportion2", "P2"},
-    {"risk-difference", "RD"},
-    {"risk-ratio", "RR"},
-    {"odds-ratio", "OR"},
-    {"p12", "P12"},
-    {"p21", "P21"},
-    {"correlation", "RHO"},
-    {"r", "R"},
-    {"r-squared", "R2"},
-    {"r-squared-reduced", "R2"},
-    {"predictors", "K"},
-    {"tested", "Q"},
-    {"partialled-out", "K"},
-    {"t", "T"},
-    {"f-statistic", "F"},
-    {"df", "DF"},
-    {"hedges-g", "G"},
-    {"superiority", "P"},
-    {"correlations", "R1,R2"},
-    {"effect-q", "Q"},
-    {"effect-h", "H"},
-    {"events", "E1,E2"},
-    {"counts", "A,B,C,D"},
-    {"confidence", "C"},
-};
-
-std::string PlaceholderOf(const Test& test, Name name) {
-  const Parameter& parameter = *FindParameter(test, name);
-  if (parameter.kind == Kind::Flag) return "";
-  const bool isOfManyGroups = test.groups == groupsFromInputs && name == Name("means");
-  if (isOfManyGroups) return " M1,M2,M3";
-  for (const auto& [input, text] : placeholders) {
-    if (input == name.Text()) return fmt::format(" {}", text);
-  }
-  return parameter.kind == Kind::Choice ? " WORD" : parameter.IsList() ? " X1,X2" : " X";
-}
-
-/// "--means M1,M2 --sd SD --n N", with what may be given besides in brackets.
-std::string Usage(const Test& test, const Route& route) {
-  std::string text = "kelpower " + test.name;
-  const auto given = [&](Name name) { return Option(name) + PlaceholderOf(test, name); };
-  const std::optional<Name> asker = AskedBy(route.question);
-  for (Name need : route.needs) text += ' ' + given(need);
-  if (asker) text += ' ' + given(*asker);
-  for (Name input : route.accepts) {
-    if (input != asker && !Contains(OfferedInputs(), input)) text += fmt::format(" [{}]", given(input));
-  }
-  return text;
-}
-
-const char* HeadingOf(Question question) {
-  switch (question) {
-    case Question::Power: return "Power of a design";
-    case Question::SampleSize: return "Sample size for a power";
-    case Question::HalfWidth: return "Half-width of the confidence interval of a design";
-    case Question::SampleSizeForHalfWidth: return "Sample size for a half-width";
-    case Question::EffectSizes: return "What you have";
-  }
-  return "";
-}
-
-/// The commonest call: it asks for the sizes.
-const Example& FirstExample(const Test& test) {
-  const auto asksForSizes = [](const Example& example) {
-    const bool hasSizes = example.arguments.find(" --n ") != std::string::npos;
-    return !hasSizes && example.arguments.find(" --power ") != std::string::npos;
-  };
-  const auto found = std::find_if(test.examples.begin(), test.examples.end(), asksForSizes);
-  return found == test.examples.end() ? test.examples.front() : *found;
-}
-
-std::string ExampleText(const Example& example) {
-  return fmt::format("  kelpower {}\n    {}\n", example.arguments, example.sentence);
-}
-
-std::string UsageSection(const Test& test, const Highlights& highlights) {
-  std::string text;
-  for (Question question :
-       {Question::Power, Question::SampleSize, Question::HalfWidth, Question::SampleSizeForHalfWidth}) {
-    if (!Answers(test, question)) continue;
-    text += fmt::format("{}{}{}\n", highlights.heading, HeadingOf(question), highlights.end);
-    for (const Route& route : test.routes) {
-      if (route.question == question) text += "  " + Usage(test, route) + '\n';
-    }
-    text += '\n';
-  }
-  return text;
-}
-
 /// How the remaining number of a design is asked for.
 std::string UnknownSection(const Test& test, const Highlights& highlights) {
   if (test.unknowns.empty()) return "";
@@ -199,44 +80,6 @@ std::string TableSection(const Test& test, const Highlights& highlights) {
       "to, step):\n  all combinations are answered as one table. \"kelpower run FILE\" answers a file of designs.\n"
       "  kelpower {}\n\n",
       highlights.heading, highlights.end, CallOfTable(test));
-}
-
-/// Where the usual range of an axis goes, in few words.
-std::string UsualRange(const Axis& axis) {
-  if (axis.isOfSizes) return "from the smallest";
-  if (axis.usual) return fmt::format("{} to {}", axis.usual->from, axis.usual->to);
-  return "";
-}
-
-std::string AxisLine(const Axis& axis, std::size_t width) {
-  const std::string usual = UsualRange(axis);
-  return fmt::format("  {:<{}}  {}{}\n", axis.name, width, axis.title, usual.empty() ? "" : ", " + usual);
-}
-
-/// The design of the first example, which a chart can draw.
-std::string DesignOfExample(const Test& test) { return test.examples.front().arguments; }
-
-std::string ChartSection(const Test& test, const Highlights& highlights) {
-  const std::vector<Axis> axes = AllAxes(test);
-  std::size_t width = 0;
-  for (const Axis& axis : axes) width = std::max(width, axis.name.size());
-  std::string text = fmt::format("\n{}Charts{}\n", highlights.heading, highlights.end);
-  text +=
-      "  --chart AXIS draws the power (with --interval the half-width) over one of these axes, and --chart AXIS-AXIS\n"
-      "  the power over two of them:\n";
-  for (const Axis& axis : axes) text += AxisLine(axis, width);
-  return text +
-         fmt::format(
-             "  The usual range goes from a power near alpha to one of 0.99, with the design inside.\n"
-             "  Give the design by its sizes, or by --power to draw it at the sizes found. One option may have\n"
-             "  several values, by repeating it or as in --alpha 0.01,0.05, for a curve each.\n"
-             "  --y n                      the sizes that reach --power or --half-width, over any other axis\n"
-             "  --from NUMBER --to NUMBER  ends of the axis; of two axes, two numbers each: --from 12,2\n"
-             "  --step NUMBER              step between points, as a share of the range; whole numbers go by ones\n"
-             "  --output FILE              .svg, .png, .pdf, .csv or .json; without it drawn in characters\n"
-             "  --title TEXT  --width PIXELS  --height PIXELS  --dpi NUMBER (of .png)\n"
-             "  kelpower {} --chart {}\n",
-             DesignOfExample(test), axes.front().name);
 }
 
 std::size_t OptionWidth(const Test& test) {

@@ -1,0 +1,133 @@
+#include "help_usage.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <optional>
+#include <string_view>
+
+#include "help.h"
+
+using namespace planner;
+
+namespace {
+
+/// What stands for the value of an option in usage lines.
+struct Placeholder {
+  std::string_view input;
+  std::string_view text;
+};
+
+constexpr Placeholder placeholders[] = {
+    {"means", "M1,M2"},
+    {"mean", "M"},
+    {"mean-difference", "D"},
+    {"test-value", "M0"},
+    {"sd", "SD"},
+    {"sds", "SD1,SD2"},
+    {"sd-difference", "SD"},
+    {"effect-d", "D"},
+    {"effect-f", "F"},
+    {"effect-f2", "F2"},
+    {"eta-squared", "ETA2"},
+    {"n", "N"},
+    {"ratio", "R"},
+    {"ratios", "R1,R2,R3"},
+    {"groups", "K"},
+    {"coefficients", "C1,C2,C3"},
+    {"pair", "I,J"},
+    {"power", "POWER"},
+    {"half-width", "W"},
+    {"alpha", "ALPHA"},
+    {"proportion", "P"},
+    {"null", "VALUE0"},
+    {"proportions", "P1,P2"},
+    {"proportion1", "P1"},
+    {"proportion2", "P2"},
+    {"risk-difference", "RD"},
+    {"risk-ratio", "RR"},
+    {"odds-ratio", "OR"},
+    {"p12", "P12"},
+    {"p21", "P21"},
+    {"correlation", "RHO"},
+    {"r", "R"},
+    {"r-squared", "R2"},
+    {"r-squared-reduced", "R2"},
+    {"predictors", "K"},
+    {"tested", "Q"},
+    {"partialled-out", "K"},
+    {"t", "T"},
+    {"f-statistic", "F"},
+    {"df", "DF"},
+    {"hedges-g", "G"},
+    {"superiority", "P"},
+    {"correlations", "R1,R2"},
+    {"effect-q", "Q"},
+    {"effect-h", "H"},
+    {"events", "E1,E2"},
+    {"counts", "A,B,C,D"},
+    {"confidence", "C"},
+};
+
+std::string PlaceholderOf(const Test& test, Name name) {
+  const Parameter& parameter = *FindParameter(test, name);
+  if (parameter.kind == Kind::Flag) return "";
+  const bool isOfManyGroups = test.groups == groupsFromInputs && name == Name("means");
+  if (isOfManyGroups) return " M1,M2,M3";
+  for (const auto& [input, text] : placeholders) {
+    if (input == name.Text()) return fmt::format(" {}", text);
+  }
+  return parameter.kind == Kind::Choice ? " WORD" : parameter.IsList() ? " X1,X2" : " X";
+}
+
+}  // namespace
+
+std::string Usage(const Test& test, const Route& route) {
+  std::string text = "kelpower " + test.name;
+  const auto given = [&](Name name) { return OptionOf(name.Text()) + PlaceholderOf(test, name); };
+  const std::optional<Name> asker = AskedBy(route.question);
+  for (Name need : route.needs) text += ' ' + given(need);
+  if (asker) text += ' ' + given(*asker);
+  for (Name input : route.accepts) {
+    if (input != asker && !Contains(OfferedInputs(), input)) text += fmt::format(" [{}]", given(input));
+  }
+  return text;
+}
+
+const char* HeadingOf(Question question) {
+  switch (question) {
+    case Question::Power: return "Power of a design";
+    case Question::SampleSize: return "Sample size for a power";
+    case Question::HalfWidth: return "Half-width of the confidence interval of a design";
+    case Question::SampleSizeForHalfWidth: return "Sample size for a half-width";
+    case Question::EffectSizes: return "What you have";
+  }
+  return "";
+}
+
+const Example& FirstExample(const Test& test) {
+  const auto asksForSizes = [](const Example& example) {
+    const bool hasSizes = example.arguments.find(" --n ") != std::string::npos;
+    return !hasSizes && example.arguments.find(" --power ") != std::string::npos;
+  };
+  const auto found = std::find_if(test.examples.begin(), test.examples.end(), asksForSizes);
+  return found == test.examples.end() ? test.examples.front() : *found;
+}
+
+std::string ExampleText(const Example& example) {
+  return fmt::format("  kelpower {}\n    {}\n", example.arguments, example.sentence);
+}
+
+std::string UsageSection(const Test& test, const Highlights& highlights) {
+  std::string text;
+  for (Question question :
+       {Question::Power, Question::SampleSize, Question::HalfWidth, Question::SampleSizeForHalfWidth}) {
+    if (!Answers(test, question)) continue;
+    text += fmt::format("{}{}{}\n", highlights.heading, HeadingOf(question), highlights.end);
+    for (const Route& route : test.routes) {
+      if (route.question == question) text += "  " + Usage(test, route) + '\n';
+    }
+    text += '\n';
+  }
+  return text;
+}
