@@ -1,9 +1,7 @@
 #include "catalogue/correlation.h"
 
-#include <cmath>
-#include <utility>
-
 #include "catalogue/correlation_parameters.h"
+#include "model/chart.h"
 
 namespace planner {
 namespace {
@@ -78,32 +76,6 @@ Axis DifferenceAxis() {
           .scale = AllDifferences};
 }
 
-std::vector<Unknown> Unknowns() {
-  constexpr const char* reason = "Fisher's z grows with the correlation, and faster than its standard error";
-  return {
-      {.input = "r",
-       .target = Question::Power,
-       .trend = Trend::Rises,
-       .reason = reason,
-       .piece = [](const Inputs& in) -> Piece {
-         return {in.Number("null"), 1};
-       },
-       .pieceBelow = [](const Inputs& in) -> Piece {
-         return {-1, in.Number("null")};
-       }},
-      {.input = "null",
-       .target = Question::Power,
-       .trend = Trend::Falls,
-       .reason = reason,
-       .piece = [](const Inputs& in) -> Piece {
-         return {-1, in.Number("r")};
-       },
-       .pieceBelow = [](const Inputs& in) -> Piece {
-         return {in.Number("r"), 1};
-       }},
-  };
-}
-
 }  // namespace
 
 Test CorrelationTest(const CorrelationKind& kind) {
@@ -112,7 +84,7 @@ Test CorrelationTest(const CorrelationKind& kind) {
           .about = "Tests whether the " + kind.wording + " correlation of " + kind.definition + " is a given value.",
           .counted = "cases",
           .routes = Routes(kind),
-          .unknowns = Unknowns(),
+          .unknowns = UnknownsOfCorrelation(),
           .sizeExists = {CorrelationsDiffer()},
           .sentences = Sentences(kind),
           .axes = {DifferenceAxis()},

@@ -2,8 +2,8 @@
 #define KELPOWER_PLANNER_CATALOGUE_CORRELATION_H
 
 #include <string>
+#include <vector>
 
-#include "catalogue/axes.h"
 #include "model/test.h"
 
 namespace planner {
@@ -34,6 +34,8 @@ struct CorrelationKind {
 /// The description of the test of a correlation: routes, sentences and axes. The caller adds parameters, conditions and
 /// examples.
 Test CorrelationTest(const CorrelationKind& kind);
+
+std::vector<Unknown> UnknownsOfCorrelation();
 
 }  // namespace planner
 

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <optional>
 
 #include "catalogue/effects_inputs.h"
 #include "catalogue/effects_parts.h"
@@ -26,23 +27,6 @@ std::optional<EffectValue> GivenEtaSquared(const Inputs& in) {
 
 std::optional<EffectValue> GivenRSquared(const Inputs& in) {
   return WithInterval<core::EtaSquared>(in.Number("r-squared"), in);
-}
-
-std::optional<EffectValue> OmegaSquared(const Inputs& in) {
-  const std::optional<core::FStatistic> test = FTestOf(in);
-  if (!test) return std::nullopt;
-  const std::optional<core::Estimate> estimate = core::OmegaSquared(*test, in.Alpha());
-  if (!estimate) return std::nullopt;
-  return ValueOr(estimate, estimate->value);
-}
-
-/// R squared less its bias; the interval is that of R squared, which it estimates too.
-std::optional<EffectValue> AdjustedRSquared(const Inputs& in) {
-  const std::optional<core::FStatistic> test = FTestOf(in);
-  if (!test) return std::nullopt;
-  const double rSquared = core::EtaSquaredOfFSquared(FSquaredOf(in));
-  const double adjusted = 1 - (1 - rSquared) * ((test->size - 1) / test->df2);
-  return ValueOr(core::EtaSquared(*test, in.Alpha()), adjusted);
 }
 
 double Noncentrality(double fSquared, const Inputs& in) {
@@ -85,16 +69,7 @@ void AddEffectsFromFSquared(Effects& effects) {
                       .source = Cohen("9.2")});
   formulas.push_back(
       {.effect = "r-squared", .from = "f2", .map = share, .formula = "R2 = f2 / (1 + f2)", .source = Cohen("9.2")});
-  formulas.push_back({.effect = "omega-squared",
-                      .compute = OmegaSquared,
-                      .formula = "omega2 = df1 (F - 1) / (df1 (F - 1) + N); its interval is that of eta2",
-                      .source = "Olejnik and Algina (2003), Psychological Methods 8, 434-447",
-                      .note = "Omega squared is eta squared corrected for bias, and may be below 0."});
-  formulas.push_back({.effect = "adjusted-r-squared",
-                      .compute = AdjustedRSquared,
-                      .formula = "1 - (1 - R2) (n - 1) / (n - predictors - 1); its interval is that of R2",
-                      .source = "Ezekiel (1930), Methods of Correlation Analysis",
-                      .note = "Adjusted R squared is R squared corrected for bias, and may be below 0."});
+  AddCorrectedShares(effects);
   formulas.push_back({.effect = "noncentrality",
                       .from = "f2",
                       .map = Noncentrality,

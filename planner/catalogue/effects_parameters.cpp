@@ -58,25 +58,6 @@ void AddCorrelations(std::vector<Parameter>& parameters) {
        Number("effect-q", "effect size q", "Cohen's q: difference of two correlations as Fisher's z").Alias("q")});
 }
 
-void AddProportions(std::vector<Parameter>& parameters) {
-  parameters.insert(
-      parameters.end(),
-      {List("proportions", "proportions", "proportions in two groups").Length(2).AtLeast(0).AtMost(1),
-       List("events", "events", "numbers of people in two groups who had the event").Length(2).Whole().AtLeast(0),
-       List("counts", "counts", "a table of counts: with and without the event in the first group, then in the second")
-           .Length(4)
-           .Whole()
-           .AtLeast(0)
-           .AtMost(1e9),
-       Number("proportion1", "first proportion", "proportion in the first group, that of reference")
-           .AtLeast(0)
-           .AtMost(1),
-       Number("odds-ratio", "odds ratio", "odds in the second group over those in the first").Above(0),
-       Number("risk-ratio", "risk ratio", "second proportion over the first").AtLeast(0),
-       Number("risk-difference", "risk difference", "second proportion minus the first").AtLeast(-1).AtMost(1),
-       Number("effect-h", "effect size h", "Cohen's h: second proportion minus the first, as angles").Alias("h")});
-}
-
 }  // namespace
 
 std::vector<Parameter> ParametersOfEffects() {
@@ -85,7 +66,7 @@ std::vector<Parameter> ParametersOfEffects() {
   AddStatistics(parameters);
   AddEffects(parameters);
   AddCorrelations(parameters);
-  AddProportions(parameters);
+  AddParametersOfProportions(parameters);
   parameters.push_back(List("n", "sample size", "size of the study: of two groups one for each, or one that both have")
                            .Whole()
                            .AtLeast(1)

@@ -10,6 +10,7 @@
 namespace planner {
 
 std::vector<Parameter> ParametersOfEffects();
+void AddParametersOfProportions(std::vector<Parameter>& parameters);
 std::vector<Condition> ConditionsOfEffects();
 std::vector<Example> ExamplesOfEffects();
 void AddConditionsOfProportions(std::vector<Condition>& conditions);
@@ -19,6 +20,7 @@ void AddEffectsFromD(Effects& effects);
 void AddEffectsOfOneSample(Effects& effects);
 void AddEffectsOfVariance(Effects& effects);
 void AddEffectsFromFSquared(Effects& effects);
+void AddCorrectedShares(Effects& effects);
 void AddEffectsOfCorrelations(Effects& effects);
 void AddEffectsOfProportions(Effects& effects);
 void AddEffectsOfRatios(Effects& effects);

@@ -1,103 +1,20 @@
-#include <limits>
+#include "catalogue/mean.h"
+
 #include <utility>
 
-#include "catalogue/axes.h"
-#include "catalogue/core.h"
 #include "catalogue/mean_parameters.h"
 #include "catalogue/offers.h"
 #include "catalogue/tests.h"
-#include "catalogue/unknowns.h"
 #include "catalogue/words.h"
-#include "means/one_sample.h"
 
 namespace planner {
 namespace {
 
-namespace means = kelpower::means;
-
 double EffectSize(const Inputs& in) { return (in.Number("mean") - in.Number("test-value")) / in.Number("sd"); }
 
-double Effect(const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : EffectSize(in); }
-
-means::OneSampleDesign DesignOf(const Inputs& in) { return {Effect(in), SidesOf(in), in.Alpha()}; }
-
-double Power(const Inputs& in) { return OrNaN(means::Power(DesignOf(in), in.Number("n"))); }
-
-Numbers Size(const Inputs& in) { return RoundedUp(means::SizeForPower(DesignOf(in), in.Number("power"))); }
-
-means::MeanInterval IntervalOf(const Inputs& in) { return {in.Number("sd"), in.Alpha()}; }
-
-double HalfWidth(const Inputs& in) { return means::HalfWidth(IntervalOf(in), in.Number("n")); }
-
-Numbers SizeForHalfWidth(const Inputs& in) {
-  return RoundedUp(means::SizeForHalfWidth(IntervalOf(in), in.Number("half-width")));
-}
-
-std::vector<Route> Routes() {
-  return {
-      {.question = Question::Power,
-       .needs = {"mean", "sd", "n"},
-       .accepts = {"test-value", "one-sided"},
-       .exportName = "PowerOneSampleNondirectional",
-       .oneSidedExport = "PowerOneSampleDirectional",
-       .value = Power},
-      {.question = Question::Power,
-       .needs = {"effect-d", "n"},
-       .accepts = {"one-sided"},
-       .exportName = "PowerOneSampleNondirectionalES",
-       .oneSidedExport = "PowerOneSampleDirectionalES",
-       .value = Power},
-      {.question = Question::SampleSize,
-       .needs = {"mean", "sd"},
-       .accepts = {"test-value", "one-sided"},
-       .exportName = "PowerReverseOneSampleNondirectional",
-       .oneSidedExport = "PowerReverseOneSampleDirectional",
-       .sizes = Size},
-      {.question = Question::SampleSize,
-       .needs = {"effect-d"},
-       .accepts = {"one-sided"},
-       .exportName = "PowerReverseOneSampleNondirectionalES",
-       .oneSidedExport = "PowerReverseOneSampleDirectionalES",
-       .sizes = Size},
-      {.question = Question::HalfWidth, .needs = {"sd", "n"}, .exportName = "HalfCIOneSampleMeans", .value = HalfWidth},
-      {.question = Question::SampleSizeForHalfWidth,
-       .needs = {"sd"},
-       .exportName = "PowerReversebyHalfCIOneSampleMeans",
-       .sizes = SizeForHalfWidth},
-  };
-}
-
-std::vector<Unknown> Unknowns() {
-  constexpr double infinity = std::numeric_limits<double>::infinity();
-  constexpr const char* reason = "the noncentrality grows with the distance of the mean from the test value";
-  return {
-      UnknownEffectD(),
-      {.input = "mean",
-       .target = Question::Power,
-       .trend = Trend::Rises,
-       .reason = reason,
-       .piece = [](const Inputs& in) -> Piece {
-         return {in.Number("test-value"), infinity};
-       },
-       .pieceBelow = [](const Inputs& in) -> Piece {
-         return {-infinity, in.Number("test-value")};
-       }},
-      UnknownSd("sd"),
-      {.input = "test-value",
-       .target = Question::Power,
-       .trend = Trend::Falls,
-       .reason = reason,
-       .piece = [](const Inputs& in) -> Piece {
-         return {-infinity, in.Number("mean")};
-       },
-       .pieceBelow = [](const Inputs& in) -> Piece {
-         return {in.Number("mean"), infinity};
-       }},
-      UnknownSdOfInterval("sd"),
-  };
-}
-
 }  // namespace
+
+double EffectOfMean(const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : EffectSize(in); }
 
 Test MeanTest() {
   Test test{.name = "mean",
@@ -111,8 +28,8 @@ Test MeanTest() {
       SingleSize("observations in the sample"),
       OneSided(),
   };
-  test.routes = Routes();
-  test.unknowns = Unknowns();
+  test.routes = RoutesOfMean();
+  test.unknowns = UnknownsOfMean();
   test.sizeExists = {
       {.code = "no-effect",
        .about = {"mean", "test-value"},
@@ -124,7 +41,7 @@ Test MeanTest() {
       {.name = "effect-d", .label = "effect size d", .needs = {"mean", "test-value", "sd"}, .call = EffectSize},
   };
   test.offers = OffersOfMean();
-  test.effect = Effect;
+  test.effect = EffectOfMean;
   AddWordsOfMean(test);
   return WithCommonParameters(std::move(test));
 }

@@ -1,63 +1,18 @@
-#include <algorithm>
+#include "catalogue/two_means.h"
+
 #include <cmath>
-#include <limits>
 #include <utility>
 
 #include "catalogue/axes.h"
-#include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/mean_parameters.h"
 #include "catalogue/offers.h"
 #include "catalogue/tests.h"
 #include "catalogue/two_groups.h"
-#include "catalogue/unknowns.h"
 #include "catalogue/words.h"
-#include "means/independent.h"
 
 namespace planner {
 namespace {
-
-namespace means = kelpower::means;
-
-/// Equal standard deviations select the pooled test.
-means::GroupSpreads SpreadsOf(double sd1, double sd2) { return {sd1, sd2, sd1 == sd2}; }
-
-means::GroupSpreads SpreadsOf(const Inputs& in) { return SpreadsOf(in.List("sd")[0], in.List("sd")[1]); }
-
-/// An effect size is a difference in the unit of the standard deviation.
-means::TwoSampleDesign DesignOf(const Inputs& in) {
-  if (in.Has("effect-d")) return {in.Number("effect-d"), SpreadsOf(1, 1), SidesOf(in), in.Alpha()};
-  return {DifferenceOfMeans(in), SpreadsOf(in), SidesOf(in), in.Alpha()};
-}
-
-constexpr double smallestSecond = 2;
-
-double Power(const Inputs& in) { return OrNaN(means::Power(DesignOf(in), in.List("n")[0], in.List("n")[1])); }
-
-Numbers Sizes(const Inputs& in) {
-  const double ratio = in.Number("ratio");
-  return RoundedUp(means::FirstSizeForPower(DesignOf(in), ratio, in.Number("power")), ratio, smallestSecond);
-}
-
-double HalfWidth(const Inputs& in) {
-  return means::HalfWidth({SpreadsOf(in), in.Alpha()}, in.List("n")[0], in.List("n")[1]);
-}
-
-/// Asked in units of the larger standard deviation: the core's search ends at a fixed distance in the unit given.
-Numbers SizesForHalfWidth(const Inputs& in) {
-  const Numbers& sds = in.List("sd");
-  const double unit = std::max(sds[0], sds[1]);
-  const double ratio = in.Number("ratio");
-  const means::TwoSampleInterval interval{SpreadsOf(sds[0] / unit, sds[1] / unit), in.Alpha()};
-  return RoundedUp(means::FirstSizeForHalfWidth(interval, ratio, in.Number("half-width") / unit), ratio,
-                   smallestSecond);
-}
-
-/// Over the root mean square of the standard deviations (Cohen 1988, formula 2.3.2).
-double EffectSize(const Inputs& in) {
-  const Numbers& sds = in.List("sd");
-  return DifferenceOfMeans(in) / (std::hypot(sds[0], sds[1]) / std::sqrt(2.0));
-}
 
 std::vector<Parameter> Parameters() {
   return {
@@ -73,73 +28,19 @@ std::vector<Parameter> Parameters() {
   };
 }
 
-std::vector<Route> Routes() {
-  return {
-      {.question = Question::Power,
-       .needs = {"means", "sd", "n"},
-       .accepts = {"one-sided"},
-       .exportName = "PowerIndependentNondirectional",
-       .oneSidedExport = "PowerIndependentDirectional",
-       .value = Power},
-      {.question = Question::Power,
-       .needs = {"mean-difference", "sd", "n"},
-       .accepts = {"one-sided"},
-       .exportName = "PowerIndependentNondirectional",
-       .oneSidedExport = "PowerIndependentDirectional",
-       .value = Power},
-      {.question = Question::Power,
-       .needs = {"effect-d", "n"},
-       .accepts = {"one-sided"},
-       .exportName = "PowerIndependentNondirectionalES",
-       .oneSidedExport = "PowerIndependentDirectionalES",
-       .value = Power},
-      {.question = Question::SampleSize,
-       .needs = {"means", "sd"},
-       .accepts = {"ratio", "one-sided"},
-       .exportName = "PowerReverseIndependentNondirectional",
-       .oneSidedExport = "PowerReverseIndependentDirectional",
-       .sizes = Sizes},
-      {.question = Question::SampleSize,
-       .needs = {"mean-difference", "sd"},
-       .accepts = {"ratio", "one-sided"},
-       .exportName = "PowerReverseIndependentNondirectional",
-       .oneSidedExport = "PowerReverseIndependentDirectional",
-       .sizes = Sizes},
-      {.question = Question::SampleSize,
-       .needs = {"effect-d"},
-       .accepts = {"ratio", "one-sided"},
-       .exportName = "PowerReverseIndependentNondirectionalES",
-       .oneSidedExport = "PowerReverseIndependentDirectionalES",
-       .sizes = Sizes},
-      {.question = Question::HalfWidth,
-       .needs = {"sd", "n"},
-       .exportName = "HalfCIIndependentMeans",
-       .value = HalfWidth},
-      {.question = Question::SampleSizeForHalfWidth,
-       .needs = {"sd"},
-       .accepts = {"ratio"},
-       .exportName = "PowerReversebyHalfCIIndependentMeans",
-       .sizes = SizesForHalfWidth},
-  };
-}
-
-std::vector<Unknown> Unknowns() {
-  return {
-      UnknownEffectD(),
-      {.input = "mean-difference",
-       .target = Question::Power,
-       .trend = Trend::Rises,
-       .reason = "the noncentrality grows with the difference",
-       .piece = [](const Inputs&) -> Piece {
-         return {0, std::numeric_limits<double>::infinity()};
-       }},
-      UnknownSd("sd"),
-      UnknownRatio(),
-      UnknownSdOfInterval("sd"),
-  };
+/// Over the root mean square of the standard deviations (Cohen 1988, formula 2.3.2).
+double EffectSize(const Inputs& in) {
+  const Numbers& sds = in.List("sd");
+  return DifferenceOfMeans(in) / (std::hypot(sds[0], sds[1]) / std::sqrt(2.0));
 }
 
 }  // namespace
+
+kelpower::means::GroupSpreads SpreadsOfTwoMeans(const Inputs& in) {
+  if (!in.Has("sd")) return {1, 1, true};
+  const Numbers& sds = in.List("sd");
+  return {sds[0], sds[1], sds[0] == sds[1]};
+}
 
 Test TwoMeansTest() {
   Test test{.name = "two-means",
@@ -149,8 +50,8 @@ Test TwoMeansTest() {
                 "equal, and in the form of Welch when they differ.",
             .groups = 2};
   test.parameters = Parameters();
-  test.routes = Routes();
-  test.unknowns = Unknowns();
+  test.routes = RoutesOfTwoMeans();
+  test.unknowns = UnknownsOfTwoMeans();
   test.sizeExists = {
       {.code = "no-effect",
        .about = {"means"},
@@ -168,13 +69,14 @@ Test TwoMeansTest() {
   };
   test.effect = [](const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : DifferenceOfMeans(in); };
   test.axes = {MeanDifferenceAxis(), SizeRatioAxis()};
-  test.assumptions = {
-      {.name = "variances",
-       .label = "variances",
-       .needs = {"sd"},
-       .call =
-           [](const Inputs& in) { return std::string(SpreadsOf(in).isPooled ? "pooled" : "unequal, Welch's test"); },
-       .wording = " (variances <0>)"}};
+  test.assumptions = {{.name = "variances",
+                       .label = "variances",
+                       .needs = {"sd"},
+                       .call =
+                           [](const Inputs& in) {
+                             return std::string(SpreadsOfTwoMeans(in).isPooled ? "pooled" : "unequal, Welch's test");
+                           },
+                       .wording = " (variances <0>)"}};
   test.offers = OffersOfTwoMeans();
   AddWordsOfTwoMeans(test);
   return WithCommonParameters(std::move(test));

@@ -2,18 +2,13 @@
 
 #include "catalogue/details.h"
 #include "catalogue/mean_parameters.h"
+#include "catalogue/two_means.h"
 #include "means/independent.h"
 
 namespace planner {
 namespace {
 
 namespace means = kelpower::means;
-
-means::GroupSpreads SpreadsOf(const Inputs& in) {
-  if (!in.Has("sd")) return {1, 1, true};
-  const Numbers& sds = in.List("sd");
-  return {sds[0], sds[1], sds[0] == sds[1]};
-}
 
 /// In units of the standard deviation where only that is given.
 double DifferenceOf(const Inputs& in) {
@@ -22,7 +17,7 @@ double DifferenceOf(const Inputs& in) {
 }
 
 void AddError(Details& details, const Inputs& in) {
-  const means::GroupSpreads spreads = SpreadsOf(in);
+  const means::GroupSpreads spreads = SpreadsOfTwoMeans(in);
   const means::DifferenceDistribution at = spreads.At(in.List("n")[0], in.List("n")[1]);
   details.Add("standard-error", "standard error of the difference", at.standardError);
 }
@@ -35,7 +30,7 @@ const char* SourceOf(const means::GroupSpreads& spreads) {
 }
 
 Details OfHalfWidth(const Inputs& in) {
-  const means::GroupSpreads spreads = SpreadsOf(in);
+  const means::GroupSpreads spreads = SpreadsOfTwoMeans(in);
   const double n1 = in.List("n")[0];
   const double n2 = in.List("n")[1];
   Details details;
@@ -48,52 +43,11 @@ Details OfHalfWidth(const Inputs& in) {
   return details;
 }
 
-void AddPooledPrograms(Details& details, const Inputs& in) {
-  const bool isEqual = in.List("n")[0] == in.List("n")[1];
-  auto& programs = details.equivalents;
-  if (isEqual) {
-    programs.insert(
-        programs.begin(),
-        {{.program = "pwr",
-          .call = "pwr.t.test({n-or-power}, d = {d}, sig.level = {alpha}, type = \"two.sample\", alternative = "
-                  "{alternative}){answer}",
-          .remark = "n counts one group"},
-         {.program = "R",
-          .call = "power.t.test({n-or-power}, delta = {d}, sd = 1, sig.level = {alpha}, type = \"two.sample\", "
-                  "alternative = {r-alternative}, strict = TRUE){answer}",
-          .remark = "n counts one group; strict = TRUE counts both tails of a two-sided test"}});
-  } else {
-    programs.insert(programs.begin(), {{.program = "pwr",
-                                        .call = "pwr.t2n.test(n1 = {n1}, n2 = {n2}, d = {d}, sig.level = {alpha}, "
-                                                "alternative = {alternative})$power"}});
-  }
-  programs.push_back({.program = "G*Power",
-                      .call = "t tests > Means: Difference between two independent means (two groups); tails {tails}, "
-                              "effect size d {d}, alpha {alpha}, {gpower-n}"});
-}
-
-void AddSas(Details& details, const Inputs& in) {
-  const bool isPooled = SpreadsOf(in).isPooled;
-  if (!in.Has("means")) return;
-  const std::string sizes =
-      in.List("n")[0] == in.List("n")[1] ? "npergroup={n-or-dot} power={power-or-dot}" : "groupns={n|} power=.";
-  details.equivalents.push_back(
-      {.program = "SAS",
-       .call = std::string("proc power; twosamplemeans ") +
-               (isPooled ? "test=diff groupmeans={means|} stddev={sd1}"
-                         : "test=diff_satt groupmeans={means|} groupstddevs={sd|}") +
-               " sides={sides} alpha={alpha} " + sizes + "; run;",
-       .isSame = isPooled,
-       .remark = isPooled ? ""
-                          : "averages over the degrees of freedom that the data will give, which are taken here at "
-                            "the standard deviations expected"});
-}
-
 }  // namespace
 
 Details DetailsOfTwoMeans(Question question, const Inputs& in) {
   if (!IsAboutPower(question)) return OfHalfWidth(in);
-  const means::GroupSpreads spreads = SpreadsOf(in);
+  const means::GroupSpreads spreads = SpreadsOfTwoMeans(in);
   const double n1 = in.List("n")[0];
   const double n2 = in.List("n")[1];
   const double difference = DifferenceOf(in);

@@ -65,7 +65,10 @@ std::vector<Parameter> ParametersOfTwoProportions();
 std::vector<Route> RoutesOfTwoProportions();
 std::vector<Unknown> UnknownsOfTwoProportions();
 std::vector<Condition> ConditionsOfTwoProportions();
+std::vector<Condition> SizeConditionsOfTwoProportions();
 std::vector<Condition> SizeExistsForTwoProportions();
+std::vector<Derived> FiguresOfTwoProportions();
+std::vector<Assumption> AssumptionsOfTwoProportions();
 std::vector<Axis> AxesOfTwoProportions();
 
 /// About how many steps a power takes.

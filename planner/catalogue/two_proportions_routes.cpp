@@ -1,11 +1,5 @@
-#include <algorithm>
-#include <cmath>
-#include <limits>
-#include <utility>
-
 #include "catalogue/core.h"
 #include "catalogue/two_proportions.h"
-#include "catalogue/unknowns.h"
 #include "proportions/independent_interval.h"
 #include "proportions/independent_power.h"
 #include "proportions/independent_sizes.h"
@@ -94,44 +88,6 @@ std::vector<Route> RoutesOfTwoProportions() {
                       .sizes = SizesForHalfWidth});
   }
   return routes;
-}
-
-std::vector<Unknown> UnknownsOfTwoProportions() {
-  constexpr double infinity = std::numeric_limits<double>::infinity();
-  constexpr const char* reason = "the more the proportions differ, the more tables are in the critical region";
-  return {
-      {.input = "risk-difference",
-       .target = Question::Power,
-       .trend = Trend::Rises,
-       .reason = reason,
-       .piece = [](const Inputs& in) -> Piece {
-         return {0, 1 - in.Number("proportion1")};
-       },
-       .pieceBelow = [](const Inputs& in) -> Piece {
-         return {-in.Number("proportion1"), 0};
-       }},
-      {.input = "risk-ratio",
-       .target = Question::Power,
-       .trend = Trend::Rises,
-       .reason = reason,
-       .piece = [](const Inputs& in) -> Piece {
-         return {1, 1 / in.Number("proportion1")};
-       },
-       .pieceBelow = [](const Inputs&) -> Piece {
-         return {0, 1};
-       }},
-      {.input = "odds-ratio",
-       .target = Question::Power,
-       .trend = Trend::Rises,
-       .reason = reason,
-       .piece = [](const Inputs&) -> Piece {
-         return {1, infinity};
-       },
-       .pieceBelow = [](const Inputs&) -> Piece {
-         return {0, 1};
-       }},
-      UnknownRatio(),
-  };
 }
 
 }  // namespace planner

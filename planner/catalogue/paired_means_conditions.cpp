@@ -1,0 +1,38 @@
+#include "catalogue/mean_parameters.h"
+#include "catalogue/paired_means.h"
+
+namespace planner {
+namespace {
+
+bool DifferencesSpread(const Inputs& in) {
+  const Numbers& sds = in.List("sds");
+  return sds[0] != sds[1] || in.Number("correlation") != 1;
+}
+
+}  // namespace
+
+std::vector<Condition> ConditionsOfPairedMeans() {
+  return {
+      {.code = "differences-spread",
+       .about = {"means", "correlation"},
+       .holds = DifferencesSpread,
+       .sentence = "{sds} are equal and {correlation} is 1: the differences do not vary, so that there is nothing to "
+                   "test."},
+  };
+}
+
+std::vector<Condition> SizeExistsForPairedMeans() {
+  return {
+      {.code = "no-effect",
+       .about = {"means"},
+       .holds = [](const Inputs& in) { return in.List("means")[0] != in.List("means")[1]; },
+       .sentence = "The two means are equal: without a difference, no sample size reaches the power."},
+      {.code = "no-effect",
+       .about = {"mean-difference"},
+       .holds = [](const Inputs& in) { return in.Number("mean-difference") != 0; },
+       .sentence = "The mean difference is zero: without a difference, no sample size reaches the power."},
+      HasEffectD(),
+  };
+}
+
+}  // namespace planner

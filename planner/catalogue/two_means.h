@@ -1,0 +1,26 @@
+#ifndef KELPOWER_PLANNER_CATALOGUE_TWO_MEANS_H
+#define KELPOWER_PLANNER_CATALOGUE_TWO_MEANS_H
+
+#include <vector>
+
+#include "means/independent.h"
+#include "model/details.h"
+#include "model/inputs.h"
+#include "model/test.h"
+
+// What the parts of the t test of two means share.
+namespace planner {
+
+/// The standard deviations, of which equal ones select the pooled test. An effect size is a difference in their unit.
+kelpower::means::GroupSpreads SpreadsOfTwoMeans(const Inputs& in);
+
+std::vector<Route> RoutesOfTwoMeans();
+std::vector<Unknown> UnknownsOfTwoMeans();
+
+/// Adds how other programs are asked for the same power of the pooled test.
+void AddPooledPrograms(Details& details, const Inputs& in);
+void AddSas(Details& details, const Inputs& in);
+
+}  // namespace planner
+
+#endif

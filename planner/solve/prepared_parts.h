@@ -1,0 +1,32 @@
+#ifndef KELPOWER_PLANNER_SOLVE_PREPARED_PARTS_H
+#define KELPOWER_PLANNER_SOLVE_PREPARED_PARTS_H
+
+#include <limits>
+
+#include "model/inputs.h"
+#include "solve/prepared_question.h"
+
+// What the parts of a prepared question share. prepared_question.cpp answers rows; prepared_sizes.cpp finds sizes and
+// prepared_unknown.cpp another number; prepared_answer.cpp gives a whole answer, or says why there is none.
+namespace planner {
+
+inline constexpr Row refused{RowStatus::InputRefused, std::numeric_limits<double>::quiet_NaN()};
+inline constexpr Row unanswered{RowStatus::NoAnswer, std::numeric_limits<double>::quiet_NaN()};
+inline constexpr Row stopped{RowStatus::Stopped, std::numeric_limits<double>::quiet_NaN()};
+
+inline void SetSizes(Inputs& inputs, const Numbers& sizes) {
+  if (sizes.size() > 1) return inputs.SetList("n", sizes);
+  inputs.Set("n", sizes.front());
+}
+
+/// The design with these sizes in place of the ratios that they are found from.
+inline Inputs AtSizes(const Inputs& inputs, const Numbers& sizes) {
+  Inputs atSizes = inputs;
+  atSizes.Erase("ratios");
+  SetSizes(atSizes, sizes);
+  return atSizes;
+}
+
+}  // namespace planner
+
+#endif
