@@ -185,6 +185,22 @@ std::string UnknownSection(const Test& test, const Highlights& highlights) {
       highlights.heading, highlights.end);
 }
 
+/// The commonest call with two powers to reach.
+std::string CallOfTable(const Test& test) {
+  std::string call = FirstExample(test).arguments;
+  const std::string option = " --power ";
+  const std::size_t value = call.find(option) + option.size();
+  return call.replace(value, call.find(' ', value) - value, "0.8,0.9");
+}
+
+std::string TableSection(const Test& test, const Highlights& highlights) {
+  return fmt::format(
+      "{}Many designs at once{}\n  Give an option several times, or a number as a list 0.8,0.9 or a range 20:100:20 (from, "
+      "to, step):\n  all combinations are answered as one table. \"kelpower run FILE\" answers a file of designs.\n"
+      "  kelpower {}\n\n",
+      highlights.heading, highlights.end, CallOfTable(test));
+}
+
 /// Where the usual range of an axis goes, in few words.
 std::string UsualRange(const Axis& axis) {
   if (axis.isOfSizes) return "from the smallest";
@@ -268,7 +284,7 @@ std::string HelpOf(const Test& test, const Highlights& highlights) {
   std::string text = heading(test.title.c_str());
   text += fmt::format("{}\n{}\n\n", test.about, test.whenNot);
   text += heading("For example") + ExampleText(first) + "What you leave out is what is solved for.\n\n";
-  text += UsageSection(test, highlights) + UnknownSection(test, highlights);
+  text += UsageSection(test, highlights) + UnknownSection(test, highlights) + TableSection(test, highlights);
   text += heading("Options") + OptionLines(test) + '\n';
   text += heading("Before the study starts") + InputLines(test, OptionWidth(test), true);
   text += ChartSection(test, highlights);

@@ -23,13 +23,23 @@ enum Status { done = 0, failed = 1, wrongInput = 2, noSolution = 3, interrupted 
 std::string Overview(const planner::Highlights& highlights) {
   return fmt::format(
       "{0}kelpower{1} plans studies: power, sample size and precision of statistical tests.\n\n"
-      "  kelpower TEST [options]   what you leave out is what is solved for\n"
-      "  kelpower TEST --help      what a test takes and answers, with examples\n"
-      "  kelpower TEST ... --chart NAME   draw the power of a design\n"
-      "  kelpower run FILE         answer a file of designs; kelpower run --help says how\n"
-      "  kelpower effect ...       effect sizes from what a study reports; kelpower effect --help says how\n"
-      "  kelpower list             the tests; with --format json their descriptions\n"
+      "  kelpower TEST [options]         what you leave out is what is solved for\n"
+      "  kelpower TEST --help            what a test takes and answers, with examples\n"
+      "  kelpower TEST ... --chart NAME  draw the power of a design\n"
+      "  kelpower run FILE               answer a file of designs; kelpower run --help says how\n"
+      "  kelpower effect ...             effect sizes from what a study reports; kelpower effect --help says how\n"
+      "  kelpower list                   the tests; with --format json their descriptions\n"
       "  kelpower --version\n\n"
+      "{0}For example{1}\n"
+      "How many subjects does a medium effect need?\n"
+      "  kelpower two-means --effect-d 0.5 --power 0.8\n"
+      "Which difference do 35 and 50 subjects detect, at a standard deviation of 10?\n"
+      "  kelpower two-means --n 35,50 --sd 10 --power 0.8\n"
+      "A table of sizes, and a figure of three curves:\n"
+      "  kelpower two-means --effect-d 0.2:0.8:0.1 --power 0.8,0.9\n"
+      "  kelpower two-means --effect-d 0.3,0.5,0.8 --power 0.8 --chart n --output curves.svg\n"
+      "Clusters of 20, of whom 15 % drop out:\n"
+      "  kelpower two-means --effect-d 0.5 --power 0.8 --cluster-size 20 --icc 0.05 --dropout 0.15\n\n"
       "{0}Tests{1}\n{2}",
       highlights.heading, highlights.end, ListOfTests(highlights));
 }

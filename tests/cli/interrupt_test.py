@@ -16,11 +16,11 @@ import unittest
 PROGRAM = sys.argv.pop(1)
 PATIENCE = 240  # seconds until a step is given up
 
-LONG_SEARCH = "two-proportions --proportions 0.5,0.528 --power 0.8 --test conditional".split()
-SHORT_SEARCH = "two-proportions --proportions 0.5,0.75 --power 0.8 --test conditional".split()
+LONG_SEARCH = "two-proportions --proportions 0.5,0.5285 --power 0.8 --method conditional".split()
+SHORT_SEARCH = "two-proportions --proportions 0.5,0.75 --power 0.8 --method conditional".split()
 LONG_WITHOUT_QUESTIONS = "paired-proportions --p12 0.4501 --p21 0.45 --power 0.9 --alpha 0.01 --exact".split()
 LONG_CHART = (
-    "two-proportions --proportions 0.5,0.75 --n 850 --test conditional --chart sizes --from 800,800 --to 860,860"
+    "two-proportions --proportions 0.5,0.75 --n 850 --method conditional --chart sizes --from 800,800 --to 860,860"
 ).split()
 
 STOPPED_ROWS = b"kelpower: The computation was stopped; the rows up to there are whole."
@@ -149,7 +149,7 @@ class Interrupts(unittest.TestCase):
     def test_a_file_of_designs_on_a_terminal_shows_a_bar(self):
         with tempfile.TemporaryDirectory() as folder:
             designs = pathlib.Path(folder) / "designs.csv"
-            designs.write_text("proportions,power,exact\n" + "0.5 0.528,0.8,true\n" * 1000)
+            designs.write_text("proportions,power,exact\n" + "0.5 0.5285,0.8,true\n" * 1000)
             master, slave = open_terminal()
             process = start(["run", str(designs), "--test", "two-proportions"], slave)
             os.close(slave)
