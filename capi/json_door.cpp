@@ -3,6 +3,7 @@
 
 #include "call.h"
 #include "caller_stop.h"
+#include "catalogue/effects.h"
 #include "request.h"
 #include "solve/chart.h"
 #include "solve/densities.h"
@@ -10,6 +11,7 @@
 #include "table.h"
 #include "words/chart_json.h"
 #include "words/densities_json.h"
+#include "words/effect_report.h"
 #include "words/explain.h"
 #include "words/render.h"
 #include "words/report_json.h"
@@ -61,6 +63,17 @@ void Draw(Call& call) {
   reply.CloseObject();
 }
 
+void Convert(Call& call) {
+  const JsonTree tree = ReadJson(call.request);
+  call.names = NamesOf(tree);
+  const Request request(tree, planner::EffectSizes().inputs, {"explain"});
+  if (call.IsStopped()) throw planner::Stopped();
+  const planner::Report report = planner::ConvertEffect(request.Values(), request.IsSet("explain"));
+  Reply reply(call);
+  planner::WriteReport(reply, report);
+  reply.CloseObject();
+}
+
 int Ask(const char* request, const kelplan_options* options, void (*door)(Call&), char** answer) {
   CallerStop stop(options);
   Call call{.request = request ? request : "", .stop = stop.IsAsked() ? &stop : nullptr};
@@ -69,7 +82,8 @@ int Ask(const char* request, const kelplan_options* options, void (*door)(Call&)
 
 std::string Description() {
   return "{\"schema\":1,\"version\":\"" KELPOWER_VERSION "\",\"tests\":" +
-         planner::RenderListJson(planner::JsonLayout::Compact) + "}";
+         planner::RenderListJson(planner::JsonLayout::Compact) +
+         ",\"effects\":" + planner::RenderEffectsJson(planner::JsonLayout::Compact) + "}";
 }
 
 }  // namespace
@@ -92,6 +106,10 @@ int kelplan_solve(const char* request, const kelplan_options* options, char** an
 
 int kelplan_draw(const char* request, const kelplan_options* options, char** answer) {
   return kelplan::Ask(request, options, kelplan::Draw, answer);
+}
+
+int kelplan_convert(const char* request, const kelplan_options* options, char** answer) {
+  return kelplan::Ask(request, options, kelplan::Convert, answer);
 }
 
 void kelplan_free(char* answer) { kelplan::Free(answer); }

@@ -2,7 +2,7 @@
  * kelplan.h: plan studies from any language.
  *
  * Two doors lead to the same answers. A request in JSON is answered in JSON: kelplan_solve, kelplan_draw,
- * kelplan_describe. Many designs are answered in arrays of doubles: kelplan_prepare, kelplan_run.
+ * kelplan_convert, kelplan_describe. Many designs are answered in arrays of doubles: kelplan_prepare, kelplan_run.
  *
  * Text is UTF-8 and ends with a zero. Every function may be called from any thread at any time. The caller's memory is
  * read and written during a call only. A text that a function puts into `*answer` is released with kelplan_free, a batch
@@ -51,7 +51,10 @@ typedef struct kelplan_batch kelplan_batch;
 /* The release of the library: "0.1.0". Constant text. */
 KELPLAN_EXPORT const char* kelplan_version(void);
 
-/* All tests with their inputs, questions, results and examples, as JSON. Constant text; null when there is no memory. */
+/*
+ * All tests with their inputs, questions, results and examples, and the conversions of effect sizes, as JSON. Constant
+ * text; null when there is no memory.
+ */
 KELPLAN_EXPORT const char* kelplan_describe(void);
 
 /*
@@ -65,6 +68,9 @@ KELPLAN_EXPORT int kelplan_solve(const char* request, const kelplan_options* opt
 
 /* The points of a chart: a request as above with "chart", "from", "to" and "step" besides. */
 KELPLAN_EXPORT int kelplan_draw(const char* request, const kelplan_options* options, char** answer);
+
+/* The effect sizes that follow from published results: {"inputs": {"t": 2.3, "n": 20}}. */
+KELPLAN_EXPORT int kelplan_convert(const char* request, const kelplan_options* options, char** answer);
 
 /* Releases an answer. Null is allowed. */
 KELPLAN_EXPORT void kelplan_free(char* answer);

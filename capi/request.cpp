@@ -29,13 +29,23 @@ planner::NameStyle NamesOf(const JsonTree& tree) {
 }
 
 Request::Request(const JsonTree& tree, std::initializer_list<std::string_view> members) : tree_(tree) {
-  for (const std::string& key : tree.keys) {
-    if (key == "test" || key == "inputs" || key == "names") continue;
+  CheckMembers(members);
+  FindTest();
+  ReadInputs();
+}
+
+Request::Request(const JsonTree& tree, const planner::Test& test, std::initializer_list<std::string_view> members)
+    : tree_(tree), test_(&test) {
+  CheckMembers(members);
+  ReadInputs();
+}
+
+void Request::CheckMembers(std::initializer_list<std::string_view> members) const {
+  for (const std::string& key : tree_.keys) {
+    if (key == "inputs" || key == "names" || (key == "test" && !test_)) continue;
     if (std::find(members.begin(), members.end(), key) != members.end()) continue;
     throw BadRequest("unknown-member", "\"" + key + "\" is no member of this request.");
   }
-  FindTest();
-  ReadInputs();
 }
 
 void Request::FindTest() {

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
@@ -51,6 +52,17 @@ Json Checked(const std::string& request, int status, char* taken) {
   return json;
 }
 
+/// The place of the power or half-width, which is there exactly where a row is answered.
+std::size_t IndexOfReached(const Json& json, const std::string& request) {
+  const Json& results = json["results"];
+  for (std::size_t i = 0; i < results.size(); ++i) {
+    const Json& name = results[i]["name"];
+    if (name == "power" || name == "expected-power" || name == "expected_power") return i;
+    if (name == "half-width" || name == "half_width") return i;
+  }
+  Fail("no result to reach", request, json.dump());
+}
+
 void Run(const kelplan_batch* batch, const Json& json, Reader& reader, const std::string& request) {
   constexpr std::size_t rows = 3;
   const std::size_t columnCount = json["columns"].size();
@@ -62,6 +74,7 @@ void Run(const kelplan_batch* batch, const Json& json, Reader& reader, const std
   std::vector<double*> results;
   for (std::size_t i = 0; i < columnCount; ++i) columns.push_back(&numbers[i * rows]);
   for (std::size_t i = 0; i < resultCount; ++i) results.push_back(&values[i * rows]);
+  const std::size_t reached = IndexOfReached(json, request);
   int status[rows] = {-1, -1, -1};
   Stop stop;
   const int call =
@@ -69,8 +82,7 @@ void Run(const kelplan_batch* batch, const Json& json, Reader& reader, const std
   if (call != KELPLAN_OK && call != KELPLAN_STOPPED) Fail("status of the call", request, json.dump());
   for (std::size_t row = 0; row < rows; ++row) {
     if (!IsStatus(status[row])) Fail("status of a row", request, json.dump());
-    // The power or half-width comes last, and is there exactly where the row is answered.
-    const double value = values[(resultCount - 1) * rows + row];
+    const double value = values[reached * rows + row];
     if (std::isfinite(value) != (status[row] == KELPLAN_OK)) Fail("value of a row", request, json.dump());
   }
 }
@@ -85,14 +97,30 @@ void AskColumns(const std::string& request, Reader& reader) {
   kelplan_release(batch);
 }
 
-void AskJson(const std::string& request, bool draws) {
+using Door = int (*)(const char*, const kelplan_options*, char**);
+
+void AskJson(const std::string& request, Door door) {
   Stop stop;
   char* answer = nullptr;
-  const int status = (draws ? kelplan_draw : kelplan_solve)(request.c_str(), &stop.options, &answer);
+  const int status = door(request.c_str(), &stop.options, &answer);
   Checked(request, status, answer);
 }
 
-/// A batch whose columns are all numbers of an example.
+/// Adds columns for circumstances of the study that the test offers.
+void AddOffers(Json& request, const Json& test, unsigned chosen) {
+  const char* const offers[][2] = {{"dropout"},    {"comparisons"}, {"cluster-size", "icc"}, {"effect-sd"},
+                                   {"population"}, {"assurance"},   {"cluster-cv"}};
+  for (std::size_t i = 0; i < std::size(offers); ++i) {
+    if ((chosen >> i & 1) == 0) continue;
+    for (const Json& parameter : test["parameters"]) {
+      const Json& name = parameter["name"];
+      const bool isOffered = name == offers[i][0] || (offers[i][1] && name == offers[i][1]);
+      if (isOffered) request["columns"].push_back(name);
+    }
+  }
+}
+
+/// A batch whose columns are all numbers of an example, and some circumstances of the study.
 std::string BatchOfExample(Reader& reader) {
   static const Json tests = Json::parse(kelplan_describe())["tests"];
   const Json& test = tests[reader.Byte() % tests.size()];
@@ -107,6 +135,7 @@ std::string BatchOfExample(Reader& reader) {
       request["inputs"][name] = value;
     }
   }
+  AddOffers(request, test, reader.Byte());
   return request.dump();
 }
 
@@ -114,11 +143,12 @@ std::string BatchOfExample(Reader& reader) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   Reader reader(data, size);
-  const unsigned kind = reader.Byte() % 4;
+  const unsigned kind = reader.Byte() % 5;
   const std::string bytes(reinterpret_cast<const char*>(data) + (size > 0), size - (size > 0));
   const keltest::Watch watch(bytes);
   if (kind == 0) AskColumns(BatchOfExample(reader), reader);
   if (kind == 1) AskColumns(bytes, reader);
-  if (kind >= 2) AskJson(bytes, kind == 3);
+  const Door doors[] = {kelplan_solve, kelplan_draw, kelplan_convert};
+  if (kind >= 2) AskJson(bytes, doors[kind - 2]);
   return 0;
 }

@@ -55,14 +55,15 @@ std::vector<Entry> InputEntries(const EffectAnswer& answer) {
 }
 
 void AddResult(const EffectResult& result, std::size_t width, std::vector<Entry>& entries) {
-  const auto& [name, label, wording] = *result.size;
-  const auto& [value, limits] = result.value;
-  if (!limits) return entries.push_back({name, label, value, ForReading(value)});
-  entries.push_back(
-      {name, label, value, fmt::format("{:<{}}  ({})", ForReading(value), width, IntervalForReading(*limits))});
+  const EffectSize& size = *result.size;
+  const double value = result.value.value;
+  const std::optional<ConfidenceLimits>& limits = result.value.limits;
+  if (!limits) return entries.push_back({size.name, size.label, value, ForReading(value)});
+  entries.push_back({size.name, size.label, value,
+                     fmt::format("{:<{}}  ({})", ForReading(value), width, IntervalForReading(*limits))});
   const auto addLimit = [&](const char* which, double limit) {
     const std::string suffix = std::string("-") + which;
-    entries.push_back({name + suffix, label, limit, ForReading(limit), false, true});
+    entries.push_back({size.name + suffix, size.label, limit, ForReading(limit), false, true});
   };
   addLimit("lower", limits->lower);
   addLimit("upper", limits->upper);

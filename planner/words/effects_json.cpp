@@ -33,9 +33,10 @@ void WriteSize(JsonWriter& json, const EffectSize& size, const std::vector<Effec
   json.CloseObject();
 }
 
-void WriteConversion(JsonWriter& json, const EffectConversion& conversion) {
+/// `title` is that of the conversion, or of the one before it whose heading it stands under.
+void WriteConversion(JsonWriter& json, const EffectConversion& conversion, const std::string& title) {
   json.OpenObject();
-  json.Text("title", conversion.title);
+  json.Text("title", title);
   WriteNames(json, "needs", conversion.needs);
   WriteNames(json, "accepts", conversion.accepts);
   WriteTexts(json, "gives", conversion.gives);
@@ -50,13 +51,6 @@ void WriteConversion(JsonWriter& json, const EffectConversion& conversion) {
   json.CloseObject();
 }
 
-void WriteExample(JsonWriter& json, const Example& example) {
-  json.OpenObject();
-  json.Text("arguments", example.arguments);
-  json.Text("sentence", example.sentence);
-  json.CloseObject();
-}
-
 }  // namespace
 
 std::string RenderEffectsJson(JsonLayout layout) {
@@ -68,10 +62,15 @@ std::string RenderEffectsJson(JsonLayout layout) {
   json.Text("title", effects.inputs.title);
   json.Text("about", effects.inputs.about);
   WriteList(json, "parameters", effects.inputs.parameters, [&](const Parameter& one) { WriteParameter(json, one); });
-  WriteList(json, "conversions", effects.conversions, [&](const EffectConversion& one) { WriteConversion(json, one); });
+  std::string title;
+  WriteList(json, "conversions", effects.conversions, [&](const EffectConversion& one) {
+    if (!one.title.empty()) title = one.title;
+    WriteConversion(json, one, title);
+  });
   WriteList(json, "effect-sizes", effects.sizes,
             [&](const EffectSize& one) { WriteSize(json, one, effects.formulas); });
-  WriteList(json, "examples", effects.inputs.examples, [&](const Example& one) { WriteExample(json, one); });
+  WriteList(json, "examples", effects.inputs.examples,
+            [&](const Example& one) { WriteExample(json, effects.inputs, one); });
   json.CloseObject();
   return text + '\n';
 }

@@ -5,7 +5,7 @@
 
 #include "catalogue/catalogue.h"
 #include "solve/axes.h"
-#include "solve/results.h"
+#include "solve/possible_results.h"
 #include "solve/solve.h"
 #include "words/example_inputs.h"
 #include "words/explain.h"
@@ -74,15 +74,30 @@ void WriteParameter(JsonWriter& json, const Parameter& parameter) {
   json.CloseObject();
 }
 
+void WriteExample(JsonWriter& json, const Test& test, const Example& example) {
+  json.OpenObject();
+  json.Text("arguments", example.arguments);
+  json.Key("inputs");
+  json.OpenObject();
+  for (const auto& [name, value] : InputsOf(test, example)) {
+    json.KeyOfName(name);
+    json.Of(value);
+  }
+  json.CloseObject();
+  json.Text("sentence", example.sentence);
+  json.CloseObject();
+}
+
 namespace {
 
-void WriteResult(JsonWriter& json, const ResultColumn& column) {
+void WriteResult(JsonWriter& json, const PossibleResult& result) {
+  const ResultColumn& column = result.column;
   json.OpenObject();
   json.Key("name");
   json.Name(column.name);
   json.Text("label", column.label);
   json.Text("kind", WordOf(column.reading));
-  if (column.derived || column.isLasting) json.Flag("optional", true);
+  if (result.isOptional) json.Flag("optional", true);
   json.CloseObject();
 }
 
@@ -91,8 +106,8 @@ void WriteRoute(JsonWriter& json, const Test& test, const Route& route) {
   json.Text("question", WordOf(route.question));
   WriteNames(json, "needs", route.needs);
   WriteNames(json, "accepts", route.accepts);
-  WriteList(json, "results", ResultColumns(test, route, nullptr, {}, test.unevenness != nullptr),
-            [&](const ResultColumn& column) { WriteResult(json, column); });
+  WriteList(json, "results", PossibleResults(test, route),
+            [&](const PossibleResult& result) { WriteResult(json, result); });
   json.Text("export", route.exportName);
   if (!route.oneSidedExport.empty()) json.Text("one-sided-export", route.oneSidedExport);
   json.CloseObject();
@@ -125,20 +140,6 @@ void WriteNamed(JsonWriter& json, const Named& named) {
   json.Name(named.name);
   json.Text("label", named.label);
   WriteNames(json, "needs", named.needs);
-  json.CloseObject();
-}
-
-void WriteExample(JsonWriter& json, const Test& test, const Example& example) {
-  json.OpenObject();
-  json.Text("arguments", example.arguments);
-  json.Key("inputs");
-  json.OpenObject();
-  for (const auto& [name, value] : InputsOf(test, example)) {
-    json.KeyOfName(name);
-    json.Of(value);
-  }
-  json.CloseObject();
-  json.Text("sentence", example.sentence);
   json.CloseObject();
 }
 

@@ -1,7 +1,7 @@
 #ifndef KELPOWER_PLANNER_WORDS_LIST_JSON_H
 #define KELPOWER_PLANNER_WORDS_LIST_JSON_H
 
-#include "model/parameter.h"
+#include "model/test.h"
 #include "words/json_writer.h"
 
 namespace planner {
@@ -19,6 +19,9 @@ void WriteNames(JsonWriter& json, const char* key, const Names& names);
 
 /// A parameter of a test or a conversion, as an object.
 void WriteParameter(JsonWriter& json, const Parameter& parameter);
+
+/// An example of a test or of conversions, as an object.
+void WriteExample(JsonWriter& json, const Test& test, const Example& example);
 
 }  // namespace planner
 

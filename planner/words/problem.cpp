@@ -225,7 +225,7 @@ std::string Words::SentenceOnDesigns() const {
 
 std::string Words::Sentence() const {
   switch (problem_.code) {
-    case Code::NotAnInput: return fmt::format("{} is not an option of {}.", Input(0), problem_.words[0]);
+    case Code::NotAnInput: return fmt::format("{} is no input of {}.", Input(0), problem_.words[0]);
     case Code::NotAllowed:
       return fmt::format("{} is {}, but must be {}{}.", Input(0), Given(problem_.values[0]), Allowed(*problem_.allowed),
                          problem_.words.empty() ? "" : ": write " + problem_.words[0]);

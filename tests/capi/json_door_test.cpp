@@ -1,52 +1,77 @@
 #include "catalogue/catalogue.h"
-#include "solve/solve.h"
-#include "support.h"
-#include "words/example_inputs.h"
-#include "words/explain.h"
+#include "catalogue/effects.h"
+#include "report.h"
+#include "words/effect_report.h"
 #include "words/render.h"
 
 namespace {
 
 using namespace keltest;
 
-Json RequestOf(const planner::Test& test, const planner::Example& example) {
-  std::string inputs;
-  planner::JsonWriter json(inputs);
-  json.OpenObject();
-  for (const auto& [name, value] : planner::InputsOf(test, example)) {
-    json.Key(name);
-    json.Of(value);
-  }
-  json.CloseObject();
-  return {{"test", test.name}, {"inputs", Json::parse(inputs)}};
-}
-
 TEST(JsonDoor, AnswersEveryExampleAsTheProgramDoes) {
   for (const planner::Test& test : planner::Tests()) {
     for (const planner::Example& example : test.examples) {
       SCOPED_TRACE(example.arguments);
-      const planner::Answer answer = planner::Solve(test, planner::InputsOf(test, example));
-      planner::Report report = planner::MakeReport(answer);
-      report.explanation = planner::Explain(answer);
-      Json expected = Json::parse(planner::RenderJson(report));
-      expected.erase("schema-version");
-      Json request = RequestOf(test, example);
-      request["explain"] = true;
-      Reply reply = Solved(request);
-      EXPECT_EQ(reply.status, KELPLAN_OK);
-      EXPECT_EQ(reply.json["schema"], 1);
-      EXPECT_EQ(reply.json["version"], kelplan_version());
-      reply.json.erase("schema");
-      reply.json.erase("version");
-      EXPECT_EQ(reply.json, expected);
-      EXPECT_EQ(std::string(reply.json["sentence"]).rfind(example.sentence, 0), 0u);
+      EXPECT_EQ(std::string(ExpectAnswerOfProgram(test, example)["sentence"]).rfind(example.sentence, 0), 0u);
     }
   }
+}
+
+TEST(JsonDoor, ConvertsEveryExampleAsTheProgramDoes) {
+  const planner::Test& inputs = planner::EffectSizes().inputs;
+  for (const planner::Example& example : inputs.examples) {
+    for (bool explained : {false, true}) {
+      SCOPED_TRACE(example.arguments);
+      Json request{{"inputs", JsonInputsOf(inputs, example)}};
+      if (explained) request["explain"] = true;
+      const Reply reply = Asked(kelplan_convert, request.dump());
+      EXPECT_EQ(reply.status, KELPLAN_OK);
+      const planner::Report report = planner::ConvertEffect(planner::InputsOf(inputs, example), explained);
+      ExpectReport(reply.json, report);
+      EXPECT_EQ(std::string(reply.json["sentence"]).rfind(example.sentence, 0), 0u);
+      EXPECT_EQ(reply.json.contains("details"), explained);
+    }
+  }
+}
+
+TEST(JsonDoor, SaysWhatIsWrongWithAConversion) {
+  const struct {
+    const char* request;
+    int status;
+    const char* code;
+  } wrongs[] = {
+      {"[]", 2, "not-an-object"},
+      {R"({"test":"effect","inputs":{"effect-d":0.5}})", 2, "unknown-member"},
+      {R"({"inputs":{"effect-d":0.5},"densities":true})", 2, "unknown-member"},
+      {R"({"inputs":{"effect-d":0.5},"explain":"yes"})", 2, "wrong-type"},
+      {R"({"inputs":{"effect-d":[0.5,1]}})", 2, "several-values"},
+      {R"({"inputs":{"effect-d":"large"}})", 2, "not-allowed"},
+      {R"({"inputs":{"power":0.5}})", 2, "not-an-input"},
+      {R"({"inputs":{}})", 2, "incomplete"},
+      {"{}", 2, "incomplete"},
+  };
+  for (const auto& [request, status, code] : wrongs) {
+    const Reply reply = Asked(kelplan_convert, request);
+    EXPECT_EQ(reply.status, status) << request;
+    EXPECT_EQ(reply.json["error"]["code"], code) << request << reply.json;
+  }
+  const Json error = Asked(kelplan_convert, R"({"inputs":{"power":0.5}})").json["error"];
+  EXPECT_EQ(error["message"], "power is no input of effect.");
+}
+
+TEST(JsonDoor, SpellsEffectSizesWithUnderscoresWhereAsked) {
+  const Json reply =
+      Asked(kelplan_convert, R"({"inputs":{"effect_d":0.5,"n":20},"names":"underscore","explain":true})").json;
+  EXPECT_EQ(reply["inputs"]["effect_d"], 0.5);
+  EXPECT_TRUE(reply["results"].contains("eta_squared")) << reply;
+  EXPECT_TRUE(reply["details"].contains("eta_squared"));
 }
 
 TEST(JsonDoor, DescribesEveryTest) {
   const Json description = Json::parse(kelplan_describe());
   EXPECT_EQ(description["schema"], 1);
+  EXPECT_TRUE(description["effects"] == Json::parse(planner::RenderEffectsJson()));
+  for (const Json& example : description["effects"]["examples"]) EXPECT_FALSE(example["inputs"].empty());
   ASSERT_EQ(description["tests"].size(), planner::Tests().size());
   EXPECT_TRUE(description["tests"] == Json::parse(planner::RenderListJson()));
   EXPECT_EQ(kelplan_describe(), kelplan_describe());
@@ -224,6 +249,7 @@ TEST(JsonDoor, StopsWhereTheCallerAsksForIt) {
   EXPECT_EQ(asked, 1);
   const Json table{{"test", "two-means"}, {"inputs", {{"effect-d", {0.5, 0.6}}, {"n", 50}}}};
   EXPECT_EQ(Solved(table, &options).status, KELPLAN_STOPPED);
+  EXPECT_EQ(Asked(kelplan_convert, R"({"inputs":{"effect-d":0.5}})", &options).status, KELPLAN_STOPPED);
   options.size = sizeof(size_t);  // of a caller that knows no more than the size
   EXPECT_EQ(Solved(request, &options).status, KELPLAN_OK);
   options = {sizeof(kelplan_options), nullptr, nullptr};
@@ -235,6 +261,7 @@ TEST(JsonDoor, TakesNullForWhatIsNotThere) {
   char* answer = nullptr;
   EXPECT_EQ(kelplan_draw(nullptr, nullptr, &answer), KELPLAN_BAD_INPUT);
   EXPECT_EQ(Taken(answer)["error"]["code"], "not-json");
+  EXPECT_EQ(kelplan_convert(nullptr, nullptr, nullptr), KELPLAN_BAD_INPUT);
   kelplan_free(nullptr);
   kelplan_release(nullptr);
 }

@@ -13,13 +13,20 @@ namespace {
 
 using keltest::LimitedMemory;
 
-const char* const requests[] = {
-    R"({"test":"two-means","inputs":{"effect-d":0.5,"power":0.8},"explain":true,"densities":true})",
-    R"({"test":"two-means","inputs":{"effect-d":[0.5,0],"power":[0.8,0.9]}})",
-    R"({"test":"two-means","inputs":{"effect-d":0.5,"power":[2,"x"]},"names":"underscore"})",
-    R"({"test":"anova","inputs":{"means":[1,2,3],"sd":2}})",
-    R"({"test":"nothing"})",
-    "[",
+struct Asked {
+  int (*door)(const char*, const kelplan_options*, char**);
+  const char* request;
+};
+
+const Asked requests[] = {
+    {kelplan_solve, R"({"test":"two-means","inputs":{"effect-d":0.5,"power":0.8},"explain":true,"densities":true})"},
+    {kelplan_solve, R"({"test":"two-means","inputs":{"effect-d":[0.5,0],"power":[0.8,0.9]}})"},
+    {kelplan_solve, R"({"test":"two-means","inputs":{"effect-d":0.5,"power":[2,"x"]},"names":"underscore"})"},
+    {kelplan_solve, R"({"test":"anova","inputs":{"means":[1,2,3],"sd":2}})"},
+    {kelplan_solve, R"({"test":"two-means","inputs":{"effect-d":0.5,"power":0.8,"dropout":0.1,"comparisons":2}})"},
+    {kelplan_solve, R"({"test":"nothing"})"},
+    {kelplan_solve, "["},
+    {kelplan_convert, R"({"inputs":{"t":2.3,"n":20},"explain":true})"},
 };
 
 struct Outcome {
@@ -27,12 +34,12 @@ struct Outcome {
   std::string reply;
 };
 
-Outcome Solved(const char* request, std::int64_t failing) {
+Outcome Answered(const Asked& asked, std::int64_t failing) {
   char* answer = nullptr;
   int status = 0;
   {
     const LimitedMemory limit(failing, SIZE_MAX);
-    status = kelplan_solve(request, nullptr, &answer);
+    status = asked.door(asked.request, nullptr, &answer);
   }
   Outcome outcome{status, answer ? answer : ""};
   kelplan_free(answer);
@@ -41,14 +48,14 @@ Outcome Solved(const char* request, std::int64_t failing) {
 
 TEST(Memory, ARequestWithoutItHasAnError) {
   ASSERT_NE(kelplan_describe(), nullptr);
-  for (const char* request : requests) {
-    SCOPED_TRACE(request);
-    const Outcome whole = Solved(request, INT64_MAX);
+  for (const Asked& request : requests) {
+    SCOPED_TRACE(request.request);
+    const Outcome whole = Answered(request, INT64_MAX);
     std::int64_t failing = 1;
     for (;; ++failing) {
       const std::int64_t live = keltest::LiveAllocations();
       {
-        const Outcome outcome = Solved(request, failing);
+        const Outcome outcome = Answered(request, failing);
         if (outcome.status != KELPLAN_NO_MEMORY) {
           EXPECT_EQ(outcome.status, whole.status);
           EXPECT_EQ(outcome.reply, whole.reply);

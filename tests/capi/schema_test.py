@@ -16,6 +16,15 @@ LIBRARY = ctypes.CDLL(sys.argv[1])
 SCHEMAS = Path(sys.argv[2])
 PROGRAM = sys.argv[3] if len(sys.argv) > 3 else None
 
+# What is known of a study before it starts, in each of its kinds.
+PLANNED = [
+    ("two-means", {"effect-d": 0.5, "power": 0.8, "cluster-size": 20, "icc": 0.05, "dropout": 0.15}),
+    ("two-means", {"effect-d": 0.5, "power": 0.8, "comparisons": 3, "effect-sd": 0.1}),
+    ("mean", {"sd": 10, "half-width": 2.5, "population": 300}),
+    ("mean", {"sd": 10, "half-width": 3, "assurance": 0.9}),
+    ("mean", {"sd": 10, "n": 50, "half-width": 3, "solve": "assurance"}),
+]
+
 LIBRARY.kelplan_describe.restype = ctypes.c_char_p
 LIBRARY.kelplan_free.argtypes = [ctypes.c_void_p]
 LIBRARY.kelplan_release.argtypes = [ctypes.c_void_p]
@@ -56,6 +65,22 @@ def solve(request):
     return ask(LIBRARY.kelplan_solve, request, None)
 
 
+def convert(request):
+    return ask(LIBRARY.kelplan_convert, request, None)
+
+
+def printed(arguments):
+    """What the program prints as JSON, as the library replies it."""
+    run = [PROGRAM, *arguments.split(), "--format", "json"]
+    answer = json.loads(subprocess.run(run, check=True, stdout=subprocess.PIPE, text=True).stdout)
+    del answer["schema-version"]
+    return answer
+
+
+def without_head(reply):
+    return {key: each for key, each in reply.items() if key not in ("schema", "version")}
+
+
 def described():
     return json.loads(LIBRARY.kelplan_describe().decode())
 
@@ -89,11 +114,32 @@ class SchemaTest(unittest.TestCase):
         if not PROGRAM:
             self.skipTest("there is no program")
         for test, example in examples():
-            arguments = [PROGRAM, *example["arguments"].split(), "--explain", "--format", "json"]
-            printed = json.loads(subprocess.run(arguments, check=True, stdout=subprocess.PIPE, text=True).stdout)
-            del printed["schema-version"]
             reply = solve({"test": test["name"], "inputs": example["inputs"], "explain": True})[1]
-            self.assertEqual({key: each for key, each in reply.items() if key not in ("schema", "version")}, printed)
+            self.assertEqual(without_head(reply), printed(example["arguments"] + " --explain"))
+
+    def test_conversions(self):
+        for example in described()["effects"]["examples"]:
+            request = {"inputs": example["inputs"], "explain": True}
+            status, reply = convert(request)
+            self.assertEqual(status, 0, reply)
+            self.check("conversion", reply)
+            self.check("conversion", convert({**request, "names": "underscore"})[1])
+            if PROGRAM:
+                self.assertEqual(without_head(reply), printed(example["arguments"] + " --explain"))
+
+    def test_planned(self):
+        for test, inputs in PLANNED:
+            status, reply = solve({"test": test, "inputs": inputs})
+            self.assertEqual(status, 0, reply)
+            self.check("answer", reply)
+            batch = ctypes.c_void_p()
+            status, prepared = ask(LIBRARY.kelplan_prepare, {"test": test, "inputs": inputs}, ctypes.byref(batch))
+            LIBRARY.kelplan_release(batch)
+            self.assertEqual(status, 0, prepared)
+            self.check("batch", prepared)
+            if PROGRAM:
+                options = " ".join(f"--{name} {value}" for name, value in inputs.items())
+                self.assertEqual(without_head(reply), printed(f"{test} {options}"))
 
     def test_tables(self):
         for test, example in examples():
@@ -135,6 +181,10 @@ class SchemaTest(unittest.TestCase):
         for request in wrong:
             status, reply = solve(request)
             self.assertIn(status, (2, 3), request)
+            self.check("error", reply)
+        for request in ({}, {"inputs": {"t": 2}}, {"inputs": {"effect-d": "x"}}, {"test": "effect"}):
+            status, reply = convert(request)
+            self.assertEqual(status, 2, request)
             self.check("error", reply)
 
 

@@ -511,6 +511,7 @@ TEST(EffectDescriptions, AreThereForOtherFrontEnds) {
   EXPECT_EQ(json["conversions"][0]["needs"], (std::vector<std::string>{"means", "sd"}));
   EXPECT_EQ(json["conversions"][0]["uses"][0]["test"], "two-means");
   EXPECT_EQ(json["effect-sizes"][0]["name"], "d");
+  for (const auto& conversion : json["conversions"]) EXPECT_NE(conversion["title"], "");
   EXPECT_GE(json["effect-sizes"][0]["formulas"].size(), 5u);
 }
 

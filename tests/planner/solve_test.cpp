@@ -83,7 +83,7 @@ TEST(Solve, RefusesInputsThatDisagree) {
             "The number of groups is not known: give --groups.");
   EXPECT_EQ(Complaint<InputError>("anova", {{"means", Numbers{1}}, {"sd", 6.0}, {"n", Numbers{20}}}),
             "--means gives 1 group, but must give at least 2.");
-  EXPECT_EQ(Complaint<InputError>("anova", {{"mean", 1.0}}), "--mean is not an option of anova.");
+  EXPECT_EQ(Complaint<InputError>("anova", {{"mean", 1.0}}), "--mean is no input of anova.");
 }
 
 TEST(Solve, RefusesADesignWithoutErrorDegreesOfFreedom) {

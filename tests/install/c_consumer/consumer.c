@@ -48,6 +48,8 @@ int main(void) {
   show("solve", status, answer);
   status = kelplan_draw(request, NULL, &answer);
   show("draw", status, answer);
+  status = kelplan_convert("{\"inputs\":{\"t\":2.3,\"n\":20}}", NULL, &answer);
+  show("convert", status, answer);
   status = kelplan_solve("no JSON", NULL, &answer);
   show("solve", status, answer);
   show_batch();
