@@ -36,13 +36,13 @@ Details DetailsOfMean(Question question, const Inputs& in) {
       "noncentral t distribution";
   details.equivalents.insert(
       details.equivalents.begin(),
-      {{.program = "pwr",
-        .call = "pwr.t.test({n-or-power}, d = {d}, sig.level = {alpha}, type = \"one.sample\", alternative = "
-                "{alternative}){answer}"},
-       {.program = "R",
-        .call = "power.t.test({n-or-power}, delta = {d}, sd = 1, sig.level = {alpha}, type = \"one.sample\", "
-                "alternative = {r-alternative}, strict = TRUE){answer}",
-        .remark = "strict = TRUE counts both tails of a two-sided test"}});
+      {Equivalent{.program = "pwr",
+                  .call = "pwr.t.test({n-or-power}, d = {d}, sig.level = {alpha}, type = \"one.sample\", alternative = "
+                          "{alternative}){answer}"},
+       Equivalent{.program = "R",
+                  .call = "power.t.test({n-or-power}, delta = {d}, sd = 1, sig.level = {alpha}, type = \"one.sample\", "
+                          "alternative = {r-alternative}, strict = TRUE){answer}",
+                  .remark = "strict = TRUE counts both tails of a two-sided test"}});
   details.equivalents.push_back(
       {.program = "G*Power",
        .call = "t tests > Means: Difference from constant (one sample case); tails {tails}, effect size d {d}, alpha "

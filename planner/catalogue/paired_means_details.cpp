@@ -65,14 +65,16 @@ Details DetailsOfPairedMeans(Question question, const Inputs& in) {
       "the noncentral t distribution";
   details.equivalents.insert(
       details.equivalents.begin(),
-      {{.program = "pwr",
-        .call = "pwr.t.test({n-or-power}, d = {d}, sig.level = {alpha}, type = \"paired\", alternative = "
-                "{alternative}){answer}",
-        .remark = "n counts pairs; d is over the standard deviation of the differences"},
-       {.program = "R",
-        .call = "power.t.test({n-or-power}, delta = {d}, sd = 1, sig.level = {alpha}, type = \"paired\", alternative = "
-                "{r-alternative}, strict = TRUE){answer}",
-        .remark = "n counts pairs, sd is that of the differences; strict = TRUE counts both tails"}});
+      {Equivalent{.program = "pwr",
+                  .call = "pwr.t.test({n-or-power}, d = {d}, sig.level = {alpha}, type = \"paired\", alternative = "
+                          "{alternative}){answer}",
+                  .remark = "n counts pairs; d is over the standard deviation of the differences"},
+       Equivalent{
+           .program = "R",
+           .call =
+               "power.t.test({n-or-power}, delta = {d}, sd = 1, sig.level = {alpha}, type = \"paired\", alternative = "
+               "{r-alternative}, strict = TRUE){answer}",
+           .remark = "n counts pairs, sd is that of the differences; strict = TRUE counts both tails"}});
   details.equivalents.push_back(
       {.program = "G*Power",
        .call = "t tests > Means: Difference between two dependent means (matched pairs); tails {tails}, effect size dz "

@@ -10,18 +10,21 @@ void AddPooledPrograms(Details& details, const Inputs& in) {
   if (isEqual) {
     programs.insert(
         programs.begin(),
-        {{.program = "pwr",
-          .call = "pwr.t.test({n-or-power}, d = {d}, sig.level = {alpha}, type = \"two.sample\", alternative = "
-                  "{alternative}){answer}",
-          .remark = "n counts one group"},
-         {.program = "R",
-          .call = "power.t.test({n-or-power}, delta = {d}, sd = 1, sig.level = {alpha}, type = \"two.sample\", "
-                  "alternative = {r-alternative}, strict = TRUE){answer}",
-          .remark = "n counts one group; strict = TRUE counts both tails of a two-sided test"}});
+        {Equivalent{.program = "pwr",
+                    .call =
+                        "pwr.t.test({n-or-power}, d = {d}, sig.level = {alpha}, type = \"two.sample\", alternative = "
+                        "{alternative}){answer}",
+                    .remark = "n counts one group"},
+         Equivalent{.program = "R",
+                    .call =
+                        "power.t.test({n-or-power}, delta = {d}, sd = 1, sig.level = {alpha}, type = \"two.sample\", "
+                        "alternative = {r-alternative}, strict = TRUE){answer}",
+                    .remark = "n counts one group; strict = TRUE counts both tails of a two-sided test"}});
   } else {
-    programs.insert(programs.begin(), {{.program = "pwr",
-                                        .call = "pwr.t2n.test(n1 = {n1}, n2 = {n2}, d = {d}, sig.level = {alpha}, "
-                                                "alternative = {alternative})$power"}});
+    programs.insert(programs.begin(),
+                    {Equivalent{.program = "pwr",
+                                .call = "pwr.t2n.test(n1 = {n1}, n2 = {n2}, d = {d}, sig.level = {alpha}, "
+                                        "alternative = {alternative})$power"}});
   }
   programs.push_back({.program = "G*Power",
                       .call = "t tests > Means: Difference between two independent means (two groups); tails {tails}, "
