@@ -41,7 +41,7 @@ planner::PreparedQuestion FirstQuestion(const planner::Designs& designs) {
 class Table {
 public:
   Table(Call& call, const planner::Designs& designs)
-      : call_(call), designs_(designs), question_(FirstQuestion(designs)), json_(call), solver_(call.stop) {}
+      : designs_(designs), question_(FirstQuestion(designs)), json_(call), solver_(call.stop) {}
 
   void Write() {
     const planner::Route& route = question_.ChosenRoute();
@@ -127,7 +127,6 @@ private:
     planner::WriteProblem(json_, problem);
   }
 
-  Call& call_;
   const planner::Designs& designs_;
   planner::PreparedQuestion question_;
   Reply json_;
