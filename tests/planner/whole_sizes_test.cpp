@@ -26,6 +26,8 @@ TEST(WholeSizes, AreTheFirstThatReachTheTarget) {
   EXPECT_EQ(sizes("proportion --proportion 0.02 --half-width 0.01 --alpha 0.2 --correction"), Numbers{429});
   EXPECT_EQ(sizes("two-means --sd 2.564,1.0535 --half-width 5.04 --ratio 0.3333333333333333"), (Numbers{4, 2}));
   EXPECT_EQ(sizes("proportion --proportion 0.75 --null 0.8 --power 0.8 --exact"), Numbers{540});
+  EXPECT_EQ(sizes("two-proportions --proportions 0.12,0.97 --power 0.95 --alpha 0.1 --method conditional --one-sided"),
+            (Numbers{6, 6}));
 }
 
 /// The value that a design of these sizes has.
