@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "catalogue/axes.h"
+#include "catalogue/contrast.h"
 #include "catalogue/details.h"
 
 namespace planner {
@@ -57,27 +58,9 @@ Details DetailsOf(const AskedContrast& asked, Question question, const Inputs& i
   return details;
 }
 
-namespace {
-
-/// With the last coefficient set so that they sum to zero, as the test does.
-Numbers Coefficients(const Inputs& in) {
-  Numbers coefficients = in.List("coefficients");
-  double others = 0;
-  for (std::size_t i = 0; i + 1 < coefficients.size(); ++i) others += coefficients[i];
-  coefficients.back() = -others;
-  return coefficients;
-}
-
-double Effect(const Numbers& coefficients, const Inputs& in) {
-  if (in.Has("effect-d")) return in.Number("effect-d");
-  return in.Has("means") ? anova::ContrastValue(coefficients, in.List("means")) / in.Number("sd") : 0;
-}
-
-}  // namespace
-
 Details DetailsOfContrast(Question question, const Inputs& in) {
-  const Numbers coefficients = Coefficients(in);
-  Details details = DetailsOf({coefficients, Effect(coefficients, in), IsOneSided(in), in.Alpha()}, question, in);
+  const double effect = IsAboutPower(question) ? EffectOfContrast(in) : 0;
+  Details details = DetailsOf({CoefficientsOfContrast(in), effect, IsOneSided(in), in.Alpha()}, question, in);
   if (IsAboutPower(question) && in.Has("means")) {
     details.equivalents.push_back(
         {.program = "SAS",

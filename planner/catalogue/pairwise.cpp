@@ -60,6 +60,8 @@ double EffectOfPair(const Inputs& in) {
   return anova::ContrastValue(ContrastOfPair(in), in.List("means")) / in.Number("sd");
 }
 
+double EffectOfPairwise(const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : EffectOfPair(in); }
+
 double LevelOfPair(const Inputs& in) {
   return anova::AdjustedAlpha(anova::Adjustment(in.Choice("adjust")), in.Groups(), in.Alpha());
 }

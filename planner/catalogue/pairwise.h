@@ -15,6 +15,9 @@ Numbers ContrastOfPair(const Inputs& in);
 /// The difference of the means of the pair over the standard deviation.
 double EffectOfPair(const Inputs& in);
 
+/// The same, whichever way it is given.
+double EffectOfPairwise(const Inputs& in);
+
 /// The level of the one comparison.
 double LevelOfPair(const Inputs& in);
 

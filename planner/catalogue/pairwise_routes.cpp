@@ -8,19 +8,17 @@ namespace {
 
 namespace anova = kelpower::anova;
 
-double EffectOf(const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : EffectOfPair(in); }
-
 constexpr bool oneSided = false;
 
 double Power(const Inputs& in) {
   const Numbers contrast = ContrastOfPair(in);
-  return OrNaN(anova::Power({contrast, in.List("n"), EffectOf(in), oneSided, LevelOfPair(in)}, TotalSize(in)));
+  return OrNaN(anova::Power({contrast, in.List("n"), EffectOfPairwise(in), oneSided, LevelOfPair(in)}, TotalSize(in)));
 }
 
 Numbers Sizes(const Inputs& in) {
   const Numbers contrast = ContrastOfPair(in);
   const Numbers weights = in.Weights();
-  const anova::ContrastDesign design{contrast, weights, EffectOf(in), oneSided, LevelOfPair(in)};
+  const anova::ContrastDesign design{contrast, weights, EffectOfPairwise(in), oneSided, LevelOfPair(in)};
   return SpreadByShares(anova::TotalForPower(design, in.Number("power")), weights);
 }
 

@@ -1,5 +1,3 @@
-#include <limits>
-
 #include "catalogue/two_means.h"
 #include "catalogue/unknowns.h"
 
@@ -7,17 +5,7 @@ namespace planner {
 
 std::vector<Unknown> UnknownsOfTwoMeans() {
   return {
-      UnknownEffectD(),
-      {.input = "mean-difference",
-       .target = Question::Power,
-       .trend = Trend::Rises,
-       .reason = "the noncentrality grows with the difference",
-       .piece = [](const Inputs&) -> Piece {
-         return {0, std::numeric_limits<double>::infinity()};
-       }},
-      UnknownSd("sd"),
-      UnknownRatio(),
-      UnknownSdOfInterval("sd"),
+      UnknownEffectD(), UnknownMeanDifference(), UnknownSd("sd"), UnknownRatio(), UnknownSdOfInterval("sd"),
   };
 }
 

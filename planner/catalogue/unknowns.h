@@ -2,6 +2,7 @@
 #define KELPOWER_PLANNER_CATALOGUE_UNKNOWNS_H
 
 #include <cmath>
+#include <limits>
 
 #include "model/test.h"
 
@@ -25,6 +26,17 @@ inline Unknown UnknownEffect(Name input) {
           .target = Question::Power,
           .trend = Trend::Rises,
           .reason = "the noncentrality grows with the effect"};
+}
+
+/// The difference of two means of either direction, as a positive one.
+inline Unknown UnknownMeanDifference() {
+  return {.input = "mean-difference",
+          .target = Question::Power,
+          .trend = Trend::Rises,
+          .reason = "the noncentrality grows with the difference",
+          .piece = [](const Inputs&) -> Piece {
+            return {0, std::numeric_limits<double>::infinity()};
+          }};
 }
 
 inline Unknown UnknownSd(Name input) {

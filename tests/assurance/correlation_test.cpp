@@ -6,6 +6,7 @@
 #include <limits>
 #include <random>
 
+#include "support/drawn_correlation.h"
 #include "support/reference_rows.h"
 #include "support/share_of_studies.h"
 
@@ -27,22 +28,6 @@ TEST(AssuranceOfCorrelations, AgreesWithMultiplePrecision) {
 double HalfWidthOf(double z, double size, double quantile) {
   const double h = quantile / std::sqrt(size - 3);
   return (std::tanh(z + h) - std::tanh(z - h)) / 2;
-}
-
-template <typename Engine>
-double DrawCorrelation(Engine& engine, int size, double rho) {
-  std::normal_distribution<double> normal;
-  double x = 0, y = 0, xx = 0, yy = 0, xy = 0;
-  for (int i = 0; i < size; ++i) {
-    const double u = normal(engine);
-    const double v = rho * u + std::sqrt(1 - rho * rho) * normal(engine);
-    x += u;
-    y += v;
-    xx += u * u;
-    yy += v * v;
-    xy += u * v;
-  }
-  return (xy - x * y / size) / std::sqrt((xx - x * x / size) * (yy - y * y / size));
 }
 
 TEST(AssuranceOfCorrelations, IsTheShareOfStudies) {
