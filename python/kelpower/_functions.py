@@ -5,11 +5,12 @@ from __future__ import annotations
 
 from typing import Any
 
-from ._ask import asked
+from ._ask import asked, question
 
-__all__ = ["anova", "contrast", "pairwise", "mean", "paired_means", "two_means", "proportion", "two_proportions", "paired_proportions", "pearson", "spearman", "partial", "regression"]
+__all__ = ["anova", "contrast", "mean", "paired_means", "paired_proportions", "pairwise", "partial", "pearson", "proportion", "regression", "spearman", "two_means", "two_proportions"]
 
 
+@question("anova")
 def anova(
     *,
     means: Any = None,
@@ -106,9 +107,10 @@ def anova(
     (22, 22, 22)
 
     """
-    return asked("anova", locals(), anova.__kwdefaults__)
+    return asked("anova", locals())
 
 
+@question("contrast")
 def contrast(
     *,
     coefficients: Any = None,
@@ -208,9 +210,10 @@ def contrast(
     (53, 53, 53)
 
     """
-    return asked("contrast", locals(), contrast.__kwdefaults__)
+    return asked("contrast", locals())
 
 
+@question("pairwise")
 def pairwise(
     *,
     pair: Any = None,
@@ -307,9 +310,10 @@ def pairwise(
     (19, 19, 19)
 
     """
-    return asked("pairwise", locals(), pairwise.__kwdefaults__)
+    return asked("pairwise", locals())
 
 
+@question("mean")
 def mean(
     *,
     mean: Any = None,
@@ -415,9 +419,10 @@ def mean(
     64
 
     """
-    return asked("mean", locals(), mean.__kwdefaults__)
+    return asked("mean", locals())
 
 
+@question("paired-means")
 def paired_means(
     *,
     means: Any = None,
@@ -523,9 +528,10 @@ def paired_means(
     47
 
     """
-    return asked("paired-means", locals(), paired_means.__kwdefaults__)
+    return asked("paired-means", locals())
 
 
+@question("two-means")
 def two_means(
     *,
     means: Any = None,
@@ -647,9 +653,10 @@ def two_means(
     (73, 73)
 
     """
-    return asked("two-means", locals(), two_means.__kwdefaults__)
+    return asked("two-means", locals())
 
 
+@question("proportion")
 def proportion(
     *,
     proportion: Any = None,
@@ -762,9 +769,10 @@ def proportion(
     189
 
     """
-    return asked("proportion", locals(), proportion.__kwdefaults__)
+    return asked("proportion", locals())
 
 
+@question("two-proportions")
 def two_proportions(
     *,
     proportions: Any = None,
@@ -912,9 +920,10 @@ def two_proportions(
     (154, 154)
 
     """
-    return asked("two-proportions", locals(), two_proportions.__kwdefaults__)
+    return asked("two-proportions", locals())
 
 
+@question("paired-proportions")
 def paired_proportions(
     *,
     p12: Any = None,
@@ -1027,9 +1036,10 @@ def paired_proportions(
     140
 
     """
-    return asked("paired-proportions", locals(), paired_proportions.__kwdefaults__)
+    return asked("paired-proportions", locals())
 
 
+@question("pearson")
 def pearson(
     *,
     r: Any = None,
@@ -1130,9 +1140,10 @@ def pearson(
     404
 
     """
-    return asked("pearson", locals(), pearson.__kwdefaults__)
+    return asked("pearson", locals())
 
 
+@question("spearman")
 def spearman(
     *,
     r: Any = None,
@@ -1224,9 +1235,10 @@ def spearman(
     503
 
     """
-    return asked("spearman", locals(), spearman.__kwdefaults__)
+    return asked("spearman", locals())
 
 
+@question("partial")
 def partial(
     *,
     r: Any = None,
@@ -1321,9 +1333,10 @@ def partial(
     407
 
     """
-    return asked("partial", locals(), partial.__kwdefaults__)
+    return asked("partial", locals())
 
 
+@question("regression")
 def regression(
     *,
     r_squared: Any = None,
@@ -1412,4 +1425,4 @@ def regression(
     242
 
     """
-    return asked("regression", locals(), regression.__kwdefaults__)
+    return asked("regression", locals())

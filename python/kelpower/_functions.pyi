@@ -1,3 +1,4 @@
+# ruff: noqa: E501
 from collections.abc import Sequence
 from typing import Any, Literal, overload
 
@@ -8,10 +9,10 @@ from ._results import Results
 
 Floats = Sequence[float] | NDArray[Any]
 
-__all__ = ["anova", "contrast", "pairwise", "mean", "paired_means", "two_means", "proportion", "two_proportions", "paired_proportions", "pearson", "spearman", "partial", "regression"]
+__all__ = ["anova", "contrast", "mean", "paired_means", "paired_proportions", "pairwise", "partial", "pearson", "proportion", "regression", "spearman", "two_means", "two_proportions"]
 
 @overload
-def anova(  # type: ignore[overload-overlap]
+def anova(
     *,
     means: Floats | None = None,
     sd: float | None = None,
@@ -47,7 +48,7 @@ def anova(
     solve: ArrayLike | None = None,
 ) -> Results: ...
 @overload
-def contrast(  # type: ignore[overload-overlap]
+def contrast(
     *,
     coefficients: Floats | None = None,
     means: Floats | None = None,
@@ -85,7 +86,7 @@ def contrast(
     solve: ArrayLike | None = None,
 ) -> Results: ...
 @overload
-def pairwise(  # type: ignore[overload-overlap]
+def pairwise(
     *,
     pair: Floats | None = None,
     means: Floats | None = None,
@@ -121,7 +122,7 @@ def pairwise(
     solve: ArrayLike | None = None,
 ) -> Results: ...
 @overload
-def mean(  # type: ignore[overload-overlap]
+def mean(
     *,
     mean: float | None = None,
     test_value: float = 0,
@@ -163,7 +164,7 @@ def mean(
     below: ArrayLike = False,
 ) -> Results: ...
 @overload
-def paired_means(  # type: ignore[overload-overlap]
+def paired_means(
     *,
     means: Floats | None = None,
     sds: Floats | None = None,
@@ -205,7 +206,7 @@ def paired_means(
     solve: ArrayLike | None = None,
 ) -> Results: ...
 @overload
-def two_means(  # type: ignore[overload-overlap]
+def two_means(
     *,
     means: Floats | None = None,
     mean_difference: float | None = None,
@@ -251,7 +252,7 @@ def two_means(
     solve: ArrayLike | None = None,
 ) -> Results: ...
 @overload
-def proportion(  # type: ignore[overload-overlap]
+def proportion(
     *,
     proportion: float | None = None,
     null: float | None = None,
@@ -295,7 +296,7 @@ def proportion(
     stable: ArrayLike = False,
 ) -> Results: ...
 @overload
-def two_proportions(  # type: ignore[overload-overlap]
+def two_proportions(
     *,
     proportions: Floats | None = None,
     proportion1: float | None = None,
@@ -355,7 +356,7 @@ def two_proportions(
     stable: ArrayLike = False,
 ) -> Results: ...
 @overload
-def paired_proportions(  # type: ignore[overload-overlap]
+def paired_proportions(
     *,
     p12: float | None = None,
     p21: float | None = None,
@@ -401,7 +402,7 @@ def paired_proportions(
     stable: ArrayLike = False,
 ) -> Results: ...
 @overload
-def pearson(  # type: ignore[overload-overlap]
+def pearson(
     *,
     r: float | None = None,
     null: float = 0,
@@ -439,7 +440,7 @@ def pearson(
     below: ArrayLike = False,
 ) -> Results: ...
 @overload
-def spearman(  # type: ignore[overload-overlap]
+def spearman(
     *,
     r: float | None = None,
     null: float = 0,
@@ -473,7 +474,7 @@ def spearman(
     below: ArrayLike = False,
 ) -> Results: ...
 @overload
-def partial(  # type: ignore[overload-overlap]
+def partial(
     *,
     r: float | None = None,
     null: float = 0,
@@ -509,7 +510,7 @@ def partial(
     below: ArrayLike = False,
 ) -> Results: ...
 @overload
-def regression(  # type: ignore[overload-overlap]
+def regression(
     *,
     r_squared: float | None = None,
     r_squared_reduced: float | None = None,

@@ -1,7 +1,8 @@
 """NumPy ufuncs of the questions to the planner: ``<test>_<question>``, each made when it is first used.
 
-They broadcast, take ``out=`` and ``where=``, and work on what knows ufuncs: arrays, pandas, xarray, Dask, polars. Those of
-tests with any number of groups are generalized ones, whose lists lie along the last axis. `kelpower.ufunc` makes others.
+They broadcast, take ``out=`` and ``where=``, and work on what knows ufuncs: arrays, pandas, xarray, Dask, polars. Those
+of tests with any number of groups are generalized ones, whose lists lie along the last axis. `kelpower.ufunc` makes
+others.
 
 Examples
 --------
@@ -19,7 +20,7 @@ import numpy as np
 from ._ufunc import make
 from ._ufunc_table import TABLE
 
-__all__ = list(TABLE)  # noqa: PLE0605
+__all__ = list(TABLE)
 
 
 def __getattr__(name: str) -> np.ufunc:

@@ -134,14 +134,17 @@ def signature(test):
 
 
 def function(test):
-    name = underscored(test["name"])
-    body = f'    return asked("{test["name"]}", locals(), {name}.__kwdefaults__)'
-    return "\n".join([signature(test), docstring(test), body])
+    body = f'    return asked("{test["name"]}", locals())'
+    return "\n".join([f'@question("{test["name"]}")', signature(test), docstring(test), body])
+
+
+def exported(tests):
+    return ", ".join(sorted(f'"{underscored(test["name"])}"' for test in tests))
 
 
 def module(tests):
-    names = ", ".join(f'"{underscored(test["name"])}"' for test in tests)
-    imports = "from __future__ import annotations\n\nfrom typing import Any\n\nfrom ._ask import asked\n"
+    names = exported(tests)
+    imports = "from __future__ import annotations\n\nfrom typing import Any\n\nfrom ._ask import asked, question\n"
     functions = "\n\n\n".join(function(test) for test in tests)
     return f"{HEADER}\n# ruff: noqa: E501\n{imports}\n__all__ = [{names}]\n\n\n{functions}\n"
 
@@ -163,22 +166,21 @@ def array_type(parameter):
     return {"flag": "ArrayLike", "choice": "ArrayLike | None"}.get(parameter["kind"], "ArrayLike | None")
 
 
-def overload(test, type_of, returned, comment=""):
+def overload(test, type_of, returned):
     parameters = [f"    {underscored(each['name'])}: {type_of(each)} = {default_of(each)},".replace("'", '"')
                   for each in test["parameters"]]
-    return "\n".join(["@overload", f"def {underscored(test['name'])}({comment}", "    *,", *parameters,
+    return "\n".join(["@overload", f"def {underscored(test['name'])}(", "    *,", *parameters,
                       f") -> {returned}: ..."])
 
 
 def stub(tests):
     """Types: numbers give one answer, arrays give many."""
-    lines = ["from collections.abc import Sequence", "from typing import Any, Literal, overload", "",
+    lines = ["# ruff: noqa: E501", "from collections.abc import Sequence", "from typing import Any, Literal, overload", "",
              "from numpy.typing import ArrayLike, NDArray", "", "from ._result import Result",
              "from ._results import Results", "", "Floats = Sequence[float] | NDArray[Any]", ""]
-    names = ", ".join(f'"{underscored(test["name"])}"' for test in tests)
+    names = exported(tests)
     lines += [f"__all__ = [{names}]", ""]
     for test in tests:
-        lines.append(overload(test, lambda each, test=test: scalar_type(test, each), "Result",
-                              "  # type: ignore[overload-overlap]"))
+        lines.append(overload(test, lambda each, test=test: scalar_type(test, each), "Result"))
         lines.append(overload(test, array_type, "Results"))
     return "\n".join(lines) + "\n"

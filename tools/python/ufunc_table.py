@@ -91,8 +91,8 @@ def outputs_of(test, route):
 
 def form_of(arguments, primary):
     """The input that tells a form of the effect from the first one."""
-    known = {argument.input for argument in primary}
-    others = [argument.input for argument in arguments if argument.input not in known]
+    known = {argument.name for argument in primary}
+    others = [argument.input for argument in arguments if argument.name not in known]
     return f"_of_{others[0]}" if others else ""
 
 
