@@ -30,13 +30,19 @@ def test_names_are_those_of_python():
     assert problem(n=30, power=0.8, sd=10, solve="nothing").allowed.startswith("effect_d, mean_difference")
 
 
-@pytest.mark.parametrize("value", [float("nan"), float("inf"), -float("inf"), 10**400, 1e300, None.__class__, "x", b"x",
-                                   {}, object(), 1j, Decimal("NaN"), np.float64("nan"), np.datetime64("NaT")])  # fmt: skip
+NO_NUMBERS = [
+    float("nan"), float("inf"), -float("inf"), 10**400, 1e300, type(None), "x", b"x", {}, object(), 1j, Decimal("NaN"),
+    np.float64("nan"), np.datetime64("NaT"),
+]  # fmt: skip
+HALVES = [0.5, np.float32(0.5), np.float64(0.5), np.array(0.5), Decimal("0.5"), np.longdouble(0.5)]
+
+
+@pytest.mark.parametrize("value", NO_NUMBERS)
 def test_what_is_no_number_is_refused_by_name(value):
     assert "effect_d" in str(problem(effect_d=value, n=20))
 
 
-@pytest.mark.parametrize("value", [0.5, np.float32(0.5), np.float64(0.5), np.array(0.5), Decimal("0.5"), np.longdouble(0.5)])
+@pytest.mark.parametrize("value", HALVES)
 def test_what_is_like_a_number_is_one(value):
     assert kelpower.two_means(effect_d=value, n=np.int64(64)).power == kelpower.two_means(effect_d=0.5, n=64).power
 

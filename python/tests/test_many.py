@@ -53,7 +53,8 @@ def test_other_numbers_are_solved_for():
 
 
 def test_a_design_without_an_answer_is_nan_with_its_status_and_one_warning():
-    with pytest.warns(kelpower.NoSolutionWarning, match=r"2 designs have no answer, of 4\. At index 1: The effect") as told:
+    said = r"2 designs have no answer, of 4\. At index 1: The effect"
+    with pytest.warns(kelpower.NoSolutionWarning, match=said) as told:
         answers = kelpower.two_means(effect_d=[0.5, 0, 0.8, np.nan], power=0.8)
     assert len(told) == 1
     assert told[0].filename == __file__
