@@ -8,7 +8,7 @@ bool AddExportUfuncs(PyObject* dictionary) {
   static std::vector<Ufunc> ufuncs = {
 #define KEL_FUNCTION(name, doc, ...)
 #define KEL_RELEASE(name, record, doc)
-#define KEL_UFUNC(name, function, doc) MakeUfunc<double>(#name, &function, doc),
+#define KEL_UFUNC(name, function, doc) MakeUfunc<double>(#name, function, doc),
 #include "lib_exports.inc"
 #undef KEL_UFUNC
 #undef KEL_RELEASE

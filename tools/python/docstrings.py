@@ -14,6 +14,19 @@ REPAIRED = "double*"
 RECORDS = {"XYPlot", "XYZPlot"}
 WIDTH = 79
 
+# What ends a call. The exact tests that are quick without it are not asked.
+QUICK = "The call is made without `cancel`: it is quick at all but the largest sizes."
+OF_CONDITIONAL = "Ctrl-C ends the exact conditional test, the one that takes long; others are made without `cancel`."
+OF_STOP = {
+    "PowerIndSampBinom": OF_CONDITIONAL,
+    "PowerReverseIndSampBinom": OF_CONDITIONAL,
+    "PowerOneSampBinom": QUICK,
+    "PowerReverseOneSampBinom": QUICK,
+    "PowerbyPRelSampBionm": QUICK,
+    "PowerReversebyPRelSampBionm": QUICK,
+    "PowerReversebyMargPRelSampBionm": QUICK,
+}
+
 # What an export answers, by the beginning of its name, where its comment needs no words for it.
 ANSWERS = {
     "PowerReverse": "The size.",
@@ -26,9 +39,10 @@ ANSWERS = {
 
 # What the header says of vectors that the caller brings.
 OF_VECTORS = [
-    r"Appends to what is in `results`\.",
-    r"Does nothing when `results` is not empty\.",
-    r"Earlier content of `sampleSizes` is discarded\.",
+    r"\s*Appends to what is in `results`\.",
+    r"\s*Does nothing when `results` is not empty\.",
+    r"\s*Earlier content of `sampleSizes` is discarded\.",
+    r" in `results`",
 ]
 
 
@@ -96,21 +110,25 @@ def code(text: str) -> str:
 def sentence(text: str) -> str:
     """The text as one that stands alone."""
     text = text.strip()
-    if re.match(r"[a-z]+\b(?!\()", text):  # no formula
+    if re.match(r"[a-z]{2,}\b(?!\()", text):  # no symbol or formula
         text = text[0].upper() + text[1:]
     return text if text.endswith(".") else text + "."
 
 
-def summary_and_rest(export: Documented) -> tuple[str, list[str]]:
-    first = export.function.text[0]
+def without_vectors(text: str) -> str:
     for pattern in OF_VECTORS:
-        first = re.sub(r"\s*" + pattern, "", first)
+        text = re.sub(pattern, "", text)
+    return text
+
+
+def summary_and_rest(export: Documented) -> tuple[str, list[str]]:
+    first = without_vectors(export.function.text[0])
     if is_same(export.function):
         first = first.replace("The same", f"The same as `{export.same_as}`", 1)
     match = re.match(r"(.+?[.:])(?:\s+(?=[A-Z0-9])|$)(.*)", first)
     assert match, first
     rest = [match[2]] if match[2] else []
-    return sentence(match[1].rstrip(":")), rest + export.function.text[1:]
+    return sentence(match[1].rstrip(":")), rest + [without_vectors(text) for text in export.function.text[1:]]
 
 
 def filled(text: str, indent: str = "") -> str:
@@ -165,10 +183,10 @@ def notes_and_sources(export: Documented, rest: list[str]) -> tuple[list[str], l
     """Remarks of the function and of its section, and where its method is from."""
     texts, sources = list(rest), []
     if STOP in export.types:
-        texts.append("Ctrl-C ends the call; it takes the part of `cancel` in C++.")
+        texts.append(OF_STOP.get(export.name, "Ctrl-C ends the call; it takes the part of `cancel` in C++."))
     for remark in export.function.section.remarks:
         said, _, source = re.split(r"(Methods?(?: and sources)?: )", remark, maxsplit=1)
-        texts.append(said.strip())
+        texts.append(without_vectors(said.strip()))
         sources.append(source)
     if texts and re.search(r"\bmissing\b", " ".join(texts)):
         texts.append("Missing is `kelpower.MISSING`.")
@@ -197,7 +215,7 @@ def docstring(export: Documented) -> str:
         parts.append(filled(f"The arguments are `{names}`, in this order."))
     parts.append(section("Parameters", parameters_text(export)))
     parts.append(section("Returns", returns_text(export)))
-    if re.search(r"\b(that|the same|as above|likewise)\b", " ".join([summary, *rest]), re.I):
+    if re.search(r"\b(that (test|interval)|the same (as|for)|as above)\b", " ".join([summary, *rest]), re.I):
         parts.append(section("See Also", export.previous))
     parts += [section_of_paragraphs("Notes", texts), section_of_paragraphs("References", sources)]
     return "\n\n".join(part.rstrip("\n") for part in parts if part) + "\n"
