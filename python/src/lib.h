@@ -1,15 +1,14 @@
 #ifndef KELPOWER_PYTHON_LIB_H
 #define KELPOWER_PYTHON_LIB_H
 
-#define PY_SSIZE_T_CLEAN
-#include <Python.h>
+#include "python.h"
 
-namespace kelpower_python {
+namespace kelpython {
 
 /// Adds `lib_functions` and `dist_functions` to the module: dictionaries of what kelpower.lib and kelpower.dist offer.
 /// False where Python has an error set.
 bool AddLib(PyObject* module);
 
-}  // namespace kelpower_python
+}  // namespace kelpython
 
 #endif

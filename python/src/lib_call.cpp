@@ -2,21 +2,14 @@
 
 #include <algorithm>
 #include <cstring>
-#include <memory>
 
-namespace kelpower_python {
+namespace kelpython {
 namespace {
 
 // Named tuples, made once.
 PyObject* curveType = nullptr;
 PyObject* surfaceType = nullptr;
 PyObject* sizesType = nullptr;
-
-/// Owns a reference.
-struct Dropped {
-  void operator()(PyObject* object) const { Py_DECREF(object); }
-};
-using Reference = std::unique_ptr<PyObject, Dropped>;
 
 std::size_t PlaceOf(const PythonCall& call, PyObject* name) {
   std::size_t place = 0;
@@ -65,23 +58,23 @@ PyObject* NewHeights(const XYZPlot& surface) {
 // The tuple of a type with parts whose references it takes over; null where one of them is.
 template <class... Parts>
 PyObject* NewTuple(PyObject* type, Parts... parts) {
-  const std::array<Reference, sizeof...(Parts)> owned{Reference(parts)...};
-  if (std::any_of(owned.begin(), owned.end(), [](const Reference& part) { return !part; })) return nullptr;
+  const std::array<Ref, sizeof...(Parts)> owned{Ref(parts)...};
+  if (std::any_of(owned.begin(), owned.end(), [](const Ref& part) { return !part; })) return nullptr;
   return PyObject_CallFunctionObjArgs(type, parts..., nullptr);
 }
 
 bool AddTuple(PyObject* dictionary, const char* name, const char* fields, const char* doc, PyObject*& type) {
-  const Reference collections(PyImport_ImportModule("collections"));
+  const Ref collections(PyImport_ImportModule("collections"));
   if (!collections) return false;
-  const Reference factory(PyObject_GetAttrString(collections.get(), "namedtuple"));
-  const Reference arguments(Py_BuildValue("(ss)", name, fields));
-  const Reference keywords(Py_BuildValue("{ss}", "module", "kelpower.lib"));
+  const Ref factory(PyObject_GetAttrString(collections.Get(), "namedtuple"));
+  const Ref arguments(Py_BuildValue("(ss)", name, fields));
+  const Ref keywords(Py_BuildValue("{ss}", "module", "kelpower.lib"));
   if (!factory || !arguments || !keywords) return false;
-  Reference made(PyObject_Call(factory.get(), arguments.get(), keywords.get()));
-  const Reference text(PyUnicode_FromString(doc));
-  if (!made || !text || PyObject_SetAttrString(made.get(), "__doc__", text.get()) != 0) return false;
-  if (PyDict_SetItemString(dictionary, name, made.get()) != 0) return false;
-  type = made.release();
+  Ref made(PyObject_Call(factory.Get(), arguments.Get(), keywords.Get()));
+  const Ref text(PyUnicode_FromString(doc));
+  if (!made || !text || PyObject_SetAttrString(made.Get(), "__doc__", text.Get()) != 0) return false;
+  if (PyDict_SetItemString(dictionary, name, made.Get()) != 0) return false;
+  type = made.Release();
   return true;
 }
 
@@ -113,10 +106,10 @@ bool TakeNumber(PyObject* object, double& number) {
 }
 
 bool TakeInteger(PyObject* object, std::int32_t lowest, std::int32_t highest, std::int32_t& integer) {
-  const Reference index(PyNumber_Index(object));
+  const Ref index(PyNumber_Index(object));
   if (!index) return false;
   int overflow = 0;
-  const long long number = PyLong_AsLongLongAndOverflow(index.get(), &overflow);
+  const long long number = PyLong_AsLongLongAndOverflow(index.Get(), &overflow);
   if (number == -1 && overflow == 0 && PyErr_Occurred()) return false;
   // A code outside the range stays another one; of a one-byte flag, every value but 0 stays a yes.
   const bool isAbove = overflow > 0 || number > highest || (lowest == 0 && (overflow < 0 || number < 0));
@@ -126,9 +119,9 @@ bool TakeInteger(PyObject* object, std::int32_t lowest, std::int32_t highest, st
 }
 
 bool TakeArray(PyObject* object, std::vector<double>& array) {
-  const Reference converted(PyArray_FROMANY(object, NPY_DOUBLE, 1, 1, NPY_ARRAY_CARRAY_RO));
+  const Ref converted(PyArray_FROMANY(object, NPY_DOUBLE, 1, 1, NPY_ARRAY_CARRAY_RO));
   if (!converted) return false;
-  auto* const source = reinterpret_cast<PyArrayObject*>(converted.get());
+  auto* const source = reinterpret_cast<PyArrayObject*>(converted.Get());
   const auto* const data = static_cast<const double*>(PyArray_DATA(source));
   const auto size = static_cast<std::size_t>(PyArray_SIZE(source));
   array.reserve(std::max<std::size_t>(size, 1));  // so that an empty array is not null
@@ -194,4 +187,4 @@ bool IsRecord(const char* type, PyObject* object) {
   return PyObject_IsInstance(object, wanted) == 1;
 }
 
-}  // namespace kelpower_python
+}  // namespace kelpython

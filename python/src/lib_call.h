@@ -13,9 +13,9 @@
 #include <vector>
 
 #include "kelpower.h"
-#include "lib_numpy.h"
+#include "numpy.h"
 
-namespace kelpower_python {
+namespace kelpython {
 
 /// The arguments as Python passes them to a function of a module, and what they are called.
 struct PythonCall {
@@ -63,18 +63,6 @@ bool AddAnswerTypes(PyObject* dictionary);
 /// Whether the object is an answer of the type with this name.
 bool IsRecord(const char* type, PyObject* object);
 
-/// Lets other threads run while it lives.
-class Release {
-public:
-  Release() : thread_(PyEval_SaveThread()) {}
-  ~Release() { PyEval_RestoreThread(thread_); }
-  Release(const Release&) = delete;
-  Release& operator=(const Release&) = delete;
-
-private:
-  PyThreadState* thread_;
-};
-
 /// How a parameter of a function is taken from Python, and given to the function.
 template <class T>
 struct Parameter;
@@ -87,9 +75,7 @@ struct Parameter<double> {
 template <>
 struct Parameter<std::int32_t> {
   static constexpr bool isGiven = true;
-  static bool Take(PyObject* object, Value& value) {
-    return TakeInteger(object, INT32_MIN, INT32_MAX, value.integer);
-  }
+  static bool Take(PyObject* object, Value& value) { return TakeInteger(object, INT32_MIN, INT32_MAX, value.integer); }
   static std::int32_t Get(Value& value) { return value.integer; }
 };
 template <>
@@ -162,7 +148,7 @@ struct Caller {
 
   template <std::size_t... I>
   static R CallReleased(R (*function)(P...), Values& values, std::index_sequence<I...>) {
-    const Release release;
+    const WithoutInterpreter others;
     return function(Parameter<P>::Get(values[I])...);
   }
 
@@ -199,6 +185,6 @@ PyObject* CallFromPython(const PythonCall& call, R (*function)(P...)) {
   }
 }
 
-}  // namespace kelpower_python
+}  // namespace kelpython
 
 #endif

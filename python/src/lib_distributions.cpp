@@ -4,7 +4,7 @@
 #include "lib_functions.h"
 #include "lib_ufunc.h"
 
-namespace kelpower_python {
+namespace kelpython {
 namespace {
 
 using KelMath::KelDistFun;
@@ -13,9 +13,7 @@ using KelMath::KelDistFun;
 constexpr double tuning = 0;
 
 /// Outside the domain there is no value.
-double NaNForMissing(double v) {
-  return KelCommon::KelMV::IsMissing(v) ? std::numeric_limits<double>::quiet_NaN() : v;
-}
+double NaNForMissing(double v) { return KelCommon::KelMV::IsMissing(v) ? std::numeric_limits<double>::quiet_NaN() : v; }
 
 double NaNForError(double v, long error) {
   return error != 0 ? std::numeric_limits<double>::quiet_NaN() : NaNForMissing(v);
@@ -31,9 +29,7 @@ double norm_ppf(double p) { return NaNForMissing(KelDistFun::IdfStdNorm(p)); }
 
 double norm_isf(double p) { return -norm_ppf(p); }
 
-double nct_cdf(double x, double df, double nc) {
-  return NaNForMissing(KelDistFun::NonCentralCdfT(x, df, nc, tuning));
-}
+double nct_cdf(double x, double df, double nc) { return NaNForMissing(KelDistFun::NonCentralCdfT(x, df, nc, tuning)); }
 
 double nct_sf(double x, double df, double nc) { return nct_cdf(-x, df, -nc); }
 
@@ -111,11 +107,11 @@ double gammaln(double x) { return NaNForMissing(KelDistFun::orvadnlgam(x)); }
 
 bool AddDistributionUfuncs(PyObject* dictionary) {
   static std::vector<Ufunc> ufuncs = {
-#define KEL_DISTRIBUTION(name, doc) MakeUfunc<float, double>(#name, &name, doc),
+#define KEL_DISTRIBUTION(name, doc) UfuncOf<float, double>(#name, &name, doc),
 #include "lib_distributions.inc"
 #undef KEL_DISTRIBUTION
   };
   return AddUfuncs(dictionary, ufuncs);
 }
 
-}  // namespace kelpower_python
+}  // namespace kelpython

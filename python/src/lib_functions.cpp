@@ -2,7 +2,7 @@
 
 #include "lib_call.h"
 
-namespace kelpower_python {
+namespace kelpython {
 namespace {
 
 // The arrays of the record were released when those of Python were made.
@@ -17,9 +17,9 @@ PyObject* CheckRecord(const char* function, const char* type, PyObject* record) 
 #define KEL_UFUNC(name, function, doc)
 #define KEL_RELEASE(name, record, doc) \
   PyObject* Call##name(PyObject*, PyObject* argument) { return CheckRecord(#name, #record, argument); }
-#define KEL_FUNCTION(name, doc, ...)                                                                        \
-  PyObject* Call##name(PyObject*, PyObject* const* arguments, Py_ssize_t positional, PyObject* keywords) {  \
-    static constexpr std::array parameters{__VA_ARGS__};                                                    \
+#define KEL_FUNCTION(name, doc, ...)                                                                              \
+  PyObject* Call##name(PyObject*, PyObject* const* arguments, Py_ssize_t positional, PyObject* keywords) {        \
+    static constexpr std::array parameters{__VA_ARGS__};                                                          \
     return CallFromPython({#name, parameters.data(), parameters.size(), arguments, positional, keywords}, &name); \
   }
 #include "lib_exports.inc"
@@ -28,9 +28,8 @@ PyObject* CheckRecord(const char* function, const char* type, PyObject* record) 
 
 PyMethodDef methods[] = {
 #define KEL_RELEASE(name, record, doc) {#name, &Call##name, METH_O, doc},
-#define KEL_FUNCTION(name, doc, ...)                                                                   \
-  {#name, reinterpret_cast<PyCFunction>(reinterpret_cast<void (*)()>(&Call##name)), METH_FASTCALL | METH_KEYWORDS, \
-   doc},
+#define KEL_FUNCTION(name, doc, ...) \
+  {#name, reinterpret_cast<PyCFunction>(reinterpret_cast<void (*)()>(&Call##name)), METH_FASTCALL | METH_KEYWORDS, doc},
 #include "lib_exports.inc"
 #undef KEL_FUNCTION
 #undef KEL_RELEASE
@@ -41,15 +40,13 @@ PyMethodDef methods[] = {
 
 bool AddFunctions(PyObject* dictionary) {
   if (!AddAnswerTypes(dictionary)) return false;
-  PyObject* const moduleName = PyUnicode_FromString("kelpower.lib");
-  bool isAdded = moduleName != nullptr;
-  for (PyMethodDef* method = methods; isAdded && method->ml_name; ++method) {
-    PyObject* const function = PyCFunction_NewEx(method, nullptr, moduleName);
-    isAdded = function && PyDict_SetItemString(dictionary, method->ml_name, function) == 0;
-    Py_XDECREF(function);
+  const Ref moduleName(PyUnicode_FromString("kelpower.lib"));
+  if (!moduleName) return false;
+  for (PyMethodDef* method = methods; method->ml_name; ++method) {
+    const Ref function(PyCFunction_NewEx(method, nullptr, moduleName.Get()));
+    if (!function || PyDict_SetItemString(dictionary, method->ml_name, function.Get()) != 0) return false;
   }
-  Py_XDECREF(moduleName);
-  return isAdded;
+  return true;
 }
 
-}  // namespace kelpower_python
+}  // namespace kelpython

@@ -1,10 +1,9 @@
 #ifndef KELPOWER_PYTHON_LIB_FUNCTIONS_H
 #define KELPOWER_PYTHON_LIB_FUNCTIONS_H
 
-#define PY_SSIZE_T_CLEAN
-#include <Python.h>
+#include "python.h"
 
-namespace kelpower_python {
+namespace kelpython {
 
 /// Adds the exports that are no ufuncs: those that take arrays or give charts. False where Python has an error set.
 bool AddFunctions(PyObject* dictionary);
@@ -15,6 +14,6 @@ bool AddExportUfuncs(PyObject* dictionary);
 /// Adds the distributions as ufuncs.
 bool AddDistributionUfuncs(PyObject* dictionary);
 
-}  // namespace kelpower_python
+}  // namespace kelpython
 
 #endif

@@ -13,7 +13,7 @@
 
 #include "kelpower.h"
 
-namespace kelpower_python {
+namespace kelpython {
 
 /// The function without its request.
 template <auto function, class Type = decltype(function)>
@@ -51,6 +51,6 @@ struct AskedByConditionalTest<function, exactPlace, R (*)(P...)> {
   }
 };
 
-}  // namespace kelpower_python
+}  // namespace kelpython
 
 #endif

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cfenv>
 #include <cstddef>
 #include <cstdint>
 #include <exception>
@@ -15,17 +14,33 @@
 #include <utility>
 #include <vector>
 
+#include "interrupts.h"
 #include "kelcommon/kel_mv.h"
-#include "lib_numpy.h"
-#include "lib_watch.h"
+#include "kelpower.h"
+#include "numpy.h"
+#include "ufunc.h"
 
-namespace kelpower_python {
+namespace kelpython {
+
+/// Ends a call for `Interrupts`.
+class Request final : public StopRequest {
+public:
+  explicit Request(Interrupts& interrupts) : interrupts_(interrupts) {}
+  bool ShouldStop() override { return interrupts_.ShouldStop(); }
+
+private:
+  Interrupts& interrupts_;
+};
 
 /// What the calls of one loop share.
 struct LoopContext {
-  Watch watch;
+  Interrupts interrupts;
+  Request request{interrupts};
   DoubleVector sizes;
 };
+
+/// Has the interpreter raise MemoryError in this thread soon.
+void RunOutOfMemory();
 
 /// The nearest value of a C integer. A code outside the range stays another one; of a one-byte flag, every value but 0
 /// stays a yes.
@@ -55,7 +70,7 @@ template <class Number>
 struct Operand<StopRequest*, Number> {
   static constexpr bool isInput = false;
   static constexpr char type = NPY_NOTYPE;
-  static StopRequest* Get(const char*, LoopContext& context) { return &context.watch; }
+  static StopRequest* Get(const char*, LoopContext& context) { return &context.request; }
 };
 template <class Number>
 struct Operand<DoubleVector&, Number> {
@@ -83,6 +98,7 @@ namespace detail {
 
 template <class Number, class R, class... P>
 struct Loop {
+  static constexpr npy_intp elementsPerQuestion = 64;
   static constexpr double noAnswer = std::numeric_limits<double>::quiet_NaN();
   static constexpr std::size_t count = sizeof...(P);
   static constexpr std::array<bool, count> isInput{Operand<P, Number>::isInput...};
@@ -114,28 +130,32 @@ struct Loop {
     }
   }
 
-  static void CallOrGiveUp(R (*function)(P...), char* const* elements, LoopContext& context) {
-    if (!context.watch.HasEnded()) {
-      try {
-        return CallOne(function, elements, context, std::index_sequence_for<P...>());
-      } catch (const std::exception&) {  // the only one that functions throw is std::bad_alloc
-        context.watch.RunOutOfMemory();
-      }
+  // False when no more are to be called. The only exception that functions throw is std::bad_alloc.
+  static bool CallOrGiveUp(R (*function)(P...), char* const* elements, LoopContext& context) {
+    try {
+      CallOne(function, elements, context, std::index_sequence_for<P...>());
+      return true;
+    } catch (const std::exception&) {
+      RunOutOfMemory();
+      return false;
     }
-    for (std::size_t output = 0; output < outputs; ++output) Store(elements, output, noAnswer);
   }
 
-  // The floating-point flags that a function leaves say nothing about its answer, and NumPy would warn of them.
   static void Run(char** operands, const npy_intp* dimensions, const npy_intp* strides, void* data) {
     const auto function = reinterpret_cast<R (*)(P...)>(static_cast<const Ufunc*>(data)->function);
     std::array<char*, inputs + outputs> elements;
     std::copy(operands, operands + elements.size(), elements.begin());
+    const FloatingPointFlags flags;
     LoopContext context;
+    bool goesOn = true;
     for (npy_intp n = 0; n < dimensions[0]; ++n) {
-      CallOrGiveUp(function, elements.data(), context);
+      if (n % elementsPerQuestion == 0) goesOn = goesOn && !context.interrupts.ShouldStop();
+      if (goesOn) goesOn = CallOrGiveUp(function, elements.data(), context);
+      if (!goesOn)
+        for (std::size_t output = 0; output < outputs; ++output) Store(elements.data(), output, noAnswer);
       for (std::size_t i = 0; i < elements.size(); ++i) elements[i] += strides[i];
     }
-    std::feclearexcept(FE_ALL_EXCEPT);
+    context.interrupts.RaiseLater();
   }
 
   /// The types of the operands, as NumPy numbers them.
@@ -168,7 +188,7 @@ constexpr auto joinedTypes = JoinedTypes<Loops...>();
 
 /// A ufunc with one loop for each of the number types, the preferred one first.
 template <class... Numbers, class R, class... P>
-Ufunc MakeUfunc(const char* name, R (*function)(P...), const char* doc) {
+Ufunc UfuncOf(const char* name, R (*function)(P...), const char* doc) {
   using First = detail::Loop<double, R, P...>;
   return {name,
           doc,
@@ -184,6 +204,6 @@ Ufunc MakeUfunc(const char* name, R (*function)(P...), const char* doc) {
 /// an error set.
 bool AddUfuncs(PyObject* dictionary, std::vector<Ufunc>& ufuncs);
 
-}  // namespace kelpower_python
+}  // namespace kelpython
 
 #endif

@@ -2,13 +2,13 @@
 #include "lib_quick.h"
 #include "lib_ufunc.h"
 
-namespace kelpower_python {
+namespace kelpython {
 
 bool AddExportUfuncs(PyObject* dictionary) {
   static std::vector<Ufunc> ufuncs = {
 #define KEL_FUNCTION(name, doc, ...)
 #define KEL_RELEASE(name, record, doc)
-#define KEL_UFUNC(name, function, doc) MakeUfunc<double>(#name, function, doc),
+#define KEL_UFUNC(name, function, doc) UfuncOf<double>(#name, function, doc),
 #include "lib_exports.inc"
 #undef KEL_UFUNC
 #undef KEL_RELEASE
@@ -17,4 +17,4 @@ bool AddExportUfuncs(PyObject* dictionary) {
   return AddUfuncs(dictionary, ufuncs);
 }
 
-}  // namespace kelpower_python
+}  // namespace kelpython

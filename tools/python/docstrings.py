@@ -1,5 +1,8 @@
 """Docstrings in NumPy's form, of what the header says."""
 
+import itertools
+import keyword
+import operator
 import re
 import textwrap
 from dataclasses import dataclass
@@ -46,6 +49,10 @@ OF_VECTORS = [
 ]
 
 
+def python_name(name: str) -> str:
+    return name + "_" * keyword.iskeyword(name)
+
+
 @dataclass
 class Documented:
     """An export as Python sees it."""
@@ -60,7 +67,8 @@ class Documented:
 
     @property
     def parameters(self) -> list[Parameter]:
-        return [parameter for parameter in self.function.parameters if parameter.type not in LEFT_OUT]
+        return [Parameter(python_name(parameter.name), parameter.type)
+                for parameter in self.function.parameters if parameter.type not in LEFT_OUT]
 
     @property
     def types(self) -> set[str]:
@@ -149,14 +157,16 @@ def type_words(parameter: Parameter, is_ufunc: bool) -> str:
 
 def description_of(export: Documented, parameter: Parameter) -> str:
     function = export.function
-    return sentence(function.own.get(parameter.name) or function.section.parameters[parameter.name])
+    name = parameter.name.rstrip("_")
+    return sentence(function.own.get(name) or function.section.parameters[name])
 
 
 def parameters_text(export: Documented) -> str:
     parts = []
-    for parameter in export.parameters:
-        kind = type_words(parameter, export.is_ufunc)
-        parts.append(f"{parameter.name} : {kind}\n{filled(description_of(export, parameter), '    ')}")
+    described = [(f"{type_words(parameter, export.is_ufunc)}\n{filled(description_of(export, parameter), '    ')}",
+                  parameter.name) for parameter in export.parameters]
+    for text, together in itertools.groupby(described, key=operator.itemgetter(0)):
+        parts.append(f"{', '.join(name for _, name in together)} : {text}")
     if export.repairs:
         parts.append("repaired : ndarray, optional\n" + filled(
             "Contiguous array of doubles, one a group, that receives the coefficients as the function left them. "
