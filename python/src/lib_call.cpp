@@ -46,12 +46,13 @@ PyObject* NewAxis(const double* values, std::int32_t count) {
 }
 
 PyObject* NewHeights(const XYZPlot& surface) {
-  const bool isEmpty = !surface.z || surface.xCount <= 0 || surface.yCount <= 0;
-  npy_intp lengths[2] = {isEmpty ? 0 : surface.xCount, isEmpty ? 0 : surface.yCount};
+  // One axis may be empty and the other not.
+  npy_intp lengths[2] = {surface.z ? surface.xCount : 0, surface.z ? surface.yCount : 0};
   PyObject* const array = PyArray_SimpleNew(2, lengths, NPY_DOUBLE);
-  if (array && !isEmpty)
+  const npy_intp count = lengths[0] * lengths[1];
+  if (array && count > 0)
     std::memcpy(PyArray_DATA(reinterpret_cast<PyArrayObject*>(array)), surface.z,
-                static_cast<std::size_t>(lengths[0] * lengths[1]) * sizeof(double));
+                static_cast<std::size_t>(count) * sizeof(double));
   return array;
 }
 
