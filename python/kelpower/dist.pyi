@@ -19,7 +19,11 @@ class _Ufunc(Protocol):
 
 class _norm_cdf(_Ufunc, Protocol):
     @overload
-    def __call__(self, z: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        z: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -38,7 +42,11 @@ norm_cdf: _norm_cdf
 
 class _norm_sf(_Ufunc, Protocol):
     @overload
-    def __call__(self, z: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        z: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -57,7 +65,11 @@ norm_sf: _norm_sf
 
 class _norm_ppf(_Ufunc, Protocol):
     @overload
-    def __call__(self, p: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        p: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -76,7 +88,11 @@ norm_ppf: _norm_ppf
 
 class _norm_isf(_Ufunc, Protocol):
     @overload
-    def __call__(self, p: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        p: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -95,7 +111,12 @@ norm_isf: _norm_isf
 
 class _t_cdf(_Ufunc, Protocol):
     @overload
-    def __call__(self, x: float, df: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        x: float,
+        df: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -115,7 +136,12 @@ t_cdf: _t_cdf
 
 class _t_sf(_Ufunc, Protocol):
     @overload
-    def __call__(self, x: float, df: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        x: float,
+        df: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -135,7 +161,12 @@ t_sf: _t_sf
 
 class _t_ppf(_Ufunc, Protocol):
     @overload
-    def __call__(self, p: float, df: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        p: float,
+        df: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -155,7 +186,12 @@ t_ppf: _t_ppf
 
 class _t_isf(_Ufunc, Protocol):
     @overload
-    def __call__(self, p: float, df: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        p: float,
+        df: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -175,7 +211,13 @@ t_isf: _t_isf
 
 class _nct_cdf(_Ufunc, Protocol):
     @overload
-    def __call__(self, x: float, df: float, nc: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        x: float,
+        df: float,
+        nc: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -196,7 +238,13 @@ nct_cdf: _nct_cdf
 
 class _nct_sf(_Ufunc, Protocol):
     @overload
-    def __call__(self, x: float, df: float, nc: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        x: float,
+        df: float,
+        nc: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -217,7 +265,13 @@ nct_sf: _nct_sf
 
 class _f_cdf(_Ufunc, Protocol):
     @overload
-    def __call__(self, x: float, dfn: float, dfd: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        x: float,
+        dfn: float,
+        dfd: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -238,7 +292,13 @@ f_cdf: _f_cdf
 
 class _f_sf(_Ufunc, Protocol):
     @overload
-    def __call__(self, x: float, dfn: float, dfd: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        x: float,
+        dfn: float,
+        dfd: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -259,7 +319,13 @@ f_sf: _f_sf
 
 class _f_ppf(_Ufunc, Protocol):
     @overload
-    def __call__(self, p: float, dfn: float, dfd: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        p: float,
+        dfn: float,
+        dfd: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -280,7 +346,13 @@ f_ppf: _f_ppf
 
 class _f_isf(_Ufunc, Protocol):
     @overload
-    def __call__(self, p: float, dfn: float, dfd: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        p: float,
+        dfn: float,
+        dfd: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -301,7 +373,14 @@ f_isf: _f_isf
 
 class _ncf_cdf(_Ufunc, Protocol):
     @overload
-    def __call__(self, x: float, dfn: float, dfd: float, nc: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        x: float,
+        dfn: float,
+        dfd: float,
+        nc: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -323,7 +402,13 @@ ncf_cdf: _ncf_cdf
 
 class _beta_cdf(_Ufunc, Protocol):
     @overload
-    def __call__(self, x: float, a: float, b: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        x: float,
+        a: float,
+        b: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -344,7 +429,13 @@ beta_cdf: _beta_cdf
 
 class _beta_ppf(_Ufunc, Protocol):
     @overload
-    def __call__(self, p: float, a: float, b: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        p: float,
+        a: float,
+        b: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -365,7 +456,13 @@ beta_ppf: _beta_ppf
 
 class _binom_cdf(_Ufunc, Protocol):
     @overload
-    def __call__(self, k: float, n: float, p: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        k: float,
+        n: float,
+        p: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -386,7 +483,13 @@ binom_cdf: _binom_cdf
 
 class _binom_sf(_Ufunc, Protocol):
     @overload
-    def __call__(self, k: float, n: float, p: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        k: float,
+        n: float,
+        p: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -407,7 +510,13 @@ binom_sf: _binom_sf
 
 class _binom_pmf(_Ufunc, Protocol):
     @overload
-    def __call__(self, k: float, n: float, p: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        k: float,
+        n: float,
+        p: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -428,7 +537,13 @@ binom_pmf: _binom_pmf
 
 class _binom_ppf(_Ufunc, Protocol):
     @overload
-    def __call__(self, q: float, n: float, p: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        q: float,
+        n: float,
+        p: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -449,7 +564,13 @@ binom_ppf: _binom_ppf
 
 class _binom_lower_critical(_Ufunc, Protocol):
     @overload
-    def __call__(self, q: float, n: float, p: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        q: float,
+        n: float,
+        p: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -470,7 +591,13 @@ binom_lower_critical: _binom_lower_critical
 
 class _nbinom_pmf(_Ufunc, Protocol):
     @overload
-    def __call__(self, k: float, r: float, p: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        k: float,
+        r: float,
+        p: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -491,7 +618,11 @@ nbinom_pmf: _nbinom_pmf
 
 class _gammaln(_Ufunc, Protocol):
     @overload
-    def __call__(self, x: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        x: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,

@@ -182,6 +182,7 @@ PlotNaCorrmlr = _functions["PlotNaCorrmlr"]
 PlotNaESmlr = _functions["PlotNaESmlr"]
 
 __all__ = [
+    "MISSING",
     "Combination",
     "EffectSizeIndependent",
     "EffectSizeOneSample",
@@ -203,7 +204,6 @@ __all__ = [
     "HalfCIRelatedMeans",
     "HalfCISCTest",
     "InvTanh",
-    "MISSING",
     "PlotAlterOneSampBinom",
     "PlotAlterOneSampPartial",
     "PlotAlterOneSampPearson",

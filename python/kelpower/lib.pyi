@@ -34,7 +34,12 @@ MISSING: Final[float]
 
 class _Combination(_Ufunc, Protocol):
     @overload
-    def __call__(self, n: float, k: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        n: float,
+        k: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -54,7 +59,11 @@ Combination: _Combination
 
 class _InvTanh(_Ufunc, Protocol):
     @overload
-    def __call__(self, x: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        x: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -73,16 +82,64 @@ InvTanh: _InvTanh
 
 def FreeMemXYPlot(record: XYPlot) -> None: ...
 def FreeMemXYZPlot(record: XYZPlot) -> None: ...
-def SampleSizeTotal(numGroups: int, groupSizes: ArrayLike) -> float: ...
-def RMSSEOverallTest(numGroups: int, groupMeans: ArrayLike, pooledSD: float, groupSizes: ArrayLike, alpha: float) -> float: ...
-def PowerOverallTest(numGroups: int, groupMeans: ArrayLike, pooledSD: float, groupSizes: ArrayLike, alpha: float) -> float: ...
-def PowerOverallTestwES(numGroups: int, effectSize: float, isEtaSquared: int, groupSizes: ArrayLike, alpha: float) -> float: ...
-def PowerReverseOverallTest(numGroups: int, groupMeans: ArrayLike, pooledSD: float, groupRatios: ArrayLike, power: float, alpha: float) -> Sizes: ...
-def PowerReverseOverallTestwES(numGroups: int, effectSize: float, isEtaSquared: int, groupRatios: ArrayLike, power: float, alpha: float) -> Sizes: ...
-def PowerReversebyHalfCIOverallTest(halfWidth: float, numGroups: int, groupRatios: ArrayLike, pooledSD: float, alpha: float) -> Sizes: ...
+def SampleSizeTotal(
+    numGroups: int,
+    groupSizes: ArrayLike,
+) -> float: ...
+def RMSSEOverallTest(
+    numGroups: int,
+    groupMeans: ArrayLike,
+    pooledSD: float,
+    groupSizes: ArrayLike,
+    alpha: float,
+) -> float: ...
+def PowerOverallTest(
+    numGroups: int,
+    groupMeans: ArrayLike,
+    pooledSD: float,
+    groupSizes: ArrayLike,
+    alpha: float,
+) -> float: ...
+def PowerOverallTestwES(
+    numGroups: int,
+    effectSize: float,
+    isEtaSquared: int,
+    groupSizes: ArrayLike,
+    alpha: float,
+) -> float: ...
+def PowerReverseOverallTest(
+    numGroups: int,
+    groupMeans: ArrayLike,
+    pooledSD: float,
+    groupRatios: ArrayLike,
+    power: float,
+    alpha: float,
+) -> Sizes: ...
+def PowerReverseOverallTestwES(
+    numGroups: int,
+    effectSize: float,
+    isEtaSquared: int,
+    groupRatios: ArrayLike,
+    power: float,
+    alpha: float,
+) -> Sizes: ...
+def PowerReversebyHalfCIOverallTest(
+    halfWidth: float,
+    numGroups: int,
+    groupRatios: ArrayLike,
+    pooledSD: float,
+    alpha: float,
+) -> Sizes: ...
 class _HalfCIOverallTest(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, numGroups: int, pooledSD: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        numGroups: int,
+        pooledSD: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -102,31 +159,235 @@ class _HalfCIOverallTest(_Ufunc, Protocol):
 
 HalfCIOverallTest: _HalfCIOverallTest
 
-def EffectSizeSC(numGroups: int, groupMeans: ArrayLike, pooledSD: float, contrastCoefficients: ArrayLike, repaired: NDArray[np.float64] | None = None) -> float: ...
-def PowerSC(numGroups: int, groupMeans: ArrayLike, pooledSD: float, groupSizes: ArrayLike, contrastCoefficients: ArrayLike, isDirectional: int, alpha: float, repaired: NDArray[np.float64] | None = None) -> float: ...
-def PowerSCwES(numGroups: int, effectSize: float, groupSizes: ArrayLike, contrastCoefficients: ArrayLike, isDirectional: int, alpha: float) -> float: ...
-def PowerReverseSC(numGroups: int, groupMeans: ArrayLike, pooledSD: float, groupRatios: ArrayLike, contrastCoefficients: ArrayLike, power: float, isDirectional: int, alpha: float, repaired: NDArray[np.float64] | None = None) -> Sizes: ...
-def PowerReverseSCwES(numGroups: int, effectSize: float, groupRatios: ArrayLike, contrastCoefficients: ArrayLike, power: float, isDirectional: int, alpha: float) -> Sizes: ...
-def PowerReversebyHalfCISCTest(halfWidth: float, numGroups: int, groupRatios: ArrayLike, contrastCoefficients: ArrayLike, pooledSD: float, alpha: float) -> Sizes: ...
-def HalfCISCTest(sampleSize: float, numGroups: int, groupSizes: ArrayLike, contrastCoefficients: ArrayLike, pooledSD: float, alpha: float) -> float: ...
-def EffectSizePairwiseDiff(numGroups: int, groupMeans: ArrayLike, pooledSD: float, firstGroup: int, secondGroup: int) -> float: ...
-def PowerPairwiseDiff(numGroups: int, groupMeans: ArrayLike, pooledSD: float, groupSizes: ArrayLike, firstGroup: int, secondGroup: int, adjustment: int, alpha: float) -> float: ...
-def PowerReversePairwiseDiff(numGroups: int, groupMeans: ArrayLike, pooledSD: float, groupRatios: ArrayLike, firstGroup: int, secondGroup: int, power: float, adjustment: int, alpha: float) -> Sizes: ...
-def PowerReversebyHalfCIPairwiseDiff(halfWidth: float, numGroups: int, groupRatios: ArrayLike, firstGroup: int, secondGroup: int, pooledSD: float, adjustment: int, alpha: float) -> Sizes: ...
-def HalfCIPairwiseDiff(sampleSize: float, numGroups: int, groupSizes: ArrayLike, firstGroup: int, secondGroup: int, pooledSD: float, adjustment: int, alpha: float) -> float: ...
-def PlotNOverallTest(numGroups: int, groupMeans: ArrayLike, pooledSD: float, groupSizes: ArrayLike, from_: int, to: int, alpha: float) -> XYPlot: ...
-def PlotNOverallTestFES(numGroups: int, effectSize: float, isEtaSquared: int, groupSizes: ArrayLike, from_: int, to: int, alpha: float) -> XYPlot: ...
-def PlotESOverallTest(numGroups: int, isEtaSquared: int, groupSizes: ArrayLike, esFrom: float, esTo: float, alpha: float, stepFraction: float) -> XYPlot: ...
-def PlotSDOverallTest(numGroups: int, groupMeans: ArrayLike, pooledSD: float, groupSizes: ArrayLike, sdFrom: float, sdTo: float, alpha: float, stepFraction: float) -> XYPlot: ...
-def PlotNaSDOverallTest(numGroups: int, groupMeans: ArrayLike, pooledSD: float, groupSizes: ArrayLike, from_: int, to: int, sdFrom: float, sdTo: float, alpha: float, stepFraction: float) -> XYZPlot: ...
-def PlotNaESOverallTest(numGroups: int, effectSize: float, isEtaSquared: int, groupSizes: ArrayLike, from_: int, to: int, esFrom: float, esTo: float, alpha: float, stepFraction: float) -> XYZPlot: ...
-def PlotNSC(numGroups: int, groupMeans: ArrayLike, pooledSD: float, groupSizes: ArrayLike, contrastCoefficients: ArrayLike, from_: int, to: int, isDirectional: int, alpha: float, repaired: NDArray[np.float64] | None = None) -> XYPlot: ...
-def PlotNSCFES(numGroups: int, effectSize: float, groupSizes: ArrayLike, contrastCoefficients: ArrayLike, from_: int, to: int, isDirectional: int, alpha: float) -> XYPlot: ...
-def PlotSDSC(numGroups: int, groupMeans: ArrayLike, pooledSD: float, groupSizes: ArrayLike, contrastCoefficients: ArrayLike, sdFrom: float, sdTo: float, isDirectional: int, alpha: float, stepFraction: float, repaired: NDArray[np.float64] | None = None) -> XYPlot: ...
-def PlotNaSDSC(numGroups: int, groupMeans: ArrayLike, pooledSD: float, groupSizes: ArrayLike, contrastCoefficients: ArrayLike, from_: int, to: int, sdFrom: float, sdTo: float, isDirectional: int, alpha: float, stepFraction: float, repaired: NDArray[np.float64] | None = None) -> XYZPlot: ...
+def EffectSizeSC(
+    numGroups: int,
+    groupMeans: ArrayLike,
+    pooledSD: float,
+    contrastCoefficients: ArrayLike,
+    repaired: NDArray[np.float64] | None = None,
+) -> float: ...
+def PowerSC(
+    numGroups: int,
+    groupMeans: ArrayLike,
+    pooledSD: float,
+    groupSizes: ArrayLike,
+    contrastCoefficients: ArrayLike,
+    isDirectional: int,
+    alpha: float,
+    repaired: NDArray[np.float64] | None = None,
+) -> float: ...
+def PowerSCwES(
+    numGroups: int,
+    effectSize: float,
+    groupSizes: ArrayLike,
+    contrastCoefficients: ArrayLike,
+    isDirectional: int,
+    alpha: float,
+) -> float: ...
+def PowerReverseSC(
+    numGroups: int,
+    groupMeans: ArrayLike,
+    pooledSD: float,
+    groupRatios: ArrayLike,
+    contrastCoefficients: ArrayLike,
+    power: float,
+    isDirectional: int,
+    alpha: float,
+    repaired: NDArray[np.float64] | None = None,
+) -> Sizes: ...
+def PowerReverseSCwES(
+    numGroups: int,
+    effectSize: float,
+    groupRatios: ArrayLike,
+    contrastCoefficients: ArrayLike,
+    power: float,
+    isDirectional: int,
+    alpha: float,
+) -> Sizes: ...
+def PowerReversebyHalfCISCTest(
+    halfWidth: float,
+    numGroups: int,
+    groupRatios: ArrayLike,
+    contrastCoefficients: ArrayLike,
+    pooledSD: float,
+    alpha: float,
+) -> Sizes: ...
+def HalfCISCTest(
+    sampleSize: float,
+    numGroups: int,
+    groupSizes: ArrayLike,
+    contrastCoefficients: ArrayLike,
+    pooledSD: float,
+    alpha: float,
+) -> float: ...
+def EffectSizePairwiseDiff(
+    numGroups: int,
+    groupMeans: ArrayLike,
+    pooledSD: float,
+    firstGroup: int,
+    secondGroup: int,
+) -> float: ...
+def PowerPairwiseDiff(
+    numGroups: int,
+    groupMeans: ArrayLike,
+    pooledSD: float,
+    groupSizes: ArrayLike,
+    firstGroup: int,
+    secondGroup: int,
+    adjustment: int,
+    alpha: float,
+) -> float: ...
+def PowerReversePairwiseDiff(
+    numGroups: int,
+    groupMeans: ArrayLike,
+    pooledSD: float,
+    groupRatios: ArrayLike,
+    firstGroup: int,
+    secondGroup: int,
+    power: float,
+    adjustment: int,
+    alpha: float,
+) -> Sizes: ...
+def PowerReversebyHalfCIPairwiseDiff(
+    halfWidth: float,
+    numGroups: int,
+    groupRatios: ArrayLike,
+    firstGroup: int,
+    secondGroup: int,
+    pooledSD: float,
+    adjustment: int,
+    alpha: float,
+) -> Sizes: ...
+def HalfCIPairwiseDiff(
+    sampleSize: float,
+    numGroups: int,
+    groupSizes: ArrayLike,
+    firstGroup: int,
+    secondGroup: int,
+    pooledSD: float,
+    adjustment: int,
+    alpha: float,
+) -> float: ...
+def PlotNOverallTest(
+    numGroups: int,
+    groupMeans: ArrayLike,
+    pooledSD: float,
+    groupSizes: ArrayLike,
+    from_: int,
+    to: int,
+    alpha: float,
+) -> XYPlot: ...
+def PlotNOverallTestFES(
+    numGroups: int,
+    effectSize: float,
+    isEtaSquared: int,
+    groupSizes: ArrayLike,
+    from_: int,
+    to: int,
+    alpha: float,
+) -> XYPlot: ...
+def PlotESOverallTest(
+    numGroups: int,
+    isEtaSquared: int,
+    groupSizes: ArrayLike,
+    esFrom: float,
+    esTo: float,
+    alpha: float,
+    stepFraction: float,
+) -> XYPlot: ...
+def PlotSDOverallTest(
+    numGroups: int,
+    groupMeans: ArrayLike,
+    pooledSD: float,
+    groupSizes: ArrayLike,
+    sdFrom: float,
+    sdTo: float,
+    alpha: float,
+    stepFraction: float,
+) -> XYPlot: ...
+def PlotNaSDOverallTest(
+    numGroups: int,
+    groupMeans: ArrayLike,
+    pooledSD: float,
+    groupSizes: ArrayLike,
+    from_: int,
+    to: int,
+    sdFrom: float,
+    sdTo: float,
+    alpha: float,
+    stepFraction: float,
+) -> XYZPlot: ...
+def PlotNaESOverallTest(
+    numGroups: int,
+    effectSize: float,
+    isEtaSquared: int,
+    groupSizes: ArrayLike,
+    from_: int,
+    to: int,
+    esFrom: float,
+    esTo: float,
+    alpha: float,
+    stepFraction: float,
+) -> XYZPlot: ...
+def PlotNSC(
+    numGroups: int,
+    groupMeans: ArrayLike,
+    pooledSD: float,
+    groupSizes: ArrayLike,
+    contrastCoefficients: ArrayLike,
+    from_: int,
+    to: int,
+    isDirectional: int,
+    alpha: float,
+    repaired: NDArray[np.float64] | None = None,
+) -> XYPlot: ...
+def PlotNSCFES(
+    numGroups: int,
+    effectSize: float,
+    groupSizes: ArrayLike,
+    contrastCoefficients: ArrayLike,
+    from_: int,
+    to: int,
+    isDirectional: int,
+    alpha: float,
+) -> XYPlot: ...
+def PlotSDSC(
+    numGroups: int,
+    groupMeans: ArrayLike,
+    pooledSD: float,
+    groupSizes: ArrayLike,
+    contrastCoefficients: ArrayLike,
+    sdFrom: float,
+    sdTo: float,
+    isDirectional: int,
+    alpha: float,
+    stepFraction: float,
+    repaired: NDArray[np.float64] | None = None,
+) -> XYPlot: ...
+def PlotNaSDSC(
+    numGroups: int,
+    groupMeans: ArrayLike,
+    pooledSD: float,
+    groupSizes: ArrayLike,
+    contrastCoefficients: ArrayLike,
+    from_: int,
+    to: int,
+    sdFrom: float,
+    sdTo: float,
+    isDirectional: int,
+    alpha: float,
+    stepFraction: float,
+    repaired: NDArray[np.float64] | None = None,
+) -> XYZPlot: ...
 class _EffectSizeOneSample(_Ufunc, Protocol):
     @overload
-    def __call__(self, mean: float, sd: float, testValue: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        mean: float,
+        sd: float,
+        testValue: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -147,7 +408,13 @@ EffectSizeOneSample: _EffectSizeOneSample
 
 class _PowerOneSampleNondirectionalES(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, effectSize: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        effectSize: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -168,7 +435,15 @@ PowerOneSampleNondirectionalES: _PowerOneSampleNondirectionalES
 
 class _PowerOneSampleNondirectional(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, mean: float, sd: float, testValue: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        mean: float,
+        sd: float,
+        testValue: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -191,7 +466,13 @@ PowerOneSampleNondirectional: _PowerOneSampleNondirectional
 
 class _PowerOneSampleDirectionalES(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, effectSize: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        effectSize: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -212,7 +493,15 @@ PowerOneSampleDirectionalES: _PowerOneSampleDirectionalES
 
 class _PowerOneSampleDirectional(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, mean: float, sd: float, testValue: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        mean: float,
+        sd: float,
+        testValue: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -235,7 +524,13 @@ PowerOneSampleDirectional: _PowerOneSampleDirectional
 
 class _PowerReverseOneSampleNondirectionalES(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, effectSize: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        effectSize: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -256,7 +551,15 @@ PowerReverseOneSampleNondirectionalES: _PowerReverseOneSampleNondirectionalES
 
 class _PowerReverseOneSampleNondirectional(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, mean: float, sd: float, testValue: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        mean: float,
+        sd: float,
+        testValue: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -279,7 +582,13 @@ PowerReverseOneSampleNondirectional: _PowerReverseOneSampleNondirectional
 
 class _PowerReverseOneSampleDirectionalES(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, effectSize: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        effectSize: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -300,7 +609,15 @@ PowerReverseOneSampleDirectionalES: _PowerReverseOneSampleDirectionalES
 
 class _PowerReverseOneSampleDirectional(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, mean: float, sd: float, testValue: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        mean: float,
+        sd: float,
+        testValue: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -323,7 +640,13 @@ PowerReverseOneSampleDirectional: _PowerReverseOneSampleDirectional
 
 class _HalfCIOneSampleMeans(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, sd: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        sd: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -344,7 +667,13 @@ HalfCIOneSampleMeans: _HalfCIOneSampleMeans
 
 class _PowerReversebyHalfCIOneSampleMeans(_Ufunc, Protocol):
     @overload
-    def __call__(self, halfWidth: float, sd: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        halfWidth: float,
+        sd: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -363,13 +692,51 @@ class _PowerReversebyHalfCIOneSampleMeans(_Ufunc, Protocol):
 
 PowerReversebyHalfCIOneSampleMeans: _PowerReversebyHalfCIOneSampleMeans
 
-def PlotNOneSample(ignored: float, mean: float, sd: float, minSampleSize: int, maxSampleSize: int, directional: int, testValue: float, alpha: float) -> XYPlot: ...
-def PlotNOneSampleFES(effectSize: float, minSampleSize: int, maxSampleSize: int, directional: int, alpha: float) -> XYPlot: ...
-def PlotESOneSample(sampleSize: float, minEffectSize: float, maxEffectSize: float, directional: int, alpha: float, stepFraction: float) -> XYPlot: ...
-def PlotNaESOneSample(minSampleSize: int, maxSampleSize: int, minEffectSize: float, maxEffectSize: float, directional: int, alpha: float, stepFraction: float) -> XYZPlot: ...
+def PlotNOneSample(
+    ignored: float,
+    mean: float,
+    sd: float,
+    minSampleSize: int,
+    maxSampleSize: int,
+    directional: int,
+    testValue: float,
+    alpha: float,
+) -> XYPlot: ...
+def PlotNOneSampleFES(
+    effectSize: float,
+    minSampleSize: int,
+    maxSampleSize: int,
+    directional: int,
+    alpha: float,
+) -> XYPlot: ...
+def PlotESOneSample(
+    sampleSize: float,
+    minEffectSize: float,
+    maxEffectSize: float,
+    directional: int,
+    alpha: float,
+    stepFraction: float,
+) -> XYPlot: ...
+def PlotNaESOneSample(
+    minSampleSize: int,
+    maxSampleSize: int,
+    minEffectSize: float,
+    maxEffectSize: float,
+    directional: int,
+    alpha: float,
+    stepFraction: float,
+) -> XYZPlot: ...
 class _EffectSizeRelated(_Ufunc, Protocol):
     @overload
-    def __call__(self, mean1: float, sd1: float, mean2: float, sd2: float, correlation: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        mean1: float,
+        sd1: float,
+        mean2: float,
+        sd2: float,
+        correlation: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -392,7 +759,13 @@ EffectSizeRelated: _EffectSizeRelated
 
 class _PowerRelatedNondirectionalES(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, effectSize: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        effectSize: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -413,7 +786,17 @@ PowerRelatedNondirectionalES: _PowerRelatedNondirectionalES
 
 class _PowerRelatedNondirectional(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, mean1: float, sd1: float, mean2: float, sd2: float, correlation: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        mean1: float,
+        sd1: float,
+        mean2: float,
+        sd2: float,
+        correlation: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -438,7 +821,13 @@ PowerRelatedNondirectional: _PowerRelatedNondirectional
 
 class _PowerRelatedDirectionalES(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, effectSize: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        effectSize: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -459,7 +848,17 @@ PowerRelatedDirectionalES: _PowerRelatedDirectionalES
 
 class _PowerRelatedDirectional(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, mean1: float, sd1: float, mean2: float, sd2: float, correlation: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        mean1: float,
+        sd1: float,
+        mean2: float,
+        sd2: float,
+        correlation: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -484,7 +883,13 @@ PowerRelatedDirectional: _PowerRelatedDirectional
 
 class _PowerReverseRelatedNondirectionalES(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, effectSize: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        effectSize: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -505,7 +910,17 @@ PowerReverseRelatedNondirectionalES: _PowerReverseRelatedNondirectionalES
 
 class _PowerReverseRelatedNondirectional(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, mean1: float, sd1: float, mean2: float, sd2: float, correlation: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        mean1: float,
+        sd1: float,
+        mean2: float,
+        sd2: float,
+        correlation: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -530,7 +945,13 @@ PowerReverseRelatedNondirectional: _PowerReverseRelatedNondirectional
 
 class _PowerReverseRelatedDirectionalES(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, effectSize: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        effectSize: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -551,7 +972,17 @@ PowerReverseRelatedDirectionalES: _PowerReverseRelatedDirectionalES
 
 class _PowerReverseRelatedDirectional(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, mean1: float, sd1: float, mean2: float, sd2: float, correlation: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        mean1: float,
+        sd1: float,
+        mean2: float,
+        sd2: float,
+        correlation: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -576,7 +1007,15 @@ PowerReverseRelatedDirectional: _PowerReverseRelatedDirectional
 
 class _HalfCIRelatedMeans(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, sd1: float, sd2: float, correlation: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        sd1: float,
+        sd2: float,
+        correlation: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -599,7 +1038,15 @@ HalfCIRelatedMeans: _HalfCIRelatedMeans
 
 class _PowerReversebyHalfCIRelatedMeans(_Ufunc, Protocol):
     @overload
-    def __call__(self, halfWidth: float, sd1: float, sd2: float, correlation: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        halfWidth: float,
+        sd1: float,
+        sd2: float,
+        correlation: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -620,13 +1067,51 @@ class _PowerReversebyHalfCIRelatedMeans(_Ufunc, Protocol):
 
 PowerReversebyHalfCIRelatedMeans: _PowerReversebyHalfCIRelatedMeans
 
-def PlotNRelated(ignored: float, mean1: float, sd1: float, mean2: float, sd2: float, minSampleSize: int, maxSampleSize: int, correlation: float, directional: int, alpha: float) -> XYPlot: ...
-def PlotNRelatedFES(effectSize: float, minSampleSize: int, maxSampleSize: int, directional: int, alpha: float) -> XYPlot: ...
-def PlotESRelated(sampleSize: float, minEffectSize: float, maxEffectSize: float, directional: int, alpha: float, stepFraction: float) -> XYPlot: ...
-def PlotNaESRelated(minSampleSize: int, maxSampleSize: int, minEffectSize: float, maxEffectSize: float, directional: int, alpha: float, stepFraction: float) -> XYZPlot: ...
+def PlotNRelated(
+    ignored: float,
+    mean1: float,
+    sd1: float,
+    mean2: float,
+    sd2: float,
+    minSampleSize: int,
+    maxSampleSize: int,
+    correlation: float,
+    directional: int,
+    alpha: float,
+) -> XYPlot: ...
+def PlotNRelatedFES(
+    effectSize: float,
+    minSampleSize: int,
+    maxSampleSize: int,
+    directional: int,
+    alpha: float,
+) -> XYPlot: ...
+def PlotESRelated(
+    sampleSize: float,
+    minEffectSize: float,
+    maxEffectSize: float,
+    directional: int,
+    alpha: float,
+    stepFraction: float,
+) -> XYPlot: ...
+def PlotNaESRelated(
+    minSampleSize: int,
+    maxSampleSize: int,
+    minEffectSize: float,
+    maxEffectSize: float,
+    directional: int,
+    alpha: float,
+    stepFraction: float,
+) -> XYZPlot: ...
 class _EffectSizeIndependent(_Ufunc, Protocol):
     @overload
-    def __call__(self, mean1: float, mean2: float, sd: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        mean1: float,
+        mean2: float,
+        sd: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -647,7 +1132,17 @@ EffectSizeIndependent: _EffectSizeIndependent
 
 class _PowerIndependentNondirectional(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize1: float, mean1: float, sd1: float, sampleSize2: float, mean2: float, sd2: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize1: float,
+        mean1: float,
+        sd1: float,
+        sampleSize2: float,
+        mean2: float,
+        sd2: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -672,7 +1167,14 @@ PowerIndependentNondirectional: _PowerIndependentNondirectional
 
 class _PowerIndependentNondirectionalES(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize1: float, sampleSize2: float, effectSize: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize1: float,
+        sampleSize2: float,
+        effectSize: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -694,7 +1196,17 @@ PowerIndependentNondirectionalES: _PowerIndependentNondirectionalES
 
 class _PowerIndependentDirectional(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize1: float, mean1: float, sd1: float, sampleSize2: float, mean2: float, sd2: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize1: float,
+        mean1: float,
+        sd1: float,
+        sampleSize2: float,
+        mean2: float,
+        sd2: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -719,7 +1231,14 @@ PowerIndependentDirectional: _PowerIndependentDirectional
 
 class _PowerIndependentDirectionalES(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize1: float, sampleSize2: float, effectSize: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize1: float,
+        sampleSize2: float,
+        effectSize: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -741,7 +1260,17 @@ PowerIndependentDirectionalES: _PowerIndependentDirectionalES
 
 class _PowerReverseIndependentNondirectional(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, ratio: float, mean1: float, sd1: float, mean2: float, sd2: float, alpha: float, /) -> tuple[np.float64, np.float64]: ...
+    def __call__(
+        self,
+        power: float,
+        ratio: float,
+        mean1: float,
+        sd1: float,
+        mean2: float,
+        sd2: float,
+        alpha: float,
+        /,
+    ) -> tuple[np.float64, np.float64]: ...
     @overload
     def __call__(
         self,
@@ -766,7 +1295,17 @@ PowerReverseIndependentNondirectional: _PowerReverseIndependentNondirectional
 
 class _PowerReverseIndependentDirectional(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, ratio: float, mean1: float, sd1: float, mean2: float, sd2: float, alpha: float, /) -> tuple[np.float64, np.float64]: ...
+    def __call__(
+        self,
+        power: float,
+        ratio: float,
+        mean1: float,
+        sd1: float,
+        mean2: float,
+        sd2: float,
+        alpha: float,
+        /,
+    ) -> tuple[np.float64, np.float64]: ...
     @overload
     def __call__(
         self,
@@ -791,7 +1330,14 @@ PowerReverseIndependentDirectional: _PowerReverseIndependentDirectional
 
 class _PowerReverseIndependentNondirectionalES(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, ratio: float, effectSize: float, alpha: float, /) -> tuple[np.float64, np.float64]: ...
+    def __call__(
+        self,
+        power: float,
+        ratio: float,
+        effectSize: float,
+        alpha: float,
+        /,
+    ) -> tuple[np.float64, np.float64]: ...
     @overload
     def __call__(
         self,
@@ -813,7 +1359,14 @@ PowerReverseIndependentNondirectionalES: _PowerReverseIndependentNondirectionalE
 
 class _PowerReverseIndependentDirectionalES(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, ratio: float, effectSize: float, alpha: float, /) -> tuple[np.float64, np.float64]: ...
+    def __call__(
+        self,
+        power: float,
+        ratio: float,
+        effectSize: float,
+        alpha: float,
+        /,
+    ) -> tuple[np.float64, np.float64]: ...
     @overload
     def __call__(
         self,
@@ -835,7 +1388,15 @@ PowerReverseIndependentDirectionalES: _PowerReverseIndependentDirectionalES
 
 class _HalfCIIndependentMeans(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize1: float, sd1: float, sampleSize2: float, sd2: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize1: float,
+        sd1: float,
+        sampleSize2: float,
+        sd2: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -858,7 +1419,15 @@ HalfCIIndependentMeans: _HalfCIIndependentMeans
 
 class _PowerReversebyHalfCIIndependentMeans(_Ufunc, Protocol):
     @overload
-    def __call__(self, halfWidth: float, ratio: float, sd1: float, sd2: float, alpha: float, /) -> tuple[np.float64, np.float64]: ...
+    def __call__(
+        self,
+        halfWidth: float,
+        ratio: float,
+        sd1: float,
+        sd2: float,
+        alpha: float,
+        /,
+    ) -> tuple[np.float64, np.float64]: ...
     @overload
     def __call__(
         self,
@@ -879,15 +1448,86 @@ class _PowerReversebyHalfCIIndependentMeans(_Ufunc, Protocol):
 
 PowerReversebyHalfCIIndependentMeans: _PowerReversebyHalfCIIndependentMeans
 
-def PlotRatioIndependent(totalSize: float, mean1: float, sd1: float, mean2: float, sd2: float, minRatio: float, maxRatio: float, directional: int, alpha: float, stepFraction: float) -> XYPlot: ...
-def PlotRatioIndependentFES(totalSize: float, effectSize: float, minRatio: float, maxRatio: float, directional: int, alpha: float, stepFraction: float) -> XYPlot: ...
-def PlotESIndepended(sampleSize1: float, sampleSize2: float, minEffectSize: float, maxEffectSize: float, directional: int, alpha: float, stepFraction: float) -> XYPlot: ...
-def PlotMeanDiffIndepended(sampleSize1: float, mean1: float, sd1: float, sampleSize2: float, mean2: float, sd2: float, minMeanDifference: float, maxMeanDifference: float, directional: int, alpha: float, step: float) -> XYPlot: ...
-def PlotRatioaESIndependent(totalSize: float, minRatio: float, maxRatio: float, minEffectSize: float, maxEffectSize: float, directional: int, alpha: float, stepFraction: float) -> XYZPlot: ...
-def PlotRatioaMeanDiffIndependent(totalSize: float, mean1: float, sd1: float, mean2: float, sd2: float, minRatio: float, maxRatio: float, minMeanDifference: float, maxMeanDifference: float, directional: int, alpha: float, stepFraction: float) -> XYZPlot: ...
+def PlotRatioIndependent(
+    totalSize: float,
+    mean1: float,
+    sd1: float,
+    mean2: float,
+    sd2: float,
+    minRatio: float,
+    maxRatio: float,
+    directional: int,
+    alpha: float,
+    stepFraction: float,
+) -> XYPlot: ...
+def PlotRatioIndependentFES(
+    totalSize: float,
+    effectSize: float,
+    minRatio: float,
+    maxRatio: float,
+    directional: int,
+    alpha: float,
+    stepFraction: float,
+) -> XYPlot: ...
+def PlotESIndepended(
+    sampleSize1: float,
+    sampleSize2: float,
+    minEffectSize: float,
+    maxEffectSize: float,
+    directional: int,
+    alpha: float,
+    stepFraction: float,
+) -> XYPlot: ...
+def PlotMeanDiffIndepended(
+    sampleSize1: float,
+    mean1: float,
+    sd1: float,
+    sampleSize2: float,
+    mean2: float,
+    sd2: float,
+    minMeanDifference: float,
+    maxMeanDifference: float,
+    directional: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotRatioaESIndependent(
+    totalSize: float,
+    minRatio: float,
+    maxRatio: float,
+    minEffectSize: float,
+    maxEffectSize: float,
+    directional: int,
+    alpha: float,
+    stepFraction: float,
+) -> XYZPlot: ...
+def PlotRatioaMeanDiffIndependent(
+    totalSize: float,
+    mean1: float,
+    sd1: float,
+    mean2: float,
+    sd2: float,
+    minRatio: float,
+    maxRatio: float,
+    minMeanDifference: float,
+    maxMeanDifference: float,
+    directional: int,
+    alpha: float,
+    stepFraction: float,
+) -> XYZPlot: ...
 class _PowerOneSampBinom(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, altProportion: float, nullProportion: float, method: int, oneSided: int, alpha: float, continuityCorrection: int, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        altProportion: float,
+        nullProportion: float,
+        method: int,
+        oneSided: int,
+        alpha: float,
+        continuityCorrection: int,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -912,7 +1552,17 @@ PowerOneSampBinom: _PowerOneSampBinom
 
 class _PowerReverseOneSampBinom(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, altProportion: float, nullProportion: float, method: int, oneSided: int, alpha: float, continuityCorrection: int, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        altProportion: float,
+        nullProportion: float,
+        method: int,
+        oneSided: int,
+        alpha: float,
+        continuityCorrection: int,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -937,7 +1587,15 @@ PowerReverseOneSampBinom: _PowerReverseOneSampBinom
 
 class _HalfCIOneSampBinom(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, proportion: float, ciMethod: int, alpha: float, continuityCorrection: int, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        proportion: float,
+        ciMethod: int,
+        alpha: float,
+        continuityCorrection: int,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -960,7 +1618,15 @@ HalfCIOneSampBinom: _HalfCIOneSampBinom
 
 class _PowerReversebyHalfCIOneSampBinom(_Ufunc, Protocol):
     @overload
-    def __call__(self, halfWidth: float, proportion: float, ciMethod: int, alpha: float, continuityCorrection: int, /) -> np.float64: ...
+    def __call__(
+        self,
+        halfWidth: float,
+        proportion: float,
+        ciMethod: int,
+        alpha: float,
+        continuityCorrection: int,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -981,17 +1647,100 @@ class _PowerReversebyHalfCIOneSampBinom(_Ufunc, Protocol):
 
 PowerReversebyHalfCIOneSampBinom: _PowerReversebyHalfCIOneSampBinom
 
-def PlotNOneSampBinom(sampleSize: float, altProportion: float, nullProportion: float, method: int, oneSided: int, alpha: float, minSampleSize: int, maxSampleSize: int, continuityCorrection: int) -> XYPlot: ...
-def PlotNullOneSampBinom(sampleSize: float, altProportion: float, method: int, oneSided: int, alpha: float, continuityCorrection: int, step: float) -> XYPlot: ...
-def PlotAlterOneSampBinom(sampleSize: float, nullProportion: float, method: int, oneSided: int, alpha: float, continuityCorrection: int, step: float) -> XYPlot: ...
-def PlotRiskDiffOneSampBionm(sampleSize: float, nullProportion: float, method: int, oneSided: int, alpha: float, continuityCorrection: int, step: float) -> XYPlot: ...
-def PlotNRiskDiffOneSampBinom(sampleSize: float, altProportion: float, nullProportion: float, method: int, oneSided: int, alpha: float, minSampleSize: int, maxSampleSize: int, continuityCorrection: int, step: float) -> XYZPlot: ...
-def PlotNNullOneSampBinom(sampleSize: float, altProportion: float, nullProportion: float, method: int, oneSided: int, alpha: float, minSampleSize: int, maxSampleSize: int, continuityCorrection: int, step: float) -> XYZPlot: ...
-def PlotNAlterOneSampBinom(sampleSize: float, altProportion: float, nullProportion: float, method: int, oneSided: int, alpha: float, minSampleSize: int, maxSampleSize: int, continuityCorrection: int, step: float) -> XYZPlot: ...
-def PlotNullAlterOneSampBinom(sampleSize: float, method: int, oneSided: int, alpha: float, continuityCorrection: int, step: float) -> XYZPlot: ...
+def PlotNOneSampBinom(
+    sampleSize: float,
+    altProportion: float,
+    nullProportion: float,
+    method: int,
+    oneSided: int,
+    alpha: float,
+    minSampleSize: int,
+    maxSampleSize: int,
+    continuityCorrection: int,
+) -> XYPlot: ...
+def PlotNullOneSampBinom(
+    sampleSize: float,
+    altProportion: float,
+    method: int,
+    oneSided: int,
+    alpha: float,
+    continuityCorrection: int,
+    step: float,
+) -> XYPlot: ...
+def PlotAlterOneSampBinom(
+    sampleSize: float,
+    nullProportion: float,
+    method: int,
+    oneSided: int,
+    alpha: float,
+    continuityCorrection: int,
+    step: float,
+) -> XYPlot: ...
+def PlotRiskDiffOneSampBionm(
+    sampleSize: float,
+    nullProportion: float,
+    method: int,
+    oneSided: int,
+    alpha: float,
+    continuityCorrection: int,
+    step: float,
+) -> XYPlot: ...
+def PlotNRiskDiffOneSampBinom(
+    sampleSize: float,
+    altProportion: float,
+    nullProportion: float,
+    method: int,
+    oneSided: int,
+    alpha: float,
+    minSampleSize: int,
+    maxSampleSize: int,
+    continuityCorrection: int,
+    step: float,
+) -> XYZPlot: ...
+def PlotNNullOneSampBinom(
+    sampleSize: float,
+    altProportion: float,
+    nullProportion: float,
+    method: int,
+    oneSided: int,
+    alpha: float,
+    minSampleSize: int,
+    maxSampleSize: int,
+    continuityCorrection: int,
+    step: float,
+) -> XYZPlot: ...
+def PlotNAlterOneSampBinom(
+    sampleSize: float,
+    altProportion: float,
+    nullProportion: float,
+    method: int,
+    oneSided: int,
+    alpha: float,
+    minSampleSize: int,
+    maxSampleSize: int,
+    continuityCorrection: int,
+    step: float,
+) -> XYZPlot: ...
+def PlotNullAlterOneSampBinom(
+    sampleSize: float,
+    method: int,
+    oneSided: int,
+    alpha: float,
+    continuityCorrection: int,
+    step: float,
+) -> XYZPlot: ...
 class _PowerbyPRelSampBionm(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, discordant12: float, discordant21: float, oneSided: int, exact: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        discordant12: float,
+        discordant21: float,
+        oneSided: int,
+        exact: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1015,7 +1764,16 @@ PowerbyPRelSampBionm: _PowerbyPRelSampBionm
 
 class _PowerbyCRelSampBionm(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, discordantCount12: float, discordantCount21: float, oneSided: int, exact: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        discordantCount12: float,
+        discordantCount21: float,
+        oneSided: int,
+        exact: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1039,7 +1797,17 @@ PowerbyCRelSampBionm: _PowerbyCRelSampBionm
 
 class _PowerbyMargPRelSampBionm(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, marginal1: float, marginal2: float, correlation: float, oneSided: int, exact: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        marginal1: float,
+        marginal2: float,
+        correlation: float,
+        oneSided: int,
+        exact: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1064,7 +1832,17 @@ PowerbyMargPRelSampBionm: _PowerbyMargPRelSampBionm
 
 class _PowerbyMargCRelSampBionm(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, marginalCount1: float, marginalCount2: float, correlation: float, oneSided: int, exact: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        marginalCount1: float,
+        marginalCount2: float,
+        correlation: float,
+        oneSided: int,
+        exact: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1089,7 +1867,16 @@ PowerbyMargCRelSampBionm: _PowerbyMargCRelSampBionm
 
 class _PowerReversebyPRelSampBionm(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, discordant12: float, discordant21: float, oneSided: int, exact: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        discordant12: float,
+        discordant21: float,
+        oneSided: int,
+        exact: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1113,7 +1900,17 @@ PowerReversebyPRelSampBionm: _PowerReversebyPRelSampBionm
 
 class _PowerReversebyMargPRelSampBionm(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, marginal1: float, marginal2: float, correlation: float, oneSided: int, exact: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        marginal1: float,
+        marginal2: float,
+        correlation: float,
+        oneSided: int,
+        exact: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1138,7 +1935,16 @@ PowerReversebyMargPRelSampBionm: _PowerReversebyMargPRelSampBionm
 
 class _HalfCIRelSampBinom(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, discordant12: float, discordant21: float, ciMethod: int, alpha: float, continuityCorrection: int, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        discordant12: float,
+        discordant21: float,
+        ciMethod: int,
+        alpha: float,
+        continuityCorrection: int,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1162,7 +1968,16 @@ HalfCIRelSampBinom: _HalfCIRelSampBinom
 
 class _PowerReversebyHalfCIRelSampBinom(_Ufunc, Protocol):
     @overload
-    def __call__(self, halfWidth: float, discordant12: float, discordant21: float, ciMethod: int, alpha: float, continuityCorrection: int, /) -> np.float64: ...
+    def __call__(
+        self,
+        halfWidth: float,
+        discordant12: float,
+        discordant21: float,
+        ciMethod: int,
+        alpha: float,
+        continuityCorrection: int,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1184,16 +1999,85 @@ class _PowerReversebyHalfCIRelSampBinom(_Ufunc, Protocol):
 
 PowerReversebyHalfCIRelSampBinom: _PowerReversebyHalfCIRelSampBinom
 
-def PlotNRelSampBionm(sampleSize: float, discordant12: float, discordant21: float, minSampleSize: int, maxSampleSize: int, oneSided: int, exact: int, alpha: float) -> XYPlot: ...
-def PlotRiskDiffRelSampBionm(sampleSize: float, discordant12: float, oneSided: int, exact: int, alpha: float, step: float) -> XYPlot: ...
-def PlotRiskRatioRelSampBionm(sampleSize: float, discordant12: float, discordant21: float, minRatio: float, maxRatio: float, oneSided: int, exact: int, alpha: float, step: float) -> XYPlot: ...
-def PlotOddsRatioRelSampBionm(sampleSize: float, discordant12: float, minRatio: float, maxRatio: float, oneSided: int, exact: int, alpha: float, step: float) -> XYPlot: ...
-def PlotCorrRelSampBionm(sampleSize: float, marginal1: float, marginal2: float, oneSided: int, exact: int, alpha: float, step: float) -> XYPlot: ...
-def PlotPropRelSampBionm(sampleSize: float, oneSided: int, exact: int, alpha: float, step: float) -> XYZPlot: ...
-def PlotMargPropRelSampBionm(sampleSize: float, correlation: float, oneSided: int, exact: int, alpha: float, step: float) -> XYZPlot: ...
+def PlotNRelSampBionm(
+    sampleSize: float,
+    discordant12: float,
+    discordant21: float,
+    minSampleSize: int,
+    maxSampleSize: int,
+    oneSided: int,
+    exact: int,
+    alpha: float,
+) -> XYPlot: ...
+def PlotRiskDiffRelSampBionm(
+    sampleSize: float,
+    discordant12: float,
+    oneSided: int,
+    exact: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotRiskRatioRelSampBionm(
+    sampleSize: float,
+    discordant12: float,
+    discordant21: float,
+    minRatio: float,
+    maxRatio: float,
+    oneSided: int,
+    exact: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotOddsRatioRelSampBionm(
+    sampleSize: float,
+    discordant12: float,
+    minRatio: float,
+    maxRatio: float,
+    oneSided: int,
+    exact: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotCorrRelSampBionm(
+    sampleSize: float,
+    marginal1: float,
+    marginal2: float,
+    oneSided: int,
+    exact: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotPropRelSampBionm(
+    sampleSize: float,
+    oneSided: int,
+    exact: int,
+    alpha: float,
+    step: float,
+) -> XYZPlot: ...
+def PlotMargPropRelSampBionm(
+    sampleSize: float,
+    correlation: float,
+    oneSided: int,
+    exact: int,
+    alpha: float,
+    step: float,
+) -> XYZPlot: ...
 class _PowerIndSampBinom(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize1: float, sampleSize2: float, proportion1: float, proportion2: float, exact: int, method: int, oneSided: int, alpha: float, continuityCorrection: int, pooledVariance: int, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize1: float,
+        sampleSize2: float,
+        proportion1: float,
+        proportion2: float,
+        exact: int,
+        method: int,
+        oneSided: int,
+        alpha: float,
+        continuityCorrection: int,
+        pooledVariance: int,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1221,7 +2105,20 @@ PowerIndSampBinom: _PowerIndSampBinom
 
 class _PowerReverseIndSampBinom(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, proportion1: float, proportion2: float, sizeRatio: float, exact: int, method: int, oneSided: int, alpha: float, continuityCorrection: int, pooledVariance: int, /) -> tuple[np.float64, np.float64]: ...
+    def __call__(
+        self,
+        power: float,
+        proportion1: float,
+        proportion2: float,
+        sizeRatio: float,
+        exact: int,
+        method: int,
+        oneSided: int,
+        alpha: float,
+        continuityCorrection: int,
+        pooledVariance: int,
+        /,
+    ) -> tuple[np.float64, np.float64]: ...
     @overload
     def __call__(
         self,
@@ -1249,7 +2146,17 @@ PowerReverseIndSampBinom: _PowerReverseIndSampBinom
 
 class _HalfCIIndSampBinom(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize1: float, sampleSize2: float, proportion1: float, proportion2: float, ciMethod: int, alpha: float, continuityCorrection: int, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize1: float,
+        sampleSize2: float,
+        proportion1: float,
+        proportion2: float,
+        ciMethod: int,
+        alpha: float,
+        continuityCorrection: int,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1274,7 +2181,17 @@ HalfCIIndSampBinom: _HalfCIIndSampBinom
 
 class _PowerReversebyHalfCIIndSampBinom(_Ufunc, Protocol):
     @overload
-    def __call__(self, halfWidth: float, proportion1: float, proportion2: float, sizeRatio: float, ciMethod: int, alpha: float, continuityCorrection: int, /) -> tuple[np.float64, np.float64]: ...
+    def __call__(
+        self,
+        halfWidth: float,
+        proportion1: float,
+        proportion2: float,
+        sizeRatio: float,
+        ciMethod: int,
+        alpha: float,
+        continuityCorrection: int,
+        /,
+    ) -> tuple[np.float64, np.float64]: ...
     @overload
     def __call__(
         self,
@@ -1297,15 +2214,101 @@ class _PowerReversebyHalfCIIndSampBinom(_Ufunc, Protocol):
 
 PowerReversebyHalfCIIndSampBinom: _PowerReversebyHalfCIIndSampBinom
 
-def PlotNIndSampBinom(sampleSize1: float, sampleSize2: float, proportion1: float, proportion2: float, exact: int, method: int, oneSided: int, alpha: float, continuityCorrection: int, pooledVariance: int, minSampleSize1: int, maxSampleSize1: int, minSampleSize2: int, maxSampleSize2: int) -> XYZPlot: ...
-def PlotPropIndSampBinom(sampleSize1: float, sampleSize2: float, proportion1: float, proportion2: float, exact: int, method: int, oneSided: int, alpha: float, continuityCorrection: int, pooledVariance: int, step: float) -> XYZPlot: ...
-def PlotNRatioIndSampBinom(totalSampleSize: float, proportion1: float, proportion2: float, exact: int, method: int, oneSided: int, alpha: float, continuityCorrection: int, pooledVariance: int, minRatio: float, maxRatio: float, step: float) -> XYPlot: ...
-def PlotRiskDiffIndSampBinom(sampleSize1: float, sampleSize2: float, proportion1: float, exact: int, method: int, oneSided: int, alpha: float, continuityCorrection: int, pooledVariance: int, step: float) -> XYPlot: ...
-def PlotRiskRatioIndSampBinom(sampleSize1: float, sampleSize2: float, proportion1: float, exact: int, method: int, oneSided: int, alpha: float, continuityCorrection: int, pooledVariance: int, minRatio: float, maxRatio: float, step: float) -> XYPlot: ...
-def PlotOddsRatioIndSampBinom(sampleSize1: float, sampleSize2: float, proportion1: float, exact: int, method: int, oneSided: int, alpha: float, continuityCorrection: int, pooledVariance: int, minRatio: float, maxRatio: float, step: float) -> XYPlot: ...
+def PlotNIndSampBinom(
+    sampleSize1: float,
+    sampleSize2: float,
+    proportion1: float,
+    proportion2: float,
+    exact: int,
+    method: int,
+    oneSided: int,
+    alpha: float,
+    continuityCorrection: int,
+    pooledVariance: int,
+    minSampleSize1: int,
+    maxSampleSize1: int,
+    minSampleSize2: int,
+    maxSampleSize2: int,
+) -> XYZPlot: ...
+def PlotPropIndSampBinom(
+    sampleSize1: float,
+    sampleSize2: float,
+    proportion1: float,
+    proportion2: float,
+    exact: int,
+    method: int,
+    oneSided: int,
+    alpha: float,
+    continuityCorrection: int,
+    pooledVariance: int,
+    step: float,
+) -> XYZPlot: ...
+def PlotNRatioIndSampBinom(
+    totalSampleSize: float,
+    proportion1: float,
+    proportion2: float,
+    exact: int,
+    method: int,
+    oneSided: int,
+    alpha: float,
+    continuityCorrection: int,
+    pooledVariance: int,
+    minRatio: float,
+    maxRatio: float,
+    step: float,
+) -> XYPlot: ...
+def PlotRiskDiffIndSampBinom(
+    sampleSize1: float,
+    sampleSize2: float,
+    proportion1: float,
+    exact: int,
+    method: int,
+    oneSided: int,
+    alpha: float,
+    continuityCorrection: int,
+    pooledVariance: int,
+    step: float,
+) -> XYPlot: ...
+def PlotRiskRatioIndSampBinom(
+    sampleSize1: float,
+    sampleSize2: float,
+    proportion1: float,
+    exact: int,
+    method: int,
+    oneSided: int,
+    alpha: float,
+    continuityCorrection: int,
+    pooledVariance: int,
+    minRatio: float,
+    maxRatio: float,
+    step: float,
+) -> XYPlot: ...
+def PlotOddsRatioIndSampBinom(
+    sampleSize1: float,
+    sampleSize2: float,
+    proportion1: float,
+    exact: int,
+    method: int,
+    oneSided: int,
+    alpha: float,
+    continuityCorrection: int,
+    pooledVariance: int,
+    minRatio: float,
+    maxRatio: float,
+    step: float,
+) -> XYPlot: ...
 class _PowerbyOneSampPearson(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, alternativeCorrelation: float, nullCorrelation: float, oneSided: int, adjustBias: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        alternativeCorrelation: float,
+        nullCorrelation: float,
+        oneSided: int,
+        adjustBias: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1329,7 +2332,16 @@ PowerbyOneSampPearson: _PowerbyOneSampPearson
 
 class _PowerbyOneSampSpearman(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, alternativeCorrelation: float, nullCorrelation: float, varianceMethod: int, oneSided: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        alternativeCorrelation: float,
+        nullCorrelation: float,
+        varianceMethod: int,
+        oneSided: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1353,7 +2365,16 @@ PowerbyOneSampSpearman: _PowerbyOneSampSpearman
 
 class _PowerbyOneSampPartial(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, partialledOut: float, alternativeCorrelation: float, nullCorrelation: float, oneSided: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        partialledOut: float,
+        alternativeCorrelation: float,
+        nullCorrelation: float,
+        oneSided: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1377,7 +2398,16 @@ PowerbyOneSampPartial: _PowerbyOneSampPartial
 
 class _PowerReversebyOneSampPearson(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, alternativeCorrelation: float, nullCorrelation: float, oneSided: int, adjustBias: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        alternativeCorrelation: float,
+        nullCorrelation: float,
+        oneSided: int,
+        adjustBias: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1401,7 +2431,16 @@ PowerReversebyOneSampPearson: _PowerReversebyOneSampPearson
 
 class _PowerReversebyOneSampSpearman(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, alternativeCorrelation: float, nullCorrelation: float, varianceMethod: int, oneSided: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        alternativeCorrelation: float,
+        nullCorrelation: float,
+        varianceMethod: int,
+        oneSided: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1425,7 +2464,16 @@ PowerReversebyOneSampSpearman: _PowerReversebyOneSampSpearman
 
 class _PowerReversebyOneSampPartial(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, partialledOut: float, alternativeCorrelation: float, nullCorrelation: float, oneSided: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        partialledOut: float,
+        alternativeCorrelation: float,
+        nullCorrelation: float,
+        oneSided: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1449,7 +2497,14 @@ PowerReversebyOneSampPartial: _PowerReversebyOneSampPartial
 
 class _HalfCIOneSampPearson(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, correlation: float, adjustBias: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        correlation: float,
+        adjustBias: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1471,7 +2526,14 @@ HalfCIOneSampPearson: _HalfCIOneSampPearson
 
 class _HalfCIOneSampSpearman(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, correlation: float, varianceMethod: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        correlation: float,
+        varianceMethod: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1493,7 +2555,14 @@ HalfCIOneSampSpearman: _HalfCIOneSampSpearman
 
 class _HalfCIOneSampPartial(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, partialledOut: float, correlation: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        partialledOut: float,
+        correlation: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1515,7 +2584,14 @@ HalfCIOneSampPartial: _HalfCIOneSampPartial
 
 class _PowerReversebyHalfCIOneSampPearson(_Ufunc, Protocol):
     @overload
-    def __call__(self, halfWidth: float, correlation: float, adjustBias: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        halfWidth: float,
+        correlation: float,
+        adjustBias: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1537,7 +2613,14 @@ PowerReversebyHalfCIOneSampPearson: _PowerReversebyHalfCIOneSampPearson
 
 class _PowerReversebyHalfCIOneSampSpearman(_Ufunc, Protocol):
     @overload
-    def __call__(self, halfWidth: float, correlation: float, varianceMethod: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        halfWidth: float,
+        correlation: float,
+        varianceMethod: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1559,7 +2642,14 @@ PowerReversebyHalfCIOneSampSpearman: _PowerReversebyHalfCIOneSampSpearman
 
 class _PowerReversebyHalfCIOneSampPartial(_Ufunc, Protocol):
     @overload
-    def __call__(self, halfWidth: float, partialledOut: float, correlation: float, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        halfWidth: float,
+        partialledOut: float,
+        correlation: float,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1579,34 +2669,249 @@ class _PowerReversebyHalfCIOneSampPartial(_Ufunc, Protocol):
 
 PowerReversebyHalfCIOneSampPartial: _PowerReversebyHalfCIOneSampPartial
 
-def PlotNOneSampPearson(sampleSize: float, alternativeCorrelation: float, nullCorrelation: float, oneSided: int, adjustBias: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int) -> XYPlot: ...
-def PlotNullOneSampPearson(sampleSize: float, alternativeCorrelation: float, oneSided: int, adjustBias: int, alpha: float, step: float) -> XYPlot: ...
-def PlotAlterOneSampPearson(sampleSize: float, nullCorrelation: float, oneSided: int, adjustBias: int, alpha: float, step: float) -> XYPlot: ...
-def PlotRiskDiffOneSampPearson(sampleSize: float, nullCorrelation: float, oneSided: int, adjustBias: int, alpha: float, step: float) -> XYPlot: ...
-def PlotNRiskDiffOneSampPearson(sampleSize: float, alternativeCorrelation: float, nullCorrelation: float, oneSided: int, adjustBias: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int, step: float) -> XYZPlot: ...
-def PlotNNullOneSampPearson(sampleSize: float, alternativeCorrelation: float, nullCorrelation: float, oneSided: int, adjustBias: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int, step: float) -> XYZPlot: ...
-def PlotNAlterOneSampPearson(sampleSize: float, alternativeCorrelation: float, nullCorrelation: float, oneSided: int, adjustBias: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int, step: float) -> XYZPlot: ...
-def PlotNullAlterOneSampPearson(sampleSize: float, oneSided: int, adjustBias: int, alpha: float, step: float) -> XYZPlot: ...
-def PlotNOneSampSpearman(sampleSize: float, alternativeCorrelation: float, nullCorrelation: float, varianceMethod: int, oneSided: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int) -> XYPlot: ...
-def PlotNullOneSampSpearman(sampleSize: float, alternativeCorrelation: float, varianceMethod: int, oneSided: int, alpha: float, step: float) -> XYPlot: ...
-def PlotAlterOneSampSpearman(sampleSize: float, nullCorrelation: float, varianceMethod: int, oneSided: int, alpha: float, step: float) -> XYPlot: ...
-def PlotRiskDiffOneSampSpearman(sampleSize: float, nullCorrelation: float, varianceMethod: int, oneSided: int, alpha: float, step: float) -> XYPlot: ...
-def PlotNRiskDiffOneSampSpearman(sampleSize: float, alternativeCorrelation: float, nullCorrelation: float, varianceMethod: int, oneSided: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int, step: float) -> XYZPlot: ...
-def PlotNNullOneSampSpearman(sampleSize: float, alternativeCorrelation: float, nullCorrelation: float, varianceMethod: int, oneSided: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int, step: float) -> XYZPlot: ...
-def PlotNAlterOneSampSpearman(sampleSize: float, alternativeCorrelation: float, nullCorrelation: float, varianceMethod: int, oneSided: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int, step: float) -> XYZPlot: ...
-def PlotNullAlterOneSampSpearman(sampleSize: float, varianceMethod: int, oneSided: int, alpha: float, step: float) -> XYZPlot: ...
-def PlotNOneSampPartial(sampleSize: float, partialledOut: float, alternativeCorrelation: float, nullCorrelation: float, oneSided: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int) -> XYPlot: ...
-def PlotNullOneSampPartial(sampleSize: float, partialledOut: float, alternativeCorrelation: float, oneSided: int, alpha: float, step: float) -> XYPlot: ...
-def PlotAlterOneSampPartial(sampleSize: float, partialledOut: float, nullCorrelation: float, oneSided: int, alpha: float, step: float) -> XYPlot: ...
-def PlotRiskDiffOneSampPartial(sampleSize: float, partialledOut: float, nullCorrelation: float, oneSided: int, alpha: float, step: float) -> XYPlot: ...
-def PlotNRiskDiffOneSampPartial(sampleSize: float, partialledOut: float, alternativeCorrelation: float, nullCorrelation: float, oneSided: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int, step: float) -> XYZPlot: ...
-def PlotNNullOneSampPartial(sampleSize: float, partialledOut: float, alternativeCorrelation: float, nullCorrelation: float, oneSided: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int, step: float) -> XYZPlot: ...
-def PlotNAlterOneSampPartial(sampleSize: float, partialledOut: float, alternativeCorrelation: float, nullCorrelation: float, oneSided: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int, step: float) -> XYZPlot: ...
-def PlotNullAlterOneSampPartial(sampleSize: float, partialledOut: float, oneSided: int, alpha: float, step: float) -> XYZPlot: ...
-def PlotNPartialoutOneSampPartial(sampleSize: float, alternativeCorrelation: float, nullCorrelation: float, oneSided: int, alpha: float) -> XYPlot: ...
+def PlotNOneSampPearson(
+    sampleSize: float,
+    alternativeCorrelation: float,
+    nullCorrelation: float,
+    oneSided: int,
+    adjustBias: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+) -> XYPlot: ...
+def PlotNullOneSampPearson(
+    sampleSize: float,
+    alternativeCorrelation: float,
+    oneSided: int,
+    adjustBias: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotAlterOneSampPearson(
+    sampleSize: float,
+    nullCorrelation: float,
+    oneSided: int,
+    adjustBias: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotRiskDiffOneSampPearson(
+    sampleSize: float,
+    nullCorrelation: float,
+    oneSided: int,
+    adjustBias: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotNRiskDiffOneSampPearson(
+    sampleSize: float,
+    alternativeCorrelation: float,
+    nullCorrelation: float,
+    oneSided: int,
+    adjustBias: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+    step: float,
+) -> XYZPlot: ...
+def PlotNNullOneSampPearson(
+    sampleSize: float,
+    alternativeCorrelation: float,
+    nullCorrelation: float,
+    oneSided: int,
+    adjustBias: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+    step: float,
+) -> XYZPlot: ...
+def PlotNAlterOneSampPearson(
+    sampleSize: float,
+    alternativeCorrelation: float,
+    nullCorrelation: float,
+    oneSided: int,
+    adjustBias: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+    step: float,
+) -> XYZPlot: ...
+def PlotNullAlterOneSampPearson(
+    sampleSize: float,
+    oneSided: int,
+    adjustBias: int,
+    alpha: float,
+    step: float,
+) -> XYZPlot: ...
+def PlotNOneSampSpearman(
+    sampleSize: float,
+    alternativeCorrelation: float,
+    nullCorrelation: float,
+    varianceMethod: int,
+    oneSided: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+) -> XYPlot: ...
+def PlotNullOneSampSpearman(
+    sampleSize: float,
+    alternativeCorrelation: float,
+    varianceMethod: int,
+    oneSided: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotAlterOneSampSpearman(
+    sampleSize: float,
+    nullCorrelation: float,
+    varianceMethod: int,
+    oneSided: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotRiskDiffOneSampSpearman(
+    sampleSize: float,
+    nullCorrelation: float,
+    varianceMethod: int,
+    oneSided: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotNRiskDiffOneSampSpearman(
+    sampleSize: float,
+    alternativeCorrelation: float,
+    nullCorrelation: float,
+    varianceMethod: int,
+    oneSided: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+    step: float,
+) -> XYZPlot: ...
+def PlotNNullOneSampSpearman(
+    sampleSize: float,
+    alternativeCorrelation: float,
+    nullCorrelation: float,
+    varianceMethod: int,
+    oneSided: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+    step: float,
+) -> XYZPlot: ...
+def PlotNAlterOneSampSpearman(
+    sampleSize: float,
+    alternativeCorrelation: float,
+    nullCorrelation: float,
+    varianceMethod: int,
+    oneSided: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+    step: float,
+) -> XYZPlot: ...
+def PlotNullAlterOneSampSpearman(
+    sampleSize: float,
+    varianceMethod: int,
+    oneSided: int,
+    alpha: float,
+    step: float,
+) -> XYZPlot: ...
+def PlotNOneSampPartial(
+    sampleSize: float,
+    partialledOut: float,
+    alternativeCorrelation: float,
+    nullCorrelation: float,
+    oneSided: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+) -> XYPlot: ...
+def PlotNullOneSampPartial(
+    sampleSize: float,
+    partialledOut: float,
+    alternativeCorrelation: float,
+    oneSided: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotAlterOneSampPartial(
+    sampleSize: float,
+    partialledOut: float,
+    nullCorrelation: float,
+    oneSided: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotRiskDiffOneSampPartial(
+    sampleSize: float,
+    partialledOut: float,
+    nullCorrelation: float,
+    oneSided: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotNRiskDiffOneSampPartial(
+    sampleSize: float,
+    partialledOut: float,
+    alternativeCorrelation: float,
+    nullCorrelation: float,
+    oneSided: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+    step: float,
+) -> XYZPlot: ...
+def PlotNNullOneSampPartial(
+    sampleSize: float,
+    partialledOut: float,
+    alternativeCorrelation: float,
+    nullCorrelation: float,
+    oneSided: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+    step: float,
+) -> XYZPlot: ...
+def PlotNAlterOneSampPartial(
+    sampleSize: float,
+    partialledOut: float,
+    alternativeCorrelation: float,
+    nullCorrelation: float,
+    oneSided: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+    step: float,
+) -> XYZPlot: ...
+def PlotNullAlterOneSampPartial(
+    sampleSize: float,
+    partialledOut: float,
+    oneSided: int,
+    alpha: float,
+    step: float,
+) -> XYZPlot: ...
+def PlotNPartialoutOneSampPartial(
+    sampleSize: float,
+    alternativeCorrelation: float,
+    nullCorrelation: float,
+    oneSided: int,
+    alpha: float,
+) -> XYPlot: ...
 class _Powerbymlr(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, predictors: float, testedPredictors: float, fullModelFit: float, reducedRSquared: float, randomPredictors: int, includeIntercept: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        predictors: float,
+        testedPredictors: float,
+        fullModelFit: float,
+        reducedRSquared: float,
+        randomPredictors: int,
+        includeIntercept: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1632,7 +2937,17 @@ Powerbymlr: _Powerbymlr
 
 class _PowerbymlrwES(_Ufunc, Protocol):
     @overload
-    def __call__(self, sampleSize: float, predictors: float, testedPredictors: float, effectSize: float, randomPredictors: int, includeIntercept: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        sampleSize: float,
+        predictors: float,
+        testedPredictors: float,
+        effectSize: float,
+        randomPredictors: int,
+        includeIntercept: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1657,7 +2972,18 @@ PowerbymlrwES: _PowerbymlrwES
 
 class _PowerReversebymlr(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, predictors: float, testedPredictors: float, fullModelFit: float, reducedRSquared: float, randomPredictors: int, includeIntercept: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        predictors: float,
+        testedPredictors: float,
+        fullModelFit: float,
+        reducedRSquared: float,
+        randomPredictors: int,
+        includeIntercept: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1683,7 +3009,17 @@ PowerReversebymlr: _PowerReversebymlr
 
 class _PowerReversebymlrwES(_Ufunc, Protocol):
     @overload
-    def __call__(self, power: float, predictors: float, testedPredictors: float, effectSize: float, randomPredictors: int, includeIntercept: int, alpha: float, /) -> np.float64: ...
+    def __call__(
+        self,
+        power: float,
+        predictors: float,
+        testedPredictors: float,
+        effectSize: float,
+        randomPredictors: int,
+        includeIntercept: int,
+        alpha: float,
+        /,
+    ) -> np.float64: ...
     @overload
     def __call__(
         self,
@@ -1706,14 +3042,73 @@ class _PowerReversebymlrwES(_Ufunc, Protocol):
 
 PowerReversebymlrwES: _PowerReversebymlrwES
 
-def PlotNmlr(predictors: float, testedPredictors: float, fullModelFit: float, reducedRSquared: float, randomPredictors: int, includeIntercept: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int) -> XYPlot: ...
-def PlotNmlrFES(predictors: float, testedPredictors: float, effectSize: float, randomPredictors: int, includeIntercept: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int) -> XYPlot: ...
-def PlotESmlr(sampleSize: float, predictors: float, testedPredictors: float, randomPredictors: int, includeIntercept: int, alpha: float, step: float) -> XYPlot: ...
-def PlotCorrmlr(sampleSize: float, predictors: float, testedPredictors: float, randomPredictors: int, includeIntercept: int, alpha: float, step: float) -> XYPlot: ...
-def PlotNaCorrmlr(sampleSize: float, predictors: float, testedPredictors: float, fullModelFit: float, reducedRSquared: float, randomPredictors: int, includeIntercept: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int, step: float) -> XYZPlot: ...
-def PlotNaESmlr(sampleSize: float, predictors: float, testedPredictors: float, effectSize: float, randomPredictors: int, includeIntercept: int, alpha: float, sampleSizeFrom: int, sampleSizeTo: int, step: float) -> XYZPlot: ...
+def PlotNmlr(
+    predictors: float,
+    testedPredictors: float,
+    fullModelFit: float,
+    reducedRSquared: float,
+    randomPredictors: int,
+    includeIntercept: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+) -> XYPlot: ...
+def PlotNmlrFES(
+    predictors: float,
+    testedPredictors: float,
+    effectSize: float,
+    randomPredictors: int,
+    includeIntercept: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+) -> XYPlot: ...
+def PlotESmlr(
+    sampleSize: float,
+    predictors: float,
+    testedPredictors: float,
+    randomPredictors: int,
+    includeIntercept: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotCorrmlr(
+    sampleSize: float,
+    predictors: float,
+    testedPredictors: float,
+    randomPredictors: int,
+    includeIntercept: int,
+    alpha: float,
+    step: float,
+) -> XYPlot: ...
+def PlotNaCorrmlr(
+    sampleSize: float,
+    predictors: float,
+    testedPredictors: float,
+    fullModelFit: float,
+    reducedRSquared: float,
+    randomPredictors: int,
+    includeIntercept: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+    step: float,
+) -> XYZPlot: ...
+def PlotNaESmlr(
+    sampleSize: float,
+    predictors: float,
+    testedPredictors: float,
+    effectSize: float,
+    randomPredictors: int,
+    includeIntercept: int,
+    alpha: float,
+    sampleSizeFrom: int,
+    sampleSizeTo: int,
+    step: float,
+) -> XYZPlot: ...
 
 __all__ = [
+    "MISSING",
     "Combination",
     "EffectSizeIndependent",
     "EffectSizeOneSample",
@@ -1735,7 +3130,6 @@ __all__ = [
     "HalfCIRelatedMeans",
     "HalfCISCTest",
     "InvTanh",
-    "MISSING",
     "PlotAlterOneSampBinom",
     "PlotAlterOneSampPartial",
     "PlotAlterOneSampPearson",

@@ -56,10 +56,10 @@ def ufunc(name: str, arguments: list[tuple[str, str]], outputs: int, scalar: str
     """The type of a ufunc and the ufunc; `arguments` are names with the type of one value."""
     one = scalar if outputs == 1 else f"tuple[{', '.join([scalar] * outputs)}]"
     many = "Any" if outputs == 1 else f"tuple[{', '.join(['Any'] * outputs)}]"
-    scalars = ", ".join(f"{argument}: {kind}" for argument, kind in arguments)
+    scalars = "\n".join(f"        {argument}: {kind}," for argument, kind in arguments)
     arrays = "\n".join(f"        {argument}: ArrayLike," for argument, _ in arguments)
     return (f"class _{name}(_Ufunc, Protocol):\n"
-            f"    @overload\n    def __call__(self, {scalars}, /) -> {one}: ...\n"
+            f"    @overload\n    def __call__(\n        self,\n{scalars}\n        /,\n    ) -> {one}: ...\n"
             f"    @overload\n    def __call__(\n        self,\n{arrays}\n        /,\n{OPTIONS}\n    ) -> {many}: ...\n\n"
             f"{name}: _{name}\n\n")
 
@@ -72,11 +72,14 @@ def function(export: Documented) -> str:
     if export.repairs:
         arguments.append("repaired: NDArray[np.float64] | None = None")
     result = "Sizes" if export.gives_sizes else {"double": FLOAT}.get(export.function.result, export.function.result)
-    return f"def {export.name}({', '.join(arguments)}) -> {result}: ...\n"
+    lines = "\n".join(f"    {argument}," for argument in arguments)
+    return f"def {export.name}(\n{lines}\n) -> {result}: ...\n"
 
 
 def listed(names: list[str]) -> str:
-    lines = "\n".join(f'    "{name}",' for name in sorted(names))
+    """The names that a module offers: constants, classes, functions."""
+    ordered = sorted(names, key=lambda name: (not name.isupper(), not name[0].isupper(), name))
+    lines = "\n".join(f'    "{name}",' for name in ordered)
     return f"__all__ = [\n{lines}\n]\n"
 
 

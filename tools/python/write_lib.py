@@ -93,8 +93,7 @@ def row_of_distribution(distribution: Distribution) -> str:
 def module(text: str, dictionary: str, names: list[str]) -> str:
     lines = [text, f"from kelpower._core import {dictionary} as _functions\n"]
     lines += [f'{name} = _functions["{name}"]' for name in names]
-    listed = "\n".join(f'    "{name}",' for name in sorted(names))
-    return PYTHON_NOTE + "\n".join(lines) + f"\n\n__all__ = [\n{listed}\n]\n"
+    return PYTHON_NOTE + "\n".join(lines) + "\n\n" + stubs.listed(names)
 
 
 def files() -> dict[Path, str]:
