@@ -105,6 +105,9 @@ struct Loop {
   static constexpr std::size_t inputs = (0 + ... + std::size_t{Operand<P, Number>::isInput});
   static constexpr std::size_t outputs = std::is_void_v<R> ? 2 : 1;
 
+  /// Where the operands of the present element are.
+  using Elements = std::array<char*, inputs + outputs>;
+
   /// The place of each argument among the inputs.
   static constexpr std::array<std::size_t, count> Places() {
     std::array<std::size_t, count> places{};
@@ -130,31 +133,32 @@ struct Loop {
     }
   }
 
-  // False when no more are to be called. The only exception that functions throw is std::bad_alloc.
-  static bool CallOrGiveUp(R (*function)(P...), char* const* elements, LoopContext& context) {
-    try {
-      CallOne(function, elements, context, std::index_sequence_for<P...>());
-      return true;
-    } catch (const std::exception&) {
-      RunOutOfMemory();
-      return false;
-    }
+  static void Advance(Elements& elements, const npy_intp* strides) {
+    for (std::size_t i = 0; i < elements.size(); ++i) elements[i] += strides[i];
+  }
+
+  // Answers from element `n` on, as far as the next question to the interpreter.
+  static void CallSome(R (*function)(P...), Elements& elements, const npy_intp* strides, npy_intp& n, npy_intp count,
+                       LoopContext& context) {
+    for (const npy_intp end = std::min(count, n + elementsPerQuestion); n < end; ++n, Advance(elements, strides))
+      CallOne(function, elements.data(), context, std::index_sequence_for<P...>());
   }
 
   static void Run(char** operands, const npy_intp* dimensions, const npy_intp* strides, void* data) {
     const auto function = reinterpret_cast<R (*)(P...)>(static_cast<const Ufunc*>(data)->function);
-    std::array<char*, inputs + outputs> elements;
+    const npy_intp count = dimensions[0];
+    Elements elements;
     std::copy(operands, operands + elements.size(), elements.begin());
     const FloatingPointFlags flags;
     LoopContext context;
-    bool goesOn = true;
-    for (npy_intp n = 0; n < dimensions[0]; ++n) {
-      if (n % elementsPerQuestion == 0) goesOn = goesOn && !context.interrupts.ShouldStop();
-      if (goesOn) goesOn = CallOrGiveUp(function, elements.data(), context);
-      if (!goesOn)
-        for (std::size_t output = 0; output < outputs; ++output) Store(elements.data(), output, noAnswer);
-      for (std::size_t i = 0; i < elements.size(); ++i) elements[i] += strides[i];
+    npy_intp n = 0;
+    try {
+      while (n < count && !context.interrupts.ShouldStop()) CallSome(function, elements, strides, n, count, context);
+    } catch (const std::exception&) {  // the only one that functions throw is std::bad_alloc
+      RunOutOfMemory();
     }
+    for (; n < count; ++n, Advance(elements, strides))
+      for (std::size_t output = 0; output < outputs; ++output) Store(elements.data(), output, noAnswer);
     context.interrupts.RaiseLater();
   }
 

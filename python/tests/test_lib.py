@@ -1,6 +1,7 @@
 """kelpower.lib: the exports of the C++ library."""
 
 import copy
+import doctest
 import inspect
 import itertools
 import pickle
@@ -431,6 +432,12 @@ def test_memory_running_out_is_an_exception():
         [sys.executable, "-c", textwrap.dedent(program)], stdout=subprocess.PIPE, text=True, timeout=60
     )
     assert (done.stdout, done.returncode) == ("no memory\n", 0)
+
+
+def test_documentation():
+    run = doctest.testfile(str(ROOT / "docs/python-lib.md"), module_relative=False)
+    assert run.attempted > 10
+    assert run.failed == 0
 
 
 def test_generated_files_are_current():
