@@ -10,7 +10,7 @@ One function for each test, in which what is left out is what is solved for:
 
 """
 
-from . import ufuncs
+from . import dist, lib, ufuncs
 from ._core import version as __version__
 from ._errors import InputError, KelpowerError, NoSolution, NoSolutionWarning
 from ._functions import *  # noqa: F403
@@ -18,8 +18,10 @@ from ._functions import __all__ as _tests
 from ._result import Explanation, Result
 from ._results import Results
 from ._ufunc import ufunc
+from .lib import MISSING
 
 __all__ = [
+    "MISSING",
     "Explanation",
     "InputError",
     "KelpowerError",
@@ -28,6 +30,8 @@ __all__ = [
     "Result",
     "Results",
     "__version__",
+    "dist",
+    "lib",
     "ufunc",
     "ufuncs",
 ]
