@@ -1,5 +1,8 @@
+#include <iterator>
 #include <new>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "call.h"
 #include "caller_stop.h"
@@ -9,6 +12,7 @@
 #include "solve/densities.h"
 #include "solve/solve.h"
 #include "table.h"
+#include "words/calls.h"
 #include "words/chart_json.h"
 #include "words/densities_json.h"
 #include "words/effect_report.h"
@@ -26,14 +30,31 @@ void WriteDensities(Reply& reply, const planner::Answer& answer) {
   planner::WriteDensities(reply, planner::DensitiesOf(*statistic));
 }
 
+void WriteCalls(Reply& reply, const planner::Calls& calls) {
+  reply.Key("calls");
+  reply.OpenObject();
+  reply.Text("program", calls.program);
+  reply.Text("python", calls.python);
+  reply.Text("r", calls.r);
+  reply.CloseObject();
+}
+
+/// Members of a request for one design that add to its answer.
+constexpr std::string_view additions[] = {"explain", "densities", "text", "calls"};
+
 void ReplyWithAnswer(Call& call, const Request& request) {
   const bool hasDensities = request.IsSet("densities");
-  const planner::Answer answer = planner::Solve(request.AskedTest(), request.Values(), call.stop);
+  const bool hasText = request.IsSet("text");
+  const bool hasCalls = request.IsSet("calls");
+  const planner::InputValues values = request.Values();
+  const planner::Answer answer = planner::Solve(request.AskedTest(), values, call.stop);
   planner::Report report = planner::MakeReport(answer);
   if (request.IsSet("explain")) report.explanation = planner::Explain(answer);
   Reply reply(call);
   planner::WriteReport(reply, report);
   if (hasDensities) WriteDensities(reply, answer);
+  if (hasText) reply.Text("text", planner::RenderText(report));
+  if (hasCalls) WriteCalls(reply, planner::CallsOf(request.AskedTest(), values));
   reply.CloseObject();
   if (call.IsStopped()) throw planner::Stopped();
 }
@@ -41,9 +62,9 @@ void ReplyWithAnswer(Call& call, const Request& request) {
 void Solve(Call& call) {
   const JsonTree tree = ReadJson(call.request);
   call.names = NamesOf(tree);
-  const Request request(tree, {"explain", "densities"});
+  const Request request(tree, {std::begin(additions), std::end(additions)});
   if (!request.HasAlternatives()) return ReplyWithAnswer(call, request);
-  for (const char* member : {"explain", "densities"}) {
+  for (std::string_view member : additions) {
     if (!request.IsSet(member)) continue;
     throw BadRequest("several-values",
                      "\"" + std::string(member) + "\" is of one design, but an input has several values.");

@@ -28,19 +28,19 @@ planner::NameStyle NamesOf(const JsonTree& tree) {
   Reject("names", *names, "\"dash\" or \"underscore\"");
 }
 
-Request::Request(const JsonTree& tree, std::initializer_list<std::string_view> members) : tree_(tree) {
+Request::Request(const JsonTree& tree, const std::vector<std::string_view>& members) : tree_(tree) {
   CheckMembers(members);
   FindTest();
   ReadInputs();
 }
 
-Request::Request(const JsonTree& tree, const planner::Test& test, std::initializer_list<std::string_view> members)
+Request::Request(const JsonTree& tree, const planner::Test& test, const std::vector<std::string_view>& members)
     : tree_(tree), test_(&test) {
   CheckMembers(members);
   ReadInputs();
 }
 
-void Request::CheckMembers(std::initializer_list<std::string_view> members) const {
+void Request::CheckMembers(const std::vector<std::string_view>& members) const {
   for (const std::string& key : tree_.keys) {
     if (key == "inputs" || key == "names" || (key == "test" && !test_)) continue;
     if (std::find(members.begin(), members.end(), key) != members.end()) continue;

@@ -1,9 +1,9 @@
 #ifndef KELPOWER_CAPI_REQUEST_H
 #define KELPOWER_CAPI_REQUEST_H
 
-#include <initializer_list>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "json_tree.h"
@@ -24,9 +24,9 @@ struct ColumnRequest {
 class Request {
 public:
   /// `members` are those that the request may have. Throws a BadRequest or an InputError.
-  Request(const JsonTree& tree, std::initializer_list<std::string_view> members);
+  Request(const JsonTree& tree, const std::vector<std::string_view>& members);
   /// A request whose test is not named, as there is only one that it may ask.
-  Request(const JsonTree& tree, const planner::Test& test, std::initializer_list<std::string_view> members);
+  Request(const JsonTree& tree, const planner::Test& test, const std::vector<std::string_view>& members);
 
   const planner::Test& AskedTest() const { return *test_; }
   const std::vector<planner::Alternatives>& Inputs() const { return inputs_; }
@@ -43,7 +43,7 @@ public:
   std::vector<ColumnRequest> Columns() const;
 
 private:
-  void CheckMembers(std::initializer_list<std::string_view> members) const;
+  void CheckMembers(const std::vector<std::string_view>& members) const;
   void FindTest();
   void ReadInputs();
   ColumnRequest ColumnOf(const JsonTree& column) const;

@@ -10,17 +10,19 @@ Piece UsefulLevels(const Inputs&) { return {0, 0.5}; }
 
 void AddUnknownLevels(Test& test) {
   if (Answers(test, Question::Power)) {
-    test.unknowns.push_back({.input = "alpha",
-                             .target = Question::Power,
-                             .trend = Trend::Rises,
-                             .reason = "what a level rejects, each higher level rejects too",
-                             .piece = test.unevenness ? UsefulLevels : nullptr});
+    const Unknown level = {.input = "alpha",
+                           .target = Question::Power,
+                           .trend = Trend::Rises,
+                           .reason = "what a level rejects, each higher level rejects too",
+                           .piece = test.unevenness ? UsefulLevels : nullptr};
+    test.unknowns.push_back(level);
   }
   if (Answers(test, Question::HalfWidth)) {
-    test.unknowns.push_back({.input = "alpha",
-                             .target = Question::HalfWidth,
-                             .trend = Trend::Falls,
-                             .reason = "an interval of less confidence lies within one of more"});
+    const Unknown level = {.input = "alpha",
+                           .target = Question::HalfWidth,
+                           .trend = Trend::Falls,
+                           .reason = "an interval of less confidence lies within one of more"};
+    test.unknowns.push_back(level);
   }
 }
 

@@ -104,7 +104,8 @@ class SchemaTest(unittest.TestCase):
 
     def test_answers(self):
         for test, example in examples():
-            request = {"test": test["name"], "inputs": example["inputs"], "explain": True, "densities": True}
+            request = {"test": test["name"], "inputs": example["inputs"], "explain": True, "densities": True,
+                       "text": True, "calls": True}
             status, reply = solve(request)
             self.assertEqual(status, 0, reply)
             self.check("answer", reply)
@@ -116,6 +117,27 @@ class SchemaTest(unittest.TestCase):
         for test, example in examples():
             reply = solve({"test": test["name"], "inputs": example["inputs"], "explain": True})[1]
             self.assertEqual(without_head(reply), printed(example["arguments"] + " --explain"))
+
+    def test_calls_of_the_program_give_the_same(self):
+        if not PROGRAM:
+            self.skipTest("there is no program")
+        for test, example in examples():
+            inputs = {**example["inputs"], "alpha": 0.1 / 3}
+            reply = solve({"test": test["name"], "inputs": inputs, "text": True, "calls": True})[1]
+            run = [PROGRAM, *reply["calls"]["program"].split()[1:]]
+            self.assertEqual(subprocess.run(run, check=True, stdout=subprocess.PIPE, text=True).stdout, reply["text"])
+
+    def test_calls_of_languages(self):
+        inputs = {"power": 0.8, "means": [52, -47.5], "sd": 10, "one-sided": True}
+        calls = solve({"test": "two-means", "inputs": inputs, "calls": True})[1]["calls"]
+        self.assertEqual(calls["program"], "kelpower two-means --means 52,-47.5 --sd 10 --one-sided --power 0.8")
+        self.assertEqual(calls["python"], "kelpower.two_means(means=[52, -47.5], sd=10, one_sided=True, power=0.8)")
+        self.assertEqual(calls["r"], "kp_two_means(means = c(52, -47.5), sd = 10, one_sided = TRUE, power = 0.8)")
+        calls = solve({"test": "two-proportions", "inputs": {"proportions": [0.1, 0.2], "n": [9, 8], "method": "conditional",
+                                                             "one-sided": False}, "calls": True})[1]["calls"]
+        self.assertEqual(calls["program"], "kelpower two-proportions --proportions 0.1,0.2 --n 9,8 --method conditional")
+        self.assertEqual(calls["python"], 'kelpower.two_proportions(proportions=[0.1, 0.2], n=[9, 8], '
+                                          'method="conditional", one_sided=False)')
 
     def test_conversions(self):
         for example in described()["effects"]["examples"]:
