@@ -94,6 +94,13 @@ def designs(draw, name, with_nonsense=False):
         arguments[python_name(one)] = draw(value)
     if "groups" in arguments:
         arguments["groups"] = groups
+    if "coefficients" in arguments:  # they must sum to zero
+        weights = draw(st.tuples(*[st.integers(-9, 9)] * (groups - 1)))
+        arguments["coefficients"] = (*weights, -sum(weights))
+    if "pair" in arguments:  # groups that there are
+        arguments["pair"] = tuple(draw(st.permutations(range(1, groups + 1)))[:2])
+    if "half_width" in arguments and "power" in arguments:
+        del arguments["power"]
     if with_nonsense:
         spoilt = draw(st.sets(st.sampled_from([python_name(one) for one in parameters] + ["unknown"]), min_size=1,
                               max_size=2))

@@ -4,6 +4,7 @@ A translation takes the arguments of a call there and answers with `Asked`: a te
 becomes the number of the other package, and for sizes what the other package's unrounded number is in our sizes.
 """
 
+import json
 import math
 from collections.abc import Callable
 from dataclasses import dataclass
@@ -237,6 +238,26 @@ def statsmodels_interval_size(proportion, half_length, alpha=0.05):
                                 "interval_method": "wald"}, lambda answer: answer.n, lambda size: size)
 
 
+@dataclass
+class Converted:
+    """An effect size, converted."""
+
+    inputs: dict[str, Any]
+    name: str
+    unrounded = None
+
+    def answer(self):
+        request = {"inputs": self.inputs, "names": "underscore"}
+        return json.loads(kelpower._core.convert(json.dumps(request).encode())[1])["results"]
+
+    def number(self, answer):
+        return answer[self.name]
+
+
+def statsmodels_effect(prop1, prop2):
+    return Converted({"proportions": [prop1, prop2]}, "effect_h")
+
+
 def pingouin_t(d=None, n=None, power=None, alpha=0.05, contrast="two-samples", alternative="two-sided"):
     if contrast == "two-samples":
         return ask_t_groups(d, n, alpha, power, 1, alternative)
@@ -304,7 +325,7 @@ TRANSLATIONS = {
     "FTestPowerF2.power": statsmodels_f2, "FTestPowerF2.solve_power": statsmodels_f2,
     "power_proportions_2indep": statsmodels_proportions, "normal_sample_size_one_tail": statsmodels_one_tail,
     "samplesize_proportions_2indep_onetail": statsmodels_proportions_size,
-    "proportion_confint": statsmodels_interval, "samplesize_confint_proportion": statsmodels_interval_size,
+    "proportion_effectsize": statsmodels_effect, "proportion_confint": statsmodels_interval, "samplesize_confint_proportion": statsmodels_interval_size,
     "power_ttest": pingouin_t, "power_ttest2n": pingouin_t_groups, "power_anova": pingouin_anova,
     "power_rm_anova": pingouin_repeated, "power_corr": pingouin_correlation, "power_chi2": pingouin_chi_square,
 }
