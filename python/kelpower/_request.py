@@ -27,6 +27,8 @@ def plain(value: Any) -> Any:
         return value if isinstance(value, str) else repr(value)
     if isinstance(value, (list, tuple)):
         return [plain(each) for each in value]
+    if isinstance(value, np.longdouble):  # of which tolist() makes another one
+        return float(value)
     if hasattr(value, "tolist"):
         return plain(value.tolist())
     if hasattr(value, "__array__"):
