@@ -69,7 +69,7 @@ def _numbers(name: str, value: Any, axes: int) -> Floats:
     if array.dtype == object:
         array = np.array([np.nan if each is None else each for each in array.ravel()]).reshape(array.shape)
     try:
-        return array.astype(np.float64, copy=False)
+        return array.astype(np.float64, casting="same_kind" if array.dtype.kind == "c" else "unsafe", copy=False)
     except (TypeError, ValueError):
         raise InputError(f"{name} has values that are not numbers.", {"parameter": name}) from None
 
@@ -100,7 +100,11 @@ class Many:
         for name, value in given.items():
             self._sort_in(name, value)
         arrays = [*self.choices.values(), *(column.values for column in self.columns)]
-        self.shape = np.broadcast_shapes(*(array.shape for array in arrays))
+        try:
+            self.shape = np.broadcast_shapes(*(array.shape for array in arrays))
+        except ValueError:
+            shapes = ", ".join(map(str, dict.fromkeys(array.shape for array in arrays)))
+            raise InputError(f"Arguments of the shapes {shapes} cannot be broadcast together.") from None
 
     def _sort_in(self, name: str, value: Any) -> None:
         parameter = self.test.parameters.get(name)
@@ -134,6 +138,8 @@ class Many:
         if not self.choices:
             yield self.fixed, slice(None)
             return
+        if self.size == 0:
+            raise InputError(f"{next(iter(self.choices))} has no values, which decide what is asked.")
         flat = [np.broadcast_to(array, self.shape).ravel() for array in self.choices.values()]
         codes = np.zeros(self.size, dtype=np.int64)
         for values in flat:

@@ -12,7 +12,8 @@ from kelpower._ufunc_table import TABLE
 USUAL = {
     "alpha": 0.05, "coefficients": [1, 0, -1], "correlation": 0.5, "effect_d": 0.5, "effect_f": 0.3, "effect_f2": 0.15,
     "eta_squared": 0.1, "half_width": 3, "mean": 3, "mean1": 10, "mean2": 12, "mean_difference": 3,
-    "means": [10, 12, 15], "n": 30, "n1": 30, "n2": 40, "null": 0.5, "odds_ratio": 2.5, "p12": 0.3, "p21": 0.1, "pair1": 1, "pair2": 3,
+    "means": [10, 12, 15], "n": 30, "n1": 30, "n2": 40, "null": 0.5, "odds_ratio": 2.5, "p12": 0.3, "p21": 0.1,
+    "pair1": 1, "pair2": 3,
     "partialled_out": 2, "power": 0.8, "predictors": 3, "proportion": 0.3, "proportion1": 0.2, "proportion2": 0.4,
     "r": 0.4, "r_squared": 0.2, "ratio": 1, "ratios": [1, 1, 1], "risk_difference": 0.2, "risk_ratio": 2, "sd": 6,
     "sd1": 4, "sd2": 5, "sd_difference": 6, "test_value": 0,
