@@ -17,6 +17,15 @@ using Kind = JsonTree::Kind;
                              .allowed = parameter});
 }
 
+/// A word as the choice has it: the names among them are understood with dashes and with underscores.
+std::string WordOf(const planner::Parameter& parameter, const std::string& text) {
+  std::string dashed = text;
+  std::replace(dashed.begin(), dashed.end(), '_', '-');
+  const bool isChoice = std::any_of(parameter.choices.begin(), parameter.choices.end(),
+                                    [&](const planner::Choice& choice) { return choice.word == dashed; });
+  return isChoice ? dashed : text;
+}
+
 planner::Value SingleValue(const planner::Parameter& parameter, const JsonTree& json) {
   switch (parameter.kind) {
     case planner::Kind::Number:
@@ -26,7 +35,7 @@ planner::Value SingleValue(const planner::Parameter& parameter, const JsonTree& 
       if (json.Is(Kind::Flag)) return json.flag;
       break;
     case planner::Kind::Choice:
-      if (json.Is(Kind::Text)) return json.text;
+      if (json.Is(Kind::Text)) return WordOf(parameter, json.text);
       break;
     case planner::Kind::List:
     case planner::Kind::PerGroup:

@@ -69,6 +69,16 @@ void WriteMissing(JsonWriter& json, const std::vector<Names>& ways) {
 /// The value that is not allowed. Of other problems the values are figures of the sentence.
 bool HasValue(const Problem& problem) { return problem.code == Code::NotAllowed && !problem.values.empty(); }
 
+/// The words of the input `solve` are names of inputs, and spelt as such.
+std::string WithNamesSpelt(std::string text, const Problem& problem, NameStyle style) {
+  if (!problem.allowed || problem.allowed->name.Text() != "solve") return text;
+  for (const Choice& choice : problem.allowed->choices) {
+    const std::size_t place = text.rfind(choice.word);
+    if (place != std::string::npos) text.replace(place, choice.word.size(), Spelt(choice.word, style));
+  }
+  return text;
+}
+
 }  // namespace
 
 const char* WordOf(Code code) {
@@ -99,9 +109,10 @@ void WriteProblem(JsonWriter& json, const Problem& problem) {
     json.Key("value");
     json.Of(problem.values.front());
   }
-  if (problem.allowed) json.Text("allowed", Allowed(*problem.allowed));
+  if (problem.allowed) json.Text("allowed", WithNamesSpelt(Allowed(*problem.allowed), problem, json.Names()));
   if (!problem.missing.empty()) WriteMissing(json, problem.missing);
-  json.Text("message", Sentence(problem, [&](std::string_view name) { return Spelt(name, json.Names()); }));
+  const std::string sentence = Sentence(problem, [&](std::string_view name) { return Spelt(name, json.Names()); });
+  json.Text("message", WithNamesSpelt(sentence, problem, json.Names()));
   json.Text("template", SentenceTemplate(problem));
   json.CloseObject();
 }

@@ -1,0 +1,34 @@
+"""Statistical power analysis: power, sample size, detectable effect and precision of statistical tests.
+
+One function for each test, in which what is left out is what is solved for:
+
+>>> import kelpower
+>>> kelpower.two_means(effect_d=0.5, power=0.8).n
+(64, 64)
+>>> round(kelpower.two_means(effect_d=0.5, n=64).power, 4)
+0.8015
+
+"""
+
+from . import ufuncs
+from ._core import version as __version__
+from ._errors import InputError, KelpowerError, NoSolution, NoSolutionWarning
+from ._functions import *  # noqa: F403
+from ._functions import __all__ as _tests
+from ._result import Explanation, Result
+from ._results import Results
+from ._ufunc import ufunc
+
+__all__ = [
+    "Explanation",
+    "InputError",
+    "KelpowerError",
+    "NoSolution",
+    "NoSolutionWarning",
+    "Result",
+    "Results",
+    "__version__",
+    "ufunc",
+    "ufuncs",
+]
+__all__ += _tests

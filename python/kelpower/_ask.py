@@ -2,17 +2,33 @@
 
 from __future__ import annotations
 
-from collections.abc import Mapping
-from typing import Any
+from collections.abc import Callable, Mapping
+from typing import Any, TypeVar
 
 from . import _catalogue, _request
 from ._many import Many, is_many
 from ._result import Result
 from ._results import Results
 
+Function = TypeVar("Function", bound=Callable[..., Any])
 
-def asked(test: str, values: Mapping[str, Any], defaults: Mapping[str, Any]) -> Any:
+# The defaults of each function, which are not sent: what excludes what is decided by what a user gives.
+_defaults: dict[str, Mapping[str, Any]] = {}
+
+
+def question(test: str) -> Callable[[Function], Function]:
+    """Mark the function that asks about a test."""
+
+    def remember(function: Function) -> Function:
+        _defaults[test] = function.__kwdefaults__ or {}
+        return function
+
+    return remember
+
+
+def asked(test: str, values: Mapping[str, Any]) -> Any:
     """The answer to the arguments of a function that are not its defaults."""
+    defaults = _defaults[test]
     return answer(test, {name: value for name, value in values.items() if value is not defaults[name]})
 
 

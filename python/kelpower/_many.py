@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import itertools
 import os
 from collections.abc import Iterator, Mapping, Sequence
 from concurrent.futures import ThreadPoolExecutor
@@ -215,9 +216,9 @@ def run(
 
 def _on_threads(answer: Any, count: int, workers: int, stop: NDArray[np.int32]) -> list[int]:
     """The rows in shares, more than threads, so that none waits long for another. An exception ends all of them."""
-    bounds = np.linspace(0, count, 4 * workers + 1).astype(int)
+    bounds = np.linspace(0, count, 4 * workers + 1).astype(int).tolist()
     with ThreadPoolExecutor(workers) as pool:
-        futures = [pool.submit(answer, int(a), int(b)) for a, b in zip(bounds[:-1], bounds[1:], strict=True)]
+        futures = [pool.submit(answer, first, last) for first, last in itertools.pairwise(bounds)]
         try:
             return [future.result() for future in futures]
         except BaseException:

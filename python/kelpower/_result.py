@@ -221,8 +221,8 @@ class Result:
         Returns
         -------
         dict or None
-            ``x``, ``without`` and ``with`` (401 points each), where the test rejects, and the areas there. None where no
-            single statistic has the power as its area.
+            ``x``, ``without`` and ``with`` (401 points each), where the test rejects, and the areas there. None where
+            no single statistic has the power as its area.
 
         """
         reply: dict[str, Any] = json.loads(_request.solve(self._test, self._given, densities=True))

@@ -193,7 +193,8 @@ class Results:
         columns = self.to_dict()
         shown = [[name, *(_shown(value) for value in values[:20])] for name, values in columns.items()]
         widths = [max(map(len, column)) for column in shown]
-        lines = ["  ".join(cell.rjust(width) for cell, width in zip(row, widths, strict=True)) for row in zip(*shown, strict=True)]
+        rows = zip(*shown, strict=True)
+        lines = ["  ".join(cell.rjust(width) for cell, width in zip(row, widths, strict=True)) for row in rows]
         rest = self.status.size - 20
         return "\n".join([self._many.test.title, "", *lines, *([f"... and {rest} more"] if rest > 0 else [])])
 

@@ -25,9 +25,10 @@ struct Strided {
   double* At(npy_intp row) const { return reinterpret_cast<double*>(first + stride * row); }
 };
 
-/// An argument: a number, or a list with an entry for each group.
+/// An argument: a number, an entry of a list, or a list with an entry for each group.
 struct Argument {
   std::string name;
+  Py_ssize_t entry;  // below 0 for a number
   bool isList;
 };
 
@@ -59,9 +60,10 @@ private:
     json request = request_;
     request["columns"] = json::array();
     for (const Argument& argument : arguments_) {
-      if (!argument.isList) request["columns"].push_back(argument.name);
-      for (npy_intp entry = 0; argument.isList && entry < groups; ++entry) {
-        request["columns"].push_back({{"name", argument.name}, {"entry", entry}});
+      const npy_intp first = argument.isList ? 0 : argument.entry;
+      const npy_intp last = argument.isList ? groups - 1 : argument.entry;
+      for (npy_intp entry = first; entry <= last; ++entry) {
+        request["columns"].push_back(entry < 0 ? json(argument.name) : json{{"name", argument.name}, {"entry", entry}});
       }
     }
     return request;
@@ -176,7 +178,7 @@ void Loop(char** numbers, const npy_intp* dimensions, const npy_intp* steps, voi
   }
 }
 
-/// Reads tuples of (name, is list) or (name, entry, is list).
+/// Reads tuples of (name, entry, is list).
 template <typename Item, typename Read>
 bool ReadAll(PyObject* tuple, std::vector<Item>& items, Read read) {
   for (Py_ssize_t i = 0; i < PyTuple_Size(tuple); ++i) {
@@ -186,7 +188,7 @@ bool ReadAll(PyObject* tuple, std::vector<Item>& items, Read read) {
     Py_ssize_t entry = 0;
     int isList = 0;
     if (!PyArg_ParseTuple(item, "sni", &name, &entry, &isList)) return false;
-    items.push_back(read(name, static_cast<std::size_t>(entry), isList != 0));
+    items.push_back(read(name, entry, isList != 0));
   }
   return true;
 }
@@ -201,8 +203,10 @@ PyObject* QuestionUfunc(PyObject*, PyObject* values) {
   }
   std::vector<Argument> arguments;
   std::vector<Output> outputs;
-  const auto argumentOf = [](const char* word, std::size_t, bool isList) { return Argument{word, isList}; };
-  const auto outputOf = [](const char* word, std::size_t entry, bool isList) { return Output{word, entry, isList}; };
+  const auto argumentOf = [](const char* word, Py_ssize_t entry, bool isList) { return Argument{word, entry, isList}; };
+  const auto outputOf = [](const char* word, Py_ssize_t entry, bool isList) {
+    return Output{word, static_cast<std::size_t>(entry), isList};
+  };
   try {
     if (!ReadAll(argumentTuple, arguments, argumentOf) || !ReadAll(outputTuple, outputs, outputOf)) return nullptr;
     const int inputCount = static_cast<int>(arguments.size()), outputCount = static_cast<int>(outputs.size());

@@ -67,6 +67,21 @@ TEST(JsonDoor, SpellsEffectSizesWithUnderscoresWhereAsked) {
   EXPECT_TRUE(reply["details"].contains("eta_squared"));
 }
 
+TEST(JsonDoor, SpellsTheNumbersThatCanBeSolvedForAsAsked) {
+  const char* request =
+      R"({"test":"two-means","names":"underscore","inputs":{"sd":10,"n":30,"power":0.8,"solve":"%"}})";
+  const auto asked = [request](const std::string& word) {
+    const std::string text = request;
+    return Asked(kelplan_solve, text.substr(0, text.find('%')) + word + text.substr(text.find('%') + 1)).json;
+  };
+  EXPECT_EQ(asked("mean_difference"), asked("mean-difference"));
+  EXPECT_TRUE(asked("mean_difference")["results"].contains("mean_difference"));
+  const Json error = asked("effect")["error"];
+  EXPECT_EQ(error["allowed"], "effect_d, mean_difference, sd, ratio, alpha or assurance");
+  EXPECT_EQ(error["message"],
+            "solve is \"effect\", but must be effect_d, mean_difference, sd, ratio, alpha or assurance.");
+}
+
 TEST(JsonDoor, DescribesEveryTest) {
   const Json description = Json::parse(kelplan_describe());
   EXPECT_EQ(description["schema"], 1);
