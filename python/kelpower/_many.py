@@ -72,7 +72,9 @@ def _numbers(name: str, value: Any) -> Floats:
     array: Any = np.asanyarray(value)
     try:
         if array.dtype == object:
-            return np.array([_number(each) for each in array.flat], dtype=np.float64).reshape(array.shape)
+            flat = np.array([_number(each) for each in array.flat], dtype=np.float64)
+            numbers: Floats = flat.reshape(array.shape)
+            return numbers
         if array.dtype.kind not in "iuf":
             raise TypeError(array.dtype)
         filled: Floats = np.ma.filled(array.astype(np.float64, copy=False), np.nan)
