@@ -168,6 +168,24 @@ def test_spark(spark, tmp_path):
     assert rows == list(wanted.itertuples(index=False, name=None))
 
 
+@pytest.mark.filterwarnings("default")  # what Ray itself warns of
+@pytest.mark.parametrize("kind", ["pandas", "pyarrow"])
+def test_ray(ray, kind):
+    data = ray.data.from_pandas(designs())
+    solved = data.map_batches(kelpower.solve_frame, batch_format=kind, fn_kwargs={"test": "two-means"}, batch_size=300)
+    assert_same(solved.to_pandas(), answered())
+
+
+@pytest.fixture(scope="module")
+def ray():
+    module = pytest.importorskip("ray")
+    pytest.importorskip("ray.data")
+    os.environ["RAY_USAGE_STATS_ENABLED"] = "0"
+    module.init(num_cpus=2, include_dashboard=False, log_to_driver=False, object_store_memory=100_000_000)
+    yield module
+    module.shutdown()
+
+
 def _memory():
     import resource
 
