@@ -10,7 +10,7 @@ One function for each test, in which what is left out is what is solved for:
 
 """
 
-from . import ufuncs
+from . import dist, lib, ufuncs
 from ._core import version as __version__
 from ._errors import InputError, KelpowerError, NoSolution, NoSolutionWarning
 from ._frames import arrow_batches, arrow_schema, arrow_udf, frame_meta, solve_frame, spark_schema
@@ -20,8 +20,10 @@ from ._grid import grid
 from ._result import Explanation, Result
 from ._results import Results
 from ._ufunc import ufunc
+from .lib import MISSING
 
 __all__ = [
+    "MISSING",
     "Explanation",
     "InputError",
     "KelpowerError",
@@ -33,8 +35,10 @@ __all__ = [
     "arrow_batches",
     "arrow_schema",
     "arrow_udf",
+    "dist",
     "frame_meta",
     "grid",
+    "lib",
     "solve_frame",
     "spark_schema",
     "ufunc",

@@ -120,7 +120,11 @@ class Many:
         for name, value in given.items():
             self._sort_in(name, value)
         arrays = [*self.choices.values(), *(column.values for column in self.columns)]
-        self.shape = np.broadcast_shapes(*(array.shape for array in arrays))
+        try:
+            self.shape = np.broadcast_shapes(*(array.shape for array in arrays))
+        except ValueError:
+            shapes = ", ".join(map(str, dict.fromkeys(array.shape for array in arrays)))
+            raise InputError(f"Arguments of the shapes {shapes} cannot be broadcast together.") from None
 
     def _sort_in(self, name: str, value: Any) -> None:
         parameter = self.test.parameters.get(name)
