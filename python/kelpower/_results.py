@@ -2,6 +2,8 @@
 
 from __future__ import annotations
 
+import html
+import operator
 import sys
 import warnings
 from collections.abc import Mapping
@@ -12,7 +14,7 @@ from numpy.typing import NDArray
 
 from ._catalogue import TARGETS
 from ._errors import KelpowerError, NoSolutionWarning
-from ._many import Many
+from ._many import Many, Outcome
 from ._result import Result
 
 
@@ -118,7 +120,7 @@ class Results:
         """The whole answer to one design. Raises what its problem is, if it has none."""
         from ._ask import answer
 
-        place = index if isinstance(index, tuple) else (index,)
+        place = tuple(map(operator.index, index if isinstance(index, tuple) else (index,)))
         if len(place) != len(self.shape):
             raise IndexError(f"{len(self.shape)} indices are expected, one for each axis")
         result: Result = answer(self.test, self._many.design(place))
@@ -207,8 +209,11 @@ class Results:
         return frame_of_columns({**self._given_columns(), **results, "status": status}, engine, sizes)
 
     def _repr_html_(self) -> str:
-        html: str = self.to_frame()._repr_html_()
-        return html
+        try:
+            text: str = self.to_frame()._repr_html_()
+        except ImportError:
+            return f"<pre>{html.escape(str(self))}</pre>"
+        return text
 
     def __str__(self) -> str:
         columns = self.to_dict()
@@ -237,7 +242,7 @@ class Results:
     __hash__ = None  # type: ignore[assignment]
 
     def __reduce__(self) -> tuple[Any, ...]:
-        return _again, (self.test, self._many.given)
+        return _restored, (self.test, self._many.given, self._outcome)
 
 
 def _levels_of_the_package() -> int:
@@ -248,10 +253,12 @@ def _levels_of_the_package() -> int:
     return levels
 
 
-def _again(test: str, given: Mapping[str, Any]) -> Results:
-    with warnings.catch_warnings():
-        warnings.simplefilter("ignore", NoSolutionWarning)
-        return Results(Many(test, given))
+def _restored(test: str, given: Mapping[str, Any], outcome: Outcome) -> Results:
+    """The same answers, not computed again."""
+    results = object.__new__(Results)
+    results._many = Many(test, given)
+    results._outcome = outcome
+    return results
 
 
 def _shown(value: Any) -> str:
