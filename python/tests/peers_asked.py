@@ -256,7 +256,8 @@ class Converted:
 
 
 def statsmodels_effect(prop1, prop2):
-    return Converted({"proportions": [prop1, prop2]}, "effect_h")
+    """Cohen's h, which is that of the second proportion minus the first with us."""
+    return Converted({"proportions": [prop2, prop1]}, "h")
 
 
 def pingouin_t(d=None, n=None, power=None, alpha=0.05, contrast="two-samples", alternative="two-sided"):
