@@ -10,7 +10,7 @@ One function for each test, in which what is left out is what is solved for:
 
 """
 
-from . import ufuncs
+from . import dist, lib, ufuncs
 from ._core import version as __version__
 from ._curve import Curve, Curves, Surface
 from ._densities import Densities
@@ -25,8 +25,10 @@ from ._lines import plot
 from ._result import Explanation, Result
 from ._results import Results
 from ._ufunc import ufunc
+from .lib import MISSING
 
 __all__ = [
+    "MISSING",
     "Curve",
     "Curves",
     "Densities",
@@ -43,9 +45,11 @@ __all__ = [
     "arrow_batches",
     "arrow_schema",
     "arrow_udf",
+    "dist",
     "effect",
     "frame_meta",
     "grid",
+    "lib",
     "plot",
     "solve_frame",
     "spark_schema",

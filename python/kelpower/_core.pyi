@@ -4,6 +4,8 @@ import numpy as np
 from numpy.typing import NDArray
 
 version: str
+lib_functions: dict[str, Any]
+dist_functions: dict[str, Any]
 
 def describe() -> str: ...
 def solve(request: bytes, /) -> tuple[int, str]: ...

@@ -259,16 +259,12 @@ def arrow_codes(array: Any, use: Use) -> Codes:
         return np.full(len(array), -1, dtype=np.int64)
     if pa.types.is_boolean(kind) and _asks_for_flags(use):
         return np.asarray(pc.fill_null(array.cast(pa.int64()), -1))
-    is_text = pa.types.is_string(kind) or pa.types.is_large_string(kind) or _is_view(kind)
-    if not is_text or _asks_for_flags(use):
+    if str(kind) not in ("string", "large_string", "string_view") or _asks_for_flags(use):
         raise _refuse(use.column, kind, _wanted(use))
+    array = array.cast(pa.large_string())
     words = pc.unique(array)
     places = pc.index_in(array, value_set=words)
     return _codes_of(words.to_pylist(), use)[np.asarray(places)] if len(array) else np.empty(0, dtype=np.int64)
-
-
-def _is_view(kind: Any) -> bool:
-    return str(kind) == "string_view"
 
 
 def arrow_result(answers: Answers, name: str) -> Any:

@@ -72,7 +72,9 @@ def _numbers(name: str, value: Any) -> Floats:
     array: Any = np.asanyarray(value)
     try:
         if array.dtype == object:
-            return np.array([_number(each) for each in array.flat], dtype=np.float64).reshape(array.shape)
+            flat = np.array([_number(each) for each in array.flat], dtype=np.float64)
+            numbers: Floats = flat.reshape(array.shape)
+            return numbers
         if array.dtype.kind not in "iuf":
             raise TypeError(array.dtype)
         filled: Floats = np.ma.filled(array.astype(np.float64, copy=False), np.nan)
@@ -118,7 +120,11 @@ class Many:
         for name, value in given.items():
             self._sort_in(name, value)
         arrays = [*self.choices.values(), *(column.values for column in self.columns)]
-        self.shape = np.broadcast_shapes(*(array.shape for array in arrays))
+        try:
+            self.shape = np.broadcast_shapes(*(array.shape for array in arrays))
+        except ValueError:
+            shapes = ", ".join(map(str, dict.fromkeys(array.shape for array in arrays)))
+            raise InputError(f"Arguments of the shapes {shapes} cannot be broadcast together.") from None
 
     def _sort_in(self, name: str, value: Any) -> None:
         parameter = self.test.parameters.get(name)

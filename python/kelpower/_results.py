@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import sys
 import warnings
 from collections.abc import Mapping
 from typing import TYPE_CHECKING, Any
@@ -63,7 +64,7 @@ class Results:
         first = int(np.flatnonzero(self.status)[0])
         some = "1 design has" if unanswered == 1 else f"{unanswered} designs have"
         text = f"{some} no answer, of {self.status.size}. At index {first}: {self.problem(first)}"
-        warnings.warn(text, NoSolutionWarning, stacklevel=4)
+        warnings.warn(text, NoSolutionWarning, stacklevel=_levels_of_the_package())
 
     @property
     def test(self) -> str:
@@ -289,6 +290,14 @@ class Results:
 
     def __reduce__(self) -> tuple[Any, ...]:
         return _again, (self.test, self._many.given)
+
+
+def _levels_of_the_package() -> int:
+    """How many calls lie between a warning and the line of the user."""
+    frame, levels = sys._getframe(1), 1
+    while frame.f_back is not None and frame.f_globals.get("__name__", "").partition(".")[0] == "kelpower":
+        frame, levels = frame.f_back, levels + 1
+    return levels
 
 
 def _again(test: str, given: Mapping[str, Any]) -> Results:

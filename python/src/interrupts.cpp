@@ -1,7 +1,16 @@
 #include "interrupts.h"
 
+#include <chrono>
+
 namespace kelpython {
 namespace {
+
+using Clock = std::chrono::steady_clock;
+constexpr std::chrono::milliseconds interval{50};
+
+// NumPy goes through an array in many loops. So these outlive a loop.
+thread_local Clock::time_point nextQuestion;
+thread_local bool waitsToBeRaised = false;
 
 /// The lock of the interpreter, whether or not this thread held it.
 class WithInterpreter {
@@ -11,12 +20,15 @@ public:
   WithInterpreter(const WithInterpreter&) = delete;
   WithInterpreter& operator=(const WithInterpreter&) = delete;
 
+  bool WasHeld() const { return state_ == PyGILState_LOCKED; }
+
 private:
   PyGILState_STATE state_;
 };
 
 /// Raises an exception that stands in a tuple.
 int RaiseFrom(void* triple) {
+  waitsToBeRaised = false;
   const Ref owned(static_cast<PyObject*>(triple));
   PyObject* exception[3];
   for (Py_ssize_t i = 0; i < 3; ++i) {
@@ -31,23 +43,32 @@ int RaiseFrom(void* triple) {
 }  // namespace
 
 Interrupts::~Interrupts() {
-  if (!exception_[0]) return;
-  const WithInterpreter lock;
-  for (PyObject* part : exception_) Py_XDECREF(part);
+  if (exception_[0]) {
+    const WithInterpreter lock;
+    for (PyObject* part : exception_) Py_XDECREF(part);
+  }
+  if (released_) PyEval_RestoreThread(released_);
 }
 
 bool Interrupts::ShouldStop() {
-  if (exception_[0]) return true;
+  if (exception_[0] || waitsToBeRaised) return true;
   if (flag_ && *static_cast<const volatile std::int32_t*>(flag_) != 0) return true;
-  if (Clock::now() < next_) return false;
-  const WithInterpreter lock;
-  if (PyErr_CheckSignals() != 0) {
-    PyErr_Fetch(&exception_[0], &exception_[1], &exception_[2]);
-    return true;
+  const Clock::time_point now = Clock::now();
+  if (now < nextQuestion) return false;
+  nextQuestion = now + interval;
+  return AskInterpreter();
+}
+
+// NumPy keeps the lock in loops over few elements. One that takes long does without it from here on.
+bool Interrupts::AskInterpreter() {
+  bool wasHeld = false;
+  {
+    const WithInterpreter lock;
+    wasHeld = lock.WasHeld();
+    if (PyErr_CheckSignals() != 0) PyErr_Fetch(&exception_[0], &exception_[1], &exception_[2]);
   }
-  { const WithoutInterpreter others; }  // a turn for the other threads, where this one holds the lock throughout
-  next_ = Clock::now() + interval;
-  return false;
+  if (wasHeld) released_ = PyEval_SaveThread();
+  return exception_[0] != nullptr;
 }
 
 kelplan_options Interrupts::Options() {
@@ -69,7 +90,8 @@ void Interrupts::RaiseLater() {
   Ref triple(PyTuple_Pack(3, orNone(exception_[0]), orNone(exception_[1]), orNone(exception_[2])));
   if (!triple) return PyErr_Clear();
   PyObject* handedOver = triple.Release();
-  if (Py_AddPendingCall(RaiseFrom, handedOver) != 0) Py_DECREF(handedOver);
+  waitsToBeRaised = Py_AddPendingCall(RaiseFrom, handedOver) == 0;
+  if (!waitsToBeRaised) Py_DECREF(handedOver);
 }
 
 }  // namespace kelpython

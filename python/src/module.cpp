@@ -1,6 +1,7 @@
 // The extension module of the Python package.
 #define KELPOWER_IMPORTS_NUMPY
 #include "doors.h"
+#include "lib.h"
 #include "numpy.h"
 
 namespace {
@@ -8,7 +9,7 @@ namespace {
 int Fill(PyObject* module) {
   if (PyArray_ImportNumPyAPI() < 0 || PyUFunc_ImportUFuncAPI() < 0) return -1;
   using namespace kelpython;
-  return AddDoors(module) && AddBatches(module) && AddUfuncs(module) ? 0 : -1;
+  return AddDoors(module) && AddBatches(module) && AddUfuncs(module) && AddLib(module) ? 0 : -1;
 }
 
 PyModuleDef_Slot slots[] = {{Py_mod_exec, reinterpret_cast<void*>(Fill)},
