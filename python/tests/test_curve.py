@@ -2,11 +2,10 @@
 
 import json
 
+import kelpower
 import numpy as np
 import pandas as pd
 import pytest
-
-import kelpower
 from kelpower import Curve, Curves, InputError, NoSolution, Surface, _core
 from kelpower._curve import curve
 

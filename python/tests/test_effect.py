@@ -8,10 +8,9 @@ import shutil
 import subprocess
 from pathlib import Path
 
+import kelpower
 import numpy as np
 import pytest
-
-import kelpower
 from kelpower import EffectSizes, InputError, _core
 
 EXAMPLES = json.loads(_core.describe())["effects"]["examples"]
