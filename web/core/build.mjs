@@ -1,0 +1,45 @@
+// Makes the package in dist/ of the sources in src/ and of the WebAssembly module.
+// Usage: node build.mjs [FOLDER of kelplan.mjs and kelplan.wasm]
+import { execFileSync } from "node:child_process";
+import { copyFileSync, mkdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
+import { createRequire } from "node:module";
+import { dirname, join, resolve } from "node:path";
+import { fileURLToPath } from "node:url";
+import { gzipSync } from "node:zlib";
+
+import { build } from "esbuild";
+
+const here = dirname(fileURLToPath(import.meta.url));
+const module = resolve(process.argv[2] ?? join(here, "../../build/wasm/web/core"));
+const dist = join(here, "dist");
+
+function writeText(name, text) {
+  writeFileSync(join(dist, name), `export default ${JSON.stringify(text)};\n`);
+}
+
+function compileTypeScript() {
+  const tsc = createRequire(import.meta.url).resolve("typescript/bin/tsc");
+  execFileSync(process.execPath, [tsc, "--project", here], { stdio: "inherit" });
+}
+
+async function bundleWorker() {
+  const bundle = await build({
+    entryPoints: [join(dist, "worker.js")],
+    bundle: true,
+    minify: true,
+    format: "iife",
+    target: "es2022",
+    write: false,
+  });
+  return bundle.outputFiles[0].text;
+}
+
+rmSync(dist, { recursive: true, force: true });
+mkdirSync(dist);
+copyFileSync(join(module, "kelplan.mjs"), join(dist, "glue.js"));
+writeText("wasm.js", gzipSync(readFileSync(join(module, "kelplan.wasm")), { level: 9 }).toString("base64"));
+compileTypeScript();
+writeText("worker_source.js", await bundleWorker());
+for (const name of ["glue", "wasm", "worker_source"]) {
+  copyFileSync(join(here, "src", `${name}.d.ts`), join(dist, `${name}.d.ts`));
+}
