@@ -1,5 +1,29 @@
-import { load } from "kelpower";
+// Starts the planner, and shows the page once it is there.
 
-const kel = await load();
-const answer = await kel.solve({ test: "two-means", inputs: { "effect-d": 0.5, power: 0.8 } });
-document.getElementById("app")!.textContent = "error" in answer ? answer.error.message : answer.sentence;
+import { load } from "kelpower";
+import { render } from "preact";
+import { App } from "./app";
+import { answerWhileTyping } from "./live";
+import { description, kel, readFromAddress } from "./state";
+import "./style.css";
+import { texts } from "./texts";
+
+async function start(root: HTMLElement): Promise<void> {
+  try {
+    const planner = await load();
+    description.value = planner.describe();
+    kel.value = planner;
+  } catch {
+    root.textContent = texts.loadFailed;
+    return;
+  }
+  readFromAddress();
+  addEventListener("popstate", readFromAddress);
+  addEventListener("hashchange", readFromAddress);
+  root.textContent = "";
+  answerWhileTyping();
+  render(<App />, root);
+}
+
+const root = document.getElementById("app");
+if (root) void start(root);
