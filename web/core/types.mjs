@@ -46,7 +46,8 @@ function joined() {
   const $defs = {};
   for (const [name, type] of Object.entries(replies)) {
     const { $defs: parts = {}, $schema, $id, title, ...schema } = schemaOf(name);
-    for (const [part, body] of Object.entries(parts)) add($defs, part, { ...body, ...(titles[part] && { title: titles[part] }) });
+    for (const [part, body] of Object.entries(parts))
+      add($defs, part, { ...body, ...(titles[part] && { title: titles[part] }) });
     $defs[type] = { ...schema, title: type, description: `${title}.` };
   }
   const properties = Object.fromEntries(Object.values(replies).map((type) => [type, { $ref: `#/$defs/${type}` }]));

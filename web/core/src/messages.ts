@@ -2,8 +2,7 @@ import type { Door } from "./doors.js";
 
 /** What a worker is told: first the compiled module, then requests one at a time. */
 export type ToWorker =
-  | { kind: "start"; module: WebAssembly.Module; describe: boolean }
-  | { kind: "ask"; door: Door; request: string };
+  { kind: "start"; module: WebAssembly.Module; describe: boolean } | { kind: "ask"; door: Door; request: string };
 
 /** What it replies, a message for each. */
 export type FromWorker =

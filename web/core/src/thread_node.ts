@@ -5,14 +5,15 @@ import type { StartThread } from "./thread.js";
 
 /** Gives a worker of Node the two functions of a browser's that the script uses. */
 const PRELUDE = `
-const { parentPort } = require("node:worker_threads");
 globalThis.self = globalThis;
-globalThis.postMessage = (message) => parentPort.postMessage(message);
-parentPort.on("message", (data) => self.onmessage({ data }));
+import("node:worker_threads").then(({ parentPort }) => {
+  globalThis.postMessage = (message) => parentPort.postMessage(message);
+  parentPort.on("message", (data) => self.onmessage({ data }));
+});
 `;
 
 export const startThread: StartThread = (source, listener) => {
-  const worker = new Worker(PRELUDE + source, { eval: true });
+  const worker = new Worker(PRELUDE + source, { eval: true, execArgv: [] });
   worker.on("message", (message: FromWorker) => listener.heard(message));
   worker.on("error", (error) => listener.failed(error.message));
   return {
