@@ -1,6 +1,6 @@
 // A design as it is typed, its fields, and the request to the core that it makes.
 
-import type { Parameter, Route, Test, Value } from "../contract";
+import type { Parameter, Route, Test, Unknown, Value } from "../contract";
 import { readNumber, splitList } from "../numbers";
 import { beforeTheStudy, suggestions } from "../texts";
 import { type Form, formOf, formsOf, parametersOf, routeOf } from "./forms";
@@ -156,18 +156,23 @@ export function inputsOf(test: Test, design: Design): { inputs: Inputs; lacks: L
   return { inputs, lacks };
 }
 
+/** Whether a number is all that a route lacks which takes whatever else is given. */
+function isLeftOut(test: Test, given: ReadonlySet<string>, { name, target }: Unknown): boolean {
+  const around = new Set([target, "alpha", "below"]);
+  return test.routes.some(({ question, needs, accepts }) => {
+    if (question !== target || given.has(name)) return false;
+    const lacking = needs.filter((need) => !given.has(need));
+    const taken = (one: string) => around.has(one) || needs.includes(one) || accepts.includes(one);
+    return lacking.length === 1 && lacking[0] === name && [...given].every(taken);
+  });
+}
+
 /** The question that inputs ask, as the core finds it. */
 function wishOf(test: Test, given: ReadonlySet<string>, solve: string | undefined): Wish {
   const target = given.has("half-width") ? "half-width" : "power";
   if (solve && soughtBy(test, `${target}:${solve}`)) return `${target}:${solve}`;
   if (given.has("n") && given.has(target)) {
-    const missing = test.unknowns.find((unknown) => {
-      if (unknown.target !== target || given.has(unknown.name)) return false;
-      return test.routes.some((route) => {
-        const lacking = route.needs.filter((name) => !given.has(name));
-        return route.question === target && lacking.length === 1 && lacking[0] === unknown.name;
-      });
-    });
+    const missing = test.unknowns.find((unknown) => unknown.target === target && isLeftOut(test, given, unknown));
     if (missing) return `${target}:${missing.name}`;
   }
   if (given.has("half-width")) return "sample-size-for-half-width";
@@ -209,6 +214,9 @@ export function designOf(test: Test, words: Readonly<Record<string, readonly str
   let wish = wishOf(test, given, texts["solve"]?.[0]);
   if (formsOf(test, wish).length === 0) wish = test.routes[0]?.question ?? "power";
   for (const name of ["solve", "interval"]) delete texts[name];
+  const listed = test.parameters.find(({ kind, name }) => kind === "per-group" && (texts[name]?.length ?? 0) > 1);
+  if (listed && !given.has("groups") && parameterOf(test, "groups"))
+    texts["groups"] = [String(texts[listed.name]?.length)];
   for (const { name, default: standard } of test.parameters) {
     if (typeof standard === "number" && !given.has(name)) texts[name] = [String(standard)];
   }

@@ -42,7 +42,7 @@ const common = new Set([
 export function plainWords(text: string): string {
   return text
     .toLowerCase()
-    .normalize("NFD")
+    .normalize("NFKD")
     .replace(/[\u0300-\u036f]/g, "")
     .replace(/[’`´]/g, "'")
     .replace(/[^a-z0-9'/+-]+/g, " ")
@@ -97,11 +97,11 @@ export function search(tests: readonly Test[], typed: string): Found {
       if (known !== undefined) points.set(name, known + 10 + fit - i / 10);
     });
   }
-  const told = rows.filter(({ row }) => row.hint).sort((a, b) => b.fit - a.fit);
   const named = rows.some(({ row }) => row.tests.length > 0);
-  const hints = told.filter(({ row }) => row.tests.length > 0 || !named).map(({ row }) => row.hint ?? "");
+  const told = rows.filter(({ row }) => row.hint && !(row.any && named)).sort((a, b) => b.fit - a.fit);
   let found = [...points].filter(([, fit]) => fit > 0).sort((a, b) => b[1] - a[1]);
   if (named) found = found.filter(([, fit]) => fit >= 10);
-  const general = found.length === 0 && told.some(({ row }) => row.words.includes("how many"));
+  const general = found.length === 0 && rows.some(({ row }) => row.any);
+  const hints = told.map(({ row }) => row.hint ?? "");
   return { tests: general ? tests.map(({ name }) => name) : found.map(([name]) => name), hints: hints.slice(0, 2) };
 }

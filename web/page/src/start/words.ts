@@ -6,6 +6,8 @@ export interface Words {
   words: readonly string[];
   tests: readonly string[];
   hint?: string;
+  /** Any test answers to these words. */
+  any?: true;
 }
 
 const tTests = ["two-means", "paired-means", "mean"];
@@ -202,7 +204,7 @@ export const knownWords: readonly Words[] = [
   },
   {
     words: ["precision", "confidence interval", "margin", "estimate", "how precise", "accuracy"],
-    tests: ["mean", "proportion", "two-means", "two-proportions"],
+    tests: ["proportion", "mean", "two-means", "two-proportions"],
     hint: "Every test here that has an interval can be asked how precise it will be, and how many that takes.",
   },
   {
@@ -220,6 +222,7 @@ export const knownWords: readonly Words[] = [
       "students",
     ],
     tests: [],
+    any: true,
     hint: "Any test can be asked how many subjects it needs. Say what you measure and in how many groups, or answer the questions below.",
   },
 
@@ -335,7 +338,7 @@ export const knownWords: readonly Words[] = [
     hint: "z tests are those of proportions. With a standard deviation that is known, the test of one mean is near.",
   },
   {
-    words: ["effect size", "convert", "cohen"],
+    words: ["effect size", "convert"],
     tests: ["two-means", "anova", "regression", "pearson"],
     hint: "Each test can work out its effect size from published results, in its form.",
   },
