@@ -2,6 +2,7 @@
 
 import { useEffect } from "preact/hooks";
 import { Comparison } from "./answer/comparison";
+import { focusOn, useFreshView } from "./focus";
 import { Planner } from "./planner";
 import { Start } from "./start/start";
 import { kel, notice, show, test } from "./state";
@@ -48,6 +49,7 @@ function Glossary() {
 }
 
 export function App() {
+  useFreshView(test.value?.name ?? "");
   return (
     <>
       <a
@@ -55,7 +57,7 @@ export function App() {
         href="#main"
         onClick={(event) => {
           event.preventDefault();
-          document.getElementById("title")?.focus();
+          focusOn("title");
         }}
       >
         {texts.skip}

@@ -1,6 +1,5 @@
 // One test: what is asked, what is given, and the answer beside it.
 
-import { useEffect, useRef } from "preact/hooks";
 import { AnswerPanel, Behind } from "./answer/answer";
 import { Status } from "./answer/status";
 import type { Test } from "./contract";
@@ -8,6 +7,7 @@ import { emptyDesign } from "./form/design";
 import { Fields } from "./form/fields";
 import { FormChoice, QuestionChoice } from "./form/question";
 import { questionsOf } from "./form/wishes";
+import { useInputsInSight } from "./answer/peek";
 import { PicturesOf } from "./answer/pictures_of";
 import { design, show, tests } from "./state";
 import { wishFor } from "./start/guide";
@@ -36,8 +36,6 @@ function WhenNot({ text }: { text: string }) {
 }
 
 function Heading({ test }: { test: Test }) {
-  const title = useRef<HTMLHeadingElement>(null);
-  useEffect(() => title.current?.focus({ preventScroll: true }), [test.name]);
   return (
     <header class="test-heading">
       <a
@@ -51,7 +49,7 @@ function Heading({ test }: { test: Test }) {
       >
         {texts.test.all}
       </a>
-      <h1 id="title" tabIndex={-1} ref={title} data-testid="test-title">
+      <h1 id="title" tabIndex={-1} data-testid="test-title">
         {test.title}
       </h1>
       <p class="lead">{test.about}</p>
@@ -61,12 +59,13 @@ function Heading({ test }: { test: Test }) {
 }
 
 export function Planner({ test }: { test: Test }) {
+  const inputs = useInputsInSight();
   const clear = () => show(emptyDesign(test, design.value?.wish ?? questionsOf(test)[0] ?? "power"), true);
   return (
     <>
       <Heading test={test} />
       <div class="columns">
-        <form class="inputs" onSubmit={(event) => event.preventDefault()}>
+        <form class="inputs" ref={inputs} onSubmit={(event) => event.preventDefault()}>
           <QuestionChoice test={test} />
           <FormChoice test={test} />
           <Fields test={test} />

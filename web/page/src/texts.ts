@@ -12,7 +12,7 @@ export const texts = {
     title: "How many subjects does your study need?",
     lead: "Plan the sample size, see the power of a sample that you have, or how precise an estimate will be.",
     search: "What do you want to find out?",
-    searchHelp: "Write it as you would say it, such as: before and after, two groups, how many patients, survival",
+    searchHelp: "In your own words, such as: before and after, two groups, a difference of 5 with SD 10",
     guide: "Or answer three questions",
     measure: "What is measured?",
     groups: "Of whom?",
@@ -26,7 +26,7 @@ export const texts = {
       word
         ? `Nothing here is known by “${word}”. There are tests of means, proportions, correlations and linear regression.`
         : "No test fits all three answers. Take one of them back.",
-    fits: "Fits your words",
+    given: (words: string) => `Opens with ${words}`,
   },
 
   measures: {
@@ -66,7 +66,7 @@ export const texts = {
     power: { label: "Is my sample enough?", help: "power of a sample size" },
     sought: { label: "What can I detect?", help: "effect for a sample and a power" },
     "half-width": { label: "How precise will it be?", help: "half-width of the interval" },
-    "sample-size-for-half-width": { label: "How many for this precision?", help: "sample size for a half-width" },
+    "sample-size-for-half-width": { label: "How many for this precision?", help: "size for a half-width" },
   } as Readonly<Record<string, { label: string; help: string }>>,
 
   form: {
@@ -110,6 +110,7 @@ export const texts = {
     lacks: (names: string[]) => `Still needed: ${names.join(", ")}.`,
     computing: "Computing …",
     searching: "This one takes longer: an exact search looks at many sample sizes.",
+    seconds: (count: number) => `${count} s`,
     stop: "Stop",
     stopped: "Stopped. Change an input, or start again.",
     again: "Start again",
@@ -149,8 +150,8 @@ export const texts = {
           ? "If the effect is as you say, hardly any such study would detect it."
           : `If the effect is as you say, about ${hundred} of 100 such studies would detect it.`,
     widthWords: (width: string) => `The estimate will be known to plus or minus ${width}, on average.`,
-    soughtWords: (power: string) => `With this, the power is ${power}.`,
-    soughtWidthWords: (width: string) => `With this, the half-width is ${width}.`,
+    soughtWords: (power: string) => `At this value the power is ${power}.`,
+    soughtWidthWords: (width: string) => `At this value the half-width is ${width}.`,
   },
 
   words: {
@@ -217,17 +218,26 @@ export const texts = {
   },
 } as const;
 
-/** Inputs about the conduct of a study, which most plans begin without. What is not listed is shown at once. */
-export const beforeTheStudy: ReadonlySet<string> = new Set([
-  "comparisons",
-  "dropout",
-  "cluster-size",
-  "icc",
-  "cluster-cv",
-  "population",
-  "assurance",
-  "effect-sd",
-]);
+/**
+ * Where inputs stand that a question can do without: beside the effect, with the sample, or under "Before the study". What
+ * is not listed stands with the options of the test.
+ */
+export const places: Readonly<Record<string, "effect" | "size" | "study">> = {
+  "test-value": "effect",
+  null: "effect",
+  tested: "effect",
+  "r-squared-reduced": "effect",
+  ratio: "size",
+  ratios: "size",
+  comparisons: "study",
+  dropout: "study",
+  "cluster-size": "study",
+  icc: "study",
+  "cluster-cv": "study",
+  population: "study",
+  assurance: "study",
+  "effect-sd": "study",
+};
 
 /** What a new design begins with besides the defaults of the core. */
 export const suggestions: Readonly<Record<string, string>> = { power: "0.8", groups: "3" };

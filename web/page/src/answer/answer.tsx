@@ -2,24 +2,26 @@
 
 import type { ComponentChildren } from "preact";
 import type { Answer, Test } from "../contract";
+import { focusOn } from "../focus";
 import { fillExample } from "../form/example";
 import { sameDesign } from "../form/design";
 import { soughtBy } from "../form/wishes";
 import { capital, inLabels } from "../form/words";
-import { again, type Outcome, outcome, stop, work } from "../live";
+import { again, type Outcome, outcome, work } from "../live";
 import { design } from "../state";
 import { texts } from "../texts";
 import { Actions } from "./actions";
 import { Calls } from "./calls";
 import { CopyButton } from "./copy";
 import { Explanation } from "./explanation";
-import { Peek, useInSight } from "./peek";
+import { Peek, useNumberInSight } from "./peek";
+import { Progress } from "./progress";
 import { assumptionRows, type Headline, headlineOf, inputRows, resultRows, type Row } from "./words";
 
 type Answered = Extract<Outcome, { kind: "answered" }>;
 
 function Number({ headline }: { headline: Headline }) {
-  const element = useInSight<HTMLDivElement>();
+  const element = useNumberInSight();
   return (
     <div class="headline" ref={element}>
       <p class="headline-label" data-testid="number-label">
@@ -113,20 +115,6 @@ export function Behind({ test }: { test: Test }) {
   );
 }
 
-/** What takes long can be stopped. */
-function Progress() {
-  if (work.value !== "long") return null;
-  return (
-    <div class="progress" data-testid="progress">
-      <progress aria-label={texts.answer.computing} />
-      <p>{texts.answer.searching}</p>
-      <button type="button" data-testid="stop" onClick={stop}>
-        {texts.answer.stop}
-      </button>
-    </div>
-  );
-}
-
 function Message({ testid, children }: { testid: string; children: ComponentChildren }) {
   return (
     <p class="message" data-testid={testid}>
@@ -136,6 +124,7 @@ function Message({ testid, children }: { testid: string; children: ComponentChil
 }
 
 function Other({ test, now }: { test: Test; now: Outcome }) {
+  if (work.value === "long") return null;
   if (now.kind === "error") {
     return (
       <>
@@ -160,7 +149,15 @@ function Other({ test, now }: { test: Test; now: Outcome }) {
     <>
       <p class="message">{texts.answer.empty}</p>
       {names.length > 0 && <Message testid="lacks">{texts.answer.lacks(names)}</Message>}
-      <button type="button" class="quiet" data-testid="example" onClick={() => fillExample(test)}>
+      <button
+        type="button"
+        class="quiet"
+        data-testid="example"
+        onClick={() => {
+          fillExample(test);
+          focusOn("answer");
+        }}
+      >
         {texts.test.example}
       </button>
     </>
@@ -177,11 +174,13 @@ export function AnswerPanel({ test }: { test: Test }) {
   return (
     <section
       class="answer"
+      id="answer"
+      tabIndex={-1}
       aria-labelledby="answer-title"
       data-testid="answer"
       data-state={work.value === "none" ? now.kind : "computing"}
     >
-      <h2 id="answer-title" class="offscreen" tabIndex={-1}>
+      <h2 id="answer-title" class="offscreen">
         {texts.answer.title}
       </h2>
       <Progress />

@@ -6,6 +6,7 @@ import { type Design, fieldsOf, inputsOf } from "../form/design";
 import { soughtBy } from "../form/wishes";
 import { capital, inLabels } from "../form/words";
 import { showCount, showPower } from "../numbers";
+import { focusOn } from "../focus";
 import { loadDesigns, saveDesigns } from "../save";
 import { change, type Kept, keepInputs, kept, notice, remove, show, tests } from "../state";
 import { texts } from "../texts";
@@ -75,7 +76,10 @@ function KeptRow({ one, number }: { one: Kept; number: number }) {
             class="quiet"
             data-testid={`load-${number}`}
             aria-label={say.openNamed(one.name)}
-            onClick={() => show(one.design, true)}
+            onClick={() => {
+              show(one.design, true);
+              focusOn("title");
+            }}
           >
             {say.open}
           </button>
@@ -84,7 +88,10 @@ function KeptRow({ one, number }: { one: Kept; number: number }) {
             class="quiet"
             data-testid={`remove-${number}`}
             aria-label={say.removeNamed(one.name)}
-            onClick={() => remove(one.id)}
+            onClick={() => {
+              remove(one.id);
+              focusOn(kept.value.length > 0 ? "comparison-title" : "title");
+            }}
           >
             {say.remove}
           </button>
@@ -141,9 +148,11 @@ export function LoadButton() {
 export function Comparison() {
   if (kept.value.length === 0) return null;
   return (
-    <section class="comparison" aria-labelledby="comparison-title">
+    <section class="comparison">
       <div class="bar">
-        <h2 id="comparison-title">{say.title}</h2>
+        <h2 id="comparison-title" tabIndex={-1}>
+          {say.title}
+        </h2>
         <div class="buttons">
           <button type="button" class="quiet" data-testid="save-designs" onClick={saveAll}>
             {say.save}

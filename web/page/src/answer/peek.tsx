@@ -1,37 +1,42 @@
 // The number in a corner while the answer itself is out of sight, so that a change far below shows its effect.
 
-import { signal } from "@preact/signals";
+import { type Signal, signal } from "@preact/signals";
 import { useEffect, useRef } from "preact/hooks";
+import { focusOn } from "../focus";
 import { capital } from "../form/words";
 import type { Headline } from "./words";
 
-const inSight = signal(true);
+const numberInSight = signal(true);
+const inputsInSight = signal(false);
 
 /** Follows whether an element can be seen. */
-export function useInSight<Kind extends HTMLElement>() {
+function useInSight<Kind extends HTMLElement>(seen: Signal<boolean>, otherwise: boolean) {
   const element = useRef<Kind>(null);
   useEffect(() => {
     if (!element.current || typeof IntersectionObserver === "undefined") return;
-    const observer = new IntersectionObserver(([entry]) => (inSight.value = entry?.isIntersecting ?? true));
+    const observer = new IntersectionObserver((entries) => (seen.value = entries.at(-1)?.isIntersecting ?? otherwise));
     observer.observe(element.current);
     return () => {
       observer.disconnect();
-      inSight.value = true;
+      seen.value = otherwise;
     };
   }, []);
   return element;
 }
 
+export const useNumberInSight = () => useInSight<HTMLDivElement>(numberInSight, true);
+export const useInputsInSight = () => useInSight<HTMLFormElement>(inputsInSight, false);
+
 export function Peek({ headline }: { headline: Headline }) {
-  if (inSight.value) return null;
+  if (numberInSight.value || !inputsInSight.value) return null;
   return (
     <a
       class="peek"
-      href="#answer-title"
+      href="#answer"
       data-testid="peek"
       onClick={(event) => {
         event.preventDefault();
-        document.getElementById("answer-title")?.focus();
+        focusOn("answer");
       }}
     >
       <span>{capital(headline.label)}</span> <strong>{headline.text}</strong>

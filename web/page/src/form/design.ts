@@ -2,7 +2,7 @@
 
 import type { Parameter, Route, Test, Unknown, Value } from "../contract";
 import { readNumber, splitList } from "../numbers";
-import { beforeTheStudy, suggestions } from "../texts";
+import { places, suggestions } from "../texts";
 import { type Form, formOf, formsOf, parametersOf, routeOf } from "./forms";
 import { parameterOf, questionsOf, soughtBy, targetOf, type Wish } from "./wishes";
 
@@ -75,7 +75,7 @@ export function fieldsOf(test: Test, design: Design): Field[] {
   const options = parametersOf(test, optionsOf(test, form, route, design.wish));
   const ticked = options.filter(({ kind }) => kind === "flag");
   for (const parameter of [...options.filter(({ kind }) => kind !== "flag"), ...ticked]) {
-    add(beforeTheStudy.has(parameter.name) ? "study" : "option", false, [parameter]);
+    add(places[parameter.name] ?? "option", false, [parameter]);
   }
   return fields;
 }

@@ -107,7 +107,7 @@ function Part(props: PartProps & { title: string; children?: preact.ComponentChi
   if (props.fields.length === 0) return null;
   return (
     <section class="part">
-      <h3>{props.title}</h3>
+      <h2>{props.title}</h2>
       <FieldsOf {...props} />
       {props.children}
     </section>

@@ -1,6 +1,7 @@
 // Finding the test: by words, by three questions, or in the list.
 
 import { useSignal } from "@preact/signals";
+import { useMemo } from "preact/hooks";
 import type { Test } from "../contract";
 import { LoadButton } from "../answer/comparison";
 import { writeDesign } from "../address";
@@ -8,13 +9,21 @@ import { emptyDesign } from "../form/design";
 import { Choice } from "../form/question";
 import { show, tests } from "../state";
 import { texts } from "../texts";
+import { givenBy } from "./given";
 import { fits, type Guide, noGuide, shelvesOf, wishFor } from "./guide";
 import { type Found, search } from "./search";
 
 const say = texts.start;
 
-function TestLink({ test, guide }: { test: Test; guide: Guide }) {
-  const design = emptyDesign(test, wishFor(test, guide.aim));
+interface ListProps {
+  guide: Guide;
+  /** What was typed, which may tell numbers. */
+  typed: string;
+}
+
+function TestLink({ test, guide, typed }: ListProps & { test: Test }) {
+  const given = givenBy(test, typed);
+  const design = given?.design ?? emptyDesign(test, wishFor(test, guide.aim));
   return (
     <li>
       <a
@@ -29,6 +38,7 @@ function TestLink({ test, guide }: { test: Test; guide: Guide }) {
       >
         <span class="test-title">{test.title}</span>
         <span class="test-about">{test.about}</span>
+        {given && <span class="test-given">{texts.start.given(given.words)}</span>}
       </a>
     </li>
   );
@@ -77,11 +87,11 @@ function Hints({ found }: { found: Found }) {
   );
 }
 
-function List({ tests: some, guide }: { tests: readonly Test[]; guide: Guide }) {
+function List({ tests: some, ...props }: ListProps & { tests: readonly Test[] }) {
   return (
     <ul class="tests">
       {some.map((test) => (
-        <TestLink key={test.name} test={test} guide={guide} />
+        <TestLink key={test.name} test={test} {...props} />
       ))}
     </ul>
   );
@@ -99,10 +109,11 @@ export function Start() {
     guide.value = noGuide;
   };
   const answer = (changes: Partial<Guide>) => (guide.value = { ...guide.value, ...changes });
+  const isWide = useMemo(() => matchMedia("(min-width: 45rem)").matches, []);
   const isSearching = typed.value.trim() !== "";
   const questions = (
-    <section key="guide" class="guide" aria-labelledby="guide-title">
-      <h2 id="guide-title">{say.guide}</h2>
+    <details key="guide" class="guide" open={isWide}>
+      <summary>{say.guide}</summary>
       <div class="guide-questions">
         <GuideQuestion
           name="guide-measure"
@@ -126,7 +137,7 @@ export function Start() {
           onChoose={(aim) => answer({ aim })}
         />
       </div>
-    </section>
+    </details>
   );
   const list = (
     <section key="list" aria-labelledby="list-title">
@@ -148,12 +159,12 @@ export function Start() {
         </p>
       )}
       {isSearching ? (
-        <List tests={listed} guide={guide.value} />
+        <List tests={listed} guide={guide.value} typed={typed.value} />
       ) : (
         shelvesOf(listed).map((shelf) => (
           <div class="shelf" key={shelf.kind}>
             <h3>{texts.kinds[shelf.kind]}</h3>
-            <List tests={shelf.tests} guide={guide.value} />
+            <List tests={shelf.tests} guide={guide.value} typed="" />
           </div>
         ))
       )}
