@@ -66,7 +66,14 @@ function nameOf({ loaded, test }: State): string {
 function curve(state: State): Picture {
   const { test, loaded, given } = state;
   const { chart, axis } = loaded;
-  const input = { test, chart, axis, mark: curveMark(state), target: targetOf(given, chart.quantity) };
+  const input = {
+    test,
+    chart,
+    axis,
+    mark: curveMark(state),
+    target: targetOf(given, chart.quantity),
+    sizes: loaded.sizes,
+  };
   return {
     name: nameOf(state),
     draw: (look) => curvePicture(input, look),

@@ -70,7 +70,10 @@ export function surfaceFor(chart: Chart, axes: Axis[]): Surface {
 
 export function powerAt(surface: Surface, x: number, y: number): number | null {
   const columns = surface.x.length;
-  const rowAt = (j: number) => valueAt(surface.x, surface.values.slice(j * columns, (j + 1) * columns), x);
+  const rowAt = (j: number) => {
+    const value = valueAt(surface.x, surface.values.slice(j * columns, (j + 1) * columns), x);
+    return Number.isNaN(value) ? null : value;
+  };
   const below = indexBelow(surface.y, y);
   if (y < surface.y[0]! || y > surface.y[surface.y.length - 1]!) return null;
   const first = rowAt(below);
@@ -237,7 +240,7 @@ export function contourSentence(input: ContourInput, surface: Surface, locale: s
   if (mark) {
     said.push(
       sentences.surfaceDesign(
-        `${where(axes[0], mark.x, test, locale)}, ${place(axes[1], mark.y, locale)},`,
+        `${where(axes[0], mark.x, test, locale)} ${texts.and} ${place(axes[1], mark.y, locale)}`,
         shownQuantity("power", mark.power, locale),
       ),
     );

@@ -24,6 +24,8 @@ export interface CurveInput {
   /** Where the design is now, of the only curve; it may have been moved since the chart was drawn. */
   mark: Mark | null;
   target: number | null;
+  /** The sizes, where the sizes that are needed are drawn along another input. */
+  sizes: Axis | null;
 }
 
 export interface Placed extends Composed {
@@ -118,6 +120,11 @@ function marksOf(input: CurveInput, look: Look, domain: [number, number]): Plot.
   return marks;
 }
 
+/** Sizes have the title of their axis, which tells what is counted. */
+function valueTitle({ chart, sizes }: CurveInput): string {
+  return chart.quantity === "sample-size" && sizes ? sizes.title : texts.quantityTitle[chart.quantity];
+}
+
 export function curvePicture(input: CurveInput, look: Look): Placed {
   const { chart, mark, target, test } = input;
   const domain = valueDomain(chart, mark, target);
@@ -128,7 +135,7 @@ export function curvePicture(input: CurveInput, look: Look): Placed {
     y: { domain, ticks: chart.quantity === "power" ? powerTicks : undefined },
     marks: marksOf(input, look, domain),
   });
-  const quantity = capital(texts.quantityTitle[chart.quantity]);
+  const quantity = capital(valueTitle(input));
   const composed = compose(
     {
       name: `${quantity}: ${chart.axes[0]!.title}`,
@@ -188,11 +195,13 @@ function powerSentence(input: CurveInput, locale: string): string {
 }
 
 function otherSentence(input: CurveInput, locale: string): string {
-  const { chart, axis, mark, test } = input;
+  const { chart, axis, mark, test, sizes } = input;
   if (!mark) return "";
   const values = valuesOf(chart, chart.curves[0]!);
   const isWidth = chart.quantity === "half-width";
-  const here = shownQuantity(chart.quantity, mark.y, locale);
+  const inWords = (value: number) =>
+    !isWidth && sizes ? amount(sizes, Math.round(value), test, locale) : shownQuantity(chart.quantity, value, locale);
+  const here = inWords(mark.y);
   const said = [
     isWidth
       ? sentences.halfWidthAt(where(axis, mark.x, test, locale), here)
@@ -202,7 +211,7 @@ function otherSentence(input: CurveInput, locale: string): string {
     const x = axis.limits.whole ? Math.round(factor * mark.x) : Number((factor * mark.x).toPrecision(3));
     const value = valueAt(chart.x, values, x);
     if (value === null || x === mark.x) continue;
-    const words = shownQuantity(chart.quantity, isWidth ? value : Math.round(value), locale);
+    const words = inWords(value);
     const there = where(axis, x, test, locale);
     if (!isWidth) said.push(sentences.sizeElse(there, words));
     else said.push(axis.isOfSizes && factor === 4 ? sentences.fourTimes(there, words) : sentences.twice(there, words));

@@ -2,7 +2,7 @@
 
 import * as Plot from "@observablehq/plot";
 import { capital, piece } from "./caption";
-import { compose } from "./frame";
+import { compose, textWidth } from "./frame";
 import type { Composed, KeyEntry, Look } from "./frame";
 import type { Answer, Densities, Test } from "./model";
 import { shown, shownPower } from "./numbers";
@@ -63,20 +63,22 @@ export function tail(densities: Densities, side: "low" | "high"): Point[] {
 function highest(densities: Densities): number {
   const withEffect = Math.max(...densities.with);
   const without = Math.max(...densities.without);
-  return densities.statistic === "F"
-    ? Math.min(without, Math.max(1.6 * withEffect, 0.5))
-    : Math.max(without, withEffect);
+  return densities.statistic === "F" ? Math.min(without, 2.5 * withEffect) : Math.max(without, withEffect);
 }
 
 function keyOf(densities: Densities, look: Look): KeyEntry[] {
   const { palette, locale } = look;
   const isCount = densities.statistic === "count";
   const without: KeyEntry = {
-    symbol: { kind: "line", stroke: palette.ink, dash: isCount ? "none" : "7,4", width: 2 },
+    symbol: isCount
+      ? { kind: "area", fill: palette.background, stroke: palette.ink }
+      : { kind: "line", stroke: palette.ink, dash: "7,4", width: 2 },
     text: texts.withoutEffect,
   };
   const withEffect: KeyEntry = {
-    symbol: { kind: "line", stroke: palette.curves[0]!, width: 2.5 },
+    symbol: isCount
+      ? { kind: "area", fill: palette.missed, stroke: palette.curves[0]! }
+      : { kind: "line", stroke: palette.curves[0]!, width: 2.5 },
     text: texts.withEffect,
   };
   return [
@@ -132,42 +134,55 @@ function countMarks(densities: Densities, domain: [number, number], look: Look):
   ];
 }
 
-function criticalMarks(densities: Densities, look: Look, height: number, middle: number): Plot.Markish[] {
-  const { palette, locale } = look;
-  const offset = densities.statistic === "count" ? 0.5 : 0;
-  const values: { at: number; value: number }[] = [];
-  if (densities["rejects-to"] !== undefined)
-    values.push({ at: densities["rejects-to"] + offset, value: densities["rejects-to"] });
-  if (densities["rejects-from"] !== undefined)
-    values.push({ at: densities["rejects-from"] - offset, value: densities["rejects-from"] });
-  const name = texts.statisticShort[densities.statistic];
-  const label = (entry: { value: number }) => {
-    const number = shown(entry.value, locale, 4);
-    if (densities.statistic !== "count") return `${name} = ${number}`;
-    return entry.value === densities["rejects-to"] ? `≤ ${number}` : `≥ ${number}`;
-  };
-  const text = (side: "end" | "start") => ({
-    x: "at",
-    y: height,
-    text: label,
-    textAnchor: side,
-    dx: side === "end" ? -6 : 6,
-    dy: 8,
-    fill: palette.ink,
-    stroke: palette.background,
-    strokeWidth: 4,
-    fontSize: 12,
-  });
+interface Critical {
+  at: number;
+  text: string;
+  anchor: "start" | "end";
+}
+
+/** A label stands beside its line, outwards where there is room. */
+function criticalsOf(densities: Densities, domain: [number, number], look: Look): Critical[] {
+  const { statistic } = densities;
+  const isCount = statistic === "count";
+  const perPixel = (domain[1] - domain[0]) / (look.width - 32);
+  const found: Critical[] = [];
+  for (const side of ["rejects-to", "rejects-from"] as const) {
+    const value = densities[side];
+    if (value === undefined) continue;
+    const isLow = side === "rejects-to";
+    const number = shown(value, look.locale, 4);
+    const text = isCount ? `${isLow ? "≤" : "≥"} ${number}` : `${texts.statisticShort[statistic]} = ${number}`;
+    const room = (textWidth(text, 12, look.font) + 10) * perPixel;
+    const fitsLeft = value - domain[0] > room;
+    const fitsRight = domain[1] - value > room;
+    const anchor = (isLow ? fitsLeft : !fitsRight) ? "end" : "start";
+    found.push({ at: isCount ? value + (isLow ? 0.5 : -0.5) : value, text, anchor });
+  }
+  return found;
+}
+
+function criticalMarks(criticals: Critical[], look: Look, height: number): Plot.Markish[] {
+  const { palette } = look;
+  const label = (anchor: "start" | "end") =>
+    Plot.text(
+      criticals.filter((critical) => critical.anchor === anchor),
+      {
+        x: "at",
+        y: height,
+        text: "text",
+        textAnchor: anchor,
+        dx: anchor === "end" ? -6 : 6,
+        dy: 8,
+        fill: palette.ink,
+        stroke: palette.background,
+        strokeWidth: 4,
+        fontSize: 12,
+      },
+    );
   return [
-    Plot.ruleX(values, { x: "at", stroke: palette.ink, strokeWidth: 1.2, strokeDasharray: "2,3" }),
-    Plot.text(
-      values.filter(({ at }) => at <= middle),
-      text("end"),
-    ),
-    Plot.text(
-      values.filter(({ at }) => at > middle),
-      text("start"),
-    ),
+    Plot.ruleX(criticals, { x: "at", stroke: palette.ink, strokeWidth: 1.2, strokeDasharray: "2,3" }),
+    label("start"),
+    label("end"),
   ];
 }
 
@@ -175,11 +190,6 @@ export function densitiesPicture(input: DensitiesInput, look: Look): Composed {
   const { densities, domain, test, answer } = input;
   const isCount = densities.statistic === "count";
   const top = roomAbove([highest(densities)]) * 1.08;
-  // The label of a critical value goes to the side where there is more room.
-  const middle =
-    densities["rejects-to"] === undefined
-      ? -Infinity
-      : (densities["rejects-to"] + (densities["rejects-from"] ?? Infinity)) / 2;
   const drawn = drawPlot({
     look,
     height: heightOf(look.width),
@@ -188,7 +198,7 @@ export function densitiesPicture(input: DensitiesInput, look: Look): Composed {
     hasYAxis: false,
     marks: [
       ...(isCount ? countMarks(densities, domain, look) : smoothMarks(densities, look)),
-      ...criticalMarks(densities, look, top, middle),
+      ...criticalMarks(criticalsOf(densities, domain, look), look, top),
     ],
   });
   const fixed = Object.entries(answer.inputs)

@@ -14,7 +14,7 @@ import { domainOf, hull } from "./densities";
 import { fontOfScreen } from "./frame";
 import type { Composed, Look } from "./frame";
 import { Handle } from "./handle";
-import { effectAxis, load, NotDrawn, offerFor } from "./load";
+import { effectAxis, load, NotDrawn, offerFor, rangeOf } from "./load";
 import type { Choice, Kind, Loaded, Offer, Range } from "./load";
 import { isTable } from "./model";
 import type { Answer, Core, Design, Failure, Table, Test, Value } from "./model";
@@ -53,6 +53,15 @@ function useWidth(): [(element: HTMLElement | null) => void, number] {
     observer.current.observe(element);
   }, []);
   return [attach, width];
+}
+
+function isAtEnd(range: Range | null, moved: { x: number; y: number | null }): boolean {
+  const isEnd = (at: number | null | undefined, i: number) => {
+    const [from, to] = [range?.from[i], range?.to[i]];
+    if (from === undefined || to === undefined || at === null || at === undefined) return false;
+    return at > to - 0.02 * (to - from) || at < from;
+  };
+  return isEnd(moved.x, 0) || isEnd(moved.y, 1);
 }
 
 interface Loading {
@@ -96,15 +105,16 @@ export function Pictures(props: PicturesProps) {
     if (!question || isHeld.current) return;
     const keeps = isOwn.current;
     isOwn.current = false;
-    if (!keeps) range.current = null;
+    // At the very end of an axis there is more to see beyond.
+    if (!keeps || (moved && isAtEnd(range.current, moved))) range.current = null;
     const controller = new AbortController();
     const run = async () => {
       const offer = await offerFor(kel, design, question, test, controller.signal);
       if (!offer.kinds.length) return setState({ ...nothing, offer, given: design.inputs });
       const loaded = await load(kel, design, question, offer, choice, range.current, controller.signal);
       if (controller.signal.aborted) return;
-      const { chart, densities } = loaded;
-      range.current = { axis: loaded.axis.name, from: chart.x[0]!, to: chart.x[chart.x.length - 1]! };
+      const { densities } = loaded;
+      range.current = rangeOf(loaded.chart);
       setDomain((before) =>
         densities ? (keeps && before ? hull(before, domainOf(densities)) : domainOf(densities)) : null,
       );
@@ -176,9 +186,7 @@ export function Pictures(props: PicturesProps) {
           )}
         </div>
         {drawn && "picture" in drawn && drawn.picture && (
-          <figcaption class="pictures-sentence" aria-live="polite">
-            {drawn.picture.sentence(locale)}
-          </figcaption>
+          <figcaption class="pictures-sentence">{drawn.picture.sentence(locale)}</figcaption>
         )}
       </figure>
       {failure && !drawn && <p class="pictures-note">{failure === "–" ? "" : texts.notDrawn + failure}</p>}

@@ -49,7 +49,7 @@ function standardDeviation(chart: Chart): number | null {
   return Array.isArray(sd) && typeof sd[0] === "number" && sd.every((entry) => entry === sd[0]) ? sd[0] : null;
 }
 
-const rowHeight = 44;
+const rowHeight = 50;
 
 export function intervalPicture(input: IntervalInput, look: Look): Composed {
   const { chart, axis, test, target } = input;
@@ -66,9 +66,7 @@ export function intervalPicture(input: IntervalInput, look: Look): Composed {
   const halo = { stroke: palette.background, strokeWidth: 5, fontSize: 12 };
   const marks: Plot.Markish[] = [
     Plot.ruleX([0], { stroke: palette.grid }),
-    ...(target !== null
-      ? [Plot.ruleX([-target, target], { stroke: palette.reference, strokeWidth: 1.5, strokeDasharray: "6,4" })]
-      : []),
+    ...[-1, 1].map((side) => Plot.ruleX(target === null ? [] : rows, targetAt(side, target ?? 0, palette.reference))),
     ...[false, true].map((isDesign) =>
       Plot.link(
         rows.filter((bar) => bar.isDesign === isDesign),
@@ -84,7 +82,7 @@ export function intervalPicture(input: IntervalInput, look: Look): Composed {
     ),
     ...[-1, 1].map((side) => Plot.ruleX(rows, endAt(side, colour))),
     Plot.dot(rows, { x: 0, y: "row", r: (bar: Bar) => (bar.isDesign ? 5.5 : 4), fill: (bar: Bar) => colour(bar) }),
-    Plot.text(rows, { x: 0, y: "row", dy: -15, text, fill: palette.ink, ...halo }),
+    Plot.text(rows, { x: 0, y: "row", dy: -17, text, fill: palette.ink, ...halo }),
   ];
   if (isSdShown) {
     const line = [{ from: -sd! / 2, to: sd! / 2 }];
@@ -135,6 +133,19 @@ export function intervalPicture(input: IntervalInput, look: Look): Composed {
     },
     look,
   );
+}
+
+/** How far the intervals may reach; short, so that it crosses no text. */
+function targetAt(side: number, target: number, stroke: string): Plot.RuleXOptions {
+  const options = {
+    x: side * target,
+    y1: (bar: Bar & { row: number }) => bar.row - 0.3,
+    y2: (bar: Bar & { row: number }) => bar.row + 0.3,
+    stroke,
+    strokeWidth: 1.5,
+    strokeDasharray: "4,3",
+  };
+  return options as unknown as Plot.RuleXOptions;
 }
 
 /** The ends of the intervals. */

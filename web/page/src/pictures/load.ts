@@ -5,8 +5,9 @@ import type { Axis } from "./axes";
 import { sizesOf } from "./caption";
 import { isFailure, isNumbers } from "./model";
 import type { Answer, Chart, Core, Densities, Design, Inputs, Question, Table, Test, Value } from "./model";
-import { attainsLevel, designSizes, sizesAround, teethOf } from "./saw";
+import { attainedLevel, attainsLevel, designSizes, sizesAround, teethOf } from "./saw";
 import type { Tooth } from "./saw";
+import { texts } from "./texts";
 
 export type Kind = "curve" | "densities" | "contour" | "saw" | "interval";
 
@@ -20,10 +21,11 @@ export interface Choice {
   compare: { name: string; values: Value[] } | null;
 }
 
+/** The ends of the axes of a picture, which stay while the design moves in it. */
 export interface Range {
-  axis: string;
-  from: number;
-  to: number;
+  axes: string;
+  from: number[];
+  to: number[];
 }
 
 /** What a design can be shown as. */
@@ -53,6 +55,17 @@ function hasAlternatives(inputs: Inputs, test: Test): boolean {
   });
 }
 
+/** An exact test attains less than its level. Where sizes are asked for, that is a result of the power at these. */
+async function isExact(core: Core, design: Design, answer: Answer, test: Test, signal?: AbortSignal): Promise<boolean> {
+  if (attainsLevel(answer.results)) return true;
+  const attains = test.routes?.some(({ results }) => results.some(({ name }) => name === attainedLevel));
+  const sizes = sizesOf(answer.results);
+  if (!attains || !sizes || answer.question !== "sample-size") return false;
+  const found = await atSizesFound(core, design, sizes, signal);
+  const reply = await core.solve({ ...found, names: "dash" }, { signal });
+  return !isFailure(reply) && attainsLevel((reply as Answer).results);
+}
+
 export async function offerFor(
   core: Core,
   design: Design,
@@ -70,7 +83,7 @@ export async function offerFor(
   if (answer.densities) kinds.push("densities");
   const first = axes[0];
   if (isOfPower(question) && first && effectAxis(axes, first)) kinds.push("contour");
-  if (attainsLevel(answer.results)) kinds.push("saw");
+  if (await isExact(core, design, answer, test, signal)) kinds.push("saw");
   return { axes, kinds, answer };
 }
 
@@ -79,6 +92,8 @@ export interface Loaded {
   kind: Kind;
   axis: Axis;
   up: Axis | null;
+  /** The axis of the sizes, where there is one. */
+  sizes: Axis | null;
   chart: Chart;
   densities: Densities | null;
   teeth: Tooth[] | null;
@@ -105,8 +120,27 @@ function withAlternatives(inputs: Inputs, compare: Choice["compare"], resolved: 
   return { ...inputs, [compare.name]: values };
 }
 
-function ends(range: Range | null, axis: Axis): object {
-  return range && range.axis === axis.name ? { from: [range.from], to: [range.to] } : {};
+function ends(range: Range | null, axes: string): object {
+  return range?.axes === axes ? { from: range.from, to: range.to } : {};
+}
+
+export function rangeOf(chart: Chart): Range {
+  const points = chart.y ? [chart.x, chart.y] : [chart.x];
+  const ends = (end: 0 | -1) => points.map((list) => list.at(end)!);
+  return { axes: chart.axes.map(({ name }) => name).join("-"), from: ends(0), to: ends(-1) };
+}
+
+/** The axis with the title that it has for this design. */
+function titled(axis: Axis, chart: Chart): Axis {
+  const title = chart.axes.find(({ name }) => name === axis.name)?.title ?? axis.title;
+  return { ...axis, title, symbol: axis.name === "n" && /first group/.test(title) ? texts.ofFirstGroup : axis.symbol };
+}
+
+/** The design at the sizes found, as the power is asked of it. */
+async function atSizesFound(core: Core, design: Design, sizes: number[], signal?: AbortSignal): Promise<Design> {
+  const size = sizes[0]!;
+  const chart = await drawn(core, { ...design, chart: "n", from: [size], to: [size + 1] }, signal);
+  return { test: design.test, inputs: chart.curves[0]!.inputs };
 }
 
 async function loadSaw(
@@ -142,19 +176,22 @@ export async function load(
   const axis = sizesFirst
     ? (offer.axes.find((one) => one.isOfSizes) ?? chosen(offer.axes, "n"))
     : chosen(offer.axes, choice.axis);
-  const plain = { kind, axis, up: null, densities: null, teeth: null, answer: offer.answer };
+  const sizes = offer.axes.find((one) => one.isOfSizes) ?? null;
+  const plain = { kind, sizes, densities: null, teeth: null, answer: offer.answer };
   if (kind === "contour") {
     const up =
       offer.axes.find((one) => one.name === choice.up && canBePaired(axis, one)) ?? effectAxis(offer.axes, axis);
     if (!up) throw new NotDrawn("");
-    return { ...plain, up, chart: await drawn(core, { ...design, chart: `${axis.name}-${up.name}` }, signal) };
+    const name = `${axis.name}-${up.name}`;
+    const chart = await drawn(core, { ...design, chart: name, ...ends(range, name) }, signal);
+    return { ...plain, axis: titled(axis, chart), up: titled(up, chart), chart };
   }
   const showsSizes = kind === "curve" && choice.showsSizes && asksForSizes(question) && !axis.isOfSizes;
-  const inputs =
-    kind === "curve" ? withAlternatives(design.inputs, choice.compare, offer.answer?.inputs ?? {}) : design.inputs;
-  const request = { ...design, inputs, chart: axis.name, ...(showsSizes ? { y: "n" } : {}), ...ends(range, axis) };
-  const chart = await drawn(core, request, signal);
-  if (kind === "saw")
-    return { ...plain, chart, teeth: await loadSaw(core, design, chart, axis.limits.minimum ?? 1, signal) };
-  return { ...plain, chart, densities: offer.answer?.densities ?? null };
+  const resolved = offer.answer?.inputs ?? {};
+  const inputs = kind === "curve" ? withAlternatives(design.inputs, choice.compare, resolved) : design.inputs;
+  const how = showsSizes ? { y: "n" } : {};
+  const chart = await drawn(core, { ...design, inputs, chart: axis.name, ...how, ...ends(range, axis.name) }, signal);
+  const lined = { ...plain, axis: titled(axis, chart), up: null, chart };
+  if (kind === "saw") return { ...lined, teeth: await loadSaw(core, design, chart, axis.limits.minimum ?? 1, signal) };
+  return { ...lined, densities: offer.answer?.densities ?? null };
 }

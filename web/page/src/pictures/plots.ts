@@ -57,16 +57,17 @@ export function drawPlot(parts: PlotParts): {
   const widest = format(Number(x.domain[1].toPrecision(2)));
   const ticksX = ticksFor(across, widest.length > 3 ? widest : "000");
   const axisStyle = { stroke: palette.frame, fill: palette.ink, color: palette.frame, label: null, fontSize: tickSize };
+  const ticksY = y.ticks ?? (height < 150 ? 3 : 5);
   const marks: Plot.Markish[] = [];
   if (hasYAxis && (y.grid ?? true))
-    marks.push(Plot.gridY({ ticks: y.ticks ?? 5, stroke: palette.grid, strokeOpacity: 1 }));
+    marks.push(Plot.gridY({ ticks: ticksY, stroke: palette.grid, strokeOpacity: 1 }));
   marks.push(...parts.marks);
   if (hasYAxis) {
     marks.push(
       Plot.axisY({
         ...axisStyle,
         stroke: "none",
-        ticks: y.ticks ?? 5,
+        ticks: ticksY,
         tickFormat: format,
         tickSize: 0,
         tickPadding: 6,

@@ -28,10 +28,10 @@ export interface SawInput {
   mark: Tooth | null;
 }
 
-const attained = "attained-level";
+export const attainedLevel = "attained-level";
 
 export function attainsLevel(results: Record<string, Value | null> | undefined): boolean {
-  return typeof results?.[attained] === "number";
+  return typeof results?.[attainedLevel] === "number";
 }
 
 /** Sizes around the design, few enough to see every one. */
@@ -51,7 +51,7 @@ export function teethOf(table: Table): Tooth[] {
   const toothOf = ({ inputs, results }: Row): Tooth | null => {
     const n = isNumbers(inputs.n) ? inputs.n[0] : inputs.n;
     const power = results?.power;
-    const level = results?.[attained];
+    const level = results?.[attainedLevel];
     return typeof n === "number" && typeof power === "number" && typeof level === "number" ? { n, power, level } : null;
   };
   return table.rows.map(toothOf).filter((tooth): tooth is Tooth => tooth !== null);

@@ -23,7 +23,7 @@ export const texts = {
   saveAs: "Save the picture",
   svg: "SVG",
   png: "PNG",
-  csv: "Data (CSV)",
+  csv: "CSV",
   notDrawn: "This picture cannot be drawn: ",
   oneDesign: "Several designs are asked for at once. A picture of one design appears when each input has one value.",
   dragHint: "Drag the dot, or move it with the arrow keys.",
@@ -52,7 +52,9 @@ export const texts = {
   density: "density",
   probability: "probability",
   attainedLevel: "level attained",
-  nominalLevel: (level: string) => `level allowed: ${level}`,
+  and: "and",
+  ofFirstGroup: "n of the first group",
+  nominalLevel: (level: string) => `level planned: ${level}`,
   middle: "distance from the middle of the interval, in units of the data",
   oneSd: "one standard deviation",
   thisDesign: "this design",
@@ -91,12 +93,12 @@ export const sentences = {
   fourTimes: (place: string, width: string) =>
     `${place}, four times as many, it would reach about half as far: ${width}.`,
   twice: (place: string, width: string) => `${place} it would reach ${width}.`,
-  sizeAt: (place: string, size: string) => `${place} the study needs a sample size of ${size}.`,
+  sizeAt: (place: string, size: string) => `${place} the study needs ${size}.`,
   sizeElse: (place: string, size: string) => `${place} it would need ${size}.`,
   curve: (label: string, place: string, value: string) => `${label}: ${place}, ${value}.`,
   curvesOf: (quantity: string, title: string, varied: string) =>
     `The ${quantity} across the ${title}, a curve for each ${varied}.`,
-  surface: (power: string, place: string, at: string) => `${place}, a power of ${power} is reached where the ${at}.`,
+  surface: (power: string, place: string, at: string) => `${place} a power of ${power} is reached where the ${at}.`,
   surfaceIs: (title: string, value: string) => `${title} is ${value}`,
   surfaceDesign: (place: string, power: string) => `${place} the power is ${power}.`,
   surfaceLines: "Designs along a line have the same power.",
@@ -110,11 +112,11 @@ export const sentences = {
   countAbove: (high: string) => `to ${high} or more`,
   countBelow: (low: string) => `to ${low} or less`,
   saw: (place: string, attained: string, level: string, power: string) =>
-    `${place} the exact test attains a level of ${attained} of the ${level} that is allowed, and a power of ${power}.`,
+    `${place} the test attains a level of ${attained}, where ${level} is planned, and a power of ${power}.`,
   sawWhy: "Counts are whole, so the level that is attained jumps with the sample size, and the power jumps with it.",
   sawFalls: (from: string, to: string, before: string, after: string) =>
     `One more can be worse: from ${from} to ${to} the power falls from ${before} to ${after}.`,
   interval: (place: string, width: string, confidence: string) =>
     `${place} the ${confidence}% confidence interval reaches ${width} to either side of its middle.`,
-  intervalRule: "To halve an interval takes about four times as many observations.",
+  intervalRule: "To halve it takes about four times the sample size.",
 };
