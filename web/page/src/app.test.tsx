@@ -121,7 +121,7 @@ describe("the page", () => {
     expect(textOf("sentence")).toContain("an effect size d of 0.8 with a power of 0.8");
     expect(location.hash).toBe("#two-means?effect-d=0.8&power=0.8");
     expect(textOf("status")).not.toContain("52");
-    await pass(500);
+    await pass(1000);
     expect(textOf("status")).toBe("Total sample size: 52.");
   });
 
@@ -148,7 +148,7 @@ describe("the page", () => {
     expect(find("input-power")?.getAttribute("aria-invalid")).toBe("true");
     await type("input-power", "3");
     await pass(150);
-    await act(() => find("input-power")?.dispatchEvent(new Event("blur")));
+    await act(() => void find("input-power")?.dispatchEvent(new Event("blur")));
     expect(textOf("error-power")).toContain("is 3");
   });
 
