@@ -6,7 +6,7 @@ import { afterEach, beforeAll, beforeEach, describe, expect, it, vi } from "vite
 import { App } from "./app";
 import type { Kelpower, SolveRequest } from "./contract";
 import { answerWhileTyping, outcome, work } from "./live";
-import { description, design, kel, kept, readFromAddress } from "./state";
+import { description, design, kel, kept, readFromAddress, readStep } from "./state";
 
 // The pictures have tests of their own.
 vi.mock("./pictures", () => ({ Pictures: () => null }));
@@ -250,6 +250,22 @@ describe("the page", () => {
     await press("remove-1");
     expect(find("comparison")).toBeNull();
     expect(location.hash).toBe("#anova?effect-f=0.25&groups=3&n=20");
+  });
+
+  it("keeps them when one goes back, but not when another address is written", async () => {
+    await go("#two-means?effect-d=0.5&power=0.8");
+    await press("keep");
+    await press("question-power");
+    // A step back as the browser makes it.
+    history.replaceState({ kelpower: true }, "", "#two-means?effect-d=0.5&power=0.8");
+    await act(() => readStep());
+    expect(design.value?.wish).toBe("sample-size");
+    expect(kept.value).toHaveLength(1);
+    expect(location.hash).toContain(";Design+1:two-means");
+    history.replaceState(null, "", "#anova");
+    await act(() => readStep());
+    expect(design.value?.test).toBe("anova");
+    expect(kept.value).toEqual([]);
   });
 
   it("works out an effect size from published results", async () => {

@@ -4,7 +4,7 @@ import { load } from "kelpower";
 import { render } from "preact";
 import { App } from "./app";
 import { answerWhileTyping } from "./live";
-import { description, kel, readFromAddress } from "./state";
+import { description, kel, readFromAddress, readStep } from "./state";
 import "./style.css";
 import { texts } from "./texts";
 
@@ -18,7 +18,7 @@ async function start(root: HTMLElement): Promise<void> {
     return;
   }
   readFromAddress();
-  addEventListener("popstate", readFromAddress);
+  addEventListener("popstate", readStep);
   addEventListener("hashchange", readFromAddress);
   root.textContent = "";
   answerWhileTyping();

@@ -24,6 +24,9 @@ export const notice = signal("");
 export const tests = computed<readonly Test[]>(() => description.value?.tests ?? []);
 export const test = computed<Test | null>(() => tests.value.find(({ name }) => name === design.value?.test) ?? null);
 
+/** Marks the steps that the page has made, as against an address that someone has written. */
+const ours = { kelpower: true };
+
 let lastId = 0;
 let shown = "";
 let timer: ReturnType<typeof setTimeout> | undefined;
@@ -34,8 +37,7 @@ function writeNow(push: boolean): void {
   const address = writeAddress(tests.value, { design: design.value, kept: [...kept.value] });
   if (address === shown) return;
   shown = address;
-  // An address without a name would keep the old one.
-  history[push ? "pushState" : "replaceState"](null, "", address === "#" ? "#" : address);
+  history[push ? "pushState" : "replaceState"](ours, "", address);
 }
 
 /** Shows a design. A step that "back" should undo is pushed; what is typed only mends the address, after a pause. */
@@ -63,6 +65,7 @@ export function setValue(name: string, value: unknown): void {
   setTexts(name, wordsOf({ [name]: value })[name] ?? []);
 }
 
+/** Shows what the address says: at the start, and after an address was written or pasted. */
 export function readFromAddress(): void {
   const hash = location.hash;
   if (hash === shown && shown !== "") return;
@@ -75,6 +78,15 @@ export function readFromAddress(): void {
       return known ?? { id: ++lastId, ...one };
     });
   });
+  history.replaceState(ours, "", location.href);
+}
+
+/** Goes a step back or on. The designs that are kept stay, for they were not kept by a step. */
+export function readStep(): void {
+  if ((history.state as typeof ours | null)?.kelpower !== true) return readFromAddress();
+  shown = location.hash;
+  design.value = readAddress(tests.value, location.hash).design;
+  writeNow(false);
 }
 
 function sameTexts(a: Design, b: Design): boolean {
