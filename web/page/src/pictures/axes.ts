@@ -33,8 +33,10 @@ export function axisOf(name: string, test: Test): Axis {
   const like = described ?? test.axes.find((axis) => axis.name === stem + "1");
   const isOfSizes = /^(n\d*|total)$/.test(name);
   if (!like) return { name, title: name, symbol: name, isOfSizes, limits: {} };
-  if (described) return { ...pick(described), isOfSizes };
-  return { name, title: like.title.replace(/\b1\b/, number), symbol: name, isOfSizes, limits: like.limits };
+  const spaced = `${stem} ${number}`;
+  if (described)
+    return { ...pick(described), isOfSizes, symbol: described.symbol === name && number ? spaced : described.symbol };
+  return { name, title: like.title.replace(/\b1\b/, number), symbol: spaced, isOfSizes, limits: like.limits };
 }
 
 function pick(axis: DescribedAxis): Omit<Axis, "isOfSizes"> {

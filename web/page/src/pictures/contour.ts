@@ -9,11 +9,15 @@ import type { Look } from "./frame";
 import type { Chart, Test } from "./model";
 import { shown } from "./numbers";
 import { drawPlot, heightOf } from "./plots";
-import { crossings, indexBelow, isSaw, leastToCome, surfaceOf, valueAt } from "./series";
+import { crossings, indexBelow, isSaw, leastToCome, surfaceOf } from "./series";
 import type { Values } from "./series";
 import { sentences, texts } from "./texts";
 
-export const levels = [0.2, 0.5, 0.8, 0.9, 0.95];
+const usualPower = 0.8;
+export const levels = [0.2, 0.5, usualPower, 0.9, 0.95];
+
+/** More points than these make a picture slow, and no smoother. */
+const most = { across: 75, up: 60 };
 
 export interface ContourInput {
   test: Test;
@@ -71,8 +75,12 @@ export function surfaceFor(chart: Chart, axes: Axis[]): Surface {
 export function powerAt(surface: Surface, x: number, y: number): number | null {
   const columns = surface.x.length;
   const rowAt = (j: number) => {
-    const value = valueAt(surface.x, surface.values.slice(j * columns, (j + 1) * columns), x);
-    return Number.isNaN(value) ? null : value;
+    const below = Math.min(indexBelow(surface.x, x), columns - 2);
+    const [first, second] = [surface.values[j * columns + below]!, surface.values[j * columns + below + 1]!];
+    const [from, to] = [surface.x[below]!, surface.x[below + 1]!];
+    if (x < from || x > to || Number.isNaN(x === to ? second : first)) return null;
+    if (x === from) return first;
+    return x === to ? second : Number.isNaN(second) ? null : first + ((second - first) * (x - from)) / (to - from);
   };
   const below = indexBelow(surface.y, y);
   if (y < surface.y[0]! || y > surface.y[surface.y.length - 1]!) return null;
@@ -82,6 +90,17 @@ export function powerAt(surface: Surface, x: number, y: number): number | null {
   return second === null
     ? null
     : first + ((second - first) * (y - surface.y[below]!)) / (surface.y[below + 1]! - surface.y[below]!);
+}
+
+/** The surface on fewer points, where it has more than a picture needs. */
+export function fewerPoints(surface: Surface): Surface {
+  const thinned = (points: number[], count: number) =>
+    points.length > count ? even(...endsOf(points), count) : points;
+  const x = thinned(surface.x, most.across);
+  const y = thinned(surface.y, most.up);
+  if (x === surface.x && y === surface.y) return surface;
+  const values = y.flatMap((up) => x.map((across) => powerAt(surface, across, up) ?? NaN));
+  return { ...surface, x, y, values };
 }
 
 interface Label {
@@ -153,31 +172,24 @@ export function contourPicture(input: ContourInput, look: Look): Placed {
   const [x0, x1] = endsOf(surface.x);
   const [y0, y1] = endsOf(surface.y);
   const height = heightOf(look.width);
+  const drawnGrid = fewerPoints(surface);
   // Points are the middles of cells.
-  const halfX = (x1 - x0) / (surface.x.length - 1) / 2;
-  const halfY = (y1 - y0) / (surface.y.length - 1) / 2;
+  const halfX = (x1 - x0) / (drawnGrid.x.length - 1) / 2;
+  const halfY = (y1 - y0) / (drawnGrid.y.length - 1) / 2;
   const grid = {
-    width: surface.x.length,
-    height: surface.y.length,
+    width: drawnGrid.x.length,
+    height: drawnGrid.y.length,
     x1: x0 - halfX,
     x2: x1 + halfX,
     y1: y0 - halfY,
     y2: y1 + halfY,
+    stroke: palette.contour,
+    clip: true,
   };
-  const bandAbove = (level: number) => palette.bands[levels.indexOf(level) + 1]!;
   const marks: Plot.Markish[] = [
     Plot.rect([0], { x1: x0, x2: x1, y1: y0, y2: y1, fill: palette.bands[0]! }),
-    ...levels.map((level) =>
-      Plot.contour(surface.values, {
-        ...grid,
-        thresholds: [level],
-        fill: bandAbove(level),
-        stroke: palette.contour,
-        strokeWidth: level === 0.8 ? 2.2 : 1,
-        clip: true,
-        smooth: true,
-      }),
-    ),
+    Plot.contour(drawnGrid.values, { ...grid, thresholds: levels, fill: Plot.identity, strokeWidth: 1 }),
+    Plot.contour(drawnGrid.values, { ...grid, thresholds: [usualPower], fill: "none", strokeWidth: 2.2 }),
   ];
   const placed = labelPlaces(surface, look.width - 60, height - 40, mark);
   for (const label of placed) {
@@ -198,7 +210,14 @@ export function contourPicture(input: ContourInput, look: Look): Placed {
     marks.push(
       Plot.dot([mark], { x: "x", y: "y", r: 6, fill: palette.design, stroke: palette.background, strokeWidth: 1.5 }),
     );
-  const drawn = drawPlot({ look, height, x: { domain: [x0, x1] }, y: { domain: [y0, y1], grid: false }, marks });
+  const drawn = drawPlot({
+    look,
+    height,
+    x: { domain: [x0, x1] },
+    y: { domain: [y0, y1], grid: false },
+    colours: { levels, fills: palette.bands },
+    marks,
+  });
   const composed = compose(
     {
       name: `${capital(texts.power)}: ${axes[0].title}, ${axes[1].title}`,

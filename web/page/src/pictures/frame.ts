@@ -213,14 +213,23 @@ function drawPanel(pen: Pen, panel: Panel): number {
 
 let compositions = 0;
 
-/** Plots name their parts, which have no roles; the whole has a name instead. It also has the style. */
-function withoutNamesOfParts(plot: SVGSVGElement): void {
-  for (const part of plot.querySelectorAll("[aria-label], [aria-hidden]")) {
-    part.removeAttribute("aria-label");
-    part.removeAttribute("aria-hidden");
-  }
+/**
+ * A plot names its parts, which have no roles, and takes fonts and colours from the page around. In a picture the whole
+ * has a name, and brings them itself: programs that edit figures know no page.
+ */
+function asPartOfWhole(plot: SVGSVGElement, ink: string): void {
   for (const style of plot.querySelectorAll("style")) style.remove();
-  for (const attribute of ["aria-label", "class", "viewBox"]) plot.removeAttribute(attribute);
+  const ofAPage = ["aria-label", "aria-hidden"];
+  for (const part of plot.querySelectorAll("*")) {
+    for (const attribute of ofAPage) part.removeAttribute(attribute);
+    for (const attribute of ["fill", "stroke"]) {
+      if (part.getAttribute(attribute) === "currentColor") part.setAttribute(attribute, ink);
+    }
+  }
+  for (const attribute of [...ofAPage, "class", "viewBox", "style", "font-family", "font-size"]) {
+    plot.removeAttribute(attribute);
+  }
+  plot.setAttribute("fill", ink);
 }
 
 export function compose(parts: Composition, look: Look): Composed {
@@ -245,7 +254,7 @@ export function compose(parts: Composition, look: Look): Composed {
   }
   if (parts.key.length) writeKey(pen, parts.key);
   const tops = parts.panels.map((panel) => {
-    withoutNamesOfParts(panel.plot);
+    asPartOfWhole(panel.plot, look.palette.ink);
     return drawPanel(pen, panel);
   });
   const height = Math.ceil(pen.y + 8);

@@ -61,7 +61,10 @@ describe("moving a design along the curve", () => {
   it("sets the target power for which the sizes at that place are found", async () => {
     const design = { test: "two-means", inputs: { "effect-d": 0.5, power: 0.8 } };
     const chart = await draw(design, "n");
-    const axis = axisOf("n", tests.find(({ name }) => name === "two-means")!);
+    const axis = axisOf(
+      "n",
+      tests.find(({ name }) => name === "two-means")!,
+    );
     for (const size of [5, 20, 50, 64, 100, 149]) {
       const changes = movedAlong(axis, size, chart, design.inputs, "sample-size")!;
       expect(Object.keys(changes)).toEqual(["power"]);
@@ -75,7 +78,10 @@ describe("moving a design along the curve", () => {
   it("sets the target half-width likewise", async () => {
     const design = { test: "mean", inputs: { sd: 10, "half-width": 2.5 } };
     const chart = await draw(design, "n");
-    const axis = axisOf("n", tests.find(({ name }) => name === "mean")!);
+    const axis = axisOf(
+      "n",
+      tests.find(({ name }) => name === "mean")!,
+    );
     for (const size of [20, 64, 120]) {
       const changes = movedAlong(axis, size, chart, design.inputs, "sample-size-for-half-width")!;
       const answer = await solve({ ...design, inputs: { ...design.inputs, ...changes } });

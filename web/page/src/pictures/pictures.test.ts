@@ -81,8 +81,8 @@ describe("pictures of every example of every test", () => {
         for (const kind of kinds) {
           seen.set(kind, (seen.get(kind) ?? 0) + 1);
           const { picture } = await show(test.name, inputs, { kind });
-          for (const width of [300, 720]) {
-            const { svg } = picture.draw(look(width, width === 720));
+          for (const width of inputs === examples[0]!.inputs ? [300, 720] : [480]) {
+            const { svg } = picture.draw(look(width, width !== 300));
             const what = `${test.name} ${kind} ${JSON.stringify(inputs)}`;
             const text = new XMLSerializer().serializeToString(svg);
             const read = new DOMParser().parseFromString(text, "image/svg+xml");
@@ -106,7 +106,7 @@ describe("pictures of every example of every test", () => {
     for (const kind of ["curve", "densities", "contour", "saw", "interval"] as const) {
       expect(seen.get(kind) ?? 0, kind).toBeGreaterThan(2);
     }
-  }, 60_000);
+  }, 600_000);
 });
 
 describe("the curve", () => {
@@ -160,7 +160,10 @@ describe("the curve", () => {
   });
   it("puts lists of groups in one list for each alternative", async () => {
     const inputs = { means: [52, 47], sd: [10, 14], n: 40 };
-    const { loaded } = await show("two-means", inputs, { axis: "difference", compare: { name: "n", values: [20, 40] } });
+    const { loaded } = await show("two-means", inputs, {
+      axis: "difference",
+      compare: { name: "n", values: [20, 40] },
+    });
     expect(loaded.chart.curves.map((curve) => curve.inputs["n"])).toEqual([
       [20, 20],
       [40, 40],
@@ -179,7 +182,9 @@ describe("the curve", () => {
 
 describe("the distributions", () => {
   const area = (points: { x: number; with: number; without: number }[], name: "with" | "without") =>
-    points.slice(1).reduce((sum, point, i) => sum + ((point.x - points[i]!.x) * (point[name] + points[i]![name])) / 2, 0);
+    points
+      .slice(1)
+      .reduce((sum, point, i) => sum + ((point.x - points[i]!.x) * (point[name] + points[i]![name])) / 2, 0);
 
   it("have the level and the power as areas beyond the critical values", async () => {
     const designs: [string, Record<string, unknown>][] = [
@@ -195,8 +200,11 @@ describe("the distributions", () => {
       const tails = [tail(densities, "low"), tail(densities, "high")].filter((points) => points.length);
       // What lies outside the picture is a few thousandths.
       expect(tails.reduce((sum, points) => sum + area(points, "without"), 0)).toBeCloseTo(densities.level, 2);
-      expect(Math.abs(tails.reduce((sum, points) => sum + area(points, "with"), 0) - densities.power)).toBeLessThan(0.006);
-      for (const points of tails) expect(points.some(({ x }) => x === densities["rejects-from"] || x === densities["rejects-to"]));
+      expect(Math.abs(tails.reduce((sum, points) => sum + area(points, "with"), 0) - densities.power)).toBeLessThan(
+        0.006,
+      );
+      for (const points of tails)
+        expect(points.some(({ x }) => x === densities["rejects-from"] || x === densities["rejects-to"]));
     }
   });
   it("have the probabilities of counts, summed exactly", async () => {

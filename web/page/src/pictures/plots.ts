@@ -2,7 +2,7 @@
 
 import * as Plot from "@observablehq/plot";
 import { shown } from "./numbers";
-import { fontSize, textWidth } from "./frame";
+import { textWidth } from "./frame";
 import type { Look, Panel } from "./frame";
 
 export const tickSize = 12;
@@ -24,6 +24,8 @@ export interface PlotParts {
   height: number;
   x: { domain: [number, number] };
   y: { domain: [number, number]; ticks?: number[] | undefined; grid?: boolean };
+  /** Fillings below, between and above levels. */
+  colours?: { levels: number[]; fills: string[] };
   marks: Plot.Markish[];
   marginLeft?: number;
   hasYAxis?: boolean;
@@ -59,8 +61,7 @@ export function drawPlot(parts: PlotParts): {
   const axisStyle = { stroke: palette.frame, fill: palette.ink, color: palette.frame, label: null, fontSize: tickSize };
   const ticksY = y.ticks ?? (height < 150 ? 3 : 5);
   const marks: Plot.Markish[] = [];
-  if (hasYAxis && (y.grid ?? true))
-    marks.push(Plot.gridY({ ticks: ticksY, stroke: palette.grid, strokeOpacity: 1 }));
+  if (hasYAxis && (y.grid ?? true)) marks.push(Plot.gridY({ ticks: ticksY, stroke: palette.grid, strokeOpacity: 1 }));
   marks.push(...parts.marks);
   if (hasYAxis) {
     marks.push(
@@ -84,9 +85,11 @@ export function drawPlot(parts: PlotParts): {
     marginRight,
     marginTop,
     marginBottom: (parts.hasXAxis ?? true) ? marginBottom : 8,
-    style: { fontFamily: font, fontSize: `${fontSize}px`, color: palette.ink, background: "none" },
     x: { domain: x.domain, label: null, axis: null },
     y: { domain: y.domain, label: null, axis: null },
+    ...(parts.colours
+      ? { color: { type: "threshold" as const, domain: parts.colours.levels, range: parts.colours.fills } }
+      : {}),
     marks,
   }) as unknown as SVGSVGElement & { scale(name: string): Plot.Scale };
   const panel = { plot, width, height, left: marginLeft, right: width - marginRight };

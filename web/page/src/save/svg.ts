@@ -16,16 +16,6 @@ export const lookOfPaper = (locale: string): Look => ({
   standsAlone: true,
 });
 
-/** Programs that edit figures do not know the colour of the text around. */
-function withColoursOfItsOwn(svg: SVGSVGElement, ink: string): void {
-  for (const part of [svg, ...svg.querySelectorAll("*")]) {
-    for (const attribute of ["fill", "stroke"]) {
-      if (part.getAttribute(attribute) === "currentColor") part.setAttribute(attribute, ink);
-    }
-    if (part instanceof SVGElement && part.style.color) part.style.removeProperty("color");
-  }
-}
-
 export interface Paper {
   text: string;
   width: number;
@@ -33,9 +23,7 @@ export interface Paper {
 }
 
 export function paperOf(picture: Picture, locale: string): Paper {
-  const look = lookOfPaper(locale);
-  const { svg, width, height } = picture.draw(look);
-  withColoursOfItsOwn(svg, look.palette.ink);
+  const { svg, width, height } = picture.draw(lookOfPaper(locale));
   const text = new XMLSerializer().serializeToString(svg);
   return { text: `<?xml version="1.0" encoding="UTF-8"?>\n${text}\n`, width, height };
 }
