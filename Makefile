@@ -97,6 +97,10 @@ bench-wasm: configure-$(PRESET) ## measure speed as WebAssembly beside the nativ
 	@cmake --build --preset wasm -j $(JOBS) --target kelpower_timing
 	@python3 -B tools/peers/wasm.py $(BUILD) build/wasm docs/performance.md
 
+bench-web: web configure-$(PRESET) ## measure the planner page beside the native library and write it into docs/performance.md
+	@cmake --build $(BUILD) -j $(JOBS) --target kelplan_timing
+	@python3 -B tools/peers/web.py $(BUILD) web build/web/kelpower.html docs/performance.md
+
 worst: build ## search the distributions for their largest errors and keep the worst points among the references
 	@python3 -m venv build/venv && build/venv/bin/pip install --quiet python-flint
 	@rm -f build/found.csv
