@@ -201,7 +201,8 @@ export function densitiesPicture(input: DensitiesInput, look: Look): Composed {
       ...criticalMarks(criticalsOf(densities, domain, look), look, top),
     ],
   });
-  const fixed = Object.entries(answer.inputs)
+  const { n } = answer.results;
+  const fixed = Object.entries(n === undefined ? answer.inputs : { ...answer.inputs, n })
     .map(([name, value]) => piece(test, name.replace(/^target-/, ""), value, "power", look.locale))
     .filter((words) => words !== "");
   return compose(

@@ -18,7 +18,7 @@ import { effectAxis, load, NotDrawn, offerFor, rangeOf } from "./load";
 import type { Choice, Kind, Loaded, Offer, Range } from "./load";
 import { isTable } from "./model";
 import type { Answer, Core, Design, Failure, Table, Test, Value } from "./model";
-import { movedAlong } from "./move";
+import { movedAlong, sizesThatAreFound } from "./move";
 import type { Changes } from "./move";
 import { shown } from "./numbers";
 import { fewRows } from "./numbers_of";
@@ -310,6 +310,14 @@ interface GripProps {
   onHold(holds: boolean): void;
 }
 
+/** Where the design can go along the first axis: of a curve to the sizes that can be found, where sizes are asked for. */
+function trackFor({ loaded, given }: State, question: Answer["question"]): Track {
+  const { chart, axis, up } = loaded;
+  const track = trackOf(chart, axis);
+  const found = up ? null : sizesThatAreFound(chart, axis, given, question);
+  return found ? { ...track, points: found } : track;
+}
+
 /** What changes when the design goes to a place of the picture; null where it cannot. */
 function changesAt(state: State, question: Answer["question"], x: number, y: number | null): Changes | null {
   const { loaded, given } = state;
@@ -337,7 +345,7 @@ function Grip({ state, placed, question, locale, onMove, onChanges, onHold }: Gr
   const mark = onSurface ?? onCurve;
   if (!mark || !changesAt(state, question, mark.x, onSurface ? onSurface.y : null)) return null;
 
-  const track = trackOf(chart, axis);
+  const track = trackFor(state, question);
   const trackUp = up ? trackOf(chart, up, chart.y) : null;
   const go = (x: number, y: number | null) => {
     onMove(x, y);
@@ -395,7 +403,7 @@ function Slider({ state, question, locale, onMove, onChanges }: SliderProps) {
   const { chart, axis } = loaded;
   const mark = curveMark(state);
   if (!mark || !movedAlong(axis, mark.x, chart, given, question)) return null;
-  const track: Track = trackOf(chart, axis);
+  const track = trackFor(state, question);
   const go = (x: number) => {
     const to = onTrack(track, x);
     onMove(to);

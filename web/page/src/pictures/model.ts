@@ -63,6 +63,7 @@ export interface Answer {
     programs: { program: string; call: string; same: boolean; remark?: string }[];
   };
   densities?: Densities | null;
+  calls?: { program: string; python: string; r: string };
 }
 
 export type Question = "power" | "sample-size" | "half-width" | "sample-size-for-half-width";

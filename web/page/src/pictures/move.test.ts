@@ -3,7 +3,7 @@ import type { Kelpower } from "kelpower";
 import { afterAll, beforeAll, describe, expect, it } from "vitest";
 import { asksForSizes, axesFor, axisOf, offeredAxes } from "./axes";
 import type { Answer, Chart, Design, Test, Value } from "./model";
-import { movedAlong } from "./move";
+import { movedAlong, sizesThatAreFound } from "./move";
 import { valuesOf } from "./series";
 
 let kel: Kelpower;
@@ -73,6 +73,28 @@ describe("moving a design along the curve", () => {
       expect(answer.results["n"]).toEqual([size, size]);
     }
     expect(movedAlong(axis, 64, chart, design.inputs, "sample-size")).toEqual({ power: 0.8 });
+  });
+
+  it("goes to no size that the power of an exact test falls to", async () => {
+    const design = { test: "proportion", inputs: { null: 0.5, proportion: 0.7, power: 0.8, exact: true } };
+    const chart = await draw(design, "n");
+    const axis = axisOf(
+      "n",
+      tests.find(({ name }) => name === "proportion")!,
+    );
+    for (const stable of [false, true]) {
+      const inputs: Record<string, unknown> = { ...design.inputs, stable };
+      const found = sizesThatAreFound(chart, axis, inputs, "sample-size")!;
+      expect(found.length).toBeGreaterThan(15);
+      expect(found.length).toBeLessThan(chart.x.length / 2);
+      for (const size of found.filter((_, i) => i % 5 === 2)) {
+        const changes = movedAlong(axis, size, chart, inputs, "sample-size")!;
+        const answer = await solve({ ...design, inputs: { ...inputs, ...changes } });
+        expect(answer.results["n"], `${size} ${stable}`).toBe(size);
+      }
+    }
+    expect(movedAlong(axis, 50, chart, design.inputs, "sample-size")).toBeNull();
+    expect(sizesThatAreFound(chart, axis, design.inputs, "power")).toBeNull();
   });
 
   it("sets the target half-width likewise", async () => {

@@ -5,7 +5,8 @@ import type { Axis } from "./axes";
 import { isNumbers } from "./model";
 import type { Chart, Inputs, Question, Value } from "./model";
 import { shortestBetween, shortestFrom } from "./numbers";
-import { nearestIndex, valuesOf } from "./series";
+import { leastToCome, nearestIndex, valuesOf } from "./series";
+import type { Values } from "./series";
 
 export type Changes = Record<string, Value>;
 
@@ -129,25 +130,61 @@ function movedFigure(axis: string, value: number, inputs: Resolved): Changes | n
   return null;
 }
 
-/** The target that asks for the sizes at a place of the curve, in as few digits as will do. */
-function targetAt(chart: Chart, value: number, question: Question): Changes | null {
+/** Between these a target asks for the sizes at a place: above the first, and the second at most. */
+interface Targets {
+  above: number;
+  atMost: number;
+}
+
+/**
+ * The targets of each place of a curve. They are those that no smaller size reaches; with "stable" those that all larger
+ * ones reach as well. A place that an exact test's power falls to has none.
+ */
+function targetsOf(values: Values, isStable: boolean): (Targets | null)[] {
+  const lasting = isStable ? leastToCome(values) : values;
+  let highest = -Infinity;
+  return values.map((value, i) => {
+    const above = isStable ? (values[i - 1] ?? -Infinity) : highest;
+    if (value !== null && value > highest) highest = value;
+    const atMost = lasting[i] ?? null;
+    return atMost !== null && atMost > above ? { above, atMost } : null;
+  });
+}
+
+/** A half-width is smaller the better: turned around it is as a power. */
+function turned(values: Values): Values {
+  return values.map((value) => (value === null ? null : -value));
+}
+
+function targetsAlong(chart: Chart, given: Inputs, question: Question): (Targets | null)[] {
   const values = valuesOf(chart, chart.curves[0]!);
-  const at = nearestIndex(chart.x, value);
-  const here = values[at] ?? null;
-  const before = values[at - 1] ?? null;
-  if (here === null) return null;
+  return targetsOf(isOfPower(question) ? values : turned(values), given["stable"] === true);
+}
+
+/** The sizes that some target asks for, where sizes are asked for; null where a size may be any. */
+export function sizesThatAreFound(chart: Chart, axis: Axis, given: Inputs, question: Question): number[] | null {
+  if (!axis.isOfSizes || !asksForSizes(question) || chart.curves.length > 1) return null;
+  const targets = targetsAlong(chart, given, question);
+  const found = chart.x.filter((_, i) => targets[i]);
+  return found.length > 1 && found.length < chart.x.length ? found : null;
+}
+
+/** The target that asks for the sizes at a place of the curve, in as few digits as will do. */
+function targetAt(chart: Chart, value: number, given: Inputs, question: Question): Changes | null {
+  const target = targetsAlong(chart, given, question)[nearestIndex(chart.x, value)];
+  if (!target) return null;
+  const { above, atMost } = target;
   if (isOfPower(question)) {
-    if (here <= 0 || here >= 1) return null;
-    const above = before !== null && before < here ? before : here - 0.0005;
-    return { power: shortestBetween(above, here) };
+    if (atMost <= 0 || atMost >= 1) return null;
+    return { power: shortestBetween(Math.max(above, atMost - 0.02, 0), atMost) };
   }
-  return { "half-width": shortestFrom(here, before !== null && before > here ? before : here * 1.001) };
+  return { "half-width": shortestFrom(-atMost, Math.min(-above, -1.02 * atMost)) };
 }
 
 /** Null where the design cannot be moved along this axis. `given` are the inputs as the person gave them. */
 export function movedAlong(axis: Axis, value: number, chart: Chart, given: Inputs, question: Question): Changes | null {
   const inputs = chart.curves[0]!.inputs;
-  if (axis.isOfSizes && asksForSizes(question)) return targetAt(chart, value, question);
+  if (axis.isOfSizes && asksForSizes(question)) return targetAt(chart, value, given, question);
   if (axis.isOfSizes) {
     if (!isNumbers(inputs.n)) return { n: value };
     const sizes = movedSizes(axis.name, value, inputs.n);

@@ -35,12 +35,13 @@ describe("the study plan", () => {
     expect(rows["Target power"]).toBe("0.9");
     expect(rows["Total sample size"]).toBe("111");
     expect(rows["Group sizes"]).toBe("37 each");
-    expect(place.querySelector(".sentence")!.textContent).toContain("needs 37 observations in each of 3 groups");
+    expect(place.querySelector(".statement")!.textContent).toContain("needs 37 observations in each of 3 groups");
     expect(place.querySelector("figure svg")).not.toBeNull();
     expect(place.querySelector("figcaption")!.textContent).toContain("the power is 0.90");
     expect(place.querySelector(".formula")!.textContent).toContain("noncentrality = N f^2");
     expect(place.textContent).toContain("Cohen (1988)");
     expect(place.textContent).toContain("pwr.anova.test(");
+    expect(place.textContent).toContain("kelpower anova --means 10,12,15 --sd 6 --power 0.9");
     expect(place.textContent).toContain(`kelpower ${kel.version}`);
     expect(place.textContent).not.toMatch(/undefined|NaN|\[object/);
   });

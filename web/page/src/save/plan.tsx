@@ -7,7 +7,7 @@ import { pictureOf } from "../pictures/build";
 import { fontOfPaper } from "../pictures/frame";
 import { isFailure } from "../pictures/model";
 import type { Answer, Core, Design, Test, Value } from "../pictures/model";
-import { shown, shownPower } from "../pictures/numbers";
+import { shown } from "../pictures/numbers";
 import { paletteOf } from "../pictures/palette";
 import { planTexts } from "./texts";
 import "./plan.css";
@@ -37,8 +37,7 @@ function resultLabel(test: Test, name: string): string {
   return labelOf(test, name);
 }
 
-function shownResult(name: string, value: Value, locale: string): string {
-  if (name === "power" && typeof value === "number") return shownPower(value, locale);
+function shownResult(value: Value, locale: string): string {
   if (typeof value === "number") return shown(value, locale, Number.isInteger(value) ? 12 : 4);
   return shownValue(undefined, value, locale);
 }
@@ -52,10 +51,7 @@ function inputRows({ answer, test, locale }: Plan): [string, string][] {
 }
 
 function resultRows({ answer, test, locale }: Plan): [string, string][] {
-  return Object.entries(answer.results).map(([name, value]) => [
-    resultLabel(test, name),
-    shownResult(name, value, locale),
-  ]);
+  return Object.entries(answer.results).map(([name, value]) => [resultLabel(test, name), shownResult(value, locale)]);
 }
 
 function Rows({ title, rows }: { title: string; rows: [string, string][] }) {
@@ -110,7 +106,7 @@ export function StudyPlan(plan: Plan) {
       </header>
       <section>
         <h2>{planTexts.answer}</h2>
-        <p class="sentence">{answer.sentence}</p>
+        <p class="statement">{answer.sentence}</p>
         {answer.note && <p>{answer.note}</p>}
         <div class="tables">
           <Rows title={planTexts.inputs} rows={inputRows(plan)} />
@@ -139,6 +135,11 @@ export function StudyPlan(plan: Plan) {
           {answer.details && <li>{answer.details.source}.</li>}
           <li>{planTexts.program(answer.version ?? "")}</li>
         </ul>
+        {answer.calls && (
+          <p>
+            {planTexts.again} <code>{answer.calls.program}</code>
+          </p>
+        )}
       </section>
     </article>
   );
@@ -169,7 +170,7 @@ const placeName = "plan-to-print";
 export async function buildPlan(request: PlanRequest): Promise<HTMLElement> {
   const { design, description, kel } = request;
   const locale = request.locale ?? "en";
-  const explained = await kel.solve({ ...design, explain: true, names: "dash" });
+  const explained = await kel.solve({ ...design, explain: true, calls: true, names: "dash" });
   const answer = isFailure(explained) ? request.answer : (explained as Answer);
   const figure = await figureOf({ ...request, answer }, locale);
   document.getElementById(placeName)?.remove();

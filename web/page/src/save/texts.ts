@@ -9,5 +9,6 @@ export const planTexts = {
   otherPrograms: "The same question elsewhere",
   differs: "its answer differs",
   references: "References",
+  again: "The same answer from the program:",
   program: (version: string) => `kelpower ${version}, statistical power analysis, computed in the browser.`,
 };
