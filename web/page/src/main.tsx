@@ -9,6 +9,7 @@ import "./style.css";
 import { texts } from "./texts";
 
 async function start(root: HTMLElement): Promise<void> {
+  root.textContent = texts.loading;
   try {
     const planner = await load();
     description.value = planner.describe();

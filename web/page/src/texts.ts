@@ -49,14 +49,12 @@ export const texts = {
 
   test: {
     all: "All tests",
-    whenNot: "When not",
     question: "What do you want to know?",
     solveFor: "Number to find",
     forPower: "that gives a power",
     forHalfWidth: "that gives a half-width",
     form: "How do you want to give the effect?",
     formOfEstimate: "What do you know?",
-    unknown: "The core does not know this test.",
     example: "Fill in an example",
     reset: "Clear",
   },
@@ -88,7 +86,6 @@ export const texts = {
     listHelp: "several numbers with spaces or semicolons between them",
     unclear: (text: string) =>
       `“${text}” can be read in two ways. Write ${text.replace(",", "")} for a thousand, or ${text.replace(",", ".")} for a decimal.`,
-    missing: "This is needed",
     usual: "0.8 and 0.9 are usual",
   },
 
@@ -100,7 +97,6 @@ export const texts = {
     above: (from: string) => `above ${from}`,
     atMost: (to: string) => `${to} or less`,
     below: (to: string) => `below ${to}`,
-    whole: "a whole number",
     preset: (value: string) => `${value} unless you say otherwise`,
   },
 
@@ -137,10 +133,10 @@ export const texts = {
     r: "R",
     copyCall: (name: string) => `Copy the call for ${name}`,
     problem: "No answer yet",
+    toField: (label: string) => `Go to: ${label}`,
     perGroup: (size: string, groups: number) => `${size} in each of ${groups} groups`,
     eachOf: (sizes: string[]) => `groups of ${sizes.slice(0, -1).join(", ")} and ${sizes.at(-1)}`,
     enrol: (size: string) => `enrol ${size} in all, as some will be lost`,
-    inAll: "in all",
     reached: (power: string) => `power ${power} at this size`,
     reachedWidth: (width: string) => `half-width ${width} at this size`,
     powerWords: (hundred: number) =>
@@ -177,12 +173,9 @@ export const texts = {
 
   actions: {
     link: "Copy link",
-    linkHelp: "The address holds the whole design.",
     keep: "Add to comparison",
     kept: "Added to the comparison.",
     print: "Print study plan",
-    save: "Save",
-    load: "Load",
   },
 
   compare: {

@@ -1,10 +1,11 @@
 // The answer: the number, the sentence, the table, and what is behind it.
 
 import type { ComponentChildren } from "preact";
-import type { Answer, Test } from "../contract";
+import type { Answer, Failure, Test } from "../contract";
 import { focusOn } from "../focus";
 import { fillExample } from "../form/example";
-import { sameDesign } from "../form/design";
+import { fieldsOf, sameDesign } from "../form/design";
+import { fieldOfError } from "../form/fields";
 import { soughtBy } from "../form/wishes";
 import { capital, inLabels } from "../form/words";
 import { again, type Outcome, outcome, work } from "../live";
@@ -123,6 +124,22 @@ function Message({ testid, children }: { testid: string; children: ComponentChil
   );
 }
 
+/** Leads to the field that is to be mended, which may be out of sight. */
+function ToField({ test, error }: { test: Test; error: Failure["error"] }) {
+  const parameter = design.value ? fieldOfError(error, fieldsOf(test, design.value)) : undefined;
+  if (!parameter) return null;
+  const go = () => {
+    const field = document.querySelector<HTMLElement>(`#in-${parameter.name}, #in-${parameter.name}-1`);
+    field?.scrollIntoView({ block: "center" });
+    field?.focus();
+  };
+  return (
+    <button type="button" class="quiet" data-testid="to-field" onClick={go}>
+      {texts.answer.toField(parameter.label)}
+    </button>
+  );
+}
+
 function Other({ test, now }: { test: Test; now: Outcome }) {
   if (work.value === "long") return null;
   if (now.kind === "error") {
@@ -130,6 +147,7 @@ function Other({ test, now }: { test: Test; now: Outcome }) {
       <>
         <p class="headline-label">{texts.answer.problem}</p>
         <Message testid="error">{inLabels(test, now.error.template ?? now.error.message)}</Message>
+        <ToField test={test} error={now.error} />
       </>
     );
   }

@@ -52,8 +52,8 @@ function KeptRow({ one, number }: { one: Kept; number: number }) {
   if (!test) return null;
   const cells = cellsOf(test, one);
   return (
-    <tr>
-      <td>
+    <tr role="row">
+      <td role="cell">
         <input
           type="text"
           value={one.name}
@@ -62,14 +62,20 @@ function KeptRow({ one, number }: { one: Kept; number: number }) {
           onChange={(event) => change(one.id, { name: event.currentTarget.value })}
         />
       </td>
-      <td>{test.title}</td>
-      <td>{capital(givenWords(test, one.design))}</td>
-      <td>
+      <td role="cell">{test.title}</td>
+      <td role="cell" data-label={say.asked}>
+        {capital(givenWords(test, one.design))}
+      </td>
+      <td role="cell">
         <strong>{cells.answer}</strong>
       </td>
-      <td class="figure">{cells.total}</td>
-      <td class="figure">{cells.power}</td>
-      <td>
+      <td role="cell" class="figure" data-label={say.total}>
+        {cells.total}
+      </td>
+      <td role="cell" class="figure" data-label={say.power}>
+        {cells.power}
+      </td>
+      <td role="cell">
         <div class="buttons">
           <button
             type="button"
@@ -161,23 +167,31 @@ export function Comparison() {
         </div>
       </div>
       <div class="wide" role="region" aria-labelledby="comparison-title" tabIndex={0}>
-        <table data-testid="comparison">
-          <thead>
-            <tr>
-              <th scope="col">{say.name}</th>
-              <th scope="col">{say.test}</th>
-              <th scope="col">{say.asked}</th>
-              <th scope="col">{say.answer}</th>
-              <th scope="col" class="figure">
+        <table role="table" data-testid="comparison">
+          <thead role="rowgroup">
+            <tr role="row">
+              <th role="columnheader" scope="col">
+                {say.name}
+              </th>
+              <th role="columnheader" scope="col">
+                {say.test}
+              </th>
+              <th role="columnheader" scope="col">
+                {say.asked}
+              </th>
+              <th role="columnheader" scope="col">
+                {say.answer}
+              </th>
+              <th role="columnheader" scope="col" class="figure">
                 {say.total}
               </th>
-              <th scope="col" class="figure">
+              <th role="columnheader" scope="col" class="figure">
                 {say.power}
               </th>
-              <td />
+              <td role="cell" />
             </tr>
           </thead>
-          <tbody>
+          <tbody role="rowgroup">
             {kept.value.map((one, i) => (
               <KeptRow key={one.id} one={one} number={i + 1} />
             ))}

@@ -1,7 +1,8 @@
 // The fields of a design in their parts, each with the core's error at it.
 
 import { useComputed } from "@preact/signals";
-import type { Test } from "../contract";
+import { Fragment } from "preact";
+import type { Failure, Parameter, Test } from "../contract";
 import { outcome, tellNow } from "../live";
 import { design, setTexts, show } from "../state";
 import { texts } from "../texts";
@@ -9,11 +10,18 @@ import { type Design, entriesOf, type Field as DesignField, fieldsOf, groupsOf, 
 import { Converter } from "./converter";
 import { Field } from "./field";
 import { addGroup, removeGroup } from "./groups";
-import { helpOf, inLabels } from "./words";
+import { helpOf, inLabels, presetOf } from "./words";
 
 type Errors = ReadonlyMap<string, string>;
 
-/** What is wrong at which field; an error of several inputs stands at the first that has a field. */
+/** The field at which an error of the core stands: that of the first of its inputs that has one. */
+export function fieldOfError(error: Failure["error"], fields: readonly DesignField[]): Parameter | undefined {
+  const concerned = [error.parameter, ...error.parameters].map((name) => name?.replace(/^target-/, ""));
+  const parameters = fields.map(({ parameter }) => parameter);
+  return concerned.flatMap((name) => parameters.find((one) => one.name === name) ?? [])[0];
+}
+
+/** What is wrong at which field. */
 function errorsOf(test: Test, fields: readonly DesignField[]): Errors {
   const now = outcome.value;
   const errors = new Map<string, string>();
@@ -22,9 +30,8 @@ function errorsOf(test: Test, fields: readonly DesignField[]): Errors {
       if (unclear) errors.set(parameter.name, texts.form.unclear(unclear));
   }
   if (now.kind === "error") {
-    const concerned = [now.error.parameter, ...now.error.parameters].map((name) => name?.replace(/^target-/, ""));
-    const at = concerned.find((name) => fields.some(({ parameter }) => parameter.name === name));
-    if (at) errors.set(at, inLabels(test, now.error.template ?? now.error.message));
+    const at = fieldOfError(now.error, fields);
+    if (at) errors.set(at.name, inLabels(test, now.error.template ?? now.error.message));
   }
   return errors;
 }
@@ -32,7 +39,7 @@ function errorsOf(test: Test, fields: readonly DesignField[]): Errors {
 function GroupButtons({ test, now }: { test: Test; now: Design }) {
   const count = groupsOf(test, now);
   return (
-    <div class="buttons">
+    <div class="buttons groups">
       <button
         type="button"
         class="quiet"
@@ -62,34 +69,47 @@ interface PartProps {
   errors: Errors;
 }
 
+/** The list by whose entries the groups are counted, behind which groups are added and removed. */
+function countingList(test: Test, fields: readonly DesignField[]): string | undefined {
+  const lists = fields.filter(({ parameter }) => parameter.kind === "per-group" && !parameter.spreads);
+  return test.groups === "k" ? lists.at(-1)?.parameter.name : undefined;
+}
+
 function FieldsOf({ test, now, fields, errors }: PartProps) {
+  const counting = countingList(test, fields);
   return (
     <div class="fields">
       {fields.map(({ parameter }) => (
-        <Field
-          key={parameter.name}
-          parameter={parameter}
-          entries={entriesOf(test, now, parameter)}
-          count={groupsOf(test, now)}
-          groupNames={test["group-names"]}
-          help={helpOf(test, parameter)}
-          error={errors.get(parameter.name)}
-          prefix="in"
-          onChange={(entries) => setTexts(parameter.name, entries)}
-          onLeave={tellNow}
-        />
+        <Fragment key={parameter.name}>
+          <Field
+            parameter={parameter}
+            entries={entriesOf(test, now, parameter)}
+            count={groupsOf(test, now)}
+            groupNames={test["group-names"]}
+            help={isGiven(now, parameter) ? helpOf(test, parameter) : withPreset(test, parameter)}
+            error={errors.get(parameter.name)}
+            prefix="in"
+            onChange={(entries) => setTexts(parameter.name, entries)}
+            onLeave={tellNow}
+          />
+          {parameter.name === counting && <GroupButtons test={test} now={now} />}
+        </Fragment>
       ))}
     </div>
   );
 }
 
-function isGiven(now: Design, { parameter }: DesignField): boolean {
+function withPreset(test: Test, parameter: Parameter): string {
+  return [helpOf(test, parameter), presetOf(parameter)].filter((text) => text !== "").join("; ");
+}
+
+function isGiven(now: Design, parameter: Parameter): boolean {
   return (now.texts[parameter.name] ?? []).some((text) => text.trim() !== "");
 }
 
 function Study(props: PartProps) {
   const { now, fields, errors } = props;
-  const given = fields.filter((field) => isGiven(now, field)).length;
+  const given = fields.filter((field) => isGiven(now, field.parameter)).length;
   const wrong = fields.some(({ parameter }) => errors.has(parameter.name));
   return (
     <details class="study" data-testid="study" open={given > 0 || wrong || undefined}>
@@ -121,12 +141,10 @@ export function Fields({ test }: { test: Test }) {
   const fields = fieldsOf(test, now);
   const part = (name: DesignField["part"]) => fields.filter((field) => field.part === name);
   const props = { test, now, errors: errorsOf(test, fields) };
-  const listed = part("effect").some(({ parameter }) => parameter.kind === "per-group" && !parameter.spreads);
   const study = part("study");
   return (
     <>
       <Part {...props} title={estimates ? texts.form.estimate : texts.form.effect} fields={part("effect")}>
-        {listed && test.groups === "k" && <GroupButtons test={test} now={now} />}
         <Converter test={test} />
       </Part>
       <Part {...props} title={texts.form.size} fields={part("size")} />

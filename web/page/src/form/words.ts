@@ -43,6 +43,11 @@ export function limitsOf(parameter: Parameter): string {
   return "";
 }
 
+/** What is taken where a field is left empty. */
+export function presetOf(parameter: Parameter): string {
+  return typeof parameter.default === "number" ? texts.limits.preset(showFigure(parameter.default)) : "";
+}
+
 /** The help of a field: its meaning, unit, limits, and what the page adds. */
 export function helpOf(
   test: { parameters: readonly Pick<Parameter, "name" | "label">[] },
