@@ -1,5 +1,8 @@
 // All of the page's own texts. What is said of tests and their inputs comes from the core.
 
+/** How numbers are written: as in the sentences of the core. */
+export const locale = "en";
+
 export const texts = {
   name: "kelpower",
   skip: "Skip to the main part",

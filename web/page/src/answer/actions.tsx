@@ -5,7 +5,7 @@ import { inputsOf } from "../form/design";
 import type { Outcome } from "../live";
 import { currentAddress, description, keep, kel, notice } from "../state";
 import { planToPrint } from "../save";
-import { texts } from "../texts";
+import { locale, texts } from "../texts";
 import { CopyButton } from "./copy";
 
 type Answered = Extract<Outcome, { kind: "answered" }>;
@@ -18,7 +18,7 @@ export function Actions({ test, shown }: { test: Test; shown: Answered }) {
       answer: shown.answer,
       description: test,
       kel: kel.value,
-      locale: navigator.language,
+      locale: locale,
     });
   };
   return (

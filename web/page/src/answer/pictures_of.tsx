@@ -6,6 +6,7 @@ import { inputsOf } from "../form/design";
 import { outcome } from "../live";
 import { Pictures } from "../pictures";
 import { kel, setValue } from "../state";
+import { locale } from "../texts";
 
 const darkPreferred = "(prefers-color-scheme: dark)";
 
@@ -33,7 +34,7 @@ export function PicturesOf({ test }: { test: Test }) {
         kel={kel.value}
         onChange={setValue}
         theme={theme}
-        locale={navigator.language}
+        locale={locale}
       />
     </div>
   );
