@@ -51,10 +51,10 @@ wasm-module:
 web: wasm-module ## build the planner page: build/web/kelpower.html, which opens from the disk, and build/web/site for a server
 	@sh web/build.sh $(WASM_MODULE)
 
-lint-web:
+lint-web: web
 	@sh web/lint.sh
 
-test-web: web lint-web configure-$(PRESET) ## the tests of the planner page and of its package, in Node and in Chromium
+test-web: lint-web configure-$(PRESET) ## the tests of the planner page and of its package, in Node and in Chromium
 	@cmake --build $(BUILD) -j $(JOBS) --target kelplan
 	@KELPLAN_LIBRARY=$(abspath $(BUILD))/capi/libkelplan.so sh web/test.sh
 

@@ -1,6 +1,7 @@
 import { defineConfig } from "vite";
 import { viteSingleFile } from "vite-plugin-singlefile";
 
+import { licences } from "./licences";
 import { contentSecurityPolicy } from "./policy";
 
 // `vite build` makes a folder for a server; with KELPOWER_SINGLE_FILE it makes one file that opens from the disk.
@@ -9,7 +10,11 @@ export default defineConfig(() => {
   return {
     base: "./",
     esbuild: { jsx: "automatic" as const, jsxImportSource: "preact" },
-    plugins: [...(isSingle ? [viteSingleFile({ removeViteModuleLoader: true })] : []), contentSecurityPolicy()],
+    plugins: [
+      ...(isSingle ? [viteSingleFile({ removeViteModuleLoader: true })] : []),
+      licences(),
+      contentSecurityPolicy(),
+    ],
     build: {
       target: "es2022",
       outDir: isSingle ? "../../build/web/single" : "../../build/web/site",
