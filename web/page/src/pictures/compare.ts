@@ -43,8 +43,8 @@ function numberOf(value: Value): number | null {
 
 const neverVaried = ["power", "half-width", "solve", "interval", "groups", "coefficients", "pair", "ratios"];
 
-/** What the curves of a chart can differ in. */
-export function comparables(test: Test, chart: Chart): Comparable[] {
+/** What the curves of a chart can differ in: inputs of the design, and none of what is found for it. */
+export function comparables(test: Test, chart: Chart, design: Record<string, Value>): Comparable[] {
   const inputs = chart.curves[0]!.inputs;
   const axis = chart.axes[0]!.name;
   const found: Comparable[] = [];
@@ -53,7 +53,7 @@ export function comparables(test: Test, chart: Chart): Comparable[] {
       name === axis ||
       (name === "n" && /^(n\d*|total|ratio)$/.test(axis)) ||
       axis.replace(/\d+$/, "") === name.replace(/s$/, "");
-    if (isMoving || neverVaried.includes(name)) continue;
+    if (isMoving || !(name in design) || neverVaried.includes(name)) continue;
     const parameter = parameterOf(test, name);
     const label = labelOf(test, name);
     const number = numberOf(value);

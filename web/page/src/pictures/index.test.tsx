@@ -161,3 +161,43 @@ describe("the pictures on the page", () => {
     expect(page.place.querySelector("tbody tr")!.textContent).toMatch(/^20\.\d+$/);
   });
 });
+
+describe("choices", () => {
+  const select = (page: Page, name: string, value: string) => {
+    const label = [...page.place.querySelectorAll("label")].find((one) => one.textContent!.startsWith(name))!;
+    const input = label.querySelector<HTMLSelectElement | HTMLInputElement>("select, input")!;
+    input.value = value;
+    input.dispatchEvent(new Event("change", { bubbles: true }));
+  };
+  const sentence = (page: Page) => page.place.querySelector("figcaption")!.textContent;
+
+  it("draw over another input, and several curves", async () => {
+    const page = await new Page(anova).show();
+    select(page, "Across", "sd");
+    await vi.waitFor(() => expect(sentence(page)).toContain("At standard deviation = 6"), 20_000);
+    select(page, "Several curves", "alpha");
+    await vi.waitFor(() => expect(sentence(page)).toContain("a curve for each significance level"), 20_000);
+    select(page, "Values of", "0.02 0,2");
+    await vi.waitFor(() => expect(sentence(page)).toContain("Significance level 0.2:"), 20_000);
+  });
+
+  it("keep the picture and tell what is wrong with a value", async () => {
+    const page = await new Page(anova).show();
+    select(page, "Several curves", "alpha");
+    await vi.waitFor(() => expect(sentence(page)).toContain("a curve for each"), 20_000);
+    select(page, "Values of", "0.05 7");
+    await vi.waitFor(() => {
+      expect(page.place.querySelector(".pictures-note")!.textContent).toContain("between 0 and 1");
+    }, 20_000);
+    expect(sentence(page)).toContain("a curve for each significance level");
+  });
+
+  it("go back to the first picture when they do not fit another design", async () => {
+    const page = await new Page(anova).show();
+    select(page, "Across", "mean3");
+    await vi.waitFor(() => expect(sentence(page)).toContain("mean 3 = 15"), 20_000);
+    page.design = { test: "anova", inputs: { "effect-f": 0.25, groups: 4, n: 30 } };
+    await page.show();
+    await vi.waitFor(() => expect(sentence(page)).toContain("With 30 observations per group"), 20_000);
+  });
+});

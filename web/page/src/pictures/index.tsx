@@ -26,6 +26,7 @@ import { paletteOf } from "./palette";
 import type { Theme } from "./palette";
 import { savePicture } from "../save/picture";
 import type { PictureFormat } from "../save/picture";
+import { valueAt, valuesOf } from "./series";
 import { texts } from "./texts";
 import "./pictures.css";
 
@@ -88,7 +89,8 @@ export function Pictures(props: PicturesProps) {
   const [turn, setTurn] = useState(0);
 
   const question = answer && "question" in answer ? answer.question : null;
-  const key = JSON.stringify([design, question, choice, turn]);
+  const designKey = JSON.stringify([design, question]);
+  const drawnKey = useRef("");
   const choose = (changes: Partial<Choice>) => {
     range.current = null;
     setDomain(null);
@@ -119,15 +121,19 @@ export function Pictures(props: PicturesProps) {
         densities ? (keeps && before ? hull(before, domainOf(densities)) : domainOf(densities)) : null,
       );
       setMoved(null);
+      drawnKey.current = designKey;
       setState({ offer, loaded, given: design.inputs, problem: "" });
     };
     run().catch((reason: unknown) => {
       if (controller.signal.aborted) return;
-      const problem = reason instanceof NotDrawn ? reason.message : String(reason);
-      setState((before) => ({ ...before, loaded: null, problem: problem || "–" }));
+      const problem = (reason instanceof NotDrawn && reason.message) || texts.unknownReason;
+      const isSameDesign = drawnKey.current === designKey;
+      // What was chosen for another design may not fit this one.
+      if (!isSameDesign && choice !== firstChoice) return choose(firstChoice);
+      setState((before) => ({ ...before, loaded: isSameDesign ? before.loaded : null, problem }));
     });
     return () => controller.abort();
-  }, [key, kel, test]);
+  }, [designKey, choice, turn, kel, test]);
 
   const { offer, loaded, given, problem } = state;
   const isCurrent = loaded !== null && loaded.chart.test === test.name;
@@ -156,17 +162,6 @@ export function Pictures(props: PicturesProps) {
         <Kinds kinds={offer.kinds} chosen={loaded?.kind ?? null} onChoose={(kind) => choose({ kind })} />
       )}
       {isTable(answer) && offer?.axes.length === 0 && <p class="pictures-note">{texts.oneDesign}</p>}
-      {offer && loaded && isCurrent && (
-        <Controls
-          offer={offer}
-          loaded={loaded}
-          choice={choice}
-          test={test}
-          question={question}
-          onChoose={choose}
-          locale={locale}
-        />
-      )}
       <figure class="pictures-figure">
         <div class="pictures-stage" ref={attach}>
           {drawn && "picture" in drawn && drawn.composed && <Drawing composed={drawn.composed} />}
@@ -189,7 +184,7 @@ export function Pictures(props: PicturesProps) {
           <figcaption class="pictures-sentence">{drawn.picture.sentence(locale)}</figcaption>
         )}
       </figure>
-      {failure && !drawn && <p class="pictures-note">{failure === "–" ? "" : texts.notDrawn + failure}</p>}
+      {failure && <p class="pictures-note">{texts.notDrawn + failure}</p>}
       {loaded && isCurrent && (loaded.kind === "densities" || loaded.kind === "interval") && (
         <Slider
           state={{ test, loaded, given, moved, domain }}
@@ -197,6 +192,17 @@ export function Pictures(props: PicturesProps) {
           locale={locale}
           onMove={(x) => setMoved({ x, y: null })}
           onChanges={emit}
+        />
+      )}
+      {offer && loaded && isCurrent && (
+        <Controls
+          offer={offer}
+          loaded={loaded}
+          choice={choice}
+          test={test}
+          question={question}
+          onChoose={choose}
+          locale={locale}
         />
       )}
       {drawn && "picture" in drawn && drawn.picture && <Keeping picture={drawn.picture} locale={locale} />}
@@ -279,7 +285,7 @@ function Controls({ offer, loaded, choice, test, question, locale, onChoose }: C
       )}
       {kind === "curve" && offer.answer && (
         <CompareControls
-          offered={comparables(test, chart)}
+          offered={comparables(test, chart, offer.answer.inputs)}
           chosen={choice.compare}
           locale={locale}
           onChoose={(compare) => onChoose({ compare })}
@@ -334,6 +340,13 @@ function changesAt(state: State, question: Answer["question"], x: number, y: num
   return { ...upwards, power: Math.max(0.001, Math.floor(power * 1000) / 1000) };
 }
 
+/** False in a gap of the picture. */
+function hasValue({ loaded }: State, x: number, y: number | null): boolean {
+  const { chart, axis, up } = loaded;
+  if (up && y !== null) return powerAt(surfaceFor(chart, [axis, up]), x, y) !== null;
+  return valueAt(chart.x, valuesOf(chart, chart.curves[0]!), x) !== null;
+}
+
 /** The design can be taken hold of where the picture has one place for it. */
 function Grip({ state, placed, question, locale, onMove, onChanges, onHold }: GripProps) {
   const pending = useRef<{ x: number; y: number | null } | null>(null);
@@ -348,6 +361,7 @@ function Grip({ state, placed, question, locale, onMove, onChanges, onHold }: Gr
   const track = trackFor(state, question);
   const trackUp = up ? trackOf(chart, up, chart.y) : null;
   const go = (x: number, y: number | null) => {
+    if (!hasValue(state, x, y)) return;
     onMove(x, y);
     const isFirst = pending.current === null;
     pending.current = { x, y };

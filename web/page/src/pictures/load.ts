@@ -114,7 +114,8 @@ function chosen(axes: Axis[], name: string): Axis {
 
 /** Lists have one list for each alternative. */
 function withAlternatives(inputs: Inputs, compare: Choice["compare"], resolved: Inputs): Inputs {
-  if (!compare) return inputs;
+  // Another design may lack the input.
+  if (!compare || !(compare.name in resolved)) return inputs;
   const isList = isNumbers(resolved[compare.name]) || isNumbers(inputs[compare.name]);
   const values = isList ? compare.values.map((value) => (isNumbers(value) ? value : [value])) : compare.values;
   return { ...inputs, [compare.name]: values };

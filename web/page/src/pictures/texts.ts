@@ -25,6 +25,7 @@ export const texts = {
   png: "PNG",
   csv: "CSV",
   notDrawn: "This picture cannot be drawn: ",
+  unknownReason: "the reason is not known.",
   oneDesign: "Several designs are asked for at once. A picture of one design appears when each input has one value.",
   dragHint: "Drag the dot, or move it with the arrow keys.",
   dragHintSurface: "Drag the dot, or move it with the arrow keys: left and right, up and down.",
