@@ -4,7 +4,7 @@ import { execFileSync } from "node:child_process";
 import { copyFileSync, mkdirSync, readFileSync, rmSync, writeFileSync } from "node:fs";
 import { createRequire } from "node:module";
 import { dirname, join, resolve } from "node:path";
-import { fileURLToPath } from "node:url";
+import { fileURLToPath, pathToFileURL } from "node:url";
 import { gzipSync } from "node:zlib";
 
 import { build } from "esbuild";
@@ -34,12 +34,21 @@ async function bundleWorker() {
   return bundle.outputFiles[0].text;
 }
 
+/** The description of the tests never changes, so a program need not wait until the module has made it. */
+async function describe() {
+  const load = (name) => import(pathToFileURL(join(dist, name)).href);
+  const { compiledModule } = await load("compile.js");
+  const { openDoors } = await load("doors.js");
+  return (await openDoors(await compiledModule())).describe();
+}
+
 rmSync(dist, { recursive: true, force: true });
 mkdirSync(dist);
 copyFileSync(join(module, "kelplan.mjs"), join(dist, "glue.js"));
 writeText("wasm.js", gzipSync(readFileSync(join(module, "kelplan.wasm")), { level: 9 }).toString("base64"));
 compileTypeScript();
 writeText("worker_source.js", await bundleWorker());
-for (const name of ["glue", "wasm", "worker_source"]) {
+writeText("description.js", await describe());
+for (const name of ["glue", "wasm", "worker_source", "description"]) {
   copyFileSync(join(here, "src", `${name}.d.ts`), join(dist, `${name}.d.ts`));
 }

@@ -10,34 +10,22 @@ beforeAll(async () => {
 });
 afterAll(() => browser.close());
 
-/** Puts a test into the catalogue that the page is told, with an input and limits of its own; the planner knows it as another. */
+/** Puts a test into the catalogue that the page reads, with names of its own. The planner knows it by others. */
 function addTest(): void {
+  type Named = { name: string; title: string; parameters: { name: string; label: string }[] };
+  const parse = JSON.parse.bind(JSON) as typeof JSON.parse;
+  const addTo = (tests: Named[]) => {
+    const known = tests.find(({ name }) => name === "mean");
+    const added = parse(JSON.stringify(known).replaceAll("effect-d", "effect-of-added")) as Named;
+    tests.push(Object.assign(added, { name: "added-test", title: "Test of an added catalogue entry" }));
+  };
+  JSON.parse = (text: string) => {
+    const value = parse(text) as { tests?: Named[]; effects?: object };
+    if (value.tests && value.effects) addTo(value.tests);
+    return value;
+  };
   const Native = window.Worker;
-  type Named = {
-    name: string;
-    title: string;
-    parameters: { name: string; label: string; meaning: string; limits: object }[];
-  };
-  const described = (text: string) => {
-    const description = JSON.parse(text) as { tests: Named[] };
-    const known = description.tests.find(({ name }) => name === "mean") as Named;
-    const added = JSON.parse(JSON.stringify(known).replaceAll("effect-d", "effect-of-added")) as Named;
-    Object.assign(added, { name: "added-test", title: "Test of an added catalogue entry" });
-    const input = added.parameters.find(({ name }) => name === "effect-of-added");
-    Object.assign(input ?? {}, { label: "added effect", meaning: "what was added" });
-    return JSON.stringify({ ...description, tests: [...description.tests, added] });
-  };
   window.Worker = class extends Native {
-    override set onmessage(listen: (event: MessageEvent) => void) {
-      super.onmessage = (event: MessageEvent<{ kind: string; description: string }>) => {
-        const { data } = event;
-        listen(
-          data.kind === "ready"
-            ? ({ data: { ...data, description: described(data.description) } } as MessageEvent)
-            : event,
-        );
-      };
-    }
     override postMessage(message: { kind: string; request: string }): void {
       const asKnown = (text: string) => text.replaceAll("added-test", "mean").replaceAll("effect-of-added", "effect-d");
       super.postMessage(message.kind === "ask" ? { ...message, request: asKnown(message.request) } : message);

@@ -1,4 +1,5 @@
 import { compiledModule } from "./compile.js";
+import text from "./description.js";
 import { openDoors } from "./doors.js";
 import type { Answer, Chart, Conversion, Description, Failure, Table } from "./replies.js";
 import type { ConvertRequest, DrawRequest, SolveRequest } from "./requests.js";
@@ -18,7 +19,7 @@ export interface DirectKelpower {
 /** Starts the planner in this thread. */
 export async function open(): Promise<DirectKelpower> {
   const doors = await openDoors(await compiledModule());
-  const description = JSON.parse(doors.describe()) as Description;
+  const description = JSON.parse(text) as Description;
   return {
     version: doors.version,
     describe: () => description,

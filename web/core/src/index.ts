@@ -1,5 +1,6 @@
 import { startThread } from "#thread";
 
+import text from "./description.js";
 import type { Answer, Chart, Conversion, Description, Failure, Table } from "./replies.js";
 import { Queue } from "./queue.js";
 import type { ConvertRequest, DrawRequest, SolveRequest } from "./requests.js";
@@ -46,12 +47,13 @@ function newestOfEachKind(): (kind: string) => AbortSignal {
 /** Starts the planner. */
 export async function load(): Promise<Kelpower> {
   const queue = new Queue(startThread);
-  const greeting = await queue.open();
-  const description = JSON.parse(greeting.description) as Description;
+  const opened = queue.open();
+  const description = JSON.parse(text) as Description; // While the worker starts.
+  const version = await opened;
   const ask = async <Reply>(door: "solve" | "draw" | "convert", request: object, options?: CallOptions) =>
     JSON.parse(await queue.ask(door, JSON.stringify(request), options?.signal)) as Reply;
   return {
-    version: greeting.version,
+    version,
     describe: () => description,
     solve: (request, options) => ask("solve", request, options),
     tabulate: (request, options) => ask("solve", request, options),

@@ -18,26 +18,21 @@ interface Job {
   started: number;
 }
 
-interface Greeting {
-  readonly version: string;
-  readonly description: string;
-}
-
 /** Requests that one worker answers in their order. A running one that is given up ends the worker, and another starts. */
 export class Queue {
   private thread: Thread | undefined;
   private isReady = false;
   private running: Job | undefined;
   private waiting: Job[] = [];
-  private greeting: Greeting | undefined;
+  private version: string | undefined;
   private broken: Error | undefined;
-  private greet: (greeting: Greeting) => void = () => {};
+  private greet: (version: string) => void = () => {};
   private refuse: (reason: Error) => void = () => {};
 
   constructor(private readonly startThread: StartThread) {}
 
-  /** Starts the first worker and gives what it tells of itself. */
-  open(): Promise<Greeting> {
+  /** Starts the first worker and gives its release. */
+  open(): Promise<string> {
     return new Promise((resolve, reject) => {
       this.greet = resolve;
       this.refuse = reject;
@@ -81,7 +76,7 @@ export class Queue {
     });
     this.thread = thread;
     compiledModule().then(
-      (module) => thread === this.thread && thread.post({ kind: "start", module, describe: !this.greeting }),
+      (module) => thread === this.thread && thread.post({ kind: "start", module }),
       (error: unknown) => thread === this.thread && this.fail(String(error)),
     );
   }
@@ -93,7 +88,7 @@ export class Queue {
   }
 
   private next(): void {
-    this.thread?.hold(this.running !== undefined || this.waiting.length > 0 || !this.greeting);
+    this.thread?.hold(this.running !== undefined || this.waiting.length > 0 || !this.version);
     if (!this.isReady || this.running) return;
     const job = this.waiting.shift();
     if (!job) return;
@@ -104,16 +99,16 @@ export class Queue {
 
   private hear(message: FromWorker): void {
     if (message.kind === "fault") return this.fail(message.message);
-    if (message.kind === "ready") this.becomeReady(message);
+    if (message.kind === "ready") this.becomeReady(message.version);
     if (message.kind === "answer") this.running?.resolve(message.answer);
     this.running = undefined;
     this.next();
   }
 
-  private becomeReady(greeting: Greeting): void {
+  private becomeReady(version: string): void {
     this.isReady = true;
-    this.greeting ??= greeting;
-    this.greet(this.greeting);
+    this.version = version;
+    this.greet(version);
   }
 
   /** A worker that answered before has a fault with this request only. One that never started would not start again. */

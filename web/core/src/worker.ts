@@ -12,7 +12,7 @@ let doors: Doors | undefined;
 async function reply(message: ToWorker): Promise<FromWorker> {
   if (message.kind === "start") {
     doors = await openDoors(message.module);
-    return { kind: "ready", version: doors.version, description: message.describe ? doors.describe() : "" };
+    return { kind: "ready", version: doors.version };
   }
   if (!doors) throw new Error("The worker is not started.");
   return { kind: "answer", answer: doors.ask(message.door, message.request) };

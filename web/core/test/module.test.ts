@@ -4,6 +4,7 @@ import { fileURLToPath } from "node:url";
 import { afterEach, beforeAll, describe, expect, it, vi } from "vitest";
 
 import { compiledModule } from "../dist/compile.js";
+import description from "../dist/description.js";
 import { openDoors, type Doors } from "../dist/doors.js";
 
 let doors: Doors;
@@ -42,6 +43,10 @@ describe("the module", () => {
     const size = memory.buffer.byteLength;
     for (let i = 0; i < 300; i++) ask();
     expect(memory.buffer.byteLength).toBe(size);
+  });
+
+  it("is described as it describes itself", () => {
+    expect(description).toBe(doors.describe());
   });
 
   it("answers any text", () => {

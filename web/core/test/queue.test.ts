@@ -26,7 +26,7 @@ function fakes(): { threads: Fake[]; start: StartThread } {
   return { threads, start };
 }
 
-const ready: FromWorker = { kind: "ready", version: "1", description: "{}" };
+const ready: FromWorker = { kind: "ready", version: "1" };
 const turn = () => new Promise((done) => setTimeout(done, 0));
 const messageOf = (error: unknown) => (error as Error).message;
 
