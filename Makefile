@@ -14,9 +14,10 @@ JOBS := $(shell nproc)
 # The folders of the tests without the program, the packages and the tools.
 CORE := kelcommon engine vectors frame anova means proportions correlation regression exports planner
 space := $() $()
+WASM_MODULE := build/wasm/web/core
 PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
 
-.PHONY: help run test test-core $(PLATFORMS) wheel test-python build bench bench-peers bench-before bench-wasm bench-python lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
+.PHONY: help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python
 
 run: configure-$(PRESET) ## build the program and plan a real study
 	@echo "Building the program; the first time this takes a minute or two ..."
@@ -33,16 +34,33 @@ configure-%:
 	@sh tools/install_packages.sh build
 	@cmake --preset $* -Wno-dev --log-level=WARNING
 
-test: build ## build and pass all tests
+test: test-native test-web ## build and pass all tests
+
+test-native: build ## those of the libraries and of the program
 	@ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
 
 test-core: configure-$(PRESET) ## the quick loop: build and pass the tests of the distributions, the core and the planner
 	@cmake --build $(BUILD) -j $(JOBS) --target $(CORE:%=tests_%)
 	@ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS) -LE '^long$$' -L '^($(subst $(space),|,$(CORE)))$$'
 
+wasm-module:
+	@sh tools/install_packages.sh build wasm web
+	@cmake --preset wasm -Wno-dev --log-level=WARNING
+	@cmake --build --preset wasm -j $(JOBS) --target kelplan_module
+
+web: wasm-module ## build the planner page: build/web/kelpower.html, which opens from the disk, and build/web/site for a server
+	@sh web/build.sh $(WASM_MODULE)
+
+lint-web: web
+	@sh web/lint.sh
+
+test-web: lint-web configure-$(PRESET) ## the tests of the planner page and of its package, in Node and in Chromium
+	@cmake --build $(BUILD) -j $(JOBS) --target kelplan
+	@KELPLAN_LIBRARY=$(abspath $(BUILD))/capi/libkelplan.so sh web/test.sh
+
 test-clang: ## all tests, compiled with clang
 	@sh tools/install_packages.sh build clang
-	@$(MAKE) --no-print-directory test PRESET=clang
+	@$(MAKE) --no-print-directory test-native PRESET=clang
 
 test-arm64 test-wasm: test-%: cross-% ## the tests on 64-bit Arm in an emulator, and as WebAssembly in Node
 	@ctest --preset $* -j $(JOBS)
@@ -92,6 +110,10 @@ bench-python: configure-$(PRESET) ## measure the Python package beside the libra
 	@python3 -m pip install --quiet --disable-pip-version-check --upgrade --no-deps --target build/peers/package .
 	@python3 -B tools/peers/from_python.py $(BUILD) build/peers/package build/peers/statsmodels docs/performance.md
 
+bench-web: web configure-$(PRESET) ## measure the planner page beside the native library and write it into docs/performance.md
+	@cmake --build $(BUILD) -j $(JOBS) --target kelplan_timing
+	@python3 -B tools/peers/web.py $(BUILD) web build/web/kelpower.html docs/performance.md
+
 worst: build ## search the distributions for their largest errors and keep the worst points among the references
 	@python3 -m venv build/venv && build/venv/bin/pip install --quiet python-flint
 	@rm -f build/found.csv
@@ -110,11 +132,11 @@ format: ## format all sources in place
 	@git ls-files '*.h' '*.cpp' | xargs clang-format -i
 
 asan tsan: ## all tests under sanitizers
-	@$(MAKE) --no-print-directory test PRESET=$@
+	@$(MAKE) --no-print-directory test-native PRESET=$@
 
 coverage: ## all tests with coverage, which must be what tools/coverage demands
 	@find build/coverage -name '*.gcda' -delete 2>/dev/null || true
-	@$(MAKE) --no-print-directory test PRESET=$@
+	@$(MAKE) --no-print-directory test-native PRESET=$@
 	@python3 -B tools/coverage/coverage.py . build/coverage
 
 mutants: ## demand that a test fails for each of the deliberate faults in tools/mutants

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Installs the Debian packages of the named groups that are missing: build, clang, arm64, wasm, windows, lint, fuzz,
-# valgrind, python, peers, before.
+# valgrind, python, web, peers, before.
 # Says what it does, and is silent and quick when nothing is missing.
 set -eu
 
@@ -18,6 +18,8 @@ for group in "$@"; do
     valgrind) packages="$packages valgrind" ;;
     before) packages="$packages libboost1.81-dev" ;;
     python) packages="$packages g++ python3 python3-dev python3-venv default-jre-headless" ;;
+    web) packages="$packages chromium-headless-shell fonts-dejavu-core"
+         command -v npm >/dev/null || packages="$packages npm" ;; # Other builds of Node bring it along.
     peers) packages="$packages r-base-core r-cran-pwr" ;;
     *) echo "$0: unknown group '$group'" >&2; exit 2 ;;
   esac

@@ -8,6 +8,7 @@ import from_python
 import page
 import sections
 import wasm
+import web
 
 PAGE = "# Speed\n\nText.\n\n## All benchmarks\n\nTables.\n"
 
@@ -24,8 +25,7 @@ class SectionsTest(unittest.TestCase):
         new = sections.replaced(PAGE, "webassembly", "wasm\n")
         new = sections.replaced(new, "before", "old\n")
         new = sections.replaced(new, "before", "new\n")
-        self.assertEqual([sections.body_of(new, name) for name in sections.NAMES],
-                         [None, "new\n", "wasm\n", None])
+        self.assertEqual([sections.body_of(new, name) for name in ("before", "webassembly")], ["new\n", "wasm\n"])
         self.assertNotIn("old\n", new)
         self.assertLess(new.index("new\n"), new.index("wasm\n"))
         self.assertEqual(new.count("Tables."), 1)
@@ -114,6 +114,28 @@ class FromPythonTest(unittest.TestCase):
         timings, _ = from_python.read_timings(self.TEXT.replace("ufunc\t5.5", "ufunc\t5.500000001"))
         with self.assertRaises(from_python.Disagreement):
             from_python.section(timings, {}, "m")
+
+
+class WebTest(unittest.TestCase):
+    def timings(self, reply, *seconds):
+        lines = ("\t".join([name, *map(str, seconds), json.dumps(reply)]) for name, _, _ in web.REQUESTS)
+        return web.read_timings("\n".join(lines))
+
+    def test_takes_medians_of_the_rounds(self):
+        rounds = [(self.timings({"power": 0.8, "densities": [1]}, native),
+                   self.timings({"power": 0.8000000000000003, "densities": [2]}, wasm, page_side))
+                  for native, wasm, page_side in ((1e-6, 9e-6, 2e-5), (5e-6, 3e-6, 3e-5), (2e-6, 4e-6, 4e-5))]
+        rows = web.rows_of(rounds)
+        self.assertEqual(len(rows), len(web.REQUESTS))
+        self.assertEqual(rows[0], web.Row(web.REQUESTS[0][0], 2e-6, 4e-6, 3e-5))
+        context = {"node": "1", "machine": "m", "rounds": 3, "opening": 0.2, "slowest": 0.3, "openings": 9,
+                   "size": 1_000_000, "compressed": 600_000}
+        self.assertIn(f"| {rows[0].name} | 2.0 µs | 4.0 µs | 2.0 | 30 µs |", web.section(rows, context))
+
+    def test_other_answers_and_errors_are_refused(self):
+        for reply in ({"power": 0.81}, {"power": [0.8, 0.8]}, {"error": {"message": "no"}}):
+            with self.assertRaises(web.Disagreement):
+                web.rows_of([(self.timings({"power": 0.8}, 1), self.timings(reply, 1, 1))])
 
 
 if __name__ == "__main__":

@@ -1,0 +1,1 @@
+// The module has no functions but those of the libraries that are linked to it.

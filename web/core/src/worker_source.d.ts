@@ -1,0 +1,3 @@
+/** The script of the worker. */
+declare const source: string;
+export default source;

@@ -1,0 +1,129 @@
+// What is asked of a test, and in which form the effect is given.
+
+import type { Test } from "../contract";
+import { design, show } from "../state";
+import { texts } from "../texts";
+import { formOf, nearestForm, offeredForms } from "./forms";
+import type { Design } from "./design";
+import { nearestSought, questionsOf, soughtBy, soughtOf, type Wish } from "./wishes";
+import { capital, labelOf } from "./words";
+
+interface ChoiceProps {
+  group: string;
+  value: string;
+  chosen: boolean;
+  label: string;
+  help?: string;
+  onChoose: () => void;
+}
+
+/** A radio button whose whole row can be pressed. */
+export function Choice({ group, value, chosen, label, help, onChoose }: ChoiceProps) {
+  return (
+    <label class={`choice ${chosen ? "chosen" : ""} ${value === "any" ? "any" : ""}`}>
+      <input
+        type="radio"
+        name={group}
+        value={value}
+        checked={chosen}
+        data-testid={`${group}-${value}`}
+        onChange={onChoose}
+      />
+      <span class="choice-words">
+        <span class="choice-label">{label}</span>
+        {help && <span class="choice-help">{help}</span>}
+      </span>
+    </label>
+  );
+}
+
+function ask(test: Test, now: Design, wish: Wish): void {
+  const needs = formOf(test, now.wish, now.form).needs;
+  show({ ...now, wish, form: nearestForm(test, wish, needs).key }, true);
+}
+
+function SoughtSelect({ test, now }: { test: Test; now: Design }) {
+  const all = soughtOf(test);
+  const group = (target: string, label: string) => {
+    const some = all.filter((one) => one.target === target);
+    return some.length === 0 ? null : (
+      <optgroup label={label}>
+        {some.map(({ wish, name }) => (
+          <option key={wish} value={wish}>
+            {capital(labelOf(test, name))}
+          </option>
+        ))}
+      </optgroup>
+    );
+  };
+  return (
+    <div class="field">
+      <label for="unknown">{texts.test.solveFor}</label>
+      <select
+        id="unknown"
+        data-testid="unknown"
+        value={now.wish}
+        onChange={(event) => ask(test, now, event.currentTarget.value)}
+      >
+        {group("power", texts.test.forPower)}
+        {group("half-width", texts.test.forHalfWidth)}
+      </select>
+    </div>
+  );
+}
+
+export function QuestionChoice({ test }: { test: Test }) {
+  const now = design.value;
+  if (!now) return null;
+  const offered: string[] = questionsOf(test);
+  const sought = soughtBy(test, now.wish);
+  const nearest = nearestSought(test, formOf(test, now.wish, now.form).needs);
+  if (nearest) offered.splice(offered.indexOf("power") + 1, 0, "unknown");
+  return (
+    <fieldset class="question" data-testid="question">
+      <legend>{texts.test.question}</legend>
+      <div class="choices">
+        {offered.map((question) => {
+          const words = texts.questions[question === "unknown" ? "sought" : question];
+          const chosen = question === "unknown" ? sought !== undefined : now.wish === question;
+          return (
+            <Choice
+              key={question}
+              group="question"
+              value={question}
+              chosen={chosen}
+              label={words?.label ?? question}
+              help={words?.help ?? ""}
+              onChoose={() => ask(test, now, question === "unknown" ? (nearest?.wish ?? "power") : question)}
+            />
+          );
+        })}
+      </div>
+      {sought && <SoughtSelect test={test} now={now} />}
+    </fieldset>
+  );
+}
+
+export function FormChoice({ test }: { test: Test }) {
+  const now = design.value;
+  if (!now) return null;
+  const forms = offeredForms(test, now.wish, now.form);
+  if (forms.length < 2) return null;
+  return (
+    <fieldset class="form" data-testid="form">
+      <legend>{now.wish.includes("half-width") ? texts.test.formOfEstimate : texts.test.form}</legend>
+      <div class="choices small">
+        {forms.map(({ key, label }) => (
+          <Choice
+            key={key}
+            group="form"
+            value={key}
+            chosen={key === now.form}
+            label={capital(label)}
+            onChoose={() => show({ ...now, form: key }, true)}
+          />
+        ))}
+      </div>
+    </fieldset>
+  );
+}
