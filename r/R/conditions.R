@@ -29,8 +29,10 @@ stop_with <- function(reply, call) {
   stop(condition_of(reply$answer$error, call))
 }
 
-# The library has seen the user's interrupt and returned; now R sees it.
+# The library has seen the user's interrupt and returned; now R sees it. A script ends, as it does with R's own.
 raise_interrupt <- function() {
-  signalCondition(structure(class = c("interrupt", "condition"), list(message = "", call = NULL)))
+  interrupt <- structure(class = c("interrupt", "condition"), list(message = "interrupted", call = NULL))
+  if (!interactive()) stop(interrupt)
+  signalCondition(interrupt)
   invokeRestart("abort")
 }

@@ -6,11 +6,10 @@ new_kelpower <- function(test, question, inputs, results, given, sentence = NULL
   described <- tests()[[test]]
   figures <- c(inputs[setdiff(names(inputs), names(results))], results)
   fields <- c(figures[setdiff(names(figures), OWN_FIELDS)], base_fields(figures))
-  structure(
-    class = c("kelpower", "power.htest"),
-    c(fields[c(intersect("n", names(fields)), setdiff(names(fields), "n"))],
-      list(note = note_of(described), method = described$title, test = test, question = question,
-           sentence = sentence, status = status, inputs = inputs, results = results, given = given)))
+  about <- list(note = note_of(described), method = described$title, test = test, question = question,
+                sentence = sentence, status = status, inputs = inputs, results = results, given = given)
+  structure(class = c("kelpower", "power.htest"),
+            c(fields[c(intersect("n", names(fields)), setdiff(names(fields), "n"))], Filter(Negate(is.null), about)))
 }
 
 BASE_NAMES <- c(d = "effect_d", f = "effect_f", f2 = "effect_f2", sig.level = "alpha", p1 = "proportion1",

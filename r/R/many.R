@@ -55,10 +55,31 @@ run_rows <- function(test, inputs, varying, count, call) {
   fixed <- Map(function(value, name) if (is_list_kind(kinds[name])) matrix(value, 1) else value,
                answer$inputs, names(answer$inputs))
   given <- gathered(vapply(answer$columns, function(each) each$name, ""), columns$numbers)
+  given <- Map(function(value, name) if (is_list_kind(kinds[name])) spread(value, groups_of(test, given, fixed)) else value,
+               given, names(given))
+  names(given) <- as_targets(names(given))
   results <- gathered(vapply(answer$results, function(each) each$name, ""), reply$results,
                       vapply(answer$results, function(each) !is.null(each$entry), NA))
   list(question = answer$question, inputs = c(given, fixed), results = results, status = reply$rows)
 }
+
+# One number of a list stands for all groups.
+spread <- function(value, groups) {
+  if (!is.matrix(value)) value <- matrix(value)
+  if (ncol(value) > 1 || groups == 1) value else value[, rep(1L, groups), drop = FALSE]
+}
+
+groups_of <- function(test, ...) {
+  described <- tests()[[test]]$groups
+  if (described != "k") return(as.numeric(described))
+  inputs <- c(...)
+  if (!is.null(inputs$groups)) return(inputs$groups)
+  kinds <- kinds_of(test)
+  max(1, vapply(inputs[kinds[names(inputs)] %in% "per-group"], NCOL, 0L))
+}
+
+# What a design is to reach has another name than what it reaches.
+as_targets <- function(names) ifelse(names %in% c("power", "half_width"), paste0("target_", names), names)
 
 # Columns by their names; those that are entries of a list together as a matrix.
 gathered <- function(names, columns, is_entry = duplicated(names) | duplicated(names, fromLast = TRUE)) {

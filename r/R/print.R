@@ -27,13 +27,13 @@ format_value <- function(value, digits) {
   if (is.logical(value)) return(if (anyNA(value)) "NA" else paste(ifelse(value, "yes", "no"), collapse = ", "))
   if (is.character(value)) return(paste(value, collapse = ", "))
   whole <- !is.na(value) & value == round(value) & abs(value) < 1e15
-  paste(ifelse(whole, formatC(value, format = "f", digits = 0), formatC(value, digits = digits, format = "g")),
-        collapse = ", ")
+  texts <- ifelse(whole, formatC(value, format = "f", digits = 0), formatC(value, digits = digits, format = "g"))
+  paste(trimws(texts), collapse = ", ")
 }
 
 format_many <- function(x, digits) {
   rows <- as.data.frame(x)
-  shown <- utils_head(rows, ROWS_SHOWN)
+  shown <- first_rows(rows, ROWS_SHOWN)
   lines <- lines_of(shown, digits)
   hidden <- nrow(rows) - nrow(shown)
   failed <- sum(x$status != 0L)
@@ -43,7 +43,7 @@ format_many <- function(x, digits) {
     if (failed) sprintf("%d of %d designs have no answer; kp_problems() tells why", failed, nrow(rows)))
 }
 
-utils_head <- function(rows, count) rows[seq_len(min(nrow(rows), count)), , drop = FALSE]
+first_rows <- function(rows, count) rows[seq_len(min(nrow(rows), count)), , drop = FALSE]
 
 lines_of <- function(rows, digits) {
   columns <- lapply(rows, function(column) {

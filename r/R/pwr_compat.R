@@ -24,12 +24,12 @@ unknown_of <- function(given) {
 }
 
 check_pwr_number <- function(value, name) {
-  if (!is.numeric(value) || length(value) != 1 || !is.finite(value)) stop(name, " must be a number", call. = FALSE)
-  if (name %in% c("sig.level", "power") && (value < 0 || value > 1)) stop(name, " must be in [0, 1]", call. = FALSE)
+  if (!is.numeric(value) || !length(value) || !all(is.finite(value))) stop(name, " must be a number", call. = FALSE)
+  if (name %in% c("sig.level", "power") && any(value < 0 | value > 1)) stop(name, " must be in [0, 1]", call. = FALSE)
 }
 
 check_above <- function(value, least, name) {
-  if (!is.null(value) && !(value > least)) stop(name, " must be above ", least, call. = FALSE)
+  if (!is.null(value) && !all(value > least)) stop(name, " must be above ", least, call. = FALSE)
 }
 
 # How each unknown is searched: where the search starts, and the ends that it may approach.
@@ -71,17 +71,26 @@ bracketed <- function(excess, one, other) {
   stats::uniroot(excess, ends, tol = 4 * .Machine$double.eps * max(abs(ends[1]), 1e-300), maxiter = 1000)$root
 }
 
-# Completes what is given: `power_of` is called with all but the power.
-completed <- function(given, power_of, ranges) {
+# Completes what is given: `power_of` is called with all but the power. That of an unbiased test is never below its level.
+completed <- function(given, power_of, ranges, is_unbiased = TRUE) {
   unknown <- unknown_of(given)
   rest <- given[setdiff(names(given), "power")]
   if (unknown == "power") {
     given$power <- do.call(power_of, rest)
     return(given)
   }
+  if (any(lengths(given) > 1)) stop("vectors are for the power alone: give one ", unknown, " at a time", call. = FALSE)
+  if (is_unbiased && unknown != "sig.level" && given$power <= given$sig.level) {
+    stop("the power is always above sig.level: no ", unknown, " gives ", format(given$power), call. = FALSE)
+  }
   given[[unknown]] <- solve_pwr(function(x) do.call(power_of, replaced(rest, unknown, x)), given$power,
                                 ranges[[unknown]], unknown)
   given
+}
+
+overridden <- function(list, others) {
+  list[names(others)] <- others
+  list
 }
 
 replaced <- function(list, name, value) {
@@ -89,10 +98,13 @@ replaced <- function(list, name, value) {
   list
 }
 
-pwr_answer <- function(given, method, alternative = NULL, note = NULL, power_of, size) {
-  answer <- c(given, list(alternative = alternative), list(note = note)[!is.null(note)], list(method = method))
+# The answer, with its fields in the order that they have in pwr.
+pwr_answer <- function(given, method, alternative, note, power_of, size, note_is_last = FALSE) {
+  answer <- given
+  answer$alternative <- alternative
+  about <- c(list(note = note)[!is.null(note)], list(method = method))
   rest <- given[setdiff(names(given), "power")]
-  structure(class = "power.htest", answer[!vapply(answer, is.null, NA)], size = size,
+  structure(class = "power.htest", c(answer, if (note_is_last) rev(about) else about), size = size,
             power_at = function(n) do.call(power_of, replaced(rest, size, n)))
 }
 
@@ -131,7 +143,8 @@ normal_test <- function(given, effect, size, root, least, alternative, method, n
   sizes <- stats::setNames(rep(list(above(0, max(least, 2))), length(size)), size)
   ranges <- c(sizes, list(sig.level = RANGES$sig.level), stats::setNames(list(effect_range(alternative)), effect))
   for (name in size) check_above(given[[name]], least, name)
-  pwr_answer(completed(given, power_of, ranges), method, alternative, note, power_of, size[1])
+  given <- completed(given, power_of, ranges, alternative == "two.sided")
+  pwr_answer(given, method, alternative, note, power_of, size[1], note_is_last = TRUE)
 }
 
 pwr_functions <- list(
@@ -144,7 +157,8 @@ pwr_functions <- list(
     check_above(n, 1, "n")
     power_of <- function(n, d, sig.level) t_power((n - 1) * samples, sqrt(n / samples) * d, sig.level, alternative)
     ranges <- list(n = above(1, 2), d = effect_range(alternative), sig.level = RANGES$sig.level)
-    given <- completed(list(n = n, d = d, sig.level = sig.level, power = power), power_of, ranges)
+    given <- completed(list(n = n, d = d, sig.level = sig.level, power = power), power_of, ranges,
+                       alternative == "two.sided")
     note <- switch(type, paired = "n is number of *pairs*", two.sample = "n is number in *each* group")
     method <- paste(switch(type, one.sample = "One-sample", two.sample = "Two-sample", paired = "Paired"),
                     "t test power calculation")
@@ -159,8 +173,9 @@ pwr_functions <- list(
     power_of <- function(n1, n2, d, sig.level) {
       t_power(n1 + n2 - 2, d / sqrt(1 / n1 + 1 / n2), sig.level, alternative)
     }
-    ranges <- list(n1 = above(0.5, 2), n2 = above(0.5, 2), d = effect_range(alternative), sig.level = RANGES$sig.level)
-    given <- completed(list(n1 = n1, n2 = n2, d = d, sig.level = sig.level, power = power), power_of, ranges)
+    ranges <- list(n1 = above(0, 2), n2 = above(0, 2), d = effect_range(alternative), sig.level = RANGES$sig.level)
+    given <- completed(list(n1 = n1, n2 = n2, d = d, sig.level = sig.level, power = power), power_of, ranges,
+                       alternative == "two.sided")
     pwr_answer(given, "t test power calculation", alternative, NULL, power_of, "n1")
   },
 
@@ -224,7 +239,8 @@ pwr_functions <- list(
     ranges <- list(N = above(0, 2), w = RANGES$positive, sig.level = RANGES$sig.level)
     given <- completed(list(w = w, N = N, sig.level = sig.level, power = power), power_of, ranges)
     given <- c(given[c("w", "N")], list(df = df), given[c("sig.level", "power")])
-    answer <- pwr_answer(given, "Chi squared power calculation", NULL, "N is the number of observations", power_of, "N")
+    answer <- pwr_answer(given, "Chi squared power calculation", NULL, "N is the number of observations", power_of, "N",
+                         note_is_last = TRUE)
     attr(answer, "power_at") <- function(n) power_of(given$w, n, given$sig.level)
     answer
   },
@@ -246,7 +262,8 @@ pwr_functions <- list(
     ranges <- list(n = above(3, 4), sig.level = RANGES$sig.level,
                    r = if (alternative == "two.sided") c(start = 0.5, low = 0, high = 1) else
                      c(start = 0, low = -1, high = 1))
-    given <- completed(list(n = n, r = r, sig.level = sig.level, power = power), power_of, ranges)
+    # Its approximation of the power is below the level for sizes near 3.
+    given <- completed(list(n = n, r = r, sig.level = sig.level, power = power), power_of, ranges, FALSE)
     pwr_answer(given, "approximate correlation power calculation (arctangh transformation)", alternative, NULL,
                power_of, "n")
   },
@@ -276,8 +293,8 @@ pwr_functions <- list(
     if (is.null(power_at)) stop("this answer cannot be drawn", call. = FALSE)
     size <- attr(x, "size")
     sizes <- seq(max(4, x[[size]] / 5), 1.5 * max(x[[size]], 10), length.out = 101)
-    graphics::plot(sizes, vapply(sizes, power_at, 0), type = "l", lwd = 2, ylim = c(0, 1), xlab = size, ylab = "power",
-                   main = x$method, ...)
+    look <- overridden(list(type = "l", lwd = 2, ylim = c(0, 1), xlab = size, ylab = "power", main = x$method), list(...))
+    do.call(graphics::plot, c(list(sizes, vapply(sizes, power_at, 0)), look))
     graphics::abline(v = x[[size]], lty = 3)
     invisible(x)
   }

@@ -32,7 +32,9 @@ designs_of <- function(value, kind, name, call) {
     is.character(value)
   if (!usable) stop_input(name, "must be numbers, flags or words.", call)
   if (!length(value) || any(lengths(value) == 0)) stop_input(name, "is empty.", call)
-  if (is.list(value)) lapply(unname(value), as.double) else if (is.integer(value)) as.double(value) else as.vector(value)
+  if (is.list(value)) return(lapply(unname(value), as.double))
+  if (is.character(value) && identical(unname(kind), "choice")) return(dashed(as.vector(value)))
+  if (is.integer(value)) as.double(value) else as.vector(value)
 }
 
 is_list_kind <- function(kind) !is.na(kind) && kind %in% c("list", "per-group")

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 #include <new>
 #include <type_traits>
 #include <utility>
@@ -32,6 +33,14 @@ struct Frame {
   UserStop stop;
 };
 
+/// The whole number, or the nearest that the type has.
+template <class T>
+T Whole(double number) {
+  using Limits = std::numeric_limits<T>;
+  if (!(number > Limits::min())) return Limits::min();
+  return number < Limits::max() ? static_cast<T>(number) : Limits::max();
+}
+
 template <class T>
 struct Type;
 template <>
@@ -42,12 +51,12 @@ struct Type<double> {
 template <>
 struct Type<std::int32_t> {
   static constexpr char letter = 'i';
-  static std::int32_t Get(const KelrArgument& a, Frame&) { return static_cast<std::int32_t>(a.number); }
+  static std::int32_t Get(const KelrArgument& a, Frame&) { return Whole<std::int32_t>(a.number); }
 };
 template <>
 struct Type<std::uint8_t> {
   static constexpr char letter = 'b';
-  static std::uint8_t Get(const KelrArgument& a, Frame&) { return a.number != 0; }
+  static std::uint8_t Get(const KelrArgument& a, Frame&) { return Whole<std::uint8_t>(a.number); }
 };
 template <>
 struct Type<const double*> {

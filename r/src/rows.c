@@ -65,6 +65,7 @@ static void call_row(Call* call) {
       arguments[i].array = copy_of(VECTOR_ELT(value, call->row % Rf_xlength(value)));
     } else {
       arguments[i].number = at(value, call->row);
+      if (letters[i] != 'd' && ISNAN(arguments[i].number)) Rf_error("a flag or whole number is missing");
     }
   }
   call->status = kelr_call(call->function, arguments, &call->result);

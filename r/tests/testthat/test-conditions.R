@@ -32,7 +32,8 @@ test_that("an interrupt stops a long computation and is seen as one", {
     "library(kelpower)",
     "cat('started\\n'); flush(stdout())",
     "r <- tryCatch(",
-    "  { repeat kp_two_proportions(proportions = c(0.5, 0.52), exact = TRUE, power = 0.9); 'finished' },",
+    "  { kp_two_proportions(proportion1 = 0.5, proportion2 = seq(0.55, 0.56, length.out = 1000), exact = TRUE, power = 0.9)",
+    "    'finished' },",
     "  interrupt = function(e) 'interrupted')",
     "cat(r, kp_two_means(effect_d = 0.5, power = 0.8)$total, '\\n')"), script)
   output <- tempfile()

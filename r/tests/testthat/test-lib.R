@@ -26,7 +26,7 @@ test_that("vectors are recycled", {
   powers <- kp_lib$PowerIndependentNondirectionalES(64, 64, effects, 0.05)
   expect_identical(powers, vapply(effects, function(d) kp_lib$PowerIndependentNondirectionalES(64, 64, d, 0.05), 0))
   sizes <- kp_lib$PowerReverseOverallTest(3, list(c(10, 12, 15), c(10, 11, 12)), 6, c(1, 1, 1), 0.9, 0.05)
-  expect_identical(sizes$value, c(111, 489))
+  expect_identical(sizes$value, c(111, 687))
   expect_identical(sizes$sizes[[1]], c(37, 37, 37))
   expect_error(kp_lib$PowerIndependentNondirectionalES(c(1, 2), c(1, 2, 3), 0.5, 0.05), class = "kelpower_input_error")
   expect_identical(kp_lib$InvTanh(numeric()), numeric())
@@ -36,6 +36,8 @@ test_that("arrays have as many numbers as there are groups", {
   expect_error(kp_lib$PowerOverallTest(4, c(1, 2, 3), 1, c(9, 9, 9), 0.05), "numGroups", class = "kelpower_input_error")
   expect_error(kp_lib$PowerPairwiseDiff(3, 1:3, 1, c(9, 9, 9), 1, 5, 2, 0.05), "number of a group",
                class = "kelpower_input_error")
+  expect_error(kp_lib$PowerOverallTest(NA, c(1, 2), 1, c(9, 9), 0.05), class = "kelpower_input_error")
+  expect_error(kp_lib$HalfCIOverallTest(20, NA, 1, 0.05), "missing")
   expect_error(kp_lib$InvTanh("a"), class = "kelpower_input_error")
 })
 
