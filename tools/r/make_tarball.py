@@ -129,12 +129,7 @@ def check_paths(package):
 
 def assemble(project, package, include):
     shutil.rmtree(package, ignore_errors=True)
-    tracked = subprocess.run(["git", "-C", project, "ls-files", "-co", "--exclude-standard", "r"], check=True,
-                             stdout=subprocess.PIPE, text=True).stdout.split()
-    for name in tracked:
-        target = package / Path(name).relative_to("r")
-        target.parent.mkdir(parents=True, exist_ok=True)
-        shutil.copy(project / name, target)
+    shutil.copytree(project / "r", package, ignore=shutil.ignore_patterns("*.o", "*.so"))
     sources = sources_of(project)
     copy_library(project, package, sources)
     copy_others(package, include, sources)

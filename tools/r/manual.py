@@ -3,9 +3,9 @@
 import re
 import string
 
-from names import call, r_value, underscored
+from names import call, r_value, underscored, wrapped
 
-ALTERNATIVES = "A vector gives a design for each element."
+WIDTH_OF_PAGES = 88
 
 
 def escaped(text):
@@ -99,15 +99,8 @@ class Macros:
 
 
 def usage(name, parameters):
-    lines, line = [], f"{name}("
     names = ["..."] + [f"{underscored(each['name'])} = NULL" for each in parameters]
-    for number, each in enumerate(names):
-        piece = each + (", " if number + 1 < len(names) else ")")
-        if len(line) + len(piece) > 88:
-            lines.append(line.rstrip())
-            line = " " * (len(name) + 1)
-        line += piece
-    return "\n".join(lines + [line])
+    return wrapped(f"{name}(", names, ")", len(name) + 1, WIDTH_OF_PAGES)
 
 
 QUESTIONS = {
@@ -149,7 +142,7 @@ def with_links(text, names):
 def page(test, names, macros):
     name = f"kp_{underscored(test['name'])}"
     items = "\n".join(f"  \\item{{{underscored(each['name'])}}}{{{macros.of(each)}}}" for each in test["parameters"])
-    examples = "\n".join(call(name, each["inputs"]) for each in test["examples"])
+    examples = "\n".join(call(name, each["inputs"], WIDTH_OF_PAGES) for each in test["examples"])
     sources = "\n\n".join(f"  {escaped(source)}" for source in test["sources"])
     said = dict.fromkeys(sentence(each["sentence"]) for each in test["conditions"])
     conditions = "".join(f"  \\item {each}\n" for each in said)
@@ -195,7 +188,7 @@ def effect_page(effects, macros):
     for conversion in effects["conversions"]:
         needs = " and ".join(f"\\code{{{underscored(each)}}}" for each in conversion["needs"])
         ways.append(f"  \\item {needs}: {escaped(conversion['title'][0].lower() + conversion['title'][1:])}")
-    examples = "\n".join(call("kp_effect", each["inputs"]) for each in effects["examples"])
+    examples = "\n".join(call("kp_effect", each["inputs"], WIDTH_OF_PAGES) for each in effects["examples"])
     about = " ".join(effects["about"].split())
     return f"""% Written by tools/r/generate.py.
 \\name{{kp_effect}}

@@ -3,12 +3,12 @@
 WIDTH = 110
 
 
-def wrapped(start, items, end, indent):
+def wrapped(start, items, end, indent, width=WIDTH):
     """Items with commas between them, broken into lines."""
     lines, line = [], start
     for number, item in enumerate(items):
         piece = item + ("," if number + 1 < len(items) else end)
-        if len(line) + len(piece) + 1 > WIDTH:
+        if len(line) + len(piece) + 1 > width:
             lines.append(line.rstrip())
             line = " " * indent
         line += piece + " "
@@ -29,5 +29,6 @@ def r_value(value):
     return repr(int(value)) if float(value).is_integer() and abs(value) < 1e6 else repr(value)
 
 
-def call(function, inputs):
-    return f"{function}({', '.join(f'{underscored(name)} = {r_value(value)}' for name, value in inputs.items())})"
+def call(function, inputs, width=WIDTH):
+    arguments = [f"{underscored(name)} = {r_value(value)}" for name, value in inputs.items()]
+    return wrapped(f"{function}(", arguments, ")", len(function) + 1, width)
