@@ -129,8 +129,8 @@ Export Bind(const char* name, R (*function)(P...)) {
   const Caller call = [](Address address, const KelrArgument* arguments, Frame& frame, KelrResult& result) {
     Invoke(reinterpret_cast<R (*)(P...)>(address), arguments, frame, result, std::index_sequence_for<P...>());
   };
-  return {{name, Letters<P...>::text, LetterOf(static_cast<R (*)()>(nullptr))}, call,
-          reinterpret_cast<Address>(function)};
+  return {
+      {name, Letters<P...>::text, LetterOf(static_cast<R (*)()>(nullptr))}, call, reinterpret_cast<Address>(function)};
 }
 
 const Export exports[] = {

@@ -82,10 +82,20 @@ double DNegBinom(const double* x, int) {
 double LogGamma(const double* x, int) { return KelDistFun::orvadnlgam(x[0]); }
 
 const KelrDistribution distributions[] = {
-    {"pnorm", 1, PNorm},         {"qnorm", 1, QNorm},         {"pt", 3, PT},         {"qt", 2, QT},
-    {"pf", 4, PF},               {"pf_central", 3, PCentralF}, {"qf", 3, QF},        {"pbeta", 3, PBeta},
-    {"qbeta", 3, QBeta},         {"dbinom", 3, DBinom},       {"pbinom", 3, PBinom}, {"qbinom", 3, QBinom},
-    {"dnbinom", 3, DNegBinom},   {"lgamma", 1, LogGamma},
+    {"pnorm", 1, PNorm},
+    {"qnorm", 1, QNorm},
+    {"pt", 3, PT},
+    {"qt", 2, QT},
+    {"pf", 4, PF},
+    {"pf_central", 3, PCentralF},
+    {"qf", 3, QF},
+    {"pbeta", 3, PBeta},
+    {"qbeta", 3, QBeta},
+    {"dbinom", 3, DBinom},
+    {"pbinom", 3, PBinom},
+    {"qbinom", 3, QBinom},
+    {"dnbinom", 3, DNegBinom},
+    {"lgamma", 1, LogGamma},
 };
 
 }  // namespace

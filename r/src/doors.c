@@ -59,7 +59,7 @@ typedef struct {
   kelplan_batch* batch;
   SEXP columns;
   R_xlen_t rows;
-  char* text;  /* the answer to the preparation, and what is read of it */
+  char* text; /* the answer to the preparation, and what is read of it */
   SEXP answer;
 } Run;
 

@@ -1,4 +1,5 @@
 // Written by tools/r/generate.py.
+// clang-format off
     Bind("Combination", &Combination),
     Bind("InvTanh", &InvTanh),
     Bind("SampleSizeTotal", &SampleSizeTotal),

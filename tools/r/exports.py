@@ -23,7 +23,7 @@ def signatures(source):
 
 def table(source):
     lines = "".join(f'    Bind("{name}", &{name}),\n' for name in signatures(source))
-    return f"// Written by tools/r/generate.py.\n{lines}"
+    return f"// Written by tools/r/generate.py.\n// clang-format off\n{lines}"
 
 
 def arguments_of(signature):
