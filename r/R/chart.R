@@ -66,8 +66,18 @@ draw_curves <- function(x, main, col, ...) {
   for (i in seq_along(curves)) {
     graphics::lines(curves[[i]][[axis]], curves[[i]][[quantity]], col = colours[i], lwd = 2)
   }
+  mark_designs(attr(x, "designs"), quantity, colours)
   if (!is.null(varied)) {
     graphics::legend("bottomright", legend = names(curves), title = varied, col = colours, lwd = 2, bg = "white")
+  }
+}
+
+# The designs that the chart is of, on their curves.
+mark_designs <- function(designs, quantity, colours) {
+  for (i in seq_along(designs)) {
+    at <- designs[[i]]
+    height <- at[[quantity]]
+    if (!is.null(height)) graphics::points(at$at[1], height, pch = 19, col = colours[i])
   }
 }
 
@@ -77,5 +87,8 @@ draw_contours <- function(x, main, ...) {
   across <- unique(x[[axes[1]]])
   up <- unique(x[[axes[2]]])
   heights <- matrix(x[[attr(x, "quantity")]], length(across), length(up))
-  graphics::contour(across, up, heights, main = main, xlab = attr(x, "titles")[1], ylab = attr(x, "titles")[2], ...)
+  levels <- if (attr(x, "quantity") == "power") seq(0.1, 0.9, 0.1) else pretty(heights, 10)
+  graphics::contour(across, up, heights, levels = levels, main = main, xlab = attr(x, "titles")[1],
+                    ylab = attr(x, "titles")[2], ...)
+  mark_designs(lapply(attr(x, "designs"), function(each) list(at = each$at[1], up = each$at[2])), "up", 1)
 }

@@ -110,14 +110,22 @@ def copy_others(package, include, sources):
 
 
 def write_makevars(project, package, sources):
-    version = (project / "VERSION").read_text().strip()
-    defines = [f'-DKELPOWER_VERSION=\\"{version}\\"', "-DFMT_HEADER_ONLY"]
+    defines = [f'-DKELPOWER_VERSION=\\"{version_of(project)}\\"', "-DFMT_HEADER_ONLY"]
     defines += [f"-D{name}=" for name in ("KELPOWER_API", "KELPLAN_EXPORT", "KELCOMMON_API")]
     includes = [f"-I{LIBRARY}/{folder}" for folder in INCLUDE_FOLDERS] + [f"-I{OTHERS}"]
     own = [path.name for path in sorted((package / "src").glob("*.c*"))]
     objects = [re.sub(r"\.c(pp)?$", ".o", name) for name in own + [f"{LIBRARY}/{name}" for name in sources]]
     write(package / "src/Makevars", MAKEVARS.format(
         defines=" ".join(defines), includes=" ".join(includes), objects=" ".join(objects)))
+
+
+def version_of(project):
+    return (project / "VERSION").read_text().strip()
+
+
+def set_version(project, package):
+    path = package / "DESCRIPTION"
+    path.write_text(re.sub(r"^Version: .*$", f"Version: {version_of(project)}", path.read_text(), flags=re.M))
 
 
 def check_paths(package):
@@ -130,6 +138,7 @@ def check_paths(package):
 def assemble(project, package, include):
     shutil.rmtree(package, ignore_errors=True)
     shutil.copytree(project / "r", package, ignore=shutil.ignore_patterns("*.o", "*.so"))
+    set_version(project, package)
     sources = sources_of(project)
     copy_library(project, package, sources)
     copy_others(package, include, sources)
@@ -149,6 +158,8 @@ def main():
     assemble(given.source.resolve(), package, given.include)
     if given.assemble_only:
         return
+    for old in package.parent.glob("kelpower_*.tar.gz"):
+        old.unlink()
     options = ["--no-build-vignettes"] if given.no_vignettes else []
     subprocess.run(["R", "CMD", "build", *options, package.name], cwd=package.parent, check=True)
 
