@@ -17,7 +17,7 @@ space := $() $()
 WASM_MODULE := build/wasm/web/core
 PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
 
-.PHONY: help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python
+.PHONY: help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python r test-r
 
 run: configure-$(PRESET) ## build the program and plan a real study
 	@echo "Building the program; the first time this takes a minute or two ..."
@@ -34,10 +34,17 @@ configure-%:
 	@sh tools/install_packages.sh build
 	@cmake --preset $* -Wno-dev --log-level=WARNING
 
-test: test-native test-web ## build and pass all tests
+test: test-native test-python test-r test-web ## build and pass all tests
 
 test-native: build ## those of the libraries and of the program
 	@ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
+
+r: ## make the source package of R in build/r
+	@sh tools/install_packages.sh headers r
+	@sh tools/r/compile.sh build/r $(JOBS) python3 -B tools/r/make_tarball.py . build/r
+
+test-r: r ## check the source package of R as CRAN does, and run the R code of the pages
+	@sh tools/r/compile.sh build/r $(JOBS) sh tools/r/check.sh . build/r
 
 test-core: configure-$(PRESET) ## the quick loop: build and pass the tests of the distributions, the core and the planner
 	@cmake --build $(BUILD) -j $(JOBS) --target $(CORE:%=tests_%)
@@ -89,6 +96,9 @@ bench-peers: build ## measure speed beside pwr, base R and statsmodels and write
 	@sh tools/install_packages.sh peers
 	@sh tools/peers/unpack_statsmodels.sh build/peers/statsmodels || echo "statsmodels is left out"
 	@python3 -B tools/peers/measure.py . $(BUILD) build/peers/statsmodels docs/performance.md
+	@$(MAKE) --no-print-directory r
+	@mkdir -p build/r/library && sh tools/r/compile.sh build/r $(JOBS) R CMD INSTALL --no-docs --library=build/r/library build/r/kelpower_*.tar.gz >build/r/install.log 2>&1
+	@python3 -B tools/peers/from_r.py build/r/library docs/performance.md
 
 bench-before: configure-$(PRESET) ## measure the distributions beside those of an earlier commit, BEFORE=COMMIT, and write it into docs/performance.md
 	@sh tools/install_packages.sh before

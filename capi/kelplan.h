@@ -15,10 +15,13 @@
 
 #include <stddef.h>
 
+/* Where the sources are part of a larger library, it defines this as nothing. */
+#ifndef KELPLAN_EXPORT
 #if defined(__GNUC__) && !defined(_WIN32)
 #define KELPLAN_EXPORT __attribute__((visibility("default")))
 #else
 #define KELPLAN_EXPORT
+#endif
 #endif
 
 #ifdef __cplusplus

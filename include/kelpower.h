@@ -23,10 +23,13 @@
 #include <cstdint>
 #include <vector>
 
+// Where the sources are part of a larger library, it defines this as nothing.
+#ifndef KELPOWER_API
 #if defined(__GNUC__) && !defined(_WIN32)
 #define KELPOWER_API __attribute__((visibility("default")))
 #else
 #define KELPOWER_API
+#endif
 #endif
 
 /// A growable sequence of doubles, owned by the caller, into which sample-size functions of groups write group sizes.

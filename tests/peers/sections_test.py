@@ -5,6 +5,7 @@ import unittest
 
 import before
 import from_python
+import from_r
 import page
 import sections
 import wasm
@@ -42,6 +43,15 @@ class SectionsTest(unittest.TestCase):
         new = page.page(context, calls, {}, [("kelpower", 1.0)], [], {}, sections.kept(old))
         self.assertEqual(sections.body_of(new, "before"), "measured\n")
         self.assertEqual(sections.body_of(sections.replaced(new, "before", "again\n"), "before"), "again\n")
+
+
+class FromRTest(unittest.TestCase):
+    def test_says_how_many_times_as_long_pwr_takes(self):
+        rows = from_r.read_rows("Design\tpower\t1e-06\t3e-05\t4e-06\t5e-05\nDesign\tsize\t1e-05\t0.0005\tNA\t6e-05\n")
+        section = from_r.section(rows)
+        self.assertIn("| Design | power | 1.0 µs | 30 µs (30) | 4.0 µs (4.0) | 50 µs |", section)
+        self.assertIn("| Design | sample size | 10 µs | 500 µs (50) | – | 60 µs |", section)
+        self.assertIn("30 times as fast", section.replace("\n", " "))
 
 
 def report(**seconds):

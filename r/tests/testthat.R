@@ -1,0 +1,4 @@
+library(testthat)
+library(kelpower)
+
+test_check("kelpower")

@@ -1,0 +1,64 @@
+"""Measures the R package beside pwr and writes its section into the page of measured speed.
+
+Usage: from_r.py LIBRARY PAGE (the R library that the package is installed in, the page)
+"""
+
+import subprocess
+import sys
+from dataclasses import dataclass
+from pathlib import Path
+
+import page
+import sections
+
+
+@dataclass
+class Row:
+    design: str
+    question: str
+    ours: float  # seconds a design, with a vector
+    one_by_one: float  # of pwr
+    vector: float  # of pwr, NaN where it takes none
+    single: float  # of a call of ours for one design
+
+
+def read_rows(text):
+    rows = []
+    for line in text.splitlines():
+        design, question, *seconds = line.split("\t")
+        rows.append(Row(design, question, *(float("nan" if each == "NA" else each) for each in seconds)))
+    return rows
+
+
+def beside(seconds, ours):
+    if seconds != seconds:
+        return "–"
+    return f"{page.duration(seconds)} ({page.times(seconds / ours)})"
+
+
+def section(rows):
+    lines = [[row.design, page.QUESTIONS[row.question].lower(), page.duration(row.ours),
+              beside(row.one_by_one, row.ours), beside(row.vector, row.ours), page.duration(row.single)] for row in rows]
+    least = {question: min(row.one_by_one / row.ours for row in rows if row.question == question)
+             for question in page.QUESTIONS}
+    head = ["Design", "question", "kelpower, a vector", "pwr, one by one", "pwr, a vector", "kelpower, a single call"]
+    text = page.paragraph(f"""
+        The functions of the R package with a vector of 2000 effect sizes, beside pwr in the same session; times are those
+        of one design. In parentheses how many times as long as kelpower. Powers are at least
+        {page.times(least["power"])} times as fast as calls of pwr one by one, sizes at least
+        {page.times(least["size"])} times. pwr takes a vector for a power, though not for a size. The answers are the
+        same, but for those of correlations, which pwr approximates in another way. A single call is mostly R's own work.
+        """)
+    return f"## Called from R\n\n{text}\n{page.table(head, lines)}\n"
+
+
+def main():
+    library, target = map(Path, sys.argv[1:])
+    script = Path(__file__).parent / "r_package.R"
+    print("measuring: the R package", flush=True)
+    text = subprocess.run(["Rscript", "--vanilla", script, library], check=True, stdout=subprocess.PIPE, text=True).stdout
+    target.write_text(sections.replaced(target.read_text(), "r", section(read_rows(text))))
+
+
+if __name__ == "__main__":
+    main()

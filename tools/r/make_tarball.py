@@ -1,0 +1,168 @@
+"""Makes the source tarball of the R package, with the library's sources and the headers that they use inside.
+
+Usage: make_tarball.py SOURCE BUILD [--no-vignettes] [--assemble-only]
+(the project, and the folder in which the package is assembled and the tarball is put)
+"""
+
+import argparse
+import re
+import shutil
+import subprocess
+from pathlib import Path
+
+LIBRARY = "library"  # within the package's src/
+OTHERS = "third_party"
+ROOMS = ["kelcommon", "src", "planner", "capi"]
+INCLUDE_FOLDERS = ["include", "kelcommon/include", "src", "planner", "capi"]
+# Debian's packages of headers, and the folder of each.
+PACKAGES = {"libfmt-dev": "fmt", "nlohmann-json3-dev": "nlohmann", "libfast-float-dev": "fast_float"}
+INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]', re.M)
+SOURCE_LINE = re.compile(r"^\s+([\w/]+\.cpp)\)?$", re.M)
+LONGEST_PATH = 100  # in the tarball, which R demands
+
+# Nothing is fused, so that each processor gives the same digits. Compilers for processors that fuse by themselves are
+# told so in the sources, because R allows no option for it.
+ARITHMETIC = """\
+#ifndef KELPOWER_ARITHMETIC_H
+#define KELPOWER_ARITHMETIC_H
+
+// Products and sums are rounded one by one, also on processors that have one operation for both.
+#if defined(__clang__)
+#pragma STDC FP_CONTRACT OFF
+#elif defined(__GNUC__) && defined(__FP_FAST_FMA)
+#pragma GCC optimize("fp-contract=off")
+#endif
+
+#endif
+"""
+
+MAKEVARS = """\
+# Written by tools/r/make_tarball.py.
+CXX_STD = CXX20
+PKG_CPPFLAGS = {defines} {includes}
+PKG_CFLAGS = $(C_VISIBILITY)
+PKG_CXXFLAGS = $(CXX_VISIBILITY)
+OBJECTS = {objects}
+"""
+
+
+def sources_of(project):
+    """The sources that CMake compiles into the library, in its order."""
+    found = []
+    for room in ROOMS:
+        listed = SOURCE_LINE.findall((project / room / "CMakeLists.txt").read_text())
+        found += [f"{room}/{name}" for name in listed]
+    missing = [name for name in found if not (project / name).is_file()]
+    if missing or len(found) < 100:
+        raise SystemExit(f"the lists of sources in CMakeLists.txt are not understood: {missing or len(found)}")
+    return found
+
+
+def headers_of(project):
+    """All headers of the library by their paths."""
+    folders = ["include"] + ROOMS
+    return sorted(str(path.relative_to(project)) for folder in folders for path in (project / folder).rglob("*.h"))
+
+
+def used_headers(texts, include):
+    """The headers of other libraries that the texts include, directly or not, by their paths below `include`."""
+    used, left = set(), [name for text in texts for name in INCLUDE.findall(text)]
+    while left:
+        name = left.pop()
+        path = include / name
+        if name in used or name.split("/")[0] not in PACKAGES.values() or not path.is_file():
+            continue
+        used.add(name)
+        for inner in INCLUDE.findall(path.read_text()):
+            beside = (path.parent / inner).resolve()
+            left.append(inner)
+            if beside.is_file() and beside.is_relative_to(include):
+                left.append(str(beside.relative_to(include)))
+    return sorted(used)
+
+
+def write(path, text):
+    path.parent.mkdir(parents=True, exist_ok=True)
+    path.write_text(text)
+
+
+def copy_library(project, package, sources):
+    for name in headers_of(project):
+        write(package / "src" / LIBRARY / name, (project / name).read_text())
+    write(package / "src" / LIBRARY / "include/arithmetic.h", ARITHMETIC)
+    for name in sources:
+        text = '#include "arithmetic.h"\n' + (project / name).read_text()
+        write(package / "src" / LIBRARY / name, text)
+
+
+def without_hidden_warnings(text):
+    """R's check wants no header to switch the compiler's warnings off."""
+    return re.sub(r"^([ \t]*#[ \t]*pragma[ \t]+(GCC|clang)[ \t]+diagnostic)", r"// \1", text, flags=re.M)
+
+
+def copy_others(package, include, sources):
+    texts = [path.read_text() for path in (package / "src" / LIBRARY).rglob("*") if path.is_file()]
+    for name in used_headers(texts, include):
+        write(package / "src" / OTHERS / name, without_hidden_warnings((include / name).read_text()))
+    for debian, folder in PACKAGES.items():
+        text = Path(f"/usr/share/doc/{debian}/copyright").read_text()
+        write(package / "inst/licenses" / f"{folder}.txt", text)
+
+
+def write_makevars(project, package, sources):
+    defines = [f'-DKELPOWER_VERSION=\\"{version_of(project)}\\"', "-DFMT_HEADER_ONLY"]
+    defines += [f"-D{name}=" for name in ("KELPOWER_API", "KELPLAN_EXPORT", "KELCOMMON_API")]
+    includes = [f"-I{LIBRARY}/{folder}" for folder in INCLUDE_FOLDERS] + [f"-I{OTHERS}"]
+    own = [path.name for path in sorted((package / "src").glob("*.c*"))]
+    objects = [re.sub(r"\.c(pp)?$", ".o", name) for name in own + [f"{LIBRARY}/{name}" for name in sources]]
+    write(package / "src/Makevars", MAKEVARS.format(
+        defines=" ".join(defines), includes=" ".join(includes), objects=" ".join(objects)))
+
+
+def version_of(project):
+    return (project / "VERSION").read_text().strip()
+
+
+def set_version(project, package):
+    path = package / "DESCRIPTION"
+    path.write_text(re.sub(r"^Version: .*$", f"Version: {version_of(project)}", path.read_text(), flags=re.M))
+
+
+def check_paths(package):
+    for path in package.rglob("*"):
+        length = len(str(path.relative_to(package.parent)))
+        if length > LONGEST_PATH:
+            raise SystemExit(f"this path has {length} characters: {path}")
+
+
+def assemble(project, package, include):
+    shutil.rmtree(package, ignore_errors=True)
+    shutil.copytree(project / "r", package, ignore=shutil.ignore_patterns("*.o", "*.so"))
+    set_version(project, package)
+    sources = sources_of(project)
+    copy_library(project, package, sources)
+    copy_others(package, include, sources)
+    write_makevars(project, package, sources)
+    check_paths(package)
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("source", type=Path)
+    parser.add_argument("build", type=Path)
+    parser.add_argument("--include", type=Path, default=Path("/usr/include"), help="where the headers of others are")
+    parser.add_argument("--no-vignettes", action="store_true")
+    parser.add_argument("--assemble-only", action="store_true")
+    given = parser.parse_args()
+    package = given.build.resolve() / "kelpower"
+    assemble(given.source.resolve(), package, given.include)
+    if given.assemble_only:
+        return
+    for old in package.parent.glob("kelpower_*.tar.gz"):
+        old.unlink()
+    options = ["--no-build-vignettes"] if given.no_vignettes else []
+    subprocess.run(["R", "CMD", "build", *options, package.name], cwd=package.parent, check=True)
+
+
+if __name__ == "__main__":
+    main()
