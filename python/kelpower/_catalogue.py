@@ -73,7 +73,8 @@ def _test(raw: Mapping[str, Any]) -> Test:
     parameters = {parameter.name: parameter for parameter in map(_parameter, raw["parameters"])}
     labels = {name: parameter.label for name, parameter in parameters.items()}
     labels |= {target: target.replace("_", " ").replace("half ", "half-") for target in TARGETS.values()}
-    labels |= {underscored(result["name"]): result["label"] for result in results}
+    # The label of the plainest question, which comes first.
+    labels |= {underscored(result["name"]): result["label"] for result in reversed(results)}
     return Test(
         name=raw["name"],
         title=raw["title"],

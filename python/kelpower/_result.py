@@ -47,8 +47,10 @@ class Explanation:
         return self.text
 
 
-def _frozen(value: Any) -> Any:
-    return tuple(value) if isinstance(value, list) else value
+def _typed(value: Any, is_whole: bool) -> Any:
+    if isinstance(value, list):
+        return tuple(_typed(each, is_whole) for each in value)
+    return float(value) if type(value) is int and not is_whole else value
 
 
 class Result:
@@ -103,10 +105,7 @@ class Result:
         whole = {name for name, parameter in test.parameters.items() if parameter.whole}
 
         def typed(values: Mapping[str, Any], integers: frozenset[str] | set[str]) -> dict[str, Any]:
-            return {
-                name: float(value) if type(value) is int and name not in integers else _frozen(value)
-                for name, value in values.items()
-            }
+            return {name: _typed(value, name in integers) for name, value in values.items()}
 
         reply["inputs"] = typed(reply["inputs"], whole)
         reply["results"] = typed(reply["results"], test.sizes | whole)
@@ -156,7 +155,7 @@ class Result:
         return self._answer.get("note")
 
     @property
-    def method(self) -> str:
+    def title(self) -> str:
         """The name of the test, for reading."""
         return _catalogue.find(self._test).title
 
@@ -228,7 +227,7 @@ class Result:
 
         """
         reply: dict[str, Any] = json.loads(_request.solve(self._test, self._given, densities=True))
-        return densities_of(self.method, reply["densities"]) if reply["densities"] else None
+        return densities_of(self.title, reply["densities"]) if reply["densities"] else None
 
     def curve(
         self,
@@ -331,15 +330,9 @@ class Result:
         return columns
 
     def _rows(self) -> list[tuple[str, str]]:
-        labels = _catalogue.find(self._test).labels
-
-        def shown(value: Any) -> str:
-            if isinstance(value, tuple):
-                return ", ".join(map(shown, value))
-            return f"{value:.4g}" if isinstance(value, float) else str(value)
-
-        parts = [*self._answer["inputs"].items(), *self._answer["results"].items()]
-        return [(labels.get(name, name), shown(value)) for name, value in parts if value is not False]
+        """The rows of the program's table: a label, and what it stands before."""
+        rows = [line.strip() for line in str(self).splitlines() if line.startswith("  ")]
+        return [(label, value.strip()) for label, _, value in (row.partition("  ") for row in rows)]
 
     def _repr_html_(self) -> str:
         rows = "".join(
@@ -347,13 +340,13 @@ class Result:
             for label, value in self._rows()
         )
         return (
-            f"<table><caption>{html.escape(self.method)}</caption><tbody>{rows}</tbody></table>"
+            f"<table><caption>{html.escape(self.title)}</caption><tbody>{rows}</tbody></table>"
             f"<p>{html.escape(self.sentence)}</p>"
         )
 
     def _repr_markdown_(self) -> str:
         lines = [f"| {label} | {value} |" for label, value in self._rows()]
-        return "\n".join([f"**{self.method}**", "", "| | |", "|---|---:|", *lines, "", self.sentence])
+        return "\n".join([f"**{self.title}**", "", "| | |", "|---|---:|", *lines, "", self.sentence])
 
     def __str__(self) -> str:
         text: str = json.loads(_request.solve(self._test, self._given, text=True))["text"]

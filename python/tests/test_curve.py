@@ -2,11 +2,10 @@
 
 import json
 
+import kelpower
 import numpy as np
 import pandas as pd
 import pytest
-
-import kelpower
 from kelpower import Curve, Curves, InputError, NoSolution, Surface, _core
 from kelpower._curve import curve
 
@@ -205,13 +204,17 @@ def test_a_design_without_solution_raises():
 
 
 @pytest.mark.long
-@pytest.mark.parametrize(("test", "axis"), list(charts()), ids=lambda each: each if isinstance(each, str) else each["name"])
+@pytest.mark.parametrize(
+    ("test", "axis"), list(charts()), ids=lambda each: each if isinstance(each, str) else each["name"]
+)
 def test_every_axis_is_drawn(test, axis):
     found = drawn(test, axis)
     if found is None:
         pytest.skip("no example has this axis")
     inputs, chart = found
-    answer = getattr(kelpower, test["name"].replace("-", "_"))(**{name.replace("-", "_"): each for name, each in inputs.items()})
+    answer = getattr(kelpower, test["name"].replace("-", "_"))(
+        **{name.replace("-", "_"): each for name, each in inputs.items()}
+    )
     assert isinstance(chart, Curve)
     assert np.isfinite(chart.values).any()
     assert (np.diff(chart.x) > 0).all()
