@@ -25,7 +25,7 @@ environment tools tools/python/requirements.txt
 environment venv python/tests/requirements.txt
 
 say "making the sdist"
-rm -rf "$folder/source" "$folder/dist"
+rm -rf "$folder/source" "$folder/dist" "$folder/build"
 mkdir -p "$folder/source"
 git ls-files -z pyproject.toml CMakeLists.txt VERSION LICENSE README.md cmake kelcommon src include planner capi python \
   tools/third_party.sh | xargs -0 cp --parents -t "$folder/source"
