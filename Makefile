@@ -58,7 +58,7 @@ cross-%:
 test-fma: configure-fma ## the distributions and the reference cases with products and sums fused
 	@sh tools/test_fma.sh build/fma $(JOBS)
 
-wheel: ## build, check and test the Python package: its wheel and its sdist, each in a virtual environment of its own
+wheel: ## build the sdist and the wheel of the Python package, check them, and test the wheel in a virtual environment
 	@sh tools/install_packages.sh python
 	@sh tools/python/wheel.sh build/python-package
 
