@@ -47,6 +47,10 @@ class Explanation:
         return self.text
 
 
+# As json.loads, without a look for other kinds of text.
+_parse = json.JSONDecoder().raw_decode
+
+
 def _frozen(value: Any) -> Any:
     return tuple(value) if isinstance(value, list) else value
 
@@ -98,18 +102,13 @@ class Result:
 
     def _read(self) -> dict[str, Any]:
         """The JSON with sizes as ints and all other numbers as floats."""
-        reply: dict[str, Any] = json.loads(self._text)
-        test = _catalogue.find(self._test)
-        whole = {name for name, parameter in test.parameters.items() if parameter.whole}
-
-        def typed(values: Mapping[str, Any], integers: frozenset[str] | set[str]) -> dict[str, Any]:
-            return {
-                name: float(value) if type(value) is int and name not in integers else _frozen(value)
-                for name, value in values.items()
+        reply: dict[str, Any] = _parse(self._text)[0]
+        whole = _catalogue.find(self._test).whole
+        for part in ("inputs", "results"):
+            reply[part] = {
+                name: float(value) if type(value) is int and name not in whole else _frozen(value)
+                for name, value in reply[part].items()
             }
-
-        reply["inputs"] = typed(reply["inputs"], whole)
-        reply["results"] = typed(reply["results"], test.sizes | whole)
         return reply
 
     def __getattr__(self, name: str) -> Any:
