@@ -79,6 +79,11 @@ bench-wasm: configure-$(PRESET) ## measure speed as WebAssembly beside the nativ
 	@cmake --build --preset wasm -j $(JOBS) --target kelpower_timing
 	@python3 -B tools/peers/wasm.py $(BUILD) build/wasm docs/performance.md
 
+bench-scipy: ## measure the distributions in Python beside SciPy's and write it into docs/performance.md and docs/python-lib.md
+	@sh tools/install_packages.sh build
+	@python3 -m venv build/peers/scipy && build/peers/scipy/bin/pip install --quiet . scipy
+	@build/peers/scipy/bin/python -B tools/peers/scipy_distributions.py . docs/performance.md docs/python-lib.md
+
 worst: build ## search the distributions for their largest errors and keep the worst points among the references
 	@python3 -m venv build/venv && build/venv/bin/pip install --quiet python-flint
 	@rm -f build/found.csv

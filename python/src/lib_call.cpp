@@ -120,9 +120,14 @@ bool TakeInteger(PyObject* object, std::int32_t lowest, std::int32_t highest, st
 }
 
 bool TakeArray(PyObject* object, std::vector<double>& array) {
-  const Ref converted(PyArray_FROMANY(object, NPY_DOUBLE, 1, 1, NPY_ARRAY_CARRAY_RO));
+  const Ref converted(PyArray_FROMANY(object, NPY_DOUBLE, 0, 0, NPY_ARRAY_CARRAY_RO));
   if (!converted) return false;
   auto* const source = reinterpret_cast<PyArrayObject*>(converted.Get());
+  if (PyArray_NDIM(source) != 1) {
+    PyErr_Format(PyExc_ValueError, "a sequence of numbers is expected, not an array of %d dimensions",
+                 PyArray_NDIM(source));
+    return false;
+  }
   const auto* const data = static_cast<const double*>(PyArray_DATA(source));
   const auto size = static_cast<std::size_t>(PyArray_SIZE(source));
   array.reserve(std::max<std::size_t>(size, 1));  // so that an empty array is not null

@@ -7,7 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <new>
+#include <exception>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -180,7 +180,7 @@ template <class R, class... P>
 PyObject* CallFromPython(const PythonCall& call, R (*function)(P...)) {
   try {
     return Caller<R, P...>::Run(call, function);
-  } catch (const std::bad_alloc&) {
+  } catch (const std::exception&) {  // the only one that functions throw is std::bad_alloc
     return PyErr_NoMemory();
   }
 }
