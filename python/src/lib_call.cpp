@@ -142,18 +142,21 @@ bool CheckLength(const PythonCall& call, std::size_t parameter, const std::vecto
   return false;
 }
 
-bool GiveRepaired(PyObject* target, const std::vector<double>& coefficients, std::int32_t groups) {
-  if (!target || target == Py_None) return true;
+bool CheckRepaired(PyObject* target, std::int32_t groups) {
   auto* const array = reinterpret_cast<PyArrayObject*>(target);
-  const std::size_t count = groups > 0 ? static_cast<std::size_t>(groups) : 0;
-  if (!PyArray_Check(target) || PyArray_TYPE(array) != NPY_DOUBLE || !PyArray_ISCARRAY(array) ||
-      static_cast<std::size_t>(PyArray_SIZE(array)) < count) {
-    PyErr_Format(PyExc_TypeError, "'%s' must be a contiguous array of doubles that can be written, one a group",
-                 repairedName);
-    return false;
-  }
-  std::copy_n(coefficients.begin(), count, static_cast<double*>(PyArray_DATA(array)));
-  return true;
+  if (target == Py_None) return true;
+  if (PyArray_Check(target) && PyArray_TYPE(array) == NPY_DOUBLE && PyArray_ISCARRAY(array) &&
+      PyArray_SIZE(array) >= groups)
+    return true;
+  PyErr_Format(PyExc_TypeError, "'%s' must be a contiguous array of doubles that can be written, one a group",
+               repairedName);
+  return false;
+}
+
+void GiveRepaired(PyObject* target, const std::vector<double>& coefficients, std::int32_t groups) {
+  if (target == Py_None || groups <= 0) return;
+  std::copy_n(coefficients.begin(), groups,
+              static_cast<double*>(PyArray_DATA(reinterpret_cast<PyArrayObject*>(target))));
 }
 
 PyObject* ToPython(double result) { return PyFloat_FromDouble(result); }

@@ -162,6 +162,12 @@ def test_functions_have_the_arguments_of_the_header(name):
     assert found == [argument + "_" * (argument == "from") for argument in kept] + optional
 
 
+def test_the_length_of_arrays_is_the_first_integer():
+    for name, (_, arguments) in SIGNATURES.items():
+        if {"p", "P"} & {kind for _, kind in arguments}:
+            assert next(argument for argument, kind in arguments if kind == "i") == "numGroups", name
+
+
 @pytest.mark.parametrize("name", EXPORTS)
 def test_docstrings_name_every_argument(name):
     doc = inspect.getdoc(getattr(lib, name))
@@ -285,6 +291,9 @@ def test_coefficients_are_repaired_for_whom_wants_it():
     for wrong in ([0.0] * 3, np.zeros(3, int), np.zeros(2), np.zeros(6)[::2], np.broadcast_to(0.0, 3)):
         with pytest.raises(TypeError, match="repaired"):
             lib.EffectSizeSC(3, [10, 12, 15], 6, given, repaired=wrong)
+        with pytest.raises(TypeError, match="repaired"):
+            lib.PlotNSC(3, [10, 12, 15], 6, [20] * 3, given, 0, 0, 0, 0.05, repaired=wrong)
+    assert lib.EffectSizeSC(3, [10, 12, 15], 6, given, repaired=None) == lib.EffectSizeSC(3, [10, 12, 15], 6, given)
 
 
 def test_charts():
