@@ -16,7 +16,7 @@ CORE := kelcommon engine vectors frame anova means proportions correlation regre
 space := $() $()
 PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
 
-.PHONY: help run test test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
+.PHONY: help run test test-core $(PLATFORMS) wheel test-python build bench bench-peers bench-before bench-wasm lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
 
 run: configure-$(PRESET) ## build the program and plan a real study
 	@echo "Building the program; the first time this takes a minute or two ..."
@@ -57,6 +57,12 @@ cross-%:
 
 test-fma: configure-fma ## the distributions and the reference cases with products and sums fused
 	@sh tools/test_fma.sh build/fma $(JOBS)
+
+wheel: ## build, check and test the Python package: its wheel and its sdist, each in a virtual environment of its own
+	@sh tools/install_packages.sh python
+	@sh tools/python/wheel.sh build/python-package
+
+test-python: wheel ## the tests of the Python package
 
 bench: build ## measure speed
 	$(BUILD)/bench/kelpower_bench

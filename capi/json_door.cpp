@@ -7,6 +7,7 @@
 #include "call.h"
 #include "caller_stop.h"
 #include "catalogue/effects.h"
+#include "picture.h"
 #include "request.h"
 #include "solve/chart.h"
 #include "solve/densities.h"
@@ -75,12 +76,14 @@ void Solve(Call& call) {
 void Draw(Call& call) {
   const JsonTree tree = ReadJson(call.request);
   call.names = NamesOf(tree);
-  const Request request(tree, {"chart", "from", "to", "step", "y"});
+  const Request request(tree, {"chart", "from", "to", "step", "y", "picture"});
+  const bool hasPicture = request.IsSet("picture");
   const planner::ChartRequest asked = request.Chart();
   const planner::ChartData chart =
       planner::ComputeChart(request.AskedTest(), asked, request.ValuesBesides(asked.alternatives), call.stop);
   Reply reply(call);
   planner::WriteChart(reply, chart);
+  if (hasPicture) WritePicture(reply, chart);
   reply.CloseObject();
 }
 

@@ -1,6 +1,21 @@
 # Lets find_package find what a build for another platform needs among the packages of this machine: headers that
-# compile anywhere, and the sources of GoogleTest. A build for this machine finds its packages by itself.
-if(NOT CMAKE_CROSSCOMPILING)
+# compile anywhere, and the sources of GoogleTest. So it does for a package of sources, which brings the headers with it.
+# Another build for this machine finds its packages by itself.
+set(KEL_BUNDLE ${PROJECT_SOURCE_DIR}/third_party)
+if(SKBUILD AND NOT EXISTS ${KEL_BUNDLE})
+  find_package(fmt QUIET)
+  find_package(nlohmann_json QUIET)
+  find_package(FastFloat QUIET)
+  if(NOT fmt_FOUND OR NOT nlohmann_json_FOUND OR NOT FastFloat_FOUND)
+    set(KEL_BUNDLE ${PROJECT_BINARY_DIR}/third_party)
+    execute_process(COMMAND sh ${PROJECT_SOURCE_DIR}/tools/third_party.sh ${KEL_BUNDLE} COMMAND_ERROR_IS_FATAL ANY)
+  endif()
+endif()
+if(EXISTS ${KEL_BUNDLE})
+  set(KEL_HEADER_ROOT ${KEL_BUNDLE})
+elseif(CMAKE_CROSSCOMPILING)
+  set(KEL_HEADER_ROOT /usr/include)
+else()
   return()
 endif()
 
@@ -13,13 +28,13 @@ function(kel_declare_package package)
   file(WRITE ${CMAKE_FIND_PACKAGE_REDIRECTS_DIR}/${package}Config.cmake "# Declared in KelPackages.cmake.\n")
 endfunction()
 
-# Makes `target` of the headers in the folder /usr/include/`folder`, for find_package(`package`).
+# Makes `target` of the headers in the folder `folder` under the root, for find_package(`package`).
 function(kel_header_package package folder target)
-  if(NOT EXISTS /usr/include/${folder})
-    message(FATAL_ERROR "/usr/include/${folder} is missing; tools/install_packages.sh installs it")
+  if(NOT EXISTS ${KEL_HEADER_ROOT}/${folder})
+    message(FATAL_ERROR "${KEL_HEADER_ROOT}/${folder} is missing; tools/install_packages.sh installs it")
   endif()
   file(MAKE_DIRECTORY ${KEL_HEADERS})
-  file(CREATE_LINK /usr/include/${folder} ${KEL_HEADERS}/${folder} SYMBOLIC)
+  file(CREATE_LINK ${KEL_HEADER_ROOT}/${folder} ${KEL_HEADERS}/${folder} COPY_ON_ERROR SYMBOLIC)
   add_library(${target} INTERFACE IMPORTED GLOBAL)
   target_include_directories(${target} INTERFACE ${KEL_HEADERS})
   kel_declare_package(${package})
@@ -28,8 +43,10 @@ endfunction()
 kel_header_package(fmt fmt fmt::fmt)
 target_compile_definitions(fmt::fmt INTERFACE FMT_HEADER_ONLY)
 kel_header_package(nlohmann_json nlohmann nlohmann_json::nlohmann_json)
-kel_header_package(CLI11 CLI CLI11::CLI11)
 kel_header_package(FastFloat fast_float FastFloat::fast_float)
+if(KELPOWER_BUILD_CLI)
+  kel_header_package(CLI11 CLI CLI11::CLI11)
+endif()
 
 # GoogleTest, compiled once for all tests.
 if(KELPOWER_BUILD_TESTS)

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Installs the Debian packages of the named groups that are missing: build, clang, arm64, wasm, windows, lint, fuzz,
-# valgrind, peers, before.
+# valgrind, python, peers, before.
 # Says what it does, and is silent and quick when nothing is missing.
 set -eu
 
@@ -17,6 +17,7 @@ for group in "$@"; do
     fuzz) packages="$packages clang libclang-rt-14-dev" ;;
     valgrind) packages="$packages valgrind" ;;
     before) packages="$packages libboost1.81-dev" ;;
+    python) packages="$packages g++ python3 python3-dev python3-venv default-jre-headless" ;;
     peers) packages="$packages r-base-core r-cran-pwr" ;;
     *) echo "$0: unknown group '$group'" >&2; exit 2 ;;
   esac

@@ -37,6 +37,7 @@ Figure FigureOf(const ChartData& chart, const std::string& title, std::size_t ch
                 .isOfPower = chart.quantity == Quantity::Power,
                 .curves = {},
                 .levels = {},
+                .note = {},
                 .marks = MarksOf(chart)};
   for (const Axis& axis : chart.axes) figure.axisTitles.push_back(axis.title);
   for (const ChartCurve& curve : chart.curves) {
@@ -50,7 +51,8 @@ Figure FigureOf(const ChartData& chart, const std::string& title, std::size_t ch
     figure.levels.push_back({power, fmt::format("power {}", power), LevelLines(lasting.surface, power)});
   }
   if (lasting.isSmoothed) {
-    figure.subtitles.emplace_back("the power jumps: beyond its line it stays at or above a level");
+    figure.note = "the power jumps: beyond its line it stays at or above a level";
+    figure.subtitles.push_back(figure.note);
   }
   return figure;
 }

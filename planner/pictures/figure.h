@@ -37,6 +37,7 @@ struct Figure {
   bool isOfPower = true;
   std::vector<FigureCurve> curves;  // of the chart, which outlives the figure
   std::vector<PowerLevel> levels;
+  std::string note;  // on the lines of equal power, where one is needed; the last of the subtitles
   std::vector<FigureMark> marks;
 
   bool IsSurface() const { return axisTitles.size() > 1; }

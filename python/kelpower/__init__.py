@@ -13,8 +13,10 @@ One function for each test, in which what is left out is what is solved for:
 from . import dist, lib, ufuncs
 from ._core import version as __version__
 from ._errors import InputError, KelpowerError, NoSolution, NoSolutionWarning
+from ._frames import arrow_batches, arrow_schema, arrow_udf, frame_meta, solve_frame, spark_schema
 from ._functions import *  # noqa: F403
 from ._functions import __all__ as _tests
+from ._grid import grid
 from ._result import Explanation, Result
 from ._results import Results
 from ._ufunc import ufunc
@@ -30,8 +32,15 @@ __all__ = [
     "Result",
     "Results",
     "__version__",
+    "arrow_batches",
+    "arrow_schema",
+    "arrow_udf",
     "dist",
+    "frame_meta",
+    "grid",
     "lib",
+    "solve_frame",
+    "spark_schema",
     "ufunc",
     "ufuncs",
 ]

@@ -10,6 +10,9 @@ from typing import Any
 
 from . import _core
 
+# What an answer calls the arguments that say what a design is to reach; what it reaches has the plain names.
+TARGETS = {"power": "target_power", "half_width": "target_half_width", "assurance": "target_assurance"}
+
 
 def underscored(name: str) -> str:
     """The name of a test, an input or a result as Python spells it."""
@@ -69,7 +72,7 @@ def _test(raw: Mapping[str, Any]) -> Test:
     results = [result for route in raw["routes"] for result in route["results"]]
     parameters = {parameter.name: parameter for parameter in map(_parameter, raw["parameters"])}
     labels = {name: parameter.label for name, parameter in parameters.items()}
-    labels |= {"target_power": "target power", "target_half_width": "target half-width"}
+    labels |= {target: target.replace("_", " ").replace("half ", "half-") for target in TARGETS.values()}
     labels |= {underscored(result["name"]): result["label"] for result in results}
     return Test(
         name=raw["name"],

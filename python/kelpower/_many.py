@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import itertools
 import os
+import sys
 from collections.abc import Iterator, Mapping, Sequence
 from concurrent.futures import ThreadPoolExecutor
 from dataclasses import dataclass
@@ -24,19 +25,17 @@ ROWS_A_THREAD = 2048
 
 def is_many(parameter: Parameter, value: Any) -> bool:
     """Whether a value stands for many designs: an array, where one design has a number, or an array of lists."""
+    return len(shape_of(value)) > (1 if parameter.is_list else 0)
+
+
+def shape_of(value: Any) -> tuple[int, ...]:
+    """The shape of a value as an array."""
     if isinstance(value, str):
-        return False
-    dimensions = np.ndim(_ragged(value))
-    return dimensions > (1 if parameter.is_list else 0)
-
-
-def _ragged(value: Any) -> Any:
-    """The value, or nothing of it where its parts differ in length."""
+        return ()
     try:
-        np.shape(value)
+        return np.shape(value)
     except ValueError:
         raise InputError("An argument has lists of different lengths, but arrays of designs are regular.") from None
-    return value
 
 
 @dataclass(frozen=True)
@@ -46,6 +45,11 @@ class Column:
     name: str
     entry: int | None
     values: NDArray[Any]
+
+    @property
+    def number(self) -> str:
+        """What follows the name of the input in that of a column in a frame."""
+        return "" if self.entry is None else str(self.entry + 1)
 
     @property
     def request(self) -> str | dict[str, Any]:
@@ -63,22 +67,38 @@ class Outcome:
     status: NDArray[np.int32]
 
 
-def _numbers(name: str, value: Any, axes: int) -> Floats:
-    """An array of an input, whose last `axes` axes are of its entries."""
-    array = np.asarray(value)
-    if array.dtype == object:
-        array = np.array([np.nan if each is None else each for each in array.ravel()]).reshape(array.shape)
+def _numbers(name: str, value: Any) -> Floats:
+    """An array of doubles, NaN where a value is missing. Only numbers are allowed, as for one design."""
+    array: Any = np.asanyarray(value)
     try:
-        return array.astype(np.float64, copy=False)
-    except (TypeError, ValueError):
+        if array.dtype == object:
+            flat = np.array([_number(each) for each in array.flat], dtype=np.float64)
+            numbers: Floats = flat.reshape(array.shape)
+            return numbers
+        if array.dtype.kind not in "iuf":
+            raise TypeError(array.dtype)
+        filled: Floats = np.ma.filled(array.astype(np.float64, copy=False), np.nan)
+        return filled
+    except (TypeError, ValueError, OverflowError):
         raise InputError(f"{name} has values that are not numbers.", {"parameter": name}) from None
+
+
+def _number(value: Any) -> float:
+    pandas = sys.modules.get("pandas")
+    if value is None or value is np.ma.masked or (pandas is not None and value is pandas.NA):
+        return np.nan
+    if isinstance(value, (str, bytes, bool, np.bool_)):
+        raise TypeError(value)
+    return float(value)
 
 
 def _columns_of(parameter: Parameter, value: Any) -> list[Column]:
     """The columns of an input with several values. Entries of a list lie along the last axis."""
+    array = _numbers(parameter.name, value)
     if not parameter.is_list:
-        return [Column(parameter.name, None, _numbers(parameter.name, value, 0))]
-    array = _numbers(parameter.name, value, 1)
+        return [Column(parameter.name, None, array)]
+    if array.shape[-1] == 0:
+        raise InputError(f"{parameter.name} has no entries.", {"parameter": parameter.name})
     if array.shape[-1] == 1 and parameter.spreads:
         return [Column(parameter.name, None, array[..., 0])]
     return [Column(parameter.name, entry, array[..., entry]) for entry in range(array.shape[-1])]
@@ -100,7 +120,11 @@ class Many:
         for name, value in given.items():
             self._sort_in(name, value)
         arrays = [*self.choices.values(), *(column.values for column in self.columns)]
-        self.shape = np.broadcast_shapes(*(array.shape for array in arrays))
+        try:
+            self.shape = np.broadcast_shapes(*(array.shape for array in arrays))
+        except ValueError:
+            shapes = ", ".join(map(str, dict.fromkeys(array.shape for array in arrays)))
+            raise InputError(f"Arguments of the shapes {shapes} cannot be broadcast together.") from None
 
     def _sort_in(self, name: str, value: Any) -> None:
         parameter = self.test.parameters.get(name)
@@ -118,9 +142,7 @@ class Many:
 
     def design(self, index: tuple[int, ...]) -> dict[str, Any]:
         """The arguments of one design."""
-        inputs = dict(self.fixed)
-        for name, array in self.choices.items():
-            inputs[name] = _request.plain(np.broadcast_to(array, self.shape)[index])
+        inputs = self.fixed | self._chosen(index)
         for column in self.columns:
             number = float(np.broadcast_to(column.values, self.shape)[index])
             if column.entry is None:
@@ -134,15 +156,20 @@ class Many:
         if not self.choices:
             yield self.fixed, slice(None)
             return
-        flat = [np.broadcast_to(array, self.shape).ravel() for array in self.choices.values()]
-        codes = np.zeros(self.size, dtype=np.int64)
-        for values in flat:
-            _, inverse = np.unique(values.astype(str), return_inverse=True)
-            codes = codes * (int(inverse.max(initial=0)) + 1) + inverse
+        codes: NDArray[np.int64] = np.zeros(self.shape, dtype=np.int64)
+        for array in self.choices.values():
+            _, inverse = np.unique(array.astype(str), return_inverse=True)
+            codes = codes * (int(inverse.max(initial=0)) + 1) + inverse.reshape(array.shape)
         for code in np.unique(codes):
             rows = np.flatnonzero(codes == code)
-            shared = {name: _request.plain(values[rows[0]]) for name, values in zip(self.choices, flat, strict=True)}
-            yield self.fixed | shared, rows
+            index = np.unravel_index(rows[0], self.shape)
+            yield self.fixed | self._chosen(index), rows
+        if not self.size:
+            yield self.fixed, slice(None)
+
+    def _chosen(self, index: tuple[Any, ...]) -> dict[str, Any]:
+        """The flags and words of one design."""
+        return {name: _request.plain(np.broadcast_to(array, self.shape)[index]) for name, array in self.choices.items()}
 
     def answer(self, threads: int | None = None) -> Outcome:
         """All rows. Raises where the inputs that they share are wrong; a wrong row has its status."""
@@ -193,13 +220,20 @@ def _with_groups(results: Mapping[tuple[str, int], Floats]) -> dict[str, Floats]
     }
 
 
+def cores() -> int:
+    """The processors that this process may use, which a container may have fewer of than the machine."""
+    if hasattr(os, "sched_getaffinity"):
+        return len(os.sched_getaffinity(0))
+    return os.cpu_count() or 1
+
+
 def run(
     batch: object, columns: tuple[Floats, ...], results: tuple[Floats, ...], count: int, threads: int | None
 ) -> NDArray[np.int32]:
     """Answers the rows of a batch on several threads and gives their statuses."""
     status = np.full(count, STOPPED, dtype=np.int32)
     stop = np.zeros(1, dtype=np.int32)
-    workers = min(threads or os.cpu_count() or 1, max(1, count // ROWS_A_THREAD))
+    workers = min(threads or cores(), max(1, count // ROWS_A_THREAD))
 
     def answer(first: int, last: int) -> int:
         part = tuple(column if len(column) == 1 else column[first:last] for column in columns)

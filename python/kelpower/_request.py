@@ -27,10 +27,12 @@ def plain(value: Any) -> Any:
         return value if isinstance(value, str) else repr(value)
     if isinstance(value, (list, tuple)):
         return [plain(each) for each in value]
-    if hasattr(value, "tolist"):
-        return plain(value.tolist())
+    if isinstance(value, np.floating):
+        return float(value)
+    if isinstance(value, (np.ndarray, np.generic)):
+        return plain(value.tolist()) if value.dtype.kind in "biufUOS" else repr(value)
     if hasattr(value, "__array__"):
-        return plain(np.asarray(value).tolist())
+        return plain(np.asarray(value))
     if isinstance(value, complex):
         return repr(value)
     try:
@@ -56,8 +58,19 @@ def encoded(request: Mapping[str, Any]) -> bytes:
     try:
         return _encode(request).encode()
     except ValueError:
-        inputs = {name: _spelt(plain(value)) for name, value in request["inputs"].items()}
-        return _encode({**request, "inputs": inputs}).encode()
+        return _encode(_in_words(request)).encode()
+
+
+def _in_words(request: Mapping[str, Any]) -> dict[str, Any]:
+    return {**request, "inputs": {name: _spelt(plain(value)) for name, value in request["inputs"].items()}}
+
+
+def _raise(status: int, answer: str, request: Mapping[str, Any]) -> None:
+    """Raise what the error of an answer stands for, unless only the JSON is at fault: then its inputs go in words."""
+    problem = json.loads(answer)["error"]
+    words = _in_words(request)
+    if problem["kind"] != "request" or words == request:
+        raise_for(status, problem)
 
 
 def ask(door: Callable[[bytes], tuple[int, str]], test: str, inputs: Inputs, **members: Any) -> str:
@@ -65,6 +78,8 @@ def ask(door: Callable[[bytes], tuple[int, str]], test: str, inputs: Inputs, **m
     request = {"test": test, "names": "underscore", "inputs": inputs, **members}
     status, answer = door(encoded(request))
     if status:
+        _raise(status, answer, request)
+        status, answer = door(encoded(_in_words(request)))
         raise_for(status, json.loads(answer)["error"])
     return answer
 

@@ -293,7 +293,8 @@ class Result:
         """
         from ._frames import frame_of_columns
 
-        return frame_of_columns(self._columns(), engine)
+        columns = self._columns()
+        return frame_of_columns(columns, engine, [name for name, [value] in columns.items() if type(value) is int])
 
     def _columns(self) -> dict[str, list[Any]]:
         columns: dict[str, list[Any]] = {}

@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import sys
 import warnings
 from collections.abc import Mapping
 from typing import Any
@@ -9,6 +10,7 @@ from typing import Any
 import numpy as np
 from numpy.typing import NDArray
 
+from ._catalogue import TARGETS
 from ._errors import KelpowerError, NoSolutionWarning
 from ._many import Many
 from ._result import Result
@@ -57,7 +59,7 @@ class Results:
         first = int(np.flatnonzero(self.status)[0])
         some = "1 design has" if unanswered == 1 else f"{unanswered} designs have"
         text = f"{some} no answer, of {self.status.size}. At index {first}: {self.problem(first)}"
-        warnings.warn(text, NoSolutionWarning, stacklevel=4)
+        warnings.warn(text, NoSolutionWarning, stacklevel=_levels_of_the_package())
 
     @property
     def test(self) -> str:
@@ -82,7 +84,8 @@ class Results:
     @property
     def inputs(self) -> dict[str, Any]:
         """The arguments as they were given, and the defaults."""
-        return {**self._outcome.inputs, **self._many.given}
+        given = {TARGETS.get(name, name): value for name, value in self._many.given.items()}
+        return {**self._outcome.inputs, **given}
 
     @property
     def results(self) -> dict[str, NDArray[Any]]:
@@ -138,30 +141,41 @@ class Results:
         return answer(self.test, kept | {name: value for name, value in changes.items() if value is not None})
 
     def to_dict(self) -> dict[str, NDArray[Any]]:
-        """Columns of equal length, a row a design: the inputs that were given, the results, the status."""
-        columns = {name: self._column(values) for name, values in self._given_columns().items()}
-        for name, values in self._outcome.results.items():
-            columns |= self._spread(name, _whole(values) if name in self._many.test.sizes else values)
-        columns["status"] = self.status.ravel()
-        return columns
+        """Columns of equal length, a row a design: the arguments that were given, the results, the status."""
+        results, sizes = self._result_columns()
+        whole = {name: _whole(values) if name in sizes else values for name, values in results.items()}
+        return {**self._given_columns(), **whole, "status": self.status.ravel()}
 
-    def _given_columns(self) -> Mapping[str, Any]:
+    def _given_columns(self) -> dict[str, NDArray[Any]]:
         """What was given by the names of columns: lists as an entry each, targets as such."""
+        columns: dict[str, Any] = {}
+        for name, value in self._many.given.items():
+            columns |= self._given_column(TARGETS.get(name, name), name, value)
+        return {name: np.broadcast_to(np.asarray(values), self.shape).ravel() for name, values in columns.items()}
+
+    def _given_column(self, shown: str, name: str, value: Any) -> dict[str, Any]:
         many = self._many
-        columns: dict[str, Any] = {**many.choices}
-        for name, value in many.fixed.items():
-            entries = {f"{name}{i}": each for i, each in enumerate(value, 1)} if isinstance(value, list) else None
-            columns |= entries or {name: value}
-        for column in many.columns:
-            name = column.name if column.entry is None else f"{column.name}{column.entry + 1}"
-            columns[name] = column.values
-        targets = {"power", "half_width"} & set(self._outcome.results)
-        return {f"target_{name}" if name in targets else name: value for name, value in columns.items()}
+        if name in many.choices:
+            return {shown: many.choices[name]}
+        if name not in many.fixed:
+            kind = np.int64 if np.asarray(value).dtype.kind in "iu" else np.float64
+            return {shown + each.number: each.values.astype(kind) for each in many.columns if each.name == name}
+        fixed = many.fixed[name]
+        if isinstance(fixed, list):
+            return {f"{shown}{i}": each for i, each in enumerate(fixed, 1)}
+        return {} if fixed is None else {shown: fixed}
 
-    def _column(self, values: Any) -> NDArray[Any]:
-        return np.broadcast_to(np.asarray(values), self.shape).ravel()
+    def _result_columns(self) -> tuple[dict[str, NDArray[np.float64]], set[str]]:
+        """The results as doubles by the names of columns, and which of them are sizes."""
+        columns: dict[str, NDArray[np.float64]] = {}
+        sizes: set[str] = set()
+        for name, values in self._outcome.results.items():
+            spread = self._spread(name, values)
+            columns |= spread
+            sizes |= spread.keys() if name in self._many.test.sizes else set()
+        return columns, sizes
 
-    def _spread(self, name: str, values: NDArray[Any]) -> dict[str, NDArray[Any]]:
+    def _spread(self, name: str, values: NDArray[np.float64]) -> dict[str, NDArray[np.float64]]:
         if values.ndim == len(self.shape):
             return {name: values.ravel()}
         rows = values.reshape(-1, values.shape[-1])
@@ -178,12 +192,19 @@ class Results:
         Returns
         -------
         pandas.DataFrame, polars.DataFrame or pyarrow.Table
-            The inputs that were given, the results, and the status.
+            The arguments that were given, the results, and the status. Targets are ``target_power`` and so on. Sizes
+            are integers of 64 bits, missing where there is none; a design whose size is larger than these counts as one
+            without a solution.
 
         """
         from ._frames import frame_of_columns
+        from ._rows import leave_too_large
 
-        return frame_of_columns(self.to_dict(), engine)
+        results, sizes = self._result_columns()
+        results = {name: values.copy() for name, values in results.items()}
+        status = self.status.flatten()
+        leave_too_large(results, sizes, status)
+        return frame_of_columns({**self._given_columns(), **results, "status": status}, engine, sizes)
 
     def _repr_html_(self) -> str:
         html: str = self.to_frame()._repr_html_()
@@ -219,6 +240,14 @@ class Results:
         return _again, (self.test, self._many.given)
 
 
+def _levels_of_the_package() -> int:
+    """How many calls lie between a warning and the line of the user."""
+    frame, levels = sys._getframe(1), 1
+    while frame.f_back is not None and frame.f_globals.get("__name__", "").partition(".")[0] == "kelpower":
+        frame, levels = frame.f_back, levels + 1
+    return levels
+
+
 def _again(test: str, given: Mapping[str, Any]) -> Results:
     with warnings.catch_warnings():
         warnings.simplefilter("ignore", NoSolutionWarning)
@@ -227,5 +256,3 @@ def _again(test: str, given: Mapping[str, Any]) -> Results:
 
 def _shown(value: Any) -> str:
     return f"{value:.4g}" if isinstance(value, (float, np.floating)) else str(value)
-
-

@@ -95,7 +95,7 @@ def ufunc(test: object, *arguments: str, result: str | None = None, **fixed: Any
     >>> import kelpower
     >>> power = kelpower.ufunc("two-means", "effect_d", "n", one_sided=True)
     >>> power([0.2, 0.5], 50).round(4)
-    array([0.2577, 0.799 ])
+    array([0.2573, 0.7989])
 
     """
     asked = _catalogue.find(test)

@@ -9,7 +9,7 @@ Examples
 >>> import numpy as np
 >>> from kelpower import ufuncs
 >>> ufuncs.two_means_power(0.5, np.array([20, 40, 60]), 64, 0.05).round(4)
-array([0.4885, 0.6887, 0.7882])
+array([0.4877, 0.6905, 0.7883])
 
 """
 
