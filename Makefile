@@ -16,7 +16,7 @@ CORE := kelcommon engine vectors frame anova means proportions correlation regre
 space := $() $()
 PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
 
-.PHONY: help run test test-core $(PLATFORMS) wheel test-python build bench bench-peers bench-before bench-wasm lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
+.PHONY: help run test test-core $(PLATFORMS) wheel test-python build bench bench-peers bench-before bench-wasm bench-scipy lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
 
 run: configure-$(PRESET) ## build the program and plan a real study
 	@echo "Building the program; the first time this takes a minute or two ..."

@@ -9,6 +9,7 @@ import signal
 import subprocess
 import sys
 import textwrap
+import time
 from concurrent.futures import ThreadPoolExecutor
 
 import kelpower
@@ -385,6 +386,7 @@ LONG_CALLS = {
 def run_until_interrupted(program):
     process = subprocess.Popen([sys.executable, "-c", textwrap.dedent(program)], stdout=subprocess.PIPE, text=True)
     assert process.stdout.readline() == "begins\n"
+    time.sleep(0.5)
     process.send_signal(signal.SIGINT)
     output, _ = process.communicate(timeout=60)
     return output, process.returncode
