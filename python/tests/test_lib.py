@@ -198,6 +198,16 @@ def test_ufuncs_take_out_and_where():
     assert out.tolist() == [np.arctanh(0.1), 0.0, lib.InvTanh(0.3)]
 
 
+def test_ufuncs_keep_what_pandas_has():
+    pandas = pytest.importorskip("pandas")
+    series = pandas.Series([0.1, 0.2], index=["a", "b"], name="r")
+    answer = lib.InvTanh(series)
+    assert isinstance(answer, pandas.Series)
+    assert answer["b"] == lib.InvTanh(0.2)
+    first, second = lib.PowerReverseIndependentNondirectionalES(0.8, 1, series, 0.05)
+    assert first.index.tolist() == second.index.tolist() == ["a", "b"]
+
+
 @pytest.mark.parametrize("kind", [np.int8, np.int16, np.int32, np.int64, np.uint8, np.uint32, np.bool_])
 def test_flags_are_any_integers(kind):
     expected = lib.PowerOneSampBinom(50, 0.7, 0.5, 1, 1, 0.05, 1)
@@ -430,20 +440,30 @@ def test_an_exception_of_a_signal_handler_ends_a_long_call(call):
     assert caught.value is raised
 
 
-@pytest.mark.skipif(sys.platform == "win32", reason="needs a limit of memory")
-def test_memory_running_out_is_an_exception():
-    program = """
+# A chart of a billion points, and the probabilities of an exact test of 400 million subjects in a ufunc.
+LARGE_CALLS = {
+    "chart": "lib.PlotESOneSample(20, 0, 2, 0, 0.05, 1e-9)",
+    "ufunc": "lib.PowerIndSampBinom(2e8, 2e8, 0.5, 0.50001, 1, 0, 0, 0.05, 0, 1)",
+}
+
+
+@pytest.mark.skipif(not sys.platform.startswith("linux"), reason="tells the memory that is used as Linux does")
+@pytest.mark.parametrize("call", LARGE_CALLS.values(), ids=LARGE_CALLS)
+def test_memory_running_out_is_an_exception(call):
+    program = f"""
         import resource
         from kelpower import lib
-        resource.setrlimit(resource.RLIMIT_AS, (2**29, 2**29))
+        with open("/proc/self/statm") as file:
+            used = int(file.read().split()[0]) * resource.getpagesize()
+        resource.setrlimit(resource.RLIMIT_AS, (used + 2**22, used + 2**22))
         try:
-            print(len(lib.PlotESOneSample(20, 0, 2, 0, 0.05, 1e-9).x))
+            {call}
+            print("there was enough")
         except MemoryError:
             print("no memory")
     """
-    done = subprocess.run(
-        [sys.executable, "-c", textwrap.dedent(program)], stdout=subprocess.PIPE, text=True, timeout=60
-    )
+    command = [sys.executable, "-c", textwrap.dedent(program)]
+    done = subprocess.run(command, stdout=subprocess.PIPE, text=True, timeout=60)
     assert (done.stdout, done.returncode) == ("no memory\n", 0)
 
 
