@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import inspect
 from collections.abc import Callable, Iterable, Iterator, Mapping
 from typing import TYPE_CHECKING, Any
 
@@ -283,6 +284,8 @@ class _Udf:
         if result not in (*self._question.results, "status"):
             known = ", ".join((*self._question.results, "status"))
             raise InputError(f"{result!r} is no result of this question; there are {known}.")
+        parameters = [inspect.Parameter(name, inspect.Parameter.POSITIONAL_ONLY) for name in arguments]
+        self.__signature__ = inspect.Signature(parameters)  # DuckDB counts the parameters
 
     def __call__(self, *arrays: Any) -> Any:
         names = self._question.names

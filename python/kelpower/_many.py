@@ -113,11 +113,11 @@ class Many:
 
     def __init__(self, test: str, given: Mapping[str, Any]) -> None:
         self.test = _catalogue.find(test)
-        self.given = dict(given)
+        self.given = {name: value.copy() if isinstance(value, np.ndarray) else value for name, value in given.items()}
         self.fixed: dict[str, Any] = {}
         self.choices: dict[str, NDArray[Any]] = {}
         self.columns: list[Column] = []
-        for name, value in given.items():
+        for name, value in self.given.items():
             self._sort_in(name, value)
         arrays = [*self.choices.values(), *(column.values for column in self.columns)]
         try:
@@ -233,6 +233,8 @@ def run(
     """Answers the rows of a batch on several threads and gives their statuses."""
     status = np.full(count, STOPPED, dtype=np.int32)
     stop = np.zeros(1, dtype=np.int32)
+    if threads is not None and threads < 1:
+        raise ValueError(f"threads is {threads}, but must be at least 1, or None for all cores")
     workers = min(threads or cores(), max(1, count // ROWS_A_THREAD))
 
     def answer(first: int, last: int) -> int:

@@ -4,16 +4,18 @@ from __future__ import annotations
 
 import html
 import json
-from collections.abc import Mapping
+from collections.abc import Mapping, Sequence
 from dataclasses import dataclass
 from typing import TYPE_CHECKING, Any
 
 from . import _catalogue, _request
+from ._densities import Densities, densities_of
+from ._errors import InputError
 
 if TYPE_CHECKING:
     from matplotlib.axes import Axes
 
-    from ._curve import Curve
+    from ._curve import Curve, Surface
 
 
 @dataclass(frozen=True)
@@ -215,40 +217,59 @@ class Result:
         """
         return self._call("program")
 
-    def densities(self) -> dict[str, Any] | None:
-        """The distributions of the test statistic without and with the effect, as arrays for a picture.
+    def densities(self) -> Densities | None:
+        """The distributions of the test statistic without and with the effect, for a picture.
 
         Returns
         -------
-        dict or None
-            ``x``, ``without`` and ``with`` (401 points each), where the test rejects, and the areas there. None where
-            no single statistic has the power as its area.
+        Densities or None
+            Arrays, where the test rejects, and the areas there. None where no single statistic has the power as its
+            area.
 
         """
         reply: dict[str, Any] = json.loads(_request.solve(self._test, self._given, densities=True))
-        found: dict[str, Any] | None = reply["densities"]
-        return found
+        return densities_of(self.method, reply["densities"]) if reply["densities"] else None
 
-    def curve(self, chart: str, **options: Any) -> Curve:
+    def curve(
+        self,
+        chart: str,
+        *,
+        start: float | Sequence[float] | None = None,
+        stop: float | Sequence[float] | None = None,
+        step: float | None = None,
+        y: str | None = None,
+    ) -> Curve | Surface:
         """The power, or for intervals the half-width, over a number of the design.
 
         Parameters
         ----------
         chart : str
             What it is drawn over, such as ``"n"``; two names with a hyphen between them make a surface.
-        **options
-            ``start`` and ``stop`` (a number, or two of a surface), ``step`` (a share of the range) and ``y`` (``"n"``
-            for the sizes that reach the target).
+        start, stop : float, or two of a surface, optional
+            The range; without them the usual one.
+        step : float, optional
+            The distance of the points as a share of the range.
+        y : {"n"}, optional
+            Show the sizes that reach the target.
 
         Returns
         -------
-        Curve
+        Curve or Surface
             The points as arrays.
 
-        """
-        from ._curve import curve
+        Examples
+        --------
+        >>> import kelpower
+        >>> curve = kelpower.two_means(effect_d=0.5, power=0.8).curve("n")
+        >>> curve.design.x, round(curve.design.power, 4)
+        (64.0, 0.8015)
 
-        return curve(self._test, self._given, chart, **options)
+        """
+        from ._curve import Curve, Surface, curve
+
+        drawn = curve(self._test, self._given, chart, start=start, stop=stop, step=step, y=y)
+        assert isinstance(drawn, (Curve, Surface))
+        return drawn
 
     def plot(self, chart: str = "n", *, ax: Axes | None = None, **options: Any) -> Axes:
         """Draw a chart with matplotlib.
@@ -256,7 +277,7 @@ class Result:
         Parameters
         ----------
         chart : str
-            As in `curve`.
+            As in `curve`, or ``"densities"`` for the distributions of the test statistic.
         ax : matplotlib.axes.Axes, optional
             Where to draw; a new figure without it.
         **options
@@ -268,9 +289,13 @@ class Result:
             What was drawn on.
 
         """
-        from ._plot import draw
+        from ._plot import draw, draw_densities
 
-        return draw(self.curve(chart, **options), ax)
+        if chart != "densities":
+            return draw(self.curve(chart, **options), ax)
+        if (densities := self.densities()) is None:
+            raise InputError("No single statistic of this test has the power as its area.", {"parameter": "chart"})
+        return draw_densities(densities, ax)
 
     def to_dict(self) -> dict[str, Any]:
         """Everything that the answer holds, with numbers, strings, lists and dictionaries alone."""

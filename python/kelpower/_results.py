@@ -2,18 +2,25 @@
 
 from __future__ import annotations
 
+import html
+import operator
 import sys
 import warnings
 from collections.abc import Mapping
-from typing import Any
+from typing import TYPE_CHECKING, Any
 
 import numpy as np
 from numpy.typing import NDArray
 
 from ._catalogue import TARGETS
 from ._errors import KelpowerError, NoSolutionWarning
-from ._many import Many
+from ._many import Many, Outcome
 from ._result import Result
+
+if TYPE_CHECKING:
+    from matplotlib.axes import Axes
+
+    from ._curve import Curve, Curves, Surface
 
 
 def _whole(values: NDArray[np.float64]) -> NDArray[Any]:
@@ -118,7 +125,7 @@ class Results:
         """The whole answer to one design. Raises what its problem is, if it has none."""
         from ._ask import answer
 
-        place = index if isinstance(index, tuple) else (index,)
+        place = tuple(map(operator.index, index if isinstance(index, tuple) else (index,)))
         if len(place) != len(self.shape):
             raise IndexError(f"{len(self.shape)} indices are expected, one for each axis")
         result: Result = answer(self.test, self._many.design(place))
@@ -139,6 +146,53 @@ class Results:
 
         kept = {name: value for name, value in self._many.given.items() if name not in changes}
         return answer(self.test, kept | {name: value for name, value in changes.items() if value is not None})
+
+    def curve(self, chart: str, **options: Any) -> Curve | Curves | Surface:
+        """A curve for each value of the argument that has several.
+
+        Parameters
+        ----------
+        chart : str
+            As of `Result.curve`.
+        **options
+            As of `Result.curve`.
+
+        Returns
+        -------
+        Curves
+            A `Curve` for each value.
+
+        Raises
+        ------
+        InputError
+            More than one argument has several values.
+
+        """
+        from ._curve import curve
+
+        return curve(self.test, self._many.given, chart, **options)
+
+    def plot(self, chart: str = "n", *, ax: Axes | None = None, **options: Any) -> Axes:
+        """Draw a curve for each value of the argument that has several.
+
+        Parameters
+        ----------
+        chart : str
+            As of `Result.curve`.
+        ax : matplotlib.axes.Axes, optional
+            Where to draw; a new figure without it.
+        **options
+            As of `Result.curve`.
+
+        Returns
+        -------
+        matplotlib.axes.Axes
+            What was drawn on.
+
+        """
+        from ._plot import draw
+
+        return draw(self.curve(chart, **options), ax)
 
     def to_dict(self) -> dict[str, NDArray[Any]]:
         """Columns of equal length, a row a design: the arguments that were given, the results, the status."""
@@ -207,8 +261,11 @@ class Results:
         return frame_of_columns({**self._given_columns(), **results, "status": status}, engine, sizes)
 
     def _repr_html_(self) -> str:
-        html: str = self.to_frame()._repr_html_()
-        return html
+        try:
+            text: str = self.to_frame()._repr_html_()
+        except ImportError:
+            return f"<pre>{html.escape(str(self))}</pre>"
+        return text
 
     def __str__(self) -> str:
         columns = self.to_dict()
@@ -237,7 +294,7 @@ class Results:
     __hash__ = None  # type: ignore[assignment]
 
     def __reduce__(self) -> tuple[Any, ...]:
-        return _again, (self.test, self._many.given)
+        return _restored, (self.test, self._many.given, self._outcome)
 
 
 def _levels_of_the_package() -> int:
@@ -248,10 +305,12 @@ def _levels_of_the_package() -> int:
     return levels
 
 
-def _again(test: str, given: Mapping[str, Any]) -> Results:
-    with warnings.catch_warnings():
-        warnings.simplefilter("ignore", NoSolutionWarning)
-        return Results(Many(test, given))
+def _restored(test: str, given: Mapping[str, Any], outcome: Outcome) -> Results:
+    """The same answers, not computed again."""
+    results = object.__new__(Results)
+    results._many = Many(test, given)
+    results._outcome = outcome
+    return results
 
 
 def _shown(value: Any) -> str:

@@ -92,7 +92,7 @@ def test_answers_are_compared_pickled_and_varied():
 
 def test_they_are_printed_as_a_table():
     text = str(kelpower.two_means(effect_d=np.linspace(0.2, 1, 30), power=0.8))
-    assert text.splitlines()[2].split() == ["target_power", "effect_d", "n1", "n2", "total", "power", "status"]
+    assert text.splitlines()[2].split() == ["effect_d", "target_power", "n1", "n2", "total", "power", "status"]
     assert text.endswith("... and 10 more")
 
 

@@ -10,6 +10,8 @@
   planner's. Of the library they include the core: the catalogue its families and frame, solve its frame and the
   effect of a design.
 - The C interface (capi) includes its own headers and the planner's. Nothing of the product includes it.
+- The extension module of the Python package (python) includes its own headers and the public ones: kelplan.h,
+  kelpower.h and kelcommon's.
 """
 
 import re
@@ -65,6 +67,13 @@ def rejected_in_capi(kind, top, is_own):
     return "" if is_own or top in PLANNER_ROOMS else f"the C interface includes {top}"
 
 
+def rejected_in_python(kind, header, top, is_own):
+    """Why the extension module of Python may not include a header."""
+    if kind == "<":
+        return f"the module of Python includes the package {top}" if top in PACKAGES - {"nlohmann"} else ""
+    return "" if is_own or top in ("kelplan.h", "kelpower.h", "kelcommon") else f"the module of Python includes {top}"
+
+
 def rejected(path, kind, header, is_own):
     """Why the file `path`, relative to the project, may not include `header`; empty when it may."""
     parts = path.parts
@@ -77,6 +86,8 @@ def rejected(path, kind, header, is_own):
         return "includes Boost"
     if parts[0] in ("planner", "cli", "capi"):
         return rejected_in_planner(path, kind, header, is_own)
+    if parts[0] == "python":
+        return rejected_in_python(kind, header, top, is_own)
     if kind == "<":
         return ""
     if parts[0] == "kelcommon":

@@ -47,6 +47,13 @@ class LayeringTest(unittest.TestCase):
         self.assertEqual(problems("cli/a.cpp", "#include <kelplan.h>"), 1)
         self.assertEqual(problems("planner/words/a.cpp", "#include <kelplan.h>"), 1)
 
+    def test_module_of_python(self):
+        self.assertEqual(problems("python/src/a.cpp", '#include "own.h"'), 0)
+        self.assertEqual(problems("python/src/a.cpp", '#include "kelplan.h"'), 0)
+        self.assertEqual(problems("python/src/a.cpp", "#include <Python.h>"), 0)
+        self.assertEqual(problems("python/src/a.cpp", '#include "solve/b.h"'), 1)
+        self.assertEqual(problems("python/src/a.cpp", "#include <fmt/format.h>"), 1)
+
     def test_reports_in_planner(self):
         self.assertEqual(problems("planner/model/a.h", '#include "solve/b.h"'), 1)
         self.assertEqual(problems("planner/model/a.h", '#include "kelpower.h"'), 1)

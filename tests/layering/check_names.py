@@ -8,7 +8,7 @@ import re
 
 from sources import check_all
 
-PRODUCT = {"include", "src", "kelcommon", "planner", "cli", "capi"}
+PRODUCT = {"include", "src", "kelcommon", "planner", "cli", "capi", "python"}
 GUARD = re.compile(r"\A(?:[ \t]*//[^\n]*\n|\s*\n|/\*.*?\*/)*#ifndef (\w+)\n#define (\w+)\n", re.S)
 
 
@@ -19,6 +19,8 @@ def guard(path):
         parts = parts[2:] if parts[1] == "include" else parts
     elif parts[0] in ("src", "include"):
         parts = parts[1:] if parts[1:] == ["kelpower"] else ["kelpower"] + parts[1:]
+    elif parts[0] == "python":
+        parts = ["kelpower", "python"] + parts[2:]
     else:
         parts = ["kelpower"] + parts
     return "_".join(parts).upper() + "_H"
