@@ -9,8 +9,8 @@ pytest.importorskip("nbclient")
 pytest.importorskip("ipykernel")
 pytest.importorskip("matplotlib")
 sys.path.insert(0, str(Path(__file__).parent))
-import nbformat  # noqa: E402
-import notebooks  # noqa: E402
+import nbformat
+import notebooks
 
 NOTEBOOK = Path(__file__).resolve().parents[2] / "examples" / "plan_a_study.ipynb"
 
