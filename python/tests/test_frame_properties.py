@@ -96,6 +96,8 @@ def test_grids_are_answered_as_single_designs(name):
     @given(questions(name))
     def check(question):
         arguments, varying = question
+        if isinstance(arguments.get("ratios"), (int, float)):
+            arguments["ratios"] = (arguments["ratios"],)  # a flat list of them is one list
         status, results = outcome(name, arguments)
         values = {
             each: [value, value] if each in varying else [value] if isinstance(value, tuple) else value
@@ -111,6 +113,6 @@ def test_grids_are_answered_as_single_designs(name):
         assert len(frame) == 2 ** len(varying)
         last = frame.iloc[-1]
         assert last["status"] == status
-        assert found_in(last, columns_of(arguments)) == results
+        assert found_in(last, {*columns_of(arguments), "ratios"}) == results
 
     check()
