@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import html
 import json
+import math
 from collections.abc import Mapping, Sequence
 from dataclasses import dataclass
 from typing import TYPE_CHECKING, Any
@@ -316,17 +317,16 @@ class Result:
         """
         from ._frames import frame_of_columns
 
-        columns = self._columns()
-        return frame_of_columns(columns, engine, [name for name, [value] in columns.items() if type(value) is int])
-
-    def _columns(self) -> dict[str, list[Any]]:
+        integers = _catalogue.find(self._test).whole
         columns: dict[str, list[Any]] = {}
+        whole: list[str] = []
         for name, value in {**self._answer["inputs"], **self._answer["results"]}.items():
-            if isinstance(value, tuple):
-                columns |= {f"{name}{i}": [each] for i, each in enumerate(value, 1)}
-            else:
-                columns[name] = [value]
-        return columns
+            entries = (
+                {f"{name}{i}": each for i, each in enumerate(value, 1)} if isinstance(value, tuple) else {name: value}
+            )
+            columns |= {column: [math.nan if each is None else each] for column, each in entries.items()}
+            whole += entries if name in integers else []
+        return frame_of_columns(columns, engine, whole)
 
     def _rows(self) -> list[tuple[str, str]]:
         """The rows of the program's table: a label, and what it stands before."""
