@@ -1,6 +1,5 @@
 """The notebook is run, and what its cells give is what it holds."""
 
-import sys
 from pathlib import Path
 
 import pytest
@@ -8,9 +7,8 @@ import pytest
 pytest.importorskip("nbclient")
 pytest.importorskip("ipykernel")
 pytest.importorskip("matplotlib")
-sys.path.insert(0, str(Path(__file__).parent))
-import nbformat  # noqa: E402
-import notebooks  # noqa: E402
+import nbformat
+import notebooks
 
 NOTEBOOK = Path(__file__).resolve().parents[2] / "examples" / "plan_a_study.ipynb"
 
