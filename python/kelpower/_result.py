@@ -47,6 +47,10 @@ class Explanation:
         return self.text
 
 
+# As json.loads, without a look for other kinds of text.
+_parse = json.JSONDecoder().raw_decode
+
+
 def _typed(value: Any, is_whole: bool) -> Any:
     if isinstance(value, list):
         return tuple(_typed(each, is_whole) for each in value)
@@ -100,15 +104,10 @@ class Result:
 
     def _read(self) -> dict[str, Any]:
         """The JSON with sizes as ints and all other numbers as floats."""
-        reply: dict[str, Any] = json.loads(self._text)
-        test = _catalogue.find(self._test)
-        whole = {name for name, parameter in test.parameters.items() if parameter.whole}
-
-        def typed(values: Mapping[str, Any], integers: frozenset[str] | set[str]) -> dict[str, Any]:
-            return {name: _typed(value, name in integers) for name, value in values.items()}
-
-        reply["inputs"] = typed(reply["inputs"], whole)
-        reply["results"] = typed(reply["results"], test.sizes | whole)
+        reply: dict[str, Any] = _parse(self._text)[0]
+        whole = _catalogue.find(self._test).whole
+        for part in ("inputs", "results"):
+            reply[part] = {name: _typed(value, name in whole) for name, value in reply[part].items()}
         return reply
 
     def __getattr__(self, name: str) -> Any:
