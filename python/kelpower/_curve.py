@@ -229,7 +229,7 @@ class Curves(Sequence[Curve]):
         return f"<Curves of {self.curves[0].test}: {', '.join(curve.label for curve in self.curves)}>"
 
 
-@dataclass(frozen=True)
+@dataclass(frozen=True, eq=False)
 class Level:
     """The lines on which a surface has a power.
 

@@ -1,6 +1,7 @@
 """Charts as arrays."""
 
 import json
+import pickle
 
 import kelpower
 import numpy as np
@@ -191,6 +192,14 @@ def test_charts_do_not_change():
         power.x = 1
     with pytest.raises(ValueError, match="read-only"):
         power.power[0] = 1
+
+
+@pytest.mark.parametrize("chart", ["n", "n-effect_d"])
+def test_charts_can_be_pickled(chart):
+    drawn = kelpower.two_means(**D).curve(chart)
+    again = pickle.loads(pickle.dumps(drawn))
+    assert again.power.tolist() == drawn.power.tolist()
+    assert (again.design, again.fixed, repr(again)) == (drawn.design, drawn.fixed, repr(drawn))
 
 
 @pytest.mark.parametrize(
