@@ -16,7 +16,7 @@ CORE := kelcommon engine vectors frame anova means proportions correlation regre
 space := $() $()
 PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
 
-.PHONY: help run test test-core $(PLATFORMS) wheel test-python build bench bench-peers bench-before bench-wasm lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
+.PHONY: help run test test-core $(PLATFORMS) wheel test-python build bench bench-peers bench-before bench-wasm bench-python bench-scipy lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean
 
 run: configure-$(PRESET) ## build the program and plan a real study
 	@echo "Building the program; the first time this takes a minute or two ..."
@@ -58,7 +58,7 @@ cross-%:
 test-fma: configure-fma ## the distributions and the reference cases with products and sums fused
 	@sh tools/test_fma.sh build/fma $(JOBS)
 
-wheel: ## build, check and test the Python package: its wheel and its sdist, each in a virtual environment of its own
+wheel: ## build the sdist and the wheel of the Python package, check them, and test the wheel in a virtual environment
 	@sh tools/install_packages.sh python
 	@sh tools/python/wheel.sh build/python-package
 
@@ -84,6 +84,18 @@ bench-wasm: configure-$(PRESET) ## measure speed as WebAssembly beside the nativ
 	@cmake --build $(BUILD) -j $(JOBS) --target kelpower_timing
 	@cmake --build --preset wasm -j $(JOBS) --target kelpower_timing
 	@python3 -B tools/peers/wasm.py $(BUILD) build/wasm docs/performance.md
+
+bench-scipy: ## measure the distributions in Python beside SciPy's and write it into docs/performance.md and docs/python-lib.md
+	@sh tools/install_packages.sh build
+	@python3 -m venv build/peers/scipy && build/peers/scipy/bin/pip install --quiet . scipy
+	@build/peers/scipy/bin/python -B tools/peers/scipy_distributions.py . docs/performance.md docs/python-lib.md
+
+bench-python: configure-$(PRESET) ## measure the Python package beside the library and statsmodels and write it into docs/performance.md
+	@sh tools/install_packages.sh python
+	@cmake --build $(BUILD) -j $(JOBS) --target kelpower_core_loop
+	@sh tools/peers/unpack_statsmodels.sh build/peers/statsmodels || echo "statsmodels is left out"
+	@python3 -m pip install --quiet --disable-pip-version-check --upgrade --no-deps --target build/peers/package .
+	@python3 -B tools/peers/from_python.py $(BUILD) build/peers/package build/peers/statsmodels docs/performance.md
 
 worst: build ## search the distributions for their largest errors and keep the worst points among the references
 	@python3 -m venv build/venv && build/venv/bin/pip install --quiet python-flint

@@ -90,11 +90,13 @@ void Draw(Call& call) {
 void Convert(Call& call) {
   const JsonTree tree = ReadJson(call.request);
   call.names = NamesOf(tree);
-  const Request request(tree, planner::EffectSizes().inputs, {"explain"});
+  const Request request(tree, planner::EffectSizes().inputs, {"explain", "text"});
   if (call.IsStopped()) throw planner::Stopped();
   const planner::Report report = planner::ConvertEffect(request.Values(), request.IsSet("explain"));
+  const bool hasText = request.IsSet("text");
   Reply reply(call);
   planner::WriteReport(reply, report);
+  if (hasText) reply.Text("text", planner::RenderText(report));
   reply.CloseObject();
 }
 

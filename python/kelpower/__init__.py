@@ -12,11 +12,16 @@ One function for each test, in which what is left out is what is solved for:
 
 from . import dist, lib, ufuncs
 from ._core import version as __version__
+from ._curve import Curve, Curves, Surface
+from ._densities import Densities
+from ._effect import effect
+from ._effect_sizes import EffectSizes
 from ._errors import InputError, KelpowerError, NoSolution, NoSolutionWarning
 from ._frames import arrow_batches, arrow_schema, arrow_udf, frame_meta, solve_frame, spark_schema
 from ._functions import *  # noqa: F403
 from ._functions import __all__ as _tests
 from ._grid import grid
+from ._lines import plot
 from ._result import Explanation, Result
 from ._results import Results
 from ._ufunc import ufunc
@@ -24,6 +29,10 @@ from .lib import MISSING
 
 __all__ = [
     "MISSING",
+    "Curve",
+    "Curves",
+    "Densities",
+    "EffectSizes",
     "Explanation",
     "InputError",
     "KelpowerError",
@@ -31,14 +40,17 @@ __all__ = [
     "NoSolutionWarning",
     "Result",
     "Results",
+    "Surface",
     "__version__",
     "arrow_batches",
     "arrow_schema",
     "arrow_udf",
     "dist",
+    "effect",
     "frame_meta",
     "grid",
     "lib",
+    "plot",
     "solve_frame",
     "spark_schema",
     "ufunc",

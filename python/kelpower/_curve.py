@@ -154,7 +154,9 @@ class Curve(_OfQuantity):
         return {self.axis.name: self.x, _column(self.quantity): self.values}
 
     def __repr__(self) -> str:
-        return f"<{type(self).__name__} of {self.test}: {self.value_title} over {self.axis.title}, {len(self.x)} points>"
+        return (
+            f"<{type(self).__name__} of {self.test}: {self.value_title} over {self.axis.title}, {len(self.x)} points>"
+        )
 
 
 @dataclass(frozen=True, eq=False)
@@ -410,9 +412,9 @@ def _mark(reply: Mapping[str, Any], index: int) -> Mark | None:
     design = reply["curves"][index].get("design")
     if design is None:
         return None
-    at = [*map(float, design["at"]), None]
+    x, *y = map(float, design["at"])
     value = float(design[underscored(reply["quantity"])])
-    return Mark(at[0], at[1], _quantity(reply), value, reply["picture"]["designs"][index])
+    return Mark(x, y[0] if y else None, _quantity(reply), value, reply["picture"]["designs"][index])
 
 
 def _axes(reply: Mapping[str, Any]) -> list[Axis]:

@@ -73,9 +73,11 @@ def _raise(status: int, answer: str, request: Mapping[str, Any]) -> None:
         raise_for(status, problem)
 
 
-def ask(door: Callable[[bytes], tuple[int, str]], test: str, inputs: Inputs, **members: Any) -> str:
+def ask(door: Callable[[bytes], tuple[int, str]], test: str | None, inputs: Inputs, **members: Any) -> str:
     """The answer to a request as JSON. Raises what an error stands for."""
-    request = {"test": test, "names": "underscore", "inputs": inputs, **members}
+    request = {"names": "underscore", "inputs": inputs, **members}
+    if test is not None:
+        request["test"] = test
     status, answer = door(encoded(request))
     if status:
         _raise(status, answer, request)

@@ -5,16 +5,18 @@ from __future__ import annotations
 import html
 import json
 import math
-from collections.abc import Mapping
+from collections.abc import Mapping, Sequence
 from dataclasses import dataclass
 from typing import TYPE_CHECKING, Any
 
 from . import _catalogue, _request
+from ._densities import Densities, densities_of
+from ._errors import InputError
 
 if TYPE_CHECKING:
     from matplotlib.axes import Axes
 
-    from ._curve import Curve
+    from ._curve import Curve, Surface
 
 
 @dataclass(frozen=True)
@@ -46,8 +48,14 @@ class Explanation:
         return self.text
 
 
-def _frozen(value: Any) -> Any:
-    return tuple(value) if isinstance(value, list) else value
+# As json.loads, without a look for other kinds of text.
+_parse = json.JSONDecoder().raw_decode
+
+
+def _typed(value: Any, is_whole: bool) -> Any:
+    if isinstance(value, list):
+        return tuple(_typed(each, is_whole) for each in value)
+    return float(value) if type(value) is int and not is_whole else value
 
 
 class Result:
@@ -97,18 +105,10 @@ class Result:
 
     def _read(self) -> dict[str, Any]:
         """The JSON with sizes as ints and all other numbers as floats."""
-        reply: dict[str, Any] = json.loads(self._text)
-        test = _catalogue.find(self._test)
-        whole = {name for name, parameter in test.parameters.items() if parameter.whole}
-
-        def typed(values: Mapping[str, Any], integers: frozenset[str] | set[str]) -> dict[str, Any]:
-            return {
-                name: float(value) if type(value) is int and name not in integers else _frozen(value)
-                for name, value in values.items()
-            }
-
-        reply["inputs"] = typed(reply["inputs"], whole)
-        reply["results"] = typed(reply["results"], test.sizes | whole)
+        reply: dict[str, Any] = _parse(self._text)[0]
+        whole = _catalogue.find(self._test).whole
+        for part in ("inputs", "results"):
+            reply[part] = {name: _typed(value, name in whole) for name, value in reply[part].items()}
         return reply
 
     def __getattr__(self, name: str) -> Any:
@@ -155,7 +155,7 @@ class Result:
         return self._answer.get("note")
 
     @property
-    def method(self) -> str:
+    def title(self) -> str:
         """The name of the test, for reading."""
         return _catalogue.find(self._test).title
 
@@ -216,40 +216,59 @@ class Result:
         """
         return self._call("program")
 
-    def densities(self) -> dict[str, Any] | None:
-        """The distributions of the test statistic without and with the effect, as arrays for a picture.
+    def densities(self) -> Densities | None:
+        """The distributions of the test statistic without and with the effect, for a picture.
 
         Returns
         -------
-        dict or None
-            ``x``, ``without`` and ``with`` (401 points each), where the test rejects, and the areas there. None where
-            no single statistic has the power as its area.
+        Densities or None
+            Arrays, where the test rejects, and the areas there. None where no single statistic has the power as its
+            area.
 
         """
         reply: dict[str, Any] = json.loads(_request.solve(self._test, self._given, densities=True))
-        found: dict[str, Any] | None = reply["densities"]
-        return found
+        return densities_of(self.title, reply["densities"]) if reply["densities"] else None
 
-    def curve(self, chart: str, **options: Any) -> Curve:
+    def curve(
+        self,
+        chart: str,
+        *,
+        start: float | Sequence[float] | None = None,
+        stop: float | Sequence[float] | None = None,
+        step: float | None = None,
+        y: str | None = None,
+    ) -> Curve | Surface:
         """The power, or for intervals the half-width, over a number of the design.
 
         Parameters
         ----------
         chart : str
             What it is drawn over, such as ``"n"``; two names with a hyphen between them make a surface.
-        **options
-            ``start`` and ``stop`` (a number, or two of a surface), ``step`` (a share of the range) and ``y`` (``"n"``
-            for the sizes that reach the target).
+        start, stop : float, or two of a surface, optional
+            The range; without them the usual one.
+        step : float, optional
+            The distance of the points as a share of the range.
+        y : {"n"}, optional
+            Show the sizes that reach the target.
 
         Returns
         -------
-        Curve
+        Curve or Surface
             The points as arrays.
 
-        """
-        from ._curve import curve
+        Examples
+        --------
+        >>> import kelpower
+        >>> curve = kelpower.two_means(effect_d=0.5, power=0.8).curve("n")
+        >>> curve.design.x, round(curve.design.power, 4)
+        (64.0, 0.8015)
 
-        return curve(self._test, self._given, chart, **options)
+        """
+        from ._curve import Curve, Surface, curve
+
+        drawn = curve(self._test, self._given, chart, start=start, stop=stop, step=step, y=y)
+        assert isinstance(drawn, (Curve, Surface))
+        return drawn
 
     def plot(self, chart: str = "n", *, ax: Axes | None = None, **options: Any) -> Axes:
         """Draw a chart with matplotlib.
@@ -257,7 +276,7 @@ class Result:
         Parameters
         ----------
         chart : str
-            As in `curve`.
+            As in `curve`, or ``"densities"`` for the distributions of the test statistic.
         ax : matplotlib.axes.Axes, optional
             Where to draw; a new figure without it.
         **options
@@ -269,9 +288,13 @@ class Result:
             What was drawn on.
 
         """
-        from ._plot import draw
+        from ._plot import draw, draw_densities
 
-        return draw(self.curve(chart, **options), ax)
+        if chart != "densities":
+            return draw(self.curve(chart, **options), ax)
+        if (densities := self.densities()) is None:
+            raise InputError("No single statistic of this test has the power as its area.", {"parameter": "chart"})
+        return draw_densities(densities, ax)
 
     def to_dict(self) -> dict[str, Any]:
         """Everything that the answer holds, with numbers, strings, lists and dictionaries alone."""
@@ -307,15 +330,9 @@ class Result:
         return frame_of_columns(columns, engine, whole)
 
     def _rows(self) -> list[tuple[str, str]]:
-        labels = _catalogue.find(self._test).labels
-
-        def shown(value: Any) -> str:
-            if isinstance(value, tuple):
-                return ", ".join(map(shown, value))
-            return f"{value:.4g}" if isinstance(value, float) else str(value)
-
-        parts = [*self._answer["inputs"].items(), *self._answer["results"].items()]
-        return [(labels.get(name, name), shown(value)) for name, value in parts if value is not False]
+        """The rows of the program's table: a label, and what it stands before."""
+        rows = [line.strip() for line in str(self).splitlines() if line.startswith("  ")]
+        return [(label, value.strip()) for label, _, value in (row.partition("  ") for row in rows)]
 
     def _repr_html_(self) -> str:
         rows = "".join(
@@ -323,13 +340,13 @@ class Result:
             for label, value in self._rows()
         )
         return (
-            f"<table><caption>{html.escape(self.method)}</caption><tbody>{rows}</tbody></table>"
+            f"<table><caption>{html.escape(self.title)}</caption><tbody>{rows}</tbody></table>"
             f"<p>{html.escape(self.sentence)}</p>"
         )
 
     def _repr_markdown_(self) -> str:
         lines = [f"| {label} | {value} |" for label, value in self._rows()]
-        return "\n".join([f"**{self.method}**", "", "| | |", "|---|---:|", *lines, "", self.sentence])
+        return "\n".join([f"**{self.title}**", "", "| | |", "|---|---:|", *lines, "", self.sentence])
 
     def __str__(self) -> str:
         text: str = json.loads(_request.solve(self._test, self._given, text=True))["text"]

@@ -7,7 +7,7 @@ import operator
 import sys
 import warnings
 from collections.abc import Mapping
-from typing import Any
+from typing import TYPE_CHECKING, Any
 
 import numpy as np
 from numpy.typing import NDArray
@@ -16,6 +16,11 @@ from ._catalogue import TARGETS
 from ._errors import KelpowerError, NoSolutionWarning
 from ._many import Many, Outcome
 from ._result import Result
+
+if TYPE_CHECKING:
+    from matplotlib.axes import Axes
+
+    from ._curve import Curve, Curves, Surface
 
 
 def _whole(values: NDArray[np.float64]) -> NDArray[Any]:
@@ -141,6 +146,53 @@ class Results:
 
         kept = {name: value for name, value in self._many.given.items() if name not in changes}
         return answer(self.test, kept | {name: value for name, value in changes.items() if value is not None})
+
+    def curve(self, chart: str, **options: Any) -> Curve | Curves | Surface:
+        """A curve for each value of the argument that has several.
+
+        Parameters
+        ----------
+        chart : str
+            As of `Result.curve`.
+        **options
+            As of `Result.curve`.
+
+        Returns
+        -------
+        Curves
+            A `Curve` for each value.
+
+        Raises
+        ------
+        InputError
+            More than one argument has several values.
+
+        """
+        from ._curve import curve
+
+        return curve(self.test, self._many.given, chart, **options)
+
+    def plot(self, chart: str = "n", *, ax: Axes | None = None, **options: Any) -> Axes:
+        """Draw a curve for each value of the argument that has several.
+
+        Parameters
+        ----------
+        chart : str
+            As of `Result.curve`.
+        ax : matplotlib.axes.Axes, optional
+            Where to draw; a new figure without it.
+        **options
+            As of `Result.curve`.
+
+        Returns
+        -------
+        matplotlib.axes.Axes
+            What was drawn on.
+
+        """
+        from ._plot import draw
+
+        return draw(self.curve(chart, **options), ax)
 
     def to_dict(self) -> dict[str, NDArray[Any]]:
         """Columns of equal length, a row a design: the arguments that were given, the results, the status."""

@@ -10,7 +10,14 @@ if TYPE_CHECKING:
 
 # Colours of Okabe and Ito, each with dashes of its own.
 COLOURS = ("#0072b2", "#d55e00", "#009e73", "#cc79a7", "#333333", "#e69f00")
-DASHES: tuple[Any, ...] = ("-", (0, (5, 3)), (0, (7, 2.5, 1.5, 2.5)), (0, (1.2, 1.8)), (0, (6, 2, 1, 2, 1, 2)), (0, (9, 3)))
+DASHES: tuple[Any, ...] = (
+    "-",
+    (0, (5, 3)),
+    (0, (7, 2.5, 1.5, 2.5)),
+    (0, (1.2, 1.8)),
+    (0, (6, 2, 1, 2, 1, 2)),
+    (0, (9, 3)),
+)
 
 # Of the levels of power, in their order.
 LEVEL_DASHES: tuple[Any, ...] = ((0, (1.2, 2.5)), "-", (0, (5, 3)), (0, (7, 2.5, 1.5, 2.5)))
@@ -18,7 +25,7 @@ LEVEL_DASHES: tuple[Any, ...] = ((0, (1.2, 2.5)), "-", (0, (5, 3)), (0, (7, 2.5,
 SHADES = ((0, "#f7fbff"), (0.5, "#c6dbef"), (0.8, "#9ecae1"), (1, "#5a9bcb"))
 
 LINE = 1.8
-MARK: dict[str, Any] = {"marker": "o", "color": "#b03a2e", "markersize": 6.5, "linestyle": "none", "zorder": 5}
+MARK: dict[str, Any] = {"marker": "o", "color": "#b03a2e", "markersize": 6, "linestyle": "none", "zorder": 5}
 FRAME = "#555555"
 GRID = "#dddddd"
 SMALL = "#444444"
@@ -47,7 +54,9 @@ def axes_or_new(ax: Axes | None) -> Axes:
         from matplotlib import pyplot
     except ImportError as error:
         raise needed("matplotlib") from error
-    _, new = pyplot.subplots(figsize=(7.5, 5.3), layout="constrained")
+    from matplotlib.layout_engine import ConstrainedLayoutEngine
+
+    _, new = pyplot.subplots(figsize=(7.5, 5.3), layout=ConstrainedLayoutEngine(w_pad=0.12, h_pad=0.08))
     return new
 
 
@@ -62,9 +71,19 @@ def frame(ax: Axes) -> None:
     ax.set_axisbelow(True)
 
 
+def values_axis(ax: Axes, quantity: str) -> None:
+    """Powers from 0 to 1 with a line at the usual target; other values from 0 on."""
+    if quantity != "power":
+        ax.set_ylim(bottom=0)
+        return
+    ax.set_ylim(0, 1)
+    ax.set_yticks([0, 0.2, 0.4, 0.6, 0.8, 1], labels=["0", "0.2", "0.4", "0.6", "0.8", "1"])
+    ax.axhline(0.8, color="#999999", linewidth=0.9, zorder=1)
+
+
 def titles(ax: Axes, title: str, pieces: Sequence[str], further: Iterable[str] = ()) -> None:
     """A title above smaller lines of what is held fixed."""
-    size = _points(ax, "axes.titlesize")
+    size = _title_size()
     small = 0.75 * size
     lines = [*_lines(pieces, _characters(ax, small)), *(line for line in further if line)]
     for i, line in enumerate(reversed(lines)):
@@ -84,17 +103,17 @@ def titles(ax: Axes, title: str, pieces: Sequence[str], further: Iterable[str] =
     ax.set_title(title, pad=6 + 1.25 * small * len(lines))
 
 
-def _points(ax: Axes, setting: str) -> float:
-    """A size of text in points, which a setting may say in words."""
+def _title_size() -> float:
+    """The size of titles in points, which the settings may say in words."""
     from matplotlib import rcParams
     from matplotlib.font_manager import FontProperties
 
-    return float(FontProperties(size=rcParams[setting]).get_size_in_points())
+    return float(FontProperties(size=rcParams["axes.titlesize"]).get_size_in_points())
 
 
 def _characters(ax: Axes, size: float) -> int:
     """How many characters fit above the axes."""
-    width = 72 * ax.get_position().width * ax.get_figure(root=True).get_figwidth()
+    width = 72 * ax.bbox.width / ax.figure.dpi
     return max(24, int(width / (0.52 * size)))
 
 
@@ -108,16 +127,12 @@ def _lines(pieces: Sequence[str], characters: int) -> list[str]:
     return lines
 
 
-def key(ax: Axes, is_ours: bool, columns: int = 3) -> None:
-    """The key: below the axes of a figure of ours, and where there is room in axes of others."""
-    if is_ours:
-        ax.legend(
-            loc="upper center",
-            bbox_to_anchor=(0.5, -0.13),
-            ncols=columns,
-            frameon=False,
-            handlelength=3.5,
-            borderaxespad=0,
-        )
-    else:
+def key(ax: Axes, is_ours: bool) -> None:
+    """The key: below the axes in a figure of ours, and where there is room in axes of others."""
+    if not is_ours:
         ax.legend(loc="best", handlelength=3, fontsize="small", framealpha=0.9, edgecolor=GRID)
+        return
+    lines, labels = ax.get_legend_handles_labels()
+    ax.figure.legend(
+        lines, labels, loc="outside lower center", ncols=min(len(labels), 5), frameon=False, handlelength=3
+    )

@@ -204,8 +204,9 @@ def statsmodels_proportions(diff, prop2, nobs1, ratio=1, alpha=0.05, value=0, al
                             return_results=True):
     side = direction(alternative)
     turned = side * diff < 0
-    return Asked("two_proportions", {"proportions": (prop2 + diff, prop2), "one_sided": side != 0,
-                                     "n": (whole(nobs1), whole(nobs1 * ratio)), "alpha": 1 - alpha if turned else alpha},
+    inputs = {"proportions": (prop2 + diff, prop2), "one_sided": side != 0,
+              "n": (whole(nobs1), whole(nobs1 * ratio)), "alpha": 1 - alpha if turned else alpha}
+    return Asked("two_proportions", inputs,
                  lambda answer: 1 - answer.power if turned else answer.power)
 
 
@@ -255,7 +256,8 @@ class Converted:
 
 
 def statsmodels_effect(prop1, prop2):
-    return Converted({"proportions": [prop1, prop2]}, "effect_h")
+    """Cohen's h, which is that of the second proportion minus the first with us."""
+    return Converted({"proportions": [prop2, prop1]}, "h")
 
 
 def pingouin_t(d=None, n=None, power=None, alpha=0.05, contrast="two-samples", alternative="two-sided"):
@@ -278,8 +280,8 @@ def pingouin_anova(eta_squared=None, k=None, n=None, power=None, alpha=0.05):
 def pingouin_repeated(eta_squared=None, m=None, n=None, power=None, alpha=0.05, corr=0.5, epsilon=1):
     """The F test of m repeated measures, where it has whole degrees of freedom.
 
-    F has m - 1 and (n - 1)(m - 1) degrees of freedom and the noncentrality f^2 n m / (1 - corr): that of m - 1 predictors
-    without an intercept in n (m - 1) cases, and for two measures that of the paired t test.
+    F has m - 1 and (n - 1)(m - 1) degrees of freedom and the noncentrality f^2 n m / (1 - corr): that of m - 1
+    predictors without an intercept in n (m - 1) cases, and for two measures that of the paired t test.
     """
     if m is None:
         raise Untranslated("the number of repeated measures as the unknown")
@@ -325,7 +327,8 @@ TRANSLATIONS = {
     "FTestPowerF2.power": statsmodels_f2, "FTestPowerF2.solve_power": statsmodels_f2,
     "power_proportions_2indep": statsmodels_proportions, "normal_sample_size_one_tail": statsmodels_one_tail,
     "samplesize_proportions_2indep_onetail": statsmodels_proportions_size,
-    "proportion_effectsize": statsmodels_effect, "proportion_confint": statsmodels_interval, "samplesize_confint_proportion": statsmodels_interval_size,
+    "proportion_effectsize": statsmodels_effect, "proportion_confint": statsmodels_interval,
+    "samplesize_confint_proportion": statsmodels_interval_size,
     "power_ttest": pingouin_t, "power_ttest2n": pingouin_t_groups, "power_anova": pingouin_anova,
     "power_rm_anova": pingouin_repeated, "power_corr": pingouin_correlation, "power_chi2": pingouin_chi_square,
 }

@@ -1,7 +1,8 @@
 """The cases of statsmodels' and pingouin's own tests of power, asked of kelpower.
 
-The cases are data in peers/, made by peers/extract.py. Each is compared at the tolerance of the test it comes from, unless
-peers/differences.json explains why the two differ, or why kelpower has no such question. What is explained is shown.
+The cases are data in peers/, made by peers/extract.py. Each is compared at the tolerance of the test it comes from,
+unless peers/differences.json explains why the two differ, or why kelpower has no such question. What is explained is
+shown to be so.
 """
 
 import json
@@ -81,12 +82,9 @@ def test_what_is_explained_does_differ(name):
 def test_has_no_counterpart(name):
     """The reason is given, and it is the translation that says so."""
     assert WITHOUT[name]
+    question = CASES[name]["question"]
     with pytest.raises(Untranslated):
-        question = CASES[name]["question"]
-        if "call" in question:
-            asked(question)
-        else:
-            value_of(question)
+        (asked if "call" in question else value_of)(question)
 
 
 def test_lists_name_cases_that_exist():

@@ -4,6 +4,7 @@ import json
 import unittest
 
 import before
+import from_python
 import page
 import sections
 import wasm
@@ -20,10 +21,12 @@ class SectionsTest(unittest.TestCase):
         self.assertEqual(new.replace(sections.kept(new), ""), PAGE)
 
     def test_one_section_is_replaced_alone_and_in_order(self):
-        new = sections.replaced(PAGE, "webassembly", "wasm\n")
+        new = sections.replaced(PAGE, "scipy", "scipy\n")
+        new = sections.replaced(new, "webassembly", "wasm\n")
         new = sections.replaced(new, "before", "old\n")
         new = sections.replaced(new, "before", "new\n")
-        self.assertEqual([sections.body_of(new, name) for name in sections.NAMES], ["new\n", "wasm\n"])
+        self.assertEqual([sections.body_of(new, name) for name in sections.NAMES],
+                         [None, "new\n", "wasm\n", "scipy\n"])
         self.assertNotIn("old\n", new)
         self.assertLess(new.index("new\n"), new.index("wasm\n"))
         self.assertEqual(new.count("Tables."), 1)
@@ -88,6 +91,30 @@ class WasmTest(unittest.TestCase):
                    "wasm": [wasm.read_timings("power\t0.81\t1e-06\n")]}
         with self.assertRaises(wasm.Disagreement):
             wasm.rows_of(timings)
+
+
+class FromPythonTest(unittest.TestCase):
+    TEXT = ("loop\t5.5\t1.0\t1.0\nufunc\t5.5\t1.1\t1.2\ntwo threads\t5.5\t1.2\t0.6\nfunction\t0.7\t0.05\t0.05\n"
+            "ufunc on scalars\t0.7\t0.01\t0.01\nsizes\t9\t0.5\t0.5\n")
+
+    def test_relates_the_times(self):
+        timings, _ = from_python.read_timings(self.TEXT)
+        rows = from_python.rows_of(timings)
+        self.assertEqual([row[2] for row in rows[1:3]],
+                         ["1.10 times as long as the loop", "2.00 times as fast as on one"])
+        self.assertEqual([row[1] for row in rows[3:5]], ["10 µs", "2.0 µs"])
+        self.assertEqual(len(rows), 6)
+
+    def test_statsmodels_is_asked_for_some_of_the_sizes(self):
+        timings, versions = from_python.read_timings(self.TEXT + "sizes of statsmodels\t9\t0.4\t0.4\nversion\tSciPy\t1\n")
+        self.assertEqual(versions, {"SciPy": "1"})
+        self.assertEqual(from_python.rows_of(timings)[-1][1:],
+                         ["200 s", "400 times as long as the ufunc, with the same sizes"])
+
+    def test_other_powers_are_not_taken(self):
+        timings, _ = from_python.read_timings(self.TEXT.replace("ufunc\t5.5", "ufunc\t5.500000001"))
+        with self.assertRaises(from_python.Disagreement):
+            from_python.section(timings, {}, "m")
 
 
 if __name__ == "__main__":

@@ -3,7 +3,7 @@
 Each stands between two marks, so that it is replaced alone, and survives when the rest of the page is written anew.
 """
 
-NAMES = ("before", "webassembly", "scipy")  # in the order of the page
+NAMES = ("python", "before", "webassembly", "scipy")  # in the order of the page
 FOLLOWING = "## All benchmarks\n"
 
 

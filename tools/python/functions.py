@@ -1,6 +1,7 @@
 """The functions of the Python package as text: a signature and a docstring for each test, from its description."""
 
 import json
+import re
 import textwrap
 
 from kelpower import _core
@@ -28,7 +29,7 @@ def default_of(parameter):
 
 def with_names(text):
     """A text whose names in braces are those of arguments."""
-    return text.replace("{", "`").replace("}", "`").replace("`effect-", "`effect_").replace("half-width`", "half_width`")
+    return re.sub(r"\{([^}]*)\}", lambda name: f"`{underscored(name[1])}`", text)
 
 
 def allowed(test, parameter):

@@ -8,6 +8,7 @@ import json
 import sys
 from pathlib import Path
 
+import effect
 import functions
 import ufunc_table
 from kelpower import _core
@@ -16,8 +17,10 @@ PACKAGE = Path(__file__).resolve().parents[2] / "python" / "kelpower"
 
 
 def texts():
-    tests = json.loads(_core.describe())["tests"]
-    return {"_functions.py": functions.module(tests), "_functions.pyi": functions.stub(tests),
+    description = json.loads(_core.describe())
+    tests = description["tests"]
+    return {"_effect.py": effect.module(description["effects"]),
+            "_functions.py": functions.module(tests), "_functions.pyi": functions.stub(tests),
             "_ufunc_table.py": ufunc_table.module(tests), "ufuncs.pyi": ufunc_table.stub(tests)}
 
 

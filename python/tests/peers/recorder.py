@@ -1,7 +1,7 @@
 """Runs the test functions of another package without that package, and writes down what they call and expect.
 
-The names that a test file imports are replaced by recorders. A recorder answers with a `Call`, which keeps what was asked
-of it, and the assertions see calls in place of numbers.
+The names that a test file imports are replaced by recorders. A recorder answers with a `Call`, which keeps what was
+asked of it, and the assertions see calls in place of numbers.
 """
 
 import ast
