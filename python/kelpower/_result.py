@@ -77,18 +77,20 @@ class Result:
 
     """
 
-    __slots__ = ("_given", "_reply", "_test", "_text")
+    __slots__ = ("_given", "_reply", "_test", "_text", "_words")
 
     _test: str
     _given: Mapping[str, Any]
     _text: str
     _reply: dict[str, Any] | None
+    _words: dict[str, Any] | None
 
     def __init__(self, test: str, given: Mapping[str, Any], text: str) -> None:
         object.__setattr__(self, "_test", test)
         object.__setattr__(self, "_given", given)
         object.__setattr__(self, "_text", text)
         object.__setattr__(self, "_reply", None)
+        object.__setattr__(self, "_words", None)
 
     def __setattr__(self, name: str, value: object) -> None:
         raise AttributeError(f"a result does not change; replace({name}=...) asks for a variant")
@@ -200,8 +202,16 @@ class Result:
             text=reply["text"],
         )
 
+    def _in_words(self) -> dict[str, Any]:
+        """The text and the calls, which are asked for once: the answer to an exact test may take long."""
+        if self._words is None:
+            words = json.loads(_request.solve(self._test, self._given, text=True, calls=True))
+            object.__setattr__(self, "_words", words)
+        assert self._words is not None
+        return self._words
+
     def _call(self, language: str) -> str:
-        call: str = json.loads(_request.solve(self._test, self._given, calls=True))["calls"][language]
+        call: str = self._in_words()["calls"][language]
         return call
 
     def command(self) -> str:
@@ -317,8 +327,7 @@ class Result:
         """
         from ._frames import frame_of_columns
 
-        test = _catalogue.find(self._test)
-        integers = test.sizes | {name for name, parameter in test.parameters.items() if parameter.whole}
+        integers = _catalogue.find(self._test).whole
         columns: dict[str, list[Any]] = {}
         whole: list[str] = []
         for name, value in {**self._answer["inputs"], **self._answer["results"]}.items():
@@ -349,7 +358,7 @@ class Result:
         return "\n".join([f"**{self.title}**", "", "| | |", "|---|---:|", *lines, "", self.sentence])
 
     def __str__(self) -> str:
-        text: str = json.loads(_request.solve(self._test, self._given, text=True))["text"]
+        text: str = self._in_words()["text"]
         return text.rstrip("\n")
 
     def __repr__(self) -> str:

@@ -2,13 +2,10 @@
 
 import ast
 import re
-import sys
 from pathlib import Path
 
-import pytest
-
-sys.path.insert(0, str(Path(__file__).parent))
 import kelpower
+import pytest
 
 import examples
 

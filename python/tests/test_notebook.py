@@ -1,6 +1,5 @@
 """The notebook is run, and what its cells give is what it holds."""
 
-import sys
 from pathlib import Path
 
 import pytest
@@ -8,7 +7,6 @@ import pytest
 pytest.importorskip("nbclient")
 pytest.importorskip("ipykernel")
 pytest.importorskip("matplotlib")
-sys.path.insert(0, str(Path(__file__).parent))
 import nbformat
 import notebooks
 

@@ -219,3 +219,15 @@ def test_what_is_behind_an_answer(test, inputs):
 def test_a_figure_behind_an_answer(design):
     explained = design.explain()
     assert explained.figures["noncentrality"] == pytest.approx(0.5 * np.sqrt(32), rel=1e-12)
+
+
+def test_words_are_asked_for_once(design, monkeypatch):
+    from kelpower import _request
+
+    asked = []
+    solve = _request.solve
+    monkeypatch.setattr(_request, "solve", lambda *given, **members: asked.append(members) or solve(*given, **members))
+    texts = (str(design), repr(design), design.command(), design._repr_html_(), design._repr_markdown_())
+    assert asked == [{"text": True, "calls": True}]
+    assert texts == (str(design), repr(design), design.command(), design._repr_html_(), design._repr_markdown_())
+    assert len(asked) == 1
