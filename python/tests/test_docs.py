@@ -53,6 +53,7 @@ def test_examples_of_documents(document, tmp_path, monkeypatch):
         text, printed = examples.texts(block, names)
         assert block.text == text, f"{document.name}, line {block.line}"
         assert block.printed == printed, f"{document.name}, line {block.line}"
+    names.clear()  # what packages hold of it would otherwise never be released
     if left_out:
         pytest.skip(f"not run, because packages are missing: {'; '.join(left_out)}")
 
