@@ -17,7 +17,7 @@ space := $() $()
 WASM_MODULE := build/wasm/web/core
 PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
 
-.PHONY: help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python r test-r
+.PHONY: help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python r test-r bench-scipy
 
 run: configure-$(PRESET) ## build the program and plan a real study
 	@echo "Building the program; the first time this takes a minute or two ..."
@@ -112,6 +112,11 @@ bench-wasm: configure-$(PRESET) ## measure speed as WebAssembly beside the nativ
 	@cmake --build $(BUILD) -j $(JOBS) --target kelpower_timing
 	@cmake --build --preset wasm -j $(JOBS) --target kelpower_timing
 	@python3 -B tools/peers/wasm.py $(BUILD) build/wasm docs/performance.md
+
+bench-scipy: ## measure the distributions in Python beside SciPy's and write it into docs/performance.md and docs/python-lib.md
+	@sh tools/install_packages.sh build
+	@python3 -m venv build/peers/scipy && build/peers/scipy/bin/pip install --quiet . scipy
+	@build/peers/scipy/bin/python -B tools/peers/scipy_distributions.py . docs/performance.md docs/python-lib.md
 
 bench-python: configure-$(PRESET) ## measure the Python package beside the library and statsmodels and write it into docs/performance.md
 	@sh tools/install_packages.sh python

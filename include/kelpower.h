@@ -1012,9 +1012,8 @@ KELPOWER_API XYPlot PlotNPartialoutOneSampPartial(double sampleSize, double alte
 /// \param effectSize f^2, the variance explained by the tested predictors over the unexplained one; not checked. One
 ///        below 0 gives power 1 with fixed predictors and NaN with random ones
 /// \param randomPredictors 0: predictors fixed by design, noncentral F with noncentrality N f^2. Otherwise:
-/// multivariate
-///        normal predictors, exact distribution of the squared multiple correlation. Charts are drawn more coarsely
-///        when it is exactly 1, and not at other values, which is intended
+///        multivariate normal predictors, exact distribution of the squared multiple correlation. Charts are drawn more
+///        coarsely when it is exactly 1, and not at other values, which is intended
 /// \param includeIntercept flag: the model has an intercept, so the error degrees of freedom are N - p - 1, not N - p
 /// \param alpha significance level, in (0, 1); one below 5.6e-17 is rejected
 /// \param power wanted power; not checked

@@ -61,7 +61,9 @@ inline Unknown UnknownRatio() {
           .reason = "a larger second group estimates its mean better",
           .set =
               [](Inputs& in, double at) {
-                in.SetEntry("n", 1, in.List("n")[0] * at);
+                const double size = in.List("n")[0] * at;
+                const double whole = std::round(size);  // an attainable ratio times the size may miss it by a rounding
+                in.SetEntry("n", 1, std::abs(size - whole) < 1e-12 * size ? whole : size);
                 in.Set("ratio", at);
               },
           .attainable =

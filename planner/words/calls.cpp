@@ -1,5 +1,6 @@
 #include "words/calls.h"
 
+#include <cmath>
 #include <vector>
 
 #include "words/json_writer.h"
@@ -35,18 +36,21 @@ std::vector<Given> GivenOf(const Test& test, const InputValues& values) {
   return given;
 }
 
+/// A negative zero needs its point, or it would be read as an integer, which has none.
+std::string Digits(double number) { return number == 0 && std::signbit(number) ? "-0.0" : Shortest(number); }
+
 std::string Listed(const Numbers& numbers, const std::string& separator) {
   std::vector<std::string> entries;
-  for (double number : numbers) entries.push_back(Shortest(number));
+  for (double number : numbers) entries.push_back(Digits(number));
   return Joined(entries, separator, separator);
 }
 
 std::string Written(const Grammar& language, const Value& value) {
   if (const auto* flag = std::get_if<bool>(&value)) return *flag ? language.yes : language.no;
-  if (const auto* number = std::get_if<double>(&value)) return Shortest(*number);
+  if (const auto* number = std::get_if<double>(&value)) return Digits(*number);
   if (const auto* word = std::get_if<std::string>(&value)) return '"' + *word + '"';
   const auto& numbers = std::get<Numbers>(value);
-  if (numbers.size() == 1) return Shortest(numbers.front());
+  if (numbers.size() == 1) return Digits(numbers.front());
   return language.list + Listed(numbers, ", ") + language.endOfList;
 }
 
@@ -66,7 +70,7 @@ std::string Command(const Test& test, const std::vector<Given>& given) {
       continue;
     }
     command += " --" + name + ' ';
-    if (const auto* number = std::get_if<double>(&value)) command += Shortest(*number);
+    if (const auto* number = std::get_if<double>(&value)) command += Digits(*number);
     if (const auto* word = std::get_if<std::string>(&value)) command += *word;
     if (const auto* numbers = std::get_if<Numbers>(&value)) command += Listed(*numbers, ",");
   }

@@ -42,7 +42,7 @@ class Parameter:
 
 @dataclass(frozen=True)
 class Test:
-    """A test with its inputs by name; `raw` is its whole description."""
+    """A test with its inputs by name; `whole` are its integers, and `raw` is its whole description."""
 
     name: str
     title: str
@@ -50,6 +50,7 @@ class Test:
     parameters: Mapping[str, Parameter]
     labels: Mapping[str, str]
     sizes: frozenset[str]
+    whole: frozenset[str]
     raw: Mapping[str, Any]
 
     @property
@@ -73,14 +74,17 @@ def _test(raw: Mapping[str, Any]) -> Test:
     parameters = {parameter.name: parameter for parameter in map(_parameter, raw["parameters"])}
     labels = {name: parameter.label for name, parameter in parameters.items()}
     labels |= {target: target.replace("_", " ").replace("half ", "half-") for target in TARGETS.values()}
-    labels |= {underscored(result["name"]): result["label"] for result in results}
+    # The label of the plainest question, which comes first.
+    labels |= {underscored(result["name"]): result["label"] for result in reversed(results)}
+    sizes = frozenset(underscored(result["name"]) for result in results if result["kind"] in ("size", "sizes"))
     return Test(
         name=raw["name"],
         title=raw["title"],
         groups=raw["groups"] if isinstance(raw["groups"], int) else None,
         parameters=parameters,
         labels=labels,
-        sizes=frozenset(underscored(result["name"]) for result in results if result["kind"] in ("size", "sizes")),
+        sizes=sizes,
+        whole=sizes | {name for name, parameter in parameters.items() if parameter.whole},
         raw=raw,
     )
 

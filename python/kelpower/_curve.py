@@ -109,13 +109,13 @@ class Curve(_OfQuantity):
 
     Examples
     --------
-    >>> from kelpower._curve import curve
-    >>> power = curve("two-means", {"effect_d": 0.5, "power": 0.8}, "n", start=60, stop=66)
-    >>> power.x
+    >>> import kelpower
+    >>> curve = kelpower.two_means(effect_d=0.5, power=0.8).curve("n", start=60, stop=66)
+    >>> curve.x
     array([60., 61., 62., 63., 64., 65., 66.])
-    >>> power.power.round(3)
-    array([0.775, 0.782, 0.788, 0.795, 0.801, 0.808, 0.814])
-    >>> print(power.design)
+    >>> curve.power.round(3)
+    array([0.775, 0.782, 0.789, 0.795, 0.801, 0.808, 0.814])
+    >>> print(curve.design)
     n per group = 64, power 0.80
 
     """
@@ -172,11 +172,11 @@ class Curves(Sequence[Curve]):
 
     Examples
     --------
-    >>> from kelpower._curve import curve
-    >>> three = curve("two-means", {"effect_d": [0.2, 0.5, 0.8], "power": 0.8}, "n")
-    >>> [each.label for each in three]
+    >>> import kelpower
+    >>> curves = kelpower.two_means(effect_d=[0.2, 0.5, 0.8], power=0.8).curve("n")
+    >>> [curve.label for curve in curves]
     ['effect size d 0.2', 'effect size d 0.5', 'effect size d 0.8']
-    >>> three[1].design.x
+    >>> curves[1].design.x
     64.0
 
     """
@@ -229,7 +229,7 @@ class Curves(Sequence[Curve]):
         return f"<Curves of {self.curves[0].test}: {', '.join(curve.label for curve in self.curves)}>"
 
 
-@dataclass(frozen=True)
+@dataclass(frozen=True, eq=False)
 class Level:
     """The lines on which a surface has a power.
 
@@ -269,8 +269,8 @@ class Surface:
 
     Examples
     --------
-    >>> from kelpower._curve import curve
-    >>> surface = curve("two-means", {"effect_d": 0.5, "power": 0.8}, "n-effect_d")
+    >>> import kelpower
+    >>> surface = kelpower.two_means(effect_d=0.5, power=0.8).curve("n-effect_d")
     >>> surface.power.shape == (len(surface.x), len(surface.y))
     True
     >>> [level.power for level in surface.levels]

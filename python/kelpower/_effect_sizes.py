@@ -59,8 +59,8 @@ class EffectSizes:
     0.7273
     >>> [round(limit, 3) for limit in sizes.intervals["d"]]
     [0.082, 1.364]
-    >>> print(sizes.uses[0])
-    kelpower.two_means(effect_d=0.727323861838727)
+    >>> sizes.uses[0].function
+    'two_means'
     >>> sizes.uses[0].ask(power=0.8).total
     62
 

@@ -12,7 +12,7 @@ from typing import Any, Protocol
 import numpy as np
 
 from ._errors import InputError
-from ._many import Floats
+from ._many import NO_NUMBERS, Floats
 from ._rows import Answers, Codes, Use, integers_of
 
 
@@ -41,7 +41,7 @@ def _refuse(column: object, kind: object, wanted: str) -> InputError:
 
 def number_of(value: Any) -> float:
     """A number of any kind as a double; NaN for what is none."""
-    if isinstance(value, (str, bytes, bool, np.bool_)):
+    if isinstance(value, NO_NUMBERS):
         return np.nan
     try:
         return float(value)
@@ -169,9 +169,11 @@ class _Polars:
         raise _refuse(use.column, series.dtype, _wanted(use))
 
     def _words(self, series: Any, use: Use) -> Codes:
+        import polars as pl
+
         words = series.unique()
-        codes = _codes_of(words, use)
-        return np.asarray(series.replace_strict(words, codes, default=-1, return_dtype=_polars_int()).to_numpy())
+        codes = series.replace_strict(words, _codes_of(words, use), default=-1, return_dtype=pl.Int64)
+        return np.asarray(codes.to_numpy())
 
     def joined(self, frame: Any, answers: Answers) -> Any:
         columns = {name: self._column(name, values, name in answers.sizes) for name, values in answers.results.items()}
@@ -190,12 +192,6 @@ class _Polars:
         import polars as pl
 
         return pl.DataFrame([self._column(name, values, name in whole) for name, values in columns.items()])
-
-
-def _polars_int() -> Any:
-    import polars as pl
-
-    return pl.Int64
 
 
 class _Arrow:

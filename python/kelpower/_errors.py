@@ -45,7 +45,8 @@ class InputError(KelpowerError, ValueError):
     @property
     def parameters(self) -> tuple[str, ...]:
         """All arguments concerned."""
-        return tuple(self._problem.get("parameters", ()))
+        first = () if self.parameter is None else (self.parameter,)
+        return tuple(self._problem.get("parameters", first))
 
     @property
     def value(self) -> Any:

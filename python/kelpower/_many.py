@@ -19,6 +19,9 @@ from ._errors import NO_MEMORY, STOPPED, InputError
 
 Floats = NDArray[np.float64]
 
+# What float() would take for a number among other objects.
+NO_NUMBERS = (str, bytes, bool, np.bool_, np.complexfloating, np.ndarray)
+
 # Fewer rows are not worth another thread.
 ROWS_A_THREAD = 2048
 
@@ -87,7 +90,7 @@ def _number(value: Any) -> float:
     pandas = sys.modules.get("pandas")
     if value is None or value is np.ma.masked or (pandas is not None and value is pandas.NA):
         return np.nan
-    if isinstance(value, (str, bytes, bool, np.bool_)):
+    if isinstance(value, NO_NUMBERS):
         raise TypeError(value)
     return float(value)
 

@@ -145,11 +145,13 @@ def draw_densities(densities: Densities, ax: Axes | None = None) -> Axes:
 
 def _draw_density(densities: Densities, heights: Floats, label: str, index: int, ax: Axes) -> None:
     """A density with the area where the test rejects; of counts, bars side by side."""
+    from matplotlib.colors import to_rgba
+
     style = _style.line_style(index)
     if densities.statistic == "count":
-        rejects = densities.rejects
+        colours = [to_rgba(style["color"], 0.9 if rejects else 0.3) for rejects in densities.rejects]
         places = densities.x + (0.4 * index - 0.2)
-        ax.bar(places, heights, 0.4, label=label, color=style["color"], alpha=np.where(rejects, 0.9, 0.3).tolist())
+        ax.bar(places, heights, 0.4, label=label, color=colours)
         return
     ax.plot(densities.x, heights, label=label, **style)
     # The areas end where the test rejects, and not at the points beside it.

@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import html
 import json
+import math
 from collections.abc import Mapping, Sequence
 from dataclasses import dataclass
 from typing import TYPE_CHECKING, Any
@@ -47,8 +48,14 @@ class Explanation:
         return self.text
 
 
-def _frozen(value: Any) -> Any:
-    return tuple(value) if isinstance(value, list) else value
+# As json.loads, without a look for other kinds of text.
+_parse = json.JSONDecoder().raw_decode
+
+
+def _typed(value: Any, is_whole: bool) -> Any:
+    if isinstance(value, list):
+        return tuple(_typed(each, is_whole) for each in value)
+    return float(value) if type(value) is int and not is_whole else value
 
 
 class Result:
@@ -70,18 +77,20 @@ class Result:
 
     """
 
-    __slots__ = ("_given", "_reply", "_test", "_text")
+    __slots__ = ("_given", "_reply", "_test", "_text", "_words")
 
     _test: str
     _given: Mapping[str, Any]
     _text: str
     _reply: dict[str, Any] | None
+    _words: dict[str, Any] | None
 
     def __init__(self, test: str, given: Mapping[str, Any], text: str) -> None:
         object.__setattr__(self, "_test", test)
         object.__setattr__(self, "_given", given)
         object.__setattr__(self, "_text", text)
         object.__setattr__(self, "_reply", None)
+        object.__setattr__(self, "_words", None)
 
     def __setattr__(self, name: str, value: object) -> None:
         raise AttributeError(f"a result does not change; replace({name}=...) asks for a variant")
@@ -98,18 +107,10 @@ class Result:
 
     def _read(self) -> dict[str, Any]:
         """The JSON with sizes as ints and all other numbers as floats."""
-        reply: dict[str, Any] = json.loads(self._text)
-        test = _catalogue.find(self._test)
-        whole = {name for name, parameter in test.parameters.items() if parameter.whole}
-
-        def typed(values: Mapping[str, Any], integers: frozenset[str] | set[str]) -> dict[str, Any]:
-            return {
-                name: float(value) if type(value) is int and name not in integers else _frozen(value)
-                for name, value in values.items()
-            }
-
-        reply["inputs"] = typed(reply["inputs"], whole)
-        reply["results"] = typed(reply["results"], test.sizes | whole)
+        reply: dict[str, Any] = _parse(self._text)[0]
+        whole = _catalogue.find(self._test).whole
+        for part in ("inputs", "results"):
+            reply[part] = {name: _typed(value, name in whole) for name, value in reply[part].items()}
         return reply
 
     def __getattr__(self, name: str) -> Any:
@@ -156,7 +157,7 @@ class Result:
         return self._answer.get("note")
 
     @property
-    def method(self) -> str:
+    def title(self) -> str:
         """The name of the test, for reading."""
         return _catalogue.find(self._test).title
 
@@ -201,8 +202,16 @@ class Result:
             text=reply["text"],
         )
 
+    def _in_words(self) -> dict[str, Any]:
+        """The text and the calls, which are asked for once: the answer to an exact test may take long."""
+        if self._words is None:
+            words = json.loads(_request.solve(self._test, self._given, text=True, calls=True))
+            object.__setattr__(self, "_words", words)
+        assert self._words is not None
+        return self._words
+
     def _call(self, language: str) -> str:
-        call: str = json.loads(_request.solve(self._test, self._given, calls=True))["calls"][language]
+        call: str = self._in_words()["calls"][language]
         return call
 
     def command(self) -> str:
@@ -228,7 +237,7 @@ class Result:
 
         """
         reply: dict[str, Any] = json.loads(_request.solve(self._test, self._given, densities=True))
-        return densities_of(self.method, reply["densities"]) if reply["densities"] else None
+        return densities_of(self.title, reply["densities"]) if reply["densities"] else None
 
     def curve(
         self,
@@ -318,28 +327,21 @@ class Result:
         """
         from ._frames import frame_of_columns
 
-        columns = self._columns()
-        return frame_of_columns(columns, engine, [name for name, [value] in columns.items() if type(value) is int])
-
-    def _columns(self) -> dict[str, list[Any]]:
+        integers = _catalogue.find(self._test).whole
         columns: dict[str, list[Any]] = {}
+        whole: list[str] = []
         for name, value in {**self._answer["inputs"], **self._answer["results"]}.items():
-            if isinstance(value, tuple):
-                columns |= {f"{name}{i}": [each] for i, each in enumerate(value, 1)}
-            else:
-                columns[name] = [value]
-        return columns
+            entries = (
+                {f"{name}{i}": each for i, each in enumerate(value, 1)} if isinstance(value, tuple) else {name: value}
+            )
+            columns |= {column: [math.nan if each is None else each] for column, each in entries.items()}
+            whole += entries if name in integers else []
+        return frame_of_columns(columns, engine, whole)
 
     def _rows(self) -> list[tuple[str, str]]:
-        labels = _catalogue.find(self._test).labels
-
-        def shown(value: Any) -> str:
-            if isinstance(value, tuple):
-                return ", ".join(map(shown, value))
-            return f"{value:.4g}" if isinstance(value, float) else str(value)
-
-        parts = [*self._answer["inputs"].items(), *self._answer["results"].items()]
-        return [(labels.get(name, name), shown(value)) for name, value in parts if value is not False]
+        """The rows of the program's table: a label, and what it stands before."""
+        rows = [line.strip() for line in str(self).splitlines() if line.startswith("  ")]
+        return [(label, value.strip()) for label, _, value in (row.partition("  ") for row in rows)]
 
     def _repr_html_(self) -> str:
         rows = "".join(
@@ -347,16 +349,16 @@ class Result:
             for label, value in self._rows()
         )
         return (
-            f"<table><caption>{html.escape(self.method)}</caption><tbody>{rows}</tbody></table>"
+            f"<table><caption>{html.escape(self.title)}</caption><tbody>{rows}</tbody></table>"
             f"<p>{html.escape(self.sentence)}</p>"
         )
 
     def _repr_markdown_(self) -> str:
         lines = [f"| {label} | {value} |" for label, value in self._rows()]
-        return "\n".join([f"**{self.method}**", "", "| | |", "|---|---:|", *lines, "", self.sentence])
+        return "\n".join([f"**{self.title}**", "", "| | |", "|---|---:|", *lines, "", self.sentence])
 
     def __str__(self) -> str:
-        text: str = json.loads(_request.solve(self._test, self._given, text=True))["text"]
+        text: str = self._in_words()["text"]
         return text.rstrip("\n")
 
     def __repr__(self) -> str:

@@ -8,6 +8,7 @@ from typing import Any, NamedTuple
 import numpy as np
 
 from . import _catalogue, _core, _request
+from ._rows import place
 
 
 class Question(NamedTuple):
@@ -47,13 +48,11 @@ def make(name: str, question: Question) -> np.ufunc:
 
 def _argument(test: _catalogue.Test, name: str) -> tuple[str, str, int, bool]:
     """An argument by its name: an input, or an entry of a list such as ``n1``."""
-    if name in test.parameters:
-        return name, name, -1, False
-    stem = name.rstrip("0123456789")
-    for given in (stem, stem + "s"):
-        if stem != name and given in test.parameters and test.parameters[given].is_list:
-            return name, given, int(name[len(stem):]) - 1, False  # fmt: skip
-    raise ValueError(f"{name!r} is no input of {test.name}; there are {', '.join(test.parameters)}")
+    found = place(test, name)
+    if found is None:
+        raise ValueError(f"{name!r} is no input of {test.name}; there are {', '.join(test.parameters)}")
+    parameter, entry = found
+    return name, parameter.name, -1 if entry is None else entry, False
 
 
 def _results(test: _catalogue.Test, inputs: Mapping[str, Any], arguments: Any) -> list[dict[str, Any]]:

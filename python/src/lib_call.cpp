@@ -120,9 +120,14 @@ bool TakeInteger(PyObject* object, std::int32_t lowest, std::int32_t highest, st
 }
 
 bool TakeArray(PyObject* object, std::vector<double>& array) {
-  const Ref converted(PyArray_FROMANY(object, NPY_DOUBLE, 1, 1, NPY_ARRAY_CARRAY_RO));
+  const Ref converted(PyArray_FROMANY(object, NPY_DOUBLE, 0, 0, NPY_ARRAY_CARRAY_RO));
   if (!converted) return false;
   auto* const source = reinterpret_cast<PyArrayObject*>(converted.Get());
+  if (PyArray_NDIM(source) != 1) {
+    PyErr_Format(PyExc_ValueError, "a sequence of numbers is expected, not an array of %d dimensions",
+                 PyArray_NDIM(source));
+    return false;
+  }
   const auto* const data = static_cast<const double*>(PyArray_DATA(source));
   const auto size = static_cast<std::size_t>(PyArray_SIZE(source));
   array.reserve(std::max<std::size_t>(size, 1));  // so that an empty array is not null
@@ -137,18 +142,21 @@ bool CheckLength(const PythonCall& call, std::size_t parameter, const std::vecto
   return false;
 }
 
-bool GiveRepaired(PyObject* target, const std::vector<double>& coefficients, std::int32_t groups) {
-  if (!target || target == Py_None) return true;
+bool CheckRepaired(PyObject* target, std::int32_t groups) {
   auto* const array = reinterpret_cast<PyArrayObject*>(target);
-  const std::size_t count = groups > 0 ? static_cast<std::size_t>(groups) : 0;
-  if (!PyArray_Check(target) || PyArray_TYPE(array) != NPY_DOUBLE || !PyArray_ISCARRAY(array) ||
-      static_cast<std::size_t>(PyArray_SIZE(array)) < count) {
-    PyErr_Format(PyExc_TypeError, "'%s' must be a contiguous array of doubles that can be written, one a group",
-                 repairedName);
-    return false;
-  }
-  std::copy_n(coefficients.begin(), count, static_cast<double*>(PyArray_DATA(array)));
-  return true;
+  if (target == Py_None) return true;
+  if (PyArray_Check(target) && PyArray_TYPE(array) == NPY_DOUBLE && PyArray_ISCARRAY(array) &&
+      PyArray_SIZE(array) >= groups)
+    return true;
+  PyErr_Format(PyExc_TypeError, "'%s' must be a contiguous array of doubles that can be written, one a group",
+               repairedName);
+  return false;
+}
+
+void GiveRepaired(PyObject* target, const std::vector<double>& coefficients, std::int32_t groups) {
+  if (target == Py_None || groups <= 0) return;
+  std::copy_n(coefficients.begin(), groups,
+              static_cast<double*>(PyArray_DATA(reinterpret_cast<PyArrayObject*>(target))));
 }
 
 PyObject* ToPython(double result) { return PyFloat_FromDouble(result); }

@@ -7,7 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <new>
+#include <exception>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -48,8 +48,11 @@ bool TakeArray(PyObject* object, std::vector<double>& array);
 /// Whether an array has one number a group at least.
 bool CheckLength(const PythonCall& call, std::size_t parameter, const std::vector<double>& array, std::int32_t groups);
 
-/// Writes to the array that the caller gave for repaired coefficients; nothing where it is null or None.
-bool GiveRepaired(PyObject* target, const std::vector<double>& coefficients, std::int32_t groups);
+/// Whether repaired coefficients of so many groups can be written to what the caller gave for them, if anything.
+bool CheckRepaired(PyObject* target, std::int32_t groups);
+
+/// Writes them.
+void GiveRepaired(PyObject* target, const std::vector<double>& coefficients, std::int32_t groups);
 
 /// What functions answer. The records are released.
 PyObject* ToPython(double result);
@@ -165,13 +168,11 @@ struct Caller {
     Values values;
     if (!Take(given.data(), values, std::index_sequence_for<P...>())) return nullptr;
     if (!CheckLengths(call, values)) return nullptr;
+    PyObject* const target = repaired == none ? nullptr : given[call.count];
+    if (target && !CheckRepaired(target, values[groups].integer)) return nullptr;
     R result = CallReleased(function, values, std::index_sequence_for<P...>());
-    if constexpr (repaired != none) {
-      if (!GiveRepaired(given[call.count], values[repaired].array, values[groups].integer)) {
-        Py_XDECREF(Answer(result, values));  // releases a record
-        return nullptr;
-      }
-    }
+    if constexpr (repaired != none)
+      if (target) GiveRepaired(target, values[repaired].array, values[groups].integer);
     return Answer(result, values);
   }
 };
@@ -180,7 +181,7 @@ template <class R, class... P>
 PyObject* CallFromPython(const PythonCall& call, R (*function)(P...)) {
   try {
     return Caller<R, P...>::Run(call, function);
-  } catch (const std::bad_alloc&) {
+  } catch (const std::exception&) {  // the only one that functions throw is std::bad_alloc
     return PyErr_NoMemory();
   }
 }

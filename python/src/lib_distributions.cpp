@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "kelcommon/kel_dist_fun.h"
+#include "kelcommon/kel_mv.h"
 #include "lib_functions.h"
 #include "lib_ufunc.h"
 

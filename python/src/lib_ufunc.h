@@ -15,7 +15,6 @@
 #include <vector>
 
 #include "interrupts.h"
-#include "kelcommon/kel_mv.h"
 #include "kelpower.h"
 #include "numpy.h"
 #include "ufunc.h"
@@ -98,7 +97,8 @@ namespace detail {
 
 template <class Number, class R, class... P>
 struct Loop {
-  static constexpr npy_intp elementsPerQuestion = 64;
+  // What takes a request to stop can take long.
+  static constexpr npy_intp elementsPerQuestion = (std::is_same_v<P, StopRequest*> || ...) ? 1 : 64;
   static constexpr double noAnswer = std::numeric_limits<double>::quiet_NaN();
   static constexpr std::size_t count = sizeof...(P);
   static constexpr std::array<bool, count> isInput{Operand<P, Number>::isInput...};

@@ -60,6 +60,14 @@ def allowed(parameter, groups):
     return st.one_of(entries, allowed_number(parameter)) if parameter.get("spreads") else entries
 
 
+def nested(depth):
+    """A list of a list of a list ..., with a number inside."""
+    value = 0.5
+    for _ in range(depth):
+        value = [value]
+    return value
+
+
 NONSENSE = st.one_of(
     st.sampled_from([None, math.nan, math.inf, -math.inf, -0.0, 5e-324, 1.7976931348623157e308, 10**400, -(10**400), "",
                      "0.5", "abc", "\x00", "\ud800", "z" * 100_000, b"0.5", 1j, Decimal("0.5"), Fraction(1, 3), (), [],
@@ -70,6 +78,7 @@ NONSENSE = st.one_of(
                      np.datetime64("2026-01-01"), np.array([]), np.array([0.5, np.nan]), np.array(["a"]),
                      np.array([None]), np.zeros((2, 3)), np.zeros((2, 0)), np.array([1j]),
                      np.array([0.5, 0.2])[::-1]]),
+    st.sampled_from([nested(30), nested(100), nested(5000), ["a"] * 100_000, [math.nan] * 20_000, [[0.5]] * 20_000]),
     st.floats(), st.integers(), st.text(max_size=5), st.lists(st.floats(), max_size=4))
 
 

@@ -77,3 +77,14 @@ def test_groups_of_flags_and_words_lie_where_they_belong():
             assert tuple(answers.n[i, j]) == single.n
             assert answers.power[i, j] == single.power
             assert answers[i, j] == single
+
+
+def test_a_size_of_a_frame_is_an_integer_or_missing():
+    pd = pytest.importorskip("pandas")
+    usual = kelpower.two_means(effect_d=0.5, power=0.9).to_frame()
+    huge = kelpower.two_means(effect_d=1e-12, power=0.9).to_frame()
+    assert huge.dtypes.equals(usual.dtypes)
+    assert huge["n1"].isna().tolist() == [True]
+    assert isinstance(huge["power"][0], float)
+    assert pd.api.types.is_float_dtype(kelpower.contrast(coefficients=[1, -1], means=[0, 1], sd=5e-324, power=0.5)
+                                       .to_frame()["effect_d"])  # fmt: skip

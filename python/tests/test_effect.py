@@ -92,7 +92,7 @@ def test_the_program_converts_the_same(root: Path):
 
 def test_html_is_escaped():
     html = kelpower.effect(**GROUPS)._repr_html_()
-    assert "<th style=\"text-align:left\">Cohen&#x27;s d</th><td>0.448</td><td>-0.15 to 1.041</td>" in html
+    assert '<th style="text-align:left">Cohen&#x27;s d</th><td>0.448</td><td>-0.15 to 1.041</td>' in html
 
 
 def test_frames_and_dictionaries():

@@ -299,6 +299,7 @@ def test_columns_of_pandas(values):
         (np.array([0.5, None], dtype=object), [0, 2]),
         (np.array([0.5, pd.NA], dtype=object), [0, 2]),
         (np.array([0.5, "0.5", True, [0.5], 1j, 10**400, {}], dtype=object), [0, 2, 2, 2, 2, 2, 2]),
+        (pd.Series([0.5, np.complex64(0.5), np.complex128(0.5), np.array([0.5]), np.array(0.5)]), [0, 2, 2, 2, 2]),
         (np.array([0.5, np.nan, np.inf, -np.inf]), [0, 2, 2, 2]),
         (np.array([1, 2**63 - 1]), [0, 2]),
         (np.array([1, 2**64 - 1], dtype=np.uint64), [0, 2]),
@@ -533,7 +534,15 @@ def test_what_is_asked_and_what_is_reached_have_names_of_their_own():
 
 
 @pytest.mark.parametrize(
-    "wrong", [[True, False], ["0.5"], np.array(["0.5", 0.5], dtype=object), [1j], np.array(["2020"], dtype="M8[D]")]
+    "wrong",
+    [
+        [True, False],
+        ["0.5"],
+        np.array(["0.5", 0.5], dtype=object),
+        np.array([np.complex64(1)], dtype=object),
+        [1j],
+        np.array(["2020"], dtype="M8[D]"),
+    ],
 )
 def test_many_designs_take_numbers_alone(wrong):
     with pytest.raises(kelpower.InputError, match="values that are not numbers"):

@@ -9,6 +9,7 @@ import signal
 import subprocess
 import sys
 import textwrap
+import time
 from concurrent.futures import ThreadPoolExecutor
 
 import kelpower
@@ -162,6 +163,12 @@ def test_functions_have_the_arguments_of_the_header(name):
     assert found == [argument + "_" * (argument == "from") for argument in kept] + optional
 
 
+def test_the_length_of_arrays_is_the_first_integer():
+    for name, (_, arguments) in SIGNATURES.items():
+        if {"p", "P"} & {kind for _, kind in arguments}:
+            assert next(argument for argument, kind in arguments if kind == "i") == "numGroups", name
+
+
 @pytest.mark.parametrize("name", EXPORTS)
 def test_docstrings_name_every_argument(name):
     doc = inspect.getdoc(getattr(lib, name))
@@ -189,6 +196,16 @@ def test_ufuncs_take_out_and_where():
     answer = lib.InvTanh([0.1, 0.2, 0.3], out=out, where=[True, False, True])
     assert answer is out
     assert out.tolist() == [np.arctanh(0.1), 0.0, lib.InvTanh(0.3)]
+
+
+def test_ufuncs_keep_what_pandas_has():
+    pandas = pytest.importorskip("pandas")
+    series = pandas.Series([0.1, 0.2], index=["a", "b"], name="r")
+    answer = lib.InvTanh(series)
+    assert isinstance(answer, pandas.Series)
+    assert answer["b"] == lib.InvTanh(0.2)
+    first, second = lib.PowerReverseIndependentNondirectionalES(0.8, 1, series, 0.05)
+    assert first.index.tolist() == second.index.tolist() == ["a", "b"]
 
 
 @pytest.mark.parametrize("kind", [np.int8, np.int16, np.int32, np.int64, np.uint8, np.uint32, np.bool_])
@@ -285,6 +302,9 @@ def test_coefficients_are_repaired_for_whom_wants_it():
     for wrong in ([0.0] * 3, np.zeros(3, int), np.zeros(2), np.zeros(6)[::2], np.broadcast_to(0.0, 3)):
         with pytest.raises(TypeError, match="repaired"):
             lib.EffectSizeSC(3, [10, 12, 15], 6, given, repaired=wrong)
+        with pytest.raises(TypeError, match="repaired"):
+            lib.PlotNSC(3, [10, 12, 15], 6, [20] * 3, given, 0, 0, 0, 0.05, repaired=wrong)
+    assert lib.EffectSizeSC(3, [10, 12, 15], 6, given, repaired=None) == lib.EffectSizeSC(3, [10, 12, 15], 6, given)
 
 
 def test_charts():
@@ -314,10 +334,10 @@ def test_charts():
         ((3, [1, 2, 3], 6, [20] * 3), TypeError, "needs the argument 'alpha'"),
         ((3, [1, 2, 3], 6, [20] * 3, 0.05, 1), TypeError, "takes 5 arguments, but 6 were given"),
         ((3, ["a", "b", "c"], 6, [20] * 3, 0.05), ValueError, "a"),
-        ((3, [[1, 2, 3]], 6, [20] * 3, 0.05), ValueError, "depth|dimension"),
-        ((3, 1.0, 6, [20] * 3, 0.05), ValueError, "depth|dimension"),
+        ((3, [[1, 2, 3]], 6, [20] * 3, 0.05), ValueError, "a sequence of numbers is expected"),
+        ((3, 1.0, 6, [20] * 3, 0.05), ValueError, "a sequence of numbers is expected"),
         ((3, [1j, 2, 3], 6, [20] * 3, 0.05), TypeError, "complex"),
-        ((3, None, 6, [20] * 3, 0.05), ValueError, "depth"),
+        ((3, None, 6, [20] * 3, 0.05), ValueError, "a sequence of numbers is expected"),
         ((3.0, [1, 2, 3], 6, [20] * 3, 0.05), TypeError, "integer"),
         ((3, [1, 2, 3], "6", [20] * 3, 0.05), TypeError, "real number"),
     ],
@@ -364,8 +384,10 @@ def test_eight_threads_equal_one():
         assert list(threads.map(answers, names * 8)) == alone * 8
 
 
-# What takes long: the exact conditional test, and an array of quick searches, which NumPy converts in parts.
+# What takes long: exact searches without a question within, the exact conditional test, and an array of quick searches,
+# which NumPy converts in parts.
 LONG_CALLS = {
+    "exact": "lib.PowerReverseIndSampBinom(0.8, np.full(1000, 0.3), 0.31, 1, 1, 0, 0, 0.05, 0, 1)",
     "one": "lib.PowerReverseIndSampBinom(0.8, 0.3, 0.301, 1, 1, 3, 0, 0.05, 0, 1)",
     "array": "lib.PowerReverseOneSampleNondirectionalES(0.8, np.full(10**7, 0.1, np.float32), 0.05)",
 }
@@ -374,6 +396,7 @@ LONG_CALLS = {
 def run_until_interrupted(program):
     process = subprocess.Popen([sys.executable, "-c", textwrap.dedent(program)], stdout=subprocess.PIPE, text=True)
     assert process.stdout.readline() == "begins\n"
+    time.sleep(0.5)
     process.send_signal(signal.SIGINT)
     output, _ = process.communicate(timeout=60)
     return output, process.returncode
@@ -417,20 +440,30 @@ def test_an_exception_of_a_signal_handler_ends_a_long_call(call):
     assert caught.value is raised
 
 
-@pytest.mark.skipif(sys.platform == "win32", reason="needs a limit of memory")
-def test_memory_running_out_is_an_exception():
-    program = """
+# A chart of a billion points, and the probabilities of an exact test of 400 million subjects in a ufunc.
+LARGE_CALLS = {
+    "chart": "lib.PlotESOneSample(20, 0, 2, 0, 0.05, 1e-9)",
+    "ufunc": "lib.PowerIndSampBinom(2e8, 2e8, 0.5, 0.50001, 1, 0, 0, 0.05, 0, 1)",
+}
+
+
+@pytest.mark.skipif(not sys.platform.startswith("linux"), reason="tells the memory that is used as Linux does")
+@pytest.mark.parametrize("call", LARGE_CALLS.values(), ids=LARGE_CALLS)
+def test_memory_running_out_is_an_exception(call):
+    program = f"""
         import resource
         from kelpower import lib
-        resource.setrlimit(resource.RLIMIT_AS, (2**29, 2**29))
+        with open("/proc/self/statm") as file:
+            used = int(file.read().split()[0]) * resource.getpagesize()
+        resource.setrlimit(resource.RLIMIT_AS, (used + 2**22, used + 2**22))
         try:
-            print(len(lib.PlotESOneSample(20, 0, 2, 0, 0.05, 1e-9).x))
+            {call}
+            print("there was enough")
         except MemoryError:
             print("no memory")
     """
-    done = subprocess.run(
-        [sys.executable, "-c", textwrap.dedent(program)], stdout=subprocess.PIPE, text=True, timeout=60
-    )
+    command = [sys.executable, "-c", textwrap.dedent(program)]
+    done = subprocess.run(command, stdout=subprocess.PIPE, text=True, timeout=60)
     assert (done.stdout, done.returncode) == ("no memory\n", 0)
 
 

@@ -1,6 +1,7 @@
 """Properties of the functions and ufuncs, with arguments drawn from the description of the tests.
 
-The same arguments are drawn each time, unless KELPOWER_EXAMPLES asks for other ones and says how many for each test.
+Numbers go up to the limits of the description, which also bound the time of each answer. The same arguments are drawn
+each time, unless KELPOWER_EXAMPLES asks for other ones and says how many for each test.
 """
 
 import json

@@ -115,6 +115,8 @@ def test_what_makes_no_ufunc_is_said():
         kelpower.ufunc("two-means", "effect_d", power=0.8, n=20, alpha=0.05, sd=1)
     with pytest.raises(ValueError, match="'size' is no input of two-means"):
         kelpower.ufunc("two-means", "size")
+    with pytest.raises(ValueError, match="'n0' is no input of two-means"):
+        kelpower.ufunc("two-means", "effect_d", "n0")
     with pytest.raises(ValueError, match="'survival' is not a test"):
         kelpower.ufunc("survival", "n")
     with pytest.raises(ValueError, match="'n' is no result"):

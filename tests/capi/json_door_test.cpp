@@ -61,7 +61,9 @@ TEST(JsonDoor, SaysWhatIsWrongWithAConversion) {
 
 TEST(JsonDoor, SpellsEffectSizesWithUnderscoresWhereAsked) {
   const Json reply =
-      Asked(kelplan_convert, R"({"inputs":{"effect_d":0.5,"n":20},"names":"underscore","explain":true})").json;
+      Asked(kelplan_convert, R"({"inputs":{"effect_d":0.5,"n":20},"names":"underscore","explain":true,"text":true})")
+          .json;
+  EXPECT_EQ(reply["text"].get<std::string>().substr(0, 13), "Effect sizes\n");
   EXPECT_EQ(reply["inputs"]["effect_d"], 0.5);
   EXPECT_TRUE(reply["results"].contains("eta_squared")) << reply;
   EXPECT_TRUE(reply["details"].contains("eta_squared"));
@@ -247,6 +249,38 @@ TEST(JsonDoor, DrawsAChart) {
   EXPECT_EQ(Asked(kelplan_draw, wrong.dump()).json["error"]["code"], "wrong-type");
   wrong.erase("chart");
   EXPECT_EQ(Asked(kelplan_draw, wrong.dump()).json["error"]["code"], "chart-missing");
+}
+
+TEST(JsonDoor, TellsWhatAPictureSays) {
+  Json request{
+      {"test", "two-means"}, {"inputs", {{"effect-d", {0.2, 0.5}}, {"power", 0.8}}}, {"chart", "n"}, {"picture", true}};
+  const Json curves = Asked(kelplan_draw, request.dump()).json["picture"];
+  EXPECT_EQ(curves["title"], "Independent-samples t test of two means");
+  EXPECT_EQ(curves["fixed"], Json({"two-sided", "significance level 0.05"}));
+  EXPECT_EQ(curves["values"], "power");
+  EXPECT_EQ(curves["curves"], Json({"effect size d 0.2", "effect size d 0.5"}));
+  EXPECT_EQ(curves["designs"], Json({"n per group = 394, power 0.80", "n per group = 64, power 0.80"}));
+  EXPECT_EQ(curves["description"].get<std::string>().substr(0, 21), "Power over sample siz");
+  EXPECT_FALSE(curves.contains("levels"));
+  request["from"] = 2;
+  request["to"] = 100;
+  EXPECT_EQ(Asked(kelplan_draw, request.dump()).json["picture"]["designs"], Json({"", "n per group = 64, power 0.80"}));
+}
+
+TEST(JsonDoor, TellsTheLinesOfEqualPower) {
+  Json request{{"test", "two-means"},
+               {"inputs", {{"effect-d", 0.5}, {"power", 0.8}}},
+               {"chart", "n-effect-d"},
+               {"picture", true}};
+  const Json surface = Asked(kelplan_draw, request.dump()).json["picture"];
+  ASSERT_EQ(surface["levels"].size(), 4u);
+  EXPECT_EQ(surface["levels"][1]["power"], 0.8);
+  const Json line = surface["levels"][1]["lines"][0];
+  EXPECT_GT(line["x"].size(), 100u);
+  EXPECT_EQ(line["x"].size(), line["y"].size());
+  EXPECT_FALSE(surface.contains("note"));
+  request["picture"] = 1;
+  EXPECT_EQ(Asked(kelplan_draw, request.dump()).json["error"]["code"], "wrong-type");
 }
 
 int CountAndStop(void* payload) {

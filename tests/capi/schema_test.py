@@ -145,7 +145,7 @@ class SchemaTest(unittest.TestCase):
             status, reply = convert(request)
             self.assertEqual(status, 0, reply)
             self.check("conversion", reply)
-            self.check("conversion", convert({**request, "names": "underscore"})[1])
+            self.check("conversion", convert({**request, "names": "underscore", "text": True})[1])
             if PROGRAM:
                 self.assertEqual(without_head(reply), printed(example["arguments"] + " --explain"))
 
@@ -185,7 +185,8 @@ class SchemaTest(unittest.TestCase):
                 reply = ask(LIBRARY.kelplan_draw, {"test": test["name"], "chart": axis["name"]}, None)[1]
                 self.check("error", reply)
         request = {"test": "two-means", "inputs": {"means": [52, 47], "sd": 10, "n": 50}}
-        for chart in ({"chart": "n"}, {"chart": "n-sd", "step": 0.1}, {"chart": "n", "names": "underscore"}):
+        for chart in ({"chart": "n"}, {"chart": "n-sd", "step": 0.1}, {"chart": "n", "names": "underscore"},
+                      {"chart": "n", "picture": True}, {"chart": "n-sd", "step": 0.1, "picture": True}):
             status, reply = ask(LIBRARY.kelplan_draw, {**request, **chart}, None)
             self.assertEqual(status, 0, reply)
             self.check("chart", reply)

@@ -23,7 +23,8 @@ class SectionsTest(unittest.TestCase):
         self.assertEqual(new.replace(sections.kept(new), ""), PAGE)
 
     def test_one_section_is_replaced_alone_and_in_order(self):
-        new = sections.replaced(PAGE, "webassembly", "wasm\n")
+        new = sections.replaced(PAGE, "scipy", "scipy\n")
+        new = sections.replaced(new, "webassembly", "wasm\n")
         new = sections.replaced(new, "before", "old\n")
         new = sections.replaced(new, "before", "new\n")
         self.assertEqual([sections.body_of(new, name) for name in ("before", "webassembly")], ["new\n", "wasm\n"])

@@ -107,6 +107,14 @@ TEST(Unknown, RatioGivesWholeSizes) {
   EXPECT_LT(Solve(*FindTest("two-means"), smaller).value, 0.8);
 }
 
+// 31 / 30 times 30 is a little more than 31 in doubles.
+TEST(Unknown, RatioGivesWholeSizesWhereTheQuotientIsRounded) {
+  const InputValues design{{"effect-d", 1.0}, {"n", Numbers{30, 31}}};
+  InputValues asked{{"effect-d", 1.0}, {"n", Numbers{30}}, {"solve", std::string("ratio")}};
+  asked["power"] = Solve(*FindTest("two-means"), design).value;
+  EXPECT_EQ(Solve(*FindTest("two-means"), asked).sizes, (Numbers{30, 31}));
+}
+
 // With 5 observations an exact test at the level 0.05 rejects for no count, so that no effect is detected; the power at
 // one level can be reached, and fallen short of again, between two proportions.
 TEST(Unknown, OfAnExactTestReachesThePowerForGood) {

@@ -79,6 +79,8 @@ def section(timings, versions, machine_name):
 
 def main():
     build, package, statsmodels, target = map(Path, sys.argv[1:])
+    if os.getloadavg()[0] > 0.5:
+        print("This machine is busy, so that two threads cannot show what they do.", file=sys.stderr)
     environment = statsmodels_environment(statsmodels)
     environment["PYTHONPATH"] = os.pathsep.join([str(package), environment["PYTHONPATH"]])
     loop = build / "tools/peers/libkelpower_core_loop.so"

@@ -25,7 +25,7 @@ environment tools tools/python/requirements.txt
 environment venv python/tests/requirements.txt
 
 say "making the sdist"
-rm -rf "$folder/source" "$folder/dist" "$folder/build"
+rm -rf "$folder/source" "$folder/dist"
 mkdir -p "$folder/source"
 git ls-files -z pyproject.toml CMakeLists.txt VERSION LICENSE README.md cmake kelcommon src include planner capi python \
   tools/third_party.sh | xargs -0 cp --parents -t "$folder/source"
@@ -34,8 +34,11 @@ sh tools/third_party.sh "$folder/source/third_party"
   { cat "$folder/sdist.log"; exit 1; }
 
 say "making the wheel of the sdist"
+rm -rf "$folder/unpacked" "$folder/build"
+mkdir "$folder/unpacked"
+tar -xf "$folder"/dist/*.tar.gz -C "$folder/unpacked" --strip-components=1
 "$folder/tools/bin/pip" wheel --quiet --no-index --no-deps --no-build-isolation --wheel-dir "$folder/dist" \
-  --config-settings build-dir="$folder/build" "$folder"/dist/*.tar.gz
+  --config-settings build-dir="$folder/build" "$folder/unpacked"
 if "$folder/tools/bin/ninja" -C "$folder/build" -t deps | grep -E '/usr/include/(fmt|nlohmann|fast_float)/'; then
   echo "The sdist uses headers of this machine's packages." >&2
   exit 1
