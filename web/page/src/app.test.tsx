@@ -166,7 +166,7 @@ describe("the page", () => {
   it("changes the question and the form, and goes back", async () => {
     await go("#two-means?effect-d=0.5&power=0.8");
     await press("question-power");
-    expect(location.hash).toBe("#two-means?effect-d=0.5&n=");
+    expect(location.hash).toBe("#two-means?effect-d=0.5&n=64");
     await type("input-n", "64");
     await pass(1000);
     expect(textOf("number")).toBe("0.8015");

@@ -2,7 +2,8 @@
 
 import { effect, signal } from "@preact/signals";
 import type { Answer, Failure, SolveRequest, Test } from "./contract";
-import { type Design, inputsOf, type Lack } from "./form/design";
+import { type Design } from "./form/design";
+import { inputsOf, type Lack } from "./form/inputs";
 import { change, design, kel, kept, test, tests } from "./state";
 
 export type Outcome =

@@ -3,7 +3,8 @@
 import { batch, computed, signal } from "@preact/signals";
 import { readAddress, writeAddress } from "./address";
 import type { Answer, Description, Failure, Kelpower, Test } from "./contract";
-import { type Design, designOf, wordsOf } from "./form/design";
+import { type Design } from "./form/design";
+import { designOf, wordsOf } from "./form/said";
 import { texts } from "./texts";
 
 export interface Kept {
