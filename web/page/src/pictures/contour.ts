@@ -1,10 +1,11 @@
 /** The power over two inputs as filled bands, with the lines of equal power labelled. */
 
 import * as Plot from "@observablehq/plot";
+import { contours } from "d3-contour";
 import type { Axis } from "./axes";
 import { capital, heldFixed, place, shownQuantity, where } from "./caption";
 import type { Placed } from "./curve";
-import { compose } from "./frame";
+import { compose, element } from "./frame";
 import type { Look } from "./frame";
 import type { Chart, Test } from "./model";
 import { shown } from "./numbers";
@@ -165,6 +166,54 @@ export function labelPlaces(
   return best;
 }
 
+type Place = (value: number) => number;
+
+/** The outlines of the areas above a level, on the scales of the surface. The points of the grid are middles of cells. */
+export function outlines(surface: Surface, level: number): [number, number][][] {
+  const along = (points: number[]) => {
+    const [from, to] = endsOf(points);
+    const last = points.length - 1;
+    return (at: number) => from + ((to - from) * Math.min(last, Math.max(0, at - 0.5))) / last;
+  };
+  const [x, y] = [along(surface.x), along(surface.y)];
+  const { coordinates } = contours().size([surface.x.length, surface.y.length]).contour(surface.values, level);
+  return coordinates.flat().map((ring) => ring.map((at) => [x(at[0]!), y(at[1]!)]));
+}
+
+/** The outlines as one path, and without what runs along the edges of the picture. */
+function pathsOf(surface: Surface, level: number, toX: Place, toY: Place): { area: string; line: string } {
+  const edges = [endsOf(surface.x), endsOf(surface.y)];
+  const runsAlongEdge = (a: [number, number], b: [number, number]) =>
+    edges.some((ends, i) => a[i as 0 | 1] === b[i as 0 | 1] && ends.includes(a[i as 0 | 1]));
+  let area = "";
+  let line = "";
+  for (const ring of outlines(surface, level)) {
+    ring.forEach((at, i) => {
+      const place = `${toX(at[0]).toFixed(2)},${toY(at[1]).toFixed(2)}`;
+      const before = ring[i - 1];
+      area += (before ? "L" : "M") + place;
+      line += (before && !runsAlongEdge(before, at) ? "L" : "M") + place;
+    });
+    area += "Z";
+  }
+  return { area, line };
+}
+
+/** The bands between levels, the higher ones over the lower ones. */
+function bands(surface: Surface, look: Look): Plot.RenderFunction {
+  const { palette } = look;
+  return (_, scales) => {
+    const group = element("g", { fill: "none", stroke: palette.contour, "stroke-linejoin": "round" });
+    levels.forEach((level, i) => {
+      const { area, line } = pathsOf(surface, level, scales["x"] as Place, scales["y"] as Place);
+      if (!area) return;
+      group.append(element("path", { d: area, fill: palette.bands[i + 1]!, stroke: "none" }));
+      group.append(element("path", { d: line, "stroke-width": level === usualPower ? 2.2 : 1 }));
+    });
+    return group;
+  };
+}
+
 export function contourPicture(input: ContourInput, look: Look): Placed {
   const { chart, axes, mark, test } = input;
   const { palette, locale } = look;
@@ -172,24 +221,9 @@ export function contourPicture(input: ContourInput, look: Look): Placed {
   const [x0, x1] = endsOf(surface.x);
   const [y0, y1] = endsOf(surface.y);
   const height = heightOf(look.width);
-  const drawnGrid = fewerPoints(surface);
-  // Points are the middles of cells.
-  const halfX = (x1 - x0) / (drawnGrid.x.length - 1) / 2;
-  const halfY = (y1 - y0) / (drawnGrid.y.length - 1) / 2;
-  const grid = {
-    width: drawnGrid.x.length,
-    height: drawnGrid.y.length,
-    x1: x0 - halfX,
-    x2: x1 + halfX,
-    y1: y0 - halfY,
-    y2: y1 + halfY,
-    stroke: palette.contour,
-    clip: true,
-  };
   const marks: Plot.Markish[] = [
     Plot.rect([0], { x1: x0, x2: x1, y1: y0, y2: y1, fill: palette.bands[0]! }),
-    Plot.contour(drawnGrid.values, { ...grid, thresholds: levels, fill: Plot.identity, strokeWidth: 1 }),
-    Plot.contour(drawnGrid.values, { ...grid, thresholds: [usualPower], fill: "none", strokeWidth: 2.2 }),
+    bands(fewerPoints(surface), look),
   ];
   const placed = labelPlaces(surface, look.width - 60, height - 40, mark);
   for (const label of placed) {
@@ -215,7 +249,6 @@ export function contourPicture(input: ContourInput, look: Look): Placed {
     height,
     x: { domain: [x0, x1] },
     y: { domain: [y0, y1], grid: false },
-    colours: { levels, fills: palette.bands },
     marks,
   });
   const composed = compose(

@@ -24,8 +24,6 @@ export interface PlotParts {
   height: number;
   x: { domain: [number, number] };
   y: { domain: [number, number]; ticks?: number[] | undefined; grid?: boolean };
-  /** Fillings below, between and above levels. */
-  colours?: { levels: number[]; fills: string[] };
   marks: Plot.Markish[];
   marginLeft?: number;
   hasYAxis?: boolean;
@@ -87,9 +85,6 @@ export function drawPlot(parts: PlotParts): {
     marginBottom: (parts.hasXAxis ?? true) ? marginBottom : 8,
     x: { domain: x.domain, label: null, axis: null },
     y: { domain: y.domain, label: null, axis: null },
-    ...(parts.colours
-      ? { color: { type: "threshold" as const, domain: parts.colours.levels, range: parts.colours.fills } }
-      : {}),
     marks,
   }) as unknown as SVGSVGElement & { scale(name: string): Plot.Scale };
   const panel = { plot, width, height, left: marginLeft, right: width - marginRight };
