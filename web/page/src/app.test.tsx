@@ -15,6 +15,7 @@ const direct = await open();
 const asked: SolveRequest[] = [];
 let answerLater: (() => void) | undefined;
 let wait = false;
+let fails = false;
 
 /** The planner in this thread, which can be made to take long. */
 const planner = {
@@ -22,6 +23,7 @@ const planner = {
   describe: () => direct.describe(),
   solve: (request: SolveRequest, options?: { signal?: AbortSignal }) => {
     asked.push(request);
+    if (fails) return Promise.reject(new Error("fault"));
     if (!wait) return Promise.resolve(direct.solve(request));
     return new Promise((resolve, reject) => {
       answerLater = () => resolve(direct.solve(request));
@@ -218,6 +220,15 @@ describe("the page", () => {
     await pass(10);
     expect(textOf("number")).toBe("128");
     expect(work.value).toBe("none");
+  });
+
+  it("says so when the planner fails, and can go on", async () => {
+    fails = true;
+    await go("#two-means?effect-d=0.5&power=0.8");
+    expect(textOf("failed")).toContain("has failed");
+    fails = false;
+    await press("again");
+    expect(textOf("number")).toBe("128");
   });
 
   it("lets only the newest question answer", async () => {

@@ -10,7 +10,7 @@ export type Outcome =
   | { kind: "empty"; lacks: readonly Lack[] }
   | { kind: "answered"; answer: Answer; request: SolveRequest; design: Design }
   | { kind: "error"; error: Failure["error"]; design: Design }
-  | { kind: "stopped" };
+  | { kind: "stopped" | "failed" };
 
 export const outcome = signal<Outcome>({ kind: "empty", lacks: [] });
 
@@ -77,7 +77,9 @@ async function ask(of: Test, one: Design): Promise<void> {
     if ("error" in reply) settle({ kind: "error", error: reply.error, design: one });
     else settle({ kind: "answered", answer: reply as Answer, request, design: one });
   } catch {
-    if (running === control) stop();
+    if (running !== control) return;
+    endAll();
+    outcome.value = { kind: "failed" };
   }
 }
 

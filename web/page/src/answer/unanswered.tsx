@@ -46,10 +46,10 @@ export function Unanswered({ test, now }: { test: Test; now: Outcome }) {
       </>
     );
   }
-  if (now.kind === "stopped") {
+  if (now.kind === "stopped" || now.kind === "failed") {
     return (
       <>
-        <Message testid="stopped">{texts.answer.stopped}</Message>
+        <Message testid={now.kind}>{texts.answer[now.kind]}</Message>
         <button type="button" data-testid="again" onClick={again}>
           {texts.answer.again}
         </button>
