@@ -263,6 +263,23 @@ describe("the page", () => {
     expect(location.hash).toBe("#anova?effect-f=0.25&groups=3&n=20");
   });
 
+  it("answers all that are kept in an address, and what is typed first", async () => {
+    wait = true;
+    await go(
+      "#two-means?effect-d=&power=0.8;A:mean?effect-d=0.5&n=30;B:two-means?effect-d=0.4&n=50;C:mean?effect-d=2&power=7",
+    );
+    expect(asked.map(({ test }) => test)).toEqual(["mean"]);
+    wait = false;
+    await type("input-effect-d", "0.5");
+    await pass(1000);
+    expect(asked.map(({ test }) => test)).toEqual(["mean", "two-means", "mean", "two-means", "mean"]);
+    expect(textOf("number")).toBe("128");
+    const text = textOf("comparison");
+    expect(text).toContain("Power: 0.7540");
+    expect(text).toContain("Power: 0.5082");
+    expect(text).toContain("Target power is 7");
+  });
+
   it("keeps them when one goes back, but not when another address is written", async () => {
     await go("#two-means?effect-d=0.5&power=0.8");
     await press("keep");
