@@ -55,7 +55,7 @@ export function Pictures(props: PicturesProps) {
   if (!question) return null;
   const failure = drawn && "failed" in drawn ? drawn.failed : problem;
   return (
-    <section class="pictures" aria-label={texts.pictures}>
+    <section class="pictures" aria-label={texts.pictures} aria-busy={picture.isBusy}>
       {offer && offer.kinds.length > 1 && (
         <Kinds kinds={offer.kinds} chosen={loaded?.kind ?? null} onChoose={(kind) => choose({ kind })} />
       )}

@@ -8,7 +8,6 @@ import type { Look, Panel } from "./frame";
 export const tickSize = 12;
 const marginTop = 10;
 const marginBottom = 26;
-const marginRight = 18;
 
 export function heightOf(width: number): number {
   return Math.round(Math.min(400, Math.max(230, 0.55 * width)));
@@ -52,9 +51,14 @@ export function drawPlot(parts: PlotParts): {
   const { palette, locale, width, font } = look;
   const format = (value: number) => shown(value, locale, 6);
   const hasYAxis = parts.hasYAxis ?? true;
-  const marginLeft = parts.marginLeft ?? (hasYAxis ? Math.max(36, marginFor(y.domain, y.ticks, format, font)) : 14);
+  const ends = x.domain.map((end) => format(Number(end.toPrecision(2))));
+  const widest = ends.reduce((a, b) => (b.length > a.length ? b : a));
+  // The first and the last tick may stand at the very ends.
+  const halfText = Math.ceil(textWidth(widest, tickSize, font) / 2) + 2;
+  const marginRight = Math.max(18, halfText);
+  const roomLeft = hasYAxis ? Math.max(36, marginFor(y.domain, y.ticks, format, font)) : 14;
+  const marginLeft = parts.marginLeft ?? Math.max(roomLeft, halfText);
   const across = width - marginLeft - marginRight;
-  const widest = format(Number(x.domain[1].toPrecision(2)));
   const ticksX = ticksFor(across, widest.length > 3 ? widest : "000");
   const axisStyle = { stroke: palette.frame, fill: palette.ink, color: palette.frame, label: null, fontSize: tickSize };
   const ticksY = y.ticks ?? (height < 150 ? 3 : 5);

@@ -53,6 +53,8 @@ export function hasChanges(inputs: Inputs, changes: Changes): boolean {
 }
 
 export interface LoadedPicture extends LoadedState {
+  /** What is shown is not yet of this design. */
+  isBusy: boolean;
   choice: Choice;
   choose(changes: Partial<Choice>): void;
   /** Where the design was moved to since. */
@@ -74,6 +76,7 @@ export function useLoaded(core: Core, design: Design, question: Question | null,
   const timer = useRef<ReturnType<typeof setTimeout> | undefined>(undefined);
   const isHeld = useRef(false);
   const drawnKey = useRef("");
+  const failedKey = useRef("");
   const designKey = JSON.stringify([design, question]);
 
   const begin = (next: Choice) => {
@@ -103,7 +106,11 @@ export function useLoaded(core: Core, design: Design, question: Question | null,
     const { signal } = controller;
     const run = async () => {
       const offer = await offerFor(core, design, question, test, signal);
-      if (!offer.kinds.length) return setState({ ...nothing, offer, given: design.inputs });
+      if (signal.aborted) return;
+      if (!offer.kinds.length) {
+        drawnKey.current = designKey;
+        return setState({ ...nothing, offer, given: design.inputs });
+      }
       const loaded = await load(core, design, question, offer, choice, range.current, signal);
       if (signal.aborted) return;
       range.current = rangeOf(loaded.chart);
@@ -119,6 +126,7 @@ export function useLoaded(core: Core, design: Design, question: Question | null,
       if (signal.aborted) return;
       const problem = (reason instanceof NotDrawn && reason.message) || texts.unknownReason;
       const isSameDesign = drawnKey.current === designKey;
+      failedKey.current = designKey;
       // What was chosen for another design may not fit this one.
       if (!isSameDesign && choice !== firstChoice) return begin(firstChoice);
       setState((before) => ({ ...before, loaded: isSameDesign ? before.loaded : null, problem }));
@@ -139,6 +147,7 @@ export function useLoaded(core: Core, design: Design, question: Question | null,
 
   return {
     ...state,
+    isBusy: question !== null && drawnKey.current !== designKey && failedKey.current !== designKey,
     choice,
     choose: (changes) => begin({ ...choice, ...changes }),
     moved,
