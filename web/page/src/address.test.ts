@@ -1,7 +1,7 @@
 import { open } from "kelpower/direct";
 import { describe, expect, it } from "vitest";
 import { readAddress, readDesign, writeAddress, writeDesign } from "./address";
-import { inputsOf } from "./form/design";
+import { inputsOf } from "./form/inputs";
 
 const { tests } = (await open()).describe();
 const twoMeans = tests.find(({ name }) => name === "two-means")!;

@@ -15,6 +15,7 @@ const direct = await open();
 const asked: SolveRequest[] = [];
 let answerLater: (() => void) | undefined;
 let wait = false;
+let fails = false;
 
 /** The planner in this thread, which can be made to take long. */
 const planner = {
@@ -22,6 +23,7 @@ const planner = {
   describe: () => direct.describe(),
   solve: (request: SolveRequest, options?: { signal?: AbortSignal }) => {
     asked.push(request);
+    if (fails) return Promise.reject(new Error("fault"));
     if (!wait) return Promise.resolve(direct.solve(request));
     return new Promise((resolve, reject) => {
       answerLater = () => resolve(direct.solve(request));
@@ -166,7 +168,7 @@ describe("the page", () => {
   it("changes the question and the form, and goes back", async () => {
     await go("#two-means?effect-d=0.5&power=0.8");
     await press("question-power");
-    expect(location.hash).toBe("#two-means?effect-d=0.5&n=");
+    expect(location.hash).toBe("#two-means?effect-d=0.5&n=64");
     await type("input-n", "64");
     await pass(1000);
     expect(textOf("number")).toBe("0.8015");
@@ -220,6 +222,15 @@ describe("the page", () => {
     expect(work.value).toBe("none");
   });
 
+  it("says so when the planner fails, and can go on", async () => {
+    fails = true;
+    await go("#two-means?effect-d=0.5&power=0.8");
+    expect(textOf("failed")).toContain("has failed");
+    fails = false;
+    await press("again");
+    expect(textOf("number")).toBe("128");
+  });
+
   it("lets only the newest question answer", async () => {
     wait = true;
     await go("#two-means?effect-d=0.5&power=0.8");
@@ -250,6 +261,23 @@ describe("the page", () => {
     await press("remove-1");
     expect(find("comparison")).toBeNull();
     expect(location.hash).toBe("#anova?effect-f=0.25&groups=3&n=20");
+  });
+
+  it("answers all that are kept in an address, and what is typed first", async () => {
+    wait = true;
+    await go(
+      "#two-means?effect-d=&power=0.8;A:mean?effect-d=0.5&n=30;B:two-means?effect-d=0.4&n=50;C:mean?effect-d=2&power=7",
+    );
+    expect(asked.map(({ test }) => test)).toEqual(["mean"]);
+    wait = false;
+    await type("input-effect-d", "0.5");
+    await pass(1000);
+    expect(asked.map(({ test }) => test)).toEqual(["mean", "two-means", "mean", "two-means", "mean"]);
+    expect(textOf("number")).toBe("128");
+    const text = textOf("comparison");
+    expect(text).toContain("Power: 0.7540");
+    expect(text).toContain("Power: 0.5082");
+    expect(text).toContain("Target power is 7");
   });
 
   it("keeps them when one goes back, but not when another address is written", async () => {

@@ -2,14 +2,15 @@
 
 import { effect, signal } from "@preact/signals";
 import type { Answer, Failure, SolveRequest, Test } from "./contract";
-import { type Design, inputsOf, type Lack } from "./form/design";
+import { type Design } from "./form/design";
+import { inputsOf, type Lack } from "./form/inputs";
 import { change, design, kel, kept, test, tests } from "./state";
 
 export type Outcome =
   | { kind: "empty"; lacks: readonly Lack[] }
   | { kind: "answered"; answer: Answer; request: SolveRequest; design: Design }
   | { kind: "error"; error: Failure["error"]; design: Design }
-  | { kind: "stopped" };
+  | { kind: "stopped" | "failed" };
 
 export const outcome = signal<Outcome>({ kind: "empty", lacks: [] });
 
@@ -22,6 +23,7 @@ const worthTelling = 400;
 const patience = 600;
 
 let running: AbortController | undefined;
+let aside: AbortController | undefined;
 let timers: ReturnType<typeof setTimeout>[] = [];
 let heldBack: (() => void) | undefined;
 
@@ -62,6 +64,8 @@ async function ask(of: Test, one: Design): Promise<void> {
   const planner = kel.value;
   if (!planner) return;
   const control = new AbortController();
+  aside?.abort();
+  aside = undefined;
   running = control;
   work.value = "short";
   after(worthTelling, () => {
@@ -74,9 +78,11 @@ async function ask(of: Test, one: Design): Promise<void> {
     running = undefined;
     work.value = "none";
     if ("error" in reply) settle({ kind: "error", error: reply.error, design: one });
-    else settle({ kind: "answered", answer: reply as Answer, request, design: one });
+    else settle({ kind: "answered", answer: reply, request, design: one });
   } catch {
-    if (running === control) stop();
+    if (running !== control) return;
+    endAll();
+    outcome.value = { kind: "failed" };
   }
 }
 
@@ -109,7 +115,7 @@ export function again(): void {
 
 let lastTest = "";
 
-/** Starts answering; to be called once. */
+/** Starts answering; to be called once. Another test or question is answered without a pause. */
 export function answerWhileTyping(): void {
   effect(() => {
     const name = `${design.value?.test} ${design.value?.wish}`;
@@ -119,18 +125,21 @@ export function answerWhileTyping(): void {
   });
   effect(() => {
     const waiting = kept.value.find(({ reply }) => reply === undefined);
-    if (waiting && kel.value) void answerKept(waiting.id, waiting.design);
+    if (waiting && kel.value && work.value === "none") void answerKept(waiting.id, waiting.design);
   });
 }
 
+/** Answers a design that is kept and has no answer yet, such as one of an address. What is typed goes first. */
 async function answerKept(id: number, one: Design): Promise<void> {
   const of = tests.value.find(({ name }) => name === one.test);
-  if (!of || !kel.value) return;
-  try {
-    const { inputs } = inputsOf(of, one);
-    const reply = await kel.value.solve({ test: of.name, inputs, names: "dash" } as SolveRequest);
-    change(id, { reply: reply as Answer | Failure });
-  } catch {
-    // Ended by a newer question: the next change asks again.
-  }
+  if (!of || !kel.value || aside) return;
+  const control = new AbortController();
+  aside = control;
+  const { inputs } = inputsOf(of, one);
+  const request = { test: of.name, inputs, names: "dash" } as SolveRequest;
+  const reply = await kel.value.solve(request, { signal: control.signal }).catch(() => undefined);
+  // What is typed may have ended it, and then it is asked again once that is answered.
+  if (aside !== control) return;
+  aside = undefined;
+  if (reply) change(id, { reply });
 }

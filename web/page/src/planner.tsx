@@ -1,6 +1,7 @@
 // One test: what is asked, what is given, and the answer beside it.
 
-import { AnswerPanel, Behind } from "./answer/answer";
+import { AnswerPanel } from "./answer/answer";
+import { Behind } from "./answer/behind";
 import { Status } from "./answer/status";
 import type { Test } from "./contract";
 import { emptyDesign } from "./form/design";

@@ -3,7 +3,8 @@
 import { batch, computed, signal } from "@preact/signals";
 import { readAddress, writeAddress } from "./address";
 import type { Answer, Description, Failure, Kelpower, Test } from "./contract";
-import { type Design, designOf, wordsOf } from "./form/design";
+import { type Design } from "./form/design";
+import { designOf, wordsOf } from "./form/said";
 import { texts } from "./texts";
 
 export interface Kept {
@@ -27,6 +28,10 @@ export const test = computed<Test | null>(() => tests.value.find(({ name }) => n
 /** Marks the steps that the page has made, as against an address that someone has written. */
 const ours = { kelpower: true };
 
+/** The address follows what is typed before its answer comes. */
+const pause = 90;
+const retry = 1000;
+
 let lastId = 0;
 let shown = "";
 let timer: ReturnType<typeof setTimeout> | undefined;
@@ -36,8 +41,13 @@ function writeNow(push: boolean): void {
   timer = undefined;
   const address = writeAddress(tests.value, { design: design.value, kept: [...kept.value] });
   if (address === shown) return;
-  shown = address;
-  history[push ? "pushState" : "replaceState"](ours, "", address);
+  try {
+    history[push ? "pushState" : "replaceState"](ours, "", address);
+    shown = address;
+  } catch {
+    // Browsers refuse too many changes in a short time.
+    timer = setTimeout(() => writeNow(push), retry);
+  }
 }
 
 /** Shows a design. A step that "back" should undo is pushed; what is typed only mends the address, after a pause. */
@@ -46,7 +56,7 @@ export function show(next: Design | null, push: boolean): void {
   design.value = next;
   if (push) return writeNow(true);
   clearTimeout(timer);
-  timer = setTimeout(() => writeNow(false), 250);
+  timer = setTimeout(() => writeNow(false), pause);
 }
 
 /** The address of what is shown now, with the last keystroke in it. */

@@ -112,6 +112,7 @@ export const texts = {
     seconds: (count: number) => `${count} s`,
     stop: "Stop",
     stopped: "Stopped. Change an input, or start again.",
+    failed: "The planner has failed at this design, which is a fault of its own.",
     again: "Start again",
     copy: "Copy sentence",
     copyShort: "Copy",
@@ -148,7 +149,7 @@ export const texts = {
         : hundred < 1
           ? "If the effect is as you say, hardly any such study would detect it."
           : `If the effect is as you say, about ${hundred} of 100 such studies would detect it.`,
-    widthWords: (width: string) => `The estimate will be known to plus or minus ${width}, on average.`,
+    widthWords: (width: string) => `The interval reaches about ${width} to either side of the estimate.`,
     soughtWords: (power: string) => `At this value the power is ${power}.`,
     soughtWidthWords: (width: string) => `At this value the half-width is ${width}.`,
   },

@@ -1,7 +1,7 @@
 // What can be done with an answer.
 
 import type { Test } from "../contract";
-import { inputsOf } from "../form/design";
+import { inputsOf } from "../form/inputs";
 import type { Outcome } from "../live";
 import { currentAddress, description, keep, kel, notice } from "../state";
 import { planToPrint } from "../save";

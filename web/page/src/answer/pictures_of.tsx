@@ -2,7 +2,7 @@
 
 import { useEffect, useState } from "preact/hooks";
 import type { Test } from "../contract";
-import { inputsOf } from "../form/design";
+import { inputsOf } from "../form/inputs";
 import { outcome } from "../live";
 import { Pictures } from "../pictures";
 import { kel, setValue } from "../state";

@@ -16,7 +16,7 @@ export function spokenOf(test: Test, now: Outcome): string {
     return `${capital(headline.label)}: ${headline.text}.`;
   }
   if (now.kind === "error") return inLabels(test, now.error.template ?? now.error.message);
-  return now.kind === "stopped" ? texts.answer.stopped : "";
+  return now.kind === "stopped" || now.kind === "failed" ? texts.answer[now.kind] : "";
 }
 
 export function Status({ test }: { test: Test }) {

@@ -2,7 +2,7 @@
 
 import type { Test } from "../contract";
 import { design, show } from "../state";
-import { designOf, wordsOf } from "./design";
+import { designOf, wordsOf } from "./said";
 
 /** The example of the test that asks what is asked now, or the first. */
 export function fillExample(test: Test): void {

@@ -142,13 +142,17 @@ export function Fields({ test }: { test: Test }) {
   const part = (name: DesignField["part"]) => fields.filter((field) => field.part === name);
   const props = { test, now, errors: errorsOf(test, fields) };
   const study = part("study");
+  // What is said of sizes that are to be found comes after the aim.
+  const sizesFirst = part("size").some(({ needed }) => needed);
+  const sizes = <Part {...props} title={texts.form.size} fields={part("size")} />;
   return (
     <>
       <Part {...props} title={estimates ? texts.form.estimate : texts.form.effect} fields={part("effect")}>
         <Converter test={test} />
       </Part>
-      <Part {...props} title={texts.form.size} fields={part("size")} />
+      {sizesFirst && sizes}
       <Part {...props} title={texts.form.target} fields={part("target")} />
+      {!sizesFirst && sizes}
       <Part {...props} title={texts.form.option} fields={part("option")} />
       {study.length > 0 && <Study {...props} fields={study} />}
     </>

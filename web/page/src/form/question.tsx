@@ -1,45 +1,26 @@
 // What is asked of a test, and in which form the effect is given.
 
 import type { Test } from "../contract";
+import { outcome } from "../live";
 import { design, show } from "../state";
 import { texts } from "../texts";
+import { carriedOver } from "./carry";
+import { Choice } from "./choice";
 import { formOf, nearestForm, offeredForms } from "./forms";
 import type { Design } from "./design";
 import { nearestSought, questionsOf, soughtBy, soughtOf, type Wish } from "./wishes";
 import { capital, labelOf } from "./words";
 
-interface ChoiceProps {
-  group: string;
-  value: string;
-  chosen: boolean;
-  label: string;
-  help?: string;
-  onChoose: () => void;
-}
-
-/** A radio button whose whole row can be pressed. */
-export function Choice({ group, value, chosen, label, help, onChoose }: ChoiceProps) {
-  return (
-    <label class={`choice ${chosen ? "chosen" : ""} ${value === "any" ? "any" : ""}`}>
-      <input
-        type="radio"
-        name={group}
-        value={value}
-        checked={chosen}
-        data-testid={`${group}-${value}`}
-        onChange={onChoose}
-      />
-      <span class="choice-words">
-        <span class="choice-label">{label}</span>
-        {help && <span class="choice-help">{help}</span>}
-      </span>
-    </label>
-  );
+/** Shows another question or form of the same study, with what its answer has told already. */
+function turnTo(test: Test, next: Design): void {
+  const before = outcome.value;
+  const known = before.kind === "answered" && before.design.test === test.name;
+  show(known ? carriedOver(test, next, before.answer) : next, true);
 }
 
 function ask(test: Test, now: Design, wish: Wish): void {
   const needs = formOf(test, now.wish, now.form).needs;
-  show({ ...now, wish, form: nearestForm(test, wish, needs).key }, true);
+  turnTo(test, { ...now, wish, form: nearestForm(test, wish, needs).key });
 }
 
 function SoughtSelect({ test, now }: { test: Test; now: Design }) {
@@ -120,7 +101,7 @@ export function FormChoice({ test }: { test: Test }) {
             value={key}
             chosen={key === now.form}
             label={capital(label)}
-            onChoose={() => show({ ...now, form: key }, true)}
+            onChoose={() => turnTo(test, { ...now, form: key })}
           />
         ))}
       </div>

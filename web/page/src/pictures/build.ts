@@ -1,7 +1,6 @@
 /** From what was loaded to a picture, its sentence and its numbers. */
 
-import { contourPicture, powerAt, surfaceFor } from "./contour";
-import { contourSentence } from "./contour";
+import { contourPicture, contourSentence } from "./contour";
 import { curvePicture, curveSentence, markOf } from "./curve";
 import type { Mark, Placed } from "./curve";
 import { densitiesPicture, densitiesSentence } from "./densities";
@@ -13,6 +12,7 @@ import { numbersOfBars, numbersOfCurves, numbersOfDensities, numbersOfSaw, numbe
 import type { NumbersTable } from "./numbers_of";
 import { sawPicture, sawSentence } from "./saw";
 import { valueAt, valuesOf } from "./series";
+import { powerAt, surfaceFor } from "./surface";
 
 /** A picture that can be drawn in any look, on the screen and for a paper. */
 export interface Picture {

@@ -72,7 +72,7 @@ export function curveLabel(test: Test, chart: Chart, curve: ChartCurve, locale: 
 
 /** "n per group = 64". */
 export function place(axis: Axis, value: number, locale: string): string {
-  return `${axis.symbol} = ${shown(value, locale, 6)}`;
+  return `${axis.symbol} = ${shown(value, locale)}`;
 }
 
 /** "64 observations per group"; of what is no size, "effect size d = 0.5". */

@@ -5,6 +5,7 @@ import { render } from "preact";
 import { afterAll, afterEach, beforeAll, beforeEach, describe, expect, it, vi } from "vitest";
 import { Pictures } from "./index";
 import type { Answer, Design, Test } from "./model";
+import { hasChanges } from "./use_loaded";
 
 let kel: Kelpower;
 beforeAll(async () => {
@@ -159,6 +160,62 @@ describe("the pictures on the page", () => {
     details.dispatchEvent(new Event("toggle"));
     await vi.waitFor(() => expect(page.place.querySelectorAll("tbody tr").length).toBe(21));
     expect(page.place.querySelector("tbody tr")!.textContent).toMatch(/^20\.\d+$/);
+  });
+});
+
+describe("a design that is moved", () => {
+  const scale = (page: Page) =>
+    [...page.place.querySelectorAll("svg svg text")].map((text) => text.textContent).join(" ");
+
+  it("keeps the scales of its picture, also while older answers come", async () => {
+    const page = await new Page({ test: "two-means", inputs: { "effect-d": 0.5, n: 40 } }).show();
+    const before = scale(page);
+    page.drag(60, 0);
+    await page.changed();
+    const moved = page.handle().getAttribute("aria-valuenow");
+    expect(Number(moved)).toBeGreaterThan(45);
+    // An answer to a size on the way.
+    const last = page.design;
+    page.design = { test: "two-means", inputs: { "effect-d": 0.5, n: 42 } };
+    await page.show();
+    await new Promise((done) => setTimeout(done, 100));
+    expect(page.handle().getAttribute("aria-valuenow")).toBe(moved);
+    page.design = last;
+    await page.show();
+    await vi.waitFor(
+      () => expect(page.place.querySelector("figcaption")!.textContent).toContain(`With ${moved}`),
+      20_000,
+    );
+    expect(scale(page)).toBe(before);
+    // Nor are they fitted when the page has had its time to answer.
+    await new Promise((done) => setTimeout(done, 1700));
+    expect(scale(page)).toBe(before);
+  });
+
+  it("goes back where the page does not follow", async () => {
+    const page = await new Page(anova).show();
+    page.press("ArrowRight");
+    await page.changed();
+    expect(page.handle().getAttribute("aria-valuenow")).toBe("21");
+    page.design = anova;
+    await vi.waitFor(() => expect(page.handle().getAttribute("aria-valuenow")).toBe("20"), 20_000);
+  });
+
+  it("has scales of its own when the form changes it", async () => {
+    const page = await new Page({ test: "two-means", inputs: { "effect-d": 0.5, n: 40 } }).show();
+    const before = scale(page);
+    page.design = { test: "two-means", inputs: { "effect-d": 0.1, n: 40 } };
+    await page.show();
+    await vi.waitFor(() => expect(scale(page)).not.toBe(before), 20_000);
+  });
+
+  it("is known again in the form that the page gives it", () => {
+    expect(hasChanges({ n: [21, 21, 21], sd: 6 }, { n: 21 })).toBe(true);
+    expect(hasChanges({ n: [21] }, { n: 21 })).toBe(true);
+    expect(hasChanges({ means: [10, 12] }, { means: [10, 12] })).toBe(true);
+    expect(hasChanges({ n: [21, 22] }, { n: 21 })).toBe(false);
+    expect(hasChanges({ n: 21, power: 0.8 }, { n: 21, power: 0.81 })).toBe(false);
+    expect(hasChanges({}, { n: 21 })).toBe(false);
   });
 });
 

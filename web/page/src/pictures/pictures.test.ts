@@ -6,7 +6,8 @@ import { asksForSizes } from "./axes";
 import { pictureOf } from "./build";
 import type { Picture } from "./build";
 import { barsOf } from "./interval";
-import { labelPlaces, powerAt, surfaceFor } from "./contour";
+import { labelPlaces } from "./labels";
+import { outlines, powerAt, surfaceFor } from "./surface";
 import { domainOf, tail } from "./densities";
 import { fontOfPaper, textWidth } from "./frame";
 import type { Look } from "./frame";
@@ -268,6 +269,28 @@ describe("the contour", () => {
         expect(across > 40 || up > 18).toBe(true);
       }),
     );
+  });
+  it("has the area above a level from where the level is crossed to the edge, and no further", () => {
+    const surface = { x: [10, 20, 30], y: [0, 1], values: [0.1, 0.3, 0.5, 0.1, 0.3, 0.5], isSmoothed: false };
+    const [ring, ...others] = outlines(surface, 0.4);
+    expect(others).toEqual([]);
+    const range = (i: 0 | 1) => [Math.min(...ring!.map((at) => at[i])), Math.max(...ring!.map((at) => at[i]))];
+    expect(range(0)[0]).toBeCloseTo(25, 9);
+    expect(range(0)[1]).toBe(30);
+    expect(range(1)).toEqual([0, 1]);
+    expect(outlines(surface, 0.6)).toEqual([]);
+  });
+  it("draws no line along its edges", async () => {
+    const { picture } = await show("two-means", { "effect-d": 0.5, power: 0.8 }, { kind: "contour" });
+    const { svg } = picture.draw(look(600));
+    const plot = svg.querySelector("svg")!;
+    const [area, line] = [...plot.querySelectorAll("path")].map((path) => path.getAttribute("d")!);
+    const right = (d: string) => Math.max(...[...d.matchAll(/([\d.]+),/g)].map(([, x]) => Number(x)));
+    const drawn = [...line!.matchAll(/L([\d.]+),/g)].map(([, x]) => Number(x));
+    expect(right(area!)).toBeCloseTo(582, 1);
+    // The line meets the right edge where the level leaves the picture, once.
+    expect(drawn.filter((x) => x > 581.99).length).toBeLessThan(3);
+    expect([...area!.matchAll(/L([\d.]+),/g)].filter(([, x]) => Number(x) > 581.99).length).toBeGreaterThan(10);
   });
   it("has gaps where the core has no power", () => {
     const surface = { x: [0, 1], y: [0, 1], values: [0.1, NaN, 0.3, 0.5], isSmoothed: false };

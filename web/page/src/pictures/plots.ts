@@ -8,7 +8,6 @@ import type { Look, Panel } from "./frame";
 export const tickSize = 12;
 const marginTop = 10;
 const marginBottom = 26;
-const marginRight = 18;
 
 export function heightOf(width: number): number {
   return Math.round(Math.min(400, Math.max(230, 0.55 * width)));
@@ -24,8 +23,6 @@ export interface PlotParts {
   height: number;
   x: { domain: [number, number] };
   y: { domain: [number, number]; ticks?: number[] | undefined; grid?: boolean };
-  /** Fillings below, between and above levels. */
-  colours?: { levels: number[]; fills: string[] };
   marks: Plot.Markish[];
   marginLeft?: number;
   hasYAxis?: boolean;
@@ -54,9 +51,14 @@ export function drawPlot(parts: PlotParts): {
   const { palette, locale, width, font } = look;
   const format = (value: number) => shown(value, locale, 6);
   const hasYAxis = parts.hasYAxis ?? true;
-  const marginLeft = parts.marginLeft ?? (hasYAxis ? Math.max(36, marginFor(y.domain, y.ticks, format, font)) : 14);
+  const ends = x.domain.map((end) => format(Number(end.toPrecision(2))));
+  const widest = ends.reduce((a, b) => (b.length > a.length ? b : a));
+  // The first and the last tick may stand at the very ends.
+  const halfText = Math.ceil(textWidth(widest, tickSize, font) / 2) + 2;
+  const marginRight = Math.max(18, halfText);
+  const roomLeft = hasYAxis ? Math.max(36, marginFor(y.domain, y.ticks, format, font)) : 14;
+  const marginLeft = parts.marginLeft ?? Math.max(roomLeft, halfText);
   const across = width - marginLeft - marginRight;
-  const widest = format(Number(x.domain[1].toPrecision(2)));
   const ticksX = ticksFor(across, widest.length > 3 ? widest : "000");
   const axisStyle = { stroke: palette.frame, fill: palette.ink, color: palette.frame, label: null, fontSize: tickSize };
   const ticksY = y.ticks ?? (height < 150 ? 3 : 5);
@@ -87,9 +89,6 @@ export function drawPlot(parts: PlotParts): {
     marginBottom: (parts.hasXAxis ?? true) ? marginBottom : 8,
     x: { domain: x.domain, label: null, axis: null },
     y: { domain: y.domain, label: null, axis: null },
-    ...(parts.colours
-      ? { color: { type: "threshold" as const, domain: parts.colours.levels, range: parts.colours.fills } }
-      : {}),
     marks,
   }) as unknown as SVGSVGElement & { scale(name: string): Plot.Scale };
   const panel = { plot, width, height, left: marginLeft, right: width - marginRight };

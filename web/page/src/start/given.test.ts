@@ -1,6 +1,6 @@
 import { open } from "kelpower/direct";
 import { describe, expect, it } from "vitest";
-import { inputsOf } from "../form/design";
+import { inputsOf } from "../form/inputs";
 import { givenBy } from "./given";
 
 const { tests } = (await open()).describe();

@@ -1,7 +1,9 @@
 // Numbers among the words of someone who looks for a test: "a difference of 5 with SD 10" already fills in the form.
 
 import type { Test } from "../contract";
-import { type Design, designOf, inputsOf } from "../form/design";
+import { type Design } from "../form/design";
+import { inputsOf } from "../form/inputs";
+import { designOf } from "../form/said";
 import { parameterOf } from "../form/wishes";
 import { labelOf } from "../form/words";
 import { readNumber } from "../numbers";

@@ -2,78 +2,15 @@
 
 import { useSignal } from "@preact/signals";
 import { useMemo } from "preact/hooks";
-import type { Test } from "../contract";
-import { LoadButton } from "../answer/comparison";
-import { writeDesign } from "../address";
-import { emptyDesign } from "../form/design";
-import { Choice } from "../form/question";
-import { show, tests } from "../state";
+import { LoadButton } from "../answer/files";
+import { tests } from "../state";
 import { texts } from "../texts";
-import { givenBy } from "./given";
-import { fits, type Guide, noGuide, shelvesOf, wishFor } from "./guide";
+import { fits, type Guide, noGuide, shelvesOf } from "./guide";
+import { GuideQuestion } from "./guide_question";
 import { type Found, search } from "./search";
+import { TestList } from "./test_list";
 
 const say = texts.start;
-
-interface ListProps {
-  guide: Guide;
-  /** What was typed, which may tell numbers. */
-  typed: string;
-}
-
-function TestLink({ test, guide, typed }: ListProps & { test: Test }) {
-  const given = givenBy(test, typed);
-  const design = given?.design ?? emptyDesign(test, wishFor(test, guide.aim));
-  return (
-    <li>
-      <a
-        class="test"
-        href={`#${writeDesign(test, design)}`}
-        data-testid={`test-${test.name}`}
-        onClick={(event) => {
-          if (event.metaKey || event.ctrlKey || event.shiftKey) return;
-          event.preventDefault();
-          show(design, true);
-        }}
-      >
-        <span class="test-title">{test.title}</span>
-        <span class="test-about">{test.about}</span>
-        {given && <span class="test-given">{texts.start.given(given.words)}</span>}
-      </a>
-    </li>
-  );
-}
-
-interface GroupProps<Key extends string> {
-  name: string;
-  title: string;
-  words: Readonly<Record<Key, { label: string; help: string }>>;
-  chosen: Key | "";
-  onChoose: (key: Key | "") => void;
-}
-
-function GuideQuestion<Key extends string>({ name, title, words, chosen, onChoose }: GroupProps<Key>) {
-  const keys = Object.keys(words) as Key[];
-  return (
-    <fieldset data-testid={name}>
-      <legend>{title}</legend>
-      <div class="choices small">
-        {keys.map((key) => (
-          <Choice
-            key={key}
-            group={name}
-            value={key}
-            chosen={chosen === key}
-            label={words[key].label}
-            help={words[key].help}
-            onChoose={() => onChoose(key)}
-          />
-        ))}
-        <Choice group={name} value="any" chosen={chosen === ""} label={say.any} onChoose={() => onChoose("")} />
-      </div>
-    </fieldset>
-  );
-}
 
 function Hints({ found }: { found: Found }) {
   return (
@@ -84,16 +21,6 @@ function Hints({ found }: { found: Found }) {
         </p>
       ))}
     </>
-  );
-}
-
-function List({ tests: some, ...props }: ListProps & { tests: readonly Test[] }) {
-  return (
-    <ul class="tests">
-      {some.map((test) => (
-        <TestLink key={test.name} test={test} {...props} />
-      ))}
-    </ul>
   );
 }
 
@@ -159,12 +86,12 @@ export function Start() {
         </p>
       )}
       {isSearching ? (
-        <List tests={listed} guide={guide.value} typed={typed.value} />
+        <TestList tests={listed} guide={guide.value} typed={typed.value} />
       ) : (
         shelvesOf(listed).map((shelf) => (
           <div class="shelf" key={shelf.kind}>
             <h3>{texts.kinds[shelf.kind]}</h3>
-            <List tests={shelf.tests} guide={guide.value} typed="" />
+            <TestList tests={shelf.tests} guide={guide.value} typed="" />
           </div>
         ))
       )}
