@@ -39,8 +39,6 @@ def beside(seconds, ours):
 def section(rows):
     lines = [[row.design, page.QUESTIONS[row.question].lower(), page.duration(row.ours),
               beside(row.one_by_one, row.ours), beside(row.vector, row.ours), page.duration(row.single)] for row in rows]
-    least = {question: min(row.one_by_one / row.ours for row in rows if row.question == question)
-             for question in page.QUESTIONS}
     head = ["Design", "question", "kelpower, a vector", "pwr, one by one", "pwr, a vector", "kelpower, a single call"]
     text = page.paragraph(f"""
         The functions of the R package with a vector of 2000 effect sizes, beside pwr in the same session; times are those
