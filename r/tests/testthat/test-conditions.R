@@ -38,7 +38,7 @@ test_that("an interrupt stops a long computation and is seen as one", {
     "cat(r, kp_two_means(effect_d = 0.5, power = 0.8)$total, '\\n')"), script)
   output <- tempfile()
   command <- sprintf(
-    "%s --vanilla %s > %s 2>&1 & pid=$!; until grep -q started %s; do sleep 0.2; done; sleep 1; kill -INT $pid; wait $pid",
+    "%s --vanilla %s > %s 2>&1 & pid=$!; while kill -0 $pid && ! grep -q started %s; do sleep 0.2; done; sleep 1; kill -INT $pid; wait $pid",
     shQuote(file.path(R.home("bin"), "Rscript")), shQuote(script), shQuote(output), shQuote(output))
   libraries <- paste(.libPaths(), collapse = .Platform$path.sep)
   system2("sh", c("-c", shQuote(paste0("R_LIBS=", shQuote(libraries), "; export R_LIBS; ", command))))
