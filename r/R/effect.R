@@ -1,7 +1,7 @@
 # Effect sizes from what a study reports.
 
 convert_effect <- function(given, call) {
-  given <- given[!vapply(given, is.null, NA)]
+  given <- .Call(C_without_null, given)
   check_names(given, call)
   given <- lapply(given, function(value) if (is.factor(value)) as.character(value) else as.vector(value))
   check_finite(given, call)

@@ -2,7 +2,7 @@
 kp_grid <- function(test, ...) {
   call <- sys.call()
   name <- name_of_test(test, call)
-  given <- Filter(Negate(is.null), list(...))
+  given <- .Call(C_without_null, list(...))
   check_names(given, call)
   kinds <- kinds_of(name)
   designs <- lapply(stats::setNames(names(given), names(given)), function(each) {

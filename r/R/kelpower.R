@@ -3,13 +3,28 @@
 OWN_FIELDS <- c("method", "note", "alternative", "test", "question", "sentence", "status", "inputs", "results", "given")
 
 new_kelpower <- function(test, question, inputs, results, given, sentence = NULL, status = NULL) {
-  described <- tests()[[test]]
-  figures <- c(inputs[setdiff(names(inputs), names(results))], results)
-  fields <- c(figures[setdiff(names(figures), OWN_FIELDS)], base_fields(figures))
-  about <- list(note = note_of(described), method = described$title, test = test, question = question,
-                sentence = sentence, status = status, inputs = inputs, results = results, given = given)
-  structure(class = c("kelpower", "power.htest"),
-            c(fields[c(intersect("n", names(fields)), setdiff(names(fields), "n"))], Filter(Negate(is.null), about)))
+  about <- about_test(test)
+  figures <- c(inputs[!names(inputs) %in% names(results)], results)
+  base <- base_fields(figures)
+  figures <- figures[!names(figures) %in% OWN_FIELDS]
+  is_size <- names(figures) == "n"
+  fields <- c(figures[is_size], figures[!is_size], base, about)
+  fields$question <- question
+  fields$sentence <- sentence
+  fields$status <- status
+  fields$inputs <- inputs
+  fields$results <- results
+  fields$given <- given
+  class(fields) <- c("kelpower", "power.htest")
+  fields
+}
+
+about_test <- function(test) {
+  if (is.null(known$about[[test]])) {
+    described <- tests()[[test]]
+    known$about[[test]] <- list(note = note_of(described), method = described$title, test = test)
+  }
+  known$about[[test]]
 }
 
 BASE_NAMES <- c(d = "effect_d", f = "effect_f", f2 = "effect_f2", sig.level = "alpha", p1 = "proportion1",
@@ -17,11 +32,13 @@ BASE_NAMES <- c(d = "effect_d", f = "effect_f", f2 = "effect_f2", sig.level = "a
 
 # The fields as functions of base R and pwr name them.
 base_fields <- function(figures) {
-  known <- BASE_NAMES[BASE_NAMES %in% names(figures)]
-  fields <- stats::setNames(figures[known], names(known))
+  at <- match(BASE_NAMES, names(figures))
+  known <- !is.na(at)
+  fields <- figures[at[known]]
+  names(fields) <- names(BASE_NAMES)[known]
   one_sided <- figures$one_sided
-  if (!is.null(one_sided)) fields$alternative <- ifelse(one_sided, "one.sided", "two.sided")
-  fields[setdiff(names(fields), names(figures))]
+  if (!is.null(one_sided)) fields$alternative <- c("two.sided", "one.sided")[one_sided + 1L]
+  fields
 }
 
 note_of <- function(described) {

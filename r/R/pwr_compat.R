@@ -8,6 +8,8 @@ pwr_compat <- function(attach = TRUE) {
   name <- "kelpower::pwr_compat"
   # To be on the search path is what the caller asks for, as by library().
   if (!name %in% search()) do.call(base::attach, list(functions, name = name, warn.conflicts = FALSE))
+  # R finds methods by their registration and not on the search path.
+  registerS3method("plot", "power.htest", functions$plot.power.htest)
   invisible(functions)
 }
 

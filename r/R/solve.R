@@ -2,28 +2,29 @@
 # words too; several go through the door for columns.
 
 solve_test <- function(test, given, call) {
-  given <- given[!vapply(given, is.null, NA)]
+  given <- .Call(C_without_null, given)
   check_names(given, call)
   kinds <- kinds_of(test)
-  given <- lapply(stats::setNames(names(given), names(given)), function(name) {
-    designs_of(given[[name]], kinds[name], name, call)
-  })
+  for (name in names(given)) given[[name]] <- designs_of(given[[name]], kinds[name], name, call)
   count <- common_count(lengths(given), call)
   if (count == 1) solve_one(test, given, call) else solve_many(test, given, count, call)
 }
 
 check_names <- function(given, call) {
-  if (length(given) && (is.null(names(given)) || any(names(given) == ""))) {
+  names <- names(given)
+  if (length(given) && (is.null(names) || !all(nzchar(names)))) {
     stop(kelpower_condition("input", "Arguments are given by their names, such as power = 0.8.", call,
                             code = "r-unnamed"))
   }
-  twice <- names(given)[duplicated(names(given))]
-  if (length(twice)) stop_input(twice[1], "is given twice.", call)
+  if (anyDuplicated(names)) stop_input(names[anyDuplicated(names)], "is given twice.", call)
 }
 
 # The value of an input for each design: a vector, or for inputs that are lists themselves a list of vectors. A matrix or
 # data frame has a design in each row.
 designs_of <- function(value, kind, name, call) {
+  if (is.double(value) && is.null(attributes(value)) && length(value)) {
+    return(if (is_list_kind(kind)) list(value) else value)
+  }
   if (is.factor(value)) value <- as.character(value)
   if (is.data.frame(value)) value <- as.matrix(value)
   if (is.matrix(value)) value <- lapply(seq_len(nrow(value)), function(row) value[row, ])
@@ -42,7 +43,8 @@ is_list_kind <- function(kind) !is.na(kind) && kind %in% c("list", "per-group")
 is_numbers <- function(value) is.numeric(value) || (is.logical(value) && all(is.na(value)))
 
 common_count <- function(counts, call) {
-  count <- max(1L, counts)
+  if (all(counts == 1L)) return(1L)
+  count <- max(counts)
   odd <- names(counts)[counts != 1 & counts != count]
   if (length(odd)) {
     problem <- sprintf("has %d values, but must have 1 or %d like %s.", counts[[odd[1]]], count,
@@ -68,6 +70,7 @@ as_object <- function(list) if (length(list)) list else stats::setNames(list(), 
 check_finite <- function(inputs, call) {
   for (name in names(inputs)) {
     value <- inputs[[name]]
+    if (is.double(value) && all(is.finite(value))) next
     if (anyNA(value)) stop_input(name, "is missing (NA).", call, value)
     if (is.numeric(value) && any(is.infinite(value))) stop_input(name, "must be finite.", call, value)
   }

@@ -13,18 +13,20 @@
 
 #include "kelcommon/kel_mv.h"
 #include "kelpower.h"
-
-extern "C" int kelr_should_stop(void* payload);
+#include "watch.h"
 
 namespace {
 
 class UserStop : public StopRequest {
 public:
   bool ShouldStop() override {
-    isAsked = isAsked || kelr_should_stop(nullptr) != 0;
+    isAsked = isAsked || kelr_should_stop(&watch_) != 0;
     return isAsked;
   }
   bool isAsked = false;
+
+private:
+  KelrWatch watch_ = kelr_watch();
 };
 
 /// What lives for the time of a call besides its arguments.

@@ -3,8 +3,31 @@
 
 #include "glue.h"
 #include "kelplan.h"
+#include "watch.h"
 
-static const kelplan_options options = {sizeof(kelplan_options), kelr_should_stop, NULL};
+static kelplan_options watched_by(KelrWatch* watch) {
+  const kelplan_options options = {sizeof(kelplan_options), kelr_should_stop, watch};
+  return options;
+}
+
+/* The elements of a list of arguments that are given. */
+SEXP kelr_without_null(SEXP list) {
+  const R_xlen_t all = Rf_xlength(list);
+  SEXP all_names = PROTECT(Rf_getAttrib(list, R_NamesSymbol));
+  R_xlen_t count = 0;
+  for (R_xlen_t i = 0; i < all; ++i) count += !Rf_isNull(VECTOR_ELT(list, i));
+  SEXP given = PROTECT(Rf_allocVector(VECSXP, count));
+  SEXP names = PROTECT(Rf_allocVector(STRSXP, count));
+  for (R_xlen_t i = 0, kept = 0; i < all; ++i) {
+    if (Rf_isNull(VECTOR_ELT(list, i))) continue;
+    SET_VECTOR_ELT(given, kept, VECTOR_ELT(list, i));
+    if (!Rf_isNull(all_names)) SET_STRING_ELT(names, kept, STRING_ELT(all_names, i));
+    ++kept;
+  }
+  Rf_setAttrib(given, R_NamesSymbol, names);
+  UNPROTECT(3);
+  return given;
+}
 
 SEXP kelr_version(void) { return Rf_mkString(kelplan_version()); }
 
@@ -47,6 +70,8 @@ SEXP kelr_ask(SEXP door, SEXP request) {
   const char* text = kelr_write_json(request);
   char* answer = NULL;
   int status = KELPLAN_FAILED;
+  KelrWatch watch = kelr_watch();
+  const kelplan_options options = watched_by(&watch);
   switch (Rf_asInteger(door)) {
     case 1: status = kelplan_solve(text, &options, &answer); break;
     case 2: status = kelplan_draw(text, &options, &answer); break;
@@ -107,6 +132,8 @@ static SEXP run_batch(void* payload) {
     SET_VECTOR_ELT(results, i, Rf_allocVector(REALSXP, run->rows));
     numbers[i] = REAL(VECTOR_ELT(results, i));
   }
+  KelrWatch watch = kelr_watch();
+  const kelplan_options options = watched_by(&watch);
   const int status = kelplan_run(run->batch, (size_t)run->rows, columns, strides, numbers, NULL, INTEGER(statuses),
                                  (ptrdiff_t)sizeof(int), &options);
   mark_missing(results);

@@ -13,10 +13,8 @@ SEXP kelr_read_json(const char* text);
 /* The JSON of an R value: a named list is an object, another list and a longer vector is an array. Memory of R_alloc. */
 const char* kelr_write_json(SEXP value);
 
-/* For long calls: not 0 when the user wants to interrupt. `payload` is not used. */
-int kelr_should_stop(void* payload);
-
 /* The routines of the package. */
+SEXP kelr_without_null(SEXP list);
 SEXP kelr_version(void);
 SEXP kelr_describe(void);
 SEXP kelr_ask(SEXP door, SEXP request);

@@ -4,6 +4,7 @@
 #include "glue.h"
 
 static const R_CallMethodDef routines[] = {
+    {"C_without_null", (DL_FUNC)&kelr_without_null, 1},
     {"C_version", (DL_FUNC)&kelr_version, 0},
     {"C_describe", (DL_FUNC)&kelr_describe, 0},
     {"C_ask", (DL_FUNC)&kelr_ask, 2},

@@ -3,6 +3,7 @@
 Usage: from_r.py LIBRARY PAGE (the R library that the package is installed in, the page)
 """
 
+import statistics
 import subprocess
 import sys
 from dataclasses import dataclass
@@ -36,18 +37,23 @@ def beside(seconds, ours):
     return f"{page.duration(seconds)} ({page.times(seconds / ours)})"
 
 
+def spread(rows, question):
+    """From the least to the most, and the median."""
+    ratios = [row.one_by_one / row.ours for row in rows if row.question == question]
+    least, median, most = map(page.times, (min(ratios), statistics.median(ratios), max(ratios)))
+    return f"{least} to {most} (in the median {median})"
+
+
 def section(rows):
     lines = [[row.design, page.QUESTIONS[row.question].lower(), page.duration(row.ours),
               beside(row.one_by_one, row.ours), beside(row.vector, row.ours), page.duration(row.single)] for row in rows]
-    least = {question: min(row.one_by_one / row.ours for row in rows if row.question == question)
-             for question in page.QUESTIONS}
     head = ["Design", "question", "kelpower, a vector", "pwr, one by one", "pwr, a vector", "kelpower, a single call"]
     text = page.paragraph(f"""
         The functions of the R package with a vector of 2000 effect sizes, beside pwr in the same session; times are those
-        of one design. In parentheses how many times as long as kelpower. Powers are at least
-        {page.times(least["power"])} times as fast as calls of pwr one by one, sizes at least
-        {page.times(least["size"])} times. pwr takes a vector for a power, though not for a size. The answers are the
-        same, but for those of correlations, which pwr approximates in another way. A single call is mostly R's own work.
+        of one design. In parentheses how many times as long as kelpower. Beside calls of pwr one by one, powers are
+        {spread(rows, "power")} times as fast, sizes {spread(rows, "size")} times. pwr takes a vector for a power, which is
+        then R's own distribution over a vector, though not for a size. The answers are the same, but for those of
+        correlations, which pwr approximates in another way. A single call is mostly R's own work.
         """)
     return f"## Called from R\n\n{text}\n{page.table(head, lines)}\n"
 

@@ -30,15 +30,16 @@ test_that("an interrupt stops a long computation and is seen as one", {
   script <- tempfile(fileext = ".R")
   writeLines(c(
     "library(kelpower)",
-    "cat('started\\n'); flush(stdout())",
+    "cat('started\\n', file = stdout())",
     "r <- tryCatch(",
     "  { kp_two_proportions(proportion1 = 0.5, proportion2 = seq(0.55, 0.56, length.out = 1000), exact = TRUE, power = 0.9)",
     "    'finished' },",
     "  interrupt = function(e) 'interrupted')",
     "cat(r, kp_two_means(effect_d = 0.5, power = 0.8)$total, '\\n')"), script)
   output <- tempfile()
-  command <- sprintf("%s --vanilla %s > %s 2>&1 & pid=$!; sleep 3; kill -INT $pid; wait $pid", 
-                     shQuote(file.path(R.home("bin"), "Rscript")), shQuote(script), shQuote(output))
+  command <- sprintf(
+    "%s --vanilla %s > %s 2>&1 & pid=$!; while kill -0 $pid && ! grep -q started %s; do sleep 0.2; done; sleep 1; kill -INT $pid; wait $pid",
+    shQuote(file.path(R.home("bin"), "Rscript")), shQuote(script), shQuote(output), shQuote(output))
   libraries <- paste(.libPaths(), collapse = .Platform$path.sep)
   system2("sh", c("-c", shQuote(paste0("R_LIBS=", shQuote(libraries), "; export R_LIBS; ", command))))
   expect_identical(trimws(tail(readLines(output), 1)), "interrupted 128")

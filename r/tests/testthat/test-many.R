@@ -61,3 +61,22 @@ test_that("a grid has all combinations, the last argument varying fastest", {
   expect_identical(m$power[3], kp_anova(means = c(1, 2), sd = 3, n = 20)$power)
   expect_error(kp_grid(mean, n = 1), class = "kelpower_input_error")
 })
+
+test_that("each example of each test answers in a vector as it does alone", {
+  for (test in tests()) {
+    name <- underscored(test$name)
+    kinds <- kinds_of(name)
+    for (example in test$examples) {
+      inputs <- setNames(example$inputs, underscored(names(example$inputs)))
+      one <- as.data.frame(do.call(paste0("kp_", name), inputs))
+      for (input in names(inputs)) {
+        doubled <- inputs
+        doubled[[input]] <- if (is_list_kind(kinds[input])) rep(list(inputs[[input]]), 2) else rep(inputs[[input]], 2)
+        two <- as.data.frame(do.call(paste0("kp_", name), doubled))
+        for (column in names(one)) {
+          expect_equal(two[[column]], rep(one[[column]], 2), tolerance = 1e-12, label = paste(name, input, column))
+        }
+      }
+    }
+  }
+})
