@@ -34,9 +34,12 @@ configure-%:
 	@sh tools/install_packages.sh build
 	@cmake --preset $* -Wno-dev --log-level=WARNING
 
-test: test-native test-python test-r test-web ## build and pass all tests
+test: ## build and pass all tests: of the libraries and the program, then of Python, R and the browser side by side
+	@sh tools/install_packages.sh build headers python r wasm web
+	@$(MAKE) --no-print-directory test-native
+	@$(MAKE) --no-print-directory -j $(JOBS) --output-sync=target test-python test-r test-web
 
-test-native: build ## those of the libraries and of the program
+test-native: build ## the tests of the libraries and of the program
 	@ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
 
 r: ## make the source package of R in build/r
