@@ -10,7 +10,7 @@ One function for each test, in which what is left out is what is solved for:
 
 """
 
-from . import dist, lib, ufuncs
+from . import _functions, dist, lib, ufuncs
 from ._core import version as __version__
 from ._curve import Curve, Curves, Surface
 from ._densities import Densities
@@ -19,7 +19,6 @@ from ._effect_sizes import EffectSizes
 from ._errors import InputError, KelpowerError, NoSolution, NoSolutionWarning
 from ._frames import arrow_batches, arrow_schema, arrow_udf, frame_meta, solve_frame, spark_schema
 from ._functions import *  # noqa: F403
-from ._functions import __all__ as _tests
 from ._grid import grid
 from ._lines import plot
 from ._result import Explanation, Result
@@ -56,4 +55,4 @@ __all__ = [
     "ufunc",
     "ufuncs",
 ]
-__all__ += _tests
+__all__ += _functions.__all__

@@ -7,19 +7,19 @@ from numpy.typing import ArrayLike, NDArray
 from ._result import Result
 from ._results import Results
 
-Floats = Sequence[float] | NDArray[Any]
+_Floats = Sequence[float] | NDArray[Any]
 
 __all__ = ["anova", "contrast", "mean", "paired_means", "paired_proportions", "pairwise", "partial", "pearson", "proportion", "regression", "spearman", "two_means", "two_proportions"]
 
 @overload
 def anova(
     *,
-    means: Floats | None = None,
+    means: _Floats | None = None,
     sd: float | None = None,
     effect_f: float | None = None,
     eta_squared: float | None = None,
-    n: float | Floats | None = None,
-    ratios: float | Floats | None = None,
+    n: float | _Floats | None = None,
+    ratios: float | _Floats | None = None,
     groups: float | None = None,
     power: float | None = None,
     interval: bool = False,
@@ -50,12 +50,12 @@ def anova(
 @overload
 def contrast(
     *,
-    coefficients: Floats | None = None,
-    means: Floats | None = None,
+    coefficients: _Floats | None = None,
+    means: _Floats | None = None,
     sd: float | None = None,
     effect_d: float | None = None,
-    n: float | Floats | None = None,
-    ratios: float | Floats | None = None,
+    n: float | _Floats | None = None,
+    ratios: float | _Floats | None = None,
     one_sided: bool = False,
     power: float | None = None,
     interval: bool = False,
@@ -88,12 +88,12 @@ def contrast(
 @overload
 def pairwise(
     *,
-    pair: Floats | None = None,
-    means: Floats | None = None,
+    pair: _Floats | None = None,
+    means: _Floats | None = None,
     sd: float | None = None,
     effect_d: float | None = None,
-    n: float | Floats | None = None,
-    ratios: float | Floats | None = None,
+    n: float | _Floats | None = None,
+    ratios: float | _Floats | None = None,
     groups: float | None = None,
     adjust: Literal["bonferroni", "sidak", "none"] = "bonferroni",
     power: float | None = None,
@@ -166,8 +166,8 @@ def mean(
 @overload
 def paired_means(
     *,
-    means: Floats | None = None,
-    sds: Floats | None = None,
+    means: _Floats | None = None,
+    sds: _Floats | None = None,
     correlation: float | None = None,
     mean_difference: float | None = None,
     sd_difference: float | None = None,
@@ -208,11 +208,11 @@ def paired_means(
 @overload
 def two_means(
     *,
-    means: Floats | None = None,
+    means: _Floats | None = None,
     mean_difference: float | None = None,
-    sd: float | Floats | None = None,
+    sd: float | _Floats | None = None,
     effect_d: float | None = None,
-    n: float | Floats | None = None,
+    n: float | _Floats | None = None,
     ratio: float = 1,
     one_sided: bool = False,
     power: float | None = None,
@@ -298,13 +298,13 @@ def proportion(
 @overload
 def two_proportions(
     *,
-    proportions: Floats | None = None,
+    proportions: _Floats | None = None,
     proportion1: float | None = None,
     proportion2: float | None = None,
     risk_difference: float | None = None,
     risk_ratio: float | None = None,
     odds_ratio: float | None = None,
-    n: float | Floats | None = None,
+    n: float | _Floats | None = None,
     ratio: float = 1,
     method: Literal["z", "t", "likelihood-ratio", "arcsine", "conditional"] = "z",
     exact: bool = False,

@@ -160,7 +160,7 @@ def scalar_type(test, parameter):
         return f"Literal[{', '.join(map(repr, words))}]{optional}".replace("'", '"')
     if kind == "number":
         return "float" if "default" in parameter else "float | None"
-    return "float | Floats | None" if parameter.get("spreads") else "Floats | None"
+    return "float | _Floats | None" if parameter.get("spreads") else "_Floats | None"
 
 
 def array_type(parameter):
@@ -178,7 +178,7 @@ def stub(tests):
     """Types: numbers give one answer, arrays give many."""
     lines = ["# ruff: noqa: E501", "from collections.abc import Sequence", "from typing import Any, Literal, overload", "",
              "from numpy.typing import ArrayLike, NDArray", "", "from ._result import Result",
-             "from ._results import Results", "", "Floats = Sequence[float] | NDArray[Any]", ""]
+             "from ._results import Results", "", "_Floats = Sequence[float] | NDArray[Any]", ""]
     names = exported(tests)
     lines += [f"__all__ = [{names}]", ""]
     for test in tests:

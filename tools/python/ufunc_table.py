@@ -151,4 +151,6 @@ def module(tests):
 
 def stub(tests):
     names = [ufunc.name for test in tests for ufunc in of_test(test)]
-    return "\n".join(["import numpy as np", "", "__all__: list[str]", "", *(f"{name}: np.ufunc" for name in names)]) + "\n"
+    exported = [f'    "{name}",' for name in sorted(names)]
+    return "\n".join(["import numpy as np", "", "__all__ = [", *exported, "]", "",
+                      *(f"{name}: np.ufunc" for name in names)]) + "\n"
