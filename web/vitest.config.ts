@@ -6,7 +6,7 @@ export default defineConfig({
     fileParallelism: false,
     projects: [
       { extends: true, test: { name: "core", include: ["core/test/*.test.ts"], testTimeout: 60_000 } },
-      { extends: true, test: { name: "page", include: ["page/**/*.test.{ts,tsx}"] } },
+      { extends: true, test: { name: "page", include: ["page/**/*.test.{ts,tsx}"], testTimeout: 60_000 } },
       { extends: true, test: { name: "e2e", include: ["e2e/*.test.ts"], testTimeout: 120_000, hookTimeout: 60_000 } },
     ],
   },

@@ -196,9 +196,10 @@ describe("the picture", () => {
     await page.mouse.move(x + 60, y, { steps: 5 });
     await page.mouse.up();
     await byTestId(page, "sentence").filter({ hasNotText: "64 observations" }).waitFor();
-    const n = Number(/n=(\d+)/.exec(new URL(page.url()).hash)?.[1]);
-    expect(n).toBeGreaterThan(64);
-    expect(await answered(page)).toContain(`${n} observations`);
+    // The address follows the answer a moment later.
+    const size = () => Number(/n=(\d+)/.exec(new URL(page.url()).hash)?.[1]);
+    await expect.poll(async () => (await answered(page)).includes(`${size()} observations`)).toBe(true);
+    expect(size()).toBeGreaterThan(64);
     expect(faults).toEqual([]);
     await close();
   });

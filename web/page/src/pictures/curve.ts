@@ -12,6 +12,9 @@ import { drawPlot, heightOf, powerTicks, roomAbove } from "./plots";
 import { isSaw, staysFrom, valueAt, valuesOf } from "./series";
 import { sentences, texts } from "./texts";
 
+/** The power that most studies aim for. */
+const usualPower = 0.8;
+
 export interface Mark {
   x: number;
   y: number;
@@ -91,6 +94,9 @@ function marksOf(input: CurveInput, look: Look, domain: [number, number]): Plot.
   const { chart, mark, target } = input;
   const { palette } = look;
   const marks: Plot.Markish[] = [];
+  if (target === null && chart.quantity === "power") {
+    marks.push(Plot.ruleY([usualPower], { stroke: palette.reference }));
+  }
   if (target !== null)
     marks.push(Plot.ruleY([target], { stroke: palette.reference, strokeWidth: 1.5, strokeDasharray: "6,4" }));
   if (mark) {
