@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <optional>
 #include <utility>
@@ -28,6 +29,15 @@ bool NearlyReached(Question question, double value, const Inputs& inputs) {
   if (question == Question::SampleSize) return value >= inputs.Number("power") - rounding;
   return value <= inputs.Number("half-width") * (1 + rounding);
 }
+
+/// What the sizes of a search gave. Of several groups, numbers next to each other often come to the same sizes, and the
+/// number that a search ends with was tried before.
+struct TriedSizes {
+  Numbers sizes;
+  Row row{};
+  double assured = 0;
+  bool isReached = false;
+};
 
 }  // namespace
 
@@ -108,14 +118,23 @@ Row PreparedQuestion::FindSizes(const Inputs& inputs) {
     return row.status != RowStatus::Answered || NearlyReached(route_.question, row.value, inputs) ? row : unanswered;
   }
   Row row = unanswered;
+  std::array<TriedSizes, 2> latest;
   const auto reaches = [&](double number) {
     if (row.status == RowStatus::Stopped) return true;
     sizes_ = whole.At(number);
+    for (const TriedSizes& known : latest) {
+      if (known.sizes != sizes_) continue;
+      row = known.row;
+      assured_ = known.assured;
+      return known.isReached;
+    }
     SetSizes(tried, sizes_);
     row = FirstFailing(sizeConditions_, tried) ? refused : ValueOf(tried);
     if (assurance_) assured_ = assurance_(tried);
-    return row.status == RowStatus::Stopped ||
-           (row.status == RowStatus::Answered && Reached(route_.question, row.value, assured_, inputs));
+    if (row.status == RowStatus::Stopped) return true;
+    const bool isReached = row.status == RowStatus::Answered && Reached(route_.question, row.value, assured_, inputs);
+    latest[isReached ? 1 : 0] = {sizes_, row, assured_, isReached};
+    return isReached;
   };
   std::optional<double> number = FindWhole(whole, found, reaches);
   if (number && isUneven) number = FindUneven(whole, inputs, *number, reaches);
