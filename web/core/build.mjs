@@ -45,6 +45,7 @@ async function describe() {
 rmSync(dist, { recursive: true, force: true });
 mkdirSync(dist);
 copyFileSync(join(here, "../../LICENSE"), join(dist, "LICENSE"));
+copyFileSync(join(here, "NOTICE.txt"), join(dist, "NOTICE.txt"));
 copyFileSync(join(module, "kelplan.mjs"), join(dist, "glue.js"));
 writeText("wasm.js", gzipSync(readFileSync(join(module, "kelplan.wasm")), { level: 9 }).toString("base64"));
 compileTypeScript();

@@ -5,7 +5,7 @@ import type { Plugin } from "vite";
 
 const PACKAGE = /^.*\/node_modules\/(?:@[^/]+\/)?[^/]+(?=\/)/;
 
-/** The licences of the packages, each once, with the names of those that it is of. */
+/** The licences of the packages, each once, with the names of those that it is of, and those of the module's parts. */
 function textOf(folders: Iterable<string>): string {
   const names = new Map<string, string[]>();
   for (const folder of folders) {
@@ -15,8 +15,9 @@ function textOf(folders: Iterable<string>): string {
     const text = readFileSync(join(folder, file), "utf8").trim();
     names.set(text, [...(names.get(text) ?? []), name]);
   }
-  const parts = [...names].map(([text, of]) => `${of.sort().join(", ")}\n\n${text}`);
-  return `This page contains parts of other packages.\n\n${parts.sort().join("\n\n---\n\n")}\n`;
+  const parts = [...names].map(([text, of]) => `${of.sort().join(", ")}\n\n${text}`).sort();
+  parts.push(readFileSync(new URL("../core/NOTICE.txt", import.meta.url), "utf8").trim());
+  return `This page contains parts of other packages.\n\n${parts.join("\n\n---\n\n")}\n`;
 }
 
 /** Puts the licences of all packages that are in the page at its end. */
