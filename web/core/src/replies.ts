@@ -163,6 +163,46 @@ export interface Chart {
     export: string;
     [k: string]: unknown;
   }[];
+  /**
+   * where the request has picture: what a picture of the chart says
+   */
+  picture?: {
+    title: string;
+    /**
+     * what the chart holds fixed
+     */
+    fixed: string[];
+    /**
+     * the title of the axis of values
+     */
+    values: string;
+    /**
+     * what tells each curve from the others
+     */
+    curves: string[];
+    /**
+     * place and value of each design; empty where it lies outside
+     */
+    designs: string[];
+    /**
+     * of a surface: the lines of equal power
+     */
+    levels?: {
+      power: number;
+      lines: {
+        x: number[];
+        y: number[];
+      }[];
+    }[];
+    /**
+     * what the lines mean, where the power goes up and down
+     */
+    note?: string;
+    /**
+     * the chart in words
+     */
+    description: string;
+  };
 }
 /**
  * The reply of kelplan_convert.
@@ -196,6 +236,10 @@ export interface Conversion {
       source: string;
     };
   };
+  /**
+   * where the request has text: the answer as the program prints it
+   */
+  text?: string;
 }
 /**
  * What kelplan_describe tells.
