@@ -142,7 +142,7 @@ def speed_section(rows):
           page.times(theirs.seconds / ours.seconds)] for compared, ours, theirs in rows])
     text = f"""The distributions as NumPy ufuncs beside those of SciPy, an element of an array, in one run of
         `tools/peers/scipy_distributions.py` ({context()}). The points are the references of the distributions within
-        planning. docs/python.md has the errors of both."""
+        planning. docs/python-lib.md has the errors of both."""
     return f"## Distributions in Python\n\n{page.paragraph(text)}\n{table}\n"
 
 
