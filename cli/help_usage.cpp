@@ -13,12 +13,12 @@ using namespace planner;
 namespace {
 
 /// What stands for the value of an option in usage lines.
-struct Placeholder {
+struct Metavariable {
   std::string_view input;
   std::string_view text;
 };
 
-constexpr Placeholder placeholders[] = {
+constexpr Metavariable metavariables[] = {
     {"means", "M1,M2"},
     {"mean", "M"},
     {"mean-difference", "D"},
@@ -69,12 +69,12 @@ constexpr Placeholder placeholders[] = {
     {"confidence", "C"},
 };
 
-std::string PlaceholderOf(const Test& test, Name name) {
+std::string MetavariableOf(const Test& test, Name name) {
   const Parameter& parameter = *FindParameter(test, name);
   if (parameter.kind == Kind::Flag) return "";
   const bool isOfManyGroups = test.groups == groupsFromInputs && name == Name("means");
   if (isOfManyGroups) return " M1,M2,M3";
-  for (const auto& [input, text] : placeholders) {
+  for (const auto& [input, text] : metavariables) {
     if (input == name.Text()) return fmt::format(" {}", text);
   }
   return parameter.kind == Kind::Choice ? " WORD" : parameter.IsList() ? " X1,X2" : " X";
@@ -84,7 +84,7 @@ std::string PlaceholderOf(const Test& test, Name name) {
 
 std::string Usage(const Test& test, const Route& route) {
   std::string text = "kelpower " + test.name;
-  const auto given = [&](Name name) { return OptionOf(name.Text()) + PlaceholderOf(test, name); };
+  const auto given = [&](Name name) { return OptionOf(name.Text()) + MetavariableOf(test, name); };
   const std::optional<Name> asker = AskedBy(route.question);
   for (Name need : route.needs) text += ' ' + given(need);
   if (asker) text += ' ' + given(*asker);

@@ -22,13 +22,20 @@ Floats = NDArray[np.float64]
 # What float() would take for a number among other objects.
 NO_NUMBERS = (str, bytes, bool, np.bool_, np.complexfloating, np.ndarray)
 
+# Of a list. An array that is spread costs nothing to make one of any length.
+MOST_ENTRIES = 10_000
+
 # Fewer rows are not worth another thread.
 ROWS_A_THREAD = 2048
 
 
 def is_many(parameter: Parameter, value: Any) -> bool:
     """Whether a value stands for many designs: an array, where one design has a number, or an array of lists."""
-    return len(shape_of(value)) > (1 if parameter.is_list else 0)
+    shape = shape_of(value)
+    if parameter.is_list and shape and shape[-1] > MOST_ENTRIES:
+        said = f"{parameter.name} has {shape[-1]} entries, but at most {MOST_ENTRIES} are allowed."
+        raise InputError(said, {"parameter": parameter.name})
+    return len(shape) > (1 if parameter.is_list else 0)
 
 
 def shape_of(value: Any) -> tuple[int, ...]:

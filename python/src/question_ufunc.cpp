@@ -5,7 +5,10 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <new>
 #include <nlohmann/json.hpp>
+#include <utility>
+#include <vector>
 
 #include "doors.h"
 #include "interrupts.h"
@@ -17,7 +20,10 @@ namespace {
 
 using nlohmann::json;
 
-/// Numbers of one type, a bytes' stride apart.
+// The planner takes no longer lists. An array that is spread costs nothing to make one of any length.
+constexpr npy_intp mostGroups = 10000;
+
+/// Doubles that lie a number of bytes apart.
 struct Strided {
   char* first;
   std::ptrdiff_t stride;
@@ -86,12 +92,11 @@ struct Rows {
     return std::any_of(columns.begin(), columns.end(),
                        [row](const Strided& column) { return std::isnan(*column.At(row)); });
   }
-  void Leave(npy_intp from) const {
-    for (const Strided& output : outputs) {
-      for (npy_intp row = from; row < count; ++row) *output.At(row) = std::numeric_limits<double>::quiet_NaN();
-    }
-  }
 };
+
+void Leave(const Strided& output, npy_intp from, npy_intp count) {
+  for (npy_intp row = from; row < count; ++row) *output.At(row) = std::numeric_limits<double>::quiet_NaN();
+}
 
 /// Spreads lists over their entries.
 Rows RowsOf(const Question& question, char** numbers, const npy_intp* dimensions, const npy_intp* steps) {
@@ -148,7 +153,8 @@ void Answer(const Prepared& prepared, const Rows& rows, const std::vector<Stride
                     results.data(), resultStrides.data(), status, sizeof(int), &options);
     if (ended == KELPLAN_NO_MEMORY) {
       flags.SetInvalid();
-      return rows.Leave(first);
+      for (const Strided& output : rows.outputs) Leave(output, first, rows.count);
+      return;
     }
     for (npy_intp row = 0; row < count; ++row) {
       if (status[row] != KELPLAN_OK && !rows.HasNaN(first + row)) flags.SetInvalid();
@@ -156,25 +162,38 @@ void Answer(const Prepared& prepared, const Rows& rows, const std::vector<Stride
   }
 }
 
-void LeaveAll(const Rows& rows) {
+/// Takes no memory, as there may be none.
+void LeaveAll(const Question& question, char** numbers, const npy_intp* dimensions, const npy_intp* steps) {
   FloatingPointFlags flags;
   flags.SetInvalid();
-  rows.Leave(0);
+  const std::size_t arguments = question.Arguments().size(), outputs = question.Outputs().size();
+  const npy_intp* entrySteps = steps + arguments + outputs;
+  for (const Argument& argument : question.Arguments()) entrySteps += argument.isList ? 1 : 0;
+  for (std::size_t i = 0; i < outputs; ++i) {
+    const bool isList = question.Outputs()[i].isList;
+    const npy_intp entries = isList ? dimensions[1] : 1;
+    for (npy_intp entry = 0; entry < entries; ++entry) {
+      char* first = numbers[arguments + i] + (isList ? *entrySteps * entry : 0);
+      Leave({first, steps[arguments + i]}, 0, dimensions[0]);
+    }
+    if (isList) ++entrySteps;
+  }
 }
 
 void Loop(char** numbers, const npy_intp* dimensions, const npy_intp* steps, void* data) {
   if (dimensions[0] == 0) return;
   auto& question = *static_cast<Question*>(static_cast<UfuncData*>(data));
-  Rows rows{{}, {}, 0};
+  const npy_intp groups = question.signature.empty() ? 0 : dimensions[1];
+  if (groups > mostGroups) return LeaveAll(question, numbers, dimensions, steps);
   try {
-    rows = RowsOf(question, numbers, dimensions, steps);
-    const Prepared& prepared = question.For(question.signature.empty() ? 0 : dimensions[1]);
-    if (!prepared.IsReady()) return LeaveAll(rows);
+    const Prepared& prepared = question.For(groups);
+    if (!prepared.IsReady()) return LeaveAll(question, numbers, dimensions, steps);
+    const Rows rows = RowsOf(question, numbers, dimensions, steps);
     Interrupts interrupts;
     Answer(prepared, rows, Destinations(question, prepared, rows), interrupts);
     interrupts.RaiseLater();
   } catch (...) {
-    LeaveAll(rows);
+    LeaveAll(question, numbers, dimensions, steps);
   }
 }
 

@@ -32,7 +32,7 @@ def test_names_are_those_of_python():
 
 NO_NUMBERS = [
     float("nan"), float("inf"), -float("inf"), 10**400, 1e300, type(None), "x", b"x", {}, object(), 1j, Decimal("NaN"),
-    np.float64("nan"), np.datetime64("NaT"),
+    np.float64("nan"), np.datetime64("NaT", "s"),
 ]  # fmt: skip
 HALVES = [0.5, np.float32(0.5), np.float64(0.5), np.array(0.5), Decimal("0.5"), np.longdouble(0.5)]
 

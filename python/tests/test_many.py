@@ -76,6 +76,13 @@ def test_what_all_designs_share_must_be_right():
         kelpower.anova(means=[[1, 2], [1, 2, 3]], sd=1, n=10)
 
 
+@pytest.mark.parametrize("shape", [(10**9,), (2, 10**9)])
+def test_endless_lists_are_refused_at_once(shape):
+    means = np.broadcast_to(1.0, shape)
+    with pytest.raises(kelpower.InputError, match="means has 1000000000 entries, but at most 10000 are allowed"):
+        kelpower.anova(means=means, sd=1, n=10)
+
+
 def test_nothing_is_asked_of_no_designs():
     answers = kelpower.two_means(effect_d=np.array([]), power=0.8)
     assert answers.shape == answers.total.shape == (0,)

@@ -101,6 +101,15 @@ def test_no_answer_is_nan_with_numpys_warning():
             ufuncs.two_means_power(0.5, 1, 20, 0.05)
 
 
+def test_endless_lists_have_no_answer():
+    with pytest.warns(RuntimeWarning, match="invalid value"):
+        assert np.isnan(ufuncs.anova_power(0.3, np.broadcast_to(20.0, (10**9,)), [0.05, 0.01])).all()
+    with pytest.warns(RuntimeWarning, match="invalid value"):
+        sizes = ufuncs.anova_n(0.3, 0.8, np.ones((2, 10_001)), 0.05)
+    assert sizes.shape == (2, 10_001)
+    assert np.isnan(sizes).all()
+
+
 def test_ufuncs_of_other_questions_can_be_made():
     power = kelpower.ufunc("two-means", "effect_d", "n", one_sided=True)
     assert power(0.5, 64) == kelpower.two_means(effect_d=0.5, n=64, one_sided=True).power
