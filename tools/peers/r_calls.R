@@ -2,9 +2,7 @@
 # Writes lines of a program, a design, a question, the answer and the seconds of a call, separated by tabs.
 
 suppressMessages(library(pwr))
-
-RUNS <- 5
-SECONDS_PER_RUN <- 0.05
+source(file.path(dirname(sub("^--file=", "", grep("^--file=", commandArgs(), value = TRUE))), "r_timing.R"))
 
 three_means <- c(10, 12, 15)
 three_means_f <- sqrt(mean((three_means - mean(three_means))^2)) / 6
@@ -95,19 +93,6 @@ designs <- list(
     pwr = list(
       power = function() pwr.f2.test(u = 5, v = 89, f2 = 1 / 9)$power,
       size = function() pwr.f2.test(u = 5, f2 = 1 / 9, power = 0.8)$v + 6)))
-
-cpu_seconds <- function(call, count) {
-  start <- proc.time()
-  for (i in seq_len(count)) call()
-  sum((proc.time() - start)[c("user.self", "sys.self")])
-}
-
-# The median of some runs, each of so many calls that the clock of milliseconds suffices.
-seconds_per_call <- function(call) {
-  count <- 1
-  while (cpu_seconds(call, count) < SECONDS_PER_RUN) count <- 2 * count
-  median(replicate(RUNS, cpu_seconds(call, count))) / count
-}
 
 print_line <- function(...) cat(paste(..., sep = "\t"), "\n", sep = "")
 

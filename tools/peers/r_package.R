@@ -5,10 +5,9 @@
 
 library(kelpower, lib.loc = commandArgs(trailingOnly = TRUE)[1])
 suppressMessages(library(pwr))
+source(file.path(dirname(sub("^--file=", "", grep("^--file=", commandArgs(), value = TRUE))), "r_timing.R"))
 
 DESIGNS <- 2000
-RUNS <- 5
-SECONDS_PER_RUN <- 0.1
 
 d <- seq(0.2, 1, length.out = DESIGNS)
 f <- seq(0.15, 0.6, length.out = DESIGNS)
@@ -44,18 +43,6 @@ designs <- list(
                  function(x) pwr.f2.test(u = 5, v = 89, f2 = x)$power),
     size = list(function(x) kp_regression(effect_f2 = x, predictors = 5, power = 0.8)$n,
                 function(x) pwr.f2.test(u = 5, f2 = x, power = 0.8)$v + 6)))
-
-cpu_seconds <- function(call, count) {
-  start <- proc.time()
-  for (i in seq_len(count)) call()
-  sum((proc.time() - start)[c("user.self", "sys.self")])
-}
-
-seconds_per_call <- function(call) {
-  count <- 1
-  while (cpu_seconds(call, count) < SECONDS_PER_RUN) count <- 2 * count
-  median(replicate(RUNS, cpu_seconds(call, count))) / count
-}
 
 one_by_one <- function(call, x) vapply(x, call, 0)
 

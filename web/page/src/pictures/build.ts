@@ -2,7 +2,7 @@
 
 import { contourPicture, contourSentence } from "./contour";
 import { curvePicture, curveSentence, markOf } from "./curve";
-import type { Mark, Placed } from "./curve";
+import type { Mark } from "./curve";
 import { densitiesPicture, densitiesSentence } from "./densities";
 import type { Composed, Look } from "./frame";
 import { barsOf, intervalPicture, intervalSentence } from "./interval";
@@ -10,6 +10,7 @@ import type { Loaded } from "./load";
 import type { Densities, Inputs, Test } from "./model";
 import { numbersOfBars, numbersOfCurves, numbersOfDensities, numbersOfSaw, numbersOfSurface } from "./numbers_of";
 import type { NumbersTable } from "./numbers_of";
+import type { Placed } from "./plots";
 import { sawPicture, sawSentence } from "./saw";
 import { valueAt, valuesOf } from "./series";
 import { powerAt, surfaceFor } from "./surface";

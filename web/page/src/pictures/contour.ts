@@ -3,13 +3,13 @@
 import * as Plot from "@observablehq/plot";
 import type { Axis } from "./axes";
 import { capital, heldFixed, place, shownQuantity, where } from "./caption";
-import type { Placed } from "./curve";
 import { compose, element } from "./frame";
 import type { Look } from "./frame";
 import { labelPlaces, levels, usualPower } from "./labels";
 import type { Chart, Test } from "./model";
 import { shown } from "./numbers";
-import { drawPlot, heightOf } from "./plots";
+import { drawPlot, heightOf, placed } from "./plots";
+import type { Placed } from "./plots";
 import { crossings } from "./series";
 import { endsOf, fewerPoints, outlines, powerAt, surfaceFor } from "./surface";
 import type { Surface } from "./surface";
@@ -68,8 +68,8 @@ export function contourPicture(input: ContourInput, look: Look): Placed {
     Plot.rect([0], { x1: x0, x2: x1, y1: y0, y2: y1, fill: palette.bands[0]! }),
     bands(fewerPoints(surface), look),
   ];
-  const placed = labelPlaces(surface, look.width - 60, height - 40, mark);
-  for (const label of placed) {
+  const labelled = labelPlaces(surface, look.width - 60, height - 40, mark);
+  for (const label of labelled) {
     marks.push(
       Plot.text([label], {
         x: "x",
@@ -112,15 +112,7 @@ export function contourPicture(input: ContourInput, look: Look): Placed {
     },
     look,
   );
-  const top = composed.tops[0]!;
-  const { scaleX, scaleY } = drawn;
-  return {
-    ...composed,
-    toX: (value) => scaleX.apply(value) as number,
-    toY: (value) => top + (scaleY.apply(value) as number),
-    fromX: (pixel) => scaleX.invert!(pixel) as number,
-    fromY: (pixel) => scaleY.invert!(pixel - top) as number,
-  };
+  return placed(composed, drawn);
 }
 
 function placeOf(input: ContourInput, locale: string): string {

@@ -4,16 +4,15 @@ import * as Plot from "@observablehq/plot";
 import type { Axis } from "./axes";
 import { amount, capital, curveLabel, heldFixed, markText, shownQuantity, where } from "./caption";
 import { compose } from "./frame";
-import type { Composed, KeyEntry, Look } from "./frame";
+import type { KeyEntry, Look } from "./frame";
+import { usualPower } from "./labels";
 import type { Chart, ChartCurve, Test } from "./model";
 import { shown } from "./numbers";
 import { curveColour, curveDash } from "./palette";
-import { drawPlot, heightOf, powerTicks, roomAbove } from "./plots";
+import { drawPlot, heightOf, placed, powerTicks, roomAbove } from "./plots";
+import type { Placed } from "./plots";
 import { isSaw, staysFrom, valueAt, valuesOf } from "./series";
 import { sentences, texts } from "./texts";
-
-/** The power that most studies aim for. */
-const usualPower = 0.8;
 
 export interface Mark {
   x: number;
@@ -29,14 +28,6 @@ export interface CurveInput {
   target: number | null;
   /** The sizes, where the sizes that are needed are drawn along another input. */
   sizes: Axis | null;
-}
-
-export interface Placed extends Composed {
-  /** In the pixels of the whole picture. */
-  toX(value: number): number;
-  toY(value: number): number;
-  fromX(pixel: number): number;
-  fromY(pixel: number): number;
 }
 
 export function markOf(chart: Chart, curve: ChartCurve): Mark | null {
@@ -153,15 +144,7 @@ export function curvePicture(input: CurveInput, look: Look): Placed {
     },
     look,
   );
-  const top = composed.tops[0]!;
-  const { scaleX, scaleY } = drawn;
-  return {
-    ...composed,
-    toX: (value) => scaleX.apply(value) as number,
-    toY: (value) => top + (scaleY.apply(value) as number),
-    fromX: (pixel) => scaleX.invert!(pixel) as number,
-    fromY: (pixel) => scaleY.invert!(pixel - top) as number,
-  };
+  return placed(composed, drawn);
 }
 
 /** Another level of power worth knowing: the next usual one above the design's. */

@@ -6,7 +6,7 @@ import type { Track } from "./axes";
 import { curveMark, surfaceMark } from "./build";
 import type { State } from "./build";
 import { capital, markText, place, shownQuantity } from "./caption";
-import type { Placed } from "./curve";
+import type { Placed } from "./plots";
 import type { Composed } from "./frame";
 import { Handle } from "./handle";
 import type { Answer } from "./model";

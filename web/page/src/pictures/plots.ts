@@ -3,7 +3,7 @@
 import * as Plot from "@observablehq/plot";
 import { shown } from "./numbers";
 import { textWidth } from "./frame";
-import type { Look, Panel } from "./frame";
+import type { Composed, Look, Panel } from "./frame";
 
 export const tickSize = 12;
 const marginTop = 10;
@@ -41,12 +41,34 @@ function marginFor(
   return Math.ceil(widest) + 16;
 }
 
-export function drawPlot(parts: PlotParts): {
+interface Drawn {
   plot: SVGSVGElement;
   panel: Omit<Panel, "xTitle" | "yTitle">;
   scaleX: Plot.Scale;
   scaleY: Plot.Scale;
-} {
+}
+
+/** A picture that tells where values lie, in the pixels of the whole. */
+export interface Placed extends Composed {
+  toX(value: number): number;
+  toY(value: number): number;
+  fromX(pixel: number): number;
+  fromY(pixel: number): number;
+}
+
+/** The picture with the scales of its first plot. */
+export function placed(composed: Composed, { scaleX, scaleY }: Drawn): Placed {
+  const top = composed.tops[0]!;
+  return {
+    ...composed,
+    toX: (value) => scaleX.apply(value) as number,
+    toY: (value) => top + (scaleY.apply(value) as number),
+    fromX: (pixel) => scaleX.invert!(pixel) as number,
+    fromY: (pixel) => scaleY.invert!(pixel - top) as number,
+  };
+}
+
+export function drawPlot(parts: PlotParts): Drawn {
   const { look, height, x, y } = parts;
   const { palette, locale, width, font } = look;
   const format = (value: number) => shown(value, locale, 6);

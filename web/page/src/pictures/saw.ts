@@ -3,13 +3,13 @@
 import * as Plot from "@observablehq/plot";
 import type { Axis } from "./axes";
 import { capital, heldFixed, place, where } from "./caption";
-import type { Placed } from "./curve";
+import type { Placed } from "./plots";
 import { compose } from "./frame";
 import type { Look } from "./frame";
 import { isNumbers } from "./model";
 import type { Chart, Row, Table, Test, Value } from "./model";
 import { shown, shownPower } from "./numbers";
-import { drawPlot, heightOf, powerTicks } from "./plots";
+import { drawPlot, heightOf, placed, powerTicks } from "./plots";
 import { sentences, texts } from "./texts";
 
 /** One design of the saw. */
@@ -54,7 +54,7 @@ export function teethOf(table: Table): Tooth[] {
     const level = results?.[attainedLevel];
     return typeof n === "number" && typeof power === "number" && typeof level === "number" ? { n, power, level } : null;
   };
-  return table.rows.map(toothOf).filter((tooth): tooth is Tooth => tooth !== null);
+  return (table.rows as unknown as Row[]).map(toothOf).filter((tooth): tooth is Tooth => tooth !== null);
 }
 
 /** The deepest fall of the power from a size to the next, nearest to the design of those that matter. */
@@ -132,14 +132,7 @@ export function sawPicture(input: SawInput, look: Look): Placed {
     },
     look,
   );
-  const top = composed.tops[0]!;
-  return {
-    ...composed,
-    toX: (value) => power.scaleX.apply(value) as number,
-    toY: (value) => top + (power.scaleY.apply(value) as number),
-    fromX: (pixel) => power.scaleX.invert!(pixel) as number,
-    fromY: (pixel) => power.scaleY.invert!(pixel - top) as number,
-  };
+  return placed(composed, power);
 }
 
 export function sawSentence(input: SawInput, locale: string): string {
