@@ -17,7 +17,7 @@ space := $() $()
 WASM_MODULE := build/wasm/web/core
 PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
 
-.PHONY: help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python r test-r bench-scipy
+.PHONY: compared help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python r test-r bench-scipy
 
 run: configure-$(PRESET) ## build the program and plan a real study
 	@echo "Building the program; the first time this takes a minute or two ..."
@@ -35,7 +35,7 @@ configure-%:
 	@cmake --preset $* -Wno-dev --log-level=WARNING
 
 test: ## build and pass all tests: of the libraries and the program, then of Python, R and the browser side by side
-	@sh tools/install_packages.sh build headers python r wasm web
+	@sh tools/install_packages.sh build python r wasm web
 	@$(MAKE) --no-print-directory test-native
 	@$(MAKE) --no-print-directory -j $(JOBS) --output-sync=target test-python test-r test-web
 
@@ -43,8 +43,9 @@ test-native: build ## the tests of the libraries and of the program
 	@ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
 
 r: ## make the source package of R in build/r
-	@sh tools/install_packages.sh headers r
-	@sh tools/r/compile.sh build/r $(JOBS) python3 -B tools/r/make_tarball.py . build/r
+	@sh tools/install_packages.sh r
+	@rm -rf build/r/third_party && sh tools/third_party.sh build/r/third_party
+	@sh tools/r/compile.sh build/r $(JOBS) python3 -B tools/r/make_tarball.py . build/r --include build/r/third_party
 
 test-r: r ## check the source package of R as CRAN does, and run the R code of the pages
 	@sh tools/r/compile.sh build/r $(JOBS) sh tools/r/check.sh . build/r
@@ -64,8 +65,7 @@ web: wasm-module ## build the planner page: build/web/kelpower.html, which opens
 lint-web: web
 	@sh web/lint.sh
 
-test-web: lint-web configure-$(PRESET) ## the tests of the planner page and of its package, in Node and in Chromium
-	@cmake --build $(BUILD) -j $(JOBS) --target kelplan
+test-web: lint-web compared ## the tests of the planner page and of its package, in Node and in Chromium
 	@KELPLAN_LIBRARY=$(abspath $(BUILD))/capi/libkelplan.so sh web/test.sh
 
 test-clang: ## all tests, compiled with clang
@@ -86,7 +86,11 @@ cross-%:
 test-fma: configure-fma ## the distributions and the reference cases with products and sums fused
 	@sh tools/test_fma.sh build/fma $(JOBS)
 
-wheel: ## build the sdist and the wheel of the Python package, check them, and test the wheel in a virtual environment
+# What the tests of other languages compare with.
+compared: configure-$(PRESET)
+	@cmake --build $(BUILD) -j $(JOBS) --target kelplan kelpower_cli
+
+wheel: compared ## build the sdist and the wheel of the Python package, check them, and test the wheel in a virtual environment
 	@sh tools/install_packages.sh python
 	@sh tools/python/wheel.sh build/python-package
 

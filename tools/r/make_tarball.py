@@ -1,7 +1,7 @@
 """Makes the source tarball of the R package, with the library's sources and the headers that they use inside.
 
-Usage: make_tarball.py SOURCE BUILD [--no-vignettes] [--assemble-only]
-(the project, and the folder in which the package is assembled and the tarball is put)
+Usage: make_tarball.py SOURCE BUILD --include HEADERS [--no-vignettes] [--assemble-only]
+(the project, the folder in which the package is assembled and the tarball is put, the headers of other libraries)
 """
 
 import argparse
@@ -14,8 +14,8 @@ LIBRARY = "library"  # within the package's src/
 OTHERS = "third_party"
 ROOMS = ["kelcommon", "src", "planner", "capi"]
 INCLUDE_FOLDERS = ["include", "kelcommon/include", "src", "planner", "capi"]
-# Debian's packages of headers, and the folder of each.
-PACKAGES = {"libfmt-dev": "fmt", "nlohmann-json3-dev": "nlohmann", "libfast-float-dev": "fast_float"}
+# The other libraries, each with its headers and its licence in a folder that tools/third_party.sh made.
+PACKAGES = ("fmt", "nlohmann", "fast_float")
 INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]', re.M)
 SOURCE_LINE = re.compile(r"^\s+([\w/]+\.cpp)\)?$", re.M)
 LONGEST_PATH = 100  # in the tarball, which R demands
@@ -70,7 +70,7 @@ def used_headers(texts, include):
     while left:
         name = left.pop()
         path = include / name
-        if name in used or name.split("/")[0] not in PACKAGES.values() or not path.is_file():
+        if name in used or name.split("/")[0] not in PACKAGES or not path.is_file():
             continue
         used.add(name)
         for inner in INCLUDE.findall(path.read_text()):
@@ -104,9 +104,8 @@ def copy_others(package, include, sources):
     texts = [path.read_text() for path in (package / "src" / LIBRARY).rglob("*") if path.is_file()]
     for name in used_headers(texts, include):
         write(package / "src" / OTHERS / name, without_hidden_warnings((include / name).read_text()))
-    for debian, folder in PACKAGES.items():
-        text = Path(f"/usr/share/doc/{debian}/copyright").read_text()
-        write(package / "inst/licenses" / f"{folder}.txt", text)
+    for folder in PACKAGES:
+        write(package / "inst/licenses" / f"{folder}.txt", (include / folder / "copyright").read_text())
 
 
 def write_makevars(project, package, sources):
@@ -150,12 +149,12 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("source", type=Path)
     parser.add_argument("build", type=Path)
-    parser.add_argument("--include", type=Path, default=Path("/usr/include"), help="where the headers of others are")
+    parser.add_argument("--include", type=Path, required=True, help="the folder that tools/third_party.sh made")
     parser.add_argument("--no-vignettes", action="store_true")
     parser.add_argument("--assemble-only", action="store_true")
     given = parser.parse_args()
     package = given.build.resolve() / "kelpower"
-    assemble(given.source.resolve(), package, given.include)
+    assemble(given.source.resolve(), package, given.include.resolve())
     if given.assemble_only:
         return
     for old in package.parent.glob("kelpower_*.tar.gz"):
