@@ -14,6 +14,9 @@ namespace planner {
 
 Details DetailsOfAnova(Question question, const Inputs& in);
 Details DetailsOfContrast(Question question, const Inputs& in);
+Details DetailsOfFactorial(Question question, const Inputs& in);
+Details DetailsOfAncova(Question question, const Inputs& in);
+Details DetailsOfRepeatedMeasures(Question question, const Inputs& in);
 Details DetailsOfPairwise(Question question, const Inputs& in);
 Details DetailsOfMean(Question question, const Inputs& in);
 Details DetailsOfPairedMeans(Question question, const Inputs& in);

@@ -9,6 +9,9 @@ namespace planner {
 Test AnovaTest();
 Test ContrastTest();
 Test PairwiseTest();
+Test FactorialTest();
+Test AncovaTest();
+Test RepeatedMeasuresTest();
 Test MeanTest();
 Test PairedMeansTest();
 Test TwoMeansTest();

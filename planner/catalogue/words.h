@@ -8,6 +8,9 @@ namespace planner {
 
 void AddWordsOfAnova(Test& test);
 void AddWordsOfContrast(Test& test);
+void AddWordsOfFactorial(Test& test);
+void AddWordsOfAncova(Test& test);
+void AddWordsOfRepeatedMeasures(Test& test);
 void AddWordsOfPairwise(Test& test);
 void AddWordsOfMean(Test& test);
 void AddWordsOfPairedMeans(Test& test);

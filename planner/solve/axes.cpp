@@ -54,7 +54,7 @@ private:
   void AddParameter(const Parameter& parameter) {
     // Lists tell the number of groups, so that it cannot vary for itself. Weights of a contrast and numbers of groups
     // are no figures of a design.
-    const Names fixed{"n", "groups", "coefficients", "pair", "ratios"};
+    const Names fixed{"n", "groups", "levels", "term", "measurements", "coefficients", "pair", "ratios"};
     if (!IsThere(parameter.name) || Contains(fixed, parameter.name)) return;
     if (parameter.kind == Kind::Number) return Add(NumberAxis(parameter));
     if (!parameter.IsList()) return;

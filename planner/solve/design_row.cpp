@@ -2,6 +2,8 @@
 
 #include <variant>
 
+#include "solve/make_inputs.h"
+
 namespace planner {
 namespace {
 
@@ -30,8 +32,10 @@ void DesignRow::Add(const Parameter& parameter, const Value& value) {
 void DesignRow::AddNumbers(const Parameter& parameter, std::span<const double> numbers) {
   const std::size_t count = numbers.size();
   // The number of groups decides how long lists are.
-  const bool shapes = parameter.name == Name("groups");
-  AddToShape(parameter, shapes ? BytesOf(numbers.front()) : BytesOf(count));
+  AddToShape(parameter, BytesOf(count));
+  if (DecidesLengths(parameter.name)) {
+    for (double number : numbers) AddToShape(parameter, BytesOf(number));
+  }
   given_.push_back({&parameter, numbers_.size(), count});
   numbers_.insert(numbers_.end(), numbers.begin(), numbers.end());
 }

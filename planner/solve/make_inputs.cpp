@@ -1,5 +1,7 @@
 #include "solve/make_inputs.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <string>
 
@@ -28,8 +30,33 @@ struct GroupCount {
   static double Figure(std::size_t groups) { return static_cast<double>(groups); }
 };
 
+/// A number of groups that the inputs give, kept within what can be counted; 0 where it is no whole number.
+std::size_t Counted(double groups) {
+  constexpr double largest = 1e9;
+  return groups == std::floor(groups) ? static_cast<std::size_t>(std::clamp(groups, 0.0, largest)) : 0;
+}
+
+/// The cells of crossed factors.
+std::size_t CellsOf(const Numbers& levels) {
+  double cells = 1;
+  for (double level : levels) cells *= level;
+  return Counted(cells);
+}
+
+/// What is given besides lists with a number for each group.
+void GiveByOthers(GroupCount& groups, const Inputs& inputs) {
+  if (inputs.Has("groups")) groups.Give(static_cast<std::size_t>(inputs.Number("groups")), "groups");
+  if (inputs.Has("levels")) groups.Give(CellsOf(inputs.List("levels")), "levels");
+  if (!inputs.Has("measurements") || !inputs.Has("means")) return;
+  // A table of means has a row for each group. One that is no table is left to the conditions of the test.
+  const std::size_t rows = Counted(GroupCount::Figure(inputs.List("means").size()) / inputs.Number("measurements"));
+  if (rows > 0) groups.Give(rows, "means");
+}
+
 int CountGroups(const Test& test, const Inputs& inputs) {
   if (test.groups != groupsFromInputs) return test.groups;
+  const Parameter* count = FindParameter(test, Name("groups"));
+  const std::size_t fewest = count && count->limits.low <= 1 ? 1 : 2;
   GroupCount groups;
   for (const Parameter& parameter : test.parameters) {
     const Name name = parameter.name;
@@ -38,10 +65,11 @@ int CountGroups(const Test& test, const Inputs& inputs) {
       const std::size_t entries = inputs.List(name).size();
       if (!(parameter.spreads && entries == 1)) groups.Give(entries, name);
     }
-    if (name == Name("groups")) groups.Give(static_cast<std::size_t>(inputs.Number(name)), name);
   }
+  GiveByOthers(groups, inputs);
+  if (groups.count == 0 && fewest == 1) return 1;
   if (groups.count == 0) throw InputError({.code = Code::GroupsUnknown, .inputs = {"groups"}});
-  if (groups.count < 2) throw InputError({.code = Code::TooFewGroups, .inputs = {groups.input}});
+  if (groups.count < fewest) throw InputError({.code = Code::TooFewGroups, .inputs = {groups.input}});
   if (groups.count > maxGroups) {
     throw InputError({.code = Code::TooManyGroups,
                       .inputs = {groups.input},
@@ -65,6 +93,10 @@ void Spread(const Test& test, Inputs& inputs) {
 }
 
 }  // namespace
+
+bool DecidesLengths(Name name) {
+  return name == Name("groups") || name == Name("levels") || name == Name("measurements");
+}
 
 Inputs MakeInputs(const Test& test, const InputValues& values, StopRequest* stop) {
   Inputs inputs;

@@ -37,7 +37,7 @@ std::string Readable(double size) { return Shortest(Readable(Numbers{size}).fron
 
 /// "20 observations in each of 3 groups (60 in total)"
 std::string SizesInSentence(const Test& test, const Numbers& sizes) {
-  if (test.groups == 1) return fmt::format("{} {}", Readable(sizes.front()), test.counted);
+  if (sizes.size() == 1) return fmt::format("{} {}", Readable(sizes.front()), test.counted);
   const bool equal = std::adjacent_find(sizes.begin(), sizes.end(), std::not_equal_to<>()) == sizes.end();
   if (equal) {
     return fmt::format("{} {} in each of {} groups ({} in total)", Readable(sizes.front()), test.counted, sizes.size(),
