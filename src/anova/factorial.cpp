@@ -122,11 +122,13 @@ bool IsNoEffect(TermTable table, double magnitude) {
   return std::all_of(effects.begin(), effects.end(), [&](double effect) { return std::fabs(effect) <= rounding; });
 }
 
+bool AreFinite(PerGroup values) {
+  return std::all_of(values.begin(), values.end(), [](double value) { return std::isfinite(value); });
+}
+
 double LargestMagnitude(PerGroup values) {
   double largest = 0;
-  for (const double value : values) {
-    if (!(std::fabs(value) <= largest)) largest = std::fabs(value);
-  }
+  for (const double value : values) largest = std::max(largest, std::fabs(value));
   return largest;
 }
 
@@ -171,9 +173,8 @@ Answer FactorialTerm::Noncentrality(PerGroup means, PerGroup sizes, double sd) c
     distances.push_back(means[i] - means[0]);
     variances.push_back(1 / sizes[i]);
   }
-  const double largest = LargestMagnitude(distances);
-  if (!std::isfinite(largest)) return NoValue::Refused;
-  const double scale = BinaryScale(largest);
+  if (!AreFinite(distances)) return NoValue::Refused;
+  const double scale = BinaryScale(LargestMagnitude(distances));
   for (double& distance : distances) distance /= scale;
 
   TermTable table{CellTable(levels_, std::move(distances)), CellTable(levels_, std::move(variances))};
