@@ -6,7 +6,8 @@ namespace planner {
 void AddWordsOfAnova(Test& test) {
   test.details = DetailsOfAnova;
   test.whenNot =
-      "Not for pairs or repeated measures, nor for a single comparison of groups: see contrast and pairwise.";
+      "Not for several factors, see factorial; nor with covariates, see ancova; nor for repeated measures, see "
+      "repeated-measures; nor for a single comparison of groups, see contrast and pairwise.";
   test.phrases = {
       {"effect",
        {{"means", "group means of {means} with a standard deviation of {sd} within the groups"},
