@@ -2,6 +2,9 @@
 
 #include <vector>
 
+#include "anova/covariance.h"
+#include "anova/factorial.h"
+#include "anova/repeated.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelpower.h"
 
@@ -18,6 +21,35 @@ void PowerOfOverallTest(benchmark::State& state) {
   }
 }
 BENCHMARK(PowerOfOverallTest);
+
+void PowerOfInteraction(benchmark::State& state) {
+  using namespace kelpower::anova;
+  const std::vector<double> means = {1, 2, 3, 2, 5, 4, 0, 1, 7};
+  std::vector<double> sizes(9, 10);
+  sizes[0] += static_cast<double>(state.range(0));
+  for (auto _ : state) {
+    const auto term = FactorialTerm::Of({3, 3}, {1, 2});
+    benchmark::DoNotOptimize(EffectTest(term->Df(), 81, 0.05).Power(*term->Noncentrality(means, sizes, 6)));
+  }
+}
+BENCHMARK(PowerOfInteraction)->ArgName("unequal")->Arg(0)->Arg(1);
+
+void PowerOfAdjustedMeans(benchmark::State& state) {
+  const auto covariates = static_cast<double>(state.range(0));
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(kelpower::anova::CovarianceTest(3, 63, covariates, 0.05).Power(10.6));
+  }
+}
+BENCHMARK(PowerOfAdjustedMeans)->ArgName("covariates")->Arg(0)->Arg(1)->Arg(10);
+
+void PowerOfRepeatedMeasures(benchmark::State& state) {
+  using namespace kelpower::anova;
+  const RepeatedDesign design{RepeatedEffect::Interaction, 2, 4, 0.5, 1};
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(design.TestAt(24, 0.05).Power(design.NoncentralityOfF(0.25, RepeatedF::Means, 24)));
+  }
+}
+BENCHMARK(PowerOfRepeatedMeasures);
 
 void PowerOfContrast(benchmark::State& state) {
   std::vector<double> coefficients = {1, 0, -1};
