@@ -30,7 +30,8 @@ std::string Hypothesis(const Inputs& in) {
 std::vector<Parameter> Parameters() {
   std::vector<Parameter> parameters = {
       Number("mean-difference", "difference of the means", "mean under the first treatment minus that under the second")
-          .Alias("difference"),
+          .Alias("difference")
+          .Alias("delta"),
       Number("sd", "standard deviation", "standard deviation within subjects").Above(0),
       MeanRatio(),
       CoefficientOfVariation("standard deviation within subjects over the mean of the data, with {mean-ratio}"),
