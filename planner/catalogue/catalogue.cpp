@@ -6,9 +6,23 @@ namespace planner {
 
 const std::vector<Test>& Tests() {
   static const std::vector<Test> tests = {
-      AnovaTest(),   ContrastTest(),    PairwiseTest(), FactorialTest(),  AncovaTest(),         RepeatedMeasuresTest(),
-      MeanTest(),    PairedMeansTest(), TwoMeansTest(), ProportionTest(), TwoProportionsTest(), PairedProportionsTest(),
-      PearsonTest(), SpearmanTest(),    PartialTest(),  RegressionTest(),
+      AnovaTest(),
+      ContrastTest(),
+      PairwiseTest(),
+      FactorialTest(),
+      AncovaTest(),
+      RepeatedMeasuresTest(),
+      MeanTest(),
+      PairedMeansTest(),
+      TwoMeansTest(),
+      CrossoverTest(),
+      ProportionTest(),
+      TwoProportionsTest(),
+      PairedProportionsTest(),
+      PearsonTest(),
+      SpearmanTest(),
+      PartialTest(),
+      RegressionTest(),
   };
   return tests;
 }

@@ -18,6 +18,7 @@ Details DetailsOfFactorial(Question question, const Inputs& in);
 Details DetailsOfAncova(Question question, const Inputs& in);
 Details DetailsOfRepeatedMeasures(Question question, const Inputs& in);
 Details DetailsOfPairwise(Question question, const Inputs& in);
+Details DetailsOfCrossover(Question question, const Inputs& in);
 Details DetailsOfMean(Question question, const Inputs& in);
 Details DetailsOfPairedMeans(Question question, const Inputs& in);
 Details DetailsOfTwoMeans(Question question, const Inputs& in);

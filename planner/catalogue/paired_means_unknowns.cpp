@@ -7,9 +7,10 @@ std::vector<Unknown> UnknownsOfPairedMeans() {
   constexpr const char* spread = "the differences spread less, the closer the two measurements are correlated";
   return {
       UnknownEffectD(),
-      UnknownMeanDifference(),
+      UnknownMeanDifferenceWithMargins(),
       UnknownSd("sd-difference"),
       {.input = "correlation", .target = Question::Power, .trend = Trend::Rises, .reason = spread},
+      UnknownMargin([](const Inputs& in) { return PieceOfMargin(in, DifferenceOfPairedMeans(in), noDifference); }),
       UnknownSdOfInterval("sd-difference"),
       {.input = "correlation", .target = Question::HalfWidth, .trend = Trend::Falls, .reason = spread},
   };

@@ -15,6 +15,7 @@ Test RepeatedMeasuresTest();
 Test MeanTest();
 Test PairedMeansTest();
 Test TwoMeansTest();
+Test CrossoverTest();
 Test ProportionTest();
 Test TwoProportionsTest();
 Test PairedProportionsTest();

@@ -12,6 +12,7 @@ void AddWordsOfFactorial(Test& test);
 void AddWordsOfAncova(Test& test);
 void AddWordsOfRepeatedMeasures(Test& test);
 void AddWordsOfPairwise(Test& test);
+void AddWordsOfCrossover(Test& test);
 void AddWordsOfMean(Test& test);
 void AddWordsOfPairedMeans(Test& test);
 void AddWordsOfTwoMeans(Test& test);
