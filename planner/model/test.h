@@ -34,7 +34,7 @@ struct Derived {
 };
 
 /// What an answer takes for granted in words, such as "pooled". Shown when its inputs are asked for and it says
-/// something; a sentence names it in braces.
+/// something, with inputs in braces; a sentence names it in braces too.
 struct Assumption {
   std::string name;
   std::string label;

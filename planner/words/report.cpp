@@ -107,7 +107,7 @@ private:
   std::string OfAssumption(const Assumption& assumption) const {
     const auto has = [&](Name need) { return inputs_.Has(need); };
     if (!std::all_of(assumption.needs.begin(), assumption.needs.end(), has)) return "";
-    const std::string words = assumption.call(inputs_);
+    const std::string words = Of(assumption.call(inputs_));
     std::string text = assumption.wording;
     return words.empty() ? "" : text.replace(text.find("<0>"), 3, words);
   }
@@ -165,7 +165,7 @@ std::vector<Entry> AssumptionEntries(const Answer& answer) {
   std::vector<Entry> entries;
   for (const Assumption& assumption : answer.test->assumptions) {
     if (!IsTaken(answer, assumption.needs)) continue;
-    const std::string words = assumption.call(answer.inputs);
+    const std::string words = Words(answer).Of(assumption.call(answer.inputs));
     if (!words.empty()) entries.push_back({assumption.name, assumption.label, words, words});
   }
   if (!IsAboutPower(answer.Asked())) {
