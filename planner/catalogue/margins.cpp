@@ -61,18 +61,15 @@ Assumption HypothesisAssumption(std::string (*call)(const Inputs&)) {
   return {.name = "hypothesis", .label = "alternative hypothesis", .needs = {}, .call = call};
 }
 
-std::vector<Phrase> PhrasesOfMargins(const std::string& test, const std::string& tests) {
-  return {
+void AddPhrasesOfMargins(Test& test, const std::string& plain, const std::string& two) {
+  const std::string shown = "show that {hypothesis}, given {effect}";
+  test.phrases.push_back(
       {"procedure",
-       {{"equivalence", "test of equivalence by two one-sided " + tests},
-        {"margin", "one-sided " + test + " of {non-inferiority?non-inferiority:superiority by a margin}"},
-        {"alpha", "{one-sided?one-sided:two-sided} " + test}}},
-      {"aim",
-       {{"equivalence", "show that {hypothesis}, given {effect}"},
-        {"margin", "show that {hypothesis}, given {effect}"},
-        {"alpha", "detect {effect}"}}},
-      {"comma", {{"equivalence", ","}, {"margin", ","}, {"alpha", ""}}},
-  };
+       {{"equivalence", "test of equivalence by two one-sided " + two},
+        {"margin", "one-sided " + plain + " of {non-inferiority?non-inferiority:superiority by a margin}"},
+        {"alpha", "{one-sided?one-sided:two-sided} " + plain}}});
+  test.phrases.push_back({"aim", {{"equivalence", shown}, {"margin", shown}, {"alpha", "detect {effect}"}}});
+  test.phrases.push_back({"comma", {{"equivalence", ","}, {"margin", ","}, {"alpha", ""}}});
 }
 
 }  // namespace planner

@@ -64,9 +64,9 @@ std::string HypothesisOfMargins(const Inputs& in, const std::string& effect, dou
 /// The assumption that tells it, which sentences name as {hypothesis}.
 Assumption HypothesisAssumption(std::string (*call)(const Inputs&));
 
-/// Phrases of sentences, where `test` names the plain test ("independent-samples t test") and `tests` two of them:
+/// Adds phrases of sentences, where `plain` names the test ("independent-samples t test") and `two` two of them:
 /// {procedure} is the test with its kind, {aim} what it is to show given {effect}, and {comma} ends an aim that has commas.
-std::vector<Phrase> PhrasesOfMargins(const std::string& test, const std::string& tests);
+void AddPhrasesOfMargins(Test& test, const std::string& plain, const std::string& two);
 
 }  // namespace planner
 

@@ -14,24 +14,41 @@
 namespace planner {
 namespace {
 
+std::string Hypothesis(const Inputs& in) {
+  const bool isRatio = in.Has("mean-ratio");
+  return HypothesisOfMargins(in, isRatio ? "ratio of the means" : "difference of the means",
+                             isRatio ? noRatio : noDifference);
+}
+
 std::vector<Parameter> Parameters() {
-  return {
+  std::vector<Parameter> parameters = {
       GroupMeans(),
       Number("mean-difference", "difference of the means", "first mean minus the second, in place of {means}")
           .Alias("difference")
           .Alias("delta"),
       PerGroup("sd", "standard deviations", "standard deviation in each group").Alias("sds").Spreads().Above(0),
       EffectD("difference of the means over the common standard deviation"),
+      MeanRatio(),
+      CoefficientOfVariation("standard deviation over the mean of the data in each group, with {mean-ratio}"),
       GroupSizes().AtLeast(2),
       RatioOfSizes(),
       OneSided(),
   };
+  const std::vector<Parameter> margins = MarginParameters("difference or ratio of the means");
+  parameters.insert(parameters.end(), margins.begin(), margins.end());
+  return parameters;
 }
 
 /// Over the root mean square of the standard deviations (Cohen 1988, formula 2.3.2).
 double EffectSize(const Inputs& in) {
   const Numbers& sds = in.List("sd");
   return DifferenceOfMeans(in) / (std::hypot(sds[0], sds[1]) / std::sqrt(2.0));
+}
+
+/// With its sign, which of a ratio is that of its logarithm.
+double EffectOfTwoMeans(const Inputs& in) {
+  if (in.Has("mean-ratio")) return std::log(in.Number("mean-ratio"));
+  return in.Has("effect-d") ? in.Number("effect-d") : DifferenceOfMeans(in);
 }
 
 }  // namespace
@@ -51,23 +68,16 @@ Test TwoMeansTest() {
             .groups = 2};
   test.parameters = Parameters();
   test.routes = RoutesOfTwoMeans();
+  const std::vector<Route> withMargins = RoutesOfTwoMeansWithMargins();
+  test.routes.insert(test.routes.end(), withMargins.begin(), withMargins.end());
   test.unknowns = UnknownsOfTwoMeans();
-  test.sizeExists = {
-      {.code = "no-effect",
-       .about = {"means"},
-       .holds = [](const Inputs& in) { return DifferenceOfMeans(in) != 0; },
-       .sentence = "The two means are equal: without a difference, no sample size reaches the power."},
-      {.code = "no-effect",
-       .about = {"mean-difference"},
-       .holds = [](const Inputs& in) { return DifferenceOfMeans(in) != 0; },
-       .sentence = "The two means are equal: without a difference, no sample size reaches the power."},
-      HasEffectD(),
-  };
+  test.conditions = ConditionsOfTwoMeans();
+  test.sizeExists = SizeExistsForTwoMeans();
   test.derived = {
       {.name = "effect-d", .label = "effect size d", .needs = {"means", "sd"}, .call = EffectSize},
       {.name = "effect-d", .label = "effect size d", .needs = {"mean-difference", "sd"}, .call = EffectSize},
   };
-  test.effect = [](const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : DifferenceOfMeans(in); };
+  test.effect = EffectOfTwoMeans;
   test.axes = {MeanDifferenceAxis(), SizeRatioAxis()};
   test.assumptions = {{.name = "variances",
                        .label = "variances",
@@ -76,7 +86,8 @@ Test TwoMeansTest() {
                            [](const Inputs& in) {
                              return std::string(SpreadsOfTwoMeans(in).isPooled ? "pooled" : "unequal, Welch's test");
                            },
-                       .wording = " (variances <0>)"}};
+                       .wording = " (variances <0>)"},
+                      HypothesisAssumption(Hypothesis)};
   test.offers = OffersOfTwoMeans();
   AddWordsOfTwoMeans(test);
   return WithCommonParameters(std::move(test));

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "catalogue/mean_margins.h"
 #include "means/independent.h"
 #include "model/details.h"
 #include "model/inputs.h"
@@ -15,6 +16,13 @@ namespace planner {
 kelpower::means::GroupSpreads SpreadsOfTwoMeans(const Inputs& in);
 
 std::vector<Route> RoutesOfTwoMeans();
+/// Those of a ratio, and those against margins.
+std::vector<Route> RoutesOfTwoMeansWithMargins();
+std::vector<Condition> ConditionsOfTwoMeans();
+std::vector<Condition> SizeExistsForTwoMeans();
+/// The test of a ratio or against margins, at the sizes of the design.
+MeanQuestion QuestionOfTwoMeans(const Inputs& in);
+Details DetailsOfTwoMeansWithMargins(const Inputs& in);
 std::vector<Unknown> UnknownsOfTwoMeans();
 
 /// Adds how other programs are asked for the same power of the pooled test.

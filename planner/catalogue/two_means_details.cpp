@@ -47,6 +47,7 @@ Details OfHalfWidth(const Inputs& in) {
 
 Details DetailsOfTwoMeans(Question question, const Inputs& in) {
   if (!IsAboutPower(question)) return OfHalfWidth(in);
+  if (HasMargins(in) || in.Has("mean-ratio")) return DetailsOfTwoMeansWithMargins(in);
   const means::GroupSpreads spreads = SpreadsOfTwoMeans(in);
   const double n1 = in.List("n")[0];
   const double n2 = in.List("n")[1];

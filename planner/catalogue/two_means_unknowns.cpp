@@ -1,11 +1,27 @@
+#include "catalogue/two_groups.h"
 #include "catalogue/two_means.h"
 #include "catalogue/unknowns.h"
 
 namespace planner {
+namespace {
+
+Piece MarginPiece(const Inputs& in) {
+  const bool isRatio = in.Has("mean-ratio");
+  return PieceOfMargin(in, isRatio ? in.Number("mean-ratio") : DifferenceOfMeans(in), isRatio ? noRatio : noDifference);
+}
+
+}  // namespace
 
 std::vector<Unknown> UnknownsOfTwoMeans() {
   return {
-      UnknownEffectD(), UnknownMeanDifference(), UnknownSd("sd"), UnknownRatio(), UnknownSdOfInterval("sd"),
+      UnknownEffectD(),
+      UnknownMeanDifferenceWithMargins(),
+      UnknownSd("sd"),
+      UnknownRatio(),
+      UnknownMeanRatio(),
+      UnknownSd("cv"),
+      UnknownMargin(MarginPiece),
+      UnknownSdOfInterval("sd"),
   };
 }
 

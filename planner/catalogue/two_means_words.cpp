@@ -1,24 +1,29 @@
 #include "catalogue/details.h"
+#include "catalogue/margins.h"
 #include "catalogue/words.h"
 
 namespace planner {
 
 void AddWordsOfTwoMeans(Test& test) {
   test.details = DetailsOfTwoMeans;
-  test.whenNot = "Not for two measurements on the same units: see paired-means; more than two groups: see anova.";
+  test.whenNot =
+      "Not for two measurements on the same units: see paired-means; two treatments of each subject in turn: see crossover; more than two groups: see anova.";
   test.phrases = {
       {"effect",
        {{"means", "means of {means} with standard deviations of {sd}"},
         {"mean-difference", "a difference of the means of {mean-difference} with standard deviations of {sd}"},
+        {"mean-ratio", "a ratio of the means of {mean-ratio} with a coefficient of variation of {cv}"},
         {"effect-d", "an effect size d of {effect-d}"}}},
+      {"t-test", {{"cv", "independent-samples t test of the logarithms"}, {"alpha", "independent-samples t test"}}},
+      {"t-tests", {{"cv", "independent-samples t tests of the logarithms"}, {"alpha", "independent-samples t tests"}}},
   };
+  AddPhrasesOfMargins(test, "{t-test}", "{t-tests}");
   test.sentences = {
       {Question::Power,
-       "With {sizes}, the {one-sided?one-sided:two-sided} independent-samples t test{variances} at a significance "
-       "level of {alpha} has a power of {power} to detect {effect}."},
+       "With {sizes}, the {procedure}{variances} at a significance level of {alpha} has a power of {power} to {aim}."},
       {Question::SampleSize,
-       "To detect {effect} with a power of {target-power}, the {one-sided?one-sided:two-sided} independent-samples t "
-       "test{variances} at a significance level of {alpha} needs {sizes}; its power is then {power}."},
+       "To {aim}{comma} with a power of {target-power}, the {procedure}{variances} at a significance level of {alpha} "
+       "needs {sizes}; its power is then {power}."},
       {Question::HalfWidth,
        "With {sizes} and standard deviations of {sd}, the {confidence} confidence interval of the difference of means "
        "has a half-width of {half-width}."},
@@ -53,6 +58,10 @@ void AddWordsOfTwoMeans(Test& test) {
        "With 35 and 50 observations in 2 groups (85 in total), the two-sided independent-samples t test (variances "
        "pooled) at a significance level of 0.05 has a power of 0.8000 to detect a difference of the means of 6.247 "
        "with standard deviations of 10 and 10."},
+      {"two-means --mean-difference 0 --sd 6 --margin -2 --non-inferiority --power 0.9 --alpha 0.025", "?"},
+      {"two-means --means 52,47 --sd 10,14 --n 90 --margin 2 --superiority", "?"},
+      {"two-means --mean-difference 0.5 --sd 4 --equivalence -2,2 --power 0.8", "?"},
+      {"two-means --mean-ratio 0.95 --cv 0.4 --equivalence 0.8,1.25 --n 80", "?"},
       {"two-means --sd 10,14 --n 40 --interval",
        "With 40 observations in each of 2 groups (80 in total) and standard deviations of 10 and 14, the 95% "
        "confidence interval of the difference of means has a half-width of 5.425."},
