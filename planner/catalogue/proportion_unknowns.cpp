@@ -1,6 +1,5 @@
-#include <limits>
-
 #include "catalogue/margins.h"
+#include "catalogue/mean_margins.h"
 #include "catalogue/proportion.h"
 #include "catalogue/proportion_margins.h"
 
@@ -8,15 +7,24 @@ namespace planner {
 
 namespace {
 
-/// Beyond one margin the power is monotone everywhere; between the limits of equivalence it is not.
-Piece WithMargin(const Inputs& in) { return IsEquivalence(in) ? Piece{0, 0} : Piece{0, 1}; }
+/// From the end at which the power is low to the one at which it is high. Between the limits of equivalence it rises and
+/// falls.
+Piece ProportionsBeyondMargin(const Inputs& in) {
+  if (IsEquivalence(in)) return {0, 0};
+  const auto limits = ProportionLimitsOf(in);
+  return limits.HasLower() ? Piece{limits.lower, 1} : Piece{limits.upper, 0};
+}
 
-/// The margins on the bad side of no effect or on the good side, of larger values that are better.
-Piece MarginsOnOneSide(const Inputs& in, bool isBelow) {
-  if (MarginContrast(in) != kelpower::proportions::Contrast::Difference) {
-    return isBelow ? Piece{0, 1} : Piece{1, std::numeric_limits<double>::infinity()};
-  }
-  return isBelow ? Piece{-1, 0} : Piece{0, 1};
+/// From the end at which the power is high.
+Piece NullsBeyondMargin(const Inputs& in) {
+  if (IsEquivalence(in)) return {0, 0};
+  return IsAboveMargin(in, NoContrast(in)) ? Piece{0, 1} : Piece{1, 0};
+}
+
+Piece Turned(Piece piece) { return {piece.high, piece.low}; }
+
+Piece MarginPiece(const Inputs& in) {
+  return PieceOfMargin(in, ContrastOf(MarginContrast(in), in.Number("null"), in.Number("proportion")), NoContrast(in));
 }
 
 }  // namespace
@@ -29,27 +37,22 @@ std::vector<Unknown> UnknownsOfProportion() {
        .trend = Trend::Rises,
        .reason = reason,
        .piece = [](const Inputs& in) -> Piece {
-         return HasMargins(in) ? WithMargin(in) : Piece{in.Number("null"), 1};
+         return HasMargins(in) ? ProportionsBeyondMargin(in) : Piece{in.Number("null"), 1};
        },
        .pieceBelow = [](const Inputs& in) -> Piece {
-         return HasMargins(in) ? WithMargin(in) : Piece{0, in.Number("null")};
+         return HasMargins(in) ? Turned(ProportionsBeyondMargin(in)) : Piece{0, in.Number("null")};
        }},
       {.input = "null",
        .target = Question::Power,
        .trend = Trend::Falls,
        .reason = reason,
        .piece = [](const Inputs& in) -> Piece {
-         return HasMargins(in) ? WithMargin(in) : Piece{0, in.Number("proportion")};
+         return HasMargins(in) ? NullsBeyondMargin(in) : Piece{0, in.Number("proportion")};
        },
        .pieceBelow = [](const Inputs& in) -> Piece {
-         return HasMargins(in) ? WithMargin(in) : Piece{in.Number("proportion"), 1};
+         return HasMargins(in) ? Turned(NullsBeyondMargin(in)) : Piece{in.Number("proportion"), 1};
        }},
-      {.input = "margin",
-       .target = Question::Power,
-       .trend = Trend::Falls,
-       .reason = "the nearer the margin lies to the proportion expected, the fewer outcomes are beyond it",
-       .piece = [](const Inputs& in) -> Piece { return MarginsOnOneSide(in, !in.Flag("superiority")); },
-       .pieceBelow = [](const Inputs& in) -> Piece { return MarginsOnOneSide(in, in.Flag("superiority")); }},
+      UnknownMargin(MarginPiece),
   };
 }
 

@@ -1,9 +1,16 @@
 #include <limits>
 
+#include "catalogue/margins.h"
 #include "catalogue/two_proportions.h"
+#include "catalogue/two_proportions_margins.h"
 #include "catalogue/unknowns.h"
 
 namespace planner {
+namespace {
+
+Piece Turned(Piece piece) { return {piece.high, piece.low}; }
+
+}  // namespace
 
 std::vector<Unknown> UnknownsOfTwoProportions() {
   constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -14,30 +21,33 @@ std::vector<Unknown> UnknownsOfTwoProportions() {
        .trend = Trend::Rises,
        .reason = reason,
        .piece = [](const Inputs& in) -> Piece {
-         return {0, 1 - in.Number("proportion1")};
+         const double first = in.Number("proportion1");
+         return HasMargins(in) ? PieceOfContrast(in, {-first, 1 - first}) : Piece{0, 1 - first};
        },
        .pieceBelow = [](const Inputs& in) -> Piece {
-         return {-in.Number("proportion1"), 0};
+         const double first = in.Number("proportion1");
+         return HasMargins(in) ? Turned(PieceOfContrast(in, {-first, 1 - first})) : Piece{-first, 0};
        }},
       {.input = "risk-ratio",
        .target = Question::Power,
        .trend = Trend::Rises,
        .reason = reason,
        .piece = [](const Inputs& in) -> Piece {
-         return {1, 1 / in.Number("proportion1")};
+         const double most = 1 / in.Number("proportion1");
+         return HasMargins(in) ? PieceOfContrast(in, {0, most}) : Piece{1, most};
        },
-       .pieceBelow = [](const Inputs&) -> Piece {
-         return {0, 1};
+       .pieceBelow = [](const Inputs& in) -> Piece {
+         return HasMargins(in) ? Turned(PieceOfContrast(in, {0, 1 / in.Number("proportion1")})) : Piece{0, 1};
        }},
       {.input = "odds-ratio",
        .target = Question::Power,
        .trend = Trend::Rises,
        .reason = reason,
-       .piece = [](const Inputs&) -> Piece {
-         return {1, infinity};
+       .piece = [](const Inputs& in) -> Piece {
+         return HasMargins(in) ? PieceOfContrast(in, {0, infinity}) : Piece{1, infinity};
        },
-       .pieceBelow = [](const Inputs&) -> Piece {
-         return {0, 1};
+       .pieceBelow = [](const Inputs& in) -> Piece {
+         return HasMargins(in) ? Turned(PieceOfContrast(in, {0, infinity})) : Piece{0, 1};
        }},
       UnknownRatio(),
   };

@@ -48,10 +48,7 @@ double LargestBetween(double low, double high, Function f) {
 }  // namespace
 
 LevelOverNuisance::LevelOverNuisance(const GroupSizes& sizes, double difference)
-    : sizes_(sizes),
-      lowest_(std::max(0.0, -difference)),
-      width_(1 - std::fabs(difference)),
-      difference_(difference) {
+    : sizes_(sizes), lowest_(std::max(0.0, -difference)), width_(1 - std::fabs(difference)), difference_(difference) {
   const double largest = static_cast<double>(std::max(sizes.n1, sizes.n2));
   const double steps = std::ceil(halfPi * 6 * std::sqrt(largest)) + 16;
   step_ = halfPi / steps;
@@ -110,7 +107,8 @@ double LevelOverNuisance::Largest(const TableRegion& region) const {
   double largest = *std::max_element(values.begin(), values.end());
   const double least = shareOfPeaks * largest;
   for (std::size_t i = 0; i < values.size(); ++i) {
-    const bool isPeak = (i == 0 || values[i] >= values[i - 1]) && (i + 1 == values.size() || values[i] >= values[i + 1]);
+    const bool isPeak =
+        (i == 0 || values[i] >= values[i - 1]) && (i + 1 == values.size() || values[i] >= values[i + 1]);
     if (isPeak && values[i] > 0 && values[i] >= least) largest = std::max(largest, LargestBeside(region, i));
   }
   return largest;

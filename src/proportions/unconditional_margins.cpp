@@ -53,9 +53,9 @@ double ProbabilityOf(const TableRegion& region, const GroupSizes& sizes, const T
     const RowRange& row = region[static_cast<std::size_t>(x2)];
     if (row.least > row.most) continue;
     // By the tail that ends inside, so that a small power keeps its digits.
-    const double inside = row.least <= 0            ? tails1.Below(row.most + 1)
+    const double inside = row.least <= 0         ? tails1.Below(row.most + 1)
                           : row.most >= sizes.n1 ? tails1.AtLeast(row.least)
-                                                    : tails1.Below(row.most + 1) - tails1.Below(row.least);
+                                                 : tails1.Below(row.most + 1) - tails1.Below(row.least);
     sum += masses2.At(x2) * std::max(0.0, inside);
   }
   return std::min(sum, 1.0);

@@ -15,7 +15,7 @@ namespace kelpower::proportions {
 class UnconditionalMarginTest {
 public:
   /// The largest size of a group. The work grows with the size to the power of 3 / 2.
-  static constexpr double largestGroup = 2000;
+  static constexpr double largestGroup = 1000;
 
   /// There is none for sizes below 1 or above the largest one, a level outside (0, 1), and limits that are not of a
   /// difference or that no proportions have.
