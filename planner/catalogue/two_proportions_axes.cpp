@@ -59,7 +59,6 @@ Axis RiskDifferenceAxis() {
 }
 
 constexpr double largestRatio = 1000;
-
 Axis RiskRatioAxis() {
   return {.name = "risk-ratio",
           .title = "risk ratio (second over first)",
