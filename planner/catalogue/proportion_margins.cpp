@@ -1,6 +1,7 @@
 #include "catalogue/proportion_margins.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 #include <utility>
 
@@ -48,6 +49,12 @@ double ContrastOf(Contrast contrast, double reference, double proportion) {
     case Contrast::Difference: break;
   }
   return proportion - reference;
+}
+
+double MiddleOfLimits(const Inputs& in) {
+  const Numbers& limits = in.List("equivalence");
+  return MarginContrast(in) == Contrast::Difference ? limits[0] / 2 + limits[1] / 2
+                                                    : std::sqrt(limits[0]) * std::sqrt(limits[1]);
 }
 
 proportions::ProportionLimits ProportionLimitsOf(const Inputs& in) {

@@ -26,6 +26,9 @@ double AtContrast(kelpower::proportions::Contrast contrast, double reference, do
 /// The contrast of two proportions.
 double ContrastOf(kelpower::proportions::Contrast contrast, double reference, double proportion);
 
+/// The middle of the limits of equivalence, near which the power is highest.
+double MiddleOfLimits(const Inputs& in);
+
 /// The proportions that the test must exclude.
 kelpower::proportions::ProportionLimits ProportionLimitsOf(const Inputs& in);
 kelpower::proportions::OneSampleMarginDesign OneSampleMarginDesignOf(const Inputs& in);

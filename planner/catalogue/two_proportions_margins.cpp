@@ -12,7 +12,18 @@
 namespace planner {
 
 namespace proportions = kelpower::proportions;
+using proportions::Contrast;
 using proportions::MarginMethod;
+
+namespace {
+
+/// The effect, on its own scale, that has a limit on the scale of the margin.
+double EffectAt(const Inputs& in, Contrast effect, double limit) {
+  const double first = FirstProportion(in);
+  return ContrastOf(effect, first, AtContrast(MarginContrast(in), first, limit));
+}
+
+}  // namespace
 
 proportions::ContrastLimits ContrastLimitsOf(const Inputs& in) {
   proportions::ContrastLimits limits;
@@ -62,14 +73,17 @@ std::vector<Derived> MarginFiguresOfTwoProportions() {
   return figures;
 }
 
-Unknown MarginUnknownOfTwoProportions() {
-  return UnknownMargin([](const Inputs& in) { return PieceOfMargin(in, ExpectedContrast(in), NoContrast(in)); });
+Piece PieceOfContrast(const Inputs& in, Contrast effect, Piece all) {
+  if (!IsEquivalence(in)) return IsAboveMargin(in, NoContrast(in)) ? all : Piece{all.high, all.low};
+  return {EffectAt(in, effect, in.List("equivalence")[1]), EffectAt(in, effect, MiddleOfLimits(in))};
 }
 
-// From the end at which the power is low; between the limits of equivalence it rises and falls.
-Piece PieceOfContrast(const Inputs& in, Piece all) {
-  if (IsEquivalence(in)) return {all.low, all.low};
-  return IsAboveMargin(in, NoContrast(in)) ? all : Piece{all.high, all.low};
+Piece PieceOfContrastBelow(const Inputs& in, Contrast effect, Piece all) {
+  if (IsEquivalence(in)) {
+    return {EffectAt(in, effect, MiddleOfLimits(in)), EffectAt(in, effect, in.List("equivalence")[0])};
+  }
+  const Piece piece = PieceOfContrast(in, effect, all);
+  return {piece.high, piece.low};
 }
 
 void AddMarginsOfTwoProportions(Test& test) {
@@ -79,7 +93,8 @@ void AddMarginsOfTwoProportions(Test& test) {
   add(test.conditions, MarginConditionsOfTwoProportions());
   add(test.sizeExists, MarginSizeExistsForTwoProportions());
   add(test.derived, MarginFiguresOfTwoProportions());
-  test.unknowns.push_back(MarginUnknownOfTwoProportions());
+  test.unknowns.push_back(
+      UnknownMargin([](const Inputs& in) { return PieceOfMargin(in, ExpectedContrast(in), NoContrast(in)); }));
 }
 
 }  // namespace planner

@@ -30,15 +30,17 @@ std::vector<Route> MarginRoutesOfTwoProportions();
 std::vector<Condition> MarginConditionsOfTwoProportions();
 std::vector<Condition> MarginSizeExistsForTwoProportions();
 std::vector<Derived> MarginFiguresOfTwoProportions();
-Unknown MarginUnknownOfTwoProportions();
 std::vector<Example> MarginExamplesOfTwoProportions();
 /// Where the formula of a test for large samples is from.
 std::string SourceOfMargins(const kelpower::proportions::IndependentMarginDesign& design);
 
 Details MarginDetailsOfTwoProportions(const Inputs& in);
 
-/// Where an effect that grows with the second proportion is looked for.
-Piece PieceOfContrast(const Inputs& in, Piece all);
+/// Where an effect that grows with the second proportion is looked for, on its own scale: from the end at which the power
+/// is low to the one at which it is high. `all` is where there is such an effect.
+Piece PieceOfContrast(const Inputs& in, kelpower::proportions::Contrast effect, Piece all);
+/// The same on the other side of the middle of the limits of equivalence, for the other trend.
+Piece PieceOfContrastBelow(const Inputs& in, kelpower::proportions::Contrast effect, Piece all);
 
 /// Adds them to the description of the test, with the words of its tests.
 void AddMarginsOfTwoProportions(Test& test);

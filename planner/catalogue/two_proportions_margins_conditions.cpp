@@ -35,8 +35,9 @@ bool HasMethod(const Inputs& in) {
 }
 
 bool CanCount(const Inputs& in) {
+  if (!HasMargins(in) || !in.Flag("exact")) return true;
   const Numbers& n = in.List("n");
-  return !HasMargins(in) || std::max(n[0], n[1]) <= kelpower::proportions::UnconditionalMarginTest::largestGroup;
+  return std::max(n[0], n[1]) <= kelpower::proportions::UnconditionalMarginTest::largestGroup;
 }
 
 bool IsShortSearch(const Inputs& in) {
@@ -50,7 +51,7 @@ bool IsWithin(const Inputs& in) { return IsWithinMargins(in, ExpectedContrast(in
 }  // namespace
 
 std::vector<Condition> MarginConditionsOfTwoProportions() {
-  std::vector<Condition> conditions{
+  return {
       {.code = "margin-range",
        .about = {"margin"},
        .holds = [](const Inputs& in) { return IsLimit(in, in.Number("margin")); },
@@ -74,14 +75,6 @@ std::vector<Condition> MarginConditionsOfTwoProportions() {
        .holds = CanCount,
        .sentence = "{n} of an exact test with a margin must be at most 1000."},
   };
-  for (Name way : {Name("margin"), Name("equivalence")}) {
-    conditions.push_back({.code = "clusters-of-exact-margin",
-                          .about = {"cluster-size", "exact", way},
-                          .holds = [](const Inputs& in) { return !in.Flag("exact"); },
-                          .sentence = "{cluster-size} goes with large-sample tests only: {exact} counts observations "
-                                      "that are independent of each other."});
-  }
-  return conditions;
 }
 
 std::vector<Condition> MarginSizeExistsForTwoProportions() {

@@ -6,11 +6,8 @@
 #include "catalogue/unknowns.h"
 
 namespace planner {
-namespace {
 
-Piece Turned(Piece piece) { return {piece.high, piece.low}; }
-
-}  // namespace
+using kelpower::proportions::Contrast;
 
 std::vector<Unknown> UnknownsOfTwoProportions() {
   constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -22,11 +19,11 @@ std::vector<Unknown> UnknownsOfTwoProportions() {
        .reason = reason,
        .piece = [](const Inputs& in) -> Piece {
          const double first = in.Number("proportion1");
-         return HasMargins(in) ? PieceOfContrast(in, {-first, 1 - first}) : Piece{0, 1 - first};
+         return HasMargins(in) ? PieceOfContrast(in, Contrast::Difference, {-first, 1 - first}) : Piece{0, 1 - first};
        },
        .pieceBelow = [](const Inputs& in) -> Piece {
          const double first = in.Number("proportion1");
-         return HasMargins(in) ? Turned(PieceOfContrast(in, {-first, 1 - first})) : Piece{-first, 0};
+         return HasMargins(in) ? PieceOfContrastBelow(in, Contrast::Difference, {-first, 1 - first}) : Piece{-first, 0};
        }},
       {.input = "risk-ratio",
        .target = Question::Power,
@@ -34,20 +31,21 @@ std::vector<Unknown> UnknownsOfTwoProportions() {
        .reason = reason,
        .piece = [](const Inputs& in) -> Piece {
          const double most = 1 / in.Number("proportion1");
-         return HasMargins(in) ? PieceOfContrast(in, {0, most}) : Piece{1, most};
+         return HasMargins(in) ? PieceOfContrast(in, Contrast::RiskRatio, {0, most}) : Piece{1, most};
        },
        .pieceBelow = [](const Inputs& in) -> Piece {
-         return HasMargins(in) ? Turned(PieceOfContrast(in, {0, 1 / in.Number("proportion1")})) : Piece{0, 1};
+         return HasMargins(in) ? PieceOfContrastBelow(in, Contrast::RiskRatio, {0, 1 / in.Number("proportion1")})
+                               : Piece{0, 1};
        }},
       {.input = "odds-ratio",
        .target = Question::Power,
        .trend = Trend::Rises,
        .reason = reason,
        .piece = [](const Inputs& in) -> Piece {
-         return HasMargins(in) ? PieceOfContrast(in, {0, infinity}) : Piece{1, infinity};
+         return HasMargins(in) ? PieceOfContrast(in, Contrast::OddsRatio, {0, infinity}) : Piece{1, infinity};
        },
        .pieceBelow = [](const Inputs& in) -> Piece {
-         return HasMargins(in) ? Turned(PieceOfContrast(in, {0, infinity})) : Piece{0, 1};
+         return HasMargins(in) ? PieceOfContrastBelow(in, Contrast::OddsRatio, {0, infinity}) : Piece{0, 1};
        }},
       UnknownRatio(),
   };

@@ -116,7 +116,9 @@ def constrained(scale, limit, p1, p2, ratio):
 
     def score(q1):
         q2 = second(q1)
-        slope = {"difference": mpf(1), "ratio": limit}.get(scale, q2 * (1 - q2) / (q1 * (1 - q1)))
+        slope = limit if scale == "ratio" else mpf(1)
+        if scale == "odds-ratio":
+            slope = q2 * (1 - q2) / (q1 * (1 - q1))
         return part(p1, q1) + slope * ratio * part(p2, q2)
 
     def part(p, q):
@@ -213,7 +215,7 @@ def score_region(n1, n2, limit, alpha):
         for j, (first, second) in enumerate(grid):
             level[j] += sum(first[x1] * second[x2] for _, x1, x2 in group)
         highest = max(level)
-        if abs(highest / float(alpha) - 1) < 1e-4:
+        if abs(highest / float(alpha) - 1) < 1e-5:
             raise ValueError("the grid does not tell whether the level is kept")
         if highest > float(alpha):
             break
@@ -371,7 +373,7 @@ def two_sizes():
         first = first_size(power_at, mpf(inputs["power"]))
         found = [first, math.ceil(first * ratio)]
         assert expected in (None, found), (found, expected)
-        row("two-proportions", inputs, "sizes", found, 0, source)
+        row("two-proportions", inputs, "n", found, 0, source)
 
     ni = {"margin": -0.1, "non-inferiority": True, "alpha": 0.025}
     for p, target, expected in ((0.85, 0.8, 207), (0.9, 0.8, 155), (0.9, 0.9, 205)):
