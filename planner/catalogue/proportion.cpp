@@ -4,6 +4,7 @@
 
 #include "catalogue/core.h"
 #include "catalogue/offers.h"
+#include "catalogue/proportion_margins.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
 #include "frame/counts.h"
@@ -15,7 +16,7 @@ namespace {
 using kelpower::proportions::OneSampleMethod;
 
 std::vector<Parameter> Parameters() {
-  return {
+  std::vector<Parameter> parameters = {
       Number("proportion", "proportion", "proportion expected").AtLeast(0).AtMost(1),
       Number("null", "null proportion", "proportion under the null hypothesis").Above(0).Below(1),
       Number("n", "sample size", "number of observations").Whole().AtLeast(1).AtMost(1e9),
@@ -33,6 +34,8 @@ std::vector<Parameter> Parameters() {
              {"agresti-coull", CodeOf(OneSampleMethod::AgrestiCoull), "Agresti-Coull"}})
           .Default("wilson"),
   };
+  for (Parameter& parameter : MarginParametersOfProportion()) parameters.push_back(std::move(parameter));
+  return parameters;
 }
 
 Unevenness UnevennessOf(const Inputs& in) { return in.Flag("exact") ? Unevenness::Uneven : Unevenness::Even; }
@@ -86,6 +89,7 @@ Test ProportionTest() {
                        .wording = ", with <0>,"}};
   test.largestExactSearch = kelpower::largestCount;
   test.offers = OffersOfProportion();
+  AddMarginsOfProportion(test);
   AddWordsOfProportion(test);
   return WithCommonParameters(std::move(test));
 }

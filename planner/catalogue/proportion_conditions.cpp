@@ -1,3 +1,4 @@
+#include "catalogue/margins.h"
 #include "catalogue/proportion.h"
 #include "proportions/one_sample_interval.h"
 
@@ -30,7 +31,7 @@ std::vector<Condition> SizeExistsForProportion() {
   return {
       {.code = "no-effect",
        .about = {"proportion", "null"},
-       .holds = [](const Inputs& in) { return in.Number("proportion") != in.Number("null"); },
+       .holds = [](const Inputs& in) { return HasMargins(in) || in.Number("proportion") != in.Number("null"); },
        .sentence =
            "The proportion expected is the null proportion: without an effect, no sample size reaches the power."},
   };

@@ -1,5 +1,7 @@
 #include "catalogue/details.h"
+#include "catalogue/margins.h"
 #include "catalogue/proportion.h"
+#include "catalogue/proportion_margins.h"
 #include "proportions/one_sample_tests.h"
 
 namespace planner {
@@ -56,6 +58,7 @@ Details OfNormalTest(const proportions::OneSampleTest& test, const proportions::
 
 Details DetailsOfProportion(Question question, const Inputs& in) {
   if (!IsAboutPower(question)) return IntervalDetailsOfProportion(in);
+  if (HasMargins(in)) return MarginDetailsOfProportion(in);
   const proportions::OneSampleProportions expected{in.Number("proportion"), in.Number("null")};
   proportions::OneSampleTest test({in.Flag("exact"), in.Flag("one-sided"), in.Alpha(), in.Flag("correction")});
   Details details = in.Flag("exact") ? ExactDetailsOfProportion(test, expected, in) : OfNormalTest(test, expected, in);

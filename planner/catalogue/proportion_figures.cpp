@@ -1,5 +1,7 @@
 #include "catalogue/core.h"
+#include "catalogue/margins.h"
 #include "catalogue/proportion.h"
+#include "catalogue/proportion_margins.h"
 #include "proportions/one_sample_tests.h"
 
 namespace planner {
@@ -7,7 +9,17 @@ namespace {
 
 namespace proportions = kelpower::proportions;
 
+/// Of one margin, the counts beyond it.
+proportions::CriticalRegion RegionOfMargin(const Inputs& in) {
+  const double n = in.Number("n");
+  const proportions::CriticalRegion shown = proportions::OneSampleMarginTest(OneSampleMarginDesignOf(in)).Region(n);
+  if (IsEquivalence(in)) return {-1, n + 1};
+  return IsAboveMargin(in, NoContrast(in)) ? proportions::CriticalRegion{-1, shown.lower}
+                                           : proportions::CriticalRegion{shown.upper, n + 1};
+}
+
 proportions::CriticalRegion RegionOf(const Inputs& in) {
+  if (HasMargins(in)) return RegionOfMargin(in);
   return proportions::OneSampleTest(OneSampleDesignOf(in)).Region(in.Number("n"), OneSampleProportionsOf(in));
 }
 
@@ -23,6 +35,8 @@ double SmallestHighRejection(const Inputs& in) {
 }
 
 double AttainedLevel(const Inputs& in) {
+  if (HasMargins(in))
+    return proportions::OneSampleMarginTest(OneSampleMarginDesignOf(in)).AttainedLevel(in.Number("n"));
   return proportions::OneSampleTest(OneSampleDesignOf(in)).AttainedLevel(in.Number("n"), OneSampleProportionsOf(in));
 }
 

@@ -1,4 +1,7 @@
+#include <utility>
+
 #include "catalogue/details.h"
+#include "catalogue/proportion_margins.h"
 #include "catalogue/words.h"
 
 namespace planner {
@@ -7,15 +10,13 @@ void AddWordsOfProportion(Test& test) {
   test.details = DetailsOfProportion;
   test.whenNot =
       "Not for two groups: see two-proportions; two measurements on the same subjects: see paired-proportions.";
+  test.phrases = PhrasesOfProportion();
   test.sentences = {
       {Question::Power,
-       "With {sizes}, the {one-sided?one-sided:two-sided} {exact?exact test:normal approximation to the test} of a "
-       "proportion of {null}{tails} at a significance level of {alpha} has a power of {power} to detect a proportion "
-       "of {proportion}."},
+       "With {sizes}, the {procedure} at a significance level of {alpha} has a power of {power} to {aim}."},
       {Question::SampleSize,
-       "To detect a proportion of {proportion} with a power of {target-power}, the {one-sided?one-sided:two-sided} "
-       "{exact?exact test:normal approximation to the test} of a proportion of {null}{tails} at a significance level "
-       "of {alpha} needs {sizes}; its power is then {power}."},
+       "To {aim}{comma} with a power of {target-power}, the {procedure} at a significance level of {alpha} needs "
+       "{sizes}; its power is then {power}."},
       {Question::HalfWidth,
        "With {sizes}, the {confidence} {interval-method} confidence interval of a proportion of {proportion} has a "
        "half-width of {half-width}."},
@@ -45,6 +46,7 @@ void AddWordsOfProportion(Test& test) {
        "For a 95% Wald confidence interval of a proportion of 0.4 with a half-width of at most 0.07, the study needs "
        "189 observations; the half-width is then 0.06984."},
   };
+  for (Example& example : MarginExamplesOfProportion()) test.examples.push_back(std::move(example));
 }
 
 }  // namespace planner

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "catalogue/tests.h"
+#include "catalogue/two_proportions_margins.h"
 #include "catalogue/words.h"
 
 namespace planner {
@@ -77,6 +78,7 @@ Test TwoProportionsTest() {
   test.axes = AxesOfTwoProportions();
   test.effect = RiskDifference;
   test.steps = StepsOfPower;
+  AddMarginsOfTwoProportions(test);
   AddWordsOfTwoProportions(test);
   return WithCommonParameters(std::move(test));
 }

@@ -1,6 +1,7 @@
-#include <limits>
+#include <cmath>
 
 #include "catalogue/axes.h"
+#include "catalogue/margins.h"
 #include "catalogue/two_groups.h"
 #include "catalogue/two_proportions.h"
 
@@ -58,7 +59,6 @@ Axis RiskDifferenceAxis() {
 }
 
 constexpr double largestRatio = 1000;
-
 Axis RiskRatioAxis() {
   return {.name = "risk-ratio",
           .title = "risk ratio (second over first)",
@@ -83,11 +83,12 @@ Axis OddsRatioAxis() {
 
 }  // namespace
 
-/// The conditional test goes over tables, the other exact ones over rows.
+/// The conditional test goes over tables, the other exact ones over rows; that of a margin searches its region.
 double StepsOfPower(const Inputs& in) {
   constexpr double stepsOfRow = 10;
   const Numbers& n = in.List("n");
   if (!IsExact(in)) return 1;
+  if (HasMargins(in)) return 2 * stepsOfRow * std::pow(n[0] + n[1], 1.5);
   return IsConditional(in) ? n[0] * n[1] : stepsOfRow * (n[0] + n[1]);
 }
 

@@ -1,7 +1,9 @@
 #include "catalogue/two_proportions_details.h"
 
 #include "catalogue/details.h"
+#include "catalogue/margins.h"
 #include "catalogue/two_proportions.h"
+#include "catalogue/two_proportions_margins.h"
 #include "proportions/independent_power.h"
 
 namespace planner {
@@ -62,6 +64,7 @@ Details DetailsOfTwoProportions(Question question, const Inputs& in) {
     details.Add("p2", "second proportion", p2);
     return details;
   }
+  if (HasMargins(in)) return MarginDetailsOfTwoProportions(in);
   const double n1 = in.List("n")[0];
   const double n2 = in.List("n")[1];
   const proportions::IndependentDesign design{TestOf(in), IsExact(in),           in.Flag("one-sided"),

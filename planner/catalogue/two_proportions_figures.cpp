@@ -1,4 +1,5 @@
 #include "catalogue/core.h"
+#include "catalogue/margins.h"
 #include "catalogue/two_proportions.h"
 #include "proportions/independent_power.h"
 
@@ -22,6 +23,7 @@ double CommonProportion(const Inputs& in) {
 }
 
 double AttainedLevelOfTwoProportions(const Inputs& in) {
+  if (HasMargins(in)) return OrNaN(kelpower::NoValue::Refused);  // that of a margin is a figure of its own
   const proportions::IndependentDesign design{TestOf(in), IsExact(in),           in.Flag("one-sided"),
                                               in.Alpha(), in.Flag("correction"), IsPooled(in)};
   if (!design.isExact) return OrNaN(kelpower::NoValue::Refused);

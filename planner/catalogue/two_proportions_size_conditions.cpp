@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "catalogue/margins.h"
 #include "catalogue/two_proportions.h"
 #include "proportions/independent_power.h"
 
@@ -17,7 +18,7 @@ constexpr double largestExactPower = 0.9999;
 
 /// The large-sample sizes tell whether an exact search is short enough to start.
 bool IsShortSearch(const Inputs& in) {
-  if (!IsExact(in)) return true;
+  if (!IsExact(in) || HasMargins(in)) return true;
   const Numbers sizes = LargeSampleSizes(in, IsConditional(in) ? TwoProportionTest::Z : TestOf(in));
   return !sizes.empty() && std::max(sizes[0], sizes[1]) <= largestExactSearch;
 }
@@ -69,7 +70,7 @@ std::vector<Condition> SizeExistsForTwoProportions() {
   return {
       {.code = "no-effect",
        .about = {"power"},
-       .holds = [](const Inputs& in) { return FirstProportion(in) != SecondProportion(in); },
+       .holds = [](const Inputs& in) { return HasMargins(in) || FirstProportion(in) != SecondProportion(in); },
        .sentence = "The two proportions are equal: without a difference, no sample size reaches the power."},
       {.code = "long-search",
        .about = {"power"},

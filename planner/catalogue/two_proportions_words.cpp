@@ -1,4 +1,7 @@
+#include <utility>
+
 #include "catalogue/details.h"
+#include "catalogue/two_proportions_margins.h"
 #include "catalogue/words.h"
 
 namespace planner {
@@ -15,15 +18,13 @@ void AddWordsOfTwoProportions(Test& test) {
         {"odds-ratio", "an odds ratio of {odds-ratio} from {proportion1} to {proportion2}"},
         {"proportion1", "proportions of {proportion1} and {proportion2}"}}},
   };
+  AddMarginWordsOfTwoProportions(test);
   test.sentences = {
       {Question::Power,
-       "With {sizes}, the {one-sided?one-sided:two-sided} {exact?exact :}{standard-error}{method} of two independent "
-       "proportions{correction? with continuity correction:}{corrected}{tails} at a significance level of {alpha} has "
-       "a power of {power} to detect {effect}."},
+       "With {sizes}, the {procedure} at a significance level of {alpha} has a power of {power} to {aim}."},
       {Question::SampleSize,
-       "To detect {effect} with a power of {target-power}, the {one-sided?one-sided:two-sided} {exact?exact "
-       ":}{standard-error}{method} of two independent proportions{correction? with continuity "
-       "correction:}{corrected}{tails} at a significance level of {alpha} needs {sizes}; its power is then {power}."},
+       "To {aim}{comma} with a power of {target-power}, the {procedure} at a significance level of {alpha} needs "
+       "{sizes}; its power is then {power}."},
       {Question::HalfWidth,
        "With {sizes} and {effect}, the {confidence} {interval-method} confidence interval of the difference of "
        "proportions has a half-width of {half-width}."},
@@ -68,6 +69,7 @@ void AddWordsOfTwoProportions(Test& test) {
        "proportions of 0.8 and 0.6, the study needs 154 observations in each of 2 groups (308 in total); the "
        "half-width is then 0.09989."},
   };
+  for (Example& example : MarginExamplesOfTwoProportions()) test.examples.push_back(std::move(example));
 }
 
 }  // namespace planner

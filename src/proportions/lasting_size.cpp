@@ -7,7 +7,7 @@
 
 #include "frame/counts.h"
 #include "kelcommon/kel_dist_fun.h"
-#include "proportions/divergence.h"
+#include "proportions/certain_size.h"
 #include "proportions/signs.h"
 
 namespace kelpower::proportions {
@@ -26,26 +26,6 @@ double Cdf(double count, double size, double p) {
 double Mass(double count, double size, double p) {
   long error = 0;
   return KelDistFun::PdfBin(count, size, p, error);
-}
-
-/// The divergence of a share x of successes from the probability p.
-double DivergenceFrom(double x, double p) { return Divergence(x, p, 1 - p, x - p); }
-
-/// A size from which on a test that rejects at X <= c, at `level` under p0, is certain to have the power 1 - miss under
-/// p1 < p0. For any x between them P(X <= n x; p0) <= exp(-n D(x, p0)) and P(X >= n x; p1) <= exp(-n D(x, p1)):
-/// Chernoff, H. (1952), Annals of Mathematical Statistics 23, 493-507. Where D(x, p0) : D(x, p1) is as the logarithms
-/// of the two probabilities, that size is smallest.
-double CertainSize(double p1, double p0, double level, double miss) {
-  const double a = -std::log(level);
-  const double b = -std::log(miss);
-  double low = p1;
-  double high = p0;
-  for (int i = 0; i < 40; ++i) {
-    const double x = low + (high - low) / 2;
-    (DivergenceFrom(x, p1) * a > DivergenceFrom(x, p0) * b ? high : low) = x;
-  }
-  const double x = low + (high - low) / 2;
-  return std::ceil(std::max(a / DivergenceFrom(x, p0), b / DivergenceFrom(x, p1)));
 }
 
 /// The tail of a one-sample test that lies in the direction of the alternative, told in successes or in failures such
