@@ -35,7 +35,8 @@ double Mass(double k, double mean) {
   constexpr double twoPi = 6.283185307179586477;
   if (k < 1) return std::exp(k * (std::log(mean) - KelMath::LogGammaOf1PlusOver(k)) - mean);
   const double ratio = mean / k;
-  const double exponent = ratio < 0.5 ? k * (std::log(ratio) + 1) - mean : k * KelMath::Log1pMinusArgument((mean - k) / k);
+  const double exponent =
+      ratio < 0.5 ? k * (std::log(ratio) + 1) - mean : k * KelMath::Log1pMinusArgument((mean - k) / k);
   return std::exp(exponent - KelMath::LogScaledGamma(k)) / std::sqrt(twoPi) / std::sqrt(k);
 }
 

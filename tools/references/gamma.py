@@ -12,9 +12,9 @@ from multiprecision import log_uniform, output_folder, write
 
 LEVELS = [1e-8, 0.0001, 0.001, 0.005, 0.01, 0.025, 0.05, 0.1, 0.2, 0.5, 0.8, 0.9, 0.95, 0.975, 0.99, 0.995, 0.999]
 
-SHAPES = [(1e-4, 0.5, 50, "shape 0.0001 to 0.5"), (0.5, 20, 60, "shape 0.5 to 20"), (20, 1000, 50, "shape 20 to 1000"),
-          (1000, 1e6, 40, "shape 1000 to 1e6"), (1e6, 1e9, 25, "shape 1e6 to 1e9")]
-FAR_SHAPES = [(1e-100, 1e-4, 20, "beyond: shape below 0.0001"), (1e9, 1e15, 20, "beyond: shape above 1e9")]
+SHAPES = [(1e-4, 0.5, 30, "shape 0.0001 to 0.5"), (0.5, 20, 40, "shape 0.5 to 20"), (20, 1000, 30, "shape 20 to 1000"),
+          (1000, 1e5, 12, "shape 1000 to 1e5"), (1e5, 1e9, 8, "shape 1e5 to 1e9")]
+FAR_SHAPES = [(1e-100, 1e-4, 15, "beyond: shape below 0.0001"), (1e9, 1e15, 6, "beyond: shape above 1e9")]
 
 
 def point_near(rng, mean, variance, deviations):
@@ -32,7 +32,7 @@ def gamma_points(rng, far):
             else:
                 yield point_near(rng, shape, shape, 8), shape, region
                 if shape > 1000:
-                    yield float(shape * rng.uniform(0.7, 1.4)), shape, region
+                    yield point_near(rng, shape, shape, 30), shape, region
 
 
 def chi_square_points(rng):
@@ -66,19 +66,21 @@ def start_of(probability, shape, is_upper):
     return max(min(math.exp((math.log(lower) + math.lgamma(1 + shape)) / shape), 1.0), 1e-300)
 
 
-def quantile_rows(rng, name, factor, is_upper):
+def quantile_rows(rng, factor, is_upper):
     region_name = "half df" if factor == 2 else "shape"
     for p, parameter, region in quantile_points(rng, factor, region_name):
         shape = parameter / factor
         value = gamma_quantile(p, shape, is_upper, start_of(p, shape, is_upper))
         if value * factor > 1e-290:
-            yield name, [p, parameter], value * factor, None, region
+            yield [p, parameter], value * factor, region
 
 
 def noncentral_points(rng):
-    ranges = [(0.5, 10, 0.01, 60, 80, "df to 10, noncentrality to 60"), (1, 100, 1, 2000, 60, "df to 100, noncentrality to 2000"),
-              (100, 1e5, 0.01, 100, 40, "df to 1e5, noncentrality to 100"), (1, 1e5, 2000, 1e5, 40, "noncentrality to 1e5"),
-              (1, 1e6, 1e5, 1e7, 15, "noncentrality to 1e7"), (0.001, 0.5, 1e-6, 1, 30, "small")]
+    ranges = [(0.5, 10, 0.01, 60, 60, "df to 10, noncentrality to 60"),
+              (1, 100, 1, 2000, 40, "df to 100, noncentrality to 2000"),
+              (100, 1e4, 0.01, 100, 15, "df to 1e4, noncentrality to 100"),
+              (1, 1e4, 2000, 1e5, 15, "noncentrality to 1e5"), (1, 1e4, 1e5, 1e6, 4, "noncentrality to 1e6"),
+              (0.001, 0.5, 1e-6, 1, 20, "small")]
     for df_low, df_high, low, high, count, region in ranges:
         for _ in range(count):
             df, noncentrality_ = log_uniform(rng, df_low, df_high), log_uniform(rng, low, high)
@@ -90,16 +92,16 @@ def noncentral_points(rng):
 
 
 def noncentrality_rows(rng):
-    for df in [1, 2, 3, 4, 6, 10, 20, 47, 100, 1000, 1e4] + [log_uniform(rng, 0.3, 200) for _ in range(20)]:
+    for df in [1, 2, 3, 4, 6, 10, 20, 47, 100, 1000] + [log_uniform(rng, 0.3, 200) for _ in range(18)]:
         for alpha in (0.05, 0.01, 0.001, 1e-6):
             x = float(2 * gamma_quantile(alpha, df / 2, True, start_of(alpha, df / 2, True)))
             q = rng.choice([0.5, 0.8, 0.9, 0.95, 0.99, alpha + (1 - alpha) * rng.uniform(0.1, 0.99)])
-            yield "NonCentralityChiSquare", [q, x, df], noncentrality(q, x, df), None, "levels and powers"
+            yield [q, x, df], noncentrality(q, x, df), "levels and powers"
 
 
 def poisson_points(rng):
-    for low, high, count, region in [(1e-3, 1, 40, "mean to 1"), (1, 50, 60, "mean to 50"), (50, 1e4, 60, "mean to 1e4"),
-                                     (1e4, 1e9, 40, "mean to 1e9")]:
+    for low, high, count, region in [(1e-3, 1, 25, "mean to 1"), (1, 50, 40, "mean to 50"), (50, 1e4, 30, "mean to 1e4"),
+                                     (1e4, 1e9, 8, "mean to 1e9")]:
         for _ in range(count):
             mean = log_uniform(rng, low, high)
             k = round(mean + rng.uniform(-7, 7) * math.sqrt(mean))
@@ -115,34 +117,31 @@ def poisson_quantile_rows(rng):
             middle = (low + high) // 2
             below = gamma_tail(middle + 1, mean, True) <= p
             low, high = (middle, high) if below else (low, middle)
-        yield "IdfPoisson", [p, mean], low, None, region
+        yield [p, mean], low, region
 
 
 def main():
     folder = output_folder(sys.argv)
     rng = random.Random(20261122)
-    tables = {}
+
+    def save(name, rows):
+        write(folder / f"{name}.csv", [(name, arguments, value, None, region) for arguments, value, region in rows])
+
     for name, is_upper in (("CdfGamma", False), ("SfGamma", True)):
-        tables[name] = [(name, [x, a], gamma_tail(a, x, is_upper), None, region) for x, a, region in gamma_points(rng, True)]
+        save(name, [([x, a], gamma_tail(a, x, is_upper), region) for x, a, region in gamma_points(rng, True)])
     for name, is_upper in (("CdfChiSquare", False), ("SfChiSquare", True)):
-        tables[name] = [(name, [x, df], gamma_tail(df / 2, x / 2, is_upper), None, region)
-                        for x, df, region in chi_square_points(rng)]
+        save(name, [([x, df], gamma_tail(df / 2, x / 2, is_upper), region) for x, df, region in chi_square_points(rng)])
+    for name, is_upper in (("NonCentralCdfChiSquare", False), ("NonCentralSfChiSquare", True)):
+        save(name, [([x, df, m], noncentral_tail(x, df, m, is_upper), region) for x, df, m, region in noncentral_points(rng)])
+    save("PdfPoisson", [([k, mean], poisson_mass(k, mean), region) for k, mean, region in poisson_points(rng)])
+    for name, is_upper in (("CdfPoisson", False), ("SfPoisson", True)):
+        save(name, [([k, mean], gamma_tail(k + 1, mean, not is_upper), region) for k, mean, region in poisson_points(rng)])
+    save("NonCentralityChiSquare", noncentrality_rows(rng))
     for name, factor, is_upper in (("IdfGamma", 1, False), ("IsfGamma", 1, True), ("IdfChiSquare", 2, False),
                                    ("IsfChiSquare", 2, True)):
-        tables[name] = list(quantile_rows(rng, name, factor, is_upper))
-    for name, is_upper in (("NonCentralCdfChiSquare", False), ("NonCentralSfChiSquare", True)):
-        tables[name] = [(name, [x, df, m], noncentral_tail(x, df, m, is_upper), None, region)
-                        for x, df, m, region in noncentral_points(rng)]
-    tables["NonCentralityChiSquare"] = list(noncentrality_rows(rng))
-    tables["PdfPoisson"] = [("PdfPoisson", [k, mean], poisson_mass(k, mean), None, region)
-                            for k, mean, region in poisson_points(rng)]
-    tables["CdfPoisson"] = [("CdfPoisson", [k, mean], gamma_tail(k + 1, mean, True), None, region)
-                            for k, mean, region in poisson_points(rng)]
-    tables["SfPoisson"] = [("SfPoisson", [k, mean], gamma_tail(k + 1, mean, False), None, region)
-                           for k, mean, region in poisson_points(rng)]
-    tables["IdfPoisson"] = list(poisson_quantile_rows(rng))
-    for name, rows in tables.items():
-        write(folder / f"{name}.csv", rows)
+        save(name, quantile_rows(rng, factor, is_upper))
+    save("IdfPoisson", poisson_quantile_rows(rng))
 
 
-main()
+if __name__ == "__main__":
+    main()
