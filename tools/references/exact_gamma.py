@@ -155,6 +155,8 @@ def gamma_quantile(probability, shape, is_upper, start):
         tail = precise_tail(a, point, is_upper)
         density = (step_ball(a, point) * a).mid()
         change = ((probability / tail).log() * tail / density).mid()
+        # The logarithm of a tail is concave: a step towards its thin end may go much too far.
+        change = max(min(change, arb(1)), arb(-1))
         v = (v - change if is_upper else v + change).mid()
         if abs(change) < LAST_STEP:
             return v.exp().mid()

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Writes the references of gamma, chi-square, noncentral chi-square and Poisson.
 
-Usage: gamma.py [folder]      (needs python-flint, mpmath and gmpy2; takes a few minutes)
+Usage: gamma.py [folder] [name...]      (writes the files of all names by default; needs python-flint, mpmath and gmpy2; takes a few minutes)
 """
 import math
 import random
@@ -122,25 +122,30 @@ def poisson_quantile_rows(rng):
 
 def main():
     folder = output_folder(sys.argv)
-    rng = random.Random(20261122)
+    wanted = sys.argv[2:]
+
+    def rng_of(name):
+        return random.Random(name + " 20261122")
 
     def save(name, rows):
+        if wanted and name not in wanted:
+            return
         write(folder / f"{name}.csv", [(name, arguments, value, None, region) for arguments, value, region in rows])
 
     for name, is_upper in (("CdfGamma", False), ("SfGamma", True)):
-        save(name, [([x, a], gamma_tail(a, x, is_upper), region) for x, a, region in gamma_points(rng, True)])
+        save(name, (([x, a], gamma_tail(a, x, is_upper), region) for x, a, region in gamma_points(rng_of(name), True)))
     for name, is_upper in (("CdfChiSquare", False), ("SfChiSquare", True)):
-        save(name, [([x, df], gamma_tail(df / 2, x / 2, is_upper), region) for x, df, region in chi_square_points(rng)])
+        save(name, (([x, df], gamma_tail(df / 2, x / 2, is_upper), region) for x, df, region in chi_square_points(rng_of(name))))
     for name, is_upper in (("NonCentralCdfChiSquare", False), ("NonCentralSfChiSquare", True)):
-        save(name, [([x, df, m], noncentral_tail(x, df, m, is_upper), region) for x, df, m, region in noncentral_points(rng)])
-    save("PdfPoisson", [([k, mean], poisson_mass(k, mean), region) for k, mean, region in poisson_points(rng)])
+        save(name, (([x, df, m], noncentral_tail(x, df, m, is_upper), region) for x, df, m, region in noncentral_points(rng_of(name))))
+    save("PdfPoisson", (([k, mean], poisson_mass(k, mean), region) for k, mean, region in poisson_points(rng_of("PdfPoisson"))))
     for name, is_upper in (("CdfPoisson", False), ("SfPoisson", True)):
-        save(name, [([k, mean], gamma_tail(k + 1, mean, not is_upper), region) for k, mean, region in poisson_points(rng)])
-    save("NonCentralityChiSquare", noncentrality_rows(rng))
+        save(name, (([k, mean], gamma_tail(k + 1, mean, not is_upper), region) for k, mean, region in poisson_points(rng_of(name))))
+    save("NonCentralityChiSquare", noncentrality_rows(rng_of("NonCentralityChiSquare")))
     for name, factor, is_upper in (("IdfGamma", 1, False), ("IsfGamma", 1, True), ("IdfChiSquare", 2, False),
                                    ("IsfChiSquare", 2, True)):
-        save(name, quantile_rows(rng, factor, is_upper))
-    save("IdfPoisson", poisson_quantile_rows(rng))
+        save(name, quantile_rows(rng_of(name), factor, is_upper))
+    save("IdfPoisson", poisson_quantile_rows(rng_of("IdfPoisson")))
 
 
 if __name__ == "__main__":
