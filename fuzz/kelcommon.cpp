@@ -13,6 +13,7 @@
 #include <limits>
 #include <string>
 
+#include "kelcommon/distributions.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 #include "reader.h"
@@ -51,6 +52,16 @@ Answer CallBinomial(const Arguments& a) {
   Answer answer{0, unwritten};
   answer.value = function(a[0], a[1], a[2], answer.err);
   return answer;
+}
+
+template <double (*function)(double, double) noexcept>
+Answer Call(const Arguments& a) {
+  return {function(a[0], a[1]), 0};
+}
+
+template <double (*function)(double, double, double) noexcept>
+Answer Call(const Arguments& a) {
+  return {function(a[0], a[1], a[2]), 0};
 }
 
 const Function functions[] = {
@@ -94,6 +105,21 @@ const Function functions[] = {
      [](const Arguments& a) {
        return Answer{KelDistFun::orvadnlgam(a[0]), 0};
      }},
+    {"CdfGamma", 2, 0, 1, Call<kelcommon::CdfGamma>},
+    {"SfGamma", 2, 0, 1, Call<kelcommon::SfGamma>},
+    {"IdfGamma", 2, 0, infinity, Call<kelcommon::IdfGamma>},
+    {"IsfGamma", 2, 0, infinity, Call<kelcommon::IsfGamma>},
+    {"CdfChiSquare", 2, 0, 1, Call<kelcommon::CdfChiSquare>},
+    {"SfChiSquare", 2, 0, 1, Call<kelcommon::SfChiSquare>},
+    {"IdfChiSquare", 2, 0, infinity, Call<kelcommon::IdfChiSquare>},
+    {"IsfChiSquare", 2, 0, infinity, Call<kelcommon::IsfChiSquare>},
+    {"NonCentralCdfChiSquare", 3, 0, 1, Call<kelcommon::NonCentralCdfChiSquare>},
+    {"NonCentralSfChiSquare", 3, 0, 1, Call<kelcommon::NonCentralSfChiSquare>},
+    {"NonCentralityChiSquare", 3, 0, infinity, Call<kelcommon::NonCentralityChiSquare>},
+    {"PdfPoisson", 2, 0, infinity, Call<kelcommon::PdfPoisson>},
+    {"CdfPoisson", 2, 0, 1, Call<kelcommon::CdfPoisson>},
+    {"SfPoisson", 2, 0, 1, Call<kelcommon::SfPoisson>},
+    {"IdfPoisson", 2, -1, infinity, Call<kelcommon::IdfPoisson>},
 };
 constexpr std::size_t functionCount = sizeof functions / sizeof functions[0];
 

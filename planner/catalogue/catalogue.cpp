@@ -6,23 +6,13 @@ namespace planner {
 
 const std::vector<Test>& Tests() {
   static const std::vector<Test> tests = {
-      AnovaTest(),
-      ContrastTest(),
-      PairwiseTest(),
-      FactorialTest(),
-      AncovaTest(),
-      RepeatedMeasuresTest(),
-      MeanTest(),
-      PairedMeansTest(),
-      TwoMeansTest(),
-      CrossoverTest(),
-      ProportionTest(),
-      TwoProportionsTest(),
-      PairedProportionsTest(),
-      PearsonTest(),
-      SpearmanTest(),
-      PartialTest(),
-      RegressionTest(),
+      AnovaTest(),         ContrastTest(),       PairwiseTest(),
+      FactorialTest(),     AncovaTest(),         RepeatedMeasuresTest(),
+      MeanTest(),          PairedMeansTest(),    TwoMeansTest(),
+      CrossoverTest(),     VarianceTest(),       TwoVariancesTest(),
+      ProportionTest(),    TwoProportionsTest(), PairedProportionsTest(),
+      GoodnessOfFitTest(), ContingencyTest(),    PearsonTest(),
+      SpearmanTest(),      PartialTest(),        RegressionTest(),
   };
   return tests;
 }

@@ -29,6 +29,10 @@ Details DetailsOfRegression(Question question, const Inputs& in);
 Details DetailsOfPearson(Question question, const Inputs& in);
 Details DetailsOfSpearman(Question question, const Inputs& in);
 Details DetailsOfPartial(Question question, const Inputs& in);
+Details DetailsOfGoodnessOfFit(Question question, const Inputs& in);
+Details DetailsOfContingency(Question question, const Inputs& in);
+Details DetailsOfVariance(Question question, const Inputs& in);
+Details DetailsOfTwoVariances(Question question, const Inputs& in);
 
 inline bool IsOneSided(const Inputs& in) { return in.Has("one-sided") && in.Flag("one-sided"); }
 

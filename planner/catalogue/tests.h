@@ -23,6 +23,10 @@ Test PearsonTest();
 Test SpearmanTest();
 Test PartialTest();
 Test RegressionTest();
+Test GoodnessOfFitTest();
+Test ContingencyTest();
+Test VarianceTest();
+Test TwoVariancesTest();
 
 }  // namespace planner
 

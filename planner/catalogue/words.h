@@ -23,6 +23,10 @@ void AddWordsOfRegression(Test& test);
 void AddWordsOfPearson(Test& test);
 void AddWordsOfSpearman(Test& test);
 void AddWordsOfPartial(Test& test);
+void AddWordsOfGoodnessOfFit(Test& test);
+void AddWordsOfContingency(Test& test);
+void AddWordsOfVariance(Test& test);
+void AddWordsOfTwoVariances(Test& test);
 
 }  // namespace planner
 

@@ -9,6 +9,7 @@
 #include <limits>
 #include <sstream>
 
+#include "kelcommon/distributions.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 
@@ -73,6 +74,16 @@ bool IsNoiseOfIndependentSet(const ReferenceRow& row) {
          row.value < 1e-25;
 }
 
+template <double (*function)(double, double) noexcept>
+Outcome Call(const Arguments& a) {
+  return {function(a[0], a[1]), 0};
+}
+
+template <double (*function)(double, double, double) noexcept>
+Outcome Call(const Arguments& a) {
+  return {function(a[0], a[1], a[2]), 0};
+}
+
 bool AreSame(double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); }
 
 }  // namespace
@@ -135,9 +146,26 @@ const std::vector<Function>& Functions() {
          outcome.value = KelDistFun::PdfNegBin(a[0], a[1], a[2], outcome.err);
          return outcome;
        }},
-      {"orvadnlgam", 1, Kind::logarithm, [](const Arguments& a) {
+      {"orvadnlgam", 1, Kind::logarithm,
+       [](const Arguments& a) {
          return Outcome{KelDistFun::orvadnlgam(a[0]), 0};
-       }}};
+       }},
+      {"CdfGamma", 2, Kind::probability, Call<kelcommon::CdfGamma>},
+      {"SfGamma", 2, Kind::probability, Call<kelcommon::SfGamma>},
+      {"IdfGamma", 2, Kind::quantile, Call<kelcommon::IdfGamma>},
+      {"IsfGamma", 2, Kind::quantile, Call<kelcommon::IsfGamma>},
+      {"CdfChiSquare", 2, Kind::probability, Call<kelcommon::CdfChiSquare>},
+      {"SfChiSquare", 2, Kind::probability, Call<kelcommon::SfChiSquare>},
+      {"IdfChiSquare", 2, Kind::quantile, Call<kelcommon::IdfChiSquare>},
+      {"IsfChiSquare", 2, Kind::quantile, Call<kelcommon::IsfChiSquare>},
+      {"NonCentralCdfChiSquare", 3, Kind::probability, Call<kelcommon::NonCentralCdfChiSquare>},
+      {"NonCentralSfChiSquare", 3, Kind::probability, Call<kelcommon::NonCentralSfChiSquare>},
+      {"NonCentralityChiSquare", 3, Kind::quantile, Call<kelcommon::NonCentralityChiSquare>},
+      {"PdfPoisson", 2, Kind::probability, Call<kelcommon::PdfPoisson>},
+      {"CdfPoisson", 2, Kind::probability, Call<kelcommon::CdfPoisson>},
+      {"SfPoisson", 2, Kind::probability, Call<kelcommon::SfPoisson>},
+      {"IdfPoisson", 2, Kind::count, Call<kelcommon::IdfPoisson>},
+  };
   return functions;
 }
 

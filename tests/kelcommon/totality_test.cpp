@@ -51,11 +51,10 @@ bool IsSameBits(double a, double b) { return std::memcmp(&a, &b, sizeof a) == 0;
 
 bool IsInRange(const Function& function, double value) {
   if (std::isnan(value) || KelMV::IsMissing(value)) return true;
-  if (function.kind == Kind::probability && function.name != "PdfBin" && function.name != "PdfNegBin")
-    return value >= 0 && value <= 1;
+  if (function.kind == Kind::probability && function.name.rfind("Pdf", 0) != 0) return value >= 0 && value <= 1;
   if (function.kind == Kind::probability) return value >= 0;  // a mass at a real point may exceed 1
   if (function.name == "IdfBeta") return value >= 0 && value <= 1;
-  if (function.name == "IdfF") return value >= 0;
+  if (function.kind == Kind::quantile && function.name != "IdfT" && function.name != "IdfStdNorm") return value >= 0;
   if (function.kind == Kind::count) return value >= -1;
   return true;
 }

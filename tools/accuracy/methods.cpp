@@ -67,6 +67,47 @@ const Method methods[] = {
      "arguments "
      "the reflection formula. The coefficients are made by `tools/references/rational_fits.py`.",
      "Abramowitz and Stegun, Handbook of Mathematical Functions (1964), 6.1.17 and 6.1.40."},
+    {"CdfGamma", "Lower probability of the gamma distribution of scale 1: `CdfGamma(x, shape)`.",
+     "As `CdfBeta`, of which the gamma distribution is the limit: the second shape is 1e100. With a shape and a "
+     "point up to 1 the alternating series, of which both tails keep their digits.",
+     "C. Loader (2000) and A. DiDonato and A. Morris (1992), as `CdfBeta`; Abramowitz and Stegun, Handbook of "
+     "Mathematical Functions (1964), 6.5.29 and 26.5."},
+    {"SfGamma", "Upper probability of the gamma distribution of scale 1: `SfGamma(x, shape)`.",
+     "As `CdfGamma`, by itself where it is the smaller tail.",
+     "As `CdfGamma`; A. Gil, J. Segura and N. Temme, Efficient and Accurate Algorithms for the Computation and "
+     "Inversion of the Incomplete Gamma Function Ratios, SIAM Journal on Scientific Computing 34 (2012), "
+     "section 2.2."},
+    {"IdfGamma", "Quantile of the gamma distribution of scale 1: `IdfGamma(p, shape)`.",
+     "As `IdfF`, with a second shape of 1e100.", "As `IdfF`."},
+    {"IsfGamma", "Quantile of the gamma distribution from above: `IsfGamma(q, shape)`.",
+     "As `IdfGamma`, from the upper tail.", "As `IdfF`."},
+    {"CdfChiSquare", "Lower probability of chi-square: `CdfChiSquare(x, df)`.",
+     "As `CdfGamma`, at half of x and of the degrees of freedom.", "As `CdfGamma`."},
+    {"SfChiSquare", "Upper probability of chi-square: `SfChiSquare(x, df)`.", "As `SfGamma`.", "As `SfGamma`."},
+    {"IdfChiSquare", "Quantile of chi-square: `IdfChiSquare(p, df)`.", "As `IdfGamma`.", "As `IdfF`."},
+    {"IsfChiSquare", "Quantile of chi-square from above: `IsfChiSquare(q, df)`.", "As `IsfGamma`.", "As `IdfF`."},
+    {"NonCentralCdfChiSquare",
+     "Lower probability of noncentral chi-square: `NonCentralCdfChiSquare(x, df, noncentrality)`.",
+     "The Poisson mixture of gamma tails, the lower tail summed by parts and the upper by recurrences from its "
+     "largest term, all terms positive; above 900 terms, and far out, the contour integral of `NonCentralCdfF`.",
+     "N. Johnson, S. Kotz and N. Balakrishnan, Continuous Univariate Distributions 2 (1995), equation 29.3; R. "
+     "Lugannani and S. Rice (1980), as `NonCentralCdfF`."},
+    {"NonCentralSfChiSquare",
+     "Upper probability of noncentral chi-square: `NonCentralSfChiSquare(x, df, noncentrality)`.",
+     "As `NonCentralCdfChiSquare`, by itself where it is the smaller tail.", "As `NonCentralCdfChiSquare`."},
+    {"NonCentralityChiSquare", "The noncentrality of a given upper probability: `NonCentralityChiSquare(q, x, df)`.",
+     "False position in the root of the noncentrality, of which the normal quantile of the smaller tail is "
+     "nearly linear.",
+     "M. Dowell and P. Jarratt, A Modified Regula Falsi Method for Computing the Root of an Equation, BIT 11 "
+     "(1971)."},
+    {"PdfPoisson", "Mass of the Poisson distribution, by gamma functions between the counts: `PdfPoisson(x, mean)`.",
+     "The saddle-point form.", "C. Loader (2000), as `CdfBeta`."},
+    {"CdfPoisson", "Lower probability of the Poisson distribution: `CdfPoisson(x, mean)`.",
+     "The upper probability of the gamma distribution of shape x + 1.", "As `SfGamma`."},
+    {"SfPoisson", "Upper probability of the Poisson distribution: `SfPoisson(x, mean)`.",
+     "The lower probability of the gamma distribution of shape x + 1.", "As `CdfGamma`."},
+    {"IdfPoisson", "Largest count whose lower probability is at most p: `IdfPoisson(p, mean)`.",
+     "As `IdfBin`, by `CdfPoisson`.", "As `IdfBin`."},
 };
 
 }  // namespace
