@@ -25,6 +25,7 @@ Details DetailsOfRegression(Question question, const Inputs& in);
 Details DetailsOfPearson(Question question, const Inputs& in);
 Details DetailsOfSpearman(Question question, const Inputs& in);
 Details DetailsOfPartial(Question question, const Inputs& in);
+Details DetailsOfMannWhitney(Question question, const Inputs& in);
 
 inline bool IsOneSided(const Inputs& in) { return in.Has("one-sided") && in.Flag("one-sided"); }
 

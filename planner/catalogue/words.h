@@ -19,6 +19,7 @@ void AddWordsOfRegression(Test& test);
 void AddWordsOfPearson(Test& test);
 void AddWordsOfSpearman(Test& test);
 void AddWordsOfPartial(Test& test);
+void AddWordsOfMannWhitney(Test& test);
 
 }  // namespace planner
 
