@@ -6,9 +6,12 @@ namespace planner {
 
 const std::vector<Test>& Tests() {
   static const std::vector<Test> tests = {
-      AnovaTest(),      ContrastTest(),       PairwiseTest(),          MeanTest(),    PairedMeansTest(), TwoMeansTest(),
-      ProportionTest(), TwoProportionsTest(), PairedProportionsTest(), PearsonTest(), SpearmanTest(),    PartialTest(),
-      RegressionTest(), MannWhitneyTest(),
+      AnovaTest(),      ContrastTest(),       PairwiseTest(),
+      MeanTest(),       PairedMeansTest(),    TwoMeansTest(),
+      ProportionTest(), TwoProportionsTest(), PairedProportionsTest(),
+      PearsonTest(),    SpearmanTest(),       PartialTest(),
+      RegressionTest(), MannWhitneyTest(),    OrdinalTest(),
+      SignedRankTest(),
   };
   return tests;
 }

@@ -7,20 +7,8 @@ namespace {
 namespace ranks = kelpower::ranks;
 using ranks::Parent;
 
-/// As G*Power names it; empty for what it does not have.
-std::string InGPower(Parent parent) {
-  switch (parent) {
-    case Parent::Normal: return "Normal";
-    case Parent::Logistic: return "Logistic";
-    case Parent::Laplace: return "Laplace";
-    case Parent::Uniform:
-    case Parent::Minimum: break;
-  }
-  return "";
-}
-
 void AddGPower(Details& details, const Inputs& in, const std::string& method) {
-  const std::string parent = InGPower(ParentOf(in));
+  const std::string parent = ParentInGPower(ParentOf(in));
   if (parent.empty()) return;
   details.equivalents.push_back({.program = "G*Power",
                                  .call = "t tests > Means: Wilcoxon-Mann-Whitney test (two groups); tails {tails}, "

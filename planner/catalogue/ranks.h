@@ -34,6 +34,9 @@ Condition HasProbability(Name probability);
 /// The probability as an unknown, on either side of one half.
 Unknown UnknownProbability(Name probability);
 
+/// As G*Power names it; empty for what it does not have.
+std::string ParentInGPower(kelpower::ranks::Parent parent);
+
 /// The figures and the power of a nearly normal statistic.
 void AddNearlyNormal(Details& details, const kelpower::ranks::NormalTest& test,
                      const kelpower::ranks::NearlyNormal& statistic, bool isOneSided);

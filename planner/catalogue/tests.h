@@ -20,6 +20,8 @@ Test SpearmanTest();
 Test PartialTest();
 Test RegressionTest();
 Test MannWhitneyTest();
+Test OrdinalTest();
+Test SignedRankTest();
 
 }  // namespace planner
 

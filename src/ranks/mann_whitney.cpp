@@ -26,17 +26,13 @@ Answer PowerOf(const TwoGroupTest& design, const std::optional<NearlyNormal>& st
 
 }  // namespace
 
-double EquivalentT::Power() const {
-  return sides == Sides::One ? test.PowerUpperTail(noncentrality) : test.PowerBothTails(noncentrality);
-}
-
 std::optional<EquivalentT> ByEfficiency(const TwoGroupTest& design, Parent parent, double shift, double n1, double n2) {
   if (Rejects(design, n1, n2)) return std::nullopt;
   const double k = RelativeEfficiency(parent);
   const double df = k * (n1 + n2) - 2;
   if (df <= 0) return std::nullopt;
-  const TTest test = design.sides == Sides::One ? TTest::OneSided(design.alpha, df) : TTest::TwoSided(design.alpha, df);
-  return EquivalentT{test, std::fabs(shift) / std::sqrt((1 / n1 + 1 / n2) / k), design.sides};
+  const double noncentrality = std::fabs(shift) / std::sqrt((1 / n1 + 1 / n2) / k);
+  return EquivalentT::AtLevel(design.sides, design.alpha, df, noncentrality);
 }
 
 Answer PowerByEfficiency(const TwoGroupTest& design, Parent parent, double shift, double n1, double n2) {

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "frame/answer.h"
-#include "frame/rejection.h"
+#include "ranks/equivalent_t.h"
 #include "ranks/normal_test.h"
 #include "ranks/parents.h"
 
@@ -17,15 +17,6 @@ namespace kelpower::ranks {
 struct TwoGroupTest {
   Sides sides;
   double alpha;  ///< significance level
-};
-
-/// A t test as the approximation by the relative efficiency takes it.
-struct EquivalentT {
-  TTest test;
-  double noncentrality;
-  Sides sides;
-
-  double Power() const;
 };
 
 /// The t test on k n1 and k n2 values, with k the relative efficiency and `shift` in standard deviations

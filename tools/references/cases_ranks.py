@@ -281,7 +281,79 @@ def mann_whitney():
     sizes({"effect-d": 0.01, "power": 0.8, "method": "lehmann"})
 
 
-TESTS = {"mann-whitney": mann_whitney}
+FIVE = [0.1, 0.2, 0.4, 0.2, 0.1]
+FIVE_BETTER = [0.05, 0.1, 0.35, 0.3, 0.2]
+SEVEN = [0.01, 0.04, 0.20, 0.50, 0.20, 0.04, 0.01]
+SEVEN_BETTER = [0.01, 0.03, 0.15, 0.35, 0.30, 0.10, 0.06]
+# The control group of Whitehead's example, and the counts of 13 values and of the same less 20.
+FOUR = [0.2, 0.5, 0.2, 0.1]
+VALUES = [315, 375, 356, 374, 412, 418, 445, 403, 431, 410, 391, 475, 379]
+
+
+def shares_of(values, among):
+    return [values.count(v) / len(values) for v in among]
+
+
+def ordinal():
+    lower = [v - 20 for v in VALUES]
+    among = sorted({*VALUES, *lower})
+    pilot = {"probabilities1": shares_of(VALUES, among), "probabilities2": shares_of(lower, among)}
+    lists = [{"probabilities1": FIVE, "probabilities2": FIVE_BETTER}, {"probabilities1": SEVEN_BETTER,
+             "probabilities2": SEVEN}, {"probabilities1": [0.7, 0.3], "probabilities2": [0.4, 0.6]}, pilot,
+             {"probabilities1": [0.5, 0, 0.5], "probabilities2": [0.2, 0.3, 0.5]},
+             {"probabilities1": [0, 1, 0], "probabilities2": [0.1, 0.5, 0.4]},
+             {"probabilities1": [0.333, 0.333, 0.333], "probabilities2": [0.25, 0.25, 0.5]}]
+    odds = [{"probabilities1": FIVE, "odds-ratio": 2}, {"probabilities1": FOUR, "odds-ratio": 0.41},
+            {"probabilities1": SEVEN, "odds-ratio": 12}, {"probabilities1": [0.02] * 50, "odds-ratio": 1.4},
+            {"probabilities1": [0.9, 0.1], "odds-ratio": 1.001}]
+    designs = ({"n": 40}, {"n": [8, 12], "one-sided": True, "alpha": 0.1}, {"n": [400, 150], "alpha": 0.001})
+    for effect in lists + odds:
+        for method in ("obrien-castelloe", "happ-bathke-brunner") + (("whitehead", ) if effect in odds else ()):
+            for design in designs:
+                write_power("ordinal", ordinal_power, {**effect, **design, "method": method})
+            write_sizes("ordinal", ordinal_power, {**effect, "power": 0.85, "method": method}, 4)
+    write_power("ordinal", ordinal_power, {"probabilities1": FIVE, "probabilities2": FIVE, "n": 30})
+    write_power("ordinal", ordinal_power, {"probabilities1": FIVE, "odds-ratio": 1, "n": 30, "method": "whitehead"})
+    write_power("ordinal", ordinal_power, {"probabilities1": FIVE, "odds-ratio": 1.01, "n": 1000000})
+    for n, value in ((50, 0.651), (125, 0.939)):
+        write("ordinal", {"probabilities1": SEVEN, "probabilities2": SEVEN_BETTER, "n": n, "one-sided": True}, "power",
+              value, 5e-4, "SAS/STAT User's Guide, POWER procedure, Wilcoxon-Mann-Whitney example")
+    write_sizes("ordinal", ordinal_power, {**pilot, "power": 0.8, "method": "happ-bathke-brunner"}, 4,
+                "example of WMWssp (R): 111.371951 in total")
+    write_sizes("ordinal", ordinal_power, {"probabilities1": FOUR, "odds-ratio": 0.411889, "power": 0.9,
+                                           "method": "whitehead"}, 4, "Whitehead (1993), page 2260: 187 in total")
+
+
+def signed_rank():
+    def power(inputs):
+        write_power("signed-rank", signed_rank_power, inputs)
+
+    def sizes(inputs):
+        write_sizes("signed-rank", signed_rank_power, inputs, 8)
+
+    for parent in PARENTS:
+        for method in ("are", "noether", "lehmann"):
+            power({"effect-d": 0.5, "n": 35, "parent": parent, "method": method})
+            power({"effect-d": -0.8, "n": 12, "parent": parent, "method": method, "one-sided": True})
+            sizes({"effect-d": 0.4, "power": 0.9, "parent": parent, "method": method})
+        power({"effect-d": 0.04, "n": 5000, "parent": parent, "method": "lehmann", "alpha": 0.01})
+        power({"effect-d": 1.7, "n": 6, "parent": parent, "method": "lehmann", "alpha": 0.1})
+        power({"effect-d": 1e-3, "n": 4000000, "parent": parent})
+        power({"effect-d": 0.6, "n": 40, "parent": parent, "alpha": 0.001, "one-sided": True})
+    power({"effect-d": 0, "n": 15})
+    power({"effect-d": 0, "n": 15, "method": "lehmann"})
+    power({"effect-d": 5, "n": 6})
+    for p, n in ((0.87, 20), (0.7, 40), (0.3, 40), (0.5, 30), (0.999, 7), (1, 6), (0.501, 500000)):
+        power({"positive-average": p, "n": n})
+        power({"positive-average": p, "n": n, "one-sided": True, "alpha": 0.025})
+    write("signed-rank", {"positive-average": 0.87, "n": 20, "one-sided": True, "alpha": 0.025}, "power", 0.817543636438,
+          1e-8, "powertools (R), which leaves the other tail of its two-sided test out")
+    sizes({"positive-average": 0.7, "power": 0.9})
+    sizes({"positive-average": 0.45, "power": 0.95, "one-sided": True})
+    sizes({"effect-d": 0.01, "power": 0.8, "method": "lehmann"})
+
+
+TESTS = {"mann-whitney": mann_whitney, "ordinal": ordinal, "signed-rank": signed_rank}
 
 if __name__ == "__main__":
     TESTS[sys.argv[1]]()
