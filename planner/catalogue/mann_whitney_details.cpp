@@ -32,8 +32,8 @@ void AddEfficiency(Details& details, const Inputs& in) {
   AddTTest(details, equivalent->test, equivalent->noncentrality, IsOneSided(in),
            "the t test on k = {efficiency} times the sizes: noncentrality = |d| sqrt(k n1 n2 / (n1 + n2))");
   details.source =
-      "Lehmann (1975), Nonparametrics: Statistical Methods Based on Ranks, section 2.4; Al-Sunduqchi and Guenther "
-      "(1990), Biometrical Journal";
+      "Lehmann (1975), Nonparametrics: Statistical Methods Based on Ranks, section 2.4; Al-Sunduqchi (1990), "
+      "dissertation, University of Wyoming";
   AddGPower(details, in, "A.R.E. method");
 }
 

@@ -20,7 +20,7 @@ struct TwoGroupTest {
 };
 
 /// The t test on k n1 and k n2 values, with k the relative efficiency and `shift` in standard deviations
-/// (Al-Sunduqchi and Guenther 1990; Lehmann 1975, "Nonparametrics", section 2.4).
+/// (Al-Sunduqchi 1990, dissertation, University of Wyoming; Lehmann 1975, "Nonparametrics", section 2.4).
 std::optional<EquivalentT> ByEfficiency(const TwoGroupTest& design, Parent parent, double shift, double n1, double n2);
 Answer PowerByEfficiency(const TwoGroupTest& design, Parent parent, double shift, double n1, double n2);
 

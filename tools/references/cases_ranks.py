@@ -274,6 +274,7 @@ def mann_whitney():
     sizes({"effect-d": 0.25, "power": 0.8}, pwrss)
     sizes({"effect-d": 0.2, "power": 0.8}, pwrss)
     sizes({"superiority": 0.349, "power": 0.8}, "Noether's formula as in WMWssp (R): 114.74 in total")
+    sizes({"superiority": 0.3, "power": 0.9}, "statpsych (R), size.test.mann: 44 in each group")
     for parent in PARENTS:
         for method in ("are", "noether", "lehmann"):
             sizes({"effect-d": 0.6, "power": 0.9, "parent": parent, "method": method, "ratio": 2})
