@@ -26,8 +26,6 @@ Details DetailsOfPearson(Question question, const Inputs& in);
 Details DetailsOfSpearman(Question question, const Inputs& in);
 Details DetailsOfPartial(Question question, const Inputs& in);
 Details DetailsOfMannWhitney(Question question, const Inputs& in);
-Details DetailsOfOrdinal(Question question, const Inputs& in);
-Details DetailsOfSignedRank(Question question, const Inputs& in);
 
 inline bool IsOneSided(const Inputs& in) { return in.Has("one-sided") && in.Flag("one-sided"); }
 

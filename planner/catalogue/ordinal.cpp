@@ -8,7 +8,6 @@
 #include "catalogue/ranks.h"
 #include "catalogue/tests.h"
 #include "catalogue/two_groups.h"
-#include "catalogue/words.h"
 
 namespace planner {
 namespace {

@@ -21,6 +21,8 @@ double OrdinalExcess(const Inputs& in);
 std::vector<Condition> ConditionsOfOrdinal();
 std::vector<Condition> SizeExistsForOrdinal();
 std::vector<Unknown> UnknownsOfOrdinal();
+Details DetailsOfOrdinal(Question question, const Inputs& in);
+void AddWordsOfOrdinal(Test& test);
 
 }  // namespace planner
 

@@ -7,7 +7,6 @@
 #include "catalogue/ranks.h"
 #include "catalogue/tests.h"
 #include "catalogue/unknowns.h"
-#include "catalogue/words.h"
 
 namespace planner {
 namespace {

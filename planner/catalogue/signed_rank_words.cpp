@@ -1,5 +1,4 @@
-#include "catalogue/details.h"
-#include "catalogue/words.h"
+#include "catalogue/signed_rank.h"
 
 namespace planner {
 

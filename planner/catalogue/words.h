@@ -20,8 +20,6 @@ void AddWordsOfPearson(Test& test);
 void AddWordsOfSpearman(Test& test);
 void AddWordsOfPartial(Test& test);
 void AddWordsOfMannWhitney(Test& test);
-void AddWordsOfOrdinal(Test& test);
-void AddWordsOfSignedRank(Test& test);
 
 }  // namespace planner
 
