@@ -37,6 +37,13 @@ constexpr OtherName otherNames[] = {
     {"multiple-regression", "regression"},
     {"cross-over", "crossover"},
     {"bioequivalence", "crossover"},
+    {"rank-sum", "mann-whitney"},
+    {"mann-whitney-u", "mann-whitney"},
+    {"wilcoxon-mann-whitney", "mann-whitney"},
+    {"wilcoxon-rank-sum", "mann-whitney"},
+    {"wilcoxon-signed-rank", "signed-rank"},
+    {"proportional-odds", "ordinal"},
+    {"ordered-categories", "ordinal"},
 };
 
 /// A word, and what is said to it.
@@ -51,7 +58,9 @@ constexpr std::string_view chiSquare =
     "the chi-square test of two groups is two-proportions: its z test squared; there is none of larger tables";
 constexpr std::string_view fisher = "Fisher's exact test is two-proportions with --method conditional";
 constexpr std::string_view correlations = "correlations are pearson, spearman and partial";
-constexpr std::string_view ranks = "there is no test of ranks but spearman; a t test such as two-means is another test";
+constexpr std::string_view ranks =
+    "tests of ranks are mann-whitney for two groups, ordinal for ordered categories, signed-rank for pairs or one sample, "
+    "and spearman";
 constexpr std::string_view survival =
     "there is no test of survival times; two-proportions at a fixed time is another test";
 
@@ -81,8 +90,10 @@ constexpr Answer answersToTests[] = {
     {"f-test", "F tests are anova, of group means, and regression, of predictors"},
     {"tukey", "pairwise tests pairs of groups, with Bonferroni's or Sidak's adjustment in place of Tukey's"},
     {"wilcoxon", ranks},
-    {"mann-whitney", ranks},
-    {"kruskal-wallis", ranks},
+    {"rank", ranks},
+    {"ranks", ranks},
+    {"nonparametric", ranks},
+    {"kruskal-wallis", "there is no test of ranks of several groups; mann-whitney is another test, of two of them"},
     {"logistic", "there is no logistic regression; two-proportions with --odds-ratio tests a predictor of two groups"},
     {"log-rank", survival},
     {"logrank", survival},
@@ -197,7 +208,13 @@ constexpr OptionAnswer answersToOptions[] = {
     {"--visits", "measurements", "give --measurements"},
     {"--cells", "levels", "give the levels of the factors with --levels"},
     {"--rr", "risk-ratio", "give --risk-ratio with --proportion1"},
+    {"--or", "probabilities1", "give --odds-ratio with --probabilities1"},
     {"--or", "odds-ratio", "give --odds-ratio with --proportion1"},
+    {"--probabilities", "probabilities1", "give --probabilities1, and --probabilities2 or --odds-ratio"},
+    {"--proportions", "probabilities1", "give --probabilities1, and --probabilities2 or --odds-ratio"},
+    {"--auc", "superiority", "give --superiority"},
+    {"--p", "superiority", "give --superiority"},
+    {"--distribution", "parent", "give --parent"},
     {"--variance", "sd", "--sd is the standard deviation, the root of the variance"},
     {"--sigma", "sd", "give --sd"},
     {"--std", "sd", "give --sd"},

@@ -6,13 +6,12 @@ namespace planner {
 
 const std::vector<Test>& Tests() {
   static const std::vector<Test> tests = {
-      AnovaTest(),         ContrastTest(),       PairwiseTest(),
-      FactorialTest(),     AncovaTest(),         RepeatedMeasuresTest(),
-      MeanTest(),          PairedMeansTest(),    TwoMeansTest(),
-      CrossoverTest(),     VarianceTest(),       TwoVariancesTest(),
-      ProportionTest(),    TwoProportionsTest(), PairedProportionsTest(),
-      GoodnessOfFitTest(), ContingencyTest(),    PearsonTest(),
-      SpearmanTest(),      PartialTest(),        RegressionTest(),
+      AnovaTest(),          ContrastTest(),          PairwiseTest(),      FactorialTest(),
+      AncovaTest(),         RepeatedMeasuresTest(),  MeanTest(),          PairedMeansTest(),
+      TwoMeansTest(),       CrossoverTest(),         MannWhitneyTest(),   SignedRankTest(),
+      OrdinalTest(),        VarianceTest(),          TwoVariancesTest(),  ProportionTest(),
+      TwoProportionsTest(), PairedProportionsTest(), GoodnessOfFitTest(), ContingencyTest(),
+      PearsonTest(),        SpearmanTest(),          PartialTest(),       RegressionTest(),
   };
   return tests;
 }

@@ -33,6 +33,7 @@ Details DetailsOfGoodnessOfFit(Question question, const Inputs& in);
 Details DetailsOfContingency(Question question, const Inputs& in);
 Details DetailsOfVariance(Question question, const Inputs& in);
 Details DetailsOfTwoVariances(Question question, const Inputs& in);
+Details DetailsOfMannWhitney(Question question, const Inputs& in);
 
 inline bool IsOneSided(const Inputs& in) { return in.Has("one-sided") && in.Flag("one-sided"); }
 

@@ -27,6 +27,9 @@ Test GoodnessOfFitTest();
 Test ContingencyTest();
 Test VarianceTest();
 Test TwoVariancesTest();
+Test MannWhitneyTest();
+Test OrdinalTest();
+Test SignedRankTest();
 
 }  // namespace planner
 

@@ -27,6 +27,7 @@ void AddWordsOfGoodnessOfFit(Test& test);
 void AddWordsOfContingency(Test& test);
 void AddWordsOfVariance(Test& test);
 void AddWordsOfTwoVariances(Test& test);
+void AddWordsOfMannWhitney(Test& test);
 
 }  // namespace planner
 

@@ -35,12 +35,15 @@ TEST(Hints, NameTheTestsThatAWordMayMean) {
     EXPECT_TRUE(Holds(Said(word), "two-means for two groups, paired-means for pairs and mean for one sample")) << word;
   }
   EXPECT_TRUE(Holds(Said("fisher"), "two-proportions with --method conditional"));
+  EXPECT_TRUE(Holds(Said("wilcoxon"), "mann-whitney for two groups, ordinal for ordered categories, signed-rank for"));
   EXPECT_TRUE(Holds(Said("chi-square"), "two-proportions"));
 }
 
 TEST(Hints, SayThatAnotherTestIsAnother) {
   EXPECT_TRUE(Holds(Said("manova"), "there is no multivariate analysis of variance"));
   EXPECT_TRUE(Holds(Said("wilcoxon"), "is another test"));
+  EXPECT_TRUE(Holds(Said("ancova"), "there is no analysis of covariance"));
+  EXPECT_TRUE(Holds(Said("kruskal-wallis"), "is another test"));
 }
 
 TEST(Hints, LeadToMargins) {
@@ -57,6 +60,7 @@ TEST(Hints, NameTheOptionThatTheTestHas) {
   EXPECT_TRUE(Holds(Said("two-means --n1 40"), "--n N1,N2"));
   EXPECT_TRUE(Holds(Said("paired-means --delta 5"), "--mean-difference"));
   EXPECT_TRUE(Holds(Said("two-proportions --delta 0.1"), "--risk-difference"));
+  EXPECT_TRUE(Holds(Said("ordinal --or 2"), "--odds-ratio with --probabilities1"));
   EXPECT_TRUE(Holds(Said("mean --confidence 0.95"), "--alpha 0.05 for a confidence of 95%"));
   EXPECT_TRUE(Holds(Said("anova --d 0.5"), "--effect-f"));
   EXPECT_FALSE(Holds(Said("regression --d 0.5"), "--sd"));

@@ -39,6 +39,7 @@ NEAREST = [
     ("src/correlation/", ["vectors_correlation", "correlation_test", "correlation_core_test"]),
     ("src/exports/correlation/", ["vectors_correlation", "correlation_test"]),
     ("src/regression/", ["vectors_regression", "regression_test", "regression_core_test"]),
+    ("src/ranks/", ["ranks_test", "cases_mann_whitney", "cases_ordinal", "cases_signed_rank"]),
     ("src/exports/regression/", ["vectors_regression", "regression_test"]),
     ("src/exports/", ["exports_test"]),
     ("src/frame/", ["frame_test", "vectors_anova", "vectors_correlation", "vectors_means"]),

@@ -71,6 +71,13 @@ QUESTIONS = [
     "two-proportions --proportions 0.5,0.75 --n 50,100 --method likelihood-ratio",
     "two-proportions --proportions 0.5,0.75 --n 30 --method conditional",
     "two-proportions --proportions 0.8,0.6 --n 70,80 --interval --interval-method wald",
+    "mann-whitney --effect-d 0.5 --n 50",
+    "mann-whitney --effect-d 0.375 --n 134,67 --parent laplace --method lehmann",
+    "mann-whitney --superiority 0.65 --n 40,80 --one-sided",
+    "ordinal --probabilities1 0.1,0.2,0.4,0.2,0.1 --probabilities2 0.05,0.1,0.35,0.3,0.2 --n 80",
+    "ordinal --probabilities1 0.1,0.2,0.4,0.2,0.1 --odds-ratio 2 --n 80 --method whitehead",
+    "signed-rank --effect-d 0.5 --n 35",
+    "signed-rank --positive-average 0.7 --n 40 --one-sided",
 ]
 
 HEAD = """# The same question in other programs
