@@ -35,7 +35,8 @@ inline constexpr HighWeights highWeights;
 template <typename Function>
 class AdaptiveLegendre {
 public:
-  explicit AdaptiveLegendre(const Function& f) : f_(f) {}
+  /// @param tolerance of the coefficients, as a part of the integral
+  AdaptiveLegendre(const Function& f, double tolerance) : f_(f), tolerance_(tolerance) {}
 
   /// Adds a piece of the range; the first 32 count.
   void Add(double from, double to) {
@@ -48,14 +49,13 @@ public:
   double Integral() {
     double scale = 0;
     for (int i = 0; i < count_; ++i) scale += std::fabs(pieces_[i].value);
-    const double tolerance = coefficientTolerance * scale + leastTolerance;
+    const double tolerance = tolerance_ * scale + leastTolerance;
     double sum = 0;
     for (int i = 0; i < count_; ++i) sum += Refined(pieces_[i], tolerance, 0);
     return sum;
   }
 
 private:
-  static constexpr double coefficientTolerance = 1e-9;
   static constexpr double leastTolerance = 1e-18;
   static constexpr int mostHalvings = 48;
   static constexpr int mostEvaluated = 500;
@@ -95,6 +95,7 @@ private:
   }
 
   const Function& f_;
+  double tolerance_;
   Piece pieces_[mostFirstPieces];
   int count_ = 0;
   int evaluated_ = 0;

@@ -63,7 +63,7 @@ public:
         breaks[count++] = s;
     }
     std::sort(breaks, breaks + count);
-    KelMath::AdaptiveLegendre pieces(Density);
+    KelMath::AdaptiveLegendre pieces(Density, 1e-9);
     double left = from;
     for (int i = 0; i <= count; ++i) {
       const double right = i < count ? std::min(breaks[i], to) : to;

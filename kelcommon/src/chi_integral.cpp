@@ -21,6 +21,10 @@ constexpr double twoPi = 6.283185307179586477;
 // The density is left where it has fallen by e^-40.
 constexpr double fallOfDensity = 40;
 
+// Of the highest coefficients. Where the density is far wider than what changes in it, they fall less fast.
+constexpr double usualTolerance = 5e-8;
+constexpr double strictTolerance = 1e-9;
+
 // Degrees of freedom beyond which nothing changes, and the squares of small numbers would vanish.
 constexpr double leastDf = 1e-290;
 constexpr double mostDf = 1e100;
@@ -64,7 +68,7 @@ double MeanOverChi(ChiFunction g, double df, const ChiRange& range) noexcept {
   const auto Integrand = [=](double v) {
     return height * std::exp(-b * KelMath::Expm1MinusArgument(2 * v)) * g(std::exp(v));
   };
-  KelMath::AdaptiveLegendre pieces(Integrand);
+  KelMath::AdaptiveLegendre pieces(Integrand, df < 1 ? strictTolerance : usualTolerance);
   for (double left = from; left < to;) {
     const double right = pieces.Count() + 1 < pieces.MostCount() ? NextBreak(range, left, to) : to;
     pieces.Add(left, right);

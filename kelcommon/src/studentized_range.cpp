@@ -36,9 +36,9 @@ constexpr double endlessDf = 1e18;
 
 // As for the noncentral t distribution: steps in standard deviations of the peak, and what the strip of analyticity
 // allows; below the shape the integrand falls so slowly on the left that the nodes are stretched by a hyperbolic sine.
-constexpr double stepInDeviations = 0.5;
-constexpr double widestStep = 0.11;
-constexpr double widestStretchedStep = 0.05;
+constexpr double stepInDeviations = 0.45;
+constexpr double widestStep = 0.095;
+constexpr double widestStretchedStep = 0.043;
 constexpr double leastEvenShape = 1.8;
 constexpr int mostNodes = 3000;
 
