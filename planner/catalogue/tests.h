@@ -19,6 +19,7 @@ Test PearsonTest();
 Test SpearmanTest();
 Test PartialTest();
 Test RegressionTest();
+Test TukeyTest();
 
 }  // namespace planner
 

@@ -31,6 +31,7 @@ private:
   static constexpr std::string_view all[] = {
       "adjust",
       "adjust-bias",
+      "all-comparisons",
       "alpha",
       "assurance",
       "below",
@@ -57,6 +58,7 @@ private:
       "exact",
       "f-statistic",
       "from",
+      "group",
       "groups",
       "half-width",
       "hedges-g",
