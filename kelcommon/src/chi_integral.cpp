@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "gauss_legendre.h"
+#include "adaptive_legendre.h"
 #include "log_gamma.h"
 #include "small_differences.h"
 
@@ -16,98 +16,18 @@ namespace kelcommon {
 
 namespace {
 
-using KelMath::gaussLegendreCount;
-using KelMath::gaussLegendreNodes;
-using KelMath::gaussLegendreWeights;
-
 constexpr double twoPi = 6.283185307179586477;
 
 // The density is left where it has fallen by e^-40.
 constexpr double fallOfDensity = 40;
 
+// Of the highest coefficients. Where the density is far wider than what changes in it, they fall less fast.
+constexpr double usualTolerance = 5e-8;
+constexpr double strictTolerance = 1e-9;
+
 // Degrees of freedom beyond which nothing changes, and the squares of small numbers would vanish.
 constexpr double leastDf = 1e-290;
 constexpr double mostDf = 1e100;
-
-// A piece is halved while its coefficients of degrees 28 and 29 in Legendre polynomials are above this part of the mean.
-// The rule is exact up to degree 59: where the coefficients fall geometrically, its error is of the order of their
-// square.
-constexpr double coefficientTolerance = 1e-9;
-constexpr double leastTolerance = 1e-18;
-
-constexpr int mostHalvings = 48;
-constexpr int mostPieces = 500;
-constexpr int mostFirstPieces = 32;
-
-// The weights that give the coefficients of degrees 28 and 29 from the values at the nodes.
-struct HighWeights {
-  double even[gaussLegendreCount] = {};
-  double odd[gaussLegendreCount] = {};
-
-  constexpr HighWeights() {
-    for (int i = 0; i < gaussLegendreCount; ++i) {
-      const double x = gaussLegendreNodes[i];
-      double before = 1;
-      double now = x;
-      for (int k = 1; k < 29; ++k) {
-        const double next = ((2 * k + 1) * x * now - k * before) / (k + 1);
-        before = now;
-        now = next;
-      }
-      even[i] = 57 * gaussLegendreWeights[i] * before / 2;
-      odd[i] = 59 * gaussLegendreWeights[i] * now / 2;
-    }
-  }
-};
-constexpr HighWeights high;
-
-struct Piece {
-  double value;
-  double roughness;
-};
-
-class Quadrature {
-public:
-  Quadrature(ChiFunction g, double b)
-      : g_(g), b_(b), height_(2 * std::sqrt(b / twoPi) * std::exp(-KelMath::LogScaledGamma(b))) {}
-
-  Piece Over(double from, double to) {
-    ++pieces_;
-    const double half = (to - from) / 2;
-    const double centre = from + half;
-    Piece piece{0, 0};
-    double even = 0;
-    double odd = 0;
-    for (int i = 0; i < gaussLegendreCount; ++i) {
-      const double step = half * gaussLegendreNodes[i];
-      const double left = At(centre - step);
-      const double right = At(centre + step);
-      piece.value += gaussLegendreWeights[i] * (left + right);
-      even += high.even[i] * (left + right);
-      odd += high.odd[i] * (right - left);
-    }
-    piece.value *= half;
-    piece.roughness = half * (std::fabs(even) + std::fabs(odd));
-    return piece;
-  }
-
-  // The integral over a piece that `whole` has been computed of.
-  double Refined(const Piece& whole, double from, double to, double tolerance, int halvings) {
-    const double centre = from + (to - from) / 2;
-    if (!(whole.roughness > tolerance) || halvings == mostHalvings || pieces_ >= mostPieces) return whole.value;
-    const Piece left = Over(from, centre);
-    const Piece right = Over(centre, to);
-    return Refined(left, from, centre, tolerance, halvings + 1) + Refined(right, centre, to, tolerance, halvings + 1);
-  }
-
-private:
-  double At(double v) const { return height_ * std::exp(-b_ * KelMath::Expm1MinusArgument(2 * v)) * g_(std::exp(v)); }
-
-  ChiFunction g_;
-  double b_;
-  double height_;
-  int pieces_ = 0;
-};
 
 // Where e^{2v} - 1 - 2v has grown to c on the left, or somewhat farther out: with x = -2v, e^-x - 1 + x is at least
 // x^2 / (2 + x).
@@ -144,25 +64,17 @@ double MeanOverChi(ChiFunction g, double df, const ChiRange& range) noexcept {
   // Below the mode the density falls from its value at the limit.
   const double from = LeftEnd(fallOfDensity / b + (to < 0 ? KelMath::Expm1MinusArgument(2 * to) : 0));
 
-  Quadrature quadrature(g, b);
-  struct {
-    double from;
-    double to;
-    Piece piece;
-  } pieces[mostFirstPieces];
-  int count = 0;
-  double scale = 0;
-  for (double left = from; left < to && count < mostFirstPieces; ++count) {
-    const double right = count + 1 < mostFirstPieces ? NextBreak(range, left, to) : to;
-    pieces[count] = {left, right, quadrature.Over(left, right)};
-    scale += std::fabs(pieces[count].piece.value);
+  const double height = 2 * std::sqrt(b / twoPi) * std::exp(-KelMath::LogScaledGamma(b));
+  const auto Integrand = [=](double v) {
+    return height * std::exp(-b * KelMath::Expm1MinusArgument(2 * v)) * g(std::exp(v));
+  };
+  KelMath::AdaptiveLegendre pieces(Integrand, df < 1 ? strictTolerance : usualTolerance);
+  for (double left = from; left < to;) {
+    const double right = pieces.Count() + 1 < pieces.MostCount() ? NextBreak(range, left, to) : to;
+    pieces.Add(left, right);
     left = right;
   }
-  const double tolerance = coefficientTolerance * scale + leastTolerance;
-  double sum = 0;
-  for (int i = 0; i < count; ++i)
-    sum += quadrature.Refined(pieces[i].piece, pieces[i].from, pieces[i].to, tolerance, 0);
-  return sum;
+  return pieces.Integral();
 }
 
 }  // namespace kelcommon

@@ -1,5 +1,7 @@
 #include "catalogue/group_parameters.h"
 
+#include <algorithm>
+
 #include "catalogue/axes.h"
 
 namespace planner {
@@ -40,6 +42,20 @@ Parameter EffectF() {
 
 Parameter EtaSquared() {
   return Number("eta-squared", "eta squared", "proportion of variance explained by the groups").AtLeast(0).Below(1);
+}
+
+Condition PairDiffers() {
+  return {.code = "pair-differs",
+          .about = {"pair"},
+          .holds = [](const Inputs& in) { return in.List("pair")[0] != in.List("pair")[1]; },
+          .sentence = "{pair} must name two different groups."};
+}
+
+Condition PairExists() {
+  return {.code = "pair-exists",
+          .about = {"pair"},
+          .holds = [](const Inputs& in) { return std::max(in.List("pair")[0], in.List("pair")[1]) <= in.Groups(); },
+          .sentence = "{pair} names a group beyond the number of groups."};
 }
 
 Condition ErrorDegrees() {

@@ -17,6 +17,10 @@ Parameter GroupCount();
 Parameter EffectF();
 Parameter EtaSquared();
 
+/// The conditions on two groups that `pair` names.
+Condition PairDiffers();
+Condition PairExists();
+
 /// The condition that more observations than groups leave something to estimate the standard deviation from.
 Condition ErrorDegrees();
 

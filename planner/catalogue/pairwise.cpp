@@ -37,14 +37,8 @@ std::vector<Parameter> Parameters() {
 
 std::vector<Condition> Conditions() {
   return {
-      {.code = "pair-differs",
-       .about = {"pair"},
-       .holds = [](const Inputs& in) { return in.List("pair")[0] != in.List("pair")[1]; },
-       .sentence = "{pair} must name two different groups."},
-      {.code = "pair-exists",
-       .about = {"pair"},
-       .holds = [](const Inputs& in) { return std::max(in.List("pair")[0], in.List("pair")[1]) <= in.Groups(); },
-       .sentence = "{pair} names a group beyond the number of groups."},
+      PairDiffers(),
+      PairExists(),
       ErrorDegrees(),
   };
 }

@@ -30,6 +30,7 @@ Test TwoVariancesTest();
 Test MannWhitneyTest();
 Test OrdinalTest();
 Test SignedRankTest();
+Test TukeyTest();
 
 }  // namespace planner
 

@@ -31,6 +31,7 @@ private:
   static constexpr std::string_view all[] = {
       "adjust",
       "adjust-bias",
+      "all-comparisons",
       "alpha",
       "approximate",
       "assurance",
@@ -68,6 +69,7 @@ private:
       "f-of",
       "f-statistic",
       "from",
+      "group",
       "groups",
       "half-width",
       "hedges-g",

@@ -24,6 +24,7 @@ SOURCES = {".h", ".hpp", ".cpp", ".in"}
 
 FAMILIES = {"anova", "chi_square", "correlation", "effects", "means", "proportions", "regression", "variances"}
 FAMILIES = {"anova", "correlation", "effects", "means", "proportions", "ranks", "regression"}
+FAMILIES = {"anova", "comparisons", "correlation", "effects", "means", "proportions", "regression"}
 
 # The core around the tests: widths that are assured, and powers over an uncertain effect.
 AROUND_TESTS = {"assurance", "expected_power"}

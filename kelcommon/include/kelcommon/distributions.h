@@ -103,6 +103,35 @@ KELCOMMON_API double SfPoisson(double x, double mean) noexcept;
 /// @return the count; -1 when there is none, plus infinity at p = 1 or an infinite mean
 KELCOMMON_API double IdfPoisson(double p, double mean) noexcept;
 
+// Studentized range.
+
+/// Lower probability of the studentized range: of the range of k means in units of their estimated standard error.
+/// @param q at or below 0 the probability is 0
+/// @param k number of means, 2 to a million; may be fractional
+/// @param df degrees of freedom of the estimate, above 0; plus infinity for a known standard error
+KELCOMMON_API double CdfStudentizedRange(double q, double k, double df) noexcept;
+
+/// Upper probability of the studentized range. Arguments as of `CdfStudentizedRange`.
+KELCOMMON_API double SfStudentizedRange(double q, double k, double df) noexcept;
+
+/// Quantile of the studentized range.
+/// @param p lower probability, 0 to 1
+/// @param k,df as of `CdfStudentizedRange`
+/// @return the range; 0 at p = 0, plus infinity at p = 1 and where no double is large enough
+KELCOMMON_API double IdfStudentizedRange(double p, double k, double df) noexcept;
+
+/// Quantile of the studentized range from above.
+/// @param q upper probability, 0 to 1
+/// @param k,df as of `CdfStudentizedRange`
+/// @return the range; plus infinity at q = 0, 0 at q = 1
+KELCOMMON_API double IsfStudentizedRange(double q, double k, double df) noexcept;
+
+// Bivariate normal distribution.
+
+/// P(X <= a and Y <= b) of two standard normal variables.
+/// @param rho their correlation, -1 to 1
+KELCOMMON_API double CdfBivariateNormal(double a, double b, double rho) noexcept;
+
 }  // namespace kelcommon
 
 #endif

@@ -1,0 +1,108 @@
+#include "catalogue/tukey.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <utility>
+
+#include "catalogue/group_parameters.h"
+#include "catalogue/tests.h"
+#include "catalogue/unknowns.h"
+
+namespace planner {
+namespace {
+
+std::vector<Parameter> Parameters() {
+  return {
+      List("pair", "groups compared", "numbers of the two groups whose difference is to be found; without it, any two")
+          .Length(2)
+          .Whole()
+          .AtLeast(1)
+          .AtMost(10000),
+      GroupMeans(),
+      WithinSd(),
+      Number("effect-d", "standardized difference d",
+             "difference of the pair's means over the standard deviation; without a pair, of the two means farthest "
+             "apart, with the others midway")
+          .Alias("d")
+          .AtLeast(-1e6)
+          .AtMost(1e6),
+      GroupSizes(),
+      AllocationRatios(),
+      GroupCount(),
+  };
+}
+
+double LargestDifference(const Inputs& in) {
+  const auto [least, largest] = std::minmax_element(in.List("means").begin(), in.List("means").end());
+  return (*largest - *least) / in.Number("sd");
+}
+
+std::string Procedure(const Inputs& in) {
+  return AreEqual(in, "n") && AreEqual(in, "ratios") ? "Tukey's test" : "the Tukey-Kramer test";
+}
+
+std::string PowerFor(const Inputs& in) {
+  if (!in.Has("pair")) return "a difference between at least one pair of groups";
+  const AskedPair pair = PairOf(in);
+  return "the difference between groups " + std::to_string(pair.first + 1) + " and " + std::to_string(pair.second + 1);
+}
+
+}  // namespace
+
+AskedPair PairOf(const Inputs& in) {
+  if (!in.Has("pair")) return {0, 1};
+  return {static_cast<std::size_t>(in.List("pair")[0]) - 1, static_cast<std::size_t>(in.List("pair")[1]) - 1};
+}
+
+bool IsAboutOnePair(const Inputs& in) { return in.Has("pair") || in.Groups() == 2; }
+
+Numbers MeansOfTukey(const Inputs& in) {
+  Numbers means;
+  if (in.Has("means")) {
+    means = in.List("means");
+    for (double& mean : means) mean /= in.Number("sd");
+  } else {
+    means.assign(static_cast<std::size_t>(in.Groups()), in.Number("effect-d") / 2);
+    means.front() = 0;
+    means.back() = in.Number("effect-d");
+  }
+  return means;
+}
+
+double EffectOfTukeyPair(const Inputs& in) {
+  if (!in.Has("means")) return in.Number("effect-d");
+  const AskedPair pair = PairOf(in);
+  return (in.List("means")[pair.first] - in.List("means")[pair.second]) / in.Number("sd");
+}
+
+Test TukeyTest() {
+  Test test{.name = "tukey",
+            .title = "One-way analysis of variance: Tukey's test of all pairs",
+            .about = "Tests which groups differ in their means, all pairs at one level for the whole family.",
+            .groups = groupsFromInputs};
+  test.parameters = Parameters();
+  test.routes = RoutesOfTukey();
+  test.unknowns = {UnknownEffectD(), UnknownSd("sd"), UnknownSdOfInterval("sd")};
+  test.conditions = ConditionsOfTukey();
+  test.sizeExists = SizeExistsForTukey();
+  test.derived = {
+      {.name = "effect-d",
+       .label = "standardized difference d",
+       .needs = {"means", "sd", "pair"},
+       .call = EffectOfTukeyPair},
+      {.name = "largest-difference",
+       .label = "largest standardized difference",
+       .needs = {"means", "sd"},
+       .call = LargestDifference},
+  };
+  test.assumptions = {
+      {.name = "procedure", .label = "test", .needs = {"n"}, .call = Procedure},
+      {.name = "power-for", .label = "power to find", .needs = {"n"}, .call = PowerFor},
+  };
+  test.offers.comparisons = false;  // the level is that of all pairs together
+  AddWordsOfTukey(test);
+  return WithCommonParameters(std::move(test));
+}
+
+}  // namespace planner
