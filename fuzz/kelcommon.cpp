@@ -13,6 +13,7 @@
 #include <limits>
 #include <string>
 
+#include "kelcommon/distributions.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 #include "reader.h"
@@ -93,6 +94,18 @@ const Function functions[] = {
     {"orvadnlgam", 1, -infinity, infinity,
      [](const Arguments& a) {
        return Answer{KelDistFun::orvadnlgam(a[0]), 0};
+     }},
+    {"CdfCorrelation", 3, 0, 1,
+     [](const Arguments& a) {
+       return Answer{kelcommon::CdfCorrelation(a[0], a[1], a[2]), 0};
+     }},
+    {"SfCorrelation", 3, 0, 1,
+     [](const Arguments& a) {
+       return Answer{kelcommon::SfCorrelation(a[0], a[1], a[2]), 0};
+     }},
+    {"IdfCorrelation", 3, -1, 1,
+     [](const Arguments& a) {
+       return Answer{kelcommon::IdfCorrelation(a[0], a[1], a[2]), 0};
      }},
 };
 constexpr std::size_t functionCount = sizeof functions / sizeof functions[0];

@@ -9,6 +9,7 @@
 #include <limits>
 #include <sstream>
 
+#include "kelcommon/distributions.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 
@@ -135,8 +136,20 @@ const std::vector<Function>& Functions() {
          outcome.value = KelDistFun::PdfNegBin(a[0], a[1], a[2], outcome.err);
          return outcome;
        }},
-      {"orvadnlgam", 1, Kind::logarithm, [](const Arguments& a) {
+      {"orvadnlgam", 1, Kind::logarithm,
+       [](const Arguments& a) {
          return Outcome{KelDistFun::orvadnlgam(a[0]), 0};
+       }},
+      {"CdfCorrelation", 3, Kind::probability,
+       [](const Arguments& a) {
+         return Outcome{kelcommon::CdfCorrelation(a[0], a[1], a[2]), 0};
+       }},
+      {"SfCorrelation", 3, Kind::probability,
+       [](const Arguments& a) {
+         return Outcome{kelcommon::SfCorrelation(a[0], a[1], a[2]), 0};
+       }},
+      {"IdfCorrelation", 3, Kind::quantile, [](const Arguments& a) {
+         return Outcome{kelcommon::IdfCorrelation(a[0], a[1], a[2]), 0};
        }}};
   return functions;
 }
