@@ -1,5 +1,6 @@
 #include <benchmark/benchmark.h>
 
+#include "kelcommon/distributions.h"
 #include "kelcommon/kel_dist_fun.h"
 
 using KelMath::KelDistFun;
@@ -147,5 +148,18 @@ void orvadnlgam(benchmark::State& state) {
   for (auto _ : state) benchmark::DoNotOptimize(KelDistFun::orvadnlgam(x));
 }
 BENCHMARK(orvadnlgam)->Arg(5)->Arg(80);
+
+// The power of the test at a correlation of 0.5 where it is 0.3.
+void SfCorrelation(benchmark::State& state) {
+  const double size = static_cast<double>(state.range(0));
+  for (auto _ : state) benchmark::DoNotOptimize(kelcommon::SfCorrelation(0.5, size, 0.3));
+}
+BENCHMARK(SfCorrelation)->Arg(5)->Arg(50)->Arg(2000)->Arg(1000000);
+
+void IdfCorrelation(benchmark::State& state) {
+  const double size = static_cast<double>(state.range(0));
+  for (auto _ : state) benchmark::DoNotOptimize(kelcommon::IdfCorrelation(1 - alpha / 2, size, 0.3));
+}
+BENCHMARK(IdfCorrelation)->Arg(5)->Arg(50)->Arg(2000)->Arg(1000000);
 
 }  // namespace

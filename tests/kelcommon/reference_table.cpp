@@ -166,7 +166,21 @@ const std::vector<Function>& Functions() {
       {"SfPoisson", 2, Kind::probability, Call<kelcommon::SfPoisson>},
       {"IdfPoisson", 2, Kind::count, Call<kelcommon::IdfPoisson>},
   };
-  return functions;
+  {"CdfCorrelation", 3, Kind::probability,
+   [](const Arguments& a) {
+     return Outcome{kelcommon::CdfCorrelation(a[0], a[1], a[2]), 0};
+   }},
+      {"SfCorrelation", 3, Kind::probability,
+       [](const Arguments& a) {
+         return Outcome{kelcommon::SfCorrelation(a[0], a[1], a[2]), 0};
+       }},
+  {
+    "IdfCorrelation", 3, Kind::quantile, [](const Arguments& a) {
+      return Outcome{kelcommon::IdfCorrelation(a[0], a[1], a[2]), 0};
+    }
+  }
+};
+return functions;
 }
 
 const Function& FindFunction(const std::string& name) {
