@@ -165,22 +165,11 @@ const std::vector<Function>& Functions() {
       {"CdfPoisson", 2, Kind::probability, Call<kelcommon::CdfPoisson>},
       {"SfPoisson", 2, Kind::probability, Call<kelcommon::SfPoisson>},
       {"IdfPoisson", 2, Kind::count, Call<kelcommon::IdfPoisson>},
+      {"CdfCorrelation", 3, Kind::probability, Call<kelcommon::CdfCorrelation>},
+      {"SfCorrelation", 3, Kind::probability, Call<kelcommon::SfCorrelation>},
+      {"IdfCorrelation", 3, Kind::quantile, Call<kelcommon::IdfCorrelation>},
   };
-  {"CdfCorrelation", 3, Kind::probability,
-   [](const Arguments& a) {
-     return Outcome{kelcommon::CdfCorrelation(a[0], a[1], a[2]), 0};
-   }},
-      {"SfCorrelation", 3, Kind::probability,
-       [](const Arguments& a) {
-         return Outcome{kelcommon::SfCorrelation(a[0], a[1], a[2]), 0};
-       }},
-  {
-    "IdfCorrelation", 3, Kind::quantile, [](const Arguments& a) {
-      return Outcome{kelcommon::IdfCorrelation(a[0], a[1], a[2]), 0};
-    }
-  }
-};
-return functions;
+  return functions;
 }
 
 const Function& FindFunction(const std::string& name) {

@@ -22,9 +22,18 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]', re.M)
 SOURCES = {".h", ".hpp", ".cpp", ".in"}
 
 
-FAMILIES = {"anova", "chi_square", "correlation", "effects", "means", "proportions", "regression", "variances"}
-FAMILIES = {"anova", "correlation", "effects", "means", "proportions", "ranks", "regression"}
-FAMILIES = {"anova", "comparisons", "correlation", "effects", "means", "proportions", "regression"}
+FAMILIES = {
+    "anova",
+    "chi_square",
+    "comparisons",
+    "correlation",
+    "effects",
+    "means",
+    "proportions",
+    "ranks",
+    "regression",
+    "variances",
+}
 
 # The core around the tests: widths that are assured, and powers over an uncertain effect.
 AROUND_TESTS = {"assurance", "expected_power"}

@@ -132,8 +132,6 @@ KELCOMMON_API double IsfStudentizedRange(double q, double k, double df) noexcept
 /// @param rho their correlation, -1 to 1
 KELCOMMON_API double CdfBivariateNormal(double a, double b, double rho) noexcept;
 
-namespace kelcommon {
-
 // Distribution of the correlation of a sample of n pairs from a bivariate normal distribution.
 
 /// Lower probability of a sample correlation.
