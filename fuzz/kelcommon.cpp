@@ -120,18 +120,9 @@ const Function functions[] = {
     {"CdfPoisson", 2, 0, 1, Call<kelcommon::CdfPoisson>},
     {"SfPoisson", 2, 0, 1, Call<kelcommon::SfPoisson>},
     {"IdfPoisson", 2, -1, infinity, Call<kelcommon::IdfPoisson>},
-    {"CdfCorrelation", 3, 0, 1,
-     [](const Arguments& a) {
-       return Answer{kelcommon::CdfCorrelation(a[0], a[1], a[2]), 0};
-     }},
-    {"SfCorrelation", 3, 0, 1,
-     [](const Arguments& a) {
-       return Answer{kelcommon::SfCorrelation(a[0], a[1], a[2]), 0};
-     }},
-    {"IdfCorrelation", 3, -1, 1,
-     [](const Arguments& a) {
-       return Answer{kelcommon::IdfCorrelation(a[0], a[1], a[2]), 0};
-     }},
+    {"CdfCorrelation", 3, 0, 1, Call<kelcommon::CdfCorrelation>},
+    {"SfCorrelation", 3, 0, 1, Call<kelcommon::SfCorrelation>},
+    {"IdfCorrelation", 3, -1, 1, Call<kelcommon::IdfCorrelation>},
 };
 constexpr std::size_t functionCount = sizeof functions / sizeof functions[0];
 

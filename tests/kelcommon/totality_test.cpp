@@ -54,9 +54,8 @@ bool IsInRange(const Function& function, double value) {
   if (function.kind == Kind::probability && function.name.rfind("Pdf", 0) != 0) return value >= 0 && value <= 1;
   if (function.kind == Kind::probability) return value >= 0;  // a mass at a real point may exceed 1
   if (function.name == "IdfBeta") return value >= 0 && value <= 1;
-  if (function.kind == Kind::quantile && function.name != "IdfT" && function.name != "IdfStdNorm") return value >= 0;
-  if (function.name == "IdfF") return value >= 0;
   if (function.name == "IdfCorrelation") return value >= -1 && value <= 1;
+  if (function.kind == Kind::quantile && function.name != "IdfT" && function.name != "IdfStdNorm") return value >= 0;
   if (function.kind == Kind::count) return value >= -1;
   return true;
 }
