@@ -20,6 +20,9 @@ inline kelpower::anova::RepeatedF RepeatedFOf(const Inputs& in) {
 /// Without the correlation where the effect size has it in itself.
 kelpower::anova::RepeatedDesign RepeatedDesignOf(const Inputs& in);
 
+/// The test of the effect, or of the contrast of the measurements where one is given.
+kelpower::anova::EffectTest RepeatedTestOf(const Inputs& in);
+
 /// NaN where there is none. `weights` are the sizes of the groups, or their shares.
 double NoncentralityOfTable(const Inputs& in, const Numbers& weights);
 

@@ -1,3 +1,5 @@
+#include <cmath>
+
 #include "anova/factorial.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/repeated_measures.h"
@@ -13,6 +15,18 @@ constexpr const char* noEffect = "The effect size is zero: without an effect, no
 
 bool IsTable(const Inputs& in) {
   return static_cast<double>(in.List("means").size()) == in.Groups() * in.Number("measurements");
+}
+
+bool IsContrast(const Inputs& in) {
+  const Numbers& coefficients = in.List("coefficients");
+  double sum = 0;
+  double magnitude = 0;
+  for (double coefficient : coefficients) {
+    sum += coefficient;
+    magnitude += std::fabs(coefficient);
+  }
+  const bool isOfAll = static_cast<double>(coefficients.size()) == in.Number("measurements");
+  return isOfAll && magnitude > 0 && std::fabs(sum) <= 1e-6 * magnitude;
 }
 
 bool NeedsCorrelation(const Inputs& in) { return RepeatedFOf(in) == RepeatedF::Means; }
@@ -57,6 +71,16 @@ std::vector<Condition> ConditionsOfRepeatedMeasures() {
        .about = {"epsilon", "measurements"},
        .holds = [](const Inputs& in) { return in.Number("epsilon") * (in.Number("measurements") - 1) >= 1 - 1e-9; },
        .sentence = "{epsilon} is at least 1 / ({measurements} - 1)."},
+      {.code = "contrast-within",
+       .about = {"coefficients", "effect", "epsilon"},
+       .holds =
+           [](const Inputs& in) { return RepeatedEffectOf(in) == RepeatedEffect::Within && in.Number("epsilon") == 1; },
+       .sentence =
+           "{coefficients} goes with an {effect} within subjects and equal correlations ({epsilon} of 1) only."},
+      {.code = "contrast-coefficients",
+       .about = {"coefficients", "measurements"},
+       .holds = IsContrast,
+       .sentence = "{coefficients} must be as many as {measurements} says, not all 0, and sum to 0."},
       ErrorDegrees(),
   };
 }

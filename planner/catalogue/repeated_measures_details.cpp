@@ -41,7 +41,7 @@ Details DetailsOfRepeatedMeasures(Question, const Inputs& in) {
   Details details;
   const auto design = RepeatedDesignOf(in);
   const double total = TotalSize(in);
-  const auto test = design.TestAt(total, in.Alpha());
+  const auto test = RepeatedTestOf(in);
   if (!test.AtCriticalValue()) return details;
   const RepeatedF kind = in.Has("means") ? RepeatedF::Means : RepeatedFOf(in);
   const double noncentrality = NoncentralityOfRepeatedMeasures(in);
@@ -56,7 +56,7 @@ Details DetailsOfRepeatedMeasures(Question, const Inputs& in) {
       {.program = "R",
        .call = "pf(qf(1 - {alpha}, {df1}, {df2}), {df1}, {df2}, {noncentrality}, lower.tail = FALSE)",
        .remark = "the formula, from the noncentrality on"}};
-  if (kind != RepeatedF::Means) return details;
+  if (kind != RepeatedF::Means || in.Has("coefficients")) return details;
   details.equivalents.push_back(
       {.program = "G*Power",
        .call = std::string("F tests > ANOVA: Repeated measures, ") + NameInGPower(design.effect) +

@@ -31,6 +31,8 @@ std::vector<Parameter> ParametersOfRepeatedMeasures() {
       Effect(),
       Number("measurements", "measurements", "number of measurements of each subject").Whole().AtLeast(2).AtMost(1000),
       List("means", "means", "mean expected of each measurement, a row for each group"),
+      List("coefficients", "contrast coefficients",
+           "in place of all differences of the measurements: one for each, with a sum of 0"),
       Number("sd", "standard deviation", "standard deviation of one measurement within the groups").Above(0),
       Number("effect-f", "effect size f", "standard deviation of the effect over that which f-of says")
           .Alias("f")

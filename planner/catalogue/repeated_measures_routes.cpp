@@ -18,21 +18,17 @@ public:
   double operator()(const Inputs& in) {
     const anova::RepeatedDesign design = RepeatedDesignOf(in);
     const double total = TotalSize(in);
-    const Kept<Test, 7>::Key key{double(in.Choice("effect")),
-                                 design.groups,
-                                 design.measurements,
-                                 design.correlation,
-                                 design.epsilon,
-                                 total,
-                                 in.Alpha()};
-    anova::EffectTest& test = kept_.For(key, design, total, in.Alpha()).test;
+    const double tested = in.Has("coefficients") ? -1 : in.Choice("effect");
+    const Kept<Test, 7>::Key key{tested,         design.groups, design.measurements, design.correlation,
+                                 design.epsilon, total,         in.Alpha()};
+    anova::EffectTest& test = kept_.For(key, in).test;
     const double noncentrality = NoncentralityOfRepeatedMeasures(in);
     return OrNaN(areMany_ ? test.PowerOfMany(noncentrality) : test.Power(noncentrality));
   }
 
 private:
   struct Test {
-    Test(const anova::RepeatedDesign& design, double total, double alpha) : test(design.TestAt(total, alpha)) {}
+    explicit Test(const Inputs& in) : test(RepeatedTestOf(in)) {}
     anova::EffectTest test;
   };
 
@@ -66,8 +62,17 @@ anova::RepeatedDesign RepeatedDesignOf(const Inputs& in) {
           .epsilon = in.Number("epsilon")};
 }
 
+anova::EffectTest RepeatedTestOf(const Inputs& in) {
+  const anova::RepeatedDesign design = RepeatedDesignOf(in);
+  const double total = TotalSize(in);
+  return in.Has("coefficients") ? design.ContrastTestAt(total, in.Alpha()) : design.TestAt(total, in.Alpha());
+}
+
 double NoncentralityOfTable(const Inputs& in, const Numbers& weights) {
-  return OrNaN(RepeatedDesignOf(in).NoncentralityOfMeans(in.List("means"), weights, in.Number("sd")));
+  const anova::RepeatedDesign design = RepeatedDesignOf(in);
+  const Numbers& means = in.List("means");
+  if (!in.Has("coefficients")) return OrNaN(design.NoncentralityOfMeans(means, weights, in.Number("sd")));
+  return OrNaN(design.NoncentralityOfContrast(in.List("coefficients"), means, weights, in.Number("sd")));
 }
 
 double NoncentralityOfRepeatedMeasures(const Inputs& in) {
@@ -83,7 +88,7 @@ std::vector<Route> RoutesOfRepeatedMeasures() {
     routes.push_back(PowerRoute(effect, accepts));
     routes.push_back(SizeRoute(effect, accepts));
   };
-  add({"means", "sd", "correlation"}, {"groups", "epsilon"});
+  add({"means", "sd", "correlation"}, {"coefficients", "groups", "epsilon"});
   add({"effect-f"}, {"groups", "correlation", "epsilon", "f-of"});
   add({"eta-squared"}, {"groups", "correlation", "epsilon", "f-of"});
   return routes;

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <vector>
 
+#include "anova/contrast.h"
 #include "anova/factorial.h"
 
 namespace kelpower::anova {
@@ -36,6 +37,11 @@ double RepeatedDesign::Df2(double totalSize) const {
 
 EffectTest RepeatedDesign::TestAt(double totalSize, double alpha) const {
   return IsNone(*this) ? EffectTest(0, 0, alpha) : EffectTest(Df1(), Df2(totalSize), alpha);
+}
+
+EffectTest RepeatedDesign::ContrastTestAt(double totalSize, double alpha) const {
+  const bool isTest = !IsNone(*this) && effect == RepeatedEffect::Within && epsilon == 1;
+  return EffectTest(isTest ? 1 : 0, Df2(totalSize), alpha);
 }
 
 // Means of m measurements have variance sd^2 (1 + (m - 1) rho) / m, contrasts of them of length 1 sd^2 (1 - rho).
@@ -72,6 +78,20 @@ Answer RepeatedDesign::NoncentralityOfMeans(PerGroup means, PerGroup sizes, doub
   // The mean over the measurements of independent cells has variance sd^2 / m.
   const double variance = ErrorVariance() * (effect == RepeatedEffect::Between ? measurements : 1);
   return factors->Noncentrality(means, cells, sd * std::sqrt(variance));
+}
+
+Answer RepeatedDesign::NoncentralityOfContrast(PerGroup coefficients, PerGroup means, PerGroup sizes, double sd) const {
+  if (!NoncentralityOfMeans(means, sizes, sd)) return NoValue::Refused;
+  if (coefficients.Count() != measurements) return NoValue::Refused;
+  std::vector<double> ofCells;
+  std::vector<double> cells;
+  for (int cell = 0; cell < means.Count(); ++cell) {
+    ofCells.push_back(coefficients[cell % coefficients.Count()] / groups);
+    cells.push_back(sizes[cell / coefficients.Count()]);
+  }
+  const double variance = ErrorVariance() * ContrastVariance(ofCells, cells);
+  const double effectSize = ContrastValue(ofCells, means) / sd / std::sqrt(variance);
+  return effectSize * effectSize;
 }
 
 }  // namespace kelpower::anova

@@ -37,6 +37,10 @@ struct RepeatedDesign {
   /// measurements have no common distribution, an epsilon outside [1 / (measurements - 1), 1].
   EffectTest TestAt(double totalSize, double alpha) const;
 
+  /// Two-sided, of one contrast of the measurements with the error of all of them, which needs equal correlations:
+  /// refused where epsilon is below 1.
+  EffectTest ContrastTestAt(double totalSize, double alpha) const;
+
   /// The squared standard error of the effect in units of `sd`, with the sizes apart.
   double ErrorVariance() const;
 
@@ -46,6 +50,10 @@ struct RepeatedDesign {
   /// the subjects, that of unweighted means over the groups ("type III"). Refused where means and sizes do not fit, or a
   /// size or `sd` is not above 0. It is 0 where the effect is within rounding of 0.
   Answer NoncentralityOfMeans(PerGroup means, PerGroup sizes, double sd) const;
+
+  /// Of the contrast of the measurements' unweighted means over the groups. Refused like that of the means, and where
+  /// there is not one coefficient for each measurement.
+  Answer NoncentralityOfContrast(PerGroup coefficients, PerGroup means, PerGroup sizes, double sd) const;
 };
 
 }  // namespace kelpower::anova

@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 """Writes reference cases of the factorial analysis, the analysis of covariance and that of repeated measures.
 
-    cases_anova.py tests/vectors        writes factorial.cases.jsonl, ancova.cases.jsonl and repeated-measures.cases.jsonl
+    cases_anova.py tests/vectors [NAME...]    writes factorial.cases.jsonl, ancova.cases.jsonl and
+                                              repeated-measures.cases.jsonl, or those named
 
 Powers are mixtures of beta tails with Poisson weights, in multiple precision. The noncentrality of a table of means is
 that of the matrices: C diag(1/n) C' is inverted as it stands. The mean over the covariates is an integral over B itself.
@@ -15,7 +16,7 @@ from pathlib import Path
 
 from mpmath import mp, mpf
 
-mp.dps = 40
+mp.dps = 32
 
 
 def beta_tail(a, b, x):
@@ -28,10 +29,10 @@ def critical_beta(alpha, df1, df2):
     """x = df1 F / (df1 F + df2) at the critical value of F, by bisection and secants."""
     a, b = mpf(df1) / 2, mpf(df2) / 2
     low, high = mpf(0), mpf(1)
-    for _ in range(60):
+    for _ in range(20):
         middle = (low + high) / 2
         low, high = (middle, high) if beta_tail(a, b, middle) > alpha else (low, middle)
-    return mp.findroot(lambda x: mp.log(beta_tail(a, b, x) / alpha), (low, high), solver="secant", tol=1e-60)
+    return mp.findroot(lambda x: mp.log(beta_tail(a, b, x) / alpha), (low, high), solver="secant", tol=1e-50)
 
 
 class NoncentralF:
@@ -59,7 +60,7 @@ class NoncentralF:
         if half == 0:
             return self.tail(0)
         weight, total, j = mp.exp(-half), mpf(0), 0
-        while j < half or weight > mpf(10) ** -38:
+        while j < half or weight > mpf(10) ** -30:
             total += weight * self.tail(j)
             j += 1
             weight *= half / j
@@ -81,16 +82,22 @@ def power_over_covariates(alpha, groups, total, covariates, noncentrality):
     a, b = mpf(total - 1 - covariates) / 2, mpf(covariates) / 2
     top = mp.sqrt((2 * b - 1) / (2 * a + 2 * b - 3)) if 2 * a + 2 * b > 3 else mpf(1) / 2
     width = 1 / mp.sqrt(2 * a + 2 * b)
-    points = sorted({min(mpf(1), max(mpf(0), top + k * width)) for k in (-24, -16, -12, -8, -4, 0, 4, 8, 12, 16, 24)} |
+    points = sorted({min(mpf(1), max(mpf(0), top + k * width)) for k in (-12, -6, -3, 0, 3, 6, 12)} |
                     ({mpf(1)} if a < 20 else set()))
 
     def height(v):
-        if v == 0 and 2 * b == 1:
-            return mpf(2)
-        return 2 * (1 - v * v) ** (a - 1) * v ** (2 * b - 1) if 0 < v < 1 else mpf(0)
+        """Relative to that at the top."""
+        if not 0 < v < 1:
+            return mpf(0)
+        logarithm = (a - 1) * (mp.log1p(-v * v) - mp.log1p(-top * top))
+        return mp.exp(logarithm + ((2 * b - 1) * mp.log(v / top) if 2 * b > 1 else 0))
 
-    whole = mp.quad(height, points)
-    return mp.quad(lambda v: height(v) * test.power(noncentrality * (1 - v * v)), points) / whole
+    def integral(f):
+        value, error = mp.quad(f, points, method="gauss-legendre", error=True)
+        assert error < mpf(10) ** -18 * value, (alpha, groups, total, covariates, noncentrality, error)
+        return value
+
+    return integral(lambda v: height(v) * test.power(noncentrality * (1 - v * v))) / integral(height)
 
 
 def contrasts(levels, term):
@@ -170,6 +177,12 @@ def solved_repeated(inputs):
     sizes = listed(inputs["n"], groups)
     total = sum(sizes)
     epsilon, rho = mpf(inputs.get("epsilon", 1)), mpf(inputs.get("correlation", 0))
+    coefficients = inputs.get("coefficients")
+    if coefficients:
+        each = [mpf(c) / groups for c in coefficients] * groups
+        effect_size = mp.fsum(c * mpf(m) for c, m in zip(each, inputs["means"]))
+        variance = mp.fsum(c * c / sizes[i // times] for i, c in enumerate(each)) * (1 - rho) * mpf(inputs["sd"]) ** 2
+        return power_of(inputs.get("alpha", 0.05), 1, (total - groups) * (times - 1), effect_size**2 / variance)
     df1 = {"between": mpf(groups - 1), "within": (times - 1) * epsilon,
            "interaction": (groups - 1) * (times - 1) * epsilon}[effect]
     df2 = mpf(total - groups) * (1 if effect == "between" else (times - 1) * epsilon)
@@ -329,6 +342,8 @@ def repeated_cases():
     designs += [{"effect": effect, "measurements": 4, "means": three, "sd": 5, "correlation": 0.4, "epsilon": eps, "n": n}
                 for effect, eps in (("between", 1), ("within", 0.7), ("interaction", 0.7), ("interaction", 1))
                 for n in (9, [4, 9, 20])]
+    designs += [{"effect": "within", "measurements": 4, "coefficients": c, "means": means, "sd": 5, "correlation": 0.2, "n": n}
+                for c in ([1, 1, 1, -3], [-3, -1, 1, 3]) for means, n in (([1.5, 2.5, 2, 0], 71), (three, [4, 9, 20]))]
     yield from computed("repeated-measures", solved_repeated, designs)
     yield from sizes("repeated-measures", solved_repeated, lambda inputs: inputs.get("groups", 1), [
         ({"effect": "interaction", "groups": 2, "measurements": m, "effect-f": 0.25, "correlation": 0.5}, power, start)
@@ -345,6 +360,9 @@ def repeated_cases():
                                      "correlation": 0.2, "n": 83}, 0.902733845992622, 1e-12, "R package lrstat")
     yield case("repeated-measures", {"effect": "within", "groups": 2, "measurements": 2, "eta-squared": 0.01,
                                      "correlation": 0.5, "n": 99}, 0.803608601135542, 1e-12, "R package pwrss")
+    yield case("repeated-measures", {"effect": "within", "measurements": 4, "coefficients": [1, 1, 1, -3], "sd": 5,
+                                     "means": [1.5, 2.5, 2, 0], "correlation": 0.2, "n": 71}, 0.901215647172193, 1e-6,
+               "R package lrstat, which counts one tail at 0.025")
     for kind, value in (("means", 0.841), ("cohen", 0.374)):
         inputs = {"effect": "within", "groups": 2, "measurements": 3, "effect-f": 0.25, "n": 15, "f-of": kind}
         if kind == "means":
@@ -352,8 +370,13 @@ def repeated_cases():
         yield case("repeated-measures", inputs, value, 5e-4, "G*Power 3.1, by its options")
 
 
-def main(folder):
-    for name, cases in (("factorial", factorial_cases), ("ancova", ancova_cases), ("repeated-measures", repeated_cases)):
+FILES = {"factorial": factorial_cases, "ancova": ancova_cases, "repeated-measures": repeated_cases}
+
+
+def main(folder, names):
+    for name, cases in FILES.items():
+        if names and name not in names:
+            continue
         lines = [json.dumps(row) for row in cases()]
         assert len(lines) == len(set(lines)), name
         (Path(folder) / f"{name}.cases.jsonl").write_text("\n".join(lines) + "\n")
@@ -361,4 +384,4 @@ def main(folder):
 
 
 if __name__ == "__main__":
-    main(sys.argv[1])
+    main(sys.argv[1], sys.argv[2:])
