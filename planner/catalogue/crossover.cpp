@@ -71,6 +71,7 @@ std::vector<Condition> SizeExists() {
   return conditions;
 }
 
+Piece SpreadPiece(const Inputs& in) { return PieceOfSpread(!HasMargins(in) || IsWithin(in)); }
 Piece MarginPiece(const Inputs& in) { return PieceOfMargin(in, EffectGiven(in), NoEffect(in)); }
 
 }  // namespace
@@ -85,8 +86,8 @@ Test CrossoverTest() {
             .counted = "subjects"};
   test.parameters = Parameters();
   test.routes = RoutesOfCrossover();
-  test.unknowns = {UnknownMeanDifferenceWithMargins(), UnknownMeanRatio(),       UnknownSd("sd"), UnknownSd("cv"),
-                   UnknownMargin(MarginPiece),         UnknownSdOfInterval("sd")};
+  test.unknowns = {UnknownMeanDifferenceWithMargins(), UnknownMeanRatio(),         UnknownSpread("sd", SpreadPiece),
+                   UnknownSpread("cv", SpreadPiece),   UnknownMargin(MarginPiece), UnknownSdOfInterval("sd")};
   test.conditions = Conditions();
   test.sizeExists = SizeExists();
   test.assumptions = {HypothesisAssumption(Hypothesis)};

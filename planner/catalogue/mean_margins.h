@@ -33,6 +33,9 @@ double PowerOfMeans(const Inputs& in, const MeanQuestion& question);
 /// What is behind that power. `source` is that of the estimate.
 Details DetailsOfMeanMargins(const Inputs& in, const MeanQuestion& question, const std::string& source);
 
+/// Adds how the R package PowerTOST is asked the same, with `sd` in braces and its word for the design.
+void AddPowerTost(Details& details, const Inputs& in, const std::string& sd, const std::string& design);
+
 /// The inputs of a ratio.
 Parameter MeanRatio();
 Parameter CoefficientOfVariation(std::string meaning);
@@ -43,6 +46,10 @@ Unknown UnknownMeanRatio();
 Piece PieceOfEffect(const Inputs& in, double noEffect);
 /// On the other side of the middle, or of no effect; the trend there is the other one.
 Piece PieceOfEffectBelow(const Inputs& in, double noEffect);
+
+/// The spread as an unknown: its power falls as it grows, unless the effect lies on the wrong side of its margin.
+Unknown UnknownSpread(Name input, Piece (*piece)(const Inputs&));
+Piece PieceOfSpread(bool isWithinMargins);
 
 /// The margin as an unknown: its power rises as it moves away from the effect.
 Unknown UnknownMargin(Piece (*piece)(const Inputs&));

@@ -25,7 +25,10 @@ std::vector<Unknown> UnknownsOfMean() {
        .reason = reason,
        .piece = [](const Inputs& in) { return AboveTestValue(in, PieceOfEffect(in, noDifference)); },
        .pieceBelow = [](const Inputs& in) { return AboveTestValue(in, PieceOfEffectBelow(in, noDifference)); }},
-      UnknownSd("sd"),
+      UnknownSpread("sd",
+                    [](const Inputs& in) {
+                      return PieceOfSpread(!HasMargins(in) || IsWithinMargins(in, DifferenceOfMean(in), noDifference));
+                    }),
       {.input = "test-value",
        .target = Question::Power,
        .trend = Trend::Falls,

@@ -8,7 +8,11 @@ std::vector<Unknown> UnknownsOfPairedMeans() {
   return {
       UnknownEffectD(),
       UnknownMeanDifferenceWithMargins(),
-      UnknownSd("sd-difference"),
+      UnknownSpread("sd-difference",
+                    [](const Inputs& in) {
+                      return PieceOfSpread(!HasMargins(in) ||
+                                           IsWithinMargins(in, DifferenceOfPairedMeans(in), noDifference));
+                    }),
       {.input = "correlation", .target = Question::Power, .trend = Trend::Rises, .reason = spread},
       UnknownMargin([](const Inputs& in) { return PieceOfMargin(in, DifferenceOfPairedMeans(in), noDifference); }),
       UnknownSdOfInterval("sd-difference"),

@@ -10,12 +10,6 @@ namespace means = kelpower::means;
 
 double Power(const Inputs& in) { return PowerOfMeans(in, QuestionOfTwoMeans(in)); }
 
-bool IsWithin(const Inputs& in) {
-  const bool isRatio = in.Has("mean-ratio");
-  return IsWithinMargins(in, isRatio ? in.Number("mean-ratio") : DifferenceOfMeans(in),
-                         isRatio ? noRatio : noDifference);
-}
-
 Condition HasEffect(Name about, bool (*holds)(const Inputs&)) {
   return {.code = "no-effect",
           .about = {about},
@@ -24,6 +18,12 @@ Condition HasEffect(Name about, bool (*holds)(const Inputs&)) {
 }
 
 }  // namespace
+
+bool IsWithinMarginsOfTwoMeans(const Inputs& in) {
+  const bool isRatio = in.Has("mean-ratio");
+  return IsWithinMargins(in, isRatio ? in.Number("mean-ratio") : DifferenceOfMeans(in),
+                         isRatio ? noRatio : noDifference);
+}
 
 MeanQuestion QuestionOfTwoMeans(const Inputs& in) {
   const double n1 = in.List("n")[0];
@@ -64,7 +64,7 @@ std::vector<Condition> SizeExistsForTwoMeans() {
   };
   for (Name effect : {Name("means"), Name("mean-difference"), Name("mean-ratio")}) {
     const std::string words = effect == Name("mean-ratio") ? "ratio of the means" : "difference of the means";
-    const std::vector<Condition> within = WithinMargins(effect, words, IsWithin);
+    const std::vector<Condition> within = WithinMargins(effect, words, IsWithinMarginsOfTwoMeans);
     conditions.insert(conditions.end(), within.begin(), within.end());
   }
   return conditions;
@@ -72,12 +72,14 @@ std::vector<Condition> SizeExistsForTwoMeans() {
 
 Details DetailsOfTwoMeansWithMargins(const Inputs& in) {
   const bool isPooled = in.Has("cv") || SpreadsOfTwoMeans(in).isPooled;
-  return DetailsOfMeanMargins(in, QuestionOfTwoMeans(in),
-                              isPooled
-                                  ? "Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., "
-                                    "sections 2.2 and 2.3"
-                                  : "Welch (1938), Biometrika 29, 350-362; Satterthwaite (1946), Biometrics Bulletin "
-                                    "2, 110-114; degrees of freedom at the standard deviations expected");
+  Details details =
+      DetailsOfMeanMargins(in, QuestionOfTwoMeans(in),
+                           isPooled ? "Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., "
+                                      "sections 2.2 and 2.3"
+                                    : "Welch (1938), Biometrika 29, 350-362; Satterthwaite (1946), Biometrics Bulletin "
+                                      "2, 110-114; degrees of freedom at the standard deviations expected");
+  if (isPooled) AddPowerTost(details, in, "{sd1}", "parallel");
+  return details;
 }
 
 }  // namespace planner
