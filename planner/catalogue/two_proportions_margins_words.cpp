@@ -75,10 +75,10 @@ std::vector<Example> MarginExamplesOfTwoProportions() {
        "and 0.5, with a power of 0.8, the test of equivalence by two one-sided Wald (unpooled) z tests at a "
        "significance level of 0.05 needs 429 observations in each of 2 groups (858 in total); its power is then "
        "0.8010."},
-      {"two-proportions --proportions 0.6,0.7 --margin -0.1 --non-inferiority --n 60,80 --exact",
-       "With 60 and 80 observations in 2 groups (140 in total), the one-sided exact unconditional score test of "
-       "non-inferiority at a significance level of 0.05 has a power of 0.7789 to show that the risk difference "
-       "(second minus first) is above -0.1, given proportions of 0.6 and 0.7."},
+      {"two-proportions --proportions 0.6,0.65 --equivalence -0.2,0.2 --n 90,110 --exact",
+       "With 90 and 110 observations in 2 groups (200 in total), the test of equivalence by two one-sided "
+       "exact unconditional score tests at a significance level of 0.05 has a power of 0.6808 to show that "
+       "the risk difference (second minus first) is between -0.2 and 0.2, given proportions of 0.6 and 0.65."},
   };
 }
 
