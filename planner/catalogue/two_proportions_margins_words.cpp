@@ -52,7 +52,7 @@ std::string SourceOfMargins(const kelpower::proportions::IndependentMarginDesign
              "margin";
     case MarginMethod::Wald:
       if (isRatio) return "Katz, Baptista, Azen and Pike (1978), Biometrics 34, 469-474, by the logarithm of the ratio";
-      if (isOddsRatio) return "Wang, Chow and Li (2002), Journal of Biopharmaceutical Statistics 12, 97-108";
+      if (isOddsRatio) return "Woolf (1955), Annals of Human Genetics 19, 251-253";
       return "Blackwelder (1982), Controlled Clinical Trials 3, 345-353";
     case MarginMethod::FarringtonManning: break;
   }

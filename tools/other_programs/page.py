@@ -61,6 +61,10 @@ QUESTIONS = [
     "two-proportions --proportions 0.5,0.75 --n 50,100 --method likelihood-ratio",
     "two-proportions --proportions 0.5,0.75 --n 30 --method conditional",
     "two-proportions --proportions 0.8,0.6 --n 70,80 --interval --interval-method wald",
+    "proportion --proportion 0.9 --null 0.85 --margin -0.1 --non-inferiority --n 54",
+    "proportion --proportion 0.6 --null 0.6 --equivalence -0.1,0.1 --n 500 --exact",
+    "two-proportions --proportions 0.85,0.85 --margin -0.1 --non-inferiority --n 207",
+    "two-proportions --proportions 0.5,0.5 --equivalence -0.1,0.1 --margin-method wald --n 429",
 ]
 
 HEAD = """# The same question in other programs
