@@ -19,6 +19,7 @@ constexpr OtherName otherNames[] = {
     {"binomial-test", "proportion"},     {"one-proportion", "proportion"},
     {"pearson-correlation", "pearson"},  {"spearman-correlation", "spearman"},
     {"partial-correlation", "partial"},  {"multiple-regression", "regression"},
+    {"cross-over", "crossover"},         {"bioequivalence", "crossover"},
 };
 
 /// A word, and what is said to it.
@@ -36,6 +37,9 @@ constexpr std::string_view correlations = "correlations are pearson, spearman an
 constexpr std::string_view ranks = "there is no test of ranks but spearman; a t test such as two-means is another test";
 constexpr std::string_view survival =
     "there is no test of survival times; two-proportions at a fixed time is another test";
+
+constexpr std::string_view margins =
+    "non-inferiority, superiority by a margin and equivalence are options of mean, paired-means, two-means and crossover";
 
 constexpr std::string_view effectSizes = "effect sizes are converted by effect";
 
@@ -77,6 +81,11 @@ constexpr Answer answersToTests[] = {
     {"effect-sizes", effectSizes},
     {"convert", effectSizes},
     {"odds-ratio", effectSizes},
+    {"equivalence", margins},
+    {"tost", margins},
+    {"non-inferiority", margins},
+    {"noninferiority", margins},
+    {"superiority", margins},
     {"help", "write kelpower --help, or kelpower TEST --help"},
 };
 
@@ -88,6 +97,7 @@ struct OptionAnswer {
 };
 
 constexpr std::string_view sizesOfGroups = "--n gives the size of each group, so divide the total among them";
+constexpr std::string_view sizesOfSequences = "--n gives the size of each sequence, so divide the total among the two";
 constexpr std::string_view sizesOfTwo = "give the sizes of the groups as --n N1,N2";
 constexpr std::string_view oneSided = "tests are two-sided unless --one-sided is given";
 constexpr std::string_view confidence = "give --alpha 0.05 for a confidence of 95%";
@@ -122,16 +132,25 @@ constexpr Answer answersOfEffect[] = {
 constexpr OptionAnswer answersToOptions[] = {
     {"--total", "ratio", sizesOfGroups},
     {"--total", "ratios", sizesOfGroups},
+    {"--total", "mean-ratio", sizesOfSequences},
     {"--total", "n", "--n is the total sample size here"},
     {"--n-total", "ratio", sizesOfGroups},
     {"--n-total", "ratios", sizesOfGroups},
+    {"--n-total", "mean-ratio", sizesOfSequences},
     {"--n-total", "n", "--n is the total sample size here"},
     {"--n1", "ratio", sizesOfTwo},
     {"--n1", "ratios", sizesOfTwo},
+    {"--n1", "mean-ratio", sizesOfTwo},
+    {"--n2", "mean-ratio", sizesOfTwo},
     {"--n2", "ratio", sizesOfTwo},
     {"--n2", "ratios", sizesOfTwo},
     {"--npergroup", "ratio", "--n N gives each group the size N"},
     {"--npergroup", "ratios", "--n N gives each group the size N"},
+    {"--npergroup", "mean-ratio", "--n N gives each sequence the size N"},
+    {"--noninferiority", "non-inferiority", "give --margin with --non-inferiority"},
+    {"--limits", "equivalence", "give --equivalence LOWER,UPPER"},
+    {"--tost", "equivalence", "give --equivalence LOWER,UPPER"},
+    {"--theta0", "mean-ratio", "give --mean-ratio, or --mean-difference"},
     {"--delta", "mean-difference", "give --mean-difference, or --effect-d for the difference in standard deviations"},
     {"--delta", "risk-difference", "give --risk-difference with --proportion1"},
     {"--delta", "test-value",

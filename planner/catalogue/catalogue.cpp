@@ -6,9 +6,9 @@ namespace planner {
 
 const std::vector<Test>& Tests() {
   static const std::vector<Test> tests = {
-      AnovaTest(),      ContrastTest(),       PairwiseTest(),          MeanTest(),    PairedMeansTest(), TwoMeansTest(),
-      ProportionTest(), TwoProportionsTest(), PairedProportionsTest(), PearsonTest(), SpearmanTest(),    PartialTest(),
-      RegressionTest(),
+      AnovaTest(),    ContrastTest(),  PairwiseTest(),   MeanTest(),           PairedMeansTest(),
+      TwoMeansTest(), CrossoverTest(), ProportionTest(), TwoProportionsTest(), PairedProportionsTest(),
+      PearsonTest(),  SpearmanTest(),  PartialTest(),    RegressionTest(),
   };
   return tests;
 }

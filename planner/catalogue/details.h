@@ -15,6 +15,7 @@ namespace planner {
 Details DetailsOfAnova(Question question, const Inputs& in);
 Details DetailsOfContrast(Question question, const Inputs& in);
 Details DetailsOfPairwise(Question question, const Inputs& in);
+Details DetailsOfCrossover(Question question, const Inputs& in);
 Details DetailsOfMean(Question question, const Inputs& in);
 Details DetailsOfPairedMeans(Question question, const Inputs& in);
 Details DetailsOfTwoMeans(Question question, const Inputs& in);

@@ -65,8 +65,8 @@ void AddPhrasesOfMargins(Test& test, const std::string& plain, const std::string
   const std::string shown = "show that {hypothesis}, given {effect}";
   test.phrases.push_back(
       {"procedure",
-       {{"equivalence", "test of equivalence by two one-sided " + two},
-        {"margin", "one-sided " + plain + " of {non-inferiority?non-inferiority:superiority by a margin}"},
+       {{"equivalence", "test of equivalence with two one-sided " + two},
+        {"margin", "test of {non-inferiority?non-inferiority:superiority by a margin} with a one-sided " + plain},
         {"alpha", "{one-sided?one-sided:two-sided} " + plain}}});
   test.phrases.push_back({"aim", {{"equivalence", shown}, {"margin", shown}, {"alpha", "detect {effect}"}}});
   test.phrases.push_back({"comma", {{"equivalence", ","}, {"margin", ","}, {"alpha", ""}}});

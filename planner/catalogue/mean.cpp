@@ -10,7 +10,7 @@
 namespace planner {
 namespace {
 
-double EffectSize(const Inputs& in) { return (in.Number("mean") - in.Number("test-value")) / in.Number("sd"); }
+double EffectSize(const Inputs& in) { return DifferenceOfMean(in) / in.Number("sd"); }
 
 }  // namespace
 
@@ -28,15 +28,15 @@ Test MeanTest() {
       SingleSize("observations in the sample"),
       OneSided(),
   };
+  const std::vector<Parameter> margins = MarginParameters("difference of the mean from the test value");
+  test.parameters.insert(test.parameters.end(), margins.begin(), margins.end());
   test.routes = RoutesOfMean();
+  const std::vector<Route> withMargins = RoutesOfMeanWithMargins();
+  test.routes.insert(test.routes.end(), withMargins.begin(), withMargins.end());
   test.unknowns = UnknownsOfMean();
-  test.sizeExists = {
-      {.code = "no-effect",
-       .about = {"mean", "test-value"},
-       .holds = [](const Inputs& in) { return in.Number("mean") != in.Number("test-value"); },
-       .sentence = "The mean is the test value: without a difference, no sample size reaches the power."},
-      HasEffectD(),
-  };
+  test.conditions = ConditionsOfMean();
+  test.sizeExists = SizeExistsForMean();
+  test.assumptions = {HypothesisAssumption(HypothesisOfMean)};
   test.derived = {
       {.name = "effect-d", .label = "effect size d", .needs = {"mean", "test-value", "sd"}, .call = EffectSize},
   };

@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "catalogue/details.h"
+#include "catalogue/mean.h"
 #include "catalogue/mean_parameters.h"
 #include "means/one_sample.h"
 
@@ -24,6 +25,7 @@ Details OfHalfWidth(const Inputs& in) {
 
 Details DetailsOfMean(Question question, const Inputs& in) {
   if (!IsAboutPower(question)) return OfHalfWidth(in);
+  if (HasMargins(in)) return DetailsOfMeanWithMargins(in);
   const double d =
       in.Has("effect-d") ? in.Number("effect-d") : (in.Number("mean") - in.Number("test-value")) / in.Number("sd");
   const means::TTestOfAMean test = means::OneSampleTest(SidesOf(in), in.Number("n"), in.Alpha());

@@ -44,6 +44,10 @@ Piece PieceOfEffect(const Inputs& in, double noEffect);
 /// On the other side of the middle, or of no effect; the trend there is the other one.
 Piece PieceOfEffectBelow(const Inputs& in, double noEffect);
 
+/// The spread as an unknown: its power falls as it grows, unless the effect lies on the wrong side of its margin.
+Unknown UnknownSpread(Name input, Piece (*piece)(const Inputs&));
+Piece PieceOfSpread(bool isWithinMargins);
+
 /// The margin as an unknown: its power rises as it moves away from the effect.
 Unknown UnknownMargin(Piece (*piece)(const Inputs&));
 Piece PieceOfMargin(const Inputs& in, double effect, double noEffect);

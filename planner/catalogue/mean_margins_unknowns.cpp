@@ -37,6 +37,7 @@ Piece PieceOfEffectBelow(const Inputs& in, double noEffect) {
 Unknown UnknownMeanDifferenceWithMargins() {
   Unknown unknown = UnknownMeanDifference();
   unknown.piece = [](const Inputs& in) { return PieceOfEffect(in, noDifference); };
+  unknown.pieceBelow = [](const Inputs& in) { return PieceOfEffectBelow(in, noDifference); };
   return unknown;
 }
 
@@ -45,8 +46,18 @@ Unknown UnknownMeanRatio() {
           .target = Question::Power,
           .trend = Trend::Rises,
           .reason = "the noncentrality grows with the distance of the ratio from 1 or from its margin",
-          .piece = [](const Inputs& in) { return PieceOfEffect(in, noRatio); }};
+          .piece = [](const Inputs& in) { return PieceOfEffect(in, noRatio); },
+          .pieceBelow = [](const Inputs& in) { return PieceOfEffectBelow(in, noRatio); }};
 }
+
+Unknown UnknownSpread(Name input, Piece (*piece)(const Inputs&)) {
+  Unknown unknown = UnknownSd(input);
+  unknown.piece = piece;
+  return unknown;
+}
+
+// The power falls from the lower number of a piece to the higher one.
+Piece PieceOfSpread(bool isWithinMargins) { return isWithinMargins ? Piece{0, infinity} : Piece{infinity, 0}; }
 
 Unknown UnknownMargin(Piece (*piece)(const Inputs&)) {
   return {.input = "margin",

@@ -12,7 +12,7 @@ namespace planner {
 namespace {
 
 std::vector<Parameter> Parameters() {
-  return {
+  std::vector<Parameter> parameters = {
       List("means", "means", "means expected of the two measurements").Length(2),
       List("sds", "standard deviations", "standard deviations of the two measurements").Length(2).Above(0),
       Number("correlation", "correlation", "correlation between the two measurements").AtLeast(-1).AtMost(1),
@@ -22,13 +22,16 @@ std::vector<Parameter> Parameters() {
       SingleSize("pairs of measurements"),
       OneSided(),
   };
-}
-
-double MeanDifference(const Inputs& in) {
-  return in.Has("means") ? in.List("means")[0] - in.List("means")[1] : in.Number("mean-difference");
+  const std::vector<Parameter> margins = MarginParameters("mean difference");
+  parameters.insert(parameters.end(), margins.begin(), margins.end());
+  return parameters;
 }
 
 }  // namespace
+
+double DifferenceOfPairedMeans(const Inputs& in) {
+  return in.Has("means") ? in.List("means")[0] - in.List("means")[1] : in.Number("mean-difference");
+}
 
 kelpower::means::PairedSpread SpreadOfPairedMeans(const Inputs& in) {
   if (in.Has("sd-difference")) return {in.Number("sd-difference"), 0, 0};
@@ -36,7 +39,8 @@ kelpower::means::PairedSpread SpreadOfPairedMeans(const Inputs& in) {
 }
 
 double EffectSizeOfPairedMeans(const Inputs& in) {
-  return MeanDifference(in) / kelpower::means::DifferenceVariance::Of(SpreadOfPairedMeans(in)).StandardDeviation();
+  return DifferenceOfPairedMeans(in) /
+         kelpower::means::DifferenceVariance::Of(SpreadOfPairedMeans(in)).StandardDeviation();
 }
 
 double EffectOfPairedMeans(const Inputs& in) {
@@ -50,9 +54,12 @@ Test PairedMeansTest() {
             .counted = "pairs"};
   test.parameters = Parameters();
   test.routes = RoutesOfPairedMeans();
+  const std::vector<Route> withMargins = RoutesOfPairedMeansWithMargins();
+  test.routes.insert(test.routes.end(), withMargins.begin(), withMargins.end());
   test.unknowns = UnknownsOfPairedMeans();
   test.conditions = ConditionsOfPairedMeans();
   test.sizeExists = SizeExistsForPairedMeans();
+  test.assumptions = {HypothesisAssumption(HypothesisOfPairedMeans)};
   test.derived = {
       {.name = "effect-d",
        .label = "effect size d",

@@ -3,12 +3,16 @@
 
 #include <vector>
 
+#include "catalogue/mean_margins.h"
 #include "means/paired.h"
 #include "model/inputs.h"
 #include "model/test.h"
 
 // What the parts of the paired t test share.
 namespace planner {
+
+/// The first mean less the second.
+double DifferenceOfPairedMeans(const Inputs& in);
 
 /// The mean of the differences over their standard deviation.
 double EffectSizeOfPairedMeans(const Inputs& in);
@@ -21,6 +25,10 @@ double EffectOfPairedMeans(const Inputs& in);
 kelpower::means::PairedSpread SpreadOfPairedMeans(const Inputs& in);
 
 std::vector<Route> RoutesOfPairedMeans();
+/// Those against margins.
+std::vector<Route> RoutesOfPairedMeansWithMargins();
+std::string HypothesisOfPairedMeans(const Inputs& in);
+Details DetailsOfPairedMeansWithMargins(const Inputs& in);
 std::vector<Unknown> UnknownsOfPairedMeans();
 std::vector<Condition> ConditionsOfPairedMeans();
 std::vector<Condition> SizeExistsForPairedMeans();

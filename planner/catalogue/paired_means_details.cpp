@@ -2,6 +2,7 @@
 
 #include "catalogue/details.h"
 #include "catalogue/mean_parameters.h"
+#include "catalogue/paired_means.h"
 #include "means/one_sample.h"
 #include "means/paired.h"
 
@@ -53,6 +54,7 @@ void AddSas(Details& details, const Inputs& in) {
 
 Details DetailsOfPairedMeans(Question question, const Inputs& in) {
   if (!IsAboutPower(question)) return OfHalfWidth(in);
+  if (HasMargins(in)) return DetailsOfPairedMeansWithMargins(in);
   const double d = EffectSize(in);
   const means::TTestOfAMean test = means::OneSampleTest(SidesOf(in), in.Number("n"), in.Alpha());
   Details details;

@@ -12,6 +12,7 @@ Test PairwiseTest();
 Test MeanTest();
 Test PairedMeansTest();
 Test TwoMeansTest();
+Test CrossoverTest();
 Test ProportionTest();
 Test TwoProportionsTest();
 Test PairedProportionsTest();

@@ -20,6 +20,8 @@ std::vector<Route> RoutesOfTwoMeans();
 std::vector<Route> RoutesOfTwoMeansWithMargins();
 std::vector<Condition> ConditionsOfTwoMeans();
 std::vector<Condition> SizeExistsForTwoMeans();
+/// Whether the difference or ratio lies where it is to be shown.
+bool IsWithinMarginsOfTwoMeans(const Inputs& in);
 /// The test of a ratio or against margins, at the sizes of the design.
 MeanQuestion QuestionOfTwoMeans(const Inputs& in);
 Details DetailsOfTwoMeansWithMargins(const Inputs& in);

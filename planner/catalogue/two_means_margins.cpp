@@ -10,12 +10,6 @@ namespace means = kelpower::means;
 
 double Power(const Inputs& in) { return PowerOfMeans(in, QuestionOfTwoMeans(in)); }
 
-bool IsWithin(const Inputs& in) {
-  const bool isRatio = in.Has("mean-ratio");
-  return IsWithinMargins(in, isRatio ? in.Number("mean-ratio") : DifferenceOfMeans(in),
-                         isRatio ? noRatio : noDifference);
-}
-
 Condition HasEffect(Name about, bool (*holds)(const Inputs&)) {
   return {.code = "no-effect",
           .about = {about},
@@ -24,6 +18,12 @@ Condition HasEffect(Name about, bool (*holds)(const Inputs&)) {
 }
 
 }  // namespace
+
+bool IsWithinMarginsOfTwoMeans(const Inputs& in) {
+  const bool isRatio = in.Has("mean-ratio");
+  return IsWithinMargins(in, isRatio ? in.Number("mean-ratio") : DifferenceOfMeans(in),
+                         isRatio ? noRatio : noDifference);
+}
 
 MeanQuestion QuestionOfTwoMeans(const Inputs& in) {
   const double n1 = in.List("n")[0];
@@ -64,7 +64,7 @@ std::vector<Condition> SizeExistsForTwoMeans() {
   };
   for (Name effect : {Name("means"), Name("mean-difference"), Name("mean-ratio")}) {
     const std::string words = effect == Name("mean-ratio") ? "ratio of the means" : "difference of the means";
-    const std::vector<Condition> within = WithinMargins(effect, words, IsWithin);
+    const std::vector<Condition> within = WithinMargins(effect, words, IsWithinMarginsOfTwoMeans);
     conditions.insert(conditions.end(), within.begin(), within.end());
   }
   return conditions;

@@ -5,6 +5,8 @@
 namespace planner {
 namespace {
 
+Piece SpreadPiece(const Inputs& in) { return PieceOfSpread(!HasMargins(in) || IsWithinMarginsOfTwoMeans(in)); }
+
 Piece MarginPiece(const Inputs& in) {
   const bool isRatio = in.Has("mean-ratio");
   return PieceOfMargin(in, isRatio ? in.Number("mean-ratio") : DifferenceOfMeans(in), isRatio ? noRatio : noDifference);
@@ -16,10 +18,10 @@ std::vector<Unknown> UnknownsOfTwoMeans() {
   return {
       UnknownEffectD(),
       UnknownMeanDifferenceWithMargins(),
-      UnknownSd("sd"),
+      UnknownSpread("sd", SpreadPiece),
       UnknownRatio(),
       UnknownMeanRatio(),
-      UnknownSd("cv"),
+      UnknownSpread("cv", SpreadPiece),
       UnknownMargin(MarginPiece),
       UnknownSdOfInterval("sd"),
   };

@@ -9,6 +9,7 @@ namespace planner {
 void AddWordsOfAnova(Test& test);
 void AddWordsOfContrast(Test& test);
 void AddWordsOfPairwise(Test& test);
+void AddWordsOfCrossover(Test& test);
 void AddWordsOfMean(Test& test);
 void AddWordsOfPairedMeans(Test& test);
 void AddWordsOfTwoMeans(Test& test);

@@ -15,7 +15,7 @@ namespace {
 /// P(low < Z < high), from the tails on the nearer side, so that small probabilities keep their digits.
 double NormalBetween(double low, double high) {
   using KelMath::KelDistFun;
-  if (low >= high) return 0;
+  if (!(low < high)) return 0;
   return low > 0 ? KelDistFun::CdfStdNorm(-low) - KelDistFun::CdfStdNorm(-high)
                  : KelDistFun::CdfStdNorm(high) - KelDistFun::CdfStdNorm(low);
 }

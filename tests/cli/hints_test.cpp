@@ -43,6 +43,14 @@ TEST(Hints, SayThatAnotherTestIsAnother) {
   EXPECT_TRUE(Holds(Said("wilcoxon"), "is another test"));
 }
 
+TEST(Hints, LeadToMargins) {
+  for (const char* word : {"equivalence", "tost", "non-inferiority"}) {
+    EXPECT_TRUE(Holds(Said(word), "options of mean, paired-means, two-means and crossover")) << word;
+  }
+  EXPECT_TRUE(Holds(Said("crossover --total 24"), "--n gives the size of each sequence"));
+  EXPECT_TRUE(Holds(Said("crossover --tost"), "--equivalence LOWER,UPPER"));
+}
+
 TEST(Hints, NameTheOptionThatTheTestHas) {
   EXPECT_TRUE(Holds(Said("two-means --total 80"), "--n gives the size of each group"));
   EXPECT_TRUE(Holds(Said("pearson --total 80"), "--n is the total sample size here"));

@@ -26,7 +26,7 @@ bool AllEqual(const Answer& answer, const Parameter& parameter) {
 bool IsBelow(const Unknown& unknown, const Answer& design, double number) {
   if (!unknown.pieceBelow) return false;
   const Piece piece = unknown.pieceBelow(design.inputs);
-  return number > piece.low && number < piece.high;
+  return number > std::min(piece.low, piece.high) && number < std::max(piece.low, piece.high);
 }
 
 /// Takes the unknown out of an answered design and solves for it: it is found again, or of a power that jumps a number
