@@ -29,6 +29,7 @@ Details DetailsOfCrossover(Question question, const Inputs& in) {
   Details details = DetailsOfMeanMargins(in, QuestionOfCrossover(in), source);
   details.formula = "standard error = " + std::string(in.Has("cv") ? "{sd-of-logs}" : "{sd}") +
                     " sqrt((1 / {n1} + 1 / {n2}) / 2) = {standard-error}; " + details.formula;
+  AddPowerTost(details, in, "{sd}", "2x2");
   return details;
 }
 

@@ -33,6 +33,9 @@ double PowerOfMeans(const Inputs& in, const MeanQuestion& question);
 /// What is behind that power. `source` is that of the estimate.
 Details DetailsOfMeanMargins(const Inputs& in, const MeanQuestion& question, const std::string& source);
 
+/// Adds how the R package PowerTOST is asked the same, with `sd` in braces and its word for the design.
+void AddPowerTost(Details& details, const Inputs& in, const std::string& sd, const std::string& design);
+
 /// The inputs of a ratio.
 Parameter MeanRatio();
 Parameter CoefficientOfVariation(std::string meaning);

@@ -39,8 +39,8 @@ void AddWordsOfMean(Test& test) {
        "of 0.05 needs 41 observations; its power is then 0.8086."},
       {"mean --mean 101 --test-value 100 --sd 10 --margin -3 --non-inferiority --power 0.8 --alpha 0.025",
        "To show that the difference of the mean from the test value is above -3, given a mean of 101 against 100 "
-       "with a standard deviation of 10, with a power of 0.8, the one-sided one-sample t test of non-inferiority at "
-       "a significance level of 0.025 needs 52 observations; its power is then 0.8078."},
+       "with a standard deviation of 10, with a power of 0.8, the test of non-inferiority with a one-sided "
+       "one-sample t test at a significance level of 0.025 needs 52 observations; its power is then 0.8078."},
       {"mean --mean 100 --test-value 100 --sd 10 --equivalence -4,4 --n 70",
        "With 70 observations, the test of equivalence with two one-sided one-sample t tests at a significance level "
        "of 0.05 has a power of 0.9048 to show that the difference of the mean from the test value is between -4 and "

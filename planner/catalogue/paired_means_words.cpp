@@ -45,8 +45,8 @@ void AddWordsOfPairedMeans(Test& test) {
        "two-sided paired-samples t test at a significance level of 0.05 needs 44 pairs; its power is then 0.9000."},
       {"paired-means --mean-difference 0 --sd-difference 8 --margin 3 --non-inferiority --power 0.8",
        "To show that the mean difference is below 3, given a mean difference of 0 with a standard deviation of 8 of "
-       "the differences, with a power of 0.8, the one-sided paired-samples t test of non-inferiority at a "
-       "significance level of 0.05 needs 46 pairs; its power is then 0.8051."},
+       "the differences, with a power of 0.8, the test of non-inferiority with a one-sided paired-samples t test at "
+       "a significance level of 0.05 needs 46 pairs; its power is then 0.8051."},
       {"paired-means --means 25,25 --sds 8,7 --correlation 0.6 --equivalence -3,3 --n 50",
        "With 50 pairs, the test of equivalence with two one-sided paired-samples t tests at a significance level of "
        "0.05 has a power of 0.8518 to show that the mean difference is between -3 and 3, given means of 25 and 25 "

@@ -72,12 +72,14 @@ std::vector<Condition> SizeExistsForTwoMeans() {
 
 Details DetailsOfTwoMeansWithMargins(const Inputs& in) {
   const bool isPooled = in.Has("cv") || SpreadsOfTwoMeans(in).isPooled;
-  return DetailsOfMeanMargins(in, QuestionOfTwoMeans(in),
-                              isPooled
-                                  ? "Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., "
-                                    "sections 2.2 and 2.3"
-                                  : "Welch (1938), Biometrika 29, 350-362; Satterthwaite (1946), Biometrics Bulletin "
-                                    "2, 110-114; degrees of freedom at the standard deviations expected");
+  Details details =
+      DetailsOfMeanMargins(in, QuestionOfTwoMeans(in),
+                           isPooled ? "Cohen (1988), Statistical Power Analysis for the Behavioral Sciences, 2nd ed., "
+                                      "sections 2.2 and 2.3"
+                                    : "Welch (1938), Biometrika 29, 350-362; Satterthwaite (1946), Biometrics Bulletin "
+                                      "2, 110-114; degrees of freedom at the standard deviations expected");
+  if (isPooled) AddPowerTost(details, in, "{sd1}", "parallel");
+  return details;
 }
 
 }  // namespace planner

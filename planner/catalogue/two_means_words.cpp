@@ -60,14 +60,14 @@ void AddWordsOfTwoMeans(Test& test) {
        "with standard deviations of 10 and 10."},
       {"two-means --mean-difference 0 --sd 6 --margin -2 --non-inferiority --power 0.9 --alpha 0.025",
        "To show that the difference of the means is above -2, given a difference of the means of 0 with standard "
-       "deviations of 6 and 6, with a power of 0.9, the one-sided independent-samples t test of non-inferiority "
-       "(variances pooled) at a significance level of 0.025 needs 191 observations in each of 2 groups (382 in "
-       "total); its power is then 0.9013."},
+       "deviations of 6 and 6, with a power of 0.9, the test of non-inferiority with a one-sided "
+       "independent-samples t test (variances pooled) at a significance level of 0.025 needs 191 observations in "
+       "each of 2 groups (382 in total); its power is then 0.9013."},
       {"two-means --means 52,47 --sd 10,14 --n 90 --margin 2 --superiority",
-       "With 90 observations in each of 2 groups (180 in total), the one-sided independent-samples t test of "
-       "superiority by a margin (variances unequal, Welch's test) at a significance level of 0.05 has a power of "
-       "0.5010 to show that the difference of the means is above 2, given means of 52 and 47 with standard "
-       "deviations of 10 and 14."},
+       "With 90 observations in each of 2 groups (180 in total), the test of superiority by a margin with a "
+       "one-sided independent-samples t test (variances unequal, Welch's test) at a significance level of 0.05 has "
+       "a power of 0.5010 to show that the difference of the means is above 2, given means of 52 and 47 with "
+       "standard deviations of 10 and 14."},
       {"two-means --mean-difference 0.5 --sd 4 --equivalence -2,2 --power 0.8",
        "To show that the difference of the means is between -2 and 2, given a difference of the means of 0.5 with "
        "standard deviations of 4 and 4, with a power of 0.8, the test of equivalence with two one-sided "

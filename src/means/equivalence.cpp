@@ -1,5 +1,6 @@
 #include "means/equivalence.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -24,6 +25,7 @@ double NormalBetween(double low, double high) {
 
 double PowerOfTwoTests(const TTest& test, const Insides& inStandardErrors) {
   const auto& [aboveLower, belowUpper] = inStandardErrors;
+  if (std::min(aboveLower, belowUpper) == -std::numeric_limits<double>::infinity()) return 0;
   const double t = test.critical;
   const auto chance = [&](double u) { return NormalBetween(t * u - aboveLower, belowUpper - t * u); };
   kelcommon::ChiRange range;
@@ -31,7 +33,8 @@ double PowerOfTwoTests(const TTest& test, const Insides& inStandardErrors) {
   const double breaks[] = {aboveLower / t, belowUpper / t};
   range.breaks = breaks;
   range.breakCount = 2;
-  return range.limit > 0 ? kelcommon::MeanOverChi(chance, test.df, range) : 0;
+  if (range.limit <= 0) return 0;
+  return std::min(1.0, kelcommon::MeanOverChi(chance, test.df, range));  // a rounding may lead above
 }
 
 Answer PowerBetweenLimits(const Insides& distances, double alpha, const DifferenceDistribution& estimate) {
@@ -39,7 +42,7 @@ Answer PowerBetweenLimits(const Insides& distances, double alpha, const Differen
   if (!test) return NoValue::Refused;
   const Insides inStandardErrors{distances.aboveLower / estimate.standardError,
                                  distances.belowUpper / estimate.standardError};
-  if (std::isnan(inStandardErrors.aboveLower + inStandardErrors.belowUpper)) return NoValue::Refused;
+  if (std::isnan(inStandardErrors.aboveLower) || std::isnan(inStandardErrors.belowUpper)) return NoValue::Refused;
   return PowerOfTwoTests(*test, inStandardErrors);
 }
 
