@@ -65,7 +65,8 @@ constexpr std::string_view survival =
     "there is no test of survival times; two-proportions at a fixed time is another test";
 
 constexpr std::string_view margins =
-    "non-inferiority, superiority by a margin and equivalence are options of mean, paired-means, two-means and crossover";
+    "non-inferiority, superiority by a margin and equivalence are options of mean, paired-means, two-means, crossover, "
+    "proportion and two-proportions";
 
 constexpr std::string_view effectSizes = "effect sizes are converted by effect";
 

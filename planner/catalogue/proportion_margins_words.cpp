@@ -35,7 +35,7 @@ std::vector<Assumption> MarginAssumptionsOfProportion() {
 std::vector<Phrase> PhrasesOfProportion() {
   return {
       {"procedure",
-       {{"equivalence", "test of equivalence by two one-sided {exact?exact binomial tests:z tests}{margin-error}"},
+       {{"equivalence", "test of equivalence with two one-sided {exact?exact binomial tests:z tests}{margin-error}"},
         {"margin",
          "one-sided {exact?exact binomial test:z test} of {non-inferiority?non-inferiority:superiority by a "
          "margin}{margin-error}"},
@@ -57,7 +57,7 @@ std::vector<Example> MarginExamplesOfProportion() {
        "power of 0.8, the one-sided z test of non-inferiority, with the standard error at the limit, at a "
        "significance level of 0.025 needs 54 observations; its power is then 0.8010."},
       {"proportion --proportion 0.6 --null 0.6 --equivalence -0.1,0.1 --n 500 --exact",
-       "With 500 observations, the test of equivalence by two one-sided exact binomial tests at a significance "
+       "With 500 observations, the test of equivalence with two one-sided exact binomial tests at a significance "
        "level of 0.05 has a power of 0.9965 to show that the difference of the proportion from 0.6 is between "
        "-0.1 and 0.1, given a proportion of 0.6."},
       {"proportion --proportion 0.25 --null 0.1 --margin 1.5 --margin-scale ratio --superiority --power 0.8 --exact",

@@ -18,10 +18,12 @@ double LargeSamplePower(const Inputs& in) {
   return OrNaN(test.Power(TwoProportionsOf(in)));
 }
 
-/// The exact power; designs that differ in their proportions alone share the region of the test.
+/// The exact power; designs that differ in their proportions alone share the region of the test. A search for sizes takes
+/// seconds, of which one power is a small part.
 class ExactPower {
 public:
   double operator()(const Inputs& in) {
+    if (kelpower::AnswersStop(StopOf(in))) return OrNaN(kelpower::NoValue::Stopped);
     const Numbers& n = in.List("n");
     const proportions::ContrastLimits limits = ContrastLimitsOf(in);
     const auto& test = kept_.For({limits.lower, limits.upper, in.Alpha(), n[0], n[1]}, limits, in.Alpha(), n[0], n[1]);

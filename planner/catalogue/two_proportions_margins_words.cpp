@@ -30,7 +30,7 @@ void AddMarginWordsOfTwoProportions(Test& test) {
   const std::string shown = "show that {hypothesis}, given {effect}";
   const std::vector<Phrase> phrases{
       {"procedure",
-       {{"equivalence", "test of equivalence by two one-sided {margin-test}s" + corrected},
+       {{"equivalence", "test of equivalence with two one-sided {margin-test}s" + corrected},
         {"margin", "one-sided {margin-test} of {non-inferiority?non-inferiority:superiority by a margin}" + corrected},
         {"alpha",
          "{one-sided?one-sided:two-sided} {exact?exact :}{standard-error}{method} of two independent proportions" +
@@ -52,7 +52,7 @@ std::string SourceOfMargins(const kelpower::proportions::IndependentMarginDesign
              "margin";
     case MarginMethod::Wald:
       if (isRatio) return "Katz, Baptista, Azen and Pike (1978), Biometrics 34, 469-474, by the logarithm of the ratio";
-      if (isOddsRatio) return "Wang, Chow and Li (2002), Journal of Biopharmaceutical Statistics 12, 97-108";
+      if (isOddsRatio) return "Woolf (1955), Annals of Human Genetics 19, 251-253";
       return "Blackwelder (1982), Controlled Clinical Trials 3, 345-353";
     case MarginMethod::FarringtonManning: break;
   }
@@ -72,13 +72,13 @@ std::vector<Example> MarginExamplesOfTwoProportions() {
        "over first) is above 0.95, given a risk ratio of 1.1 from 0.8 to 0.88."},
       {"two-proportions --proportions 0.5,0.5 --equivalence -0.1,0.1 --margin-method wald --power 0.8",
        "To show that the risk difference (second minus first) is between -0.1 and 0.1, given proportions of 0.5 "
-       "and 0.5, with a power of 0.8, the test of equivalence by two one-sided Wald (unpooled) z tests at a "
+       "and 0.5, with a power of 0.8, the test of equivalence with two one-sided Wald (unpooled) z tests at a "
        "significance level of 0.05 needs 429 observations in each of 2 groups (858 in total); its power is then "
        "0.8010."},
-      {"two-proportions --proportions 0.6,0.7 --margin -0.1 --non-inferiority --n 60,80 --exact",
-       "With 60 and 80 observations in 2 groups (140 in total), the one-sided exact unconditional score test of "
-       "non-inferiority at a significance level of 0.05 has a power of 0.7789 to show that the risk difference "
-       "(second minus first) is above -0.1, given proportions of 0.6 and 0.7."},
+      {"two-proportions --proportions 0.6,0.65 --equivalence -0.2,0.2 --n 90,110 --exact",
+       "With 90 and 110 observations in 2 groups (200 in total), the test of equivalence with two one-sided "
+       "exact unconditional score tests at a significance level of 0.05 has a power of 0.6808 to show that "
+       "the risk difference (second minus first) is between -0.2 and 0.2, given proportions of 0.6 and 0.65."},
   };
 }
 

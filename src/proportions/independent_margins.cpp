@@ -56,8 +56,8 @@ bool IndependentMarginTest::IsRefused() const {
 }
 
 // Farrington, C. P. and Manning, G. (1990), Statistics in Medicine 9, 1447-1454. A ratio is tested by p2 - limit p1,
-// with the Wald method by its logarithm (Katz et al. 1978, Biometrics 34, 469-474); an odds ratio always by its logarithm
-// (Wang, H., Chow, S.-C. and Li, G. 2002, Journal of Biopharmaceutical Statistics 12, 97-108).
+// with the Wald method by its logarithm (Katz, D. et al. 1978, Biometrics 34, 469-474); an odds ratio always by its
+// logarithm (Woolf, B. 1955, Annals of Human Genetics 19, 251-253).
 LimitStatistic IndependentMarginTest::At(double limit, const TwoProportions& proportions, double sign) const {
   const Contrast contrast = design_.limits.contrast;
   const auto& [p1, p2] = proportions;

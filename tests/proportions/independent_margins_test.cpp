@@ -144,6 +144,13 @@ TEST(IndependentMargins, MirrorWhenGroupsAreSwapped) {
   }
 }
 
+TEST(IndependentMargins, OfMiettinenAndNurminenHaveTheLargerError) {
+  const TwoProportions of{0.3, 0.35};
+  const IndependentMarginTest score(Above(-0.1, 0.05), 12, 17);
+  const IndependentMarginTest enlarged(Above(-0.1, 0.05, MarginMethod::MiettinenNurminen), 12, 17);
+  EXPECT_NEAR(enlarged.AtLower(of).nullError / score.AtLower(of).nullError, std::sqrt(29.0 / 28), 1e-14);
+}
+
 TEST(IndependentMargins, GrowWithTheDistanceAndTheSize) {
   for (const auto method : {MarginMethod::FarringtonManning, MarginMethod::MiettinenNurminen, MarginMethod::Wald}) {
     double earlier = 0;

@@ -152,6 +152,16 @@ TEST(OneSampleMargins, AreExactByFullEnumeration) {
   }
 }
 
+TEST(OneSampleMargins, AttainTheLargerLevelOfBothLimits) {
+  for (const double n : {20.0, 45.0, 70.0, 110.0}) {
+    const OneSampleMarginTest test(Between(0.4, 0.9, 0.05, true));
+    const double lower = *test.Power(n, 0.4);
+    const double upper = *test.Power(n, 0.9);
+    EXPECT_NE(lower, upper);
+    EXPECT_EQ(test.AttainedLevel(n), std::max(lower, upper)) << n;
+  }
+}
+
 TEST(OneSampleMargins, FirstAndLastingSizesAreThoseFoundByTryingAll) {
   std::mt19937 engine(7);
   std::uniform_real_distribution<double> uniform(0.02, 0.98);

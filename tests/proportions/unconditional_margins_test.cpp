@@ -143,6 +143,31 @@ TEST(UnconditionalMargins, KeepTheLevel) {
   }
 }
 
+TEST(UnconditionalMargins, KeepTheLevelBetweenThePointsOfTheGrid) {
+  for (const double margin : {-0.1, -0.03, 0.0, 0.15}) {
+    const UnconditionalMarginTest test(Above(margin), 0.05, 31, 27);
+    // A little less than what the region has leaves a table out.
+    const double less = *test.AttainedLevel() * (1 - 1e-9);
+    const UnconditionalMarginTest stricter(Above(margin), less, 31, 27);
+    EXPECT_LE(*stricter.AttainedLevel(), less) << margin;
+    EXPECT_LT(*stricter.Power({0.4, 0.6}), *test.Power({0.4, 0.6})) << margin;
+  }
+}
+
+TEST(UnconditionalMargins, TreatTablesOfEqualStatisticAlike) {
+  for (std::int64_t n = 5; n <= 40; ++n) {
+    const GroupSizes sizes{n, n};
+    const TableRegion region = ScoreRegion(sizes, 0, 0.05);
+    for (std::int64_t x2 = 0; x2 <= n; ++x2) {
+      for (std::int64_t x1 = 0; x1 <= n; ++x1) {
+        // Successes in the one group are failures in the other.
+        const bool isRejected = x1 <= region[static_cast<std::size_t>(x2)].most;
+        EXPECT_EQ(isRejected, n - x2 <= region[static_cast<std::size_t>(n - x1)].most) << n << ' ' << x1 << ' ' << x2;
+      }
+    }
+  }
+}
+
 TEST(UnconditionalMargins, MirrorWhenGroupsOrOutcomesAreSwapped) {
   const TwoProportions of{0.35, 0.3};
   const double power = PowerOf(Above(-0.2), 0.05, 40, 55, of);

@@ -78,6 +78,10 @@ QUESTIONS = [
     "ordinal --probabilities1 0.1,0.2,0.4,0.2,0.1 --odds-ratio 2 --n 80 --method whitehead",
     "signed-rank --effect-d 0.5 --n 35",
     "signed-rank --positive-average 0.7 --n 40 --one-sided",
+    "proportion --proportion 0.9 --null 0.85 --margin -0.1 --non-inferiority --n 54",
+    "proportion --proportion 0.6 --null 0.6 --equivalence -0.1,0.1 --n 500 --exact",
+    "two-proportions --proportions 0.85,0.85 --margin -0.1 --non-inferiority --n 207",
+    "two-proportions --proportions 0.5,0.5 --equivalence -0.1,0.1 --margin-method wald --n 429",
 ]
 
 HEAD = """# The same question in other programs

@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 """Writes reference cases of proportions against margins: non-inferiority, superiority by a margin, equivalence.
 
-Binomial probabilities are summed, normal ones evaluated, and the most likely proportions under a limit found as roots of
-the score equation, all at 40 digits. The exact unconditional test is done by its definition: all tables in the order of
+Binomial probabilities are summed, normal ones evaluated, and the most likely proportions under a limit found as roots
+of the score equation, all at 40 digits. The exact unconditional test is done by its definition: all tables in the order of
 the statistic, and the proportions at the limit on a fine grid. A size is the first whole one whose power reaches the
 target.
 
@@ -331,7 +331,8 @@ def one_sizes():
             design.update({"standard-error": error} | ({"correction": True} if corrected else {}))
             assert first_size(lambda m: one_power({**design, "n": m}), mpf("0.8")) == n
             row("proportion", {**design, "power": 0.8}, "n", n, 0, "PASS 15 and multiple precision")
-    for p, power in ((0.60, 0.996492413122482), (0.63, 0.94824150777044), (0.65, 0.758279839373494), (0.69, 0.113891899567308)):
+    powers = {0.60: 0.996492413122482, 0.63: 0.94824150777044, 0.65: 0.758279839373494, 0.69: 0.113891899567308}
+    for p, power in powers.items():
         inputs = {"proportion": p, "null": 0.6, "equivalence": [-0.1, 0.1], "exact": True, "n": 500, "alpha": 0.05}
         row("proportion", inputs, "power", power, 1e-13, "statsmodels and PASS, four digits; multiple precision")
     for alpha, n, power in ((0.05, 110, 0.8096740681167), (0.025, 136, 0.81267606309345)):
@@ -381,7 +382,8 @@ def two_sizes():
     for method in ("miettinen-nurminen", "wald"):
         sizes({"proportions": [0.7, 0.75], **ni, "power": 0.9, "margin-method": method, "ratio": 2}, None)
     farrington = "Farrington and Manning 1990, page 1451, unrounded in gsDesign"
-    sizes({"proportions": [0.05, 0.40], "margin": 0.2, "superiority": True, "alpha": 0.05, "power": 0.8}, [80, 80], farrington)
+    superiority = {"proportions": [0.05, 0.40], "margin": 0.2, "superiority": True, "alpha": 0.05}
+    sizes({**superiority, "power": 0.8}, [80, 80], farrington)
     for scale, way in (("ratio", RATIOS[0]), ("odds-ratio", RATIOS[3])):
         inputs = {"proportions": [0.4, 0.42], "margin-scale": scale, "alpha": 0.05, "power": 0.85, **way}
         sizes({**inputs, "ratio": 1.5}, None)
@@ -389,12 +391,14 @@ def two_sizes():
     sizes({**wald, "power": 0.8}, [429, 429], "powertools, TOSTER 428.19; multiple precision")
     sizes({**wald, "power": 0.9}, [542, 542], "powertools, TOSTER 541.1; multiple precision")
     pooled = {"alpha": 0.025, "margin": -0.1, "non-inferiority": True, "margin-method": "pooled"}
-    for reference, n, power in ((0.8, (78, 39), 0.8049820844), (0.9, (212, 106), 0.80014845438), (0.95, (624, 312), 0.80045202219)):
+    printed = ((0.8, (78, 39), 0.8049820844), (0.9, (212, 106), 0.80014845438), (0.95, (624, 312), 0.80045202219))
+    for reference, n, power in printed:
         inputs = {"proportions": [reference, 0.9], "n": list(n), **pooled}
         row("two-proportions", inputs, "power", power, 1e-9, "PASS 15")
     unconditional = {"proportions": [0.25, 0.6], "margin": 0.0, "superiority": True, "exact": True}
-    row("two-proportions", {**unconditional, "n": [25, 25], "alpha": 0.025}, "power", 0.69461121704002, 1e-13, "lrstat 0.2.15")
-    row("two-proportions", {**unconditional, "n": [34, 34], "alpha": 0.05}, "power", 0.9052923215996, 1e-12, "lrstat 0.2.15")
+    for n, alpha, power, within in ((25, 0.025, 0.69461121704002, 1e-13), (34, 0.05, 0.9052923215996, 1e-12)):
+        inputs = {**unconditional, "n": [n, n], "alpha": alpha}
+        row("two-proportions", inputs, "power", power, within, "lrstat 0.2.15")
 
 
 if __name__ == "__main__":
