@@ -35,7 +35,8 @@ TEST(Hints, NameTheTestsThatAWordMayMean) {
     EXPECT_TRUE(Holds(Said(word), "two-means for two groups, paired-means for pairs and mean for one sample")) << word;
   }
   EXPECT_TRUE(Holds(Said("fisher"), "two-proportions with --method conditional"));
-  EXPECT_TRUE(Holds(Said("chi-square"), "two-proportions"));
+  EXPECT_TRUE(Holds(Said("chi-square"), "contingency, of tables and groups, goodness-of-fit"));
+  EXPECT_TRUE(Holds(Said("variances"), "two-variances"));
 }
 
 TEST(Hints, SayThatAnotherTestIsAnother) {
