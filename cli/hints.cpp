@@ -44,6 +44,10 @@ constexpr OtherName otherNames[] = {
     {"wilcoxon-signed-rank", "signed-rank"},
     {"proportional-odds", "ordinal"},
     {"ordered-categories", "ordinal"},
+    {"independence", "contingency"},
+    {"crosstab", "contingency"},
+    {"gof", "goodness-of-fit"},
+    {"equality-of-variances", "two-variances"},
 };
 
 /// A word, and what is said to it.
@@ -55,7 +59,9 @@ struct Answer {
 constexpr std::string_view tTests =
     "t tests are two-means for two groups, paired-means for pairs and mean for one sample";
 constexpr std::string_view chiSquare =
-    "the chi-square test of two groups is two-proportions: its z test squared; there is none of larger tables";
+    "chi-square tests are contingency, of tables and groups, goodness-of-fit, of one variable, and variance; that of two "
+    "groups and two categories is two-proportions too: its z test squared";
+constexpr std::string_view varianceTests = "tests of variances are variance, of one, and two-variances";
 constexpr std::string_view fisher = "Fisher's exact test is two-proportions with --method conditional";
 constexpr std::string_view correlations = "correlations are pearson, spearman and partial";
 constexpr std::string_view ranks =
@@ -88,7 +94,10 @@ constexpr Answer answersToTests[] = {
     {"correlation", correlations},
     {"r", correlations},
     {"kendall", "there is no test of Kendall's tau; spearman is another test, of Spearman's rho"},
-    {"f-test", "F tests are anova, of group means, and regression, of predictors"},
+    {"f-test", "F tests are anova, of group means, regression, of predictors, and two-variances"},
+    {"variances", varianceTests},
+    {"levene", varianceTests},
+    {"bartlett", varianceTests},
     {"tukey", "pairwise tests pairs of groups, with Bonferroni's or Sidak's adjustment in place of Tukey's"},
     {"wilcoxon", ranks},
     {"rank", ranks},

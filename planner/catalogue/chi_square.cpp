@@ -5,7 +5,7 @@
 
 #include "catalogue/core.h"
 #include "catalogue/details.h"
-#include "chi_square/chi_square_test.h"
+#include "chi_square/power.h"
 
 namespace planner {
 

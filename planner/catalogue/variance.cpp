@@ -10,7 +10,7 @@
 #include "catalogue/mean_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/words.h"
-#include "variances/variance_test.h"
+#include "variances/one_variance.h"
 
 namespace planner {
 namespace {

@@ -4,9 +4,9 @@
 #include <cmath>
 #include <limits>
 
-#include "assurance/chi_square.h"
 #include "assurance/first_size.h"
 #include "frame/rejection.h"
+#include "kelcommon/distributions.h"
 
 // The assurance may fall before it rises. Let c = size halfWidth^2 / (t^2 sd^2 variance), so that the assurance is
 // P(X <= c df), X chi-square on df. Where c is small, more degrees of freedom make it unlikelier that X / df is so far
@@ -24,6 +24,8 @@
 // So the sizes before these degrees of freedom are tried one by one, and bisection finds the first of the others.
 
 namespace kelpower::assurance {
+
+using kelcommon::CdfChiSquare;
 
 namespace {
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "assurance/chi_square.h"
 #include "assurance/first_size.h"
 #include "frame/integral.h"
 #include "frame/rejection.h"
+#include "kelcommon/distributions.h"
 #include "kelcommon/kel_dist_fun.h"
 
 // With a_i = sd_i^2 / n_i and X_i chi-square on f_i = n_i - 1 degrees of freedom, the estimated variance of the
@@ -21,6 +21,7 @@
 namespace kelpower::assurance {
 
 using KelMath::KelDistFun;
+using kelcommon::CdfChiSquare;
 
 namespace {
 

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <limits>
 
-#include "assurance/chi_square.h"
 #include "frame/counts.h"
 #include "frame/rejection.h"
 #include "support/reference_rows.h"
@@ -21,10 +20,6 @@ TEST(AssuranceOfMeans, AgreesWithMultiplePrecision) {
     const MeanEstimate estimate{row[0], row[1], row[2], row[3], 1};
     EXPECT_NEAR(*Assurance(estimate, {row[4], row[5]}, row[6]), row[7], 1e-13) << row[4] << ' ' << row[6];
   }
-}
-
-TEST(ChiSquare, IsExponentialOnTwoDegreesOfFreedom) {
-  for (const double x : {1e-10, 0.1, 1.0, 5.0, 30.0}) EXPECT_NEAR(CdfChiSquare(x, 2), -std::expm1(-x / 2), 1e-15) << x;
 }
 
 TEST(AssuranceOfMeans, IsTheShareOfStudiesOfOneSample) {

@@ -37,6 +37,8 @@ TEST(Hints, NameTheTestsThatAWordMayMean) {
   EXPECT_TRUE(Holds(Said("fisher"), "two-proportions with --method conditional"));
   EXPECT_TRUE(Holds(Said("wilcoxon"), "mann-whitney for two groups, ordinal for ordered categories, signed-rank for"));
   EXPECT_TRUE(Holds(Said("chi-square"), "two-proportions"));
+  EXPECT_TRUE(Holds(Said("chi-square"), "contingency, of tables and groups, goodness-of-fit"));
+  EXPECT_TRUE(Holds(Said("variances"), "two-variances"));
 }
 
 TEST(Hints, SayThatAnotherTestIsAnother) {
@@ -48,7 +50,9 @@ TEST(Hints, SayThatAnotherTestIsAnother) {
 
 TEST(Hints, LeadToMargins) {
   for (const char* word : {"equivalence", "tost", "non-inferiority"}) {
-    EXPECT_TRUE(Holds(Said(word), "options of mean, paired-means, two-means, crossover, proportion and two-proportions")) << word;
+    EXPECT_TRUE(
+        Holds(Said(word), "options of mean, paired-means, two-means, crossover, proportion and two-proportions"))
+        << word;
   }
   EXPECT_TRUE(Holds(Said("crossover --total 24"), "--n gives the size of each sequence"));
   EXPECT_TRUE(Holds(Said("crossover --tost"), "--equivalence LOWER,UPPER"));

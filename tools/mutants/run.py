@@ -22,7 +22,10 @@ from pathlib import Path
 
 # The tests that look first at what is in a folder or file; the first entry that fits counts.
 NEAREST = [
-    ("kelcommon/", ["kelcommon_references", "kelcommon_contract", "kelcommon_identities", "kelcommon_t_and_f"]),
+    ("kelcommon/", ["kelcommon_references", "kelcommon_contract", "kelcommon_identities", "kelcommon_t_and_f",
+                    "kelcommon_gamma"]),
+    ("src/chi_square/", ["chi_square_core_test", "cases_goodness_of_fit", "cases_contingency"]),
+    ("src/variances/", ["variances_core_test", "cases_variance", "cases_two_variances"]),
     ("src/anova/", ["vectors_anova", "anova_test", "anova_core_test"]),
     ("src/exports/anova/", ["vectors_anova", "anova_test"]),
     ("src/means/crossover", ["means_core_test", "cases_crossover"]),

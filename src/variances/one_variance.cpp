@@ -1,4 +1,4 @@
-#include "variances/variance_test.h"
+#include "variances/one_variance.h"
 
 #include <cmath>
 
@@ -22,6 +22,7 @@ VarianceTest::VarianceTest(double n, double alpha, bool isOneSided)
 
 Answer VarianceTest::Power(double ratio) const {
   if (ratio <= 0) return NoValue::Refused;
+  if (std::isinf(ratio)) return NoValue::Refused;
   const double above = kelcommon::SfChiSquare(upper_ / ratio, df_);
   const double below = kelcommon::CdfChiSquare(lower_ / ratio, df_);
   if (isOneSided_) return ratio < 1 ? below : above;

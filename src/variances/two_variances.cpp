@@ -1,4 +1,4 @@
-#include "variances/two_variances_test.h"
+#include "variances/two_variances.h"
 
 #include <cmath>
 
@@ -32,6 +32,7 @@ TwoVariancesTest::TwoVariancesTest(double n1, double n2, double alpha, bool isOn
 
 Answer TwoVariancesTest::Power(double ratio) const {
   if (ratio <= 0) return NoValue::Refused;
+  if (std::isinf(ratio)) return NoValue::Refused;
   const double above = LowerTail(upperReciprocal_ * ratio, df2_, df1_);
   const double below = LowerTail(lower_ / ratio, df1_, df2_);
   if (isOneSided_) return ratio < 1 ? below : above;

@@ -1,5 +1,5 @@
-#ifndef KELPOWER_VARIANCES_VARIANCE_TEST_H
-#define KELPOWER_VARIANCES_VARIANCE_TEST_H
+#ifndef KELPOWER_VARIANCES_ONE_VARIANCE_H
+#define KELPOWER_VARIANCES_ONE_VARIANCE_H
 
 #include <optional>
 
@@ -17,7 +17,7 @@ public:
   /// No test with fewer than two observations or without a level.
   static std::optional<VarianceTest> Checked(double n, double alpha, bool isOneSided);
 
-  /// At the variance over its null value, above 0.
+  /// At the variance over its null value, above 0 and finite.
   Answer Power(double ratio) const;
 
   double Df() const { return df_; }

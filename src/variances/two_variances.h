@@ -1,5 +1,5 @@
-#ifndef KELPOWER_VARIANCES_TWO_VARIANCES_TEST_H
-#define KELPOWER_VARIANCES_TWO_VARIANCES_TEST_H
+#ifndef KELPOWER_VARIANCES_TWO_VARIANCES_H
+#define KELPOWER_VARIANCES_TWO_VARIANCES_H
 
 #include <optional>
 
@@ -17,7 +17,7 @@ public:
   /// No test with fewer than two observations in a group or without a level.
   static std::optional<TwoVariancesTest> Checked(double n1, double n2, double alpha, bool isOneSided);
 
-  /// At the first variance over the second, above 0.
+  /// At the first variance over the second, above 0 and finite.
   Answer Power(double ratio) const;
 
   double Df1() const { return df1_; }

@@ -1,4 +1,4 @@
-#include "chi_square/chi_square_test.h"
+#include "chi_square/power.h"
 
 #include <cmath>
 
