@@ -5,7 +5,7 @@
 
 #include "catalogue/details.h"
 #include "model/test.h"
-#include "ranks/normal_test.h"
+#include "ranks/nearly_normal.h"
 #include "ranks/parents.h"
 
 // What the tests of ranks share.
