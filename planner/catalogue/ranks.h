@@ -31,6 +31,8 @@ Assumption NamedApproximation();
 Condition OnlyNoetherFor(Name probability);
 /// The condition for a size that `probability` is not one half.
 Condition HasProbability(Name probability);
+/// The second size over the first, of a first one that is given.
+Unknown UnknownRatioOfRanks();
 /// The probability as an unknown, on either side of one half.
 Unknown UnknownProbability(Name probability);
 
