@@ -73,7 +73,7 @@ Test MannWhitneyTest() {
             .groups = 2};
   test.parameters = Parameters();
   test.routes = Routes();
-  test.unknowns = {UnknownEffectD(), UnknownProbability("superiority"), UnknownRatio()};
+  test.unknowns = {UnknownEffectD(), UnknownProbability("superiority"), UnknownRatioOfRanks()};
   test.conditions = {
       OnlyNoetherFor("superiority"),
       {.code = "too-small",

@@ -2,7 +2,7 @@
 
 #include "catalogue/core.h"
 #include "catalogue/ordinal.h"
-#include "catalogue/unknowns.h"
+#include "catalogue/ranks.h"
 
 namespace planner {
 namespace {
@@ -43,7 +43,7 @@ std::vector<Unknown> UnknownsOfOrdinal() {
            .reason = "the more the odds differ, the more often a value of the one group exceeds one of the other",
            .piece = Above,
            .pieceBelow = Below},
-          UnknownRatio()};
+          UnknownRatioOfRanks()};
 }
 
 }  // namespace planner

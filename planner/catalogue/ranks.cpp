@@ -1,5 +1,7 @@
 #include "catalogue/ranks.h"
 
+#include "catalogue/unknowns.h"
+
 namespace planner {
 
 using kelpower::ranks::Parent;
@@ -61,6 +63,12 @@ Condition HasProbability(Name probability) {
           .about = {probability},
           .holds = [=](const Inputs& in) { return in.Number(probability) != 0.5; },
           .sentence = "The probability is one half: without an effect, no sample size reaches the power."};
+}
+
+Unknown UnknownRatioOfRanks() {
+  Unknown ratio = UnknownRatio();
+  ratio.reason = "a larger second group places the values of the first more surely";
+  return ratio;
 }
 
 Unknown UnknownProbability(Name probability) {

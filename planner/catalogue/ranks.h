@@ -5,7 +5,7 @@
 
 #include "catalogue/details.h"
 #include "model/test.h"
-#include "ranks/normal_test.h"
+#include "ranks/nearly_normal.h"
 #include "ranks/parents.h"
 
 // What the tests of ranks share.
@@ -31,6 +31,8 @@ Assumption NamedApproximation();
 Condition OnlyNoetherFor(Name probability);
 /// The condition for a size that `probability` is not one half.
 Condition HasProbability(Name probability);
+/// The second size over the first, of a first one that is given.
+Unknown UnknownRatioOfRanks();
 /// The probability as an unknown, on either side of one half.
 Unknown UnknownProbability(Name probability);
 

@@ -2,7 +2,7 @@
 #define KELPOWER_RANKS_EQUIVALENT_T_H
 
 #include "frame/rejection.h"
-#include "ranks/normal_test.h"
+#include "ranks/nearly_normal.h"
 
 namespace kelpower::ranks {
 

@@ -5,7 +5,7 @@
 
 #include "frame/answer.h"
 #include "ranks/equivalent_t.h"
-#include "ranks/normal_test.h"
+#include "ranks/nearly_normal.h"
 #include "ranks/parents.h"
 
 // The Wilcoxon-Mann-Whitney test of two independent groups, by three approximations of its power. Each is refused for a

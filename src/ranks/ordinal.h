@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "frame/answer.h"
-#include "ranks/normal_test.h"
+#include "ranks/nearly_normal.h"
 
 // The Wilcoxon-Mann-Whitney test of two independent groups whose values are ordered categories, with ties in ranks.
 

@@ -5,7 +5,7 @@
 
 #include "frame/answer.h"
 #include "ranks/equivalent_t.h"
-#include "ranks/normal_test.h"
+#include "ranks/nearly_normal.h"
 #include "ranks/parents.h"
 
 // The signed-rank test of Wilcoxon of one sample or of the differences of pairs, by three approximations of its power.

@@ -1,4 +1,4 @@
-#include "ranks/normal_test.h"
+#include "ranks/nearly_normal.h"
 
 #include <cmath>
 

@@ -1,5 +1,5 @@
-#ifndef KELPOWER_RANKS_NORMAL_TEST_H
-#define KELPOWER_RANKS_NORMAL_TEST_H
+#ifndef KELPOWER_RANKS_NEARLY_NORMAL_H
+#define KELPOWER_RANKS_NEARLY_NORMAL_H
 
 // What the tests of ranks share: their statistics are nearly normal.
 
