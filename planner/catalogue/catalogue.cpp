@@ -8,7 +8,7 @@ const std::vector<Test>& Tests() {
   static const std::vector<Test> tests = {
       AnovaTest(),      ContrastTest(),       PairwiseTest(),          MeanTest(),    PairedMeansTest(), TwoMeansTest(),
       ProportionTest(), TwoProportionsTest(), PairedProportionsTest(), PearsonTest(), SpearmanTest(),    PartialTest(),
-      RegressionTest(), TukeyTest(),
+      RegressionTest(), TukeyTest(),          DunnettTest(),
   };
   return tests;
 }

@@ -20,6 +20,7 @@ Test SpearmanTest();
 Test PartialTest();
 Test RegressionTest();
 Test TukeyTest();
+Test DunnettTest();
 
 }  // namespace planner
 
