@@ -6,12 +6,11 @@ namespace planner {
 
 const std::vector<Test>& Tests() {
   static const std::vector<Test> tests = {
-      AnovaTest(),       ContrastTest(),       PairwiseTest(),          TukeyTest(),
-      FactorialTest(),   AncovaTest(),         RepeatedMeasuresTest(),  MeanTest(),
-      PairedMeansTest(), TwoMeansTest(),       CrossoverTest(),         MannWhitneyTest(),
-      SignedRankTest(),  OrdinalTest(),        VarianceTest(),          TwoVariancesTest(),
-      ProportionTest(),  TwoProportionsTest(), PairedProportionsTest(), GoodnessOfFitTest(),
-      ContingencyTest(), PearsonTest(),        SpearmanTest(),          PartialTest(),
+      AnovaTest(),         ContrastTest(),     PairwiseTest(),         TukeyTest(),          DunnettTest(),
+      FactorialTest(),     AncovaTest(),       RepeatedMeasuresTest(), MeanTest(),           PairedMeansTest(),
+      TwoMeansTest(),      CrossoverTest(),    MannWhitneyTest(),      SignedRankTest(),     OrdinalTest(),
+      VarianceTest(),      TwoVariancesTest(), ProportionTest(),       TwoProportionsTest(), PairedProportionsTest(),
+      GoodnessOfFitTest(), ContingencyTest(),  PearsonTest(),          SpearmanTest(),       PartialTest(),
       RegressionTest(),
   };
   return tests;

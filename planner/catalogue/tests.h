@@ -31,6 +31,7 @@ Test MannWhitneyTest();
 Test OrdinalTest();
 Test SignedRankTest();
 Test TukeyTest();
+Test DunnettTest();
 
 }  // namespace planner
 

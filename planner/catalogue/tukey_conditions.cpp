@@ -30,12 +30,6 @@ bool DiffersSomewhere(const Inputs& in) {
 
 }  // namespace
 
-bool AreEqual(const Inputs& in, Name list) {
-  if (!in.Has(list)) return true;
-  const Numbers& numbers = in.List(list);
-  return std::all_of(numbers.begin(), numbers.end(), [&](double number) { return number == numbers.front(); });
-}
-
 std::vector<Condition> ConditionsOfTukey() {
   return {
       PairDiffers(),

@@ -1,0 +1,71 @@
+#include <optional>
+#include <utility>
+
+#include "catalogue/core.h"
+#include "catalogue/dunnett.h"
+#include "comparisons/dunnett.h"
+
+namespace planner {
+namespace {
+
+namespace comparisons = kelpower::comparisons;
+
+/// Powers at many means and the same sizes share the critical value.
+class Powers {
+public:
+  double operator()(const Inputs& in) {
+    const bool isOneSided = in.Flag("one-sided");
+    if (!test_ || in.List("n") != sizes_ || isOneSided != isOneSided_ || in.Alpha() != alpha_) {
+      sizes_ = in.List("n");
+      isOneSided_ = isOneSided;
+      alpha_ = in.Alpha();
+      test_.emplace(sizes_, isOneSided_, alpha_);
+    }
+    const Numbers noncentralities = test_->Noncentralities(MeansOfDunnett(in));
+    if (in.Has("group")) return OrNaN(test_->PowerOfOne(noncentralities[AskedGroup(in) - 1]));
+    const auto which = in.Flag("all-comparisons") ? comparisons::Comparisons::All : comparisons::Comparisons::Any;
+    return OrNaN(test_->Power(which, noncentralities));
+  }
+
+private:
+  std::optional<comparisons::DunnettTest> test_;
+  Numbers sizes_;
+  bool isOneSided_ = false;
+  double alpha_ = 0;
+};
+
+double Power(const Inputs& in) { return Powers()(in); }
+
+double HalfWidth(const Inputs& in) {
+  return comparisons::HalfWidthOfComparison(in.Number("sd"), in.List("n"), AskedGroup(in), in.Alpha());
+}
+
+Route PowerRoute(Names needs) {
+  needs.push_back("n");
+  return {.question = Question::Power,
+          .needs = std::move(needs),
+          .accepts = {"groups", "group", "all-comparisons", "one-sided"},
+          .value = Power,
+          .surfaceValue = Powers()};
+}
+
+Route SizeRoute(Names needs) {
+  return {.question = Question::SampleSize,
+          .needs = std::move(needs),
+          .accepts = {"ratios", "groups", "group", "all-comparisons", "one-sided"}};
+}
+
+}  // namespace
+
+std::vector<Route> RoutesOfDunnett() {
+  return {
+      PowerRoute({"means", "sd"}),
+      PowerRoute({"effect-d"}),
+      SizeRoute({"means", "sd"}),
+      SizeRoute({"effect-d"}),
+      {.question = Question::HalfWidth, .needs = {"group", "sd", "n"}, .accepts = {"groups"}, .value = HalfWidth},
+      {.question = Question::SampleSizeForHalfWidth, .needs = {"group", "sd"}, .accepts = {"ratios", "groups"}},
+  };
+}
+
+}  // namespace planner
