@@ -32,7 +32,8 @@ constexpr std::string_view tTests =
 constexpr std::string_view chiSquare =
     "the chi-square test of two groups is two-proportions: its z test squared; there is none of larger tables";
 constexpr std::string_view fisher = "Fisher's exact test is two-proportions with --method conditional";
-constexpr std::string_view correlations = "correlations are pearson, spearman and partial";
+constexpr std::string_view correlations =
+    "correlations are pearson, spearman and partial, and two of them two-correlations and dependent-correlations";
 constexpr std::string_view ranks = "there is no test of ranks but spearman; a t test such as two-means is another test";
 constexpr std::string_view survival =
     "there is no test of survival times; two-proportions at a fixed time is another test";

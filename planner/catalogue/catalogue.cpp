@@ -6,8 +6,20 @@ namespace planner {
 
 const std::vector<Test>& Tests() {
   static const std::vector<Test> tests = {
-      AnovaTest(),      ContrastTest(),       PairwiseTest(),          MeanTest(),    PairedMeansTest(), TwoMeansTest(),
-      ProportionTest(), TwoProportionsTest(), PairedProportionsTest(), PearsonTest(), SpearmanTest(),    PartialTest(),
+      AnovaTest(),
+      ContrastTest(),
+      PairwiseTest(),
+      MeanTest(),
+      PairedMeansTest(),
+      TwoMeansTest(),
+      ProportionTest(),
+      TwoProportionsTest(),
+      PairedProportionsTest(),
+      PearsonTest(),
+      SpearmanTest(),
+      PartialTest(),
+      TwoCorrelationsTest(),
+      DependentCorrelationsTest(),
       RegressionTest(),
   };
   return tests;

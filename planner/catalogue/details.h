@@ -25,6 +25,8 @@ Details DetailsOfRegression(Question question, const Inputs& in);
 Details DetailsOfPearson(Question question, const Inputs& in);
 Details DetailsOfSpearman(Question question, const Inputs& in);
 Details DetailsOfPartial(Question question, const Inputs& in);
+Details DetailsOfTwoCorrelations(Question question, const Inputs& in);
+Details DetailsOfDependentCorrelations(Question question, const Inputs& in);
 
 inline bool IsOneSided(const Inputs& in) { return in.Has("one-sided") && in.Flag("one-sided"); }
 

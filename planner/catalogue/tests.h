@@ -18,6 +18,8 @@ Test PairedProportionsTest();
 Test PearsonTest();
 Test SpearmanTest();
 Test PartialTest();
+Test TwoCorrelationsTest();
+Test DependentCorrelationsTest();
 Test RegressionTest();
 
 }  // namespace planner

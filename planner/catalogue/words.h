@@ -19,6 +19,8 @@ void AddWordsOfRegression(Test& test);
 void AddWordsOfPearson(Test& test);
 void AddWordsOfSpearman(Test& test);
 void AddWordsOfPartial(Test& test);
+void AddWordsOfTwoCorrelations(Test& test);
+void AddWordsOfDependentCorrelations(Test& test);
 
 }  // namespace planner
 

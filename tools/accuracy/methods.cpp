@@ -67,6 +67,20 @@ const Method methods[] = {
      "arguments "
      "the reflection formula. The coefficients are made by `tools/references/rational_fits.py`.",
      "Abramowitz and Stegun, Handbook of Mathematical Functions (1964), 6.1.17 and 6.1.40."},
+    {"CdfCorrelation", "Lower probability of a sample correlation: `CdfCorrelation(r, n, rho)`.",
+     "Fisher's integral for the density of r, with the order of the integrals exchanged: the one over r is an incomplete "
+     "beta function, and the other one is done by the trapezoidal rule, in a variable in which it converges "
+     "geometrically. All terms are positive. On the side of rho away from r the other tail is computed. Without a "
+     "correlation the beta distribution.",
+     "R. Fisher, Frequency Distribution of the Values of the Correlation Coefficient in Samples from an Indefinitely "
+     "Large Population, Biometrika 10 (1915). The exchange is our own."},
+    {"SfCorrelation", "Upper probability of a sample correlation: `SfCorrelation(r, n, rho)`.",
+     "As `CdfCorrelation`, of which it is the other tail.", "As `CdfCorrelation`."},
+    {"IdfCorrelation", "Quantile of a sample correlation: `IdfCorrelation(p, n, rho)`.",
+     "Newton's method for the logarithm of the smaller tail as a function of atanh(r), within a bracket. Without a "
+     "correlation from the quantile of t.",
+     "As `CdfCorrelation`; start: R. Fisher, On the Probable Error of a Coefficient of Correlation Deduced from a Small "
+     "Sample, Metron 1 (1921)."},
 };
 
 }  // namespace
