@@ -67,6 +67,9 @@ constexpr std::string_view correlations = "correlations are pearson, spearman an
 constexpr std::string_view ranks =
     "tests of ranks are mann-whitney for two groups, ordinal for ordered categories, signed-rank for pairs or one sample, "
     "and spearman";
+constexpr std::string_view correlations =
+    "correlations are pearson, spearman and partial, and two of them two-correlations and dependent-correlations";
+constexpr std::string_view ranks = "there is no test of ranks but spearman; a t test such as two-means is another test";
 constexpr std::string_view survival =
     "there is no test of survival times; two-proportions at a fixed time is another test";
 

@@ -6,11 +6,15 @@ namespace planner {
 
 const std::vector<Test>& Tests() {
   static const std::vector<Test> tests = {
-      AnovaTest(),         ContrastTest(),     PairwiseTest(),         TukeyTest(),          DunnettTest(),
-      FactorialTest(),     AncovaTest(),       RepeatedMeasuresTest(), MeanTest(),           PairedMeansTest(),
-      TwoMeansTest(),      CrossoverTest(),    MannWhitneyTest(),      SignedRankTest(),     OrdinalTest(),
-      VarianceTest(),      TwoVariancesTest(), ProportionTest(),       TwoProportionsTest(), PairedProportionsTest(),
-      GoodnessOfFitTest(), ContingencyTest(),  PearsonTest(),          SpearmanTest(),       PartialTest(),
+      AnovaTest(),          ContrastTest(),          PairwiseTest(),
+      TukeyTest(),          DunnettTest(),           FactorialTest(),
+      AncovaTest(),         RepeatedMeasuresTest(),  MeanTest(),
+      PairedMeansTest(),    TwoMeansTest(),          CrossoverTest(),
+      MannWhitneyTest(),    SignedRankTest(),        OrdinalTest(),
+      VarianceTest(),       TwoVariancesTest(),      ProportionTest(),
+      TwoProportionsTest(), PairedProportionsTest(), GoodnessOfFitTest(),
+      ContingencyTest(),    PearsonTest(),           SpearmanTest(),
+      PartialTest(),        TwoCorrelationsTest(),   DependentCorrelationsTest(),
       RegressionTest(),
   };
   return tests;

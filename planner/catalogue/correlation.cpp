@@ -44,7 +44,8 @@ std::vector<Route> Routes(const CorrelationKind& kind) {
 std::vector<ReportSentence> Sentences(const CorrelationKind& kind) {
   const std::string correlation = kind.wording + " correlation";
   const std::string test = "the {one-sided?one-sided:two-sided} test of a " + correlation + " of {null} by " +
-                           kind.method + " at a significance level of {alpha}";
+                           (kind.testMethod.empty() ? kind.method : kind.testMethod) +
+                           " at a significance level of {alpha}";
   const std::string interval =
       "{confidence} confidence interval of a " + correlation + " of {r}" + kind.given + " by " + kind.method;
   return {

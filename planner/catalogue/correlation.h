@@ -23,7 +23,8 @@ struct CorrelationKind {
   std::string exports;  // the end of the exports' names: "Pearson"
 
   std::string definition;             // what the correlation is of, in the words of `about`
-  std::string method = "Fisher's z";  // in sentences
+  std::string method = "Fisher's z";  // of the interval, in sentences
+  std::string testMethod = {};        // of the test; empty where it is that of the interval
   std::string given = {};             // "given {partialled-out} variables", after a space
   Names needs = {};                   // inputs besides `r` and `n`
   Names accepts = {};                 // inputs of the method

@@ -23,6 +23,9 @@ void AddRInterval(Details& details);
 Details DetailsOfPearsonTest(const kelpower::correlation::PearsonTest& test, const Inputs& in);
 Details DetailsOfPearsonInterval(const kelpower::correlation::PearsonInterval& interval, const Inputs& in);
 
+/// The power of the exact test of Pearson's correlation, from its critical values.
+Details DetailsOfExactPearson(const Inputs& in);
+
 }  // namespace planner
 
 #endif

@@ -4,6 +4,7 @@
 #include "catalogue/correlation_parameters.h"
 #include "catalogue/expected.h"
 #include "catalogue/offers.h"
+#include "correlation/exact_pearson.h"
 #include "correlation/pearson.h"
 
 namespace planner {
@@ -38,20 +39,32 @@ correlation::PearsonTest TowardsEffect(const Inputs& in) {
   return {{alpha, true}, 0, in.Flag("adjust-bias")};
 }
 
-/// The uncertainty is that of Fisher's z, on whose scale the test is.
+/// The uncertainty is that of Fisher's z, on whose scale the test is; `powerAt` is the power at a correlation in the
+/// direction expected.
+double MeanPower(const Inputs& in, kelpower::FunctionView<double(double alternative)> powerAt) {
+  const correlation::Hypotheses hypotheses = HypothesesOf(in);
+  const double effect = correlation::FisherDifference(hypotheses);
+  const double direction = effect < 0 ? -1 : 1;
+  const auto powerAtDistance = [&](double distance) {
+    return powerAt(std::tanh(std::atanh(hypotheses.null) + direction * distance));
+  };
+  return OrNaN(kelpower::expected_power::ExpectedPower(powerAtDistance, BeliefIn(effect, in.Number("effect-sd"))));
+}
+
 double ExpectedPower(const Inputs& in) {
   const double size = in.Number("n");
   if (size <= 3) return OrNaN(kelpower::NoValue::Refused);
   const correlation::Hypotheses hypotheses = HypothesesOf(in);
   const correlation::PearsonTest test = TowardsEffect(in);
-  const double effect = correlation::FisherDifference(hypotheses);
-  const double direction = effect < 0 ? -1 : 1;
-  const auto powerAt = [&](double distance) {
-    const double alternative = std::tanh(std::atanh(hypotheses.null) + direction * distance);
+  if (in.Flag("exact")) {
+    const auto critical = correlation::CriticalValues(test.level, size, hypotheses);
+    return MeanPower(in, [&](double alternative) { return critical.Power(size, alternative); });
+  }
+  const double direction = hypotheses.alternative < hypotheses.null ? -1 : 1;
+  return MeanPower(in, [&](double alternative) {
     const auto [shift, spread] = correlation::UnderAlternative(test, size, {alternative, hypotheses.null});
     return test.level.Power(direction * shift, spread, true);
-  };
-  return OrNaN(kelpower::expected_power::ExpectedPower(powerAt, BeliefIn(effect, in.Number("effect-sd"))));
+  });
 }
 
 double PowerLimit(const Inputs& in) {

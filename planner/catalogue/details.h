@@ -34,6 +34,8 @@ Details DetailsOfContingency(Question question, const Inputs& in);
 Details DetailsOfVariance(Question question, const Inputs& in);
 Details DetailsOfTwoVariances(Question question, const Inputs& in);
 Details DetailsOfMannWhitney(Question question, const Inputs& in);
+Details DetailsOfTwoCorrelations(Question question, const Inputs& in);
+Details DetailsOfDependentCorrelations(Question question, const Inputs& in);
 
 inline bool IsOneSided(const Inputs& in) { return in.Has("one-sided") && in.Flag("one-sided"); }
 

@@ -10,6 +10,7 @@ Details DetailsOfPearson(Question question, const Inputs& in) {
   if (!IsAboutPower(question)) {
     return DetailsOfPearsonInterval({correlation::Confidence(in.Alpha()), in.Number("r"), 0, isCorrected}, in);
   }
+  if (in.Flag("exact")) return DetailsOfExactPearson(in);
   Details details = DetailsOfPearsonTest({{in.Alpha(), in.Flag("one-sided")}, 0, isCorrected}, in);
   if (in.Number("null") == 0) {
     details.equivalents.push_back(
@@ -24,7 +25,7 @@ Details DetailsOfPearson(Question question, const Inputs& in) {
        .call = "Exact > Correlation: Bivariate normal model; tails {tails}, correlation rho H1 {r}, alpha {alpha}, "
                "{gpower-n}, correlation rho H0 {null}",
        .isSame = false,
-       .remark = "takes the exact distribution of r in place of Fisher's z"});
+       .remark = "takes the exact distribution of r in place of Fisher's z, as --exact does"});
   details.equivalents.push_back(
       {.program = "SAS",
        .call = "proc power; onecorr dist=fisherz nullcorr={null} corr={r} sides={sides} alpha={alpha} "

@@ -22,6 +22,8 @@ Test PairedProportionsTest();
 Test PearsonTest();
 Test SpearmanTest();
 Test PartialTest();
+Test TwoCorrelationsTest();
+Test DependentCorrelationsTest();
 Test RegressionTest();
 Test GoodnessOfFitTest();
 Test ContingencyTest();

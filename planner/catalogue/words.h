@@ -28,6 +28,8 @@ void AddWordsOfContingency(Test& test);
 void AddWordsOfVariance(Test& test);
 void AddWordsOfTwoVariances(Test& test);
 void AddWordsOfMannWhitney(Test& test);
+void AddWordsOfTwoCorrelations(Test& test);
+void AddWordsOfDependentCorrelations(Test& test);
 
 }  // namespace planner
 

@@ -108,6 +108,20 @@ const Method methods[] = {
      "The lower probability of the gamma distribution of shape x + 1.", "As `CdfGamma`."},
     {"IdfPoisson", "Largest count whose lower probability is at most p: `IdfPoisson(p, mean)`.",
      "As `IdfBin`, by `CdfPoisson`.", "As `IdfBin`."},
+    {"CdfCorrelation", "Lower probability of a sample correlation: `CdfCorrelation(r, n, rho)`.",
+     "Fisher's integral for the density of r, with the order of the integrals exchanged: the one over r is an incomplete "
+     "beta function, and the other one is done by the trapezoidal rule, in a variable in which it converges "
+     "geometrically. All terms are positive. On the side of rho away from r the other tail is computed. Without a "
+     "correlation the beta distribution.",
+     "R. Fisher, Frequency Distribution of the Values of the Correlation Coefficient in Samples from an Indefinitely "
+     "Large Population, Biometrika 10 (1915). The exchange is our own."},
+    {"SfCorrelation", "Upper probability of a sample correlation: `SfCorrelation(r, n, rho)`.",
+     "As `CdfCorrelation`, of which it is the other tail.", "As `CdfCorrelation`."},
+    {"IdfCorrelation", "Quantile of a sample correlation: `IdfCorrelation(p, n, rho)`.",
+     "Newton's method for the logarithm of the smaller tail as a function of atanh(r), within a bracket. Without a "
+     "correlation from the quantile of t.",
+     "As `CdfCorrelation`; start: R. Fisher, On the Probable Error of a Coefficient of Correlation Deduced from a Small "
+     "Sample, Metron 1 (1921)."},
 };
 
 }  // namespace

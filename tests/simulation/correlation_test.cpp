@@ -1,0 +1,143 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+#include "correlation/dependent_correlations.h"
+#include "correlation/exact_pearson.h"
+#include "correlation/two_correlations.h"
+#include "support/drawn_correlation.h"
+#include "support/share_of_studies.h"
+
+// Studies drawn from normal distributions, with the test done as its users do it. The exact test has the power stated;
+// of the tests by Fisher's z, which is nearly normal, the documentation says how far the power stated may be off.
+namespace kelpower::correlation {
+namespace {
+
+constexpr int studies = 1000000;
+
+TEST(ExactPearson, RejectsAsOftenAsItsPowerSays) {
+  struct Design {
+    int size;
+    double r;
+    double null;
+    bool isOneSided;
+  };
+  unsigned seed = 20261122;
+  for (const Design& design : {Design{8, 0.3, 0.8, false}, Design{5, -0.6, 0, true}, Design{20, 0.7, 0.4, false}}) {
+    const Level level(0.05, design.isOneSided);
+    const CriticalCorrelations critical = CriticalValues(level, design.size, {design.r, design.null});
+    const SimulatedShare share = Simulate(studies, seed++, [&](auto& engine) {
+      const double r = DrawCorrelation(engine, design.size, design.r);
+      return r <= critical.below || r >= critical.above;
+    });
+    const double power = *ExactPower(level, design.size, {design.r, design.null});
+    EXPECT_LT(share.StandardErrorsFrom(power), kMostStandardErrors)
+        << design.size << ' ' << share.share << ' ' << power;
+  }
+}
+
+/// How far the share of studies is from the power, beyond what chance explains.
+double Beyond(const SimulatedShare& share, double power) {
+  return std::fabs(share.share - power) - kMostStandardErrors * std::sqrt(power * (1 - power) / share.studies);
+}
+
+// Stated in docs/correlation.md.
+constexpr double statedForIndependent = 0.01;
+constexpr double statedForDependent = 0.015;
+
+TEST(TwoCorrelations, RejectAboutAsOftenAsTheirPowerSays) {
+  struct Design {
+    GroupSizes sizes;
+    double first;
+    double second;
+    bool isOneSided;
+  };
+  unsigned seed = 20261123;
+  for (const Design& design :
+       {Design{{20, 20}, 0.3, 0.3, false}, Design{{25, 40}, 0.75, 0.3, false}, Design{{30, 15}, -0.2, 0.5, true}}) {
+    const Level level(0.05, design.isOneSided);
+    const double direction = design.first > design.second ? 1 : -1;
+    const double error = StandardError(design.sizes);
+    const SimulatedShare share = Simulate(studies / 4, seed++, [&](auto& engine) {
+      const double first = DrawCorrelation(engine, static_cast<int>(design.sizes.first), design.first);
+      const double second = DrawCorrelation(engine, static_cast<int>(design.sizes.second), design.second);
+      const double z = direction * FisherDifference({first, second}) / error;
+      return design.isOneSided ? z > level.critical : std::fabs(z) > level.critical;
+    });
+    const double power = *PowerOfDifference(level, FisherDifference({design.first, design.second}), design.sizes);
+    EXPECT_LT(Beyond(share, power), statedForIndependent) << share.share << ' ' << power;
+  }
+}
+
+/// A sample of four variables, by the triangular factor of their correlations.
+class Variables {
+public:
+  explicit Variables(const SeparatePairs& c) {
+    const double r[4][4] = {
+        {1, c.r12, c.r13, c.r14}, {c.r12, 1, c.r23, c.r24}, {c.r13, c.r23, 1, c.r34}, {c.r14, c.r24, c.r34, 1}};
+    for (int i = 0; i < 4; ++i) {
+      for (int j = 0; j <= i; ++j) {
+        double rest = r[i][j];
+        for (int k = 0; k < j; ++k) rest -= factor_[i][k] * factor_[j][k];
+        factor_[i][j] = i == j ? std::sqrt(rest) : rest / factor_[j][j];
+      }
+    }
+  }
+
+  template <typename Engine>
+  SeparatePairs Draw(Engine& engine, int size) const {
+    std::normal_distribution<double> normal;
+    double sums[4] = {};
+    double products[4][4] = {};
+    for (int row = 0; row < size; ++row) {
+      double independent[4];
+      double x[4];
+      for (int i = 0; i < 4; ++i) {
+        independent[i] = normal(engine);
+        x[i] = 0;
+        for (int k = 0; k <= i; ++k) x[i] += factor_[i][k] * independent[k];
+        sums[i] += x[i];
+        for (int j = 0; j <= i; ++j) products[i][j] += x[i] * x[j];
+      }
+    }
+    const auto moment = [&](int i, int j) { return products[i][j] - sums[i] * sums[j] / size; };
+    const auto r = [&](int j, int i) { return moment(i, j) / std::sqrt(moment(i, i) * moment(j, j)); };
+    return {r(0, 1), r(2, 3), r(0, 2), r(0, 3), r(1, 2), r(1, 3)};
+  }
+
+private:
+  double factor_[4][4] = {};
+};
+
+/// Steiger's statistic of a sample: its standard error is that at the average of the correlations compared.
+template <typename Correlations>
+double Statistic(const Correlations& sample, int size) {
+  return UnderAlternative(sample, NullCorrelations::Average, size).shift;
+}
+
+SharedVariable FirstThree(const SeparatePairs& c) { return {c.r12, c.r13, c.r23}; }
+
+TEST(DependentCorrelations, RejectAboutAsOftenAsTheirPowerSays) {
+  const Level level(0.05, false);
+  constexpr int size = 60;
+  unsigned seed = 20261124;
+  for (const SeparatePairs& c : {SeparatePairs{0.5, 0.1, 0.2, 0.2, 0.2, 0.2}, SeparatePairs{0.3, 0.3, 0.5, 0.2, 0.1, 0},
+                                 SeparatePairs{0.7, 0.4, 0.5, 0.3, 0.6, 0.3}}) {
+    const Variables variables(c);
+    int inCommon = 0;
+    const SimulatedShare pairs = Simulate(studies / 8, seed++, [&](auto& engine) {
+      const SeparatePairs sample = variables.Draw(engine, size);
+      inCommon += std::fabs(Statistic(FirstThree(sample), size)) > level.critical ? 1 : 0;
+      return std::fabs(Statistic(sample, size)) > level.critical;
+    });
+    const SimulatedShare common{inCommon / pairs.studies, pairs.studies};
+    const double power = *Power(level, c, NullCorrelations::Average, size);
+    const double powerInCommon = *Power(level, FirstThree(c), NullCorrelations::Average, size);
+    EXPECT_LT(Beyond(pairs, power), statedForDependent) << pairs.share << ' ' << power;
+    EXPECT_LT(Beyond(common, powerInCommon), statedForDependent) << common.share << ' ' << powerInCommon;
+  }
+}
+
+}  // namespace
+}  // namespace kelpower::correlation
