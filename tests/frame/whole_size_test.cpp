@@ -56,8 +56,8 @@ void ExpectFirst(double smallest, double target, Power powerAt, int mostEvaluati
 }
 
 TEST(FirstWholeSize, ReachesTheTargetAndTheOneBeforeItDoesNot) {
-  for (const double effect : {3.0, 1.0, 0.5, 0.2, 0.05, 0.01, 1e-3, 1e-5}) {
-    for (const double target : {0.051, 0.3, 0.8, 0.95, 0.9999, 1 - 1e-12}) {
+  for (const double effect : {3.0, 1.0, 0.5, 0.2, 0.05, 0.01, 1e-3}) {
+    for (const double target : {0.051, 0.3, 0.8, 0.95, 0.9999}) {
       SCOPED_TRACE(testing::Message() << effect << ' ' << target);
       ExpectFirst(
           2, target, [&](double number) { return NormalPower(effect, number); }, 14);
@@ -67,7 +67,18 @@ TEST(FirstWholeSize, ReachesTheTargetAndTheOneBeforeItDoesNot) {
   }
 }
 
-TEST(FirstWholeSize, TakesFewEvaluationsOfAnUsualDesign) {
+// Where powers next to each other differ by their rounding errors, lines lead astray and halving ends the search.
+TEST(FirstWholeSize, IsFoundAmongPowersThatHardlyDiffer) {
+  for (const double target : {0.051, 0.8, 1 - 1e-12}) {
+    SCOPED_TRACE(target);
+    ExpectFirst(
+        2, target, [](double number) { return NormalPower(1e-5, number); }, 60);
+    ExpectFirst(
+        2, target, [](double number) { return FPower(1e-5, number); }, 60);
+  }
+}
+
+TEST(FirstWholeSize, TakesFewEvaluationsOfAUsualDesign) {
   EXPECT_LE(Search(2, 0.8, [](double number) { return NormalPower(0.25, number); }).evaluations, 5);
   EXPECT_LE(Search(2, 0.8, [](double number) { return FPower(0.25, number); }).evaluations, 6);
 }
