@@ -275,8 +275,12 @@ std::string NoteOn(Question question, const Inputs& inputs, double value) {
                        Shortest(inputs.Alpha()));
   }
   const bool isLow = IsAboutPower(question) && value <= inputs.Alpha() * (1 + rounding);
-  return isLow ? "The power is not above the significance level: the test would reject as often without any effect."
-               : "";
+  if (!isLow) return "";
+  // Against margins no effect may be what is to be shown.
+  const bool hasMargins = inputs.Has("margin") || inputs.Has("equivalence");
+  return hasMargins
+             ? "The power is not above the significance level."
+             : "The power is not above the significance level: the test would reject as often without any effect.";
 }
 
 std::string NoteOn(const DesignAnswer& answer) {
