@@ -45,7 +45,9 @@ TEST(Hints, SayThatAnotherTestIsAnother) {
 
 TEST(Hints, LeadToMargins) {
   for (const char* word : {"equivalence", "tost", "non-inferiority"}) {
-    EXPECT_TRUE(Holds(Said(word), "options of mean, paired-means, two-means, crossover, proportion and two-proportions")) << word;
+    EXPECT_TRUE(
+        Holds(Said(word), "options of mean, paired-means, two-means, crossover, proportion and two-proportions"))
+        << word;
   }
   EXPECT_TRUE(Holds(Said("crossover --total 24"), "--n gives the size of each sequence"));
   EXPECT_TRUE(Holds(Said("crossover --tost"), "--equivalence LOWER,UPPER"));
