@@ -41,10 +41,10 @@ void AddWordsOfMean(Test& test) {
        "To show that the difference of the mean from the test value is above -3, given a mean of 101 against 100 "
        "with a standard deviation of 10, with a power of 0.8, the test of non-inferiority with a one-sided "
        "one-sample t test at a significance level of 0.025 needs 52 observations; its power is then 0.8078."},
-      {"mean --mean 100 --test-value 100 --sd 10 --equivalence -4,4 --n 70",
+      {"mean --mean 101 --test-value 100 --sd 10 --equivalence -4,4 --n 70",
        "With 70 observations, the test of equivalence with two one-sided one-sample t tests at a significance level "
-       "of 0.05 has a power of 0.9048 to show that the difference of the mean from the test value is between -4 and "
-       "4, given a mean of 100 against 100 with a standard deviation of 10."},
+       "of 0.05 has a power of 0.7934 to show that the difference of the mean from the test value is between -4 and "
+       "4, given a mean of 101 against 100 with a standard deviation of 10."},
       {"mean --sd 10 --n 40 --interval",
        "With 40 observations and a standard deviation of 10, the 95% confidence interval of the mean has a half-width "
        "of 3.198."},

@@ -96,6 +96,14 @@ TEST(Equivalence, KeepsItsLevelOnTheLimits) {
   EXPECT_NEAR(PowerAt(1, 0.05, {30, 0.02}), 0.05, 1e-14);
 }
 
+// Limits of 5.97 around 0, a difference of 8.5448 either way and a standard deviation of 1 in two groups of 7, at a level
+// of 0.41: 2.33563295336e-7 in multiple precision.
+TEST(Equivalence, KeepsTheDigitsOfSmallPowers) {
+  const DifferenceDistribution estimate = PooledDifference(7, 7, 1);
+  EXPECT_NEAR(*PowerBetweenLimits({5.97 + 8.5448, 5.97 - 8.5448}, 0.41, estimate), 2.33563295336e-7, 1e-18);
+  EXPECT_NEAR(*PowerBetweenLimits({5.97 - 8.5448, 5.97 + 8.5448}, 0.41, estimate), 2.33563295336e-7, 1e-18);
+}
+
 // At a level above one half the critical value is negative, and no spread is too large to reject.
 TEST(Equivalence, HasLevelsAboveOneHalf) {
   EXPECT_NEAR(PowerAt(0, 0.5, {10, 1e6}), 0, 1e-6);

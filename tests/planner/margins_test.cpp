@@ -104,6 +104,8 @@ TEST(Margins, AreFoundAsNumbersThatReachThePower) {
   EXPECT_LT(bad, 0);
   EXPECT_NEAR(margin(Asked(given + "6 --superiority")), 6 + bad, 1e-9);
   EXPECT_NEAR(margin(Asked(given + "-6 --superiority")), -6 - bad, 1e-9);
+  // Beyond no effect a margin would ask for the other direction.
+  EXPECT_THROW(Asked(given + "4 --non-inferiority"), NoSolution);
   EXPECT_LT(margin(Asked("crossover --mean-ratio 1 --cv 0.3 --n 20 --power 0.8 --non-inferiority")), 1);
   EXPECT_GT(margin(Asked("crossover --mean-ratio 1 --cv 0.3 --n 20 --power 0.8 --non-inferiority")), 0);
 }
