@@ -13,11 +13,13 @@ double Power(const Inputs& in) {
 }
 
 Numbers Size(const Inputs& in) {
-  return RoundedUp(proportions::FirstSize(OneSampleMarginDesignOf(in), in.Number("proportion"), in.Number("power")));
+  return RoundedUp(
+      proportions::FirstSize(OneSampleMarginDesignOf(in), in.Number("proportion"), in.Number("power"), StopOf(in)));
 }
 
 double LastingSize(const Inputs& in) {
-  return OrNaN(proportions::LastingSize(OneSampleMarginDesignOf(in), in.Number("proportion"), in.Number("power")));
+  return OrNaN(
+      proportions::LastingSize(OneSampleMarginDesignOf(in), in.Number("proportion"), in.Number("power"), StopOf(in)));
 }
 
 }  // namespace

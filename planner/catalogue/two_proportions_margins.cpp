@@ -65,7 +65,7 @@ std::vector<Parameter> MarginParametersOfTwoProportions() {
 std::vector<Derived> MarginFiguresOfTwoProportions() {
   std::vector<Derived> figures;
   for (Name way : {Name("margin"), Name("equivalence")}) {
-    figures.push_back({.name = "attained-level",
+    figures.push_back({.name = "attained-at-margin",
                        .label = "significance level attained",
                        .needs = {"n", "exact", way},
                        .call = AttainedLevelOfMargins});

@@ -18,8 +18,15 @@ namespace {
 /// falls, and neither the failures nor their critical count. So the misses at the ends of a stretch bound those inside.
 class PowerBounds {
 public:
-  PowerBounds(const OneSampleMarginDesign& design, double proportion)
-      : limits_(design.limits), test_(design), proportion_(proportion) {}
+  PowerBounds(const OneSampleMarginDesign& design, double proportion, Stop stop)
+      : limits_(design.limits), test_(design), proportion_(proportion), stop_(stop) {}
+
+  /// Asks whether to end the search.
+  bool Stops() {
+    isStopped_ = isStopped_ || AnswersStop(stop_);
+    return isStopped_;
+  }
+  bool IsStopped() const { return isStopped_; }
 
   double Least(double from, double to) const { return 1 - Misses(from, to); }
   double Most(double from, double to) const { return std::max(0.0, 1 - Misses(to, from)); }
@@ -31,9 +38,9 @@ private:
   double Misses(double few, double many) const {
     long error = 0;
     double misses = 0;
-    if (limits_.HasLower()) misses += KelDistFun::CdfBin(test_.Region(many).lower - 1, few, proportion_, error);
+    if (limits_.HasLower()) misses += KelDistFun::CdfBin(test_.LeastCount(many) - 1, few, proportion_, error);
     if (limits_.HasUpper()) {
-      const double allowed = test_.Region(few).upper;
+      const double allowed = test_.MostCount(few);
       misses += KelDistFun::CdfBin(many - allowed - 1, many, 1 - proportion_, error);
     }
     return misses;
@@ -42,11 +49,14 @@ private:
   ProportionLimits limits_;
   OneSampleMarginTest test_;
   double proportion_;
+  Stop stop_;
+  bool isStopped_ = false;
 };
 
-/// The largest size from `from` to `to` that misses the power, 0 when there is none.
-double LastMissing(const PowerBounds& bounds, double power, double from, double to) {
+/// The largest size from `from` to `to` that misses the power, 0 when there is none. Any once it is stopped.
+double LastMissing(PowerBounds& bounds, double power, double from, double to) {
   if (from > to) return 0;
+  if (bounds.Stops()) return to;
   if (from == to) return bounds.At(from) >= power ? 0 : from;
   if (bounds.Least(from, to) >= power) return 0;
   const double middle = std::floor(from + (to - from) / 2);
@@ -54,8 +64,9 @@ double LastMissing(const PowerBounds& bounds, double power, double from, double 
   return upper > 0 ? upper : LastMissing(bounds, power, from, middle);
 }
 
-/// The smallest size from `from` to `to` that reaches the power, 0 when there is none.
-double FirstReaching(const PowerBounds& bounds, double power, double from, double to) {
+/// The smallest size from `from` to `to` that reaches the power, 0 when there is none. Any once it is stopped.
+double FirstReaching(PowerBounds& bounds, double power, double from, double to) {
+  if (bounds.Stops()) return from;
   if (from == to) return bounds.At(from) >= power ? from : 0;
   if (bounds.Most(from, to) < power) return 0;
   const double middle = std::floor(from + (to - from) / 2);
@@ -78,25 +89,27 @@ double CertainSizeOf(const OneSampleMarginDesign& design, double proportion, dou
 }
 
 /// What `find` makes of the bounds and the certain size.
-Answer Search(const OneSampleMarginDesign& design, double proportion, double power,
-              FunctionView<double(const PowerBounds&, double)> find) {
+Answer Search(const OneSampleMarginDesign& design, double proportion, double power, Stop stop,
+              FunctionView<double(PowerBounds&, double)> find) {
   if (!OneSampleMarginTest(design).Power(1, proportion)) return NoValue::Refused;
   if (!(power < 1) || !IsInside(design.limits, proportion)) return NoValue::NotReached;
   const double certain = CertainSizeOf(design, proportion, power);
   if (!(certain <= largestCount)) return NoValue::Uncountable;
-  return find(PowerBounds(design, proportion), certain);
+  PowerBounds bounds(design, proportion, stop);
+  const double found = find(bounds, certain);
+  return bounds.IsStopped() ? Answer(NoValue::Stopped) : found;
 }
 
 }  // namespace
 
-Answer FirstSize(const OneSampleMarginDesign& design, double proportion, double power) {
-  return Search(design, proportion, power,
-                [&](const PowerBounds& bounds, double certain) { return FirstReaching(bounds, power, 1, certain); });
+Answer FirstSize(const OneSampleMarginDesign& design, double proportion, double power, Stop stop) {
+  return Search(design, proportion, power, stop,
+                [&](PowerBounds& bounds, double certain) { return FirstReaching(bounds, power, 1, certain); });
 }
 
-Answer LastingSize(const OneSampleMarginDesign& design, double proportion, double power) {
-  return Search(design, proportion, power,
-                [&](const PowerBounds& bounds, double certain) { return LastMissing(bounds, power, 1, certain) + 1; });
+Answer LastingSize(const OneSampleMarginDesign& design, double proportion, double power, Stop stop) {
+  return Search(design, proportion, power, stop,
+                [&](PowerBounds& bounds, double certain) { return LastMissing(bounds, power, 1, certain) + 1; });
 }
 
 }  // namespace kelpower::proportions

@@ -79,12 +79,13 @@ double OneSampleMarginTest::NormalPower(double size, double proportion) const {
   return probability < 0 ? 0 : probability;
 }
 
-CriticalRegion OneSampleMarginTest::Region(double size) const {
-  CriticalRegion region{0, size};
-  // The test of the lower limit in failures, so that both are told in small tails.
-  if (design_.limits.HasLower()) region.lower = size - LowerCritical(size, 1 - design_.limits.lower, tail_).count;
-  if (design_.limits.HasUpper()) region.upper = LowerCritical(size, design_.limits.upper, tail_).count;
-  return region;
+// Of the lower limit in failures, so that both are told in small tails.
+double OneSampleMarginTest::LeastCount(double size) const {
+  return design_.limits.HasLower() ? size - LowerCritical(size, 1 - design_.limits.lower, tail_).count : 0;
+}
+
+double OneSampleMarginTest::MostCount(double size) const {
+  return design_.limits.HasUpper() ? LowerCritical(size, design_.limits.upper, tail_).count : size;
 }
 
 Answer OneSampleMarginTest::ExactPower(double size, double proportion) const {

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "frame/answer.h"
+#include "frame/stop.h"
 #include "proportions/critical_counts.h"
 
 namespace kelpower::proportions {
@@ -52,7 +53,9 @@ public:
   OneSampleMarginStatistic Statistic(double size, double proportion) const;
 
   /// The counts from `lower` to `upper` are those with which the exact test at a whole size excludes its limits.
-  CriticalRegion Region(double size) const;
+  CriticalRegion Region(double size) const { return {LeastCount(size), MostCount(size)}; }
+  double LeastCount(double size) const;
+  double MostCount(double size) const;
 
   /// The level that the exact test attains, the larger one of those at its limits.
   double AttainedLevel(double size) const;
@@ -68,9 +71,9 @@ private:
 
 /// The smallest size at which the exact test reaches a power, and the smallest from which on every size does. Not
 /// reached where the proportion expected does not lie inside the limits, and for a power of 1 or more; uncountable
-/// where the size may be above `largestCount`.
-Answer FirstSize(const OneSampleMarginDesign& design, double proportion, double power);
-Answer LastingSize(const OneSampleMarginDesign& design, double proportion, double power);
+/// where the size may be above `largestCount`. `stop` is asked once for each stretch of sizes.
+Answer FirstSize(const OneSampleMarginDesign& design, double proportion, double power, Stop stop = {});
+Answer LastingSize(const OneSampleMarginDesign& design, double proportion, double power, Stop stop = {});
 
 }  // namespace kelpower::proportions
 

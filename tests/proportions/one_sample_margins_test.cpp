@@ -193,6 +193,18 @@ TEST(OneSampleMargins, SayWhyThereIsNoSize) {
   EXPECT_EQ(LastingSize(Between(0.7, 0.5, 0.05, true), 0.6, 0.8).Reason(), NoValue::Refused);
 }
 
+TEST(OneSampleMargins, EndTheSearchWhenAsked) {
+  for (const double most : {0.0, 5.0, 40.0}) {
+    double asked = 0;
+    const auto stop = [&] { return ++asked > most; };
+    EXPECT_EQ(FirstSize(Between(0.5, 0.7, 0.05, true), 0.68, 0.8, stop).Reason(), NoValue::Stopped);
+    EXPECT_EQ(asked, most + 1);
+    asked = 0;
+    EXPECT_EQ(LastingSize(Between(0.5, 0.7, 0.05, true), 0.68, 0.8, stop).Reason(), NoValue::Stopped);
+    EXPECT_EQ(asked, most + 1);
+  }
+}
+
 TEST(OneSampleMargins, AnswerForEveryNumber) {
   const double numbers[] = {NAN, -infinity,          -1, -0.0, 0,  1e-310, 1e-17, 0.025,
                             0.5, 0.9999999999999999, 1,  2,    37, 1e9,    1e308, infinity};

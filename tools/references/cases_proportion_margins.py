@@ -2,9 +2,9 @@
 """Writes reference cases of proportions against margins: non-inferiority, superiority by a margin, equivalence.
 
 Binomial probabilities are summed, normal ones evaluated, and the most likely proportions under a limit found as roots
-of the score equation, all at 40 digits. The exact unconditional test is done by its definition: all tables in the order of
-the statistic, and the proportions at the limit on a fine grid. A size is the first whole one whose power reaches the
-target.
+of the score equation, all at 40 digits. The exact unconditional test is done by its definition: all tables in the
+order of the statistic, and the proportions at the limit on a fine grid. A size is the first whole one whose power
+reaches the target.
 
     cases_proportion_margins.py proportion > tests/vectors/proportion.cases.jsonl
     cases_proportion_margins.py two-proportions > tests/vectors/two-proportions.cases.jsonl
