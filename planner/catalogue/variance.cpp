@@ -14,7 +14,6 @@
 
 namespace planner {
 namespace {
-
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
 double Power(const Inputs& in) {

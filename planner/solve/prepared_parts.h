@@ -19,10 +19,11 @@ inline void SetSizes(Inputs& inputs, const Numbers& sizes) {
   inputs.Set("n", sizes.front());
 }
 
-/// The design with these sizes in place of the ratios that they are found from.
+/// The design with these sizes in place of the ratios that they are found from. Ratios beside a single size are part of
+/// the design.
 inline Inputs AtSizes(const Inputs& inputs, const Numbers& sizes) {
   Inputs atSizes = inputs;
-  atSizes.Erase("ratios");
+  if (sizes.size() > 1) atSizes.Erase("ratios");
   SetSizes(atSizes, sizes);
   return atSizes;
 }

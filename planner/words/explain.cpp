@@ -18,10 +18,10 @@ namespace {
 /// tell as much.
 Inputs AtSizes(const Answer& answer) {
   Inputs inputs = answer.inputs;
-  inputs.Erase("ratios");
   if (answer.test->groups == 1) {
     inputs.Set("n", answer.sizes.front());
   } else {
+    inputs.Erase("ratios");
     inputs.SetList("n", answer.sizes);
   }
   return AtEffectiveSizes(std::move(inputs));

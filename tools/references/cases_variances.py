@@ -15,54 +15,53 @@ mp.dps = 40
 WITHIN = 1e-13
 
 
-def chi_square_tails(x, df):
-    half = mpf(df) / 2
-    return (mp.gammainc(half, 0, mpf(x) / 2, regularized=True), mp.gammainc(half, mpf(x) / 2, mp.inf, regularized=True))
+def chi_square_tail(x, df, is_upper):
+    half, point = mpf(df) / 2, mpf(x) / 2
+    if is_upper:
+        return mp.gammainc(half, point, mp.inf, regularized=True)
+    return mp.gammainc(half, 0, point, regularized=True)
 
 
-def f_tails(x, df1, df2):
-    share = df1 * mpf(x) / (df1 * mpf(x) + df2)
-    lower = mp.betainc(mpf(df1) / 2, mpf(df2) / 2, 0, share, regularized=True)
-    upper = mp.betainc(mpf(df2) / 2, mpf(df1) / 2, 0, df2 / (df1 * mpf(x) + df2), regularized=True)
-    return lower, upper
+def f_tail(x, df1, df2, is_upper):
+    whole = df1 * mpf(x) + df2
+    if is_upper:
+        return mp.betainc(mpf(df2) / 2, mpf(df1) / 2, 0, df2 / whole, regularized=True)
+    return mp.betainc(mpf(df1) / 2, mpf(df2) / 2, 0, df1 * mpf(x) / whole, regularized=True)
 
 
-def quantile(tails, probability, is_upper):
-    """The point with that tail: the secant of the logarithms of tail and point, within a bracket."""
-    index = 1 if is_upper else 0
+def quantile(tail, mean, probability, is_upper):
+    """The point with that tail: the root of the logarithms of tail and point, within a bracket about the mean."""
     target = mp.log(mpf(probability))
-    low, high = mpf(-3), mpf(3)
 
     def excess(v):
-        value = mp.log(tails(mp.exp(v))[index]) - target
+        value = mp.log(tail(mean * mp.exp(v), is_upper)) - target
         return -value if is_upper else value
 
+    low, high = mpf(-0.1), mpf(0.1)
     while excess(low) > 0:
-        low -= 4
+        low *= 2
     while excess(high) < 0:
-        high += 4
-    return mp.exp(mp.findroot(excess, (low, high), solver="anderson", tol=mpf(10) ** -64, verify=False, maxsteps=200))
+        high *= 2
+    return mean * mp.exp(mp.findroot(excess, (low, high), solver="anderson", tol=mpf(10) ** -64, verify=False, maxsteps=200))
 
 
-def power(tails, ratio, alpha, is_one_sided):
+def power(tail, mean, ratio, alpha, is_one_sided):
     share = mpf(alpha) if is_one_sided else mpf(alpha) / 2
     ratio = mpf(ratio)
-    has_upper = not is_one_sided or ratio >= 1
-    has_lower = not is_one_sided or ratio < 1
     total = mpf(0)
-    if has_upper:
-        total += tails(quantile(tails, share, True) / ratio)[1]
-    if has_lower:
-        total += tails(quantile(tails, share, False) / ratio)[0]
+    if not is_one_sided or ratio >= 1:
+        total += tail(quantile(tail, mean, share, True) / ratio, True)
+    if not is_one_sided or ratio < 1:
+        total += tail(quantile(tail, mean, share, False) / ratio, False)
     return total
 
 
 def power_of_one(n, ratio, alpha=0.05, is_one_sided=False):
-    return power(lambda x: chi_square_tails(x, n - 1), ratio, alpha, is_one_sided)
+    return power(lambda x, is_upper: chi_square_tail(x, n - 1, is_upper), mpf(n - 1), ratio, alpha, is_one_sided)
 
 
 def power_of_two(n1, n2, ratio, alpha=0.05, is_one_sided=False):
-    return power(lambda x: f_tails(x, n1 - 1, n2 - 1), ratio, alpha, is_one_sided)
+    return power(lambda x, is_upper: f_tail(x, n1 - 1, n2 - 1, is_upper), mpf(1), ratio, alpha, is_one_sided)
 
 
 def first_size(reaches):
@@ -104,14 +103,14 @@ def variance(folder):
             for alpha, is_one_sided in LEVELS[k % 2::2]:
                 inputs = {"variance-ratio": ratio, "n": n, **options(alpha, is_one_sided)}
                 cases.add(inputs, "power", float(power_of_one(n, ratio, alpha, is_one_sided)), WITHIN)
-    for ratio, n in [(1.0, 30), (1e-6, 3), (1e6, 3), (1.01, 5000), (0.999, 100000)]:
+    for ratio, n in [(1.0, 30), (1e-6, 3), (1e6, 3), (1.01, 5000)]:
         cases.add({"variance-ratio": ratio, "n": n}, "power", float(power_of_one(n, ratio)), WITHIN)
     for sd, null, n in [(12, 10, 60), (8, 10, 45), (0.5, 0.4, 25)]:
         ratio = (mpf(sd) / mpf(null)) ** 2
         cases.add({"sd": sd, "null-sd": null, "n": n}, "power", float(power_of_one(n, ratio)), WITHIN)
         cases.add({"sd": sd, "null-sd": null, "n": n}, "variance-ratio", float(ratio), WITHIN)
     for ratio, target, alpha, is_one_sided in [(1.5, 0.8, 0.05, False), (1.5, 0.8, 0.05, True), (0.5, 0.9, 0.05, False),
-                                               (2.0, 0.95, 0.01, True), (1.1, 0.8, 0.05, False), (10.0, 0.8, 0.05, True)]:
+                                               (2.0, 0.95, 0.01, True), (1.2, 0.8, 0.05, False), (10.0, 0.8, 0.05, True)]:
         size = first_size(lambda n: power_of_one(n, ratio, alpha, is_one_sided) >= target)
         cases.add({"variance-ratio": ratio, "power": target, **options(alpha, is_one_sided)}, "n", size, 0)
     third = 2 / 3
