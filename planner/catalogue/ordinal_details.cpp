@@ -37,18 +37,23 @@ void AddMoments(Details& details, const ranks::OrdinalMoments& moments) {
   details.Add("v0", "variance of shares in the mixture of the groups", moments.mixtureVariance);
 }
 
-/// A row of category numbers with probabilities as weights.
+/// "1 2 3" of three categories.
+std::string CategoryNumbers(std::size_t categories) {
+  std::string numbers = "1";
+  for (std::size_t i = 2; i <= categories; ++i) numbers += ' ' + std::to_string(i);
+  return numbers;
+}
+
 void AddSas(Details& details, const Inputs& in) {
   if (!in.Has("probabilities2") || OrdinalTestOf(in).method != OrdinalMethod::LogOdds) return;
   const bool isBalanced = in.List("n")[0] == in.List("n")[1];
+  const std::string numbers = CategoryNumbers(in.List("probabilities1").size());
   details.equivalents.push_back(
       {.program = "SAS",
-       .call =
-           std::string("proc power; twosamplewilcoxon vardist(\"first\") = ordinal((categories) : ({probabilities1_})) "
-                       "vardist(\"second\") = ordinal((categories) : ({probabilities2_})) variables = \"first\" | "
-                       "\"second\" sides={sides} alpha={alpha} ") +
-           (isBalanced ? "npergroup={n-or-dot} power={power-or-dot}; run;" : "groupns={n|} power=.; run;"),
-       .remark = "categories stands for their numbers, 1 2 3 and so on"});
+       .call = "proc power; twosamplewilcoxon vardist(\"first\") = ordinal((" + numbers +
+               ") : ({probabilities1_})) vardist(\"second\") = ordinal((" + numbers +
+               ") : ({probabilities2_})) variables=\"first\" | \"second\" sides={sides} alpha={alpha} " +
+               (isBalanced ? "npergroup={n-or-dot} power={power-or-dot}; run;" : "groupns={n|} power=.; run;")});
 }
 
 }  // namespace

@@ -24,7 +24,11 @@ void AddNearlyNormal(Details& details, const kelpower::ranks::NormalTest& test,
   details.Add("threshold", "what its distance from 0 must exceed", threshold);
   details.Add("sd-with-effect", "standard deviation with the effect", sd);
   details.value = test.Power(statistic);
-  SetNormalStatistic(details, effect / nullSd, sd / nullSd, threshold / nullSd, TailsOf(isOneSided, true));
+  // A correction for continuity moves each tail by itself, so that they are not areas of one distribution.
+  const bool isCorrected = threshold != test.Critical() * nullSd;
+  if (!isCorrected) {
+    SetNormalStatistic(details, effect / nullSd, sd / nullSd, test.Critical(), TailsOf(isOneSided, true));
+  }
   const std::string near = "pnorm(({effect} - {threshold}) / {sd-with-effect})";
   details.equivalents.push_back(
       {.program = "R",
