@@ -48,7 +48,6 @@ double Power(const Inputs& in) {
                                     : correlation::Power(level, SharedVariableOf(in), null, n));
 }
 
-/// The power tells the sizes, too.
 std::vector<Route> Routes() {
   std::vector<Route> routes;
   for (const Names& correlations : {Names{"r12", "r13", "r23"}, Names{"r12", "r34", "r13", "r14", "r23", "r24"}}) {

@@ -8,9 +8,7 @@ namespace correlation = kelpower::correlation;
 /// With all six correlations the matrix is that of four variables.
 bool IsShared(const Inputs& in) { return !ArePairsSeparate(in); }
 
-bool IsPositiveDefinite(const Inputs& in) {
-  return IsShared(in) && correlation::IsPositiveDefinite(SharedVariableOf(in));
-}
+bool IsPositiveDefinite(const Inputs& in) { return correlation::IsPositiveDefinite(SharedVariableOf(in)); }
 
 bool DiffersFromNull(const Inputs& in) { return DifferenceOfZ(in) != 0; }
 

@@ -1,12 +1,12 @@
 #include "catalogue/two_correlations.h"
 
+#include <cmath>
 #include <utility>
 
 #include "catalogue/core.h"
 #include "catalogue/group_parameters.h"
 #include "catalogue/tests.h"
 #include "catalogue/two_groups.h"
-#include "catalogue/unknowns.h"
 #include "catalogue/words.h"
 #include "model/chart.h"
 
@@ -41,32 +41,6 @@ std::vector<Route> Routes() {
   return routes;
 }
 
-std::vector<Unknown> Unknowns() {
-  return {
-      {.input = "effect-q",
-       .target = Question::Power,
-       .trend = Trend::Rises,
-       .reason = "the standard error of q does not depend on it",
-       .piece = [](const Inputs&) -> Piece {
-         return {0, std::numeric_limits<double>::infinity()};
-       }},
-      UnknownRatio(),
-  };
-}
-
-std::vector<Condition> SizeExists() {
-  return {
-      {.code = "no-effect",
-       .about = {"correlations"},
-       .holds = [](const Inputs& in) { return EffectQ(in) != 0; },
-       .sentence = "The two correlations are equal: without a difference, no sample size reaches the power."},
-      {.code = "no-effect",
-       .about = {"effect-q"},
-       .holds = [](const Inputs& in) { return EffectQ(in) != 0; },
-       .sentence = "{effect-q} is 0: without a difference, no sample size reaches the power."},
-  };
-}
-
 /// Moves the first correlation.
 Axis EffectQAxis() {
   return {.name = "effect-q",
@@ -99,8 +73,8 @@ Test TwoCorrelationsTest() {
             .counted = "cases"};
   test.parameters = Parameters();
   test.routes = Routes();
-  test.unknowns = Unknowns();
-  test.sizeExists = SizeExists();
+  test.unknowns = UnknownsOfTwoCorrelations();
+  test.sizeExists = SizeExistsForTwoCorrelations();
   test.derived = {{.name = "effect-q", .label = "effect size q", .needs = {"correlations"}, .call = EffectQ}};
   test.effect = EffectQ;
   test.axes = {EffectQAxis(), SizeRatioAxis()};
