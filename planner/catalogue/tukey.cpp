@@ -43,6 +43,7 @@ std::string Procedure(const Inputs& in) {
 }
 
 std::string PowerFor(const Inputs& in) {
+  if (!in.Has("means") && !in.Has("effect-d")) return "";  // of an interval
   if (!in.Has("pair")) return "a difference between at least one pair of groups";
   const AskedPair pair = PairOf(in);
   return "the difference between groups " + std::to_string(pair.first + 1) + " and " + std::to_string(pair.second + 1);
@@ -71,8 +72,8 @@ Test TukeyTest() {
        .call = LargestDifference},
   };
   test.assumptions = {
-      {.name = "procedure", .label = "test", .needs = {"n"}, .call = Procedure},
-      {.name = "power-for", .label = "power to find", .needs = {"n"}, .call = PowerFor},
+      {.name = "procedure", .label = "test", .needs = {}, .call = Procedure},
+      {.name = "power-for", .label = "power to find", .needs = {}, .call = PowerFor},
   };
   test.offers.comparisons = false;  // the level is that of all pairs together
   AddWordsOfTukey(test);

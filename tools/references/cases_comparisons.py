@@ -229,6 +229,14 @@ def tukey_sizes():
         yield case("tukey", {"effect-d": d, "groups": k, "pair": [1, 2], "power": target}, "sizes", [n] * k, 0, OWN)
 
 
+def tukey_pairs_of_one_study():
+    for sd in (4, 8):
+        for pair in ([1, 2], [2, 3]):
+            d = mpf([10, 12, 15][pair[0] - 1] - [10, 12, 15][pair[1] - 1]) / sd
+            inputs = {"means": [10, 12, 15], "sd": sd, "n": [20] * 3, "pair": pair}
+            yield case("tukey", inputs, "power", number(tukey_pair(d, [20] * 3, pair, 0.05)), 1e-13, OWN)
+
+
 # Dunnett: the control's mean is at y.
 def dunnett_shape(sizes):
     control = mpf(sizes[0])
@@ -337,7 +345,7 @@ def dunnett_sizes():
 def main():
     folder = Path(sys.argv[1])
     wanted = sys.argv[2:] or ["tukey", "dunnett"]
-    parts = {"tukey": (any_pair_cases, pair_cases, tukey_sizes), "dunnett": (dunnett_cases, dunnett_sizes)}
+    parts = {"tukey": (any_pair_cases, pair_cases, tukey_sizes, tukey_pairs_of_one_study), "dunnett": (dunnett_cases, dunnett_sizes)}
     for test in wanted:
         with open(folder / f"{test}.cases.jsonl", "w", encoding="ascii") as out:
             for part in parts[test]:
