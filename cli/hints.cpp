@@ -63,13 +63,11 @@ constexpr std::string_view chiSquare =
     "groups and two categories is two-proportions too: its z test squared";
 constexpr std::string_view varianceTests = "tests of variances are variance, of one, and two-variances";
 constexpr std::string_view fisher = "Fisher's exact test is two-proportions with --method conditional";
-constexpr std::string_view correlations = "correlations are pearson, spearman and partial";
 constexpr std::string_view ranks =
     "tests of ranks are mann-whitney for two groups, ordinal for ordered categories, signed-rank for pairs or one sample, "
     "and spearman";
 constexpr std::string_view correlations =
     "correlations are pearson, spearman and partial, and two of them two-correlations and dependent-correlations";
-constexpr std::string_view ranks = "there is no test of ranks but spearman; a t test such as two-means is another test";
 constexpr std::string_view survival =
     "there is no test of survival times; two-proportions at a fixed time is another test";
 
@@ -101,7 +99,6 @@ constexpr Answer answersToTests[] = {
     {"variances", varianceTests},
     {"levene", varianceTests},
     {"bartlett", varianceTests},
-    {"tukey", "pairwise tests pairs of groups, with Bonferroni's or Sidak's adjustment in place of Tukey's"},
     {"wilcoxon", ranks},
     {"rank", ranks},
     {"ranks", ranks},
