@@ -80,7 +80,7 @@ def power_over_covariates(alpha, groups, total, covariates, noncentrality):
     """Over B = 1 - v^2, whose density has no singular end in v; in pieces around its top."""
     test = test_of(mpf(alpha), mpf(groups - 1), mpf(total - groups - covariates))
     a, b = mpf(total - 1 - covariates) / 2, mpf(covariates) / 2
-    top = mp.sqrt((2 * b - 1) / (2 * a + 2 * b - 3)) if 2 * a + 2 * b > 3 else mpf(1) / 2
+    top = mp.sqrt((2 * b - 1) / (2 * a + 2 * b - 3)) if a > 1 else mpf(1) / 2
     width = 1 / mp.sqrt(2 * a + 2 * b)
     points = sorted({min(mpf(1), max(mpf(0), top + k * width)) for k in (-12, -6, -3, 0, 3, 6, 12)} |
                     ({mpf(1)} if a < 20 else set()))
@@ -93,7 +93,8 @@ def power_over_covariates(alpha, groups, total, covariates, noncentrality):
         return mp.exp(logarithm + ((2 * b - 1) * mp.log(v / top) if 2 * b > 1 else 0))
 
     def integral(f):
-        value, error = mp.quad(f, points, method="gauss-legendre", error=True)
+        method = "tanh-sinh" if a < 5 else "gauss-legendre"  # the former where the end v = 1 is no power of 1 - v
+        value, error = mp.quad(f, points, method=method, error=True)
         assert error < mpf(10) ** -18 * value, (alpha, groups, total, covariates, noncentrality, error)
         return value
 
@@ -144,7 +145,7 @@ def solved(inputs):
 
 
 def solved_ancova(inputs):
-    sizes = listed(inputs["n"], inputs.get("groups") or len(inputs["means"]))
+    sizes = listed(inputs["n"], inputs.get("groups") or len(inputs.get("means", inputs["n"])))
     total, groups, covariates = sum(sizes), len(sizes), inputs.get("covariates", 1)
     left = 1 - mpf(inputs.get("r-squared", 0))
     if "means" in inputs:
