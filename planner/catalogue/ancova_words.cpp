@@ -53,10 +53,26 @@ void AddWordsOfAncova(Test& test) {
        "{alpha} needs {sizes}; its power is then {power}{method}."},
   };
   test.examples = {
-      {"ancova --means 400,450,500 --sd 120 --r-squared 0.3 --n 21", ""},
-      {"ancova --means 400,450,500 --sd 120 --r-squared 0.3 --power 0.8", ""},
-      {"ancova --effect-f 0.25 --groups 2 --covariates 3 --r-squared 0.4 --power 0.9 --ratios 2,1", ""},
-      {"ancova --effect-f 0.25 --groups 3 --covariates 2 --n 60 --approximate", ""},
+      {"ancova --means 400,450,500 --sd 120 --r-squared 0.3 --n 21",
+       "With 21 observations in each of 3 groups (63 in total), the F test of the adjusted group means in an "
+       "analysis of covariance with 1 covariate, an R squared of 0.3 within the groups, at a significance level "
+       "of 0.05 has a power of 0.8042 (exact for normally distributed covariates) to detect adjusted group means "
+       "of 400, 450 and 500 with a standard deviation of 120 within the groups."},
+      {"ancova --means 400,450,500 --sd 120 --r-squared 0.3 --power 0.8",
+       "To detect adjusted group means of 400, 450 and 500 with a standard deviation of 120 within the groups "
+       "with a power of 0.8, the F test of the adjusted group means in an analysis of covariance with 1 "
+       "covariate, an R squared of 0.3 within the groups, at a significance level of 0.05 needs 21 observations "
+       "in each of 3 groups (63 in total); its power is then 0.8042 (exact for normally distributed covariates)."},
+      {"ancova --effect-f 0.25 --groups 2 --covariates 3 --r-squared 0.4 --power 0.9 --ratios 2,1",
+       "To detect an effect size f of 0.25 with a power of 0.9, the F test of the adjusted group means in an "
+       "analysis of covariance with 3 covariates, an R squared of 0.4 within the groups, at a significance level "
+       "of 0.05 needs 71 and 36 observations in 2 groups (107 in total); its power is then 0.9030 (exact for "
+       "normally distributed covariates)."},
+      {"ancova --effect-f 0.25 --groups 3 --covariates 2 --n 60 --approximate",
+       "With 60 observations in each of 3 groups (180 in total), the F test of the adjusted group means in an "
+       "analysis of covariance with 2 covariates, an R squared of 0 within the groups, at a significance level of"
+       " 0.05 has a power of 0.8546 (approximate, as if the groups did not differ in the covariates) to detect an"
+       " effect size f of 0.25."},
   };
 }
 

@@ -15,8 +15,9 @@ inline constexpr Row unanswered{RowStatus::NoAnswer, std::numeric_limits<double>
 inline constexpr Row stopped{RowStatus::Stopped, std::numeric_limits<double>::quiet_NaN()};
 
 inline void SetSizes(Inputs& inputs, const Numbers& sizes) {
-  if (sizes.size() > 1) return inputs.SetList("n", sizes);
-  inputs.Set("n", sizes.front());
+  inputs.SetList("n", sizes);
+  // That of a test of one sample is a number.
+  if (sizes.size() == 1) inputs.Set("n", sizes.front());
 }
 
 /// The design with these sizes in place of the ratios that they are found from. Ratios beside a single size are part of

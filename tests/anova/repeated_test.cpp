@@ -109,6 +109,17 @@ TEST(Repeated, IsRefusedForWhatIsNoDesign) {
   }
 }
 
+TEST(Repeated, ContrastOfTwoMeasurementsIsTheirEffect) {
+  const RepeatedDesign design = Design(RepeatedEffect::Within, 2, 2, 0.3);
+  const Numbers means{10, 12, 11, 16};
+  const Numbers sizes{8, 5};
+  const double effect = *design.NoncentralityOfMeans(means, sizes, 4);
+  EXPECT_NEAR(*design.NoncentralityOfContrast(Numbers{1, -1}, means, sizes, 4), effect, 1e-13 * effect);
+  EXPECT_EQ(*design.ContrastTestAt(13, 0.05).Power(3), *design.TestAt(13, 0.05).Power(3));
+  EXPECT_FALSE(design.NoncentralityOfContrast(Numbers{1, 0, -1}, means, sizes, 4));
+  EXPECT_FALSE(Design(RepeatedEffect::Interaction, 2, 2, 0.3).ContrastTestAt(13, 0.05).Power(3));
+}
+
 TEST(Repeated, MeansThatAreNoTableAreRefused) {
   const RepeatedDesign design = Design(RepeatedEffect::Interaction, 2, 3, 0.5);
   EXPECT_FALSE(design.NoncentralityOfMeans(Numbers(5, 1), Numbers{4, 4}, 1));
