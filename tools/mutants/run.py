@@ -24,6 +24,7 @@ from pathlib import Path
 NEAREST = [
     ("kelcommon/", ["kelcommon_references", "kelcommon_contract", "kelcommon_identities", "kelcommon_t_and_f"]),
     ("src/anova/", ["vectors_anova", "anova_test", "anova_core_test"]),
+    ("src/comparisons/", ["comparisons_test"]),
     ("src/exports/anova/", ["vectors_anova", "anova_test"]),
     ("src/means/", ["vectors_means", "means_test", "means_core_test"]),
     ("src/exports/means/", ["vectors_means", "means_test"]),
