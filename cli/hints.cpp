@@ -61,7 +61,6 @@ constexpr Answer answersToTests[] = {
     {"r", correlations},
     {"kendall", "there is no test of Kendall's tau; spearman is another test, of Spearman's rho"},
     {"f-test", "F tests are anova, of group means, and regression, of predictors"},
-    {"tukey", "pairwise tests pairs of groups, with Bonferroni's or Sidak's adjustment in place of Tukey's"},
     {"wilcoxon", ranks},
     {"mann-whitney", ranks},
     {"kruskal-wallis", ranks},
