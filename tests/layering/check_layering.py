@@ -22,7 +22,7 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]', re.M)
 SOURCES = {".h", ".hpp", ".cpp", ".in"}
 
 
-FAMILIES = {"anova", "correlation", "effects", "means", "proportions", "regression"}
+FAMILIES = {"anova", "comparisons", "correlation", "effects", "means", "proportions", "regression"}
 
 # The core around the tests: widths that are assured, and powers over an uncertain effect.
 AROUND_TESTS = {"assurance", "expected_power"}

@@ -22,8 +22,10 @@ from pathlib import Path
 
 # The tests that look first at what is in a folder or file; the first entry that fits counts.
 NEAREST = [
-    ("kelcommon/", ["kelcommon_references", "kelcommon_contract", "kelcommon_identities", "kelcommon_t_and_f"]),
+    ("kelcommon/", ["kelcommon_references", "kelcommon_contract", "kelcommon_identities", "kelcommon_t_and_f",
+     "kelcommon_chi_integral", "kelcommon_several_means"]),
     ("src/anova/", ["vectors_anova", "anova_test", "anova_core_test"]),
+    ("src/comparisons/", ["comparisons_test", "simulation_test"]),
     ("src/exports/anova/", ["vectors_anova", "anova_test"]),
     ("src/means/", ["vectors_means", "means_test", "means_core_test"]),
     ("src/exports/means/", ["vectors_means", "means_test"]),
