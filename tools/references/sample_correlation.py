@@ -183,7 +183,9 @@ def probability_rows(rng, count, which):
 def quantile_rows(rng, count):
     levels = [0.0005, 0.005, 0.01, 0.025, 0.05, 0.1, 0.3, 0.5, 0.8, 0.9, 0.95, 0.975, 0.99, 0.995, 0.9995]
     for n, rho, _, region in designs(rng, count):
-        p = log_uniform(rng, 1e-100, 1e-3) if region == "tails" else rng.choice(levels)
+        p = rng.choice(levels)
+        if region != "designs" or (p == 0.5 and rho == 0):
+            continue  # the inverse of what the probabilities measure there; or 0 itself
         yield "IdfCorrelation", (p, n, rho), quantile(p, n, rho), None, region
 
 
@@ -191,7 +193,7 @@ def main():
     folder = output_folder(sys.argv)
     write(folder / "CdfCorrelation.csv", probability_rows(random.Random(11), 120, 0))
     write(folder / "SfCorrelation.csv", probability_rows(random.Random(12), 60, 1))
-    write(folder / "IdfCorrelation.csv", quantile_rows(random.Random(13), 60))
+    write(folder / "IdfCorrelation.csv", quantile_rows(random.Random(13), 110))
 
 
 if __name__ == "__main__":
