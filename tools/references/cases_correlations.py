@@ -6,7 +6,8 @@
 Powers are tails of the normal distribution in multiple precision; those of the exact test are integrals of Hotelling's
 density at quantiles of the same (sample_correlation.py). Sizes are the first ones whose power reaches the target. The
 correlation of two Fisher's z is Steiger's, with the common variable as one that occurs twice: its formula for four
-variables, with 1 for the correlation of the variable with itself. Needs mpmath and gmpy2.
+variables, with 1 for the correlation of the variable with itself. Needs mpmath, gmpy2 and
+python-flint.
 """
 import itertools
 import json
