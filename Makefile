@@ -12,7 +12,7 @@ SEARCH_SEED ?= 1
 JOBS := $(shell nproc)
 
 # The folders of the tests without the program, the packages and the tools.
-CORE := kelcommon engine vectors frame anova means proportions correlation regression exports planner
+CORE := kelcommon engine vectors cases frame anova chi_square comparisons means proportions correlation ranks regression variances exports planner
 space := $() $()
 WASM_MODULE := build/wasm/web/core
 PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma

@@ -31,8 +31,7 @@ std::vector<VectorCase> ReadAllCases() {
   std::vector<VectorCase> all;
   for (const auto& entry : std::filesystem::directory_iterator(vectorFolder)) {
     const auto& path = entry.path();
-    // Those of .cases.jsonl are requests of the C interface.
-    if (path.extension() != ".jsonl" || path.stem().extension() == ".cases") continue;
+    if (path.extension() != ".jsonl") continue;
     for (VectorCase& vectorCase : ReadCases(path.string())) all.push_back(std::move(vectorCase));
   }
   return all;

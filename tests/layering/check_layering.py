@@ -34,7 +34,6 @@ FAMILIES = {
     "regression",
     "variances",
 }
-FAMILIES = {"anova", "comparisons", "correlation", "effects", "means", "proportions", "regression"}
 
 # The core around the tests: widths that are assured, and powers over an uncertain effect.
 AROUND_TESTS = {"assurance", "expected_power"}

@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 """Writes reference cases of the factorial analysis, the analysis of covariance and that of repeated measures.
 
-    cases_anova.py tests/vectors [NAME...]    writes factorial.cases.jsonl, ancova.cases.jsonl and
-                                              repeated-measures.cases.jsonl, or those named
+    cases_anova.py tests/cases [NAME...]    writes factorial.jsonl, ancova.jsonl and
+                                              repeated-measures.jsonl, or those named
 
 Powers are mixtures of beta tails with Poisson weights, in multiple precision. The noncentrality of a table of means is
 that of the matrices: C diag(1/n) C' is inverted as it stands. The mean over the covariates is an integral over B itself.
@@ -379,7 +379,7 @@ def main(folder, names):
         if names and name not in names:
             continue
         lines = set()
-        with open(Path(folder) / f"{name}.cases.jsonl", "w") as file:
+        with open(Path(folder) / f"{name}.jsonl", "w") as file:
             for row in cases():
                 line = json.dumps(row)
                 assert line not in lines, line

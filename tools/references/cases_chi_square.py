@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes goodness_of_fit.cases.jsonl and contingency.cases.jsonl: powers and sizes in 40 digits.
+"""Writes goodness-of-fit.jsonl and contingency.jsonl: powers and sizes in 40 digits.
 
 Usage: cases_chi_square.py [folder]      (needs mpmath)
 
@@ -181,7 +181,7 @@ def goodness_of_fit(folder):
     for estimated in (1, 2, 3):
         cases.design({"proportions": five, "estimated": estimated}, 4 - estimated, fit_effect([1] * 5, five), 90)
     cases.add({"proportions": [0.28, 0.72], "n": 41}, "power", 0.804391908651569, 1e-13, "R package pwrss, its tests")
-    cases.write(folder / "goodness_of_fit.cases.jsonl")
+    cases.write(folder / "goodness-of-fit.jsonl")
 
 
 TABLES = [
@@ -235,11 +235,11 @@ def contingency(folder):
     cases.add({"table": TABLES[0][0], "rows": 2, "n": 230}, "power", 0.802309774385927, 1e-13, "R package powertools")
     cases.add({"profiles": PROFILES[0][0], "rows": 2, "n": 463}, "power", 0.80007722028152, 1e-13,
               "R package pwrss, its tests")
-    cases.write(folder / "contingency.cases.jsonl")
+    cases.write(folder / "contingency.jsonl")
 
 
 def main():
-    default = pathlib.Path(__file__).resolve().parents[2] / "tests" / "vectors"
+    default = pathlib.Path(__file__).resolve().parents[2] / "tests" / "cases"
     folder = pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else default
     goodness_of_fit(folder)
     contingency(folder)

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes tests/vectors/tukey.cases.jsonl and dunnett.cases.jsonl.
+"""Writes tests/cases/tukey.jsonl and dunnett.jsonl.
 
 Usage: cases_comparisons.py folder [tukey] [dunnett]      (needs python-flint and mpmath; takes some minutes)
 
@@ -347,7 +347,7 @@ def main():
     wanted = sys.argv[2:] or ["tukey", "dunnett"]
     parts = {"tukey": (any_pair_cases, pair_cases, tukey_sizes, tukey_pairs_of_one_study), "dunnett": (dunnett_cases, dunnett_sizes)}
     for test in wanted:
-        with open(folder / f"{test}.cases.jsonl", "w", encoding="ascii") as out:
+        with open(folder / f"{test}.jsonl", "w", encoding="ascii") as out:
             for part in parts[test]:
                 for line in part():
                     print(json.dumps(line), file=out, flush=True)

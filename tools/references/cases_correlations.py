@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Writes reference cases of the exact test of a correlation and of the tests of two correlations.
 
-    cases_correlations.py tests/vectors    writes pearson-exact, two-correlations and dependent-correlations.cases.jsonl
+    cases_correlations.py tests/cases    writes pearson, two-correlations and dependent-correlations.jsonl
 
 Powers are tails of the normal distribution in multiple precision; those of the exact test are integrals of Hotelling's
 density at quantiles of the same (sample_correlation.py). Sizes are the first ones whose power reaches the target. The
@@ -189,8 +189,8 @@ def dependent_rows():
 def main():
     folder = pathlib.Path(sys.argv[1])
     for name, rows in (("two-correlations", two_rows), ("dependent-correlations", dependent_rows),
-                       ("pearson-exact", exact_rows)):
-        with open(folder / (name + ".cases.jsonl"), "w") as file:
+                       ("pearson", exact_rows)):
+        with open(folder / (name + ".jsonl"), "w") as file:
             for case in rows():
                 if math.isnan(case["value"] if isinstance(case["value"], float) else 0):
                     raise ArithmeticError(case)

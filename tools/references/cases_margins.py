@@ -4,10 +4,10 @@
 Powers are means, over the distribution of the estimated standard error, of normal probabilities at 30 digits; noncentral
 t and F of a library are not used. A size is the first whole one whose power reaches the target; the one before misses it.
 
-    cases_margins.py mean > tests/vectors/mean.cases.jsonl
-    cases_margins.py paired-means > tests/vectors/paired-means.cases.jsonl
-    cases_margins.py two-means > tests/vectors/two-means.cases.jsonl
-    cases_margins.py crossover > tests/vectors/crossover.cases.jsonl
+    cases_margins.py mean > tests/cases/mean.jsonl
+    cases_margins.py paired-means > tests/cases/paired-means.jsonl
+    cases_margins.py two-means > tests/cases/two-means.jsonl
+    cases_margins.py crossover > tests/cases/crossover.jsonl
 """
 
 import json

@@ -6,8 +6,8 @@ of the score equation, all at 40 digits. The exact unconditional test is done by
 order of the statistic, and the proportions at the limit on a fine grid. A size is the first whole one whose power
 reaches the target.
 
-    cases_proportion_margins.py proportion > tests/vectors/proportion.cases.jsonl
-    cases_proportion_margins.py two-proportions > tests/vectors/two-proportions.cases.jsonl
+    cases_proportion_margins.py proportion > tests/cases/proportion.jsonl
+    cases_proportion_margins.py two-proportions > tests/cases/two-proportions.jsonl
 """
 
 import itertools

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Writes the reference cases of the tests of ranks, in multiple precision and from definitions, not from closed forms.
 
-    cases_ranks.py mann-whitney > tests/vectors/mann_whitney.cases.jsonl
-    cases_ranks.py ordinal > tests/vectors/ordinal.cases.jsonl
-    cases_ranks.py signed-rank > tests/vectors/signed_rank.cases.jsonl
+    cases_ranks.py mann-whitney > tests/cases/mann-whitney.jsonl
+    cases_ranks.py ordinal > tests/cases/ordinal.jsonl
+    cases_ranks.py signed-rank > tests/cases/signed-rank.jsonl
 
 Powers of t are integrals over the distribution of the estimated standard deviation; probabilities of shifted parents are
 integrals over their densities; the variances of ordered categories are sums over pairs of categories.

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes variance.cases.jsonl and two_variances.cases.jsonl: powers and sizes in 40 digits.
+"""Writes variance.jsonl and two-variances.jsonl: powers and sizes in 40 digits.
 
 Usage: cases_variances.py [folder]      (needs mpmath)
 
@@ -118,7 +118,7 @@ def variance(folder):
     cases.add({"variance-ratio": third, "n": 81, "one-sided": True}, "power", 0.803685994216161, 1e-13,
               "G*Power 3.1, manual, section 26.3: 0.803686")
     cases.add({"variance-ratio": third, "n": 80, "one-sided": True}, "power", 0.798872174185286, 1e-13, "own")
-    cases.write(folder / "variance.cases.jsonl")
+    cases.write(folder / "variance.jsonl")
 
 
 def two_variances(folder):
@@ -142,11 +142,11 @@ def two_variances(folder):
     cases.add({"variance-ratio": 1.5, "power": 0.8}, "n", [193, 193], 0, "G*Power 3.1, manual, section 27.3")
     cases.add({"variance-ratio": 1.5, "n": 193}, "power", 0.800105000856821, 1e-13,
               "G*Power 3.1, manual, section 27.3: 0.800105")
-    cases.write(folder / "two_variances.cases.jsonl")
+    cases.write(folder / "two-variances.jsonl")
 
 
 def main():
-    default = pathlib.Path(__file__).resolve().parents[2] / "tests" / "vectors"
+    default = pathlib.Path(__file__).resolve().parents[2] / "tests" / "cases"
     folder = pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else default
     variance(folder)
     two_variances(folder)
