@@ -85,8 +85,8 @@ def exact_rows():
         yield row("pearson", inputs, "n", n, 0)
     published = "G*Power 3.1 (Faul, Erdfelder, Buchner and Lang 2009), exact test of a correlation"
     both = {"exact": True}
-    yield row("pearson", {"r": 0.65, "null": 0.6, "power": 0.95, "one-sided": True, **both}, "n", 1928, 0, published)
-    yield row("pearson", {"r": 0.65, "null": 0.6, "n": 1928, "one-sided": True, **both}, "power", 0.950028, 5e-7, published)
+    yield row("pearson", {"r": 0.65, "null": 0.6, "power": 0.95, **both}, "n", 1928, 0, published)
+    yield row("pearson", {"r": 0.65, "null": 0.6, "n": 1928, **both}, "power", 0.950028, 5e-7, published)
     yield row("pearson", {"r": 0.3, "null": 0.8, "n": 8, **both}, "power", 0.482927, 5e-7, published)
     yield row("pearson", {"r": 0.2, "power": 0.8, **both}, "n", 193, 0, published)
     yield row("pearson", {"r": 0.2, "n": 193, **both}, "power", 0.80008456, 5e-9, published)
