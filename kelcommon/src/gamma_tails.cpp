@@ -14,7 +14,7 @@ namespace {
 constexpr double largestSmallShape = 1;
 constexpr double largestSmallPoint = 1;
 
-// Nearer to 0 the beta distribution's point would be denormal, and all but the first term of the series is lost.
+// Nearer to 0 the beta distribution's point would be denormal, and the first term of the series is all of it.
 constexpr double leastPoint = 1e-180;
 
 // P(a, x) = x^a / Gamma(1 + a) (1 + a sum_{k>=1} (-x)^k / (k! (a + k))), Abramowitz and Stegun 6.5.29. What it leaves
@@ -48,15 +48,15 @@ Tails TailsOfBeta(double shape, double x) { return EvaluateBeta(shape, limitShap
 Tails GammaTails(double shape, double x) {
   if (std::max(shape, x) > stepGamma) return StepTails(shape, x);
   if (shape <= largestSmallShape && x <= largestSmallPoint) return SmallGammaTails(shape, x);
-  if (x < leastPoint) return {0, 1};
+  if (x < leastPoint) return SmallGammaTails(shape, x);
   if (shape >= proportionalShape) return TailsOfBeta(shape, x);
   const double upper = TailsOfBeta(proportionalShape, x).upper * (shape / proportionalShape);
   return {1 - upper, upper};
 }
 
 double GammaStep(double shape, double x) {
-  if (shape <= largestSmallShape) return std::exp(shape * (std::log(x) - LogGammaOf1PlusOver(shape))) * std::exp(-x);
-  if (x < leastPoint) return 0;
+  if (shape <= largestSmallShape || x < leastPoint)
+    return std::exp(shape * (std::log(x) - LogGammaOf1PlusOver(shape))) * std::exp(-x);
   return EvaluateBetaDensity(shape, limitShape, GammaPoint(x)) / shape;
 }
 

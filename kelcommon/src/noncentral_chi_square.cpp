@@ -163,7 +163,7 @@ Tails NoncentralGammaTails(double a, double m, double x) {
   // Narrower than the distance of doubles.
   if (std::max({a, m, x}) > stepGamma) return GammaTails(a + m, x);
   // Nothing is left so near to 0, where the point of the contour would be denormal.
-  if (x < leastContourPoint && a > 1) return {0, 1};
+  if (x < leastContourPoint && a > 2) return {0, 1};
   const Mixture s{a, m, x};
   return s.x < s.a + s.m ? TailsBelowMean(s) : TailsAboveMean(s);
 }

@@ -34,6 +34,18 @@ TEST(ChiSquare, IsTheSquareOfANormalVariable) {
     EXPECT_NEAR(SfChiSquare(z * z, 1) / (2 * KelMath::KelDistFun::CdfStdNorm(-z)), 1, 1e-13) << z;
 }
 
+// Near 0 the lower tail is the power alone.
+TEST(ChiSquare, KeepsItsDigitsNearZero) {
+  for (const double df : {0.01, 1.0, 2.0, 2.5, 3.0}) {
+    for (const double x : {1e-300, 1e-200, 1e-179, 1e-120, 1e-60}) {
+      const double power = std::pow(x / 2, df / 2) / std::tgamma(1 + df / 2);
+      if (power < 1e-290) continue;
+      EXPECT_NEAR(CdfChiSquare(x, df) / power, 1, 1e-12) << x << ", " << df;
+      EXPECT_NEAR(NonCentralCdfChiSquare(x, df, 3) / (power * std::exp(-1.5)), 1, 1e-12) << x << ", " << df;
+    }
+  }
+}
+
 TEST(ChiSquare, TailsAddToOne) {
   Draw draw;
   for (int i = 0; i < draws; ++i) {
@@ -43,13 +55,20 @@ TEST(ChiSquare, TailsAddToOne) {
   }
 }
 
+// The last digits of the quantile, which far out move its probability by more than its own error, bracket it.
 TEST(ChiSquare, QuantilesUndoTheProbabilities) {
+  constexpr double lastDigits = 1e-15;
+  constexpr double probabilityError = 1e-13;
   Draw draw;
   for (int i = 0; i < draws; ++i) {
-    const double df = draw.LogUniform(0.5, 1e6);
+    const double df = draw.LogUniform(2, 1e6);
     const double p = draw.LogUniform(1e-200, 0.999);
-    EXPECT_NEAR(CdfChiSquare(IdfChiSquare(p, df), df) / p, 1, 1e-12) << p << ", " << df;
-    EXPECT_NEAR(SfChiSquare(IsfChiSquare(p, df), df) / p, 1, 1e-12) << p << ", " << df;
+    const double lower = IdfChiSquare(p, df);
+    EXPECT_LE(CdfChiSquare(lower * (1 - lastDigits), df), p * (1 + probabilityError)) << p << ", " << df;
+    EXPECT_GE(CdfChiSquare(lower * (1 + lastDigits), df), p * (1 - probabilityError)) << p << ", " << df;
+    const double upper = IsfChiSquare(p, df);
+    EXPECT_GE(SfChiSquare(upper * (1 - lastDigits), df), p * (1 - probabilityError)) << p << ", " << df;
+    EXPECT_LE(SfChiSquare(upper * (1 + lastDigits), df), p * (1 + probabilityError)) << p << ", " << df;
   }
 }
 

@@ -34,7 +34,8 @@ TEST(WholeSizes, AreTheFirstThatReachTheTarget) {
 double ValueAt(const Answer& answer, const InputValues& asked, const Numbers& sizes) {
   const bool isPower = IsAboutPower(answer.Asked());
   InputValues at = asked;
-  for (const char* name : {"power", "half-width", "ratio", "ratios", "stable", "dropout"}) at.erase(name);
+  for (const char* name : {"power", "half-width", "ratio", "stable", "dropout"}) at.erase(name);
+  if (sizes.size() > 1) at.erase("ratios");
   if (!isPower) at["interval"] = true;
   at["n"] = sizes.size() == 1 ? Value(sizes.front()) : Value(sizes);
   return Solve(*answer.test, at).value;

@@ -1,8 +1,8 @@
 """Gamma, chi-square, Poisson and noncentral chi-square distributions in ball arithmetic.
 
-The incomplete gamma functions are those of Arb; the noncentral distribution is their mixture by Poisson weights (Johnson,
-Kotz and Balakrishnan, Continuous Univariate Distributions 2 (1995), equation 29.3), with a bound of what is left out in
-the radius of the ball.
+The incomplete gamma functions are summed as a series, whose precision grows until nothing is lost where the upper one is
+what is left of 1. The noncentral distribution is their mixture by Poisson weights (Johnson, Kotz and Balakrishnan,
+Continuous Univariate Distributions 2 (1995), equation 29.3). A bound of what is left out is in the radius of the ball.
 """
 import math
 
@@ -16,8 +16,7 @@ LAST_STEP = 1e-22
 
 QUANTILE_BITS = 192
 
-# Larger shapes take Arb long, and still larger ones any series.
-LARGEST_ARB_SHAPE = 200
+# Of larger shapes the series takes long.
 LARGEST_SERIES_SHAPE = 1e5
 
 
@@ -34,12 +33,8 @@ def lower_series_ball(a, x):
             return step_ball(a, x) * (total + radius(term * ratio / (1 - ratio)))
 
 
-def lower_ball(a, x):
-    return x.gamma_lower(a, regularized=1) if a < LARGEST_ARB_SHAPE else lower_series_ball(a, x)
-
-
 def upper_ball(a, x):
-    return x.gamma_upper(a, regularized=1) if a < LARGEST_ARB_SHAPE else 1 - lower_series_ball(a, x)
+    return 1 - lower_series_ball(a, x)
 
 
 def integrated_tail(a, x, is_upper):
@@ -77,7 +72,7 @@ def is_negligible(bound, total):
 
 def mixture_ball(a, m, x, is_upper):
     """One tail of the mixture, from the mode of the weights upwards and downwards."""
-    tail = upper_ball if is_upper else lower_ball
+    tail = upper_ball if is_upper else lower_series_ball
     sign = 1 if is_upper else -1
     mode = math.floor(float(m.mid()))
 
@@ -112,7 +107,7 @@ def mixture_ball(a, m, x, is_upper):
 
 def tail_ball(a, m, x, is_upper):
     if m == 0:
-        return upper_ball(a, x) if is_upper else lower_ball(a, x)
+        return upper_ball(a, x) if is_upper else lower_series_ball(a, x)
     return mixture_ball(a, m, x, is_upper)
 
 
@@ -150,14 +145,14 @@ def gamma_quantile(probability, shape, is_upper, start):
     if probability > 0.5:
         probability, is_upper = 1 - probability, not is_upper
     a, v = arb(shape), arb(start).log()
-    for _ in range(500):
-        point = v.exp()
+    for _ in range(3000):
+        point = v.exp().mid()
         tail = precise_tail(a, point, is_upper)
         density = (step_ball(a, point) * a).mid()
         change = ((probability / tail).log() * tail / density).mid()
-        # The logarithm of a tail is concave: a step towards its thin end may go much too far.
-        change = max(min(change, arb(1)), arb(-1))
-        v = (v - change if is_upper else v + change).mid()
+        # The logarithm of a tail is concave: a step towards its thin end may go much too far, to where series are long.
+        change = max(min(-change if is_upper else change, arb(1)), -(1 + abs(v) / 2).mid())
+        v = (v + change).mid()
         if abs(change) < LAST_STEP:
             return v.exp().mid()
     raise ArithmeticError(f"no quantile {probability} {shape}")
