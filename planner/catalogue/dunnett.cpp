@@ -1,5 +1,7 @@
 #include "catalogue/dunnett.h"
 
+#include <algorithm>
+#include <cmath>
 #include <string>
 #include <utility>
 
@@ -47,6 +49,14 @@ std::string PowerFor(const Inputs& in) {
   return "a difference of at least one group from the control";
 }
 
+/// A power looks for a critical value, whose integrals have the more nodes the larger a group is beside the control.
+double StepsOfPower(const Inputs& in) {
+  constexpr double stepsOfComparison = 2e5;
+  const Numbers& sizes = in.List("n");
+  const double largest = *std::max_element(sizes.begin(), sizes.end());
+  return stepsOfComparison * static_cast<double>(sizes.size() - 1) * std::sqrt((1 + largest / sizes.front()) / 2);
+}
+
 double EffectOfGroup(const Inputs& in) { return MeansOfDunnett(in)[AskedGroup(in)] - MeansOfDunnett(in)[0]; }
 
 }  // namespace
@@ -80,6 +90,7 @@ Test DunnettTest() {
                    .needs = {"means", "sd", "group"},
                    .call = EffectOfGroup}};
   test.assumptions = {{.name = "power-for", .label = "power to find", .needs = {"one-sided"}, .call = PowerFor}};
+  test.steps = StepsOfPower;
   test.offers.comparisons = false;  // the level is that of all comparisons together
   AddWordsOfDunnett(test);
   return WithCommonParameters(std::move(test));

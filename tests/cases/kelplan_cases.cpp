@@ -1,6 +1,6 @@
 // Compares the answers of the C interface with references. A line of the file is an object:
 //   request  of `kelplan_solve`
-//   result   the member of the answer's results that is compared, such as "power", or of several groups "sizes"
+//   result   the member of the answer's results that is compared, such as "power", or "n", which of several groups is a list
 //   value    what it is to be: a number, or a list of numbers
 //   within   how far it may be from it
 //   source   where the value is from

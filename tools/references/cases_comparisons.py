@@ -223,10 +223,10 @@ def tukey_sizes():
     for means, sd, target, guess in [([10, 12, 15], 6, 0.8, 26), ([0, 0, 0, 1], 1, 0.9, 21), ([0, 1], 1, 0.8, 17),
                                      ([0, 3, 0], 1, 0.95, 6), ([0, 0.3, 0.6, 0.9, 1.2], 1.5, 0.8, 47)]:
         n = first_size(lambda n: tukey_any(means, sd, n, 0.05), target, guess)
-        yield case("tukey", {"means": means, "sd": sd, "power": target}, "sizes", [n] * len(means), 0, OWN)
+        yield case("tukey", {"means": means, "sd": sd, "power": target}, "n", [n] * len(means), 0, OWN)
     for d, k, target, guess in [(0.5, 3, 0.8, 79), (1, 4, 0.9, 27), (0.9, 5, 0.8, 28)]:
         n = first_size(lambda n: tukey_pair(mpf(str(d)), [n] * k, [1, 2], 0.05), target, guess)
-        yield case("tukey", {"effect-d": d, "groups": k, "pair": [1, 2], "power": target}, "sizes", [n] * k, 0, OWN)
+        yield case("tukey", {"effect-d": d, "groups": k, "pair": [1, 2], "power": target}, "n", [n] * k, 0, OWN)
 
 
 def tukey_pairs_of_one_study():
@@ -339,7 +339,7 @@ def dunnett_sizes():
         inputs = {"means": means, "sd": sd, "power": target, **asked(which)}
         if one_sided:
             inputs["one-sided"] = True
-        yield case("dunnett", inputs, "sizes", [n] * len(means), 0, OWN)
+        yield case("dunnett", inputs, "n", [n] * len(means), 0, OWN)
 
 
 def main():

@@ -117,7 +117,7 @@ def two_rows():
     for pair, power, one_sided in itertools.product(pairs[:4], (0.8, 0.95), (False, True)):
         n = first_size(lambda size: two_power(q_of(pair), size, size, 0.05, one_sided), power, 4)
         inputs = {"correlations": pair, "power": power, "one-sided": one_sided}
-        yield row("two-correlations", inputs, "sizes", [n, n], 0)
+        yield row("two-correlations", inputs, "n", [n, n], 0)
     published = "G*Power 3.1 manual, test of two independent Pearson r's"
     example = {"correlations": [0.75, 0.88]}
     yield row("two-correlations", {**example, "n": [51, 260]}, "power", 0.726352, 5e-7, published)
