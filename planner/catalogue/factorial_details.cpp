@@ -1,6 +1,6 @@
 #include <cmath>
 
-#include "anova/effect_test.h"
+#include "anova/one_effect.h"
 #include "catalogue/axes.h"
 #include "catalogue/details.h"
 #include "catalogue/factorial.h"

@@ -1,6 +1,6 @@
 #include <limits>
 
-#include "anova/effect_test.h"
+#include "anova/one_effect.h"
 #include "anova/overall.h"
 #include "catalogue/axes.h"
 #include "catalogue/core.h"

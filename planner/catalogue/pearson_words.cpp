@@ -17,7 +17,7 @@ void AddWordsOfPearson(Test& test) {
        "significance level of 0.05 has a power of 0.9322 to detect a correlation of 0.5."},
       {"pearson --r 0.3 --null 0.6 --n 30 --exact",
        "With 30 cases, the two-sided test of a Pearson correlation of 0.6 by the exact distribution of r at a significance "
-       "level of 0.05 has a power of 0 to detect a correlation of 0.3."},
+       "level of 0.05 has a power of 0.5259 to detect a correlation of 0.3."},
       {"pearson --r 0.2 --power 0.8 --exact",
        "To detect a correlation of 0.2 with a power of 0.8, the two-sided test of a Pearson correlation of 0 by the exact "
        "distribution of r at a significance level of 0.05 needs 193 cases; its power is then 0.8001."},

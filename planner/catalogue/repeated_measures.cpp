@@ -32,7 +32,7 @@ std::string MeaningOfF(const Inputs& in) {
 }
 
 std::string Method(const Inputs& in) {
-  if (in.Number("epsilon") < 1) return "approximate, degrees of freedom and noncentrality times epsilon";
+  if (EpsilonOf(in) < 1) return "approximate, degrees of freedom and noncentrality times epsilon";
   if (RepeatedEffectOf(in) == RepeatedEffect::Between) return "exact";
   return "exact for equal correlations";
 }
@@ -55,7 +55,7 @@ Test RepeatedMeasuresTest() {
       {.name = "effect-f", .label = "effect size f of the means", .needs = {"means", "sd"}, .call = EffectFOfMeans}};
   test.assumptions = {
       {.name = "meaning-of-f", .label = "the effect size is", .needs = {"f-of"}, .call = MeaningOfF},
-      {.name = "method", .label = "method", .needs = {"effect", "epsilon"}, .call = Method, .wording = " (<0>)"},
+      {.name = "method", .label = "method", .needs = {"effect"}, .call = Method, .wording = " (<0>)"},
   };
   AddWordsOfRepeatedMeasures(test);
   return WithCommonParameters(std::move(test));

@@ -17,6 +17,9 @@ inline kelpower::anova::RepeatedF RepeatedFOf(const Inputs& in) {
   return static_cast<kelpower::anova::RepeatedF>(in.Choice("f-of"));
 }
 
+/// A contrast of the measurements has one degree of freedom, which epsilon does not touch.
+inline double EpsilonOf(const Inputs& in) { return in.Has("epsilon") ? in.Number("epsilon") : 1; }
+
 /// Without the correlation where the effect size has it in itself.
 kelpower::anova::RepeatedDesign RepeatedDesignOf(const Inputs& in);
 

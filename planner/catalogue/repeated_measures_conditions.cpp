@@ -72,11 +72,9 @@ std::vector<Condition> ConditionsOfRepeatedMeasures() {
        .holds = [](const Inputs& in) { return in.Number("epsilon") * (in.Number("measurements") - 1) >= 1 - 1e-9; },
        .sentence = "{epsilon} is at least 1 / ({measurements} - 1)."},
       {.code = "contrast-within",
-       .about = {"coefficients", "effect", "epsilon"},
-       .holds =
-           [](const Inputs& in) { return RepeatedEffectOf(in) == RepeatedEffect::Within && in.Number("epsilon") == 1; },
-       .sentence =
-           "{coefficients} goes with an {effect} within subjects and equal correlations ({epsilon} of 1) only."},
+       .about = {"coefficients", "effect"},
+       .holds = [](const Inputs& in) { return RepeatedEffectOf(in) == RepeatedEffect::Within; },
+       .sentence = "{coefficients} goes with an {effect} within subjects only, where correlations are equal."},
       {.code = "contrast-coefficients",
        .about = {"coefficients", "measurements"},
        .holds = IsContrast,

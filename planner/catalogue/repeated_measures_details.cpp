@@ -26,6 +26,9 @@ std::string Formula(RepeatedEffect effect, RepeatedF kind) {
                    : "noncentrality = N (m - 1) f^2 epsilon = {total} x ({measurements} - 1) x {f}^2 x {epsilon}";
 }
 
+constexpr const char* formulaOfContrast =
+    "noncentrality = N m f^2 / (1 - rho) = {total} x {measurements} x {f}^2 / (1 - {correlation})";
+
 const char* NameInGPower(RepeatedEffect effect) {
   switch (effect) {
     case RepeatedEffect::Between: return "between factors";
@@ -46,9 +49,10 @@ Details DetailsOfRepeatedMeasures(Question, const Inputs& in) {
   const RepeatedF kind = in.Has("means") ? RepeatedF::Means : RepeatedFOf(in);
   const double noncentrality = NoncentralityOfRepeatedMeasures(in);
   details.Add("f", "effect size f", std::sqrt(noncentrality / design.NoncentralityOfF(1, kind, total)));
-  AddFTest(details, *test.AtCriticalValue(), noncentrality, Formula(design.effect, kind));
+  AddFTest(details, *test.AtCriticalValue(), noncentrality,
+           in.Has("coefficients") ? formulaOfContrast : Formula(design.effect, kind));
   details.source =
-      in.Number("epsilon") < 1
+      EpsilonOf(in) < 1
           ? "Muller and Barton (1989), Journal of the American Statistical Association 84:549-555"
           : "Faul, Erdfelder, Lang and Buchner (2007), Behavior Research Methods 39:175-191, with the noncentral F "
             "distribution";

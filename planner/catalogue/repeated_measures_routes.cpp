@@ -59,7 +59,7 @@ anova::RepeatedDesign RepeatedDesignOf(const Inputs& in) {
           .groups = double(in.Groups()),
           .measurements = in.Number("measurements"),
           .correlation = in.Has("correlation") ? in.Number("correlation") : 0,
-          .epsilon = in.Number("epsilon")};
+          .epsilon = EpsilonOf(in)};
 }
 
 anova::EffectTest RepeatedTestOf(const Inputs& in) {
@@ -88,7 +88,8 @@ std::vector<Route> RoutesOfRepeatedMeasures() {
     routes.push_back(PowerRoute(effect, accepts));
     routes.push_back(SizeRoute(effect, accepts));
   };
-  add({"means", "sd", "correlation"}, {"coefficients", "groups", "epsilon"});
+  add({"means", "sd", "correlation"}, {"groups", "epsilon"});
+  add({"means", "sd", "correlation", "coefficients"}, {"groups"});
   add({"effect-f"}, {"groups", "correlation", "epsilon", "f-of"});
   add({"eta-squared"}, {"groups", "correlation", "epsilon", "f-of"});
   return routes;

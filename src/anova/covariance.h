@@ -1,7 +1,7 @@
 #ifndef KELPOWER_ANOVA_COVARIANCE_H
 #define KELPOWER_ANOVA_COVARIANCE_H
 
-#include "anova/effect_test.h"
+#include "anova/one_effect.h"
 #include "frame/answer.h"
 
 // The F test of adjusted group means with covariates: one-way analysis of covariance.

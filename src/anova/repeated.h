@@ -1,7 +1,7 @@
 #ifndef KELPOWER_ANOVA_REPEATED_H
 #define KELPOWER_ANOVA_REPEATED_H
 
-#include "anova/effect_test.h"
+#include "anova/one_effect.h"
 #include "anova/groups.h"
 #include "frame/answer.h"
 

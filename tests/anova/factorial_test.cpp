@@ -6,7 +6,7 @@
 #include <limits>
 #include <vector>
 
-#include "anova/effect_test.h"
+#include "anova/one_effect.h"
 #include "anova/overall.h"
 #include "anova/quadratic_form.h"
 

@@ -79,9 +79,10 @@ TEST(JsonDoor, SpellsTheNumbersThatCanBeSolvedForAsAsked) {
   EXPECT_EQ(asked("mean_difference"), asked("mean-difference"));
   EXPECT_TRUE(asked("mean_difference")["results"].contains("mean_difference"));
   const Json error = asked("effect")["error"];
-  EXPECT_EQ(error["allowed"], "effect_d, mean_difference, sd, ratio, alpha or assurance");
-  EXPECT_EQ(error["message"],
-            "solve is \"effect\", but must be effect_d, mean_difference, sd, ratio, alpha or assurance.");
+  EXPECT_EQ(error["allowed"], "effect_d, mean_difference, sd, ratio, mean_ratio, cv, margin, alpha or assurance");
+  EXPECT_EQ(
+      error["message"],
+      "solve is \"effect\", but must be effect_d, mean_difference, sd, ratio, mean_ratio, cv, margin, alpha or assurance.");
 }
 
 TEST(JsonDoor, DescribesEveryTest) {

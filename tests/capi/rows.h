@@ -29,7 +29,8 @@ inline std::vector<Varied> VariedOf(const Json& test, const Json& inputs) {
   std::vector<Varied> varied;
   for (const Json& parameter : test["parameters"]) {
     const std::string name = parameter["name"];
-    if (!inputs.contains(name) || name == "groups") continue;
+    const bool tellsLengths = name == "groups" || name == "levels" || name == "measurements";
+    if (!inputs.contains(name) || tellsLengths) continue;
     const bool isWhole = parameter["limits"].contains("whole");
     const Json& value = inputs[name];
     if (value.is_number()) varied.push_back({name, -1, isWhole, value});

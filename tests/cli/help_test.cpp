@@ -95,7 +95,8 @@ TEST(Help, ShowsEveryAxisOfChartsOnce) {
       if (line == "Charts") isInCharts = true;
       if (isInCharts && line.empty()) break;
       if (!isInCharts) continue;
-      EXPECT_LE(line.size(), widest) << line;
+      const bool isCommand = line.rfind("  kelpower ", 0) == 0;  // to be copied in one piece
+      EXPECT_TRUE(isCommand || line.size() <= widest) << line;
       std::istringstream words(line);
       std::string name;
       words >> name;

@@ -36,6 +36,8 @@ void CheckRoundTrip(const Test& test, const Unknown& unknown, const InputValues&
   if (unknown.set || !design.inputs.Has(unknown.input) || !AllEqual(design, parameter)) return;
   if (!design.route->Takes(unknown.input) && unknown.input != Name("alpha")) return;
   const double number = NumberOf(design, parameter);
+  // The whole piece reaches what its lower end has.
+  if (unknown.trend == Trend::Rises && number == parameter.limits.low) return;
   InputValues asked = values;
   const std::string name(unknown.input.Text());
   asked.erase(name);
@@ -68,13 +70,17 @@ TEST(Unknown, IsFoundAgainInEveryExample) {
   int count = 0;
   for (const planner::Test& test : Tests()) {
     for (const Example& example : test.examples) {
+      SCOPED_TRACE(example.arguments);
       const InputValues values = ValuesTyped(test, example.arguments);
       const Answer design = Solve(test, values);
       if (design.SizesFound() || design.unknown) continue;
-      SCOPED_TRACE(example.arguments);
       for (const Unknown& unknown : test.unknowns) {
         if (unknown.target != design.Asked()) continue;
-        CheckRoundTrip(test, unknown, values, design);
+        try {
+          CheckRoundTrip(test, unknown, values, design);
+        } catch (const Failure& failure) {
+          ADD_FAILURE() << unknown.input.Text() << ": " << Said(failure);
+        }
         ++count;
       }
     }

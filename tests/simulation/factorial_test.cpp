@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "anova/effect_test.h"
+#include "anova/one_effect.h"
 #include "simulation/linear_model.h"
 #include "support/share_of_studies.h"
 

@@ -1,4 +1,4 @@
-#include "anova/effect_test.h"
+#include "anova/one_effect.h"
 
 #include "frame/checks.h"
 
