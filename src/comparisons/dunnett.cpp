@@ -47,6 +47,19 @@ double DensityRatio(double u, double shift, double df) {
   return std::exp(-df / 2 * ((u - 1) * (u + 1) * fall + (fall + 2 * shift)));
 }
 
+// Of the trapezoidal rule over y, which converges geometrically. What it sums changes the faster, the more groups there
+// are and the larger they are beside the control. Two steps suffice, of which the second is the larger one for few groups:
+// the spectrum of a product of normal densities and probabilities falls as that of a normal density whose precision is
+// the sum of theirs.
+double StepOver(const std::vector<double>& sizes, double alpha) {
+  constexpr double pi = 3.14159265358979323846;
+  const double largest = *std::max_element(sizes.begin() + 1, sizes.end());
+  const double groups = static_cast<double>(sizes.size());
+  const double ofMany = 1 / ((1.1 + 1.15 * std::log(2 * groups)) * std::sqrt((1 + largest / sizes.front()) / 2 + 0.5));
+  const double precision = std::accumulate(sizes.begin(), sizes.end(), 0.0) / sizes.front();
+  return std::max(ofMany, pi * std::sqrt(2 / (precision * (36 - std::log(alpha)))));
+}
+
 // Values of a function that is asked for in the same order time and again.
 template <typename Function>
 class Remembered {
@@ -87,11 +100,7 @@ DunnettTest::DunnettTest(const std::vector<double>& sizes, bool isOneSided, doub
   if (!AreSizes(sizes) || !(alpha > 0 && alpha < 1)) return;
   df_ = std::accumulate(sizes.begin(), sizes.end(), 0.0) - static_cast<double>(sizes.size());
   if (!(df_ > 0)) return;
-  // The trapezoidal rule over y converges geometrically. What it sums changes the faster, the more groups there are and
-  // the larger they are beside the control.
-  const double largest = *std::max_element(sizes.begin() + 1, sizes.end());
-  const double groups = static_cast<double>(sizes.size());
-  step_ = 1 / ((1.1 + 1.15 * std::log(2 * groups)) * std::sqrt((1 + largest / sizes.front()) / 2 + 0.5));
+  step_ = StepOver(sizes, alpha);
   // Farther out, normal densities and probabilities are below the last digit of the level.
   reach_ = std::sqrt(-2 * std::log(1e-17 * alpha));
   for (int i = 0; i * step_ <= reach_; ++i)
