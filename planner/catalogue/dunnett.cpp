@@ -51,29 +51,14 @@ std::string PowerFor(const Inputs& in) {
 
 /// A power looks for a critical value, whose integrals have the more nodes the larger a group is beside the control.
 double StepsOfPower(const Inputs& in) {
-  constexpr double stepsOfComparison = 2e5;
+  constexpr double stepsOfComparison = 2e4;
   const Numbers& sizes = in.List("n");
   const double largest = *std::max_element(sizes.begin(), sizes.end());
-  return stepsOfComparison * static_cast<double>(sizes.size() - 1) * std::sqrt((1 + largest / sizes.front()) / 2);
+  const double comparisons = static_cast<double>(sizes.size() - 1);
+  return stepsOfComparison * comparisons * (1 + std::sqrt(largest / sizes.front()) / 10);
 }
-
-double EffectOfGroup(const Inputs& in) { return MeansOfDunnett(in)[AskedGroup(in)] - MeansOfDunnett(in)[0]; }
 
 }  // namespace
-
-std::size_t AskedGroup(const Inputs& in) { return static_cast<std::size_t>(in.Number("group")) - 1; }
-
-Numbers MeansOfDunnett(const Inputs& in) {
-  Numbers means;
-  if (in.Has("means")) {
-    means = in.List("means");
-    for (double& mean : means) mean /= in.Number("sd");
-  } else {
-    means.assign(static_cast<std::size_t>(in.Groups()), in.Number("effect-d"));
-    means.front() = 0;
-  }
-  return means;
-}
 
 Test DunnettTest() {
   Test test{.name = "dunnett",
@@ -91,6 +76,7 @@ Test DunnettTest() {
                    .call = EffectOfGroup}};
   test.assumptions = {{.name = "power-for", .label = "power to find", .needs = {"one-sided"}, .call = PowerFor}};
   test.steps = StepsOfPower;
+  test.effect = DecidingEffect;
   test.offers.comparisons = false;  // the level is that of all comparisons together
   AddWordsOfDunnett(test);
   return WithCommonParameters(std::move(test));

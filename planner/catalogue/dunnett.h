@@ -15,6 +15,12 @@ std::size_t AskedGroup(const Inputs& in);
 /// The means in standard deviations, the control's first.
 Numbers MeansOfDunnett(const Inputs& in);
 
+/// The difference of the group asked about from the control in standard deviations.
+double EffectOfGroup(const Inputs& in);
+
+/// Of the differences from the control the one that decides: the largest for any, the least for all.
+double DecidingEffect(const Inputs& in);
+
 std::vector<Route> RoutesOfDunnett();
 std::vector<Condition> ConditionsOfDunnett();
 std::vector<Condition> SizeExistsForDunnett();

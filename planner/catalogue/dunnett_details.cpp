@@ -27,7 +27,10 @@ Details OfOne(const comparisons::DunnettTest& test, const Inputs& in) {
   const Numbers means = MeansOfDunnett(in);
   Details details;
   details.Add("d", "standardized difference d", means[AskedGroup(in)] - means.front());
-  AddTTest(details, {test.Df(), test.Critical()}, test.Noncentralities(means)[AskedGroup(in) - 1], IsOneSided(in),
+  const kelpower::TTest t{test.Df(), test.Critical()};
+  details.Add("level", "significance level of the comparison",
+              IsOneSided(in) ? t.PowerUpperTail(0) : t.PowerBothTails(0));
+  AddTTest(details, t, test.Noncentralities(means)[AskedGroup(in) - 1], IsOneSided(in),
            "noncentrality = d / sqrt(1 / n_i + 1 / n_0)");
   details.equivalents = {{.program = "R",
                           .call = IsOneSided(in) ? "pt({critical-t}, {df}, {noncentrality}, lower.tail = FALSE)"

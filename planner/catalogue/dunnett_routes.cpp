@@ -10,10 +10,23 @@ namespace {
 
 namespace comparisons = kelpower::comparisons;
 
-/// Powers at many means and the same sizes share the critical value.
+/// The test of given sizes is kept: a number that is solved for, and the points of a chart, share it.
 class Powers {
 public:
+  Powers() = default;
+  Powers(const Powers&) {}
+  Powers& operator=(const Powers&) = delete;
+
   double operator()(const Inputs& in) {
+    const comparisons::DunnettTest& test = TestOf(in);
+    const Numbers noncentralities = test.Noncentralities(MeansOfDunnett(in));
+    if (in.Has("group")) return OrNaN(test.PowerOfOne(noncentralities[AskedGroup(in) - 1]));
+    const auto which = in.Flag("all-comparisons") ? comparisons::Comparisons::All : comparisons::Comparisons::Any;
+    return OrNaN(test.Power(which, noncentralities));
+  }
+
+private:
+  const comparisons::DunnettTest& TestOf(const Inputs& in) {
     const bool isOneSided = in.Flag("one-sided");
     if (!test_ || in.List("n") != sizes_ || isOneSided != isOneSided_ || in.Alpha() != alpha_) {
       sizes_ = in.List("n");
@@ -21,20 +34,14 @@ public:
       alpha_ = in.Alpha();
       test_.emplace(sizes_, isOneSided_, alpha_);
     }
-    const Numbers noncentralities = test_->Noncentralities(MeansOfDunnett(in));
-    if (in.Has("group")) return OrNaN(test_->PowerOfOne(noncentralities[AskedGroup(in) - 1]));
-    const auto which = in.Flag("all-comparisons") ? comparisons::Comparisons::All : comparisons::Comparisons::Any;
-    return OrNaN(test_->Power(which, noncentralities));
+    return *test_;
   }
 
-private:
   std::optional<comparisons::DunnettTest> test_;
   Numbers sizes_;
   bool isOneSided_ = false;
   double alpha_ = 0;
 };
-
-double Power(const Inputs& in) { return Powers()(in); }
 
 double HalfWidth(const Inputs& in) {
   return comparisons::HalfWidthOfComparison(in.Number("sd"), in.List("n"), AskedGroup(in), in.Alpha());
@@ -45,8 +52,7 @@ Route PowerRoute(Names needs) {
   return {.question = Question::Power,
           .needs = std::move(needs),
           .accepts = {"groups", "group", "all-comparisons", "one-sided"},
-          .value = Power,
-          .surfaceValue = Powers()};
+          .value = Powers()};
 }
 
 Route SizeRoute(Names needs) {

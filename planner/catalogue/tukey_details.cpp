@@ -42,8 +42,9 @@ Details OfPair(const comparisons::TukeyTest& test, const Inputs& in) {
   Details details;
   details.Add("critical-q", "critical value of the studentized range", test.CriticalRange());
   details.Add("d", "standardized difference d", d);
-  AddTTest(details, {test.Df(), test.CriticalT()}, noncentrality, false,
-           "noncentrality = d / sqrt(1 / n_i + 1 / n_j), critical t = q / sqrt(2)");
+  const kelpower::TTest t{test.Df(), test.CriticalT()};
+  details.Add("level", "significance level of the comparison", t.PowerBothTails(0));
+  AddTTest(details, t, noncentrality, false, "critical t = q / sqrt(2); noncentrality = d / sqrt(1 / n_i + 1 / n_j)");
   details.equivalents = {
       {.program = "R",
        .call = "pt(qtukey(1 - {alpha}, {groups}, {df}) / sqrt(2), {df}, {noncentrality}, lower.tail = FALSE) + "

@@ -20,10 +20,11 @@ constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double rootHalf = 0.70710678118654752440;
 constexpr double densityAtZero = 0.39894228040143267794;
 
-// Beyond, the density of the control's mean is below the last digit.
-constexpr double reach = 9;
-
-double NormalBelow(double z) { return std::erfc(-z * rootHalf) / 2; }
+// The normal probability above x. From `reach` on it adds no digit.
+double NormalAbove(double x, double reach) {
+  if (x > reach) return 0;
+  return x < -8.5 ? 1 : std::erfc(x * rootHalf) / 2;
+}
 
 double WholePower(double x, int n) {
   double power = 1;
@@ -31,6 +32,59 @@ double WholePower(double x, int n) {
     if (n % 2 != 0) power *= x;
   return power;
 }
+
+// Of n independent events, each of probability x, at least one. Small probabilities keep their digits.
+double AnyOf(double x, int n) {
+  double any = 0;
+  for (; n > 0; n /= 2, x *= 2 - x)
+    if (n % 2 != 0) any += (1 - any) * x;
+  return any;
+}
+
+// How often the density of u is that at u / e^shift, where u is the square root of a chi-square variable over its df.
+double DensityRatio(double u, double shift, double df) {
+  const double fall = std::expm1(-2 * shift);
+  return std::exp(-df / 2 * ((u - 1) * (u + 1) * fall + (fall + 2 * shift)));
+}
+
+// Of the trapezoidal rule over y, which converges geometrically. What it sums changes the faster, the more groups there
+// are and the larger they are beside the control. Two steps suffice, of which the second is the larger one for few groups:
+// the spectrum of a product of normal densities and probabilities falls as that of a normal density whose precision is
+// the sum of theirs.
+double StepOver(const std::vector<double>& sizes, double alpha) {
+  constexpr double pi = 3.14159265358979323846;
+  const double largest = *std::max_element(sizes.begin() + 1, sizes.end());
+  const double groups = static_cast<double>(sizes.size());
+  const double ofMany = 1 / ((1.1 + 1.15 * std::log(2 * groups)) * std::sqrt((1 + largest / sizes.front()) / 2 + 0.5));
+  const double precision = std::accumulate(sizes.begin(), sizes.end(), 0.0) / sizes.front();
+  return std::max(ofMany, pi * std::sqrt(2 / (precision * (36 - std::log(alpha)))));
+}
+
+// Values of a function that is asked for in the same order time and again.
+template <typename Function>
+class Remembered {
+public:
+  explicit Remembered(const Function& f) : f_(f) {}
+
+  void StartAgain() { next_ = 0; }
+
+  double operator()(double u) {
+    if (next_ < u_.size() && u_[next_] == u) return values_[next_++];
+    const double value = f_(u);
+    if (next_ == u_.size()) {
+      u_.push_back(u);
+      values_.push_back(value);
+      ++next_;
+    }
+    return value;
+  }
+
+private:
+  const Function& f_;
+  std::vector<double> u_;
+  std::vector<double> values_;
+  std::size_t next_ = 0;
+};
 
 bool AreSizes(const std::vector<double>& sizes) {
   if (sizes.size() < 2 || sizes.size() > mostTreatments) return false;
@@ -46,11 +100,11 @@ DunnettTest::DunnettTest(const std::vector<double>& sizes, bool isOneSided, doub
   if (!AreSizes(sizes) || !(alpha > 0 && alpha < 1)) return;
   df_ = std::accumulate(sizes.begin(), sizes.end(), 0.0) - static_cast<double>(sizes.size());
   if (!(df_ > 0)) return;
-  // The trapezoidal rule over y converges geometrically. What it sums changes the faster, the more groups there are and
-  // the larger they are beside the control.
-  const double largest = *std::max_element(sizes.begin() + 1, sizes.end());
-  const double groups = static_cast<double>(sizes.size());
-  step_ = 1 / ((1.1 + 1.15 * std::log(2 * groups)) * std::sqrt((1 + largest / sizes.front()) / 2 + 0.5));
+  step_ = StepOver(sizes, alpha);
+  // Farther out, normal densities and probabilities are below the last digit of the level.
+  reach_ = std::sqrt(-2 * std::log(1e-17 * alpha));
+  for (int i = 0; i * step_ <= reach_; ++i)
+    weights_.push_back(step_ * densityAtZero * std::exp(-i * step_ * i * step_ / 2));
   critical_ = CriticalValue(alpha);
   isValid_ = !std::isnan(critical_);
 }
@@ -62,13 +116,13 @@ std::vector<double> DunnettTest::Noncentralities(const std::vector<double>& mean
   return noncentralities;
 }
 
-std::vector<DunnettTest::Kind> DunnettTest::Kinds(const std::vector<double>& noncentralities) const {
-  std::vector<Kind> kinds;
+DunnettTest::Kinds DunnettTest::KindsAt(const std::vector<double>& noncentralities) const {
+  Kinds kinds;
   for (std::size_t i = 1; i < sizes_.size(); ++i) {
-    const double both = sizes_[i] + sizes_[0];
-    const Kind kind{std::sqrt(sizes_[i] / both), std::sqrt(sizes_[0] / both), noncentralities[i - 1], 1};
+    const double own = std::sqrt(sizes_[0] / (sizes_[i] + sizes_[0]));
+    const Kind kind{noncentralities[i - 1] / own, std::sqrt(sizes_[i] / sizes_[0]), 1 / own, 1};
     const auto same = std::find_if(kinds.begin(), kinds.end(), [&](const Kind& other) {
-      return other.shared == kind.shared && other.noncentrality == kind.noncentrality;
+      return other.slope == kind.slope && other.centre == kind.centre;
     });
     if (same == kinds.end())
       kinds.push_back(kind);
@@ -78,59 +132,113 @@ std::vector<DunnettTest::Kind> DunnettTest::Kinds(const std::vector<double>& non
   return kinds;
 }
 
-// Given the control's mean y and u, the estimated standard deviation in units of the true one, the comparisons are
-// independent (Dunnett 1955). That any is significant is summed from the probabilities of each, so that a small level
-// keeps its digits.
-double DunnettTest::Mean(Comparisons which, const std::vector<Kind>& kinds, double critical) const {
-  const int nodes = static_cast<int>(reach / step_);
-  const auto given = [&](double u) {
-    const double c = critical * u;
-    double sum = 0;
-    for (int i = -nodes; i <= nodes; ++i) {
-      const double y = i * step_;
-      double all = 1;
-      double logNone = 0;
-      for (const Kind& kind : kinds) {
-        const double centre = kind.noncentrality + kind.shared * y;
-        double rejects = NormalBelow((centre - c) / kind.own);
-        if (!isOneSided_) rejects = std::min(rejects + NormalBelow((-c - centre) / kind.own), 1.0);
-        if (which == Comparisons::All)
-          all *= WholePower(rejects, kind.count);
-        else
-          logNone += kind.count * std::log1p(-rejects);
-      }
-      sum += std::exp(-y * y / 2) * (which == Comparisons::All ? all : -std::expm1(logNone));
-    }
-    return sum * step_ * densityAtZero;
+// Of the two tails the farther one is left out where it is e^-38 of the nearer one.
+double DunnettTest::RejectionAt(const Kind& kind, double critical, double y) const {
+  const double limit = kind.scale * critical;
+  const double centre = kind.centre + kind.slope * y;
+  if (isOneSided_) return NormalAbove(limit - centre, reach_);
+  const double distance = std::fabs(centre);
+  const double nearer = NormalAbove(limit - distance, reach_);
+  return limit * distance < 19 ? std::min(nearer + NormalAbove(limit + distance, reach_), 1.0) : nearer;
+}
+
+double DunnettTest::AnyAt(const Kinds& kinds, double critical, double y) const {
+  double any = 0;
+  for (const Kind& kind : kinds) {
+    any += (1 - any) * AnyOf(RejectionAt(kind, critical, y), kind.count);
+    if (any >= 1) break;
+  }
+  return any;
+}
+
+double DunnettTest::AllAt(const Kinds& kinds, double critical, double y) const {
+  double all = 1;
+  for (const Kind& kind : kinds) {
+    all *= WholePower(RejectionAt(kind, critical, y), kind.count);
+    if (all == 0) break;
+  }
+  return all;
+}
+
+// Given the control's mean y, the comparisons are independent (Dunnett 1955). Where no mean differs, both signs of y have
+// the same probability of a two-sided test.
+double DunnettTest::Given(Comparisons which, const Kinds& kinds, double critical) const {
+  const bool isEven =
+      !isOneSided_ && std::all_of(kinds.begin(), kinds.end(), [](const Kind& kind) { return kind.centre == 0; });
+  const auto at = [&](double y) {
+    return which == Comparisons::All ? AllAt(kinds, critical, y) : AnyAt(kinds, critical, y);
   };
+  double sum = weights_[0] * at(0);
+  for (std::size_t i = 1; i < weights_.size(); ++i) {
+    const double y = static_cast<double>(i) * step_;
+    sum += weights_[i] * (isEven ? 2 * at(y) : at(y) + at(-y));
+  }
+  return sum;
+}
+
+// Over u, the estimated standard deviation in units of the true one.
+double DunnettTest::Mean(Comparisons which, const Kinds& kinds, double critical) const {
+  const auto given = [&](double u) { return Given(which, kinds, critical * u); };
   return std::min(kelcommon::MeanOverChi(given, df_), 1.0);
 }
 
-// Between the critical value of one comparison and that of Bonferroni. Against the logarithm of what a single t test has
-// above c, the logarithm of the level is almost a straight line.
 double DunnettTest::CriticalValue(double alpha) const {
-  const std::vector<Kind> kinds = Kinds(std::vector<double>(sizes_.size() - 1, 0.0));
+  const Kinds kinds = KindsAt(std::vector<double>(sizes_.size() - 1, 0.0));
+  double critical = StartOfCritical(kinds, alpha);
+  // Near 0, where the level is large, the logarithm of the critical value is no scale.
+  constexpr double leastScaled = 0.5;
+  for (int i = 0; i < 8 && critical > leastScaled && std::isfinite(critical); ++i) {
+    const double before = critical;
+    critical = ImprovedCritical(kinds, alpha, before);
+    if (std::fabs(critical / before - 1) * std::sqrt(df_ + 1) < 0.25) return critical;
+  }
+  return BracketedCritical(kinds, alpha);
+}
+
+// The level of each comparison changes little with the degrees of freedom, and without an estimated standard deviation
+// there is no integral over it.
+double DunnettTest::StartOfCritical(const Kinds& kinds, double alpha) const {
+  const double ofOne = alpha / (isOneSided_ ? 1 : 2);
+  const double low = -KelDistFun::IdfStdNorm(ofOne);
+  const double high = -KelDistFun::IdfStdNorm(ofOne / static_cast<double>(sizes_.size() - 1));
+  const auto excess = [&](double c) { return std::log(Given(Comparisons::Any, kinds, c) / alpha); };
+  const Answer normal = BracketedRoot(excess, low - 1e-9, high + 1e-9);
+  return normal ? -KelDistFun::IdfT(NormalAbove(*normal, 40), df_, 0, 0) : nan;
+}
+
+// With u in units of another critical value, what is asked at the nodes stays the same and the density of u moves. So
+// one integral serves every critical value nearby.
+double DunnettTest::ImprovedCritical(const Kinds& kinds, double alpha, double critical) const {
+  const auto given = [&](double u) { return Given(Comparisons::Any, kinds, critical * u); };
+  Remembered remembered(given);
+  const auto excess = [&](double shift) {
+    remembered.StartAgain();
+    const auto moved = [&](double u) { return DensityRatio(u, shift, df_) * remembered(u); };
+    return std::log(kelcommon::MeanOverChi(moved, df_) / alpha);
+  };
+
+  double before = 0;
+  double excessBefore = excess(0);
+  double shift = excessBefore / (1 + critical * critical / (1 + critical * critical / df_));
+  for (int i = 0; i < 20 && std::fabs(shift - before) > 1e-14; ++i) {
+    const double now = excess(shift);
+    const double next = shift - now * (shift - before) / (now - excessBefore);
+    if (now == excessBefore) break;
+    before = shift;
+    excessBefore = now;
+    shift = next;
+  }
+  return critical * std::exp(shift);
+}
+
+// Between the critical value of one comparison and that of Bonferroni.
+double DunnettTest::BracketedCritical(const Kinds& kinds, double alpha) const {
   const double sides = isOneSided_ ? 1 : 2;
   const double target = std::log(alpha);
   const auto value = [&](double log) { return -KelDistFun::IdfT(std::exp(log) / sides, df_, 0, 0); };
   const auto excess = [&](double log) { return std::log(Mean(Comparisons::Any, kinds, value(log))) - target; };
-
-  const double low = target - std::log(static_cast<double>(sizes_.size() - 1));
-  double x = low;
-  double slope = 1;
-  double before = 0;
-  double valueBefore = 0;
-  for (int i = 0; i < 20; ++i) {
-    const double at = excess(x);
-    if (i > 0) slope = (at - valueBefore) / (x - before);
-    const double next = x - at / slope;
-    if (!std::isfinite(next) || next < low || next > 0) break;
-    if (std::fabs(next - x) < 1e-9) return value(next);
-    before = x;
-    valueBefore = at;
-    x = next;
-  }
-  const Answer log = BracketedRoot(excess, low - 1e-9, std::min(target + 1e-9, 0.0));
+  const double low = target - std::log(static_cast<double>(sizes_.size() - 1)) - 1e-9;
+  const Answer log = BracketedRoot(excess, low, std::min(target + 1e-9, 0.0));
   return log ? value(*log) : nan;
 }
 
@@ -145,7 +253,7 @@ Answer DunnettTest::Power(Comparisons which, const std::vector<double>& noncentr
   if (!isValid_ || noncentralities.size() + 1 != sizes_.size()) return NoValue::Refused;
   for (const double noncentrality : noncentralities)
     if (!std::isfinite(noncentrality)) return NoValue::Refused;
-  return Mean(which, Kinds(noncentralities), critical_);
+  return Mean(which, KindsAt(noncentralities), critical_);
 }
 
 double HalfWidthOfComparison(double sd, const std::vector<double>& sizes, std::size_t group, double alpha) {

@@ -46,22 +46,32 @@ public:
 
 private:
   /// Comparisons of one noncentrality and size. The numerator of the t statistic, in its standard deviations, is
-  /// shared y + own e + noncentrality, y and e standard normal and y the control's.
+  /// shared y + own e + noncentrality, y and e standard normal and y the control's. Here all is divided by own.
   struct Kind {
-    double shared;
-    double own;
-    double noncentrality;
+    double centre;  ///< the noncentrality
+    double slope;   ///< shared / own
+    double scale;   ///< 1 / own
     int count;
   };
+  using Kinds = std::vector<Kind>;
 
-  std::vector<Kind> Kinds(const std::vector<double>& noncentralities) const;
-  double Mean(Comparisons which, const std::vector<Kind>& kinds, double critical) const;
+  Kinds KindsAt(const std::vector<double>& noncentralities) const;
+  double RejectionAt(const Kind& kind, double critical, double y) const;
+  double AnyAt(const Kinds& kinds, double critical, double y) const;
+  double AllAt(const Kinds& kinds, double critical, double y) const;
+  double Given(Comparisons which, const Kinds& kinds, double critical) const;
+  double Mean(Comparisons which, const Kinds& kinds, double critical) const;
   double CriticalValue(double alpha) const;
+  double StartOfCritical(const Kinds& kinds, double alpha) const;
+  double ImprovedCritical(const Kinds& kinds, double alpha, double critical) const;
+  double BracketedCritical(const Kinds& kinds, double alpha) const;
 
   std::vector<double> sizes_;
   bool isOneSided_;
   double df_ = 0;
   double step_ = 1;
+  double reach_ = 0;
+  std::vector<double> weights_;  ///< of the nodes y = i step_, i from 0 on
   double critical_ = 0;
   bool isValid_ = false;
 };

@@ -259,12 +259,14 @@ def rejections(critical, deltas, sizes, one_sided, df, which):
         total = arb(0)
         for y, height in nodes:
             product = height
-            for delta, share, rest, count in kinds:
-                centre = delta + share * y
+            for delta, slope, rest, count in kinds:
+                centre = delta + slope * y
                 rejects = below((centre - c) / rest)
                 if not one_sided:
                     rejects = rejects + below((-c - centre) / rest)
-                product = product * (rejects if which == "all" else 1 - rejects) ** count
+                share = (rejects if which == "all" else 1 - rejects).mid()
+                for _ in range(count):  # arb's power is NaN for a ball about zero
+                    product = product * share
             total += product
         return total.mid()
 
@@ -345,7 +347,8 @@ def dunnett_sizes():
 def main():
     folder = Path(sys.argv[1])
     wanted = sys.argv[2:] or ["tukey", "dunnett"]
-    parts = {"tukey": (any_pair_cases, pair_cases, tukey_sizes, tukey_pairs_of_one_study), "dunnett": (dunnett_cases, dunnett_sizes)}
+    parts = {"tukey": (any_pair_cases, pair_cases, tukey_sizes, tukey_pairs_of_one_study),
+             "dunnett": (dunnett_cases, dunnett_sizes)}
     for test in wanted:
         with open(folder / f"{test}.jsonl", "w", encoding="ascii") as out:
             for part in parts[test]:
