@@ -4,7 +4,6 @@
 #include <cmath>
 #include <string>
 
-#include "solve/make_inputs.h"
 
 namespace kelplan {
 namespace {
@@ -68,7 +67,7 @@ bool IsGiven(const ColumnRequest& column, std::size_t entry, const Request& requ
 void CheckColumns(const std::vector<ColumnRequest>& columns) {
   for (std::size_t i = 0; i < columns.size(); ++i) {
     const Parameter& parameter = *columns[i].parameter;
-    if (planner::DecidesLengths(parameter.name)) Reject(parameter, "it decides how long lists are");
+    if (parameter.role == planner::Role::Shape) Reject(parameter, "it decides how long lists are");
     if (parameter.IsList()) {
       if (!columns[i].entry && !parameter.spreads) Reject(parameter, "it is a list, so name an entry");
     } else if (parameter.kind != planner::Kind::Number || columns[i].entry) {

@@ -13,7 +13,7 @@ namespace {
 constexpr double mostRows = 1000;
 
 Parameter Side(Name name, std::string label, std::string meaning) {
-  return Number(name, std::move(label), std::move(meaning)).Whole().AtLeast(2).AtMost(mostRows);
+  return Number(name, std::move(label), std::move(meaning)).As(Role::Layout).Whole().AtLeast(2).AtMost(mostRows);
 }
 
 std::vector<Parameter> Parameters() {
@@ -24,6 +24,7 @@ std::vector<Parameter> Parameters() {
       Side("rows", "rows", "number of rows"),
       Side("columns", "columns", "number of columns, where no list tells it"),
       List("ratios", "allocation ratios", "shares of the rows in the study, on any scale; default equal")
+          .As(Role::Layout)
           .AtLeast(0.001)
           .AtMost(1000),
       LikelihoodRatio(),

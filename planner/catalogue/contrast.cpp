@@ -15,6 +15,7 @@ namespace {
 std::vector<Parameter> Parameters() {
   return {
       PerGroup("coefficients", "contrast coefficients", "weight of each group's mean; they sum to zero")
+          .As(Role::Layout)
           .AtLeast(-1e6)
           .AtMost(1e6),
       GroupMeans(),

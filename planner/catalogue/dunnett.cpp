@@ -16,6 +16,7 @@ std::vector<Parameter> Parameters() {
   return {
       Number("group", "group compared",
              "number of the group whose difference from the control is to be found, from 2 on")
+          .As(Role::Layout)
           .Whole()
           .AtLeast(2)
           .AtMost(10000),
@@ -35,6 +36,7 @@ std::vector<Parameter> Parameters() {
           .AtMost(1e9),
       PerGroup("ratios", "allocation ratios",
                "shares of the groups in the sizes to find, the control first, on any scale; default equal")
+          .As(Role::Layout)
           .Spreads()
           .AtLeast(0.001)
           .AtMost(1000),

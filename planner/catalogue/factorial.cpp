@@ -49,11 +49,13 @@ std::string Tested(const Inputs& in) {
 std::vector<Parameter> Parameters() {
   return {
       List("levels", "levels of the factors", "numbers of levels of the crossed factors: 2,3 makes 6 cells")
+          .As(Role::Shape)
           .Spreads()
           .Whole()
           .AtLeast(2)
           .AtMost(1000),
       List("term", "factors of the effect", "factors of the effect to test: 1 for the first, 1,2 for an interaction")
+          .As(Role::Layout)
           .Spreads()
           .Whole()
           .AtLeast(1)

@@ -21,6 +21,7 @@ Parameter GroupSizes() {
 Parameter AllocationRatios() {
   return PerGroup("ratios", "allocation ratios",
                   "shares of the groups in the sizes to find, on any scale; default equal")
+      .As(Role::Layout)
       .Spreads()
       .AtLeast(0.001)
       .AtMost(1000);
@@ -28,6 +29,7 @@ Parameter AllocationRatios() {
 
 Parameter GroupCount() {
   return Number("groups", "number of groups", "number of groups, where no list tells it")
+      .As(Role::Shape)
       .Whole()
       .AtLeast(2)
       .AtMost(10000);

@@ -18,6 +18,7 @@ kelpower::ranks::OrderedGroups OrderedGroupsOf(const Inputs& in);
 /// The probability that a value of the first group exceeds one of the second, less one half.
 double OrdinalExcess(const Inputs& in);
 
+std::vector<Route> RoutesOfOrdinal();
 std::vector<Condition> ConditionsOfOrdinal();
 std::vector<Condition> SizeExistsForOrdinal();
 std::vector<Unknown> UnknownsOfOrdinal();

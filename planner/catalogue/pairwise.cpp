@@ -17,7 +17,12 @@ namespace anova = kelpower::anova;
 
 std::vector<Parameter> Parameters() {
   return {
-      List("pair", "groups compared", "numbers of the two groups compared").Length(2).Whole().AtLeast(1).AtMost(10000),
+      List("pair", "groups compared", "numbers of the two groups compared")
+          .As(Role::Layout)
+          .Length(2)
+          .Whole()
+          .AtLeast(1)
+          .AtMost(10000),
       GroupMeans(),
       WithinSd(),
       Number("effect-d", "standardized difference d", "difference of the two means over the standard deviation")

@@ -37,6 +37,24 @@ std::string Method(const Inputs& in) {
   return "exact for equal correlations";
 }
 
+std::vector<Condition> SizeExists() {
+  constexpr const char* noEffect = "The effect size is zero: without an effect, no sample size reaches the power.";
+  return {
+      {.code = "no-effect",
+       .about = {"means"},
+       .holds = [](const Inputs& in) { return NoncentralityOfTable(in, in.Weights()) > 0; },
+       .sentence = "{means} has nothing of {effect}: without an effect, no sample size reaches the power."},
+      {.code = "no-effect",
+       .about = {"effect-f"},
+       .holds = [](const Inputs& in) { return in.Number("effect-f") > 0; },
+       .sentence = noEffect},
+      {.code = "no-effect",
+       .about = {"eta-squared"},
+       .holds = [](const Inputs& in) { return in.Number("eta-squared") > 0; },
+       .sentence = noEffect},
+  };
+}
+
 }  // namespace
 
 Test RepeatedMeasuresTest() {
@@ -50,7 +68,7 @@ Test RepeatedMeasuresTest() {
   test.routes = RoutesOfRepeatedMeasures();
   test.unknowns = {UnknownEffect("effect-f"), UnknownEffect("eta-squared"), UnknownSd("sd")};
   test.conditions = ConditionsOfRepeatedMeasures();
-  test.sizeExists = SizeExistsOfRepeatedMeasures();
+  test.sizeExists = SizeExists();
   test.derived = {
       {.name = "effect-f", .label = "effect size f of the means", .needs = {"means", "sd"}, .call = EffectFOfMeans}};
   test.assumptions = {

@@ -35,7 +35,6 @@ double NoncentralityOfRepeatedMeasures(const Inputs& in);
 std::vector<Parameter> ParametersOfRepeatedMeasures();
 std::vector<Route> RoutesOfRepeatedMeasures();
 std::vector<Condition> ConditionsOfRepeatedMeasures();
-std::vector<Condition> SizeExistsOfRepeatedMeasures();
 
 }  // namespace planner
 

@@ -11,8 +11,6 @@ using kelpower::anova::FactorialTerm;
 using kelpower::anova::RepeatedEffect;
 using kelpower::anova::RepeatedF;
 
-constexpr const char* noEffect = "The effect size is zero: without an effect, no sample size reaches the power.";
-
 bool IsTable(const Inputs& in) {
   return static_cast<double>(in.List("means").size()) == in.Groups() * in.Number("measurements");
 }
@@ -80,23 +78,6 @@ std::vector<Condition> ConditionsOfRepeatedMeasures() {
        .holds = IsContrast,
        .sentence = "{coefficients} must be as many as {measurements} says, not all 0, and sum to 0."},
       ErrorDegrees(),
-  };
-}
-
-std::vector<Condition> SizeExistsOfRepeatedMeasures() {
-  return {
-      {.code = "no-effect",
-       .about = {"means"},
-       .holds = [](const Inputs& in) { return NoncentralityOfTable(in, in.Weights()) > 0; },
-       .sentence = "{means} has nothing of {effect}: without an effect, no sample size reaches the power."},
-      {.code = "no-effect",
-       .about = {"effect-f"},
-       .holds = [](const Inputs& in) { return in.Number("effect-f") > 0; },
-       .sentence = noEffect},
-      {.code = "no-effect",
-       .about = {"eta-squared"},
-       .holds = [](const Inputs& in) { return in.Number("eta-squared") > 0; },
-       .sentence = noEffect},
   };
 }
 

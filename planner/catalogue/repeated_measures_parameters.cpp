@@ -29,10 +29,15 @@ Parameter KindOfF() {
 std::vector<Parameter> ParametersOfRepeatedMeasures() {
   return {
       Effect(),
-      Number("measurements", "measurements", "number of measurements of each subject").Whole().AtLeast(2).AtMost(1000),
+      Number("measurements", "measurements", "number of measurements of each subject")
+          .As(Role::Shape)
+          .Whole()
+          .AtLeast(2)
+          .AtMost(1000),
       List("means", "means", "mean expected of each measurement, a row for each group"),
       List("coefficients", "contrast coefficients",
-           "in place of all differences of the measurements: one for each, with a sum of 0"),
+           "in place of all differences of the measurements: one for each, with a sum of 0")
+          .As(Role::Layout),
       Number("sd", "standard deviation", "standard deviation of one measurement within the groups").Above(0),
       Number("effect-f", "effect size f", "standard deviation of the effect over that which f-of says")
           .Alias("f")
@@ -53,6 +58,7 @@ std::vector<Parameter> ParametersOfRepeatedMeasures() {
           .AtMost(1e9),
       AllocationRatios(),
       Number("groups", "number of groups", "number of groups; 1 where nothing tells it")
+          .As(Role::Shape)
           .Whole()
           .AtLeast(1)
           .AtMost(10000),

@@ -15,6 +15,7 @@ namespace {
 std::vector<Parameter> Parameters() {
   return {
       List("pair", "groups compared", "numbers of the two groups whose difference is to be found; without it, any two")
+          .As(Role::Layout)
           .Length(2)
           .Whole()
           .AtLeast(1)

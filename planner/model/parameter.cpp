@@ -86,6 +86,12 @@ Parameter Parameter::Spreads() const {
   return copy;
 }
 
+Parameter Parameter::As(Role of) const {
+  Parameter copy = *this;
+  copy.role = of;
+  return copy;
+}
+
 Parameter Parameter::Alias(std::string other) const {
   Parameter copy = *this;
   copy.aliases.push_back(std::move(other));

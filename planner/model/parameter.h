@@ -31,6 +31,13 @@ struct Limits {
   bool Allow(double number) const;
 };
 
+/// What the numbers of an input are in a design.
+enum class Role {
+  Figure,  // they may vary, from row to row and along a chart
+  Layout,  // they say what is tested: weights, places, shares
+  Shape,   // they decide besides how long lists are: numbers of groups, of levels, of measurements
+};
+
 /// One word of a choice: what the user types, the code the library knows it by, and how a sentence says it.
 struct Choice {
   std::string word;
@@ -48,7 +55,8 @@ struct Parameter {
   std::string unit;     // empty where it is that of the user's data
   Limits limits;
   std::size_t length = 0;  // of a List; 0 for any
-  bool spreads = false;    // PerGroup: a single number stands for every group; List: it may be a single number
+  Role role = Role::Figure;
+  bool spreads = false;  // PerGroup: a single number stands for every group; List: it may be a single number
   std::vector<Choice> choices;
   std::vector<std::string> aliases;
   std::optional<Value> fallback;
@@ -60,6 +68,7 @@ struct Parameter {
   Parameter Whole() const;
   Parameter Length(std::size_t entries) const;
   Parameter Spreads() const;
+  Parameter As(Role of) const;
   Parameter Alias(std::string other) const;
   Parameter Default(Value value) const;
   Parameter Unit(std::string text) const;

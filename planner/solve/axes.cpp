@@ -52,11 +52,7 @@ private:
   }
 
   void AddParameter(const Parameter& parameter) {
-    // Lists tell the number of groups, so that it cannot vary for itself. Weights of a contrast and numbers of groups
-    // are no figures of a design. Probabilities of categories sum to 1, so that none varies for itself.
-    const Names fixed{"n",      "groups",       "levels", "term",           "measurements",
-                      "ratios", "coefficients", "pair",   "probabilities1", "probabilities2"};
-    if (!IsThere(parameter.name) || Contains(fixed, parameter.name)) return;
+    if (!IsThere(parameter.name) || parameter.name == Name("n") || parameter.role != Role::Figure) return;
     if (parameter.kind == Kind::Number) return Add(NumberAxis(parameter));
     if (!parameter.IsList()) return;
     if (parameter.name == Name("sd") || parameter.name == Name("sds")) {

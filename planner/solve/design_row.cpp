@@ -2,8 +2,6 @@
 
 #include <variant>
 
-#include "solve/make_inputs.h"
-
 namespace planner {
 namespace {
 
@@ -33,7 +31,7 @@ void DesignRow::AddNumbers(const Parameter& parameter, std::span<const double> n
   const std::size_t count = numbers.size();
   // The number of groups decides how long lists are.
   AddToShape(parameter, BytesOf(count));
-  if (DecidesLengths(parameter.name)) {
+  if (parameter.role == Role::Shape) {
     for (double number : numbers) AddToShape(parameter, BytesOf(number));
   }
   given_.push_back({&parameter, numbers_.size(), count});

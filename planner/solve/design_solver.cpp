@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "solve/make_inputs.h"
 #include "solve/solve.h"
 
 namespace planner {
@@ -25,7 +24,7 @@ DesignSolver::Shape::Shape(const DesignRow& row, StopRequest* stop)
     : question(row.AskedTest(), row.Values(), stop), columns(ResultColumnsOf(question)) {
   std::vector<Column> inputs;
   for (const auto& [parameter, first, count] : row.NumbersGiven()) {
-    if (DecidesLengths(parameter->name)) continue;
+    if (parameter->role == Role::Shape) continue;
     const std::size_t entries = parameter->IsList() ? question.Design().List(parameter->name).size() : 1;
     for (std::size_t entry = 0; entry < entries; ++entry) {
       inputs.push_back({parameter->name, entry});

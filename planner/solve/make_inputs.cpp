@@ -94,10 +94,6 @@ void Spread(const Test& test, Inputs& inputs) {
 
 }  // namespace
 
-bool DecidesLengths(Name name) {
-  return name == Name("groups") || name == Name("levels") || name == Name("measurements");
-}
-
 Inputs MakeInputs(const Test& test, const InputValues& values, StopRequest* stop) {
   Inputs inputs;
   inputs.SetStop(stop);

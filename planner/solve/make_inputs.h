@@ -10,9 +10,6 @@ namespace planner {
 /// InputError when the inputs disagree about the number of groups. The values have been checked.
 Inputs MakeInputs(const Test& test, const InputValues& values, StopRequest* stop);
 
-/// Whether the number decides how long lists are, so that it cannot vary in a design that is prepared.
-bool DecidesLengths(Name name);
-
 }  // namespace planner
 
 #endif

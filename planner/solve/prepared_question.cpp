@@ -72,7 +72,8 @@ void PreparedQuestion::SetColumns(std::vector<Column> columns) {
     const Parameter* parameter = FindParameter(test_, column.name);
     const bool isEntry = parameter && parameter->IsList();
     const bool isNumber = parameter && (isEntry || parameter->kind == Kind::Number) && inputs_.Has(column.name);
-    if (!isNumber || DecidesLengths(column.name) || (isEntry && column.entry >= inputs_.List(column.name).size())) {
+    const bool isBeyond = isEntry && column.entry >= inputs_.List(column.name).size();
+    if (!isNumber || parameter->role == Role::Shape || isBeyond) {
       throw InputError({.code = Code::NotAnInput, .inputs = Texts({column.name}), .words = {test_.name}});
     }
     columns_.push_back({column, isEntry, parameter->limits});

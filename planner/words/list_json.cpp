@@ -64,6 +64,8 @@ void WriteParameter(JsonWriter& json, const Parameter& parameter) {
   json.Text("meaning", parameter.meaning);
   if (!parameter.unit.empty()) json.Text("unit", parameter.unit);
   WriteLimits(json, parameter.limits);
+  if (parameter.role == Role::Layout) json.Text("role", "layout");
+  if (parameter.role == Role::Shape) json.Text("role", "shape");
   if (parameter.length != 0) json.Number("length", static_cast<double>(parameter.length));
   if (parameter.kind == Kind::PerGroup) json.Flag("spreads", parameter.spreads);
   WriteChoices(json, parameter);

@@ -24,7 +24,8 @@ double NormalBetween(double low, double high) {
 }  // namespace
 
 double PowerOfTwoTests(const TTest& test, const Insides& inStandardErrors) {
-  const auto& [aboveLower, belowUpper] = inStandardErrors;
+  const double aboveLower = inStandardErrors.aboveLower;
+  const double belowUpper = inStandardErrors.belowUpper;
   if (std::min(aboveLower, belowUpper) == -std::numeric_limits<double>::infinity()) return 0;
   const double t = test.critical;
   const auto chance = [&](double u) { return NormalBetween(t * u - aboveLower, belowUpper - t * u); };
