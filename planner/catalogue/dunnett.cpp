@@ -53,7 +53,7 @@ std::string PowerFor(const Inputs& in) {
 
 /// A power looks for a critical value, whose integrals have the more nodes the larger a group is beside the control.
 double StepsOfPower(const Inputs& in) {
-  constexpr double stepsOfComparison = 2e4;
+  constexpr double stepsOfComparison = 5e4;
   const Numbers& sizes = in.List("n");
   const double largest = *std::max_element(sizes.begin(), sizes.end());
   const double comparisons = static_cast<double>(sizes.size() - 1);

@@ -50,6 +50,13 @@ std::string PowerFor(const Inputs& in) {
   return "the difference between groups " + std::to_string(pair.first + 1) + " and " + std::to_string(pair.second + 1);
 }
 
+/// A power looks for a critical value. That for any pair integrates over as many variables as there are different means.
+double StepsOfPower(const Inputs& in) {
+  constexpr double stepsOfCritical = 4e4;
+  constexpr double stepsOfMean = 2e4;
+  return stepsOfCritical + (IsAboutOnePair(in) ? 0 : stepsOfMean * static_cast<double>(in.Groups()));
+}
+
 }  // namespace
 
 Test TukeyTest() {
@@ -76,6 +83,7 @@ Test TukeyTest() {
       {.name = "procedure", .label = "test", .needs = {}, .call = Procedure},
       {.name = "power-for", .label = "power to find", .needs = {}, .call = PowerFor},
   };
+  test.steps = StepsOfPower;
   test.offers.comparisons = false;  // the level is that of all pairs together
   AddWordsOfTukey(test);
   return WithCommonParameters(std::move(test));

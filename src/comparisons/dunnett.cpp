@@ -48,9 +48,9 @@ double DensityRatio(double u, double shift, double df) {
 }
 
 // Of the trapezoidal rule over y, which converges geometrically. What it sums changes the faster, the more groups there
-// are and the larger they are beside the control. Two steps suffice, of which the second is the larger one for few groups:
-// the spectrum of a product of normal densities and probabilities falls as that of a normal density whose precision is
-// the sum of theirs.
+// are and the larger they are beside the control. Two steps suffice, of which the second is the larger one for few
+// groups: the spectrum of a product of normal densities and probabilities falls as that of a normal density whose
+// precision is the sum of theirs.
 double StepOver(const std::vector<double>& sizes, double alpha) {
   constexpr double pi = 3.14159265358979323846;
   const double largest = *std::max_element(sizes.begin() + 1, sizes.end());
@@ -160,8 +160,8 @@ double DunnettTest::AllAt(const Kinds& kinds, double critical, double y) const {
   return all;
 }
 
-// Given the control's mean y, the comparisons are independent (Dunnett 1955). Where no mean differs, both signs of y have
-// the same probability of a two-sided test.
+// Given the control's mean y, the comparisons are independent (Dunnett 1955). Where no mean differs, both signs of y
+// have the same probability of a two-sided test.
 double DunnettTest::Given(Comparisons which, const Kinds& kinds, double critical) const {
   const bool isEven =
       !isOneSided_ && std::all_of(kinds.begin(), kinds.end(), [](const Kind& kind) { return kind.centre == 0; });
