@@ -23,7 +23,7 @@ def frame_of_columns(columns: Mapping[str, Any], engine: str, whole: Iterable[st
     return _engines.named(engine).made(columns, frozenset(whole))
 
 
-def solve_frame(frame: Any, *, test: Any, columns: Renamed | None = None, threads: int | None = 1, **fixed: Any) -> Any:
+def solve_frame(frame: Any, *, test: Any, rename: Renamed | None = None, threads: int | None = 1, **fixed: Any) -> Any:
     """Answer the designs of a frame, one a row.
 
     The columns that have names of arguments are arguments; all others are kept as they are. What neither columns nor
@@ -38,7 +38,7 @@ def solve_frame(frame: Any, *, test: Any, columns: Renamed | None = None, thread
         Another object with Arrow's stream protocol is answered as an Arrow table.
     test : str or function
         The test, such as ``"two-means"`` or `two_means`.
-    columns : mapping of str to str, optional
+    rename : mapping of str to str, optional
         Arguments of columns that are named otherwise, such as ``{"d": "effect_d"}``. With None in place of the argument
         a column is none, although it has the name of one.
     threads : int, optional
@@ -79,7 +79,7 @@ def solve_frame(frame: Any, *, test: Any, columns: Renamed | None = None, thread
 
     """
     engine, adopted = _engines.adopted(frame)
-    question = Question(test, engine.names(adopted), columns, fixed)
+    question = Question(test, engine.names(adopted), rename, fixed)
     return _solved(engine, question, adopted, threads)
 
 
@@ -96,7 +96,7 @@ def _type_of(test: Any, name: str, types: Mapping[str, Any]) -> Any:
     return types["flag"] if kind == "flag" else types["choice"] if kind == "choice" else types["number"]
 
 
-def frame_meta(test: Any, frame: Any, *, columns: Renamed | None = None, **fixed: Any) -> pd.DataFrame:
+def frame_meta(test: Any, frame: Any, *, rename: Renamed | None = None, **fixed: Any) -> pd.DataFrame:
     """What `solve_frame` gives for such a frame, without rows, as Dask's ``meta``.
 
     Parameters
@@ -106,7 +106,7 @@ def frame_meta(test: Any, frame: Any, *, columns: Renamed | None = None, **fixed
     frame : pandas.DataFrame, dask.dataframe.DataFrame, mapping or iterable of str
         A frame like those that will be answered, or the dtypes of its columns by name, or the names of its columns
         alone: numbers are then doubles.
-    columns : mapping of str to str, optional
+    rename : mapping of str to str, optional
         As of `solve_frame`.
     **fixed
         As of `solve_frame`.
@@ -136,10 +136,10 @@ def frame_meta(test: Any, frame: Any, *, columns: Renamed | None = None, **fixed
             types = {"number": "float64", "flag": "bool", "choice": "object"}
             frame = {name: _type_of(test, name, types) for name in frame}
         frame = pd.DataFrame({name: pd.Series(dtype=kind) for name, kind in frame.items()})
-    return solve_frame(frame.iloc[:0], test=test, columns=columns, **fixed)
+    return solve_frame(frame.iloc[:0], test=test, rename=rename, **fixed)
 
 
-def arrow_schema(test: Any, schema: Any, *, columns: Renamed | None = None, **fixed: Any) -> pa.Schema:
+def arrow_schema(test: Any, schema: Any, *, rename: Renamed | None = None, **fixed: Any) -> pa.Schema:
     """The schema of what `solve_frame` gives for Arrow tables with a schema.
 
     Parameters
@@ -149,7 +149,7 @@ def arrow_schema(test: Any, schema: Any, *, columns: Renamed | None = None, **fi
     schema : pyarrow.Schema, mapping or iterable of str
         The schema of what will be answered, or the types of its columns by name, or the names of its columns alone:
         numbers are then doubles.
-    columns : mapping of str to str, optional
+    rename : mapping of str to str, optional
         As of `solve_frame`.
     **fixed
         As of `solve_frame`.
@@ -178,10 +178,10 @@ def arrow_schema(test: Any, schema: Any, *, columns: Renamed | None = None, **fi
         schema = {name: _type_of(test, name, types) for name in schema}
     if not isinstance(schema, pa.Schema):
         schema = pa.schema(list(schema.items()))
-    return solve_frame(schema.empty_table(), test=test, columns=columns, **fixed).schema
+    return solve_frame(schema.empty_table(), test=test, rename=rename, **fixed).schema
 
 
-def spark_schema(test: Any, schema: Any, *, columns: Renamed | None = None, **fixed: Any) -> StructType:
+def spark_schema(test: Any, schema: Any, *, rename: Renamed | None = None, **fixed: Any) -> StructType:
     """The schema of a Spark data frame that is answered with `arrow_batches`.
 
     Parameters
@@ -190,7 +190,7 @@ def spark_schema(test: Any, schema: Any, *, columns: Renamed | None = None, **fi
         As of `solve_frame`.
     schema : pyspark.sql.types.StructType or pyspark.sql.DataFrame
         The schema of what will be answered, or a data frame that has it.
-    columns : mapping of str to str, optional
+    rename : mapping of str to str, optional
         As of `solve_frame`.
     **fixed
         As of `solve_frame`.
@@ -209,7 +209,7 @@ def spark_schema(test: Any, schema: Any, *, columns: Renamed | None = None, **fi
     from pyspark.sql.types import DoubleType, IntegerType, LongType, StructField, StructType
 
     fields = list(getattr(schema, "schema", schema).fields)
-    question = Question(test, [each.name for each in fields], columns, fixed)
+    question = Question(test, [each.name for each in fields], rename, fixed)
     results = [StructField(name, LongType() if name in question.sizes else DoubleType()) for name in question.results]
     return StructType([*fields, *results, StructField("status", IntegerType())])
 
@@ -217,9 +217,9 @@ def spark_schema(test: Any, schema: Any, *, columns: Renamed | None = None, **fi
 class _Batches:
     """Answers record batches as they come. The question is made anew in each process."""
 
-    def __init__(self, test: str, columns: Renamed | None, threads: int | None, fixed: Mapping[str, Any]) -> None:
+    def __init__(self, test: str, rename: Renamed | None, threads: int | None, fixed: Mapping[str, Any]) -> None:
         self._test = test
-        self._columns = columns
+        self._rename = rename
         self._threads = threads
         self._fixed = fixed
 
@@ -228,12 +228,12 @@ class _Batches:
         for batch in batches:
             engine, adopted = _engines.adopted(batch)
             if question is None or question.names != engine.names(adopted):
-                question = Question(self._test, engine.names(adopted), self._columns, self._fixed)
+                question = Question(self._test, engine.names(adopted), self._rename, self._fixed)
             yield _solved(engine, question, adopted, self._threads)
 
 
 def arrow_batches(
-    test: Any, *, columns: Renamed | None = None, threads: int | None = 1, **fixed: Any
+    test: Any, *, rename: Renamed | None = None, threads: int | None = 1, **fixed: Any
 ) -> Callable[[Iterable[pa.RecordBatch]], Iterator[pa.RecordBatch]]:
     """A function that answers record batches one after another, as Spark's ``mapInArrow`` takes it.
 
@@ -241,7 +241,7 @@ def arrow_batches(
     ----------
     test : str or function
         As of `solve_frame`.
-    columns : mapping of str to str, optional
+    rename : mapping of str to str, optional
         As of `solve_frame`.
     threads : int, optional
         As of `solve_frame`.
@@ -263,7 +263,7 @@ def arrow_batches(
     [[44], [265, 19]]
 
     """
-    return _Batches(_catalogue.find(test).name, columns, threads, _plain(fixed))
+    return _Batches(_catalogue.find(test).name, rename, threads, _plain(fixed))
 
 
 def _plain(fixed: Mapping[str, Any]) -> dict[str, Any]:

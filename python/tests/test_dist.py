@@ -100,7 +100,10 @@ def test_references(name):
 
 
 def test_all_references_are_asked():
-    assert set(REFERENCES) == set(SAME)
+    # Those of the second header of distributions are not in the package.
+    assert set(SAME) <= set(REFERENCES)
+    header = (ROOT / "kelcommon/include/kelcommon/kel_dist_fun.h").read_text()
+    assert {name for name in REFERENCES if f" {name}(" in header} == set(SAME)
 
 
 X = np.array([-np.inf, -40.0, -8.5, -1.0, -1e-9, 0.0, 1e-300, 0.3, 1.0, 7.5, 60.0, np.inf])

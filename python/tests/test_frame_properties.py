@@ -15,7 +15,12 @@ pl = pytest.importorskip("polars")
 pa = pytest.importorskip("pyarrow")
 
 # They decide what is asked, or how long lists are.
-SHARED = {"interval", "solve", "groups"}
+SHARED = {"interval", "solve"} | {
+    python_name(parameter["name"])
+    for test in TESTS.values()
+    for parameter in test["parameters"]
+    if parameter.get("role") == "shape"
+}
 TARGETS = ("power", "half_width", "assurance")
 
 draws = settings(

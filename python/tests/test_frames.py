@@ -183,7 +183,7 @@ def test_columns_of_answers_can_be_asked_again():
 def test_columns_with_other_names():
     designs = pd.DataFrame({"d": [0.5], "sd": ["unrelated"], "goal": [0.9]})
     renamed = {"d": "effect_d", "goal": "power", "sd": None}
-    answered = kelpower.solve_frame(designs, test="two-means", columns=renamed)
+    answered = kelpower.solve_frame(designs, test="two-means", rename=renamed)
     assert list(answered) == ["d", "sd", "goal", "n1", "n2", "total", "power", "status"]
     assert answered["total"][0] == 172
 
@@ -497,7 +497,7 @@ def test_schemas_from_names():
     assert schema.types == [pa.float64(), pa.bool_(), pa.string(), pa.int64(), pa.float64(), pa.int32()]
     assert kelpower.arrow_schema("spearman", {"r": pa.float32()}, power=0.9).names == ["r", "n", "power", "status"]
     given = pa.schema([("d", pa.float32())], metadata={"made": "by hand"})
-    assert kelpower.arrow_schema("mean", given, power=0.9, columns={"d": "effect_d"}).metadata == {b"made": b"by hand"}
+    assert kelpower.arrow_schema("mean", given, power=0.9, rename={"d": "effect_d"}).metadata == {b"made": b"by hand"}
     meta = kelpower.frame_meta("spearman", ["r", "one_sided", "variance"], power=0.9)
     assert list(meta) == schema.names
 

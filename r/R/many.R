@@ -18,7 +18,7 @@ solve_many <- function(test, given, count, call) {
 
 # Flags, words and the number of groups decide the route and stand still within a call.
 can_vary <- function(given, kinds, name) {
-  is_list_kind(kinds[name]) || (identical(kinds[[name]], "number") && name != "groups" && is.numeric(given[[name]]))
+  is_list_kind(kinds[name]) || (identical(kinds[[name]], "number") && !is_shape(name) && is.numeric(given[[name]]))
 }
 
 # The rows by what must be equal within a call: the fixed inputs, and the lengths of lists.

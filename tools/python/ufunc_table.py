@@ -64,6 +64,13 @@ def parameter_of(test, name):
     return next(each for each in test["parameters"] if each["name"] == name)
 
 
+def has_ufunc(test, route):
+    """Whether what a route needs are numbers, and lists with one for each group: a ufunc has one dimension of groups."""
+    needed = [parameter_of(test, name) for name in route["needs"]]
+    tables = [each for each in needed if each["kind"] == "list" and "length" not in each]
+    return not tables and not any(each.get("role") == "shape" for each in needed)
+
+
 def columns_of(test, route, unknown=None):
     """The arguments of a route, those of the effect first, and the flags that it needs."""
     needed = [parameter_of(test, name) for name in route["needs"] if name != unknown]
@@ -97,7 +104,8 @@ def form_of(arguments, primary):
 
 
 def of_question(test, question):
-    routes = [(route, *columns_of(test, route)) for route in test["routes"] if route["question"] == question]
+    routes = [(route, *columns_of(test, route)) for route in test["routes"]
+              if route["question"] == question and has_ufunc(test, route)]
     primary = min((arguments for _, arguments, flags in routes), key=len, default=[])
     found = {}
     for route, arguments, flags in routes:
@@ -124,6 +132,8 @@ def of_unknown(test, unknown):
         return []
     for route in test["routes"]:
         if route["question"] != "power" or name not in route["needs"] or "exact" in route["needs"]:
+            continue
+        if not has_ufunc(test, route):
             continue
         arguments, _ = columns_of(test, route, name)
         output = (underscored(name), 0, False)
