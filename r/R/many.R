@@ -3,7 +3,9 @@
 
 solve_many <- function(test, given, count, call) {
   kinds <- kinds_of(test)
-  is_column <- vapply(names(given), function(name) length(given[[name]]) > 1 && can_vary(given, kinds, name), NA)
+  fixed_names <- shapes_of(test)
+  varies <- function(name) length(given[[name]]) > 1 && !name %in% fixed_names && can_vary(given, kinds, name)
+  is_column <- vapply(names(given), varies, NA)
   fixed <- given[!is_column]
   parts <- split_rows(fixed, given[is_column], count)
   answers <- lapply(parts, function(rows) {
@@ -16,9 +18,9 @@ solve_many <- function(test, given, count, call) {
   new_kelpower(test, joined$question, joined$inputs, joined$results, given, status = joined$status)
 }
 
-# Flags, words and the number of groups decide the route and stand still within a call.
+# Flags and words decide the route and stand still within a call, as numbers do that decide how long lists are.
 can_vary <- function(given, kinds, name) {
-  is_list_kind(kinds[name]) || (identical(kinds[[name]], "number") && !is_shape(name) && is.numeric(given[[name]]))
+  is_list_kind(kinds[name]) || (identical(kinds[[name]], "number") && is.numeric(given[[name]]))
 }
 
 # The rows by what must be equal within a call: the fixed inputs, and the lengths of lists.
