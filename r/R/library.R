@@ -33,16 +33,16 @@ kinds_of <- function(test) {
   known$kinds[[test]]
 }
 
-# The inputs of a test that decide how long lists are, by each name that they may be given.
-shapes_of <- function(test) {
-  shapes <- Filter(function(each) identical(each$role, "shape"), tests()[[test]]$parameters)
-  unlist(lapply(shapes, function(each) c(each$name, unlist(each$aliases))))
-}
-
 kinds_by_name <- function(parameters) {
   names <- lapply(parameters, function(each) underscored(c(each$name, unlist(each$aliases))))
   kinds <- vapply(parameters, function(each) each$kind, "")
   stats::setNames(rep(kinds, lengths(names)), unlist(names))
+}
+
+# The inputs of a test that decide how long lists are, by each name that they may be given.
+shapes_of <- function(test) {
+  shapes <- Filter(function(each) identical(each$role, "shape"), tests()[[test]]$parameters)
+  underscored(unlist(lapply(shapes, function(each) c(each$name, unlist(each$aliases)))))
 }
 
 # The labels of the inputs and of the results of a question.
