@@ -71,7 +71,7 @@ void Prepare(Call& call) {
   WriteInputs(reply, batch);
   WriteColumns(reply, batch);
   WriteResults(reply, batch);
-  reply.Text("export", question.ChosenRoute().ExportFor(question.Design()));
+  reply.TextUnlessEmpty("export", question.ChosenRoute().ExportFor(question.Design()));
   reply.CloseObject();
   call.batch = prepared.release();
 }

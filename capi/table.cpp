@@ -53,7 +53,7 @@ public:
     json_.OpenArray();
     for (std::size_t i = 0; i < designs_.Count(); ++i) WriteRow(i);
     json_.CloseArray();
-    json_.Text("export", route.ExportFor(question_.Design()));
+    json_.TextUnlessEmpty("export", route.ExportFor(question_.Design()));
     json_.CloseObject();
   }
 

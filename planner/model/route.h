@@ -21,12 +21,14 @@ struct Route {
   Question question;
   Names needs;
   Names accepts = {};
-  std::string exportName;
-  std::string oneSidedExport = {};                   // where the one-sided form is an export of its own
-  Evaluation value = {};                             // of a question about a power or a half-width
-  Evaluation surfaceValue = {};                      // the same to 1e-12, faster where many share their sizes
-  Evaluation lastingSize = {};                       // from which on all sizes reach a power, where the core tells it
-  std::function<Numbers(const Inputs&)> sizes = {};  // of the others: a whole size for each group, empty for none
+  std::string exportName = {};      // empty where no export answers
+  std::string oneSidedExport = {};  // where the one-sided form is an export of its own
+  Evaluation value = {};            // of a question about a power or a half-width
+  Evaluation surfaceValue = {};     // the same to 1e-12, faster where many share their sizes
+  Evaluation lastingSize = {};      // from which on all sizes reach a power, where the core tells it
+  /// Of a question about sizes: whole ones, one for each group, near which the search for the first that reach the target
+  /// starts; empty for none. May be left out where the power is even.
+  std::function<Numbers(const Inputs&)> sizes = {};
 
   bool Takes(Name name) const { return Contains(needs, name) || Contains(accepts, name); }
 

@@ -105,12 +105,16 @@ private:
   const Condition* FailingEffect(const Inputs& inputs) const;
   Row Checked(const Inputs& inputs);
   Row ValueOf(const Inputs& inputs) const;
+  class Trial;  // of whole sizes
+
   Row FindSizes(const Inputs& inputs);
+  Row FindFrom(const Numbers& start, Trial& trial);
+  Row AtUncountable(const Inputs& inputs, Numbers sizes);
   Row FindUnevenAssurance(const Inputs& inputs);
   Numbers Start(const Inputs& inputs, const WholeSizes& whole) const;
   bool IsAssuredUnevenly() const;
   bool IsBeyondLimit(const Inputs& inputs) const;
-  std::optional<double> FindWhole(const WholeSizes& whole, const Numbers& found, Reaches reaches) const;
+  bool IsFoundByPower(const Inputs& inputs) const;
   double FindUneven(const WholeSizes& whole, const Inputs& inputs, double number, Reaches reaches);
   Unevenness UnevennessOf(const Inputs& inputs) const;
   Row FindNumber(const Inputs& inputs);

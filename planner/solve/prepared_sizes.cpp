@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "frame/whole_size.h"
 #include "solve/adjusted_value.h"
 #include "solve/checks.h"
 #include "solve/prepared_parts.h"
@@ -30,16 +31,81 @@ bool NearlyReached(Question question, double value, const Inputs& inputs) {
   return value <= inputs.Number("half-width") * (1 + rounding);
 }
 
-/// What the sizes of a search gave. Of several groups, numbers next to each other often come to the same sizes, and the
-/// number that a search ends with was tried before.
-struct TriedSizes {
-  Numbers sizes;
-  Row row{};
-  double assured = 0;
-  bool isReached = false;
-};
-
 }  // namespace
+
+/// Tries whole sizes for a target. Of several groups, numbers next to each other often come to the same sizes, and the
+/// number that a search ends with was tried before: the latest that reach the target and that miss it are remembered.
+class PreparedQuestion::Trial {
+public:
+  Trial(PreparedQuestion& question, const Inputs& inputs)
+      : question_(question),
+        inputs_(inputs),
+        whole_(question.test_, inputs),
+        at_(AtSizes(inputs, whole_.At(whole_.Smallest()))) {}
+
+  /// Whether the sizes of the number reach the target; true as well once the search is stopped, which ends it.
+  bool Reaches(double number) {
+    Try(number);
+    return latest_->isReached || IsStopped();
+  }
+
+  /// The power at the sizes of the number: NaN where there is none, 1 once the search is stopped.
+  double PowerAt(double number) {
+    Try(number);
+    return IsStopped() ? 1 : latest_->row.value;
+  }
+
+  /// The answer at the sizes of the number.
+  Row RowAt(double number) {
+    Try(number);
+    question_.sizes_ = latest_->sizes;
+    question_.assured_ = latest_->assured;
+    return IsStopped() ? stopped : latest_->row;
+  }
+
+  bool IsStopped() const { return latest_->row.status == RowStatus::Stopped; }
+  const WholeSizes& Whole() const { return whole_; }
+  const Inputs& Asked() const { return inputs_; }
+
+private:
+  struct Tried {
+    Numbers sizes;
+    Row row{};
+    double assured = std::numeric_limits<double>::quiet_NaN();
+    bool isReached = false;
+  };
+
+  void Try(double number) {
+    if (IsStopped()) return;
+    Numbers sizes = whole_.At(number);
+    for (const Tried& tried : tried_) {
+      if (tried.sizes != sizes) continue;
+      latest_ = &tried;
+      return;
+    }
+    Tried tried = At(std::move(sizes));
+    Tried& kept = tried_[tried.isReached ? 1 : 0];
+    kept = std::move(tried);
+    latest_ = &kept;
+  }
+
+  Tried At(Numbers sizes) {
+    SetSizes(at_, sizes);
+    Tried tried{std::move(sizes), refused};
+    if (!FirstFailing(question_.sizeConditions_, at_)) tried.row = question_.ValueOf(at_);
+    if (question_.assurance_) tried.assured = question_.assurance_(at_);
+    tried.isReached = tried.row.status == RowStatus::Answered &&
+                      Reached(question_.route_.question, tried.row.value, tried.assured, inputs_);
+    return tried;
+  }
+
+  PreparedQuestion& question_;
+  const Inputs& inputs_;
+  const WholeSizes whole_;
+  Inputs at_;
+  std::array<Tried, 2> tried_;  // the latest that misses the target, and the latest that reaches it
+  const Tried* latest_ = &tried_[0];
+};
 
 bool PreparedQuestion::IsUneven() const {
   if (!AsksForSizes(route_.question)) return false;
@@ -58,12 +124,9 @@ bool PreparedQuestion::IsBeyondLimit(const Inputs& inputs) const {
   return !(inputs.Number("power") < test_.offers.expectedPowerLimit(inputs));
 }
 
-/// From the sizes that the core's search found, if any: it may stop short of the first whole ones, or look where there are
-/// none.
-std::optional<double> PreparedQuestion::FindWhole(const WholeSizes& whole, const Numbers& found,
-                                                  Reaches reaches) const {
-  const double start = found.empty() ? whole.Smallest() : whole.NumberOf(found);
-  return FirstWhole(start, whole.Smallest(), reaches);
+/// The power tells by itself where it reaches the target, unless it jumps.
+bool PreparedQuestion::IsFoundByPower(const Inputs& inputs) const {
+  return route_.question == Question::SampleSize && UnevennessOf(inputs) == Unevenness::Even;
 }
 
 /// The first number, or with `stable` the one from which on all reach the target.
@@ -92,7 +155,12 @@ Row PreparedQuestion::FindUnevenAssurance(const Inputs& inputs) {
 
 /// Where to look for whole sizes.
 Numbers PreparedQuestion::Start(const Inputs& inputs, const WholeSizes& whole) const {
-  Numbers sizes = assurance_ ? test_.offers.assuredSizes(inputs) : AdjustedStart(route_.sizes(inputs), inputs);
+  Numbers sizes;
+  if (assurance_) {
+    sizes = test_.offers.assuredSizes(inputs);
+  } else if (route_.sizes) {
+    sizes = AdjustedStart(route_.sizes(inputs), inputs);
+  }
   if (!AreSizes(sizes)) return {};
   // The power at an effect that is small for certain tells little of one that may be large.
   const bool isFarOff = inputs.Has("effect-sd") && !whole.AreCountable(sizes);
@@ -103,45 +171,42 @@ Row PreparedQuestion::FindSizes(const Inputs& inputs) {
   lasting_.clear();
   if (IsBeyondLimit(inputs)) return unanswered;
   if (IsAssuredUnevenly()) return FindUnevenAssurance(inputs);
-  const WholeSizes whole(test_, inputs);
+  Trial trial(*this, inputs);
+  const WholeSizes& whole = trial.Whole();
+  const bool isFoundByPower = IsFoundByPower(inputs);
+  if (isFoundByPower) {
+    const std::optional<double> number =
+        kelpower::FirstWholeSize(whole.Smallest(), largestNumber, inputs.Alpha(), inputs.Number("power"),
+                                 [&](double tried) { return trial.PowerAt(tried); });
+    if (number) return trial.RowAt(*number);
+  }
   Numbers found = Start(inputs, whole);
   if (IsStopped()) return stopped;
-  const bool isUneven = UnevennessOf(inputs) != Unevenness::Even;
-  if (isUneven && found.empty()) return unanswered;
+  if (!found.empty() && !whole.AreCountable(found)) return AtUncountable(inputs, std::move(found));
+  return isFoundByPower ? unanswered : FindFrom(found, trial);
+}
 
-  Inputs tried = AtSizes(inputs, whole.At(whole.Smallest()));
-  if (!found.empty() && !whole.AreCountable(found)) {
-    sizes_ = std::move(found);
-    SetSizes(tried, sizes_);
-    if (assurance_) assured_ = assurance_(tried);
-    const Row row = ValueOf(tried);
-    return row.status != RowStatus::Answered || NearlyReached(route_.question, row.value, inputs) ? row : unanswered;
-  }
-  Row row = unanswered;
-  std::array<TriedSizes, 2> latest;
-  const auto reaches = [&](double number) {
-    if (row.status == RowStatus::Stopped) return true;
-    sizes_ = whole.At(number);
-    for (const TriedSizes& known : latest) {
-      if (known.sizes != sizes_) continue;
-      row = known.row;
-      assured_ = known.assured;
-      return known.isReached;
-    }
-    SetSizes(tried, sizes_);
-    row = FirstFailing(sizeConditions_, tried) ? refused : ValueOf(tried);
-    if (assurance_) assured_ = assurance_(tried);
-    if (row.status == RowStatus::Stopped) return true;
-    const bool isReached = row.status == RowStatus::Answered && Reached(route_.question, row.value, assured_, inputs);
-    latest[isReached ? 1 : 0] = {sizes_, row, assured_, isReached};
-    return isReached;
-  };
-  std::optional<double> number = FindWhole(whole, found, reaches);
-  if (number && isUneven) number = FindUneven(whole, inputs, *number, reaches);
-  if (row.status == RowStatus::Stopped) return stopped;
-  if (!number) return unanswered;
-  reaches(*number);
-  return row;
+/// Sizes that no study can count are as good as the core's search found them.
+Row PreparedQuestion::AtUncountable(const Inputs& inputs, Numbers sizes) {
+  sizes_ = std::move(sizes);
+  const Inputs atSizes = AtSizes(inputs, sizes_);
+  if (assurance_) assured_ = assurance_(atSizes);
+  const Row row = ValueOf(atSizes);
+  return row.status != RowStatus::Answered || NearlyReached(route_.question, row.value, inputs) ? row : unanswered;
+}
+
+/// From the sizes that the core's search found, if any: it may stop short of the first whole ones, or look where there are
+/// none.
+Row PreparedQuestion::FindFrom(const Numbers& found, Trial& trial) {
+  const WholeSizes& whole = trial.Whole();
+  const bool isUneven = UnevennessOf(trial.Asked()) != Unevenness::Even;
+  if (isUneven && found.empty()) return unanswered;
+  const auto reaches = [&](double number) { return trial.Reaches(number); };
+  const double start = found.empty() ? whole.Smallest() : whole.NumberOf(found);
+  std::optional<double> number = FirstWhole(start, whole.Smallest(), reaches);
+  if (number && isUneven) number = FindUneven(whole, trial.Asked(), *number, reaches);
+  if (trial.IsStopped()) return stopped;
+  return number ? trial.RowAt(*number) : unanswered;
 }
 
 }  // namespace planner

@@ -7,9 +7,6 @@
 namespace planner {
 namespace {
 
-// Beyond this many a study cannot count its observations, nor a power tell one of them apart.
-constexpr double largestNumber = 1e15;
-
 /// How far the sawtooth of an exact power reaches: its teeth are some square roots of the size long. Where the work of a
 /// power grows with the square of the size, large sizes are looked at less far.
 double Span(double number, bool isSlow) {

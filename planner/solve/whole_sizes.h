@@ -9,6 +9,9 @@
 
 namespace planner {
 
+/// Beyond this many a study cannot count its observations, nor a power tell one of them apart.
+inline constexpr double largestNumber = 1e15;
+
 /// The sizes that a study can have, in the order of their sum: one number tells them all. It is the size of the first of
 /// two groups, and the total of several, each with its share. Of clusters that are assigned whole they are counted.
 class WholeSizes {

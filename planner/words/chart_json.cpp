@@ -87,7 +87,7 @@ void WriteCurve(JsonWriter& json, const ChartData& chart, const ChartCurve& curv
   if (curve.mark) WriteMark(json, *curve.mark, quantity);
   json.KeyOfName(quantity);
   WriteSeries(json, curve.series, chart.IsSurface());
-  json.Text("export", curve.route->ExportFor(curve.design));
+  json.TextUnlessEmpty("export", curve.route->ExportFor(curve.design));
   json.CloseObject();
 }
 

@@ -45,6 +45,9 @@ public:
   void Written(std::string_view json);
 
   void Text(std::string_view key, std::string_view text) { Key(key), Text(text); }
+  void TextUnlessEmpty(std::string_view key, std::string_view text) {
+    if (!text.empty()) Text(key, text);
+  }
   void Number(std::string_view key, double number) { Key(key), Number(number); }
   void Flag(std::string_view key, bool flag) { Key(key), Flag(flag); }
 

@@ -108,8 +108,8 @@ void WriteRoute(JsonWriter& json, const Test& test, const Route& route) {
   WriteNames(json, "accepts", route.accepts);
   WriteList(json, "results", PossibleResults(test, route),
             [&](const PossibleResult& result) { WriteResult(json, result); });
-  json.Text("export", route.exportName);
-  if (!route.oneSidedExport.empty()) json.Text("one-sided-export", route.oneSidedExport);
+  json.TextUnlessEmpty("export", route.exportName);
+  json.TextUnlessEmpty("one-sided-export", route.oneSidedExport);
   json.CloseObject();
 }
 

@@ -89,8 +89,8 @@ void WriteReport(JsonWriter& json, const Report& report) {
   if (!report.assumptions.empty()) WriteEntries(json, "assumptions", report.assumptions);
   WriteEntries(json, "results", report.results);
   json.Text("sentence", report.sentence);
-  if (!report.note.empty()) json.Text("note", report.note);
-  if (!report.exportName.empty()) json.Text("export", report.exportName);
+  json.TextUnlessEmpty("note", report.note);
+  json.TextUnlessEmpty("export", report.exportName);
   if (report.explanation) WriteExplanation(json, *report.explanation);
 }
 
