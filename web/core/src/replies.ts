@@ -37,9 +37,9 @@ export interface Answer {
   sentence: string;
   note?: string;
   /**
-   * the function of kelpower.h that answers
+   * the function of kelpower.h that answers, where there is one
    */
-  export: string;
+  export?: string;
   details?: Details;
   /**
    * where the request has densities; null where the power is not that of one statistic
@@ -125,7 +125,10 @@ export interface Table {
   rows: {
     [k: string]: unknown;
   }[];
-  export: string;
+  /**
+   * the function of kelpower.h that answers, where there is one
+   */
+  export?: string;
 }
 /**
  * The reply of kelplan_draw.
@@ -160,7 +163,10 @@ export interface Chart {
       at: number[];
       [k: string]: unknown;
     };
-    export: string;
+    /**
+     * the function of kelpower.h that answers, where there is one
+     */
+    export?: string;
     [k: string]: unknown;
   }[];
   /**
@@ -278,7 +284,10 @@ export interface Test {
        */
       optional?: true;
     }[];
-    export: string;
+    /**
+     * the function of kelpower.h that answers, where there is one
+     */
+    export?: string;
     "one-sided-export"?: string;
   }[];
   unknowns: {
