@@ -9,7 +9,7 @@ namespace planner {
 namespace ranks = kelpower::ranks;
 
 ranks::OrdinalTest OrdinalTestOf(const Inputs& in) {
-  return {OrdinalMethod(in.Choice("method")), RankSidesOf(in), in.Alpha()};
+  return {ranks::OrdinalMethod(in.Choice("method")), RankSidesOf(in), in.Alpha()};
 }
 
 ranks::OrderedGroups OrderedGroupsOf(const Inputs& in) {
