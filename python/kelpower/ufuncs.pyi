@@ -27,12 +27,10 @@ __all__ = [
     "contingency_effect_w",
     "contingency_n",
     "contingency_n_of_cramers_v",
-    "contingency_n_of_effect_w",
-    "contingency_n_of_profiles",
+    "contingency_n_of_rows",
     "contingency_power",
     "contingency_power_of_cramers_v",
-    "contingency_power_of_effect_w",
-    "contingency_power_of_profiles",
+    "contingency_power_of_rows",
     "contrast_effect_d",
     "contrast_half_width",
     "contrast_n",
@@ -87,23 +85,9 @@ __all__ = [
     "dunnett_sd",
     "dunnett_total",
     "dunnett_total_of_means",
-    "factorial_effect_f",
-    "factorial_eta_squared",
-    "factorial_n",
-    "factorial_n_of_eta_squared",
-    "factorial_n_of_means",
-    "factorial_power",
-    "factorial_power_of_eta_squared",
-    "factorial_power_of_means",
-    "factorial_sd",
-    "factorial_total",
-    "factorial_total_of_eta_squared",
-    "factorial_total_of_means",
     "goodness_of_fit_effect_w",
     "goodness_of_fit_n",
-    "goodness_of_fit_n_of_effect_w",
     "goodness_of_fit_power",
-    "goodness_of_fit_power_of_effect_w",
     "mann_whitney_effect_d",
     "mann_whitney_n",
     "mann_whitney_n_of_superiority",
@@ -126,13 +110,6 @@ __all__ = [
     "mean_power_of_mean_non_inferiority",
     "mean_power_of_mean_superiority",
     "mean_sd",
-    "ordinal_n",
-    "ordinal_n_of_probabilities2",
-    "ordinal_odds_ratio",
-    "ordinal_power",
-    "ordinal_power_of_probabilities2",
-    "ordinal_total",
-    "ordinal_total_of_probabilities2",
     "paired_means_correlation",
     "paired_means_effect_d",
     "paired_means_half_width",
@@ -220,18 +197,6 @@ __all__ = [
     "regression_power",
     "regression_power_of_effect_f2",
     "regression_r_squared",
-    "repeated_measures_effect_f",
-    "repeated_measures_eta_squared",
-    "repeated_measures_n",
-    "repeated_measures_n_of_eta_squared",
-    "repeated_measures_n_of_means",
-    "repeated_measures_power",
-    "repeated_measures_power_of_eta_squared",
-    "repeated_measures_power_of_means",
-    "repeated_measures_sd",
-    "repeated_measures_total",
-    "repeated_measures_total_of_eta_squared",
-    "repeated_measures_total_of_means",
     "signed_rank_effect_d",
     "signed_rank_n",
     "signed_rank_n_of_positive_average",
@@ -453,18 +418,6 @@ dunnett_half_width: np.ufunc
 dunnett_n_for_half_width: np.ufunc
 dunnett_effect_d: np.ufunc
 dunnett_sd: np.ufunc
-factorial_power_of_means: np.ufunc
-factorial_power: np.ufunc
-factorial_power_of_eta_squared: np.ufunc
-factorial_n_of_means: np.ufunc
-factorial_total_of_means: np.ufunc
-factorial_n: np.ufunc
-factorial_total: np.ufunc
-factorial_n_of_eta_squared: np.ufunc
-factorial_total_of_eta_squared: np.ufunc
-factorial_effect_f: np.ufunc
-factorial_eta_squared: np.ufunc
-factorial_sd: np.ufunc
 ancova_power_of_means: np.ufunc
 ancova_power: np.ufunc
 ancova_n_of_means: np.ufunc
@@ -473,18 +426,6 @@ ancova_n: np.ufunc
 ancova_total: np.ufunc
 ancova_effect_f: np.ufunc
 ancova_sd: np.ufunc
-repeated_measures_power_of_means: np.ufunc
-repeated_measures_power: np.ufunc
-repeated_measures_power_of_eta_squared: np.ufunc
-repeated_measures_n_of_means: np.ufunc
-repeated_measures_total_of_means: np.ufunc
-repeated_measures_n: np.ufunc
-repeated_measures_total: np.ufunc
-repeated_measures_n_of_eta_squared: np.ufunc
-repeated_measures_total_of_eta_squared: np.ufunc
-repeated_measures_effect_f: np.ufunc
-repeated_measures_eta_squared: np.ufunc
-repeated_measures_sd: np.ufunc
 mean_power_of_mean: np.ufunc
 mean_power: np.ufunc
 mean_power_of_mean_non_inferiority: np.ufunc
@@ -601,13 +542,6 @@ signed_rank_n: np.ufunc
 signed_rank_n_of_positive_average: np.ufunc
 signed_rank_effect_d: np.ufunc
 signed_rank_positive_average: np.ufunc
-ordinal_power_of_probabilities2: np.ufunc
-ordinal_power: np.ufunc
-ordinal_n_of_probabilities2: np.ufunc
-ordinal_total_of_probabilities2: np.ufunc
-ordinal_n: np.ufunc
-ordinal_total: np.ufunc
-ordinal_odds_ratio: np.ufunc
 variance_power: np.ufunc
 variance_power_of_sd: np.ufunc
 variance_n: np.ufunc
@@ -745,17 +679,13 @@ paired_proportions_proportion1: np.ufunc
 paired_proportions_proportion2: np.ufunc
 paired_proportions_correlation: np.ufunc
 goodness_of_fit_power: np.ufunc
-goodness_of_fit_power_of_effect_w: np.ufunc
 goodness_of_fit_n: np.ufunc
-goodness_of_fit_n_of_effect_w: np.ufunc
 goodness_of_fit_effect_w: np.ufunc
+contingency_power_of_rows: np.ufunc
 contingency_power: np.ufunc
-contingency_power_of_profiles: np.ufunc
-contingency_power_of_effect_w: np.ufunc
 contingency_power_of_cramers_v: np.ufunc
+contingency_n_of_rows: np.ufunc
 contingency_n: np.ufunc
-contingency_n_of_profiles: np.ufunc
-contingency_n_of_effect_w: np.ufunc
 contingency_n_of_cramers_v: np.ufunc
 contingency_effect_w: np.ufunc
 contingency_cramers_v: np.ufunc
