@@ -96,6 +96,8 @@ public:
   const Inputs& Design() const { return inputs_; }
 
 private:
+  class Trial;  // of whole sizes
+
   struct BoundColumn {
     Column column;
     bool isEntry;
@@ -105,8 +107,6 @@ private:
   const Condition* FailingEffect(const Inputs& inputs) const;
   Row Checked(const Inputs& inputs);
   Row ValueOf(const Inputs& inputs) const;
-  class Trial;  // of whole sizes
-
   Row FindSizes(const Inputs& inputs);
   Row FindFrom(const Numbers& start, Trial& trial);
   Row AtUncountable(const Inputs& inputs, Numbers sizes);
