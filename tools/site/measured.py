@@ -1,0 +1,86 @@
+"""What is measured of a test's accuracy: answers beside references in multiple precision."""
+
+import json
+from functools import cache
+from pathlib import Path
+
+from pieces import code, table
+from planner import Planner
+
+
+@cache
+def cases(repository: Path) -> list[dict]:
+    """The requests with known answers, of all tests."""
+    files = sorted((repository / "tests/vectors").glob("*.cases.jsonl"))
+    return [json.loads(line) for file in files for line in file.read_text().splitlines() if line.strip()]
+
+
+@cache
+def achieved(repository: Path) -> dict[str, float]:
+    """The largest error of each function of the library on its reference cases, on 64-bit x86."""
+    found: dict[str, float] = {}
+    for file in sorted((repository / "tests/vectors").glob("*.achieved.json")):
+        found.update({name: each["value"] for name, each in json.loads(file.read_text()).items()})
+    return found
+
+
+@cache
+def counts(repository: Path) -> dict[str, int]:
+    """How many reference cases each function of the library has."""
+    found: dict[str, int] = {}
+    for file in sorted((repository / "tests/vectors").glob("*.jsonl")):
+        if file.name.endswith(".cases.jsonl"):
+            continue
+        for line in file.read_text().splitlines():
+            name = json.loads(line).get("fn", "")
+            found[name] = found.get(name, 0) + 1
+    return found
+
+
+def difference(found: object, value: object) -> float:
+    if isinstance(value, list) and isinstance(found, list) and len(found) == len(value):
+        return max(map(difference, found, value))
+    if isinstance(value, (int, float)) and isinstance(found, (int, float)):
+        return abs(found - value)
+    raise SystemExit(f"{found} cannot be compared with {value}")
+
+
+def of_cases(rows: list[dict], planner: Planner) -> list[str]:
+    """A row of the table: what is compared, how often, the bound of the tests and the largest difference now."""
+    worst = 0.0
+    for row in rows:
+        results = planner.solve(row["request"]).get("results", {})
+        if row["result"] not in results:
+            raise SystemExit(f"{row['request']} is not answered with {row['result']}")
+        worst = max(worst, difference(results[row["result"]], row["value"]))
+    bound = max(row["within"] for row in rows)
+    return [rows[0]["result"].replace("-", " "), str(len(rows)), f"{worst:.1e}", f"{bound:.0e}"]
+
+
+def of_functions(repository: Path, test: dict) -> list[list[str]]:
+    names = dict.fromkeys(route[key] for route in test["routes"] for key in ("export", "one-sided-export")
+                          if key in route)
+    return [[code(name), str(counts(repository).get(name, 0)), f"{achieved(repository)[name]:.1e}"]
+            for name in names if name in achieved(repository)]
+
+
+def accuracy_of(repository: Path, planner: Planner, test: dict) -> str:
+    parts = []
+    rows = [row for row in cases(repository) if row["request"]["test"].replace("_", "-") == test["name"]]
+    if rows:
+        kinds = dict.fromkeys(row["result"] for row in rows)
+        parts.append(
+            "Answers beside references in multiple precision. The difference was measured when this page was made; "
+            "the tests fail beyond the bound.\n\n"
+            + table(["result", "cases", "largest difference", "bound"],
+                    [of_cases([row for row in rows if row["result"] == kind], planner) for kind in kinds]))
+    functions = of_functions(repository, test)
+    if functions:
+        parts.append(
+            "The functions of the library that answer this test, on reference cases that were computed in multiple "
+            "precision. The tests fail where an error grows.\n\n"
+            + table(["function", "cases", "largest error"], functions))
+    if parts:
+        parts.append("[Accuracy](../accuracy.md) has the distributions below, [reliability](../reliability.md) how all of "
+                     "it is tested.\n")
+    return "\n".join(parts)
