@@ -1,14 +1,17 @@
 """How Sphinx builds the site."""
 
 import os
+import sys
 from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).parent))
 
 project = "kelpower"
 author = "the authors of kelpower"
 release = version = (Path(os.environ["KELPOWER_REPOSITORY"]) / "VERSION").read_text().strip()
 language = "en"
 
-extensions = ["myst_parser", "sphinx_copybutton", "sphinx_design"]
+extensions = ["lines", "myst_parser", "sphinx_copybutton", "sphinx_design"]
 myst_enable_extensions = ["colon_fence"]
 myst_heading_anchors = 4
 nitpicky = True

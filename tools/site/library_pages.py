@@ -52,6 +52,8 @@ INDEX = """# The functions of the library
 [the C interface](../c.md).
 
 {preface}
+## Sections
+
 {sections}
 """
 

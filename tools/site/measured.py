@@ -45,6 +45,10 @@ def difference(found: object, value: object) -> float:
     raise SystemExit(f"{found} cannot be compared with {value}")
 
 
+def error(value: float) -> str:
+    return f"{value:.1e}" if value else "0"
+
+
 def of_cases(rows: list[dict], planner: Planner) -> list[str]:
     """A row of the table: what is compared, how often, the bound of the tests and the largest difference now."""
     worst = 0.0
@@ -54,13 +58,13 @@ def of_cases(rows: list[dict], planner: Planner) -> list[str]:
             raise SystemExit(f"{row['request']} is not answered with {row['result']}")
         worst = max(worst, difference(results[row["result"]], row["value"]))
     bound = max(row["within"] for row in rows)
-    return [rows[0]["result"].replace("-", " "), str(len(rows)), f"{worst:.1e}", f"{bound:.0e}"]
+    return [rows[0]["result"].replace("-", " "), str(len(rows)), error(worst), error(bound)]
 
 
 def of_functions(repository: Path, test: dict) -> list[list[str]]:
     names = dict.fromkeys(route[key] for route in test["routes"] for key in ("export", "one-sided-export")
                           if key in route)
-    return [[code(name), str(counts(repository).get(name, 0)), f"{achieved(repository)[name]:.1e}"]
+    return [[code(name), str(counts(repository).get(name, 0)), error(achieved(repository)[name])]
             for name in names if name in achieved(repository)]
 
 

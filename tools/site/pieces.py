@@ -16,6 +16,11 @@ def table(head: list[str], rows: list[list[str]]) -> str:
     return "\n".join("| " + " | ".join(cell.replace("|", "\\|") for cell in line) + " |" for line in lines) + "\n"
 
 
+def stacked(body: str) -> str:
+    """A table of which the cells stand one under the other where the window is narrow."""
+    return f":::{{table}}\n:class: kel-stacked\n\n{body}:::\n"
+
+
 def bullets(items: list[str]) -> str:
     return "\n".join(f"- {item}" for item in items) + "\n"
 

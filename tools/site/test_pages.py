@@ -12,7 +12,7 @@ from pathlib import Path
 
 import measured
 import pages_of
-from pieces import block, bullets, code, dropdown, first_upper, named_as_code, table, tabs
+from pieces import block, bullets, code, dropdown, first_upper, named_as_code, stacked, table, tabs
 from planner import Planner, draw
 
 QUESTIONS = {
@@ -71,10 +71,11 @@ def inputs_of(test: dict) -> str:
     for parameter in test["parameters"]:
         aliases = "".join(f", {code(alias)}" for alias in parameter["aliases"])
         unit = f" ({parameter['unit']})" if "unit" in parameter else ""
+        default = default_of(parameter)
         rows.append([code(parameter["name"]) + aliases, named_as_code(parameter["meaning"]) + unit,
-                     range_of(parameter), default_of(parameter)])
+                     range_of(parameter), f"default {default}" if default else ""])
     return ("The program takes `--name value`, Python and R take `name=value` with `_` for `-`.\n\n"
-            + table(["input", "what it is", "range", "default"], rows))
+            + stacked(table(["input", "what it is", "range", ""], rows)))
 
 
 def questions_of(test: dict) -> str:
@@ -94,7 +95,7 @@ def questions_of(test: dict) -> str:
     if unknowns:
         rows.append([SOLVED, f"sizes, and `power` or `half-width`; leave out or name with `solve` one of "
                      f"{', '.join(map(code, unknowns))}"])
-    return "What is left out is what is solved for.\n\n" + table(["question", "give"], rows)
+    return "What is left out is what is solved for.\n\n" + stacked(table(["question", "give"], rows))
 
 
 def solved(planner: Planner, test: dict) -> list[dict]:
@@ -126,7 +127,7 @@ def example_of(answer: dict) -> str:
 def behind(answer: dict) -> str:
     """What `--explain` adds, but for the calls of other programs, which have a section of their own."""
     added = answer["explained"].removeprefix(answer["text"]).split("\nAsked of other programs\n")[0]
-    return dropdown("Behind this answer (`--explain`)", block("text", added.strip("\n"))) if added.strip() else ""
+    return dropdown("Behind this answer", block("text", added.strip("\n"))) if added.strip() else ""
 
 
 def examples_of(answers: list[dict]) -> str:
@@ -234,7 +235,7 @@ def page_of(test: dict, planner: Planner, program: str, repository: Path, folder
 
 def index_of(tests: list[dict]) -> str:
     rows = [[f"[{code(test['name'])}]({test['name']}.md)", test["title"], test["about"]] for test in tests]
-    contents = block("{toctree}", ":hidden:\n\n" + "\n".join(test["name"] for test in tests))
+    contents = block("{toctree}", ":hidden:\n\n" + "\n".join(f"{test['name']} <{test['name']}>" for test in tests))
     return ("# The tests\n\nEach page has the inputs, worked examples, the formula, a chart and the measured accuracy.\n\n"
             + table(["name", "test", "what it asks"], rows) + "\n" + contents)
 
