@@ -7,6 +7,7 @@ import re
 
 PRE = re.compile(r"(<pre>)(.*?)(</pre>)", re.DOTALL)
 TAG = re.compile(r"<[^>]*>")
+OPTION = re.compile(r"(?<![\w-])--[a-z][\w-]*(?![^<]*>)")
 
 
 def is_row(line: str) -> bool:
@@ -18,10 +19,15 @@ def is_balanced(line: str) -> bool:
     return len(re.findall(r"<\w", line)) == len(re.findall(r"</", line))
 
 
+def marked_line(line: str) -> str:
+    if is_row(line) or not is_balanced(line) or not TAG.sub("", line).strip():
+        return line
+    line = OPTION.sub(r'<span class="kel-option">\g<0></span>', line)  # which would break at its hyphens
+    return f'<span class="kel-text">{line}</span>'
+
+
 def marked(text: str) -> str:
-    lines = [line if is_row(line) or not is_balanced(line) or not TAG.sub("", line).strip()
-             else f'<span class="kel-text">{line}</span>' for line in text.split("\n")]
-    return "\n".join(lines)
+    return "\n".join(map(marked_line, text.split("\n")))
 
 
 def mark_lines(app: object, pagename: str, templatename: str, context: dict, doctree: object) -> None:
