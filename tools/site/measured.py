@@ -50,7 +50,7 @@ def error(value: float) -> str:
 
 
 def of_cases(rows: list[dict], planner: Planner) -> list[str]:
-    """A row of the table: what is compared, how often, the bound of the tests and the largest difference now."""
+    """A row of the table: what is compared with what, how often, the largest difference now and the tests' bound."""
     worst = 0.0
     for row in rows:
         results = planner.solve(row["request"]).get("results", {})
@@ -58,7 +58,7 @@ def of_cases(rows: list[dict], planner: Planner) -> list[str]:
             raise SystemExit(f"{row['request']} is not answered with {row['result']}")
         worst = max(worst, difference(results[row["result"]], row["value"]))
     bound = max(row["within"] for row in rows)
-    return [rows[0]["result"].replace("-", " "), str(len(rows)), error(worst), error(bound)]
+    return [rows[0]["result"].replace("-", " "), rows[0]["source"], str(len(rows)), error(worst), error(bound)]
 
 
 def of_functions(repository: Path, test: dict) -> list[list[str]]:
@@ -68,22 +68,27 @@ def of_functions(repository: Path, test: dict) -> list[list[str]]:
             for name in names if name in achieved(repository)]
 
 
+def table_of_cases(rows: list[dict], planner: Planner) -> str:
+    """A row for each result and each source, for the values of some sources are printed with few digits."""
+    kinds = dict.fromkeys((row["result"], row["source"]) for row in rows)
+    return ("Answers beside values from elsewhere. The difference was measured when this page was made; the tests fail "
+            "beyond the bound, which is wide where a value was printed with few digits.\n\n"
+            + table(["result", "compared with", "cases", "largest difference", "bound"],
+                    [of_cases([row for row in rows if (row["result"], row["source"]) == kind], planner)
+                     for kind in kinds]))
+
+
 def accuracy_of(repository: Path, planner: Planner, test: dict) -> str:
     parts = []
     rows = [row for row in cases(repository) if row["request"]["test"].replace("_", "-") == test["name"]]
     if rows:
-        kinds = dict.fromkeys(row["result"] for row in rows)
-        parts.append(
-            "Answers beside references in multiple precision. The difference was measured when this page was made; "
-            "the tests fail beyond the bound.\n\n"
-            + table(["result", "cases", "largest difference", "bound"],
-                    [of_cases([row for row in rows if row["result"] == kind], planner) for kind in kinds]))
+        parts.append(table_of_cases(rows, planner))
     functions = of_functions(repository, test)
     if functions:
         parts.append(
             "The functions of the library that answer this test, on reference cases that were computed in multiple "
-            "precision. The tests fail where an error grows.\n\n"
-            + table(["function", "cases", "largest error"], functions))
+            "precision: the largest difference, relative to values above 1. The tests fail where it grows.\n\n"
+            + table(["function", "cases", "largest difference"], functions))
     if parts:
         parts.append("[Accuracy](../accuracy.md) has the distributions below, [reliability](../reliability.md) how all of "
                      "it is tested.\n")
