@@ -10,6 +10,7 @@ ROOT = Path(sys.argv.pop(1))
 sys.path[:0] = [str(ROOT / "tools/docs"), str(ROOT / "tools/site")]
 import lines  # noqa: E402
 import measured  # noqa: E402
+import offline  # noqa: E402
 import pages_of  # noqa: E402
 import run_blocks  # noqa: E402
 import sources  # noqa: E402
@@ -98,6 +99,14 @@ class Links(unittest.TestCase):
     def test_in_code_and_to_other_sites_stay(self):
         text = "`[x](none.md)`\n```\n[x](none.md)\n```\n[x](https://example.org) [y](#z)"
         self.assertEqual(self.linked(text)[0], text)
+
+
+class Site(unittest.TestCase):
+    def test_loads_nothing_from_elsewhere(self):
+        for text in ('<script async src="https://example.org/a.js">', '<link rel="x" href="//example.org/a.css">',
+                     "@import 'https://example.org/a.css';", 'a { background: url("https://example.org/a.png") }'):
+            self.assertEqual(len(offline.loaded_from_elsewhere(text)), 1, text)
+        self.assertEqual(offline.loaded_from_elsewhere('<img src="a.png"> <a href="https://example.org">'), [])
 
 
 class Tests(unittest.TestCase):

@@ -18,3 +18,5 @@ library=build/r/check/kelpower.Rcheck
 [ ! -x $python ] || set -- "$@" --python $python
 [ ! -d $library/kelpower ] || set -- "$@" --r-library $library
 python3 -B tools/docs/run_blocks.py "$@"
+# The pages of the tests, where the site was built.
+[ ! -d build/site-work/source/tests ] || python3 -B tools/docs/run_blocks.py "$@" build/site-work/source/tests/*.md

@@ -3,7 +3,7 @@
 
 Usage: build.py PROGRAM LIBRARY REPOSITORY WORK SITE PLANNER_PAGE
 
-WORK gets the sources of the site. PLANNER_PAGE is the planner page for a server, which need not be there.
+WORK gets the sources of the site. PLANNER_PAGE is the planner page in one file, which need not be there.
 """
 
 import os
@@ -13,17 +13,19 @@ import sys
 from pathlib import Path
 
 import library_pages
+import offline
 import sources
 import test_pages
 from planner import Planner
 
 
 def extra_of(folder: Path, planner_page: str) -> dict[str, str]:
-    """The planner page stands in a folder of the site."""
-    if not Path(planner_page).is_dir():
+    """The planner page stands in the site as the one file that opens from the disk too."""
+    if not Path(planner_page).is_file():
         return {}
     extra = folder / "extra"
-    shutil.copytree(planner_page, extra / "planner-page")
+    extra.mkdir(parents=True)
+    shutil.copyfile(planner_page, extra / "kelpower.html")
     return {"KELPOWER_EXTRA": str(extra.resolve())}
 
 
@@ -40,7 +42,8 @@ def build(program: str, library: str, repository: str, work: str, site: str, pla
     command = [sys.executable, "-m", "sphinx", "-W", "-n", "--keep-going", "-q", "-b", "html",
                "-c", str(Path(repository) / "tools/site"), "-d", str(folder / "doctrees"), str(source),
                site]
-    return subprocess.run(command, env=settings, check=False).returncode
+    done = subprocess.run(command, env=settings, check=False)
+    return done.returncode or offline.check(Path(site))
 
 
 if __name__ == "__main__":

@@ -8,5 +8,5 @@ cd "$(dirname "$0")/../.."
 work=build/site-work
 
 sh tools/site/environment.sh $work/venv
-$work/venv/bin/python -B tools/site/build.py "$1" "$2" . $work build/site build/web/site
+$work/venv/bin/python -B tools/site/build.py "$1" "$2" . $work build/site build/web/kelpower.html
 echo "The site: build/site/index.html"

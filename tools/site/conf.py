@@ -23,6 +23,7 @@ html_theme = "furo"
 html_title = f"kelpower {release}"
 html_static_path = [os.environ["KELPOWER_REPOSITORY"] + "/tools/site/static"]
 html_css_files = ["site.css"]
+html_js_files = ["from_disk.js"]
 html_copy_source = False
 html_show_sphinx = False
 html_show_copyright = False

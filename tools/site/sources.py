@@ -115,11 +115,20 @@ def lead_to_tests(folder: Path, found: dict[str, list[dict]]) -> None:
         page.write_text(f"{title}\n\n:::{{seealso}}\nInputs, worked examples and charts: {links}.\n:::\n{rest}")
 
 
+def lead_to_planner(folder: Path, tests: list[dict]) -> None:
+    """The page of a test leads to its form in the planner page, which is no source of the site: so the link is HTML."""
+    for test in tests:
+        page = folder / "tests" / f"{test['name']}.md"
+        head, _, rest = page.read_text().partition("\n![")
+        link = f'<p><a class="kel-button" href="../kelpower.html#{test["name"]}">Plan it in this browser</a></p>'
+        page.write_text(f"{head}\n{link}\n\n![{rest}")
+
+
 PLANNER = """# The planner page
 
 The planner runs in this browser. It computes on this machine and sends nothing.
 
-<p><a class="kel-button" href="planner-page/index.html">Open the planner</a></p>
+<p><a class="kel-button" href="kelpower.html">Open the planner</a></p>
 
 [The planner page](web.md) tells what it does.
 """
@@ -144,5 +153,7 @@ def main(repository_name: str, folder_name: str, planner_page: str, tests: list[
     with (folder / START).open("a") as start:
         start.write(contents(repository, others, has))
     lead_to_tests(folder, tests_of_pages(repository, tests))
+    if planner_page:
+        lead_to_planner(folder, tests)
     generated = {name for name in has if name.startswith(("tests/", "library/"))}
     mark_as_orphans(folder, listed | generated | set(others) | {START})
