@@ -20,6 +20,7 @@ from pieces import block, bullets
 LINK = re.compile(r"(\]\()([^)\s:#]+)((?:#[^)\s]*)?\))")
 IMAGES = {".svg", ".png"}
 START = "index.md"
+HEADER = "include/kelpower.h"
 
 
 def place_of(path: str) -> str:
@@ -57,7 +58,9 @@ class Sources:
         if not (self.repository / path).exists():
             raise SystemExit(f"{page} links to {target}, which is not there")
         self.add(path)
-        return os.path.relpath(self.target_of(path), posixpath.dirname(self.target_of(page)) or ".")
+        # Who looks for the header reads its functions on their pages, which lead to it.
+        place = "library/index.md" if path == HEADER else self.target_of(path)
+        return os.path.relpath(place, posixpath.dirname(self.target_of(page)) or ".")
 
     def linked(self, page: str, text: str) -> str:
         """A page with its links as they are in the site; what looks like a link in code stays."""
@@ -143,7 +146,7 @@ def main(repository_name: str, folder_name: str, planner_page: str, tests: list[
     repository, folder = Path(repository_name), Path(folder_name)
     sources = Sources(repository, folder)
     pages = sorted(page.name for page in (repository / "docs").glob("*.md"))
-    for path in [*(f"docs/{page}" for page in pages), "CONTRIBUTING.md", "CHANGELOG.md"]:
+    for path in [*(f"docs/{page}" for page in pages), "CONTRIBUTING.md", "CHANGELOG.md", HEADER]:
         sources.add(path)
     (folder / "planner.md").write_text(PLANNER if planner_page else NO_PLANNER)
 

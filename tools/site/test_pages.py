@@ -71,11 +71,10 @@ def inputs_of(test: dict) -> str:
     for parameter in test["parameters"]:
         aliases = "".join(f", {code(alias)}" for alias in parameter["aliases"])
         unit = f" ({parameter['unit']})" if "unit" in parameter else ""
-        default = default_of(parameter)
         rows.append([code(parameter["name"]) + aliases, named_as_code(parameter["meaning"]) + unit,
-                     range_of(parameter), f"default {default}" if default else ""])
+                     range_of(parameter), default_of(parameter)])
     return ("The program takes `--name value`, Python and R take `name=value` with `_` for `-`.\n\n"
-            + stacked(table(["input", "what it is", "range", ""], rows)))
+            + stacked(table(["input", "what it is", "range", "default"], rows)))
 
 
 def questions_of(test: dict) -> str:
