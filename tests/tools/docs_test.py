@@ -8,13 +8,14 @@ from pathlib import Path
 
 ROOT = Path(sys.argv.pop(1))
 sys.path[:0] = [str(ROOT / "tools/docs"), str(ROOT / "tools/site")]
+import answers_of  # noqa: E402
+import inputs_of  # noqa: E402
 import lines  # noqa: E402
 import measured  # noqa: E402
 import offline  # noqa: E402
 import pages_of  # noqa: E402
 import run_blocks  # noqa: E402
 import sources  # noqa: E402
-import test_pages  # noqa: E402
 
 
 def block(kind="", text="a\n", is_output=False, page="docs/a.md"):
@@ -118,16 +119,16 @@ class Tests(unittest.TestCase):
 
     def test_say_what_an_input_may_be(self):
         parameter = {"kind": "per-group", "spreads": True, "limits": {"exclusive-minimum": 0, "maximum": 1e6}}
-        self.assertEqual(test_pages.range_of(parameter),
+        self.assertEqual(inputs_of.range_of(parameter),
                          "a number for each group, or one for all; above 0, at most 1,000,000")
-        self.assertEqual(test_pages.range_of({"kind": "flag", "limits": {}}), "yes or no")
-        self.assertEqual(test_pages.default_of({"default": False}), "no")
-        self.assertEqual(test_pages.default_of({"default": [1, 0.5]}), "1, 0.5")
-        self.assertEqual(test_pages.default_of({}), "")
+        self.assertEqual(inputs_of.range_of({"kind": "flag", "limits": {}}), "yes or no")
+        self.assertEqual(inputs_of.default_of({"default": False}), "no")
+        self.assertEqual(inputs_of.default_of({"default": [1, 0.5]}), "1, 0.5")
+        self.assertEqual(inputs_of.default_of({}), "")
 
     def test_have_each_formula_once(self):
         answers = [{"details": {"formula": text}} for text in ("a = 1", "a = 2.5e-3", "b = 1")]
-        self.assertEqual(test_pages.formulas_of({"sources": ["s"]}, answers).count("```text"), 2)
+        self.assertEqual(answers_of.formulas_of({"sources": ["s"]}, answers).count("```text"), 2)
 
     def test_compare_numbers_and_lists(self):
         self.assertEqual(measured.difference(1, 1.5), 0.5)

@@ -38,10 +38,10 @@ def function_text(function: object, header: str) -> str:
 
 
 def section_page(section: object, functions: list, header: str) -> str:
-    shared = {name: text for name, text in section.parameters.items()}
     parts = [f"# {section.title}\n"]
     parts += [formatted(remark) + "\n" for remark in section.remarks]
-    parts += ["The arguments that the functions share:\n", parameters_table(shared)] if shared else []
+    if section.parameters:
+        parts += ["The arguments that the functions share:\n", parameters_table(section.parameters)]
     return "\n".join([*parts, *(function_text(each, header) for each in functions)])
 
 

@@ -90,6 +90,6 @@ def accuracy_of(repository: Path, planner: Planner, test: dict) -> str:
             "precision: the largest difference, relative to values above 1. The tests fail where it grows.\n\n"
             + table(["function", "cases", "largest difference"], functions))
     if parts:
-        parts.append("[Accuracy](../accuracy.md) has the distributions below, [reliability](../reliability.md) how all of "
-                     "it is tested.\n")
+        parts.append("[Accuracy](../accuracy.md) has the distributions below, [reliability](../reliability.md) how all "
+                     "of it is tested.\n")
     return "\n".join(parts)

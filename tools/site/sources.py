@@ -1,9 +1,7 @@
-#!/usr/bin/env python3
 """Puts the sources of the site together: the pages of docs as they are, the files that they link to, and the contents.
 
-The pages of docs come to the top of the folder, other files of the repository into its folder `repository`. Links follow.
-
-Usage: sources.py REPOSITORY FOLDER [PLANNER] (the last is the built planner page for a server, where there is one)
+The pages of docs come to the top of the folder, other files of the repository into its folder `repository`. Links
+follow.
 """
 
 import os
