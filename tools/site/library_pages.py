@@ -2,9 +2,12 @@
 
 import re
 import sys
+import textwrap
 from pathlib import Path
 
 from pieces import block, bullets, code, table
+
+WIDTH = 84  # of a declaration, in letters: as wide as the text
 
 
 def slug(title: str) -> str:
@@ -14,10 +17,9 @@ def slug(title: str) -> str:
 def declaration_of(header: str, name: str) -> str:
     match = re.search(rf"^KELPOWER_API (\w+ {name}\([^)]*\);)", header, re.MULTILINE)
     assert match, name
-    lines = match[1].split("\n")
-    # The lines after the first stand under its bracket, which has moved to the left.
-    indent = " " * (lines[0].index("(") + 1)
-    return "\n".join([lines[0], *(indent + line.strip() for line in lines[1:])])
+    # A line ends behind an argument, never within one.
+    text = re.sub(r"\s+", " ", match[1]).replace(" ", "\xa0").replace(",\xa0", ", ")
+    return textwrap.fill(text, WIDTH, subsequent_indent="    ", break_on_hyphens=False).replace("\xa0", " ")
 
 
 def formatted(text: str) -> str:
