@@ -16,7 +16,7 @@ myst_enable_extensions = ["colon_fence"]
 myst_heading_anchors = 4
 nitpicky = True
 highlight_language = "none"  # blocks without a name are text
-pygments_style = "friendly"
+pygments_style = "a11y-high-contrast-light"
 pygments_dark_style = "native"
 
 html_theme = "furo"

@@ -30,11 +30,21 @@ def marked(text: str) -> str:
     return "\n".join(map(marked_line, text.split("\n")))
 
 
+def marked_block(match: re.Match) -> str:
+    """A block of lines; one that may have to be scrolled can be reached by the keyboard."""
+    start = '<pre tabindex="0">' if any(map(is_row, match[2].split("\n"))) else match[1]
+    return start + marked(match[2]) + match[3]
+
+
 def mark_lines(app: object, pagename: str, templatename: str, context: dict, doctree: object) -> None:
     if "body" in context:
-        context["body"] = PRE.sub(lambda match: match[1] + marked(match[2]) + match[3], context["body"])
+        context["body"] = PRE.sub(marked_block, context["body"])
+    # The captions of the contents say that they are headings, but not of which level.
+    if "furo_navigation_tree" in context:
+        context["furo_navigation_tree"] = context["furo_navigation_tree"].replace(
+            'role="heading"', 'role="heading" aria-level="2"')
 
 
 def setup(app: object) -> dict:
-    app.connect("html-page-context", mark_lines)
+    app.connect("html-page-context", mark_lines, priority=900)  # after the theme
     return {"parallel_read_safe": True, "parallel_write_safe": True}
