@@ -28,8 +28,7 @@ html_copy_source = False
 html_show_sphinx = False
 html_show_copyright = False
 html_theme_options = {
-    "light_css_variables": {"color-brand-primary": "#0b5cad", "color-brand-content": "#0b5cad",
-                            "color-code-background": "#f4f5f7"},
+    "light_css_variables": {"color-brand-primary": "#0b5cad", "color-brand-content": "#0b5cad"},
     "dark_css_variables": {"color-brand-primary": "#7db7f0", "color-brand-content": "#7db7f0"},
 }
 html_extra_path = [os.environ["KELPOWER_EXTRA"]] if "KELPOWER_EXTRA" in os.environ else []
