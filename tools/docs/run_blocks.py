@@ -162,7 +162,8 @@ def main() -> None:
                                           ("R", given.r_library)) if not option]
     if left_out:
         print(f"Left out: the blocks of {', '.join(left_out)}.")
-    print("\n".join(problems) if problems else f"{len(blocks)} blocks of {len(pages)} pages are as they say.")
+    well = f"{len(blocks)} blocks of {len(pages)} pages: nothing is wrong with what was run."
+    print("\n".join(problems) if problems else well)
     sys.exit(1 if problems else 0)
 
 
