@@ -11,7 +11,8 @@ from planner import Planner
 @cache
 def cases(repository: Path) -> list[dict]:
     """The requests with known answers, of all tests."""
-    files = sorted((repository / "tests/vectors").glob("*.cases.jsonl"))
+    files = [*sorted((repository / "tests/cases").glob("*.jsonl")),
+             *sorted((repository / "tests/vectors").glob("*.cases.jsonl"))]
     return [json.loads(line) for file in files for line in file.read_text().splitlines() if line.strip()]
 
 

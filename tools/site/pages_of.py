@@ -35,7 +35,10 @@ def of_exports(repository: Path, test: dict) -> str:
 
 
 def mentions(text: str, name: str) -> int:
-    return len(re.findall(rf"(?:kelpower |`){re.escape(name)}(?=[ `\n])", text))
+    """How often a page speaks of a test: by its name, or by a heading with the words of the name."""
+    words = re.escape(name.replace("-", " "))
+    return (len(re.findall(rf"(?:kelpower |`){re.escape(name)}(?=[ `\n])", text))
+            + len(re.findall(rf"^#+ .*\b{words}\b", text, re.MULTILINE | re.IGNORECASE)))
 
 
 def of_mentions(repository: Path, test: dict) -> str:
