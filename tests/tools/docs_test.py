@@ -130,6 +130,11 @@ class Tests(unittest.TestCase):
         answers = [{"details": {"formula": text}} for text in ("a = 1", "a = 2.5e-3", "b = 1")]
         self.assertEqual(answers_of.formulas_of({"sources": ["s"]}, answers).count("```text"), 2)
 
+    def test_tell_which_case_cannot_be_read(self):
+        with repository(**{"tests__cases__z.jsonl": '{"a": 1}\n\nb": 2}\n'}) as folder:
+            with self.assertRaisesRegex(SystemExit, "z.jsonl, line 3"):
+                measured.cases(folder)
+
     def test_compare_numbers_and_lists(self):
         self.assertEqual(measured.difference(1, 1.5), 0.5)
         self.assertEqual(measured.difference([1, 2], [1, 4]), 2)

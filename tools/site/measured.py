@@ -8,12 +8,20 @@ from pieces import code, table
 from planner import Planner
 
 
+def read_case(line: str, where: str) -> dict:
+    try:
+        return json.loads(line)
+    except ValueError:
+        raise SystemExit(f"{where}: {line!r} is no JSON") from None
+
+
 @cache
 def cases(repository: Path) -> list[dict]:
     """The requests with known answers, of all tests."""
     files = [*sorted((repository / "tests/cases").glob("*.jsonl")),
              *sorted((repository / "tests/vectors").glob("*.cases.jsonl"))]
-    return [json.loads(line) for file in files for line in file.read_text().splitlines() if line.strip()]
+    return [read_case(line, f"{file}, line {number}") for file in files
+            for number, line in enumerate(file.read_text().splitlines(), 1) if line.strip()]
 
 
 @cache
