@@ -130,6 +130,11 @@ class Tests(unittest.TestCase):
         answers = [{"details": {"formula": text}} for text in ("a = 1", "a = 2.5e-3", "b = 1")]
         self.assertEqual(answers_of.formulas_of({"sources": ["s"]}, answers).count("```text"), 2)
 
+    def test_name_the_script_that_computed_a_value(self):
+        for source in ("cases_x.py", "tools/references/cases_x.py", "multiple precision, tools/references/cases_x.py"):
+            self.assertEqual(measured.source_of({"source": source}), "multiple precision, `tools/references/cases_x.py`")
+        self.assertEqual(measured.source_of({"source": "A book"}), "A book")
+
     def test_tell_which_case_cannot_be_read(self):
         with repository(**{"tests__cases__z.jsonl": '{"a": 1}\n\nb": 2}\n'}) as folder:
             with self.assertRaisesRegex(SystemExit, "z.jsonl, line 3"):

@@ -1,6 +1,7 @@
 """What is measured of a test's accuracy: answers beside references in multiple precision."""
 
 import json
+import re
 from functools import cache
 from pathlib import Path
 
@@ -58,6 +59,12 @@ def error(value: float) -> str:
     return f"{value:.1e}" if value else "0"
 
 
+def source_of(case: dict) -> str:
+    """Where a value is from. The scripts of tools/references compute in multiple precision."""
+    script = re.fullmatch(r"(?:multiple precision, )?(?:tools/references/)?(\w+\.py)", case["source"])
+    return f"multiple precision, {code('tools/references/' + script[1])}" if script else case["source"]
+
+
 def of_cases(rows: list[dict], planner: Planner) -> list[str]:
     """A row of the table: what is compared with what, how often, the largest difference now and the tests' bound."""
     worst = 0.0
@@ -67,7 +74,7 @@ def of_cases(rows: list[dict], planner: Planner) -> list[str]:
             raise SystemExit(f"{row['request']} is not answered with {row['result']}")
         worst = max(worst, difference(results[row["result"]], row["value"]))
     bound = max(row["within"] for row in rows)
-    return [rows[0]["result"].replace("-", " "), rows[0]["source"], str(len(rows)), error(worst), error(bound)]
+    return [rows[0]["result"].replace("-", " "), source_of(rows[0]), str(len(rows)), error(worst), error(bound)]
 
 
 def of_functions(repository: Path, test: dict) -> list[list[str]]:
@@ -79,11 +86,11 @@ def of_functions(repository: Path, test: dict) -> list[list[str]]:
 
 def table_of_cases(rows: list[dict], planner: Planner) -> str:
     """A row for each result and each source, for the values of some sources are printed with few digits."""
-    kinds = dict.fromkeys((row["result"], row["source"]) for row in rows)
+    kinds = dict.fromkeys((row["result"], source_of(row)) for row in rows)
     return ("Answers beside values from elsewhere. The difference was measured when this page was made; the tests fail "
             "beyond the bound, which is wide where a value was printed with few digits.\n\n"
             + table(["result", "compared with", "cases", "largest difference", "bound"],
-                    [of_cases([row for row in rows if (row["result"], row["source"]) == kind], planner)
+                    [of_cases([row for row in rows if (row["result"], source_of(row)) == kind], planner)
                      for kind in kinds]))
 
 
