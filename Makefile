@@ -17,7 +17,7 @@ space := $() $()
 WASM_MODULE := build/wasm/web/core
 PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
 
-.PHONY: compared help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python r test-r bench-scipy
+.PHONY: compared help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python r test-r bench-scipy site lint-docs
 
 run: configure-$(PRESET) ## build the program and plan a real study
 	@echo "Building the program; the first time this takes a minute or two ..."
@@ -95,6 +95,14 @@ wheel: compared ## build the sdist and the wheel of the Python package, check th
 	@sh tools/python/wheel.sh build/python-package
 
 test-python: wheel ## the tests of the Python package
+
+site: compared ## build the site of the documentation in build/site; the planner page is in it where `make web` has built it
+	@sh tools/install_packages.sh site
+	@sh tools/site/build.sh $(BUILD)/cli/kelpower $(BUILD)/capi/libkelplan.so
+
+lint-docs: compared ## check the spelling of the documentation, and run its code: that of the program, and of Python and R where their packages are built
+	@sh tools/install_packages.sh site
+	@sh tools/docs/lint.sh $(BUILD)/cli/kelpower
 
 bench: build ## measure speed
 	$(BUILD)/bench/kelpower_bench

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Installs the Debian packages of the named groups that are missing: build, clang, arm64, wasm, windows, lint, fuzz,
-# valgrind, python, r, web, peers, before.
+# valgrind, python, r, site, web, peers, before.
 # Says what it does, and is silent and quick when nothing is missing.
 set -eu
 
@@ -16,6 +16,7 @@ for group in "$@"; do
     lint) packages="$packages clang-format clang-tidy" ;;
     fuzz) packages="$packages clang libclang-rt-14-dev" ;;
     r) packages="$packages python3 g++ ccache r-base-dev r-cran-testthat r-cran-knitr r-cran-rmarkdown r-cran-ggplot2 r-cran-generics pandoc" ;;
+    site) packages="$packages python3 python3-venv gnuplot-nox" ;;
     valgrind) packages="$packages valgrind" ;;
     before) packages="$packages libboost1.81-dev" ;;
     python) packages="$packages g++ python3 python3-dev python3-venv default-jre-headless" ;;

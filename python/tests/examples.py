@@ -4,10 +4,13 @@ Blocks of a document share one namespace. One with prompts is compared with what
 what it prints is compared with the unnamed block after it. A block that begins with a comment such as `# frame is a
 pyspark.sql.DataFrame` needs what only its reader has, and is compiled alone.
 
-As a program it writes what is printed into documents: python3 python/tests/examples.py DOCUMENT...
+As a program it compares documents with what is printed, or writes it into them:
+python3 python/tests/examples.py check|write DOCUMENT...
 """
 
+import ast
 import contextlib
+import difflib
 import doctest
 import io
 import re
@@ -19,6 +22,7 @@ from pathlib import Path
 FENCE = re.compile(r"^```(?P<kind>\w*)\n(?P<text>.*?)^```\n", re.MULTILINE | re.DOTALL)
 OF_THE_READER = re.compile(r"# \w+ is an? ")
 PYTHON = ("python", "pycon")
+OPTIONAL = {"dask", "duckdb", "polars", "pyarrow", "pyspark", "ray", "scipy", "xarray", "matplotlib"}
 
 
 @dataclass
@@ -58,6 +62,31 @@ def blocks(document):
         else:
             end = None
     return found
+
+
+def imported(block):
+    """The packages that a block imports."""
+    try:
+        tree = ast.parse(block.text)
+    except SyntaxError:
+        return set(re.findall(r"^>>> (?:import|from) (\w+)", block.text, re.MULTILINE))
+    names = [each.names[0].name for each in ast.walk(tree) if isinstance(each, ast.Import)]
+    names += [each.module for each in ast.walk(tree) if isinstance(each, ast.ImportFrom) and each.module]
+    return {name.split(".")[0] for name in names}
+
+
+def missing(block):
+    """The optional packages that a block imports and that are not installed."""
+    return [name for name in imported(block) & OPTIONAL if not can_import(name)]
+
+
+def can_import(name):
+    """Whether a package is installed."""
+    try:
+        __import__(name)
+    except ImportError:
+        return False
+    return True
 
 
 def run(source, names, mode="exec"):
@@ -101,6 +130,8 @@ def updated(document):
     names = {"__name__": "__main__"}
     parts, at = [], 0
     for block in blocks(document):
+        if missing(block):
+            continue
         text, printed = texts(block, names)
         parts += [document[at : block.start], text]
         at = block.start + len(block.text)
@@ -110,6 +141,32 @@ def updated(document):
     return "".join([*parts, document[at:]])
 
 
+def differences(name):
+    """What documents say otherwise than Python, as lines."""
+    document = Path(name).read_text()
+    for block in blocks(document):
+        if missing(block):
+            print(f"{name}, line {block.line} is not run: {', '.join(missing(block))} is not installed")
+    return list(
+        difflib.unified_diff(document.splitlines(), updated(document).splitlines(), name, "printed now", lineterm="")
+    )
+
+
+def main(mode, *names):
+    """Compares documents or writes them."""
+    if can_import("matplotlib"):
+        __import__("matplotlib").use("Agg")
+    if mode == "write":
+        for name in names:
+            Path(name).write_text(updated(Path(name).read_text()))
+        return
+    found = [line for name in names for line in differences(name)]
+    if found:
+        sys.exit("\n".join(found))
+    print(f"The Python of {len(names)} pages prints what they say.")
+
+
 if __name__ == "__main__":
-    for name in sys.argv[1:]:
-        Path(name).write_text(updated(Path(name).read_text()))
+    if len(sys.argv) < 3 or sys.argv[1] not in ("check", "write"):
+        sys.exit(__doc__)
+    main(*sys.argv[1:])

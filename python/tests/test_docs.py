@@ -1,6 +1,5 @@
 """The examples of the documentation are run, and what they print is compared."""
 
-import ast
 import re
 from pathlib import Path
 
@@ -10,21 +9,10 @@ import pytest
 import examples
 
 ROOT = Path(__file__).resolve().parents[2]
-DOCUMENTS = [path for path in (ROOT / "README.md", *sorted((ROOT / "docs").glob("python*.md"))) if path.exists()]
-OPTIONAL = {"dask", "duckdb", "polars", "pyarrow", "pyspark", "ray", "scipy", "xarray", "matplotlib"}
+PAGES = [path for path in (ROOT / "README.md", *sorted((ROOT / "docs").glob("*.md"))) if path.exists()]
+DOCUMENTS = [path for path in PAGES if examples.blocks(path.read_text())]
 
 pytestmark = pytest.mark.skipif(not (ROOT / "docs").exists(), reason="the sdist has no documents")
-
-
-def imported(block):
-    """The packages that a block imports."""
-    try:
-        tree = ast.parse(block.text)
-    except SyntaxError:
-        return set(re.findall(r"^>>> (?:import|from) (\w+)", block.text, re.MULTILINE))
-    names = [each.names[0].name for each in ast.walk(tree) if isinstance(each, ast.Import)]
-    names += [each.module for each in ast.walk(tree) if isinstance(each, ast.ImportFrom) and each.module]
-    return {name.split(".")[0] for name in names}
 
 
 @pytest.fixture(autouse=True)
@@ -46,7 +34,7 @@ def test_examples_of_documents(document, tmp_path, monkeypatch):
     assert found
     left_out = []
     for block in found:
-        missing = [name for name in imported(block) & OPTIONAL if not can_import(name)]
+        missing = examples.missing(block)
         if missing:
             left_out.append(f"line {block.line} ({', '.join(missing)})")
             continue
@@ -56,14 +44,6 @@ def test_examples_of_documents(document, tmp_path, monkeypatch):
     names.clear()  # what packages hold of it would otherwise never be released
     if left_out:
         pytest.skip(f"not run, because packages are missing: {'; '.join(left_out)}")
-
-
-def can_import(name):
-    try:
-        __import__(name)
-    except ImportError:
-        return False
-    return True
 
 
 def calls_in_tables():

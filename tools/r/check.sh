@@ -28,4 +28,5 @@ R CMD check --as-cran --no-manual --output=check "$tarball" >check.log 2>&1 || {
 library=$PWD/check/kelpower.Rcheck # which holds nothing but the package
 python3 -B "$source/tools/r/judge_check.py" "$library/00check.log"
 python3 -B "$source/tools/r/check_symbols.py" "$library/kelpower/libs/kelpower.so"
-R_LIBS=$library Rscript --vanilla "$source/tools/r/pages.R" check "$source/README.md" "$source/docs/r.md"
+# shellcheck disable=SC2046 # names of pages have no spaces
+R_LIBS=$library Rscript --vanilla "$source/tools/r/pages.R" check $(grep -l '^```r$' "$source/README.md" "$source"/docs/*.md)
