@@ -4,7 +4,6 @@
 #include <cmath>
 #include <string>
 
-
 namespace kelplan {
 namespace {
 

@@ -6,7 +6,8 @@ namespace planner {
 void AddWordsOfDependentCorrelations(Test& test) {
   test.details = DetailsOfDependentCorrelations;
   test.whenNot =
-      "Not for correlations in two independent groups: see two-correlations; one correlation against a given value: see "
+      "Not for correlations in two independent groups: see two-correlations; one correlation against a given "
+      "value: see "
       "pearson.";
   test.phrases = {
       {"compared",
@@ -19,11 +20,15 @@ void AddWordsOfDependentCorrelations(Test& test) {
   };
   test.sentences = {
       {Question::Power,
-       "With {sizes}, the {one-sided?one-sided:two-sided} test that two dependent correlations are equal, by Fisher's z, its standard error under the null hypothesis taken {null-correlations}, at a significance level "
+       "With {sizes}, the {one-sided?one-sided:two-sided} test that two dependent correlations are equal, by "
+       "Fisher's z, its standard error under the null hypothesis taken {null-correlations}, at a significance "
+       "level "
        "of {alpha} has a power of {power} to detect {compared}, {others}."},
       {Question::SampleSize,
-       "To detect {compared}, {others}, with a power of {target-power}, the {one-sided?one-sided:two-sided} test that two "
-       "dependent correlations are equal, by Fisher's z, its standard error under the null hypothesis taken {null-correlations}, at a significance level of {alpha} needs {sizes}; its power is then {power}."},
+       "To detect {compared}, {others}, with a power of {target-power}, the {one-sided?one-sided:two-sided} test "
+       "that two "
+       "dependent correlations are equal, by Fisher's z, its standard error under the null hypothesis taken "
+       "{null-correlations}, at a significance level of {alpha} needs {sizes}; its power is then {power}."},
   };
   test.examples = {
       {"dependent-correlations --r12 0.4 --r13 0.2 --r23 0.5 --n 144 --one-sided",

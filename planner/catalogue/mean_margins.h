@@ -40,7 +40,8 @@ void AddPowerTost(Details& details, const Inputs& in, const std::string& sd, con
 Parameter MeanRatio();
 Parameter CoefficientOfVariation(std::string meaning);
 
-/// The effect as an unknown, of a difference or of a ratio as the number of no effect tells. The power rises from the margin on, or from the upper limit to the middle of the limits.
+/// The effect as an unknown, of a difference or of a ratio as the number of no effect tells. The power rises from
+/// the margin on, or from the upper limit to the middle of the limits.
 Unknown UnknownMeanDifferenceWithMargins();
 Unknown UnknownMeanRatio();
 Piece PieceOfEffect(const Inputs& in, double noEffect);

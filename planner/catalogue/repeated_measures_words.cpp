@@ -18,10 +18,12 @@ void AddWordsOfRepeatedMeasures(Test& test) {
   };
   test.sentences = {
       {Question::Power,
-       "With {sizes}, measured {measurements} times, the F test of the {effect}{of-contrast} in a repeated-measures analysis of "
+       "With {sizes}, measured {measurements} times, the F test of the {effect}{of-contrast} in a "
+       "repeated-measures analysis of "
        "variance at a significance level of {alpha} has a power of {power}{method} to detect {expected}."},
       {Question::SampleSize,
-       "To detect {expected} with a power of {target-power}, the F test of the {effect}{of-contrast} in a repeated-measures analysis "
+       "To detect {expected} with a power of {target-power}, the F test of the {effect}{of-contrast} in a "
+       "repeated-measures analysis "
        "of variance at a significance level of {alpha} needs {sizes}, measured {measurements} times; its power is then "
        "{power}{method}."},
   };

@@ -7,7 +7,8 @@ namespace planner {
 void AddWordsOfTwoMeans(Test& test) {
   test.details = DetailsOfTwoMeans;
   test.whenNot =
-      "Not for two measurements on the same units: see paired-means; two treatments of each subject in turn: see crossover; more than two groups: see anova.";
+      "Not for two measurements on the same units: see paired-means; two treatments of each subject in turn: see "
+      "crossover; more than two groups: see anova.";
   test.phrases = {
       {"effect",
        {{"means", "means of {means} with standard deviations of {sd}"},
@@ -51,7 +52,8 @@ void AddWordsOfTwoMeans(Test& test) {
        "0.8015."},
       {"two-means --effect-d 0.5 --power 0.8 --cluster-size 20 --icc 0.05 --dropout 0.15",
        "To detect an effect size d of 0.5 with a power of 0.8, the two-sided independent-samples t test at a "
-       "significance level of 0.05 needs 125 observations in each of 2 groups (250 in total); its power is then 0.8021. "
+       "significance level of 0.05 needs 125 observations in each of 2 groups (250 in total); its power is then "
+       "0.8021. "
        "These are members of clusters of 20 with an intracluster correlation of 0.05: the design effect is 1.95. Enrol "
        "160 in each group (320 in total), 8 clusters in each group (16 in total), of whom 15% may drop out."},
       {"two-means --sd 10 --n 35,50 --power 0.8",

@@ -55,12 +55,15 @@ std::vector<Condition> MarginConditionsOfTwoProportions() {
       {.code = "margin-range",
        .about = {"margin"},
        .holds = [](const Inputs& in) { return IsLimit(in, in.Number("margin")); },
-       .sentence = "{margin} must be above -1 and below 1 for a difference, and above 0 for a ratio."},
+       .sentence =
+           "{margin} must be above -1 and below 1 for a difference, and above 0 for a ratio, which {margin-scale} "
+           "chooses."},
       LimitsInOrder(),
       {.code = "limits-range",
        .about = {"equivalence"},
        .holds = AreLimits,
-       .sentence = "{equivalence} must be above -1 and below 1 for a difference, and above 0 for a ratio."},
+       .sentence = "{equivalence} must be above -1 and below 1 for a difference, and above 0 for a ratio, which "
+                   "{margin-scale} chooses."},
       {.code = "margin-method-scale",
        .about = {"margin-method", "margin-scale"},
        .holds = HasMethod,

@@ -7,8 +7,8 @@
 
 #include "model/inputs.h"
 #include "model/test.h"
-#include "variances/two_variances.h"
 #include "variances/one_variance.h"
+#include "variances/two_variances.h"
 
 // What the tests of one and of two variances share.
 namespace planner {

@@ -42,33 +42,49 @@ __all__ = [
     "contrast_total",
     "contrast_total_of_means",
     "crossover_cv",
+    "crossover_cv_equivalence",
+    "crossover_cv_non_inferiority",
+    "crossover_cv_superiority",
     "crossover_half_width",
-    "crossover_margin",
+    "crossover_margin_non_inferiority",
+    "crossover_margin_superiority",
     "crossover_mean_difference",
+    "crossover_mean_difference_equivalence",
+    "crossover_mean_difference_non_inferiority",
+    "crossover_mean_difference_superiority",
     "crossover_mean_ratio",
+    "crossover_mean_ratio_equivalence",
+    "crossover_mean_ratio_non_inferiority",
+    "crossover_mean_ratio_superiority",
     "crossover_n",
+    "crossover_n_equivalence",
     "crossover_n_for_half_width",
-    "crossover_n_of_equivalence",
-    "crossover_n_of_margin_non_inferiority",
-    "crossover_n_of_margin_superiority",
+    "crossover_n_non_inferiority",
     "crossover_n_of_mean_ratio",
+    "crossover_n_of_mean_ratio_equivalence",
     "crossover_n_of_mean_ratio_non_inferiority",
     "crossover_n_of_mean_ratio_superiority",
+    "crossover_n_superiority",
     "crossover_power",
-    "crossover_power_of_equivalence",
-    "crossover_power_of_margin_non_inferiority",
-    "crossover_power_of_margin_superiority",
+    "crossover_power_equivalence",
+    "crossover_power_non_inferiority",
     "crossover_power_of_mean_ratio",
+    "crossover_power_of_mean_ratio_equivalence",
     "crossover_power_of_mean_ratio_non_inferiority",
     "crossover_power_of_mean_ratio_superiority",
+    "crossover_power_superiority",
     "crossover_sd",
+    "crossover_sd_equivalence",
+    "crossover_sd_non_inferiority",
+    "crossover_sd_superiority",
     "crossover_total",
-    "crossover_total_of_equivalence",
-    "crossover_total_of_margin_non_inferiority",
-    "crossover_total_of_margin_superiority",
+    "crossover_total_equivalence",
+    "crossover_total_non_inferiority",
     "crossover_total_of_mean_ratio",
+    "crossover_total_of_mean_ratio_equivalence",
     "crossover_total_of_mean_ratio_non_inferiority",
     "crossover_total_of_mean_ratio_superiority",
+    "crossover_total_superiority",
     "dependent_correlations_n",
     "dependent_correlations_n_of_r34",
     "dependent_correlations_power",
@@ -98,41 +114,64 @@ __all__ = [
     "mann_whitney_total_of_superiority",
     "mean_effect_d",
     "mean_half_width",
-    "mean_margin",
+    "mean_margin_non_inferiority",
+    "mean_margin_superiority",
     "mean_mean",
+    "mean_mean_equivalence",
+    "mean_mean_non_inferiority",
+    "mean_mean_superiority",
     "mean_n",
     "mean_n_for_half_width",
     "mean_n_of_mean",
+    "mean_n_of_mean_equivalence",
     "mean_n_of_mean_non_inferiority",
     "mean_n_of_mean_superiority",
     "mean_power",
     "mean_power_of_mean",
+    "mean_power_of_mean_equivalence",
     "mean_power_of_mean_non_inferiority",
     "mean_power_of_mean_superiority",
     "mean_sd",
+    "mean_sd_equivalence",
+    "mean_sd_non_inferiority",
+    "mean_sd_superiority",
     "paired_means_correlation",
+    "paired_means_correlation_equivalence",
+    "paired_means_correlation_non_inferiority",
+    "paired_means_correlation_superiority",
     "paired_means_effect_d",
     "paired_means_half_width",
     "paired_means_half_width_of_sds",
-    "paired_means_margin",
+    "paired_means_margin_non_inferiority",
+    "paired_means_margin_superiority",
     "paired_means_mean_difference",
+    "paired_means_mean_difference_equivalence",
+    "paired_means_mean_difference_non_inferiority",
+    "paired_means_mean_difference_superiority",
     "paired_means_n",
     "paired_means_n_for_half_width",
     "paired_means_n_for_half_width_of_sds",
     "paired_means_n_of_mean_difference",
+    "paired_means_n_of_mean_difference_equivalence",
     "paired_means_n_of_mean_difference_non_inferiority",
     "paired_means_n_of_mean_difference_superiority",
     "paired_means_n_of_means",
+    "paired_means_n_of_means_equivalence",
     "paired_means_n_of_means_non_inferiority",
     "paired_means_n_of_means_superiority",
     "paired_means_power",
     "paired_means_power_of_mean_difference",
+    "paired_means_power_of_mean_difference_equivalence",
     "paired_means_power_of_mean_difference_non_inferiority",
     "paired_means_power_of_mean_difference_superiority",
     "paired_means_power_of_means",
+    "paired_means_power_of_means_equivalence",
     "paired_means_power_of_means_non_inferiority",
     "paired_means_power_of_means_superiority",
     "paired_means_sd_difference",
+    "paired_means_sd_difference_equivalence",
+    "paired_means_sd_difference_non_inferiority",
+    "paired_means_sd_difference_superiority",
     "paired_proportions_correlation",
     "paired_proportions_half_width",
     "paired_proportions_n",
@@ -171,26 +210,33 @@ __all__ = [
     "pearson_power_exact",
     "pearson_r",
     "proportion_half_width",
-    "proportion_margin",
+    "proportion_margin_non_inferiority",
+    "proportion_margin_superiority",
     "proportion_n",
+    "proportion_n_equivalence",
     "proportion_n_exact",
+    "proportion_n_exact_equivalence",
+    "proportion_n_exact_non_inferiority",
+    "proportion_n_exact_superiority",
     "proportion_n_for_half_width",
-    "proportion_n_of_equivalence",
-    "proportion_n_of_equivalence_exact",
-    "proportion_n_of_margin_exact_non_inferiority",
-    "proportion_n_of_margin_exact_superiority",
-    "proportion_n_of_margin_non_inferiority",
-    "proportion_n_of_margin_superiority",
+    "proportion_n_non_inferiority",
+    "proportion_n_superiority",
     "proportion_null",
+    "proportion_null_equivalence",
+    "proportion_null_non_inferiority",
+    "proportion_null_superiority",
     "proportion_power",
+    "proportion_power_equivalence",
     "proportion_power_exact",
-    "proportion_power_of_equivalence",
-    "proportion_power_of_equivalence_exact",
-    "proportion_power_of_margin_exact_non_inferiority",
-    "proportion_power_of_margin_exact_superiority",
-    "proportion_power_of_margin_non_inferiority",
-    "proportion_power_of_margin_superiority",
+    "proportion_power_exact_equivalence",
+    "proportion_power_exact_non_inferiority",
+    "proportion_power_exact_superiority",
+    "proportion_power_non_inferiority",
+    "proportion_power_superiority",
     "proportion_proportion",
+    "proportion_proportion_equivalence",
+    "proportion_proportion_non_inferiority",
+    "proportion_proportion_superiority",
     "regression_effect_f2",
     "regression_n",
     "regression_n_of_effect_f2",
@@ -226,129 +272,167 @@ __all__ = [
     "two_correlations_total",
     "two_correlations_total_of_correlations",
     "two_means_cv",
+    "two_means_cv_equivalence",
+    "two_means_cv_non_inferiority",
+    "two_means_cv_superiority",
     "two_means_effect_d",
     "two_means_half_width",
-    "two_means_margin",
+    "two_means_margin_non_inferiority",
+    "two_means_margin_superiority",
     "two_means_mean_difference",
+    "two_means_mean_difference_equivalence",
+    "two_means_mean_difference_non_inferiority",
+    "two_means_mean_difference_superiority",
     "two_means_mean_ratio",
+    "two_means_mean_ratio_equivalence",
+    "two_means_mean_ratio_non_inferiority",
+    "two_means_mean_ratio_superiority",
     "two_means_n",
     "two_means_n_for_half_width",
     "two_means_n_of_mean_difference",
+    "two_means_n_of_mean_difference_equivalence",
     "two_means_n_of_mean_difference_non_inferiority",
     "two_means_n_of_mean_difference_superiority",
     "two_means_n_of_mean_ratio",
+    "two_means_n_of_mean_ratio_equivalence",
     "two_means_n_of_mean_ratio_non_inferiority",
     "two_means_n_of_mean_ratio_superiority",
     "two_means_n_of_means",
+    "two_means_n_of_means_equivalence",
     "two_means_n_of_means_non_inferiority",
     "two_means_n_of_means_superiority",
     "two_means_power",
     "two_means_power_of_mean_difference",
+    "two_means_power_of_mean_difference_equivalence",
     "two_means_power_of_mean_difference_non_inferiority",
     "two_means_power_of_mean_difference_superiority",
     "two_means_power_of_mean_ratio",
+    "two_means_power_of_mean_ratio_equivalence",
     "two_means_power_of_mean_ratio_non_inferiority",
     "two_means_power_of_mean_ratio_superiority",
     "two_means_power_of_means",
+    "two_means_power_of_means_equivalence",
     "two_means_power_of_means_non_inferiority",
     "two_means_power_of_means_superiority",
     "two_means_total",
     "two_means_total_of_mean_difference",
+    "two_means_total_of_mean_difference_equivalence",
     "two_means_total_of_mean_difference_non_inferiority",
     "two_means_total_of_mean_difference_superiority",
     "two_means_total_of_mean_ratio",
+    "two_means_total_of_mean_ratio_equivalence",
     "two_means_total_of_mean_ratio_non_inferiority",
     "two_means_total_of_mean_ratio_superiority",
     "two_means_total_of_means",
+    "two_means_total_of_means_equivalence",
     "two_means_total_of_means_non_inferiority",
     "two_means_total_of_means_superiority",
     "two_proportions_half_width",
     "two_proportions_half_width_of_odds_ratio",
     "two_proportions_half_width_of_risk_difference",
     "two_proportions_half_width_of_risk_ratio",
-    "two_proportions_margin",
+    "two_proportions_margin_non_inferiority",
+    "two_proportions_margin_superiority",
     "two_proportions_n",
+    "two_proportions_n_equivalence",
+    "two_proportions_n_exact_equivalence",
+    "two_proportions_n_exact_non_inferiority",
+    "two_proportions_n_exact_superiority",
     "two_proportions_n_for_half_width",
     "two_proportions_n_for_half_width_of_odds_ratio",
     "two_proportions_n_for_half_width_of_risk_difference",
     "two_proportions_n_for_half_width_of_risk_ratio",
-    "two_proportions_n_of_equivalence",
-    "two_proportions_n_of_equivalence_exact",
-    "two_proportions_n_of_margin_exact_non_inferiority",
-    "two_proportions_n_of_margin_exact_superiority",
-    "two_proportions_n_of_margin_non_inferiority",
-    "two_proportions_n_of_margin_superiority",
+    "two_proportions_n_non_inferiority",
     "two_proportions_n_of_odds_ratio",
-    "two_proportions_n_of_odds_ratio_exact",
+    "two_proportions_n_of_odds_ratio_equivalence",
+    "two_proportions_n_of_odds_ratio_exact_equivalence",
     "two_proportions_n_of_odds_ratio_exact_non_inferiority",
     "two_proportions_n_of_odds_ratio_exact_superiority",
     "two_proportions_n_of_odds_ratio_non_inferiority",
     "two_proportions_n_of_odds_ratio_superiority",
     "two_proportions_n_of_risk_difference",
-    "two_proportions_n_of_risk_difference_exact",
+    "two_proportions_n_of_risk_difference_equivalence",
+    "two_proportions_n_of_risk_difference_exact_equivalence",
     "two_proportions_n_of_risk_difference_exact_non_inferiority",
     "two_proportions_n_of_risk_difference_exact_superiority",
     "two_proportions_n_of_risk_difference_non_inferiority",
     "two_proportions_n_of_risk_difference_superiority",
     "two_proportions_n_of_risk_ratio",
-    "two_proportions_n_of_risk_ratio_exact",
+    "two_proportions_n_of_risk_ratio_equivalence",
+    "two_proportions_n_of_risk_ratio_exact_equivalence",
     "two_proportions_n_of_risk_ratio_exact_non_inferiority",
     "two_proportions_n_of_risk_ratio_exact_superiority",
     "two_proportions_n_of_risk_ratio_non_inferiority",
     "two_proportions_n_of_risk_ratio_superiority",
+    "two_proportions_n_superiority",
     "two_proportions_odds_ratio",
+    "two_proportions_odds_ratio_equivalence",
+    "two_proportions_odds_ratio_non_inferiority",
+    "two_proportions_odds_ratio_superiority",
     "two_proportions_power",
-    "two_proportions_power_of_equivalence",
-    "two_proportions_power_of_equivalence_exact",
-    "two_proportions_power_of_margin_exact_non_inferiority",
-    "two_proportions_power_of_margin_exact_superiority",
-    "two_proportions_power_of_margin_non_inferiority",
-    "two_proportions_power_of_margin_superiority",
+    "two_proportions_power_equivalence",
+    "two_proportions_power_exact_equivalence",
+    "two_proportions_power_exact_non_inferiority",
+    "two_proportions_power_exact_superiority",
+    "two_proportions_power_non_inferiority",
     "two_proportions_power_of_odds_ratio",
-    "two_proportions_power_of_odds_ratio_exact",
+    "two_proportions_power_of_odds_ratio_equivalence",
+    "two_proportions_power_of_odds_ratio_exact_equivalence",
     "two_proportions_power_of_odds_ratio_exact_non_inferiority",
     "two_proportions_power_of_odds_ratio_exact_superiority",
     "two_proportions_power_of_odds_ratio_non_inferiority",
     "two_proportions_power_of_odds_ratio_superiority",
     "two_proportions_power_of_risk_difference",
-    "two_proportions_power_of_risk_difference_exact",
+    "two_proportions_power_of_risk_difference_equivalence",
+    "two_proportions_power_of_risk_difference_exact_equivalence",
     "two_proportions_power_of_risk_difference_exact_non_inferiority",
     "two_proportions_power_of_risk_difference_exact_superiority",
     "two_proportions_power_of_risk_difference_non_inferiority",
     "two_proportions_power_of_risk_difference_superiority",
     "two_proportions_power_of_risk_ratio",
-    "two_proportions_power_of_risk_ratio_exact",
+    "two_proportions_power_of_risk_ratio_equivalence",
+    "two_proportions_power_of_risk_ratio_exact_equivalence",
     "two_proportions_power_of_risk_ratio_exact_non_inferiority",
     "two_proportions_power_of_risk_ratio_exact_superiority",
     "two_proportions_power_of_risk_ratio_non_inferiority",
     "two_proportions_power_of_risk_ratio_superiority",
+    "two_proportions_power_superiority",
     "two_proportions_risk_difference",
+    "two_proportions_risk_difference_equivalence",
+    "two_proportions_risk_difference_non_inferiority",
+    "two_proportions_risk_difference_superiority",
     "two_proportions_risk_ratio",
+    "two_proportions_risk_ratio_equivalence",
+    "two_proportions_risk_ratio_non_inferiority",
+    "two_proportions_risk_ratio_superiority",
     "two_proportions_total",
-    "two_proportions_total_of_equivalence",
-    "two_proportions_total_of_equivalence_exact",
-    "two_proportions_total_of_margin_exact_non_inferiority",
-    "two_proportions_total_of_margin_exact_superiority",
-    "two_proportions_total_of_margin_non_inferiority",
-    "two_proportions_total_of_margin_superiority",
+    "two_proportions_total_equivalence",
+    "two_proportions_total_exact_equivalence",
+    "two_proportions_total_exact_non_inferiority",
+    "two_proportions_total_exact_superiority",
+    "two_proportions_total_non_inferiority",
     "two_proportions_total_of_odds_ratio",
-    "two_proportions_total_of_odds_ratio_exact",
+    "two_proportions_total_of_odds_ratio_equivalence",
+    "two_proportions_total_of_odds_ratio_exact_equivalence",
     "two_proportions_total_of_odds_ratio_exact_non_inferiority",
     "two_proportions_total_of_odds_ratio_exact_superiority",
     "two_proportions_total_of_odds_ratio_non_inferiority",
     "two_proportions_total_of_odds_ratio_superiority",
     "two_proportions_total_of_risk_difference",
-    "two_proportions_total_of_risk_difference_exact",
+    "two_proportions_total_of_risk_difference_equivalence",
+    "two_proportions_total_of_risk_difference_exact_equivalence",
     "two_proportions_total_of_risk_difference_exact_non_inferiority",
     "two_proportions_total_of_risk_difference_exact_superiority",
     "two_proportions_total_of_risk_difference_non_inferiority",
     "two_proportions_total_of_risk_difference_superiority",
     "two_proportions_total_of_risk_ratio",
-    "two_proportions_total_of_risk_ratio_exact",
+    "two_proportions_total_of_risk_ratio_equivalence",
+    "two_proportions_total_of_risk_ratio_exact_equivalence",
     "two_proportions_total_of_risk_ratio_exact_non_inferiority",
     "two_proportions_total_of_risk_ratio_exact_superiority",
     "two_proportions_total_of_risk_ratio_non_inferiority",
     "two_proportions_total_of_risk_ratio_superiority",
+    "two_proportions_total_superiority",
     "two_variances_n",
     "two_variances_n_of_sd",
     "two_variances_power",
@@ -430,49 +514,75 @@ mean_power_of_mean: np.ufunc
 mean_power: np.ufunc
 mean_power_of_mean_non_inferiority: np.ufunc
 mean_power_of_mean_superiority: np.ufunc
+mean_power_of_mean_equivalence: np.ufunc
 mean_n_of_mean: np.ufunc
 mean_n: np.ufunc
 mean_n_of_mean_non_inferiority: np.ufunc
 mean_n_of_mean_superiority: np.ufunc
+mean_n_of_mean_equivalence: np.ufunc
 mean_half_width: np.ufunc
 mean_n_for_half_width: np.ufunc
 mean_effect_d: np.ufunc
 mean_mean: np.ufunc
+mean_mean_non_inferiority: np.ufunc
+mean_mean_superiority: np.ufunc
+mean_mean_equivalence: np.ufunc
 mean_sd: np.ufunc
-mean_margin: np.ufunc
+mean_sd_non_inferiority: np.ufunc
+mean_sd_superiority: np.ufunc
+mean_sd_equivalence: np.ufunc
+mean_margin_non_inferiority: np.ufunc
+mean_margin_superiority: np.ufunc
 paired_means_power_of_means: np.ufunc
 paired_means_power_of_mean_difference: np.ufunc
 paired_means_power: np.ufunc
 paired_means_power_of_means_non_inferiority: np.ufunc
 paired_means_power_of_means_superiority: np.ufunc
+paired_means_power_of_means_equivalence: np.ufunc
 paired_means_power_of_mean_difference_non_inferiority: np.ufunc
 paired_means_power_of_mean_difference_superiority: np.ufunc
+paired_means_power_of_mean_difference_equivalence: np.ufunc
 paired_means_n_of_means: np.ufunc
 paired_means_n_of_mean_difference: np.ufunc
 paired_means_n: np.ufunc
 paired_means_n_of_means_non_inferiority: np.ufunc
 paired_means_n_of_means_superiority: np.ufunc
+paired_means_n_of_means_equivalence: np.ufunc
 paired_means_n_of_mean_difference_non_inferiority: np.ufunc
 paired_means_n_of_mean_difference_superiority: np.ufunc
+paired_means_n_of_mean_difference_equivalence: np.ufunc
 paired_means_half_width_of_sds: np.ufunc
 paired_means_half_width: np.ufunc
 paired_means_n_for_half_width_of_sds: np.ufunc
 paired_means_n_for_half_width: np.ufunc
 paired_means_effect_d: np.ufunc
 paired_means_mean_difference: np.ufunc
+paired_means_mean_difference_non_inferiority: np.ufunc
+paired_means_mean_difference_superiority: np.ufunc
+paired_means_mean_difference_equivalence: np.ufunc
 paired_means_sd_difference: np.ufunc
+paired_means_sd_difference_non_inferiority: np.ufunc
+paired_means_sd_difference_superiority: np.ufunc
+paired_means_sd_difference_equivalence: np.ufunc
 paired_means_correlation: np.ufunc
-paired_means_margin: np.ufunc
+paired_means_correlation_non_inferiority: np.ufunc
+paired_means_correlation_superiority: np.ufunc
+paired_means_correlation_equivalence: np.ufunc
+paired_means_margin_non_inferiority: np.ufunc
+paired_means_margin_superiority: np.ufunc
 two_means_power_of_means: np.ufunc
 two_means_power_of_mean_difference: np.ufunc
 two_means_power: np.ufunc
 two_means_power_of_mean_ratio: np.ufunc
 two_means_power_of_means_non_inferiority: np.ufunc
 two_means_power_of_means_superiority: np.ufunc
+two_means_power_of_means_equivalence: np.ufunc
 two_means_power_of_mean_difference_non_inferiority: np.ufunc
 two_means_power_of_mean_difference_superiority: np.ufunc
+two_means_power_of_mean_difference_equivalence: np.ufunc
 two_means_power_of_mean_ratio_non_inferiority: np.ufunc
 two_means_power_of_mean_ratio_superiority: np.ufunc
+two_means_power_of_mean_ratio_equivalence: np.ufunc
 two_means_n_of_means: np.ufunc
 two_means_total_of_means: np.ufunc
 two_means_n_of_mean_difference: np.ufunc
@@ -485,49 +595,81 @@ two_means_n_of_means_non_inferiority: np.ufunc
 two_means_total_of_means_non_inferiority: np.ufunc
 two_means_n_of_means_superiority: np.ufunc
 two_means_total_of_means_superiority: np.ufunc
+two_means_n_of_means_equivalence: np.ufunc
+two_means_total_of_means_equivalence: np.ufunc
 two_means_n_of_mean_difference_non_inferiority: np.ufunc
 two_means_total_of_mean_difference_non_inferiority: np.ufunc
 two_means_n_of_mean_difference_superiority: np.ufunc
 two_means_total_of_mean_difference_superiority: np.ufunc
+two_means_n_of_mean_difference_equivalence: np.ufunc
+two_means_total_of_mean_difference_equivalence: np.ufunc
 two_means_n_of_mean_ratio_non_inferiority: np.ufunc
 two_means_total_of_mean_ratio_non_inferiority: np.ufunc
 two_means_n_of_mean_ratio_superiority: np.ufunc
 two_means_total_of_mean_ratio_superiority: np.ufunc
+two_means_n_of_mean_ratio_equivalence: np.ufunc
+two_means_total_of_mean_ratio_equivalence: np.ufunc
 two_means_half_width: np.ufunc
 two_means_n_for_half_width: np.ufunc
 two_means_effect_d: np.ufunc
 two_means_mean_difference: np.ufunc
+two_means_mean_difference_non_inferiority: np.ufunc
+two_means_mean_difference_superiority: np.ufunc
+two_means_mean_difference_equivalence: np.ufunc
 two_means_mean_ratio: np.ufunc
+two_means_mean_ratio_non_inferiority: np.ufunc
+two_means_mean_ratio_superiority: np.ufunc
+two_means_mean_ratio_equivalence: np.ufunc
 two_means_cv: np.ufunc
-two_means_margin: np.ufunc
+two_means_cv_non_inferiority: np.ufunc
+two_means_cv_superiority: np.ufunc
+two_means_cv_equivalence: np.ufunc
+two_means_margin_non_inferiority: np.ufunc
+two_means_margin_superiority: np.ufunc
 crossover_power: np.ufunc
 crossover_power_of_mean_ratio: np.ufunc
-crossover_power_of_margin_non_inferiority: np.ufunc
-crossover_power_of_margin_superiority: np.ufunc
-crossover_power_of_equivalence: np.ufunc
+crossover_power_non_inferiority: np.ufunc
+crossover_power_superiority: np.ufunc
+crossover_power_equivalence: np.ufunc
 crossover_power_of_mean_ratio_non_inferiority: np.ufunc
 crossover_power_of_mean_ratio_superiority: np.ufunc
+crossover_power_of_mean_ratio_equivalence: np.ufunc
 crossover_n: np.ufunc
 crossover_total: np.ufunc
 crossover_n_of_mean_ratio: np.ufunc
 crossover_total_of_mean_ratio: np.ufunc
-crossover_n_of_margin_non_inferiority: np.ufunc
-crossover_total_of_margin_non_inferiority: np.ufunc
-crossover_n_of_margin_superiority: np.ufunc
-crossover_total_of_margin_superiority: np.ufunc
-crossover_n_of_equivalence: np.ufunc
-crossover_total_of_equivalence: np.ufunc
+crossover_n_non_inferiority: np.ufunc
+crossover_total_non_inferiority: np.ufunc
+crossover_n_superiority: np.ufunc
+crossover_total_superiority: np.ufunc
+crossover_n_equivalence: np.ufunc
+crossover_total_equivalence: np.ufunc
 crossover_n_of_mean_ratio_non_inferiority: np.ufunc
 crossover_total_of_mean_ratio_non_inferiority: np.ufunc
 crossover_n_of_mean_ratio_superiority: np.ufunc
 crossover_total_of_mean_ratio_superiority: np.ufunc
+crossover_n_of_mean_ratio_equivalence: np.ufunc
+crossover_total_of_mean_ratio_equivalence: np.ufunc
 crossover_half_width: np.ufunc
 crossover_n_for_half_width: np.ufunc
 crossover_mean_difference: np.ufunc
+crossover_mean_difference_non_inferiority: np.ufunc
+crossover_mean_difference_superiority: np.ufunc
+crossover_mean_difference_equivalence: np.ufunc
 crossover_mean_ratio: np.ufunc
+crossover_mean_ratio_non_inferiority: np.ufunc
+crossover_mean_ratio_superiority: np.ufunc
+crossover_mean_ratio_equivalence: np.ufunc
 crossover_sd: np.ufunc
+crossover_sd_non_inferiority: np.ufunc
+crossover_sd_superiority: np.ufunc
+crossover_sd_equivalence: np.ufunc
 crossover_cv: np.ufunc
-crossover_margin: np.ufunc
+crossover_cv_non_inferiority: np.ufunc
+crossover_cv_superiority: np.ufunc
+crossover_cv_equivalence: np.ufunc
+crossover_margin_non_inferiority: np.ufunc
+crossover_margin_superiority: np.ufunc
 mann_whitney_power: np.ufunc
 mann_whitney_power_of_superiority: np.ufunc
 mann_whitney_n: np.ufunc
@@ -557,50 +699,60 @@ two_variances_total_of_sd: np.ufunc
 two_variances_variance_ratio: np.ufunc
 proportion_power: np.ufunc
 proportion_power_exact: np.ufunc
-proportion_power_of_margin_non_inferiority: np.ufunc
-proportion_power_of_margin_superiority: np.ufunc
-proportion_power_of_equivalence: np.ufunc
-proportion_power_of_margin_exact_non_inferiority: np.ufunc
-proportion_power_of_margin_exact_superiority: np.ufunc
-proportion_power_of_equivalence_exact: np.ufunc
+proportion_power_non_inferiority: np.ufunc
+proportion_power_superiority: np.ufunc
+proportion_power_equivalence: np.ufunc
+proportion_power_exact_non_inferiority: np.ufunc
+proportion_power_exact_superiority: np.ufunc
+proportion_power_exact_equivalence: np.ufunc
 proportion_n: np.ufunc
 proportion_n_exact: np.ufunc
-proportion_n_of_margin_non_inferiority: np.ufunc
-proportion_n_of_margin_superiority: np.ufunc
-proportion_n_of_equivalence: np.ufunc
-proportion_n_of_margin_exact_non_inferiority: np.ufunc
-proportion_n_of_margin_exact_superiority: np.ufunc
-proportion_n_of_equivalence_exact: np.ufunc
+proportion_n_non_inferiority: np.ufunc
+proportion_n_superiority: np.ufunc
+proportion_n_equivalence: np.ufunc
+proportion_n_exact_non_inferiority: np.ufunc
+proportion_n_exact_superiority: np.ufunc
+proportion_n_exact_equivalence: np.ufunc
 proportion_half_width: np.ufunc
 proportion_n_for_half_width: np.ufunc
 proportion_proportion: np.ufunc
+proportion_proportion_non_inferiority: np.ufunc
+proportion_proportion_superiority: np.ufunc
+proportion_proportion_equivalence: np.ufunc
 proportion_null: np.ufunc
-proportion_margin: np.ufunc
+proportion_null_non_inferiority: np.ufunc
+proportion_null_superiority: np.ufunc
+proportion_null_equivalence: np.ufunc
+proportion_margin_non_inferiority: np.ufunc
+proportion_margin_superiority: np.ufunc
 two_proportions_power: np.ufunc
 two_proportions_power_of_risk_difference: np.ufunc
 two_proportions_power_of_risk_ratio: np.ufunc
 two_proportions_power_of_odds_ratio: np.ufunc
-two_proportions_power_of_margin_non_inferiority: np.ufunc
-two_proportions_power_of_margin_superiority: np.ufunc
-two_proportions_power_of_equivalence: np.ufunc
-two_proportions_power_of_margin_exact_non_inferiority: np.ufunc
-two_proportions_power_of_margin_exact_superiority: np.ufunc
-two_proportions_power_of_equivalence_exact: np.ufunc
+two_proportions_power_non_inferiority: np.ufunc
+two_proportions_power_superiority: np.ufunc
+two_proportions_power_equivalence: np.ufunc
+two_proportions_power_exact_non_inferiority: np.ufunc
+two_proportions_power_exact_superiority: np.ufunc
+two_proportions_power_exact_equivalence: np.ufunc
 two_proportions_power_of_risk_difference_non_inferiority: np.ufunc
 two_proportions_power_of_risk_difference_superiority: np.ufunc
+two_proportions_power_of_risk_difference_equivalence: np.ufunc
 two_proportions_power_of_risk_difference_exact_non_inferiority: np.ufunc
 two_proportions_power_of_risk_difference_exact_superiority: np.ufunc
-two_proportions_power_of_risk_difference_exact: np.ufunc
+two_proportions_power_of_risk_difference_exact_equivalence: np.ufunc
 two_proportions_power_of_risk_ratio_non_inferiority: np.ufunc
 two_proportions_power_of_risk_ratio_superiority: np.ufunc
+two_proportions_power_of_risk_ratio_equivalence: np.ufunc
 two_proportions_power_of_risk_ratio_exact_non_inferiority: np.ufunc
 two_proportions_power_of_risk_ratio_exact_superiority: np.ufunc
-two_proportions_power_of_risk_ratio_exact: np.ufunc
+two_proportions_power_of_risk_ratio_exact_equivalence: np.ufunc
 two_proportions_power_of_odds_ratio_non_inferiority: np.ufunc
 two_proportions_power_of_odds_ratio_superiority: np.ufunc
+two_proportions_power_of_odds_ratio_equivalence: np.ufunc
 two_proportions_power_of_odds_ratio_exact_non_inferiority: np.ufunc
 two_proportions_power_of_odds_ratio_exact_superiority: np.ufunc
-two_proportions_power_of_odds_ratio_exact: np.ufunc
+two_proportions_power_of_odds_ratio_exact_equivalence: np.ufunc
 two_proportions_n: np.ufunc
 two_proportions_total: np.ufunc
 two_proportions_n_of_risk_difference: np.ufunc
@@ -609,48 +761,54 @@ two_proportions_n_of_risk_ratio: np.ufunc
 two_proportions_total_of_risk_ratio: np.ufunc
 two_proportions_n_of_odds_ratio: np.ufunc
 two_proportions_total_of_odds_ratio: np.ufunc
-two_proportions_n_of_margin_non_inferiority: np.ufunc
-two_proportions_total_of_margin_non_inferiority: np.ufunc
-two_proportions_n_of_margin_superiority: np.ufunc
-two_proportions_total_of_margin_superiority: np.ufunc
-two_proportions_n_of_equivalence: np.ufunc
-two_proportions_total_of_equivalence: np.ufunc
-two_proportions_n_of_margin_exact_non_inferiority: np.ufunc
-two_proportions_total_of_margin_exact_non_inferiority: np.ufunc
-two_proportions_n_of_margin_exact_superiority: np.ufunc
-two_proportions_total_of_margin_exact_superiority: np.ufunc
-two_proportions_n_of_equivalence_exact: np.ufunc
-two_proportions_total_of_equivalence_exact: np.ufunc
+two_proportions_n_non_inferiority: np.ufunc
+two_proportions_total_non_inferiority: np.ufunc
+two_proportions_n_superiority: np.ufunc
+two_proportions_total_superiority: np.ufunc
+two_proportions_n_equivalence: np.ufunc
+two_proportions_total_equivalence: np.ufunc
+two_proportions_n_exact_non_inferiority: np.ufunc
+two_proportions_total_exact_non_inferiority: np.ufunc
+two_proportions_n_exact_superiority: np.ufunc
+two_proportions_total_exact_superiority: np.ufunc
+two_proportions_n_exact_equivalence: np.ufunc
+two_proportions_total_exact_equivalence: np.ufunc
 two_proportions_n_of_risk_difference_non_inferiority: np.ufunc
 two_proportions_total_of_risk_difference_non_inferiority: np.ufunc
 two_proportions_n_of_risk_difference_superiority: np.ufunc
 two_proportions_total_of_risk_difference_superiority: np.ufunc
+two_proportions_n_of_risk_difference_equivalence: np.ufunc
+two_proportions_total_of_risk_difference_equivalence: np.ufunc
 two_proportions_n_of_risk_difference_exact_non_inferiority: np.ufunc
 two_proportions_total_of_risk_difference_exact_non_inferiority: np.ufunc
 two_proportions_n_of_risk_difference_exact_superiority: np.ufunc
 two_proportions_total_of_risk_difference_exact_superiority: np.ufunc
-two_proportions_n_of_risk_difference_exact: np.ufunc
-two_proportions_total_of_risk_difference_exact: np.ufunc
+two_proportions_n_of_risk_difference_exact_equivalence: np.ufunc
+two_proportions_total_of_risk_difference_exact_equivalence: np.ufunc
 two_proportions_n_of_risk_ratio_non_inferiority: np.ufunc
 two_proportions_total_of_risk_ratio_non_inferiority: np.ufunc
 two_proportions_n_of_risk_ratio_superiority: np.ufunc
 two_proportions_total_of_risk_ratio_superiority: np.ufunc
+two_proportions_n_of_risk_ratio_equivalence: np.ufunc
+two_proportions_total_of_risk_ratio_equivalence: np.ufunc
 two_proportions_n_of_risk_ratio_exact_non_inferiority: np.ufunc
 two_proportions_total_of_risk_ratio_exact_non_inferiority: np.ufunc
 two_proportions_n_of_risk_ratio_exact_superiority: np.ufunc
 two_proportions_total_of_risk_ratio_exact_superiority: np.ufunc
-two_proportions_n_of_risk_ratio_exact: np.ufunc
-two_proportions_total_of_risk_ratio_exact: np.ufunc
+two_proportions_n_of_risk_ratio_exact_equivalence: np.ufunc
+two_proportions_total_of_risk_ratio_exact_equivalence: np.ufunc
 two_proportions_n_of_odds_ratio_non_inferiority: np.ufunc
 two_proportions_total_of_odds_ratio_non_inferiority: np.ufunc
 two_proportions_n_of_odds_ratio_superiority: np.ufunc
 two_proportions_total_of_odds_ratio_superiority: np.ufunc
+two_proportions_n_of_odds_ratio_equivalence: np.ufunc
+two_proportions_total_of_odds_ratio_equivalence: np.ufunc
 two_proportions_n_of_odds_ratio_exact_non_inferiority: np.ufunc
 two_proportions_total_of_odds_ratio_exact_non_inferiority: np.ufunc
 two_proportions_n_of_odds_ratio_exact_superiority: np.ufunc
 two_proportions_total_of_odds_ratio_exact_superiority: np.ufunc
-two_proportions_n_of_odds_ratio_exact: np.ufunc
-two_proportions_total_of_odds_ratio_exact: np.ufunc
+two_proportions_n_of_odds_ratio_exact_equivalence: np.ufunc
+two_proportions_total_of_odds_ratio_exact_equivalence: np.ufunc
 two_proportions_half_width: np.ufunc
 two_proportions_half_width_of_risk_difference: np.ufunc
 two_proportions_half_width_of_risk_ratio: np.ufunc
@@ -660,9 +818,19 @@ two_proportions_n_for_half_width_of_risk_difference: np.ufunc
 two_proportions_n_for_half_width_of_risk_ratio: np.ufunc
 two_proportions_n_for_half_width_of_odds_ratio: np.ufunc
 two_proportions_risk_difference: np.ufunc
+two_proportions_risk_difference_non_inferiority: np.ufunc
+two_proportions_risk_difference_superiority: np.ufunc
+two_proportions_risk_difference_equivalence: np.ufunc
 two_proportions_risk_ratio: np.ufunc
+two_proportions_risk_ratio_non_inferiority: np.ufunc
+two_proportions_risk_ratio_superiority: np.ufunc
+two_proportions_risk_ratio_equivalence: np.ufunc
 two_proportions_odds_ratio: np.ufunc
-two_proportions_margin: np.ufunc
+two_proportions_odds_ratio_non_inferiority: np.ufunc
+two_proportions_odds_ratio_superiority: np.ufunc
+two_proportions_odds_ratio_equivalence: np.ufunc
+two_proportions_margin_non_inferiority: np.ufunc
+two_proportions_margin_superiority: np.ufunc
 paired_proportions_power: np.ufunc
 paired_proportions_power_exact: np.ufunc
 paired_proportions_power_of_proportion1: np.ufunc

@@ -10,27 +10,49 @@ from kelpower._ufunc_table import TABLE
 
 # A number for each argument, at which all questions have an answer.
 USUAL = {
-    "alpha": 0.05, "coefficients": [1, 0, -1], "correlation": 0.5, "effect_d": 0.5, "effect_f": 0.3, "effect_f2": 0.15,
-    "eta_squared": 0.1, "half_width": 3, "mean": 3, "mean1": 10, "mean2": 12, "mean_difference": 3,
-    "means": [10, 12, 15], "n": 30, "n1": 30, "n2": 40, "null": 0.5, "odds_ratio": 2.5, "p12": 0.3, "p21": 0.1,
-    "pair1": 1, "pair2": 3,
-    "partialled_out": 2, "power": 0.8, "predictors": 3, "proportion": 0.3, "proportion1": 0.2, "proportion2": 0.4,
-    "r": 0.4, "r_squared": 0.2, "ratio": 1, "ratios": [1, 1, 1], "risk_difference": 0.2, "risk_ratio": 2, "sd": 6,
-    "sd1": 4, "sd2": 5, "sd_difference": 6, "test_value": 0,
+    "alpha": 0.05, "coefficients": [1, 0, -1], "columns": 3, "correlation": 0.5, "correlation1": 0.5,
+    "correlation2": 0.2, "covariates": 1, "cramers_v": 0.3, "cv": 0.5, "df": 3, "effect_d": 0.5, "effect_f": 0.3,
+    "effect_f2": 0.15, "effect_q": 0.4, "effect_w": 0.3, "eta_squared": 0.1, "group": 2, "half_width": 3, "mean": 3,
+    "mean1": 12, "mean2": 10, "mean_difference": 3, "mean_ratio": 1.3, "means": [10, 12, 15], "n": 30, "n1": 30,
+    "n2": 40, "null": 0.5, "null_sd": 4, "odds_ratio": 2.5, "p12": 0.3, "p21": 0.1, "pair1": 1, "pair2": 3,
+    "partialled_out": 2, "positive_average": 0.7, "power": 0.8, "predictors": 3, "proportion": 0.3,
+    "proportion1": 0.2, "proportion2": 0.4, "r": 0.4, "r12": 0.5, "r13": 0.2, "r14": 0.2, "r23": 0.3, "r24": 0.3,
+    "r34": 0.2, "r_squared": 0.2, "ratio": 1, "ratios": [1, 1, 1], "risk_difference": 0.2, "risk_ratio": 2, "rows": 3,
+    "sd": 6, "sd1": 4, "sd2": 5, "sd_difference": 6, "superiority": 0.7, "test_value": 0, "variance_ratio": 2,
 }  # fmt: skip
 OF_PROPORTIONS = {"half_width": 0.1}
 OF_CORRELATIONS = {"half_width": 0.1, "null": 0}
 USUAL_OF = {
-    "proportion": OF_PROPORTIONS, "two-proportions": OF_PROPORTIONS, "paired-proportions": OF_PROPORTIONS,
+    "proportion": {"half_width": 0.1, "null": 0.2}, "two-proportions": OF_PROPORTIONS, "paired-proportions": OF_PROPORTIONS,
     "pearson": OF_CORRELATIONS, "spearman": OF_CORRELATIONS, "partial": OF_CORRELATIONS,
 }  # fmt: skip
-# At the usual numbers no discordant proportion or correlation reaches the power.
-LARGER = {"paired_proportions_p21": {"n": 200}, "paired_proportions_correlation": {"n": 60}}
+# Limits on both sides of the usual effects, and margins that these are on the right side of.
+HYPOTHESES = {"non_inferiority": {"margin": -2}, "superiority": {"margin": 1},
+              "equivalence": {"equivalence1": -2, "equivalence2": 8}}
+OF_RATIOS = {"non_inferiority": {"margin": 0.8}, "superiority": {"margin": 1.1},
+             "equivalence": {"equivalence1": 0.4, "equivalence2": 8}}
+OF_SHARES = {"non_inferiority": {"margin": -0.1}, "superiority": {"margin": 0.05},
+             "equivalence": {"equivalence1": -0.15, "equivalence2": 0.45}}
+# At the usual numbers nothing reaches the power.
+LARGER = {
+    "paired_proportions_p21": {"n": 200}, "paired_proportions_correlation": {"n": 60},
+    "mean_margin_non_inferiority": {"n": 5}, "crossover_margin_non_inferiority": {"n1": 5, "n2": 5},
+    "two_means_margin_superiority": {"n1": 200, "n2": 200}, "paired_means_margin_superiority": {"n": 200},
+    "proportion_margin_superiority": {"n": 500}, "two_proportions_margin_superiority": {"n1": 200, "n2": 200},
+    **{f"two_proportions_{effect}_equivalence": {"n1": 200, "n2": 200}
+       for effect in ("risk_difference", "risk_ratio", "odds_ratio")},
+}  # fmt: skip
+
+
+def usual_hypothesis(name, question):
+    of_ratio = "mean_ratio" in [argument for argument, *_ in question.arguments] or "mean_ratio" in name
+    found = OF_RATIOS if of_ratio else OF_SHARES if "proportion" in question.test else HYPOTHESES
+    return next((found[hypothesis] for hypothesis in found if name.endswith(hypothesis)), {})
 
 
 def usual_arguments(name):
     question = TABLE[name]
-    usual = USUAL | USUAL_OF.get(question.test, {}) | LARGER.get(name, {})
+    usual = USUAL | USUAL_OF.get(question.test, {}) | usual_hypothesis(name, question) | LARGER.get(name, {})
     values = {argument: usual[argument] for argument, *_ in question.arguments}
     lists = {argument for argument, _, _, is_list in question.arguments if is_list}
     return {argument: [value] * 3 if argument in lists and not isinstance(value, list) else value

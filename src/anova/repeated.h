@@ -1,8 +1,8 @@
 #ifndef KELPOWER_ANOVA_REPEATED_H
 #define KELPOWER_ANOVA_REPEATED_H
 
-#include "anova/one_effect.h"
 #include "anova/groups.h"
+#include "anova/one_effect.h"
 #include "frame/answer.h"
 
 // Subjects in groups, each measured several times: the split-plot or mixed analysis of variance. The measurements of a

@@ -20,8 +20,8 @@
 
 namespace kelpower::assurance {
 
-using KelMath::KelDistFun;
 using kelcommon::CdfChiSquare;
+using KelMath::KelDistFun;
 
 namespace {
 

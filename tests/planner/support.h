@@ -11,8 +11,8 @@
 #include "model/problem.h"
 #include "solve/chart.h"
 #include "solve/solve.h"
-#include "words/parse.h"
 #include "support/counting_stop.h"
+#include "words/parse.h"
 #include "words/problem.h"
 #include "words/report.h"
 

@@ -6,9 +6,9 @@
 
 /// The powers of two-sided two-sample t tests, each for an effect and two sizes.
 extern "C" __attribute__((visibility("default"))) void PowersOfTwoMeans(std::size_t count, const double* effects,
-                                                                       const double* firstSizes,
-                                                                       const double* secondSizes, double alpha,
-                                                                       double* powers) {
+                                                                        const double* firstSizes,
+                                                                        const double* secondSizes, double alpha,
+                                                                        double* powers) {
   for (std::size_t i = 0; i < count; ++i) {
     powers[i] = PowerIndependentNondirectionalES(firstSizes[i], secondSizes[i], effects[i], alpha);
   }

@@ -11,6 +11,9 @@ WORDS = {"power": "power", "sample-size": "n", "half-width": "half_width",
          "sample-size-for-half-width": "n_for_half_width"}
 TARGETS = {"sample-size": "power", "sample-size-for-half-width": "half-width"}
 
+# Inputs that tell a hypothesis and no form of the effect. A margin comes with a flag, which names it.
+OF_HYPOTHESES = {"margin", "equivalence"}
+
 
 def underscored(name):
     return name.replace("-", "_")
@@ -99,8 +102,14 @@ def outputs_of(test, route):
 def form_of(arguments, primary):
     """The input that tells a form of the effect from the first one."""
     known = {argument.name for argument in primary}
-    others = [argument.input for argument in arguments if argument.name not in known]
-    return f"_of_{others[0]}" if others else ""
+    forms = [argument.input for argument in arguments
+             if argument.name not in known and argument.input not in OF_HYPOTHESES]
+    return f"_of_{forms[0]}" if forms else ""
+
+
+def hypothesis_of(arguments, flags):
+    names = [*flags, *(["equivalence"] if any(each.input == "equivalence" for each in arguments) else [])]
+    return "".join(f"_{underscored(name)}" for name in names)
 
 
 def of_question(test, question):
@@ -112,7 +121,7 @@ def of_question(test, question):
         inputs = {underscored(flag): True for flag in flags}
         if question == "half-width":
             inputs["interval"] = True
-        suffix = form_of(arguments, primary) + "".join(f"_{underscored(flag)}" for flag in flags)
+        suffix = form_of(arguments, primary) + hypothesis_of(arguments, flags)
         name = f"{underscored(test['name'])}_{{}}{suffix}"
         taken = {tuple(each.name for each in other.arguments) for other in found.values() if other.inputs == inputs}
         if tuple(argument.name for argument in arguments) in taken:
@@ -126,20 +135,23 @@ def of_question(test, question):
 
 
 def of_unknown(test, unknown):
-    """The ufunc that gives the number with which a design has a power."""
+    """The ufuncs that give the number with which a design has a power: one for each hypothesis."""
     name = unknown["name"]
     if unknown["target"] != "power" or name == "alpha" or parameter_of(test, name)["kind"] != "number":
         return []
+    found = {}
     for route in test["routes"]:
         if route["question"] != "power" or name not in route["needs"] or "exact" in route["needs"]:
             continue
         if not has_ufunc(test, route):
             continue
-        arguments, _ = columns_of(test, route, name)
-        output = (underscored(name), 0, False)
-        return [Ufunc(f"{underscored(test['name'])}_{underscored(name)}", test["name"], arguments, [output],
-                      {"solve": name})]
-    return []
+        arguments, flags = columns_of(test, route, name)
+        inputs = {underscored(flag): True for flag in flags} | {"solve": name}
+        suffix = hypothesis_of(arguments, flags)
+        asked = Ufunc(f"{underscored(test['name'])}_{underscored(name)}{suffix}", test["name"], arguments,
+                      [(underscored(name), 0, False)], inputs)
+        found.setdefault(asked.name, asked)
+    return list(found.values())
 
 
 def of_test(test):
