@@ -102,7 +102,7 @@ DunnettTest::DunnettTest(const std::vector<double>& sizes, bool isOneSided, doub
   if (!(df_ > 0)) return;
   step_ = StepOver(sizes, alpha);
   // Farther out, normal densities and probabilities are below the last digit of the level.
-  reach_ = std::sqrt(-2 * std::log(1e-17 * alpha));
+  reach_ = std::sqrt(2 * (39 - std::log(alpha)));
   for (int i = 0; i * step_ <= reach_; ++i)
     weights_.push_back(step_ * densityAtZero * std::exp(-i * step_ * i * step_ / 2));
   critical_ = CriticalValue(alpha);
