@@ -18,9 +18,6 @@ namespace {
 
 constexpr double twoPi = 6.283185307179586477;
 
-// The density is left where it has fallen by e^-40.
-constexpr double fallOfDensity = 40;
-
 // Of the highest coefficients. Where the density is far wider than what changes in it, they fall less fast.
 constexpr double usualTolerance = 5e-8;
 constexpr double strictTolerance = 1e-9;
@@ -56,13 +53,13 @@ double NextBreak(const ChiRange& range, double from, double to) {
 }  // namespace
 
 double MeanOverChi(ChiFunction g, double df, const ChiRange& range) noexcept {
-  if (!(df > 0) || std::isnan(range.limit)) return std::numeric_limits<double>::quiet_NaN();
+  if (!(df > 0) || std::isnan(range.limit) || !(range.fall > 0)) return std::numeric_limits<double>::quiet_NaN();
   if (range.limit <= 0) return 0;
   const double b = std::min(std::max(df, leastDf), mostDf) / 2;
   const double limit = std::log(range.limit);
-  const double to = std::min(RightEnd(fallOfDensity / b), limit);
+  const double to = std::min(RightEnd(range.fall / b), limit);
   // Below the mode the density falls from its value at the limit.
-  const double from = LeftEnd(fallOfDensity / b + (to < 0 ? KelMath::Expm1MinusArgument(2 * to) : 0));
+  const double from = LeftEnd(range.fall / b + (to < 0 ? KelMath::Expm1MinusArgument(2 * to) : 0));
 
   const double height = 2 * std::sqrt(b / twoPi) * std::exp(-KelMath::LogScaledGamma(b));
   const auto Integrand = [=](double v) {

@@ -60,6 +60,10 @@ std::vector<Condition> ConditionsOfDunnett() {
       FewTimesControl("n", "{n}: a group is more than 10000 times as large as the control, which is the first."),
       FewTimesControl("ratios",
                       "{ratios}: a group is more than 10000 times as large as the control, which is the first."),
+      {.code = "small-level",
+       .about = {"alpha"},
+       .holds = [](const Inputs& in) { return in.Number("alpha") >= comparisons::leastDunnettLevel; },
+       .sentence = "{alpha} must be at least 1e-14 for Dunnett's test."},
       ErrorDegrees(),
   };
 }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "frame/answer.h"
+#include "kelcommon/chi_integral.h"
 
 // Dunnett's test of several groups against one control, which holds the level of the family of comparisons (Dunnett
 // 1955, "A multiple comparison procedure for comparing several treatments with a control", JASA 50; 1964, "New tables
@@ -16,6 +17,9 @@ constexpr int mostTreatments = 1000;
 
 /// Groups this many times as large as the control are refused: all comparisons are then one.
 constexpr double mostTimesControl = 1e4;
+
+/// At smaller levels and few degrees of freedom the critical value would lose digits.
+constexpr double leastDunnettLevel = 1e-14;
 
 /// Which of the comparisons are to be significant.
 enum class Comparisons { Any, All };
@@ -72,6 +76,7 @@ private:
   double step_ = 1;
   double reach_ = 0;
   std::vector<double> weights_;  ///< of the nodes y = i step_, i from 0 on
+  kelcommon::ChiRange range_;
   double critical_ = 0;
   bool isValid_ = false;
 };

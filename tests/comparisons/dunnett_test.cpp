@@ -112,12 +112,13 @@ TEST(DunnettTest, RefusesWhatIsNoDesign) {
 }
 
 }  // namespace
-// At the smallest levels 1e-17 of a level is no number, and there is no critical value.
-TEST(DunnettTest, EndsAtTheSmallestLevels) {
-  const DunnettTest test({1000, 1000, 1000}, true, 1e-250);
-  EXPECT_LE(test.Critical(), -KelMath::KelDistFun::IdfT(0.5e-250, 2997, 0, 0) * (1 + 1e-12));
-  EXPECT_GE(test.Critical(), -KelMath::KelDistFun::IdfT(1e-250, 2997, 0, 0));
-  for (const double alpha : {std::numeric_limits<double>::denorm_min(), 2e-313})
+// Small levels at few degrees of freedom come from where the error mean square is tiny.
+TEST(DunnettTest, KeepsItsDigitsAtSmallLevels) {
+  for (const double size : {2.0, 3.0, 10.0, 1000.0})
+    for (const double alpha : {1e-6, 1e-10, 1e-14}) {
+      const double ofOne = -KelMath::KelDistFun::IdfT(alpha / 2, 2 * size - 2, 0, 0);
+      EXPECT_NEAR(DunnettTest({size, size}, false, alpha).Critical() / ofOne, 1, 1e-12) << size << " " << alpha;
+    }
+  for (const double alpha : {9e-15, 2e-313, std::numeric_limits<double>::denorm_min()})
     EXPECT_FALSE(DunnettTest({1000, 1000, 1000}, true, alpha).IsValid()) << alpha;
 }
-

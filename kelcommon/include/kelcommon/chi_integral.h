@@ -33,6 +33,9 @@ struct ChiRange {
   /// at most.
   const double* breaks = nullptr;
   int breakCount = 0;
+  /// The density is followed until it has fallen by e^-fall. For a mean as small as p that comes from the tails of the
+  /// distribution, 40 - log(p) keeps its digits.
+  double fall = 40;
 };
 
 /// The mean E[g(U); U < limit] of a bounded function over U, the square root of a chi-square variable divided by its
@@ -42,7 +45,8 @@ struct ChiRange {
 /// small means keep their relative accuracy down to 1e-10 at least. g is asked some 60 times for a smooth one, and at
 /// most some 15,000 times whatever it is.
 /// @param g finite for u >= 0; where it is NaN, so is the mean
-/// @param df degrees of freedom, above 0; infinity gives g(1). Otherwise, and for a NaN limit, the mean is NaN
+/// @param df degrees of freedom, above 0; infinity gives g(1). Otherwise, and for a NaN limit or a fall of 0 or less,
+/// the mean is NaN
 KELCOMMON_API double MeanOverChi(ChiFunction g, double df, const ChiRange& range = {}) noexcept;
 
 }  // namespace kelcommon
