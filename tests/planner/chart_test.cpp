@@ -193,6 +193,9 @@ TEST(Chart, EveryNumberOfEveryExampleHasACurveThroughTheDesign) {
   EXPECT_GT(curves, 200);
 }
 
+/// Of tests whose power is an integral of an integral, a surface over two sizes takes seconds: there they are left out.
+bool IsSlowOverSizes(const planner::Test& test) { return test.name == "dunnett" || test.name == "tukey"; }
+
 TEST(Chart, EveryPairOfNumbersHasASurface) {
   int surfaces = 0;
   for (const planner::Test& test : Tests()) {
@@ -201,12 +204,15 @@ TEST(Chart, EveryPairOfNumbersHasASurface) {
     const ChartCurve& curve = first.curves.front();
     if (first.quantity != Quantity::Power) continue;
     const std::vector<Axis> axes = AxesOf(test, *curve.route, curve.design);
-    for (const Axis& x : axes) {
-      for (const Axis& y : axes) {
+    for (std::size_t i = 0; i < axes.size(); ++i) {
+      for (std::size_t j = 0; j < i; ++j) {
+        const Axis& x = axes[surfaces % 2 == 0 ? i : j];
+        const Axis& y = axes[surfaces % 2 == 0 ? j : i];
         const std::string name = x.name + "-" + y.name;
         if (AxesNamed(name, axes).size() != 2) continue;
         const bool isEven = x.spacing == Spacing::Even || y.spacing == Spacing::Even;
-        const ChartData chart = ComputeChart(test, {name, {}, {}, isEven ? std::optional(0.2) : std::nullopt}, values);
+        if (!isEven && IsSlowOverSizes(test)) continue;
+        const ChartData chart = ComputeChart(test, {name, {}, {}, isEven ? std::optional(0.3) : std::nullopt}, values);
         EXPECT_EQ(chart.First().value.size(), chart.First().x.size() * chart.First().y.size()) << name;
         ++surfaces;
       }
