@@ -75,6 +75,8 @@ QUESTIONS = [
     "proportion --proportion 0.65 --null 0.8 --n 72 --exact",
     "proportion --proportion 0.2 --n 40 --interval --interval-method wilson",
     "proportion --proportion 0.2 --n 40 --interval --interval-method clopper-pearson",
+    "proportion --proportion 0.9 --null 0.85 --margin -0.1 --non-inferiority --n 54",
+    "proportion --proportion 0.6 --null 0.6 --equivalence -0.1,0.1 --n 500 --exact",
     "paired-proportions --p12 0.08 --p21 0.32 --n 50",
     "paired-proportions --p12 0.08 --p21 0.32 --n 50 --exact --one-sided",
     "paired-proportions --p12 0.3 --p21 0.1 --n 100 --interval",
@@ -86,6 +88,8 @@ QUESTIONS = [
     "two-proportions --proportions 0.5,0.75 --n 50,100 --method likelihood-ratio",
     "two-proportions --proportions 0.5,0.75 --n 30 --method conditional",
     "two-proportions --proportions 0.8,0.6 --n 70,80 --interval --interval-method wald",
+    "two-proportions --proportions 0.85,0.85 --margin -0.1 --non-inferiority --n 207",
+    "two-proportions --proportions 0.5,0.5 --equivalence -0.1,0.1 --margin-method wald --n 429",
     "mann-whitney --effect-d 0.5 --n 50",
     "mann-whitney --effect-d 0.375 --n 134,67 --parent laplace --method lehmann",
     "mann-whitney --superiority 0.65 --n 40,80 --one-sided",
@@ -93,10 +97,6 @@ QUESTIONS = [
     "ordinal --probabilities1 0.1,0.2,0.4,0.2,0.1 --odds-ratio 2 --n 80 --method whitehead",
     "signed-rank --effect-d 0.5 --n 35",
     "signed-rank --positive-average 0.7 --n 40 --one-sided",
-    "proportion --proportion 0.9 --null 0.85 --margin -0.1 --non-inferiority --n 54",
-    "proportion --proportion 0.6 --null 0.6 --equivalence -0.1,0.1 --n 500 --exact",
-    "two-proportions --proportions 0.85,0.85 --margin -0.1 --non-inferiority --n 207",
-    "two-proportions --proportions 0.5,0.5 --equivalence -0.1,0.1 --margin-method wald --n 429",
 ]
 
 HEAD = """# The same question in other programs
@@ -107,6 +107,26 @@ their numbers stand behind the calls. G*Power and SAS are not run, so nothing he
 their calls follow their manuals, and stand only where we are sure of them.
 
 A size that R gives is not rounded up. Where a program's answer differs, the reason is said.
+"""
+
+TAIL = """
+## Other differences
+
+Some programs that are not asked above give other numbers. These were seen in the versions named.
+
+- MKpower 1.1, `power.ancova(n = c(10, 20, 30), ...)`: takes the groups as equal unless `group.ratio` is given too.
+  `ancova` takes the sizes as they are.
+- PowerTOST 1.5-6, `power.RatioF`, which tests a ratio of means without logarithms: errs by some 1e-5, as its integral
+  is taken at random points. kelpower has that test on the log scale only.
+- pwrss 1.2.0, `power.f.mixed.anova`, and WebPower, `wp.rmanova`: multiply the noncentrality of the effect between
+  subjects by epsilon. That effect has no sphericity to lack, and `repeated-measures` takes none there.
+- pwrss 1.2.0, tests of means with a margin: their margin is standardized and lies in the null distribution, which is
+  another hypothesis.
+- statpsych and TrialSize, sizes for equivalence: always give each of the two tests half of the type II error. That is
+  right in the middle of the limits for large samples only. `--equivalence` takes both tests together, exactly.
+- powertools, `anova2way.F` without an interaction: its error keeps the degrees of freedom that the interaction had.
+  `factorial` always has the interactions in its model.
+- R, `ptukey` and `qtukey`: err by up to 1e-10. The studentized range here errs by less than 1e-13.
 """
 
 
@@ -195,14 +215,15 @@ def main():
         sys.exit(__doc__)
     mode, program, page = sys.argv[1], sys.argv[2], Path(sys.argv[3])
     with_r = shutil.which("Rscript") is not None
-    text, problems, missing_pwr = sections(program, with_r)
+    answers, problems, missing_pwr = sections(program, with_r)
+    text = HEAD + answers + TAIL
     is_whole = with_r and not missing_pwr
     if mode == "write":
         if not is_whole:
             sys.exit("R with its package pwr is needed to write the page: tools/install_packages.sh peers")
-        page.write_text(HEAD + text)
+        page.write_text(text)
     else:
-        wanted, shown = HEAD + text, page.read_text()
+        wanted, shown = text, page.read_text()
         if not is_whole:
             wanted, shown = without_their_numbers(wanted), without_their_numbers(shown)
             print(f"SKIPPED: {'pwr is' if with_r else 'R is'} not installed, so its answers are not compared")
