@@ -51,7 +51,7 @@ typedef struct kelplan_options {
 /* A question with its route chosen, to be asked of many designs. */
 typedef struct kelplan_batch kelplan_batch;
 
-/* The release of the library: "0.1.0". Constant text. */
+/* The release of the library: "0.2.0". Constant text. */
 KELPLAN_EXPORT const char* kelplan_version(void);
 
 /*
