@@ -92,7 +92,14 @@ def copy_library(project, package, sources):
     write(package / "src" / LIBRARY / "include/arithmetic.h", ARITHMETIC)
     for name in sources:
         text = '#include "arithmetic.h"\n' + (project / name).read_text()
-        write(package / "src" / LIBRARY / name, text)
+        write(package / "src" / LIBRARY / name, with_version(project, text))
+
+
+def with_version(project, text):
+    """The release as a definition in the sources that say it, so that the others need no new compilation for it."""
+    if "KELPOWER_VERSION" not in text:
+        return text
+    return f'#define KELPOWER_VERSION "{version_of(project)}"\n{text}'
 
 
 def without_hidden_warnings(text):
@@ -109,7 +116,7 @@ def copy_others(package, include, sources):
 
 
 def write_makevars(project, package, sources):
-    defines = [f'-DKELPOWER_VERSION=\\"{version_of(project)}\\"', "-DFMT_HEADER_ONLY"]
+    defines = ["-DFMT_HEADER_ONLY"]
     defines += [f"-D{name}=" for name in ("KELPOWER_API", "KELPLAN_EXPORT", "KELCOMMON_API")]
     includes = [f"-I{LIBRARY}/{folder}" for folder in INCLUDE_FOLDERS] + [f"-I{OTHERS}"]
     own = [path.name for path in sorted((package / "src").glob("*.c*"))]
