@@ -2,11 +2,13 @@ import { open, type DirectKelpower } from "kelpower/direct";
 import { beforeAll, describe, expect, it } from "vitest";
 import { readDesign, writeDesign } from "../address";
 import type { Parameter, Test } from "../contract";
-import { type Design, emptyDesign, fieldsOf, groupsOf } from "./design";
+import type { Design } from "./design";
 import { inputsOf } from "./inputs";
 import { designOf, wordsOf } from "./said";
 import { formsOf, nearestForm } from "./forms";
 import { addGroup, removeGroup } from "./groups";
+import { emptyDesign, fieldsOf } from "./parts";
+import { groupsOf } from "./shape";
 import { nearestSought, questionsOf, soughtOf } from "./wishes";
 
 const kel: DirectKelpower = await open();

@@ -3,6 +3,7 @@
 import { texts } from "../texts";
 import { Entry, type FieldProps, Help, idsOf, Problem } from "./entry";
 import { ListField, SpreadField } from "./list_field";
+import { TableField } from "./table_field";
 import { capital } from "./words";
 
 function NumberField(props: FieldProps) {
@@ -61,7 +62,9 @@ function ChoiceField(props: FieldProps) {
         aria-describedby={ids.described}
         onChange={(event) => onChange([event.currentTarget.value])}
       >
-        {chosen === "" && <option value="">{texts.convert.choose}</option>}
+        {parameter.default === undefined && (
+          <option value="">{props.needed === false ? texts.form.asUsual : texts.convert.choose}</option>
+        )}
         {(parameter.choices ?? []).map((choice) => (
           <option key={choice} value={choice}>
             {capital(parameter.wordings?.[choice] ?? choice)}
@@ -75,9 +78,10 @@ function ChoiceField(props: FieldProps) {
 }
 
 export function Field(props: FieldProps & { count: number }) {
-  const { parameter } = props;
+  const { parameter, grid } = props;
   if (parameter.kind === "flag") return <FlagField {...props} />;
   if (parameter.kind === "choice") return <ChoiceField {...props} />;
+  if (grid && parameter.kind === "list") return <TableField {...props} grid={grid} />;
   if (parameter.spreads) return <SpreadField {...props} />;
   if (parameter.kind === "number" || (parameter.kind === "list" && !parameter.length))
     return <NumberField {...props} />;

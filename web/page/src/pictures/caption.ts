@@ -47,7 +47,7 @@ function inputsBehind(axis: string, inputs: Record<string, Value>): string[] {
 /** What a chart holds fixed, in pieces. */
 export function heldFixed(test: Test, chart: Chart, locale: string): string[] {
   const inputs = chart.curves[0]!.inputs;
-  const moving = new Set([...chart.axes.flatMap((axis) => inputsBehind(axis.name, inputs)), "groups", "solve"]);
+  const moving = new Set([...chart.axes.flatMap((axis) => inputsBehind(axis.name, inputs)), "solve"]);
   if (chart.varied) moving.add(chart.varied);
   if (chart.quantity !== "sample-size") for (const target of ["power", "half-width"]) moving.add(target);
   const pieces: string[] = [];
