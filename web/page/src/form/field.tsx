@@ -11,7 +11,7 @@ function NumberField(props: FieldProps) {
   const ids = idsOf(props);
   const isList = parameter.kind === "list";
   return (
-    <div class={`field ${error ? "wrong" : ""}`}>
+    <div class={`field ${error ? "wrong" : ""} ${isList ? "wide" : ""}`}>
       <label for={ids.id}>{capital(parameter.label)}</label>
       <Entry
         id={ids.id}
@@ -48,12 +48,20 @@ function FlagField(props: FieldProps) {
   );
 }
 
+/** A choice with longer words has the whole width. */
+const longestInColumn = 22;
+
 function ChoiceField(props: FieldProps) {
   const { parameter, entries, help, error, onChange } = props;
   const ids = idsOf(props);
   const chosen = entries[0] || String(parameter.default ?? "");
+  const choices = (parameter.choices ?? []).map((choice) => ({
+    choice,
+    label: capital(parameter.wordings?.[choice] ?? choice),
+  }));
+  const isWide = choices.some(({ label }) => label.length > longestInColumn);
   return (
-    <div class={`field ${error ? "wrong" : ""}`}>
+    <div class={`field ${error ? "wrong" : ""} ${isWide ? "wide" : ""}`}>
       <label for={ids.id}>{capital(parameter.label)}</label>
       <select
         id={ids.id}
@@ -65,9 +73,9 @@ function ChoiceField(props: FieldProps) {
         {parameter.default === undefined && (
           <option value="">{props.needed === false ? texts.form.asUsual : texts.convert.choose}</option>
         )}
-        {(parameter.choices ?? []).map((choice) => (
+        {choices.map(({ choice, label }) => (
           <option key={choice} value={choice}>
-            {capital(parameter.wordings?.[choice] ?? choice)}
+            {label}
           </option>
         ))}
       </select>

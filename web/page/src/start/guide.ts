@@ -96,7 +96,7 @@ const order: readonly Groups[] = ["one", "pairs", "two", "more"];
 /** The tests by what they measure, those of few groups first. */
 export function shelvesOf(tests: readonly Test[]): Shelf[] {
   const kinds: readonly Measure[] = ["number", "rank", "spread", "yesNo", "category", "relation"];
-  const place = (test: Test) => order.indexOf(groupsOfTest(test)[0] ?? "one");
+  const place = (test: Test) => order.indexOf(groupsOfTest(test).at(-1) ?? "one");
   return kinds
     .map((kind) => ({
       kind,

@@ -319,6 +319,10 @@ export const knownWords: readonly Words[] = [
     hint: "The ratio of two means is tested between limits of equivalence, such as 0.8 and 1.25.",
   },
   {
+    words: ["one variance", "single variance", "known variance", "variance of a process"],
+    tests: ["variance"],
+  },
+  {
     words: ["variance", "variances", "variability", "homogeneity of variance", "f test of variances"],
     tests: ["two-variances", "variance"],
   },
