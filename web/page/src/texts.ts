@@ -103,6 +103,7 @@ export const texts = {
     eachGroup: "group",
     row: "row",
     column: "column",
+    factors: (factors: readonly number[]) => `Factor${factors.length > 1 ? "s" : ""} ${factors.join(", ")}`,
     /** A level of each of some factors, by their numbers. */
     level: (factors: readonly number[], levels: readonly number[]) =>
       factors.map((factor, i) => `Factor ${factor}: ${levels[i]}`).join(", "),
@@ -250,6 +251,15 @@ export const places: Readonly<Record<string, "effect" | "size" | "study">> = {
   null: "effect",
   tested: "effect",
   "r-squared-reduced": "effect",
+  covariates: "effect",
+  "r-squared": "effect",
+  correlation: "effect",
+  epsilon: "effect",
+  "f-of": "effect",
+  pair: "effect",
+  group: "effect",
+  "all-comparisons": "effect",
+  parent: "effect",
   ratio: "size",
   ratios: "size",
   comparisons: "study",

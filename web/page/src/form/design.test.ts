@@ -1,5 +1,5 @@
 import { open, type DirectKelpower } from "kelpower/direct";
-import { beforeAll, describe, expect, it } from "vitest";
+import { beforeAll, beforeEach, describe, expect, it } from "vitest";
 import { readDesign, writeDesign } from "../address";
 import type { Parameter, Test } from "../contract";
 import type { Design } from "./design";
@@ -76,12 +76,15 @@ function textsFor(test: Test, parameter: Parameter, form: string): string[] {
 function filled(test: Test, wish: string, form: string): Design {
   let design: Design = { test: test.name, wish, form, texts: {} };
   for (const { parameter, needed } of fieldsOf(test, design)) {
-    // Some effects take groups that the core can do without.
-    if (needed || isCount(parameter))
+    // Some effects take groups and a correlation that the core can do without.
+    if (needed || isCount(parameter) || parameter.name === "correlation")
       design = { ...design, texts: { ...design.texts, [parameter.name]: textsFor(test, parameter, form) } };
   }
   return design;
 }
+
+// The core answers at once, and thousands of answers in a row would keep the runner waiting for a sign of life.
+beforeEach(() => new Promise((done) => setTimeout(done)));
 
 const wishesOf = (test: Test) => [...questionsOf(test), ...soughtOf(test).map(({ wish }) => wish)];
 

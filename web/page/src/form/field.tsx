@@ -11,7 +11,7 @@ function NumberField(props: FieldProps) {
   const ids = idsOf(props);
   const isList = parameter.kind === "list";
   return (
-    <div class={`field ${error ? "wrong" : ""} ${isList ? "wide" : ""}`}>
+    <div class={`field ${error ? "wrong" : ""} ${isList ? "across" : ""}`}>
       <label for={ids.id}>{capital(parameter.label)}</label>
       <Entry
         id={ids.id}
@@ -61,7 +61,7 @@ function ChoiceField(props: FieldProps) {
   }));
   const isWide = choices.some(({ label }) => label.length > longestInColumn);
   return (
-    <div class={`field ${error ? "wrong" : ""} ${isWide ? "wide" : ""}`}>
+    <div class={`field ${error ? "wrong" : ""} ${isWide ? "across" : ""}`}>
       <label for={ids.id}>{capital(parameter.label)}</label>
       <select
         id={ids.id}

@@ -63,7 +63,10 @@ function levelsOf(design: Design, { name }: Parameter): number[] {
 /** What the rows or the columns of a grid are. */
 export interface Side {
   count: number;
-  /** The name of each. */
+  /** What stands over all of them. */
+  title: string;
+  /** The place of each under the title, and its full name. */
+  places: readonly string[];
   names: readonly string[];
   /** What is added and removed, where it can be. */
   each?: string;
@@ -76,8 +79,22 @@ export interface Grid {
 }
 
 function side(count: number, each: string, least: number): Side {
-  const names = Array.from({ length: count }, (_, i) => `${capital(each)} ${i + 1}`);
-  return { count, names, each, least };
+  const title = capital(each);
+  const places = Array.from({ length: count }, (_, i) => String(i + 1));
+  return { count, title, places, names: places.map((place) => `${title} ${place}`), each, least };
+}
+
+/** The cells that have these levels of some factors. */
+function levelSide(factors: readonly number[], levels: readonly (readonly number[])[]): Side {
+  const count = levels.length;
+  const names = levels.map((each) => texts.form.level(factors, each));
+  return {
+    count,
+    title: texts.form.factors(factors),
+    places: levels.map((each) => each.join(", ")),
+    names,
+    least: count,
+  };
 }
 
 /** The input that says how large a table is in one direction. */
@@ -112,12 +129,9 @@ function cellsOf(levels: readonly number[]): Grid | undefined {
   for (const level of levels.slice(0, -1)) {
     rows = rows.flatMap((row) => Array.from({ length: level }, (_, i) => [...row, i + 1]));
   }
-  const columns = Array.from({ length: last }, (_, i) => texts.form.level([levels.length], [i + 1]));
+  const columns = Array.from({ length: last }, (_, i) => [i + 1]);
   const factors = levels.slice(0, -1).map((_, i) => i + 1);
-  return {
-    rows: { count: rows.length, names: rows.map((row) => texts.form.level(factors, row)), least: rows.length },
-    columns: { count: last, names: columns, least: last },
-  };
+  return { rows: levelSide(factors, rows), columns: levelSide([levels.length], columns) };
 }
 
 /** The rows and columns of a list that is written row by row. */

@@ -90,9 +90,15 @@ export function TableField(props: TableProps) {
           <thead>
             <tr>
               <td />
-              {columns.names.map((name) => (
-                <th key={name} scope="col">
-                  {name}
+              <th colSpan={columns.count} scope="colgroup">
+                {columns.title}
+              </th>
+            </tr>
+            <tr>
+              <th scope="col">{rows.title}</th>
+              {columns.places.map((place) => (
+                <th key={place} scope="col">
+                  {place}
                 </th>
               ))}
             </tr>
@@ -100,7 +106,7 @@ export function TableField(props: TableProps) {
           <tbody>
             {rows.names.map((row, i) => (
               <tr key={row}>
-                <th scope="row">{row}</th>
+                <th scope="row">{rows.places[i]}</th>
                 {columns.names.map((column, j) => {
                   const at = i * columns.count + j;
                   return (

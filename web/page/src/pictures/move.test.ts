@@ -57,7 +57,9 @@ describe("moving a design along the curve", () => {
     }
     expect(moves).toBeGreaterThan(200);
     // The ratio of sizes that are given divides a total into parts that are not whole.
-    expect([...fixed].sort()).toEqual(["two-means ratio", "two-proportions ratio"]);
+    // Fisher's z of two correlations changes with both of them.
+    const ratios = ["mann-whitney", "ordinal", "two-correlations", "two-means", "two-proportions", "two-variances"];
+    expect([...fixed].sort()).toEqual([...ratios.map((name) => `${name} ratio`), "two-correlations effect-q"].sort());
   }, 600_000);
 
   it("sets the target power for which the sizes at that place are found", async () => {
