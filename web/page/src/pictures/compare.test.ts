@@ -45,6 +45,25 @@ describe("inputs to compare", () => {
     expect(names("sd", inputs)).toEqual(["n", "one-sided", "method", "alpha"]);
     expect(names("sd2", inputs)).toEqual(["n", "one-sided", "method", "alpha"]);
   });
+  it("are no flags that a route cannot do without", () => {
+    const flags = [
+      { name: "exact", kind: "flag", label: "exact test" },
+      { name: "superiority", kind: "flag", label: "superiority" },
+    ];
+    const needs = [
+      ["sd", "n"],
+      ["sd", "n", "exact"],
+      ["sd", "n", "margin", "superiority"],
+    ];
+    const routed = {
+      ...test,
+      parameters: [...test.parameters, ...flags],
+      routes: needs.map((each) => ({ needs: each })),
+    };
+    const given = { exact: true, superiority: true };
+    const drawn = { axes: [{ name: "n", title: "n" }], curves: [{ inputs: given }] } as unknown as Chart;
+    expect(comparables(routed as unknown as Test, drawn, given).map(({ name }) => name)).toEqual(["exact"]);
+  });
   it("are none of what is found for the design", () => {
     const { n, ...given } = inputs;
     expect(n).toHaveLength(2);

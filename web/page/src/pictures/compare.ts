@@ -45,6 +45,14 @@ function numberOf(value: Value, parameter: Parameter | undefined): number | null
 /** What is asked, as against what it is asked of. */
 const questionWords = ["power", "half-width", "solve", "interval"];
 
+/** Whether a flag may be set or not: a route that needs it has another beside it that is the same without. */
+function isFree(test: Test, flag: string): boolean {
+  const routes = test.routes ?? [];
+  const isBeside = (needs: readonly string[], others: readonly string[]) =>
+    others.length === needs.length - 1 && others.every((name) => name !== flag && needs.includes(name));
+  return routes.every(({ needs }) => !needs.includes(flag) || routes.some((other) => isBeside(needs, other.needs)));
+}
+
 /** What the curves of a chart can differ in: inputs of the design, and none of what is found for it. */
 export function comparables(test: Test, chart: Chart, design: Record<string, Value>): Comparable[] {
   const inputs = chart.curves[0]!.inputs;
@@ -64,7 +72,7 @@ export function comparables(test: Test, chart: Chart, design: Record<string, Val
       const usual = usualValues(name, number, parameter?.limits);
       if (usual.length > 1) found.push({ name, label, isNumber: true, usual });
     } else if (typeof value === "boolean") {
-      found.push({ name, label, isNumber: false, usual: [false, true] });
+      if (isFree(test, name)) found.push({ name, label, isNumber: false, usual: [false, true] });
     } else if (typeof value === "string" && (parameter?.choices?.length ?? 0) > 1) {
       found.push({ name, label, isNumber: false, usual: parameter!.choices!.slice(0, 6) });
     }
