@@ -18,9 +18,10 @@ Parameter Side(Name name, std::string label, std::string meaning) {
 
 std::vector<Parameter> Parameters() {
   return {
-      ProportionsOnAnyScale("table", "table", "joint proportions expected, row by row, on any scale"),
+      ProportionsOnAnyScale("table", "table", "joint proportions expected, row by row, on any scale").Rows("rows"),
       ProportionsOnAnyScale("profiles", "row profiles",
-                            "proportions expected within each row, row by row, in place of {table}"),
+                            "proportions expected within each row, row by row, in place of {table}")
+          .Rows("rows"),
       Side("rows", "rows", "number of rows"),
       Side("columns", "columns", "number of columns, where no list tells it"),
       List("ratios", "allocation ratios", "shares of the rows in the study, on any scale; default equal")

@@ -34,7 +34,7 @@ std::vector<Parameter> ParametersOfRepeatedMeasures() {
           .Whole()
           .AtLeast(2)
           .AtMost(1000),
-      List("means", "means", "mean expected of each measurement, a row for each group"),
+      List("means", "means", "mean expected of each measurement, a row for each group").Columns("measurements"),
       List("coefficients", "contrast coefficients",
            "in place of all differences of the measurements: one for each, with a sum of 0")
           .As(Role::Layout),

@@ -9,7 +9,7 @@ namespace planner {
 void AddWordsOfTwoProportions(Test& test) {
   test.details = DetailsOfTwoProportions;
   test.whenNot =
-      "Not for two measurements on the same subjects: see paired-proportions; more than two groups are not tested.";
+      "Not for two measurements on the same subjects: see paired-proportions; more than two groups: see contingency.";
   test.phrases = {
       {"effect",
        {{"proportions", "proportions of {proportions}"},

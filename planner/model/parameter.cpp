@@ -14,6 +14,8 @@ Parameter Make(Name name, Kind kind, std::string label, std::string meaning) {
           .meaning = std::move(meaning),
           .unit = {},
           .limits = {},
+          .rows = {},
+          .columns = {},
           .choices = {},
           .aliases = {},
           .fallback = {}};
@@ -89,6 +91,18 @@ Parameter Parameter::Spreads() const {
 Parameter Parameter::As(Role of) const {
   Parameter copy = *this;
   copy.role = of;
+  return copy;
+}
+
+Parameter Parameter::Rows(Name count) const {
+  Parameter copy = *this;
+  copy.rows = count;
+  return copy;
+}
+
+Parameter Parameter::Columns(Name count) const {
+  Parameter copy = *this;
+  copy.columns = count;
   return copy;
 }
 

@@ -56,7 +56,9 @@ struct Parameter {
   Limits limits;
   std::size_t length = 0;  // of a List; 0 for any
   Role role = Role::Figure;
-  bool spreads = false;  // PerGroup: a single number stands for every group; List: it may be a single number
+  std::optional<Name> rows;     // of a List that is a table, row by row: the input that counts its rows
+  std::optional<Name> columns;  // the same of its columns
+  bool spreads = false;         // PerGroup: a single number stands for every group; List: it may be a single number
   std::vector<Choice> choices;
   std::vector<std::string> aliases;
   std::optional<Value> fallback;
@@ -69,6 +71,8 @@ struct Parameter {
   Parameter Length(std::size_t entries) const;
   Parameter Spreads() const;
   Parameter As(Role of) const;
+  Parameter Rows(Name count) const;
+  Parameter Columns(Name count) const;
   Parameter Alias(std::string other) const;
   Parameter Default(Value value) const;
   Parameter Unit(std::string text) const;

@@ -39,6 +39,18 @@ void WriteLimits(JsonWriter& json, const Limits& limits) {
   json.CloseObject();
 }
 
+/// Of a table, the inputs that say how large it is.
+void WriteTable(JsonWriter& json, const Parameter& parameter) {
+  if (parameter.rows) {
+    json.Key("rows");
+    json.Name(parameter.rows->Text());
+  }
+  if (parameter.columns) {
+    json.Key("columns");
+    json.Name(parameter.columns->Text());
+  }
+}
+
 void WriteChoices(JsonWriter& json, const Parameter& parameter) {
   if (parameter.choices.empty()) return;
   WriteList(json, "choices", parameter.choices, [&](const Choice& choice) { json.Text(choice.word); });
@@ -66,6 +78,7 @@ void WriteParameter(JsonWriter& json, const Parameter& parameter) {
   WriteLimits(json, parameter.limits);
   if (parameter.role == Role::Layout) json.Text("role", "layout");
   if (parameter.role == Role::Shape) json.Text("role", "shape");
+  WriteTable(json, parameter);
   if (parameter.length != 0) json.Number("length", static_cast<double>(parameter.length));
   if (parameter.kind == Kind::PerGroup) json.Flag("spreads", parameter.spreads);
   WriteChoices(json, parameter);

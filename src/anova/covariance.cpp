@@ -49,8 +49,7 @@ bool IsDesign(double numGroups, double covariates) {
 }  // namespace
 
 CovarianceTest::CovarianceTest(double numGroups, double totalSize, double covariates, double alpha)
-    : numGroups_(numGroups),
-      totalSize_(totalSize),
+    : totalSize_(totalSize),
       covariates_(covariates),
       test_(IsDesign(numGroups, covariates) ? numGroups - 1 : 0, totalSize - numGroups - covariates, alpha) {}
 

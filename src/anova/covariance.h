@@ -40,7 +40,6 @@ public:
   double MeanShare() const;
 
 private:
-  double numGroups_;
   double totalSize_;
   double covariates_;
   EffectTest test_;

@@ -65,6 +65,18 @@ TEST_P(Descriptions, HaveDefaultsThatAreAllowed) {
   }
 }
 
+TEST_P(Descriptions, CountTheRowsOrColumnsOfTables) {
+  for (const Parameter& parameter : GetParam().parameters) {
+    if (!parameter.rows && !parameter.columns) continue;
+    EXPECT_NE(parameter.rows.has_value(), parameter.columns.has_value()) << parameter.name.Text();
+    EXPECT_EQ(parameter.kind, Kind::List) << parameter.name.Text();
+    const Parameter* count = FindParameter(GetParam(), parameter.rows ? *parameter.rows : *parameter.columns);
+    ASSERT_NE(count, nullptr) << parameter.name.Text();
+    EXPECT_EQ(count->kind, Kind::Number) << parameter.name.Text();
+    EXPECT_TRUE(count->limits.whole) << parameter.name.Text();
+  }
+}
+
 TEST_P(Descriptions, HaveRoutesOverKnownParametersAndExports) {
   const std::set<std::string> exports = Exports();
   for (const Route& route : GetParam().routes) {

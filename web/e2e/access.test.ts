@@ -23,6 +23,21 @@ const STATES = [
     state: ANSWERED,
     ready: (page: Page) => byTestId(page, "pictures").locator("svg").first().waitFor(),
   },
+  {
+    name: "a table",
+    state: "#contingency?table=0.05,0.1,0.1,0.05,0.05,0.15,0.1,0.05,0.1,0.1,0.05,0.1&rows=3&power=0.8",
+    ready: (page: Page) => byTestId(page, "pictures").locator("svg").first().waitFor(),
+  },
+  {
+    name: "cells of three factors",
+    state: "#factorial?levels=2,2,3&term=1,2&means=&sd=4&power=0.8",
+    ready: (page: Page) => answered(page, "empty"),
+  },
+  {
+    name: "a margin",
+    state: "#two-means?mean-difference=0&sd=6&margin=-2&non-inferiority&power=0.9",
+    ready: (page: Page) => byTestId(page, "pictures").locator("svg").first().waitFor(),
+  },
   { name: "error", state: "#two-means?effect-d=0.5&power=80", ready: (page: Page) => answered(page, "error") },
 ];
 

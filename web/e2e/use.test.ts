@@ -47,6 +47,60 @@ describe("typing", () => {
     await close();
   });
 
+  it("takes a table row by row, typed and pasted", async () => {
+    const { page, faults, close } = await visit(browser, disk, "#contingency");
+    await byTestId(page, "form-table+rows").check();
+    const typed = ["0.05", "0.35", "0.1", "0.075", "0.25", "0.175"];
+    await byTestId(page, "add-column").click();
+    for (const [i, text] of typed.entries()) await byTestId(page, `input-table-${i + 1}`).fill(text);
+    const kel = await open();
+    const sentence = (table: number[], rows: number) => {
+      const reply = kel.solve({ test: "contingency", inputs: { table, rows, power: 0.8 } });
+      return "error" in reply ? "no answer" : reply.sentence;
+    };
+    await sentenceWith(page, sentence(typed.map(Number), 2));
+    await byTestId(page, "input-table-1").evaluate((input) => {
+      const data = new DataTransfer();
+      data.setData("text", "10\t20\n20\t20\n5\t25\n");
+      input.dispatchEvent(new ClipboardEvent("paste", { clipboardData: data, bubbles: true, cancelable: true }));
+    });
+    await sentenceWith(page, sentence([10, 20, 20, 20, 5, 25], 3));
+    await byTestId(page, "remove-row").click();
+    await sentenceWith(page, sentence([10, 20, 20, 20], 2));
+    await page.waitForFunction(() => location.hash.includes("table=10,20,20,20&rows=2"));
+    expect(faults).toEqual([]);
+    await close();
+  });
+
+  it("takes the means of the cells of crossed factors", async () => {
+    const { page, faults, close } = await visit(browser, disk, "#factorial?means=&levels=2,2&term=&sd=4&power=0.8");
+    await byTestId(page, "input-levels").fill("2,3");
+    await byTestId(page, "input-term").fill("1,2");
+    const means = [10, 12, 15, 10, 11, 12];
+    for (const [i, mean] of means.entries()) await byTestId(page, `input-means-${i + 1}`).fill(String(mean));
+    const kel = await open();
+    const inputs = { levels: [2, 3], term: [1, 2], means, sd: 4, power: 0.8 };
+    const reply = kel.solve({ test: "factorial", inputs });
+    await sentenceWith(page, "error" in reply ? "no answer" : reply.sentence);
+    expect(await byTestId(page, "input-means-4").getAttribute("aria-label")).toBe("Factor 1: 2, Factor 2: 1");
+    expect(faults).toEqual([]);
+    await close();
+  });
+
+  it("asks first what is to be shown, where a test knows margins", async () => {
+    const { page, faults, close } = await visit(browser, disk, "#two-means?mean-difference=0&sd=6&power=0.9");
+    await byTestId(page, "aim-non-inferiority").check();
+    await byTestId(page, "input-margin").fill("-2");
+    await sentenceWith(page, "non-inferiority");
+    await byTestId(page, "aim-equivalence").check();
+    await byTestId(page, "input-equivalence-1").fill("-2");
+    await byTestId(page, "input-equivalence-2").fill("2");
+    await sentenceWith(page, "equivalence");
+    await page.waitForFunction(() => !location.hash.includes("non-inferiority"));
+    expect(faults).toEqual([]);
+    await close();
+  });
+
   it("reads decimal commas", async () => {
     const { page, faults, close } = await visit(browser, disk, STUDY);
     await answered(page);

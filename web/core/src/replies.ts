@@ -353,6 +353,18 @@ export interface Parameter {
     "exclusive-maximum"?: number;
     whole?: true;
   };
+  /**
+   * of an input whose numbers do not vary along a chart: layout says what is tested, shape also decides how long lists are, and varies from row to row neither
+   */
+  role?: "layout" | "shape";
+  /**
+   * of a list that is a table, row by row: the input that says how many rows it has
+   */
+  rows?: string;
+  /**
+   * of a list that is a table, row by row: the input that says how many columns it has
+   */
+  columns?: string;
   length?: number;
   /**
    * one number stands for every group

@@ -3,9 +3,11 @@
 //   #two-means?effect-d=0.5&power=0.8;Larger%20effect:two-means?effect-d=0.8&power=0.8
 
 import type { Test, Value } from "./contract";
-import { type Design, entriesOf, fieldsOf } from "./form/design";
+import type { Design } from "./form/design";
 import { isLack, valueOf } from "./form/inputs";
+import { fieldsOf } from "./form/parts";
 import { designOf } from "./form/said";
+import { entriesOf } from "./form/shape";
 import { soughtBy } from "./form/wishes";
 
 export interface Named {

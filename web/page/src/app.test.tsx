@@ -96,6 +96,7 @@ describe("the page", () => {
     expect([...root.querySelectorAll("a.test")].map((link) => link.getAttribute("data-testid"))).toEqual([
       "test-paired-means",
       "test-paired-proportions",
+      "test-signed-rank",
     ]);
     await press("clear");
     await press("guide-measure-yesNo");

@@ -42,8 +42,11 @@ export function readNumber(typed: string, whole: boolean): Reading {
   return { text: typed.trim() };
 }
 
-/** The entries of a list that was typed or pasted as one text. A comma separates them unless it may be a decimal mark. */
-export function splitList(text: string): string[] {
+/**
+ * The entries of a list that was typed or pasted as one text. A comma separates them unless it may be a decimal mark,
+ * which whole numbers have none of.
+ */
+export function splitList(text: string, whole = false): string[] {
   const trimmed = text.trim();
   if (trimmed === "") return [];
   const separator = /[;\t\n|]/.test(trimmed)
@@ -52,7 +55,7 @@ export function splitList(text: string): string[] {
       ? /,\s+/
       : /\s/.test(trimmed)
         ? /\s+/
-        : (trimmed.match(/,/g) ?? []).length > 1 || /\..*,|,.*\./.test(trimmed)
+        : (whole && !thousands.test(trimmed)) || (trimmed.match(/,/g) ?? []).length > 1 || /\..*,|,.*\./.test(trimmed)
           ? ","
           : /$^/;
   return trimmed.split(separator).filter((entry) => entry !== "");

@@ -4,14 +4,14 @@ import { AnswerPanel } from "./answer/answer";
 import { Behind } from "./answer/behind";
 import { Status } from "./answer/status";
 import type { Test } from "./contract";
-import { emptyDesign } from "./form/design";
+import { emptyDesign } from "./form/parts";
 import { Fields } from "./form/fields";
-import { FormChoice, QuestionChoice } from "./form/question";
+import { AimChoice, FormChoice, QuestionChoice } from "./form/question";
 import { questionsOf } from "./form/wishes";
 import { useInputsInSight } from "./answer/peek";
 import { PicturesOf } from "./answer/pictures_of";
 import { design, show, tests } from "./state";
-import { wishFor } from "./start/guide";
+import { designFor } from "./start/guide";
 import { texts } from "./texts";
 
 /** What a test is not for, with links to the tests that are. */
@@ -24,7 +24,7 @@ function WhenNot({ text }: { text: string }) {
         if (!named) return part;
         const open = (event: Event) => {
           event.preventDefault();
-          show(emptyDesign(named, wishFor(named, "")), true);
+          show(designFor(named, ""), true);
         };
         return (
           <a key={part} href={`#${part}`} onClick={open}>
@@ -68,6 +68,7 @@ export function Planner({ test }: { test: Test }) {
       <div class="columns">
         <form class="inputs" ref={inputs} onSubmit={(event) => event.preventDefault()}>
           <QuestionChoice test={test} />
+          <AimChoice test={test} />
           <FormChoice test={test} />
           <Fields test={test} />
           <div class="buttons">

@@ -27,26 +27,37 @@ export const texts = {
       shown === all ? `All ${all} tests` : shown === 1 ? "One test fits" : `${shown} of ${all} tests fit`,
     none: (word: string) =>
       word
-        ? `Nothing here is known by “${word}”. There are tests of means, proportions, correlations and linear regression.`
+        ? `Nothing here is known by “${word}”. There are tests of means, ranks, variances, proportions, categories, correlations and linear regression.`
         : "No test fits all three answers. Take one of them back.",
     given: (words: string) => `Opens with ${words}`,
   },
 
   measures: {
     number: { label: "A number for each subject", help: "blood pressure, a score, a weight: their mean" },
+    rank: { label: "Ordered categories or ranks", help: "none, mild, severe; numbers that are far from normal" },
+    spread: { label: "How much numbers vary", help: "a standard deviation: of a device, of a process" },
     yesNo: { label: "Yes or no for each subject", help: "cured, relapsed, passed: a share" },
+    category: { label: "One of several categories", help: "blood groups, answers to choose from: their shares" },
     relation: { label: "How measurements go together", help: "a correlation, or predictors of an outcome" },
   },
   /** Headings of the list of tests. */
-  kinds: { number: "Means", yesNo: "Proportions", relation: "Correlations and regression" },
+  kinds: {
+    number: "Means",
+    rank: "Ranks and ordered categories",
+    spread: "Variances",
+    yesNo: "Proportions",
+    category: "Categories",
+    relation: "Correlations and regression",
+  },
   groups: {
     one: { label: "One group", help: "compared with a fixed value, or on its own" },
-    pairs: { label: "The same subjects twice", help: "before and after, left and right, matched pairs" },
+    pairs: { label: "The same subjects repeatedly", help: "before and after, several visits, matched pairs" },
     two: { label: "Two groups", help: "different subjects, such as treated and control" },
     more: { label: "Three groups or more", help: "different subjects" },
   },
   aims: {
     compare: { label: "Test an effect", help: "is there a difference or a relation?" },
+    margin: { label: "Test against a margin", help: "non-inferiority, equivalence, superiority by a margin" },
     estimate: { label: "Estimate a value", help: "how large is it, plus or minus?" },
   },
 
@@ -56,11 +67,15 @@ export const texts = {
     solveFor: "Number to find",
     forPower: "that gives a power",
     forHalfWidth: "that gives a half-width",
+    aim: "What do you want to show?",
     form: "How do you want to give the effect?",
     formOfEstimate: "What do you know?",
     example: "Fill in an example",
     reset: "Clear",
   },
+
+  /** What a test shows that is asked for nothing besides its effect. */
+  aimOfTest: { label: "an effect", help: "show that there is one, of whatever size" },
 
   questions: {
     "sample-size": { label: "How many do I need?", help: "sample size for a power" },
@@ -85,6 +100,18 @@ export const texts = {
     pair: ["First", "Second"],
     addGroup: "Add a group",
     removeGroup: "Remove the last group",
+    eachGroup: "group",
+    row: "row",
+    column: "column",
+    factors: (factors: readonly number[]) => `Factor${factors.length > 1 ? "s" : ""} ${factors.join(", ")}`,
+    /** A level of each of some factors, by their numbers. */
+    level: (factors: readonly number[], levels: readonly number[]) =>
+      factors.map((factor, i) => `Factor ${factor}: ${levels[i]}`).join(", "),
+    cell: (row: string, column: string) => `${row}, ${column}`,
+    add: (each: string) => `Add a ${each}`,
+    removeLast: (each: string) => `Remove the last ${each}`,
+    tableHelp: "a table can be pasted into the first cell",
+    asUsual: "As usual",
     optional: "optional",
     listHelp: "several numbers with spaces or semicolons between them",
     unclear: (text: string) =>
@@ -224,6 +251,15 @@ export const places: Readonly<Record<string, "effect" | "size" | "study">> = {
   null: "effect",
   tested: "effect",
   "r-squared-reduced": "effect",
+  covariates: "effect",
+  "r-squared": "effect",
+  correlation: "effect",
+  epsilon: "effect",
+  "f-of": "effect",
+  pair: "effect",
+  group: "effect",
+  "all-comparisons": "effect",
+  parent: "effect",
   ratio: "size",
   ratios: "size",
   comparisons: "study",
@@ -237,7 +273,7 @@ export const places: Readonly<Record<string, "effect" | "size" | "study">> = {
 };
 
 /** What a new design begins with besides the defaults of the core. */
-export const suggestions: Readonly<Record<string, string>> = { power: "0.8", groups: "3" };
+export const suggestions: Readonly<Record<string, string>> = { power: "0.8" };
 
 /** Help that the page adds to that of the core. */
 export const addedHelp: Readonly<Record<string, string>> = { power: texts.form.usual };

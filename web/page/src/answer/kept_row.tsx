@@ -2,7 +2,8 @@
 
 import type { Answer, Test } from "../contract";
 import { focusOn } from "../focus";
-import { type Design, fieldsOf } from "../form/design";
+import type { Design } from "../form/design";
+import { fieldsOf } from "../form/parts";
 import { inputsOf } from "../form/inputs";
 import { soughtBy } from "../form/wishes";
 import { capital, inLabels } from "../form/words";

@@ -3,7 +3,7 @@
 import type { ComponentChildren } from "preact";
 import type { Failure, Test } from "../contract";
 import { focusOn } from "../focus";
-import { fieldsOf } from "../form/design";
+import { fieldsOf } from "../form/parts";
 import { fillExample } from "../form/example";
 import { fieldOfError } from "../form/fields";
 import { inLabels } from "../form/words";

@@ -2,7 +2,8 @@
 // that was worked out into the field for it.
 
 import type { Answer, Test } from "../contract";
-import { type Design, fieldsOf } from "./design";
+import type { Design } from "./design";
+import { fieldsOf } from "./parts";
 
 const figures = 6;
 

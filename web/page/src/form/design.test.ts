@@ -1,12 +1,14 @@
 import { open, type DirectKelpower } from "kelpower/direct";
-import { beforeAll, describe, expect, it } from "vitest";
+import { beforeAll, beforeEach, describe, expect, it } from "vitest";
 import { readDesign, writeDesign } from "../address";
 import type { Parameter, Test } from "../contract";
-import { type Design, emptyDesign, fieldsOf, groupsOf } from "./design";
+import type { Design } from "./design";
 import { inputsOf } from "./inputs";
 import { designOf, wordsOf } from "./said";
 import { formsOf, nearestForm } from "./forms";
 import { addGroup, removeGroup } from "./groups";
+import { emptyDesign, fieldsOf } from "./parts";
+import { countOfTest, groupsOf, isCount } from "./shape";
 import { nearestSought, questionsOf, soughtOf } from "./wishes";
 
 const kel: DirectKelpower = await open();
@@ -53,27 +55,36 @@ const plausible: Record<string, string[]> = {
   "r-squared-reduced": ["0.1"],
 };
 
-function exampleTexts(test: Test, parameter: Parameter): string[] {
-  for (const { inputs } of test.examples) {
+/** The texts of an input in the example that has most of the form's inputs. */
+function exampleTexts(test: Test, parameter: Parameter, form: string): string[] {
+  const shared = (inputs: object) => form.split("+").filter((name) => name in inputs).length;
+  const nearest = [...test.examples].sort((a, b) => shared(b.inputs) - shared(a.inputs));
+  for (const { inputs } of nearest) {
     const words = wordsOf(inputs)[parameter.name];
     if (words && (parameter.length === undefined || words.length === parameter.length)) return words;
   }
   return [];
 }
 
-function textsFor(test: Test, parameter: Parameter): string[] {
-  if (parameter.name === "groups") return ["3"];
-  if (parameter.spreads) return [exampleTexts(test, parameter)[0] ?? "1"];
-  return plausible[parameter.name] ?? exampleTexts(test, parameter);
+function textsFor(test: Test, parameter: Parameter, form: string): string[] {
+  if (isCount(parameter) && parameter === countOfTest(test)) return ["3"];
+  if (parameter.spreads) return [exampleTexts(test, parameter, form)[0] ?? "1"];
+  if (parameter.name === "margin" && form.includes("ratio")) return ["0.8"];
+  return plausible[parameter.name] ?? exampleTexts(test, parameter, form);
 }
 
 function filled(test: Test, wish: string, form: string): Design {
   let design: Design = { test: test.name, wish, form, texts: {} };
   for (const { parameter, needed } of fieldsOf(test, design)) {
-    if (needed) design = { ...design, texts: { ...design.texts, [parameter.name]: textsFor(test, parameter) } };
+    // Some effects take groups and a correlation that the core can do without.
+    if (needed || isCount(parameter) || parameter.name === "correlation")
+      design = { ...design, texts: { ...design.texts, [parameter.name]: textsFor(test, parameter, form) } };
   }
   return design;
 }
+
+// The core answers at once, and thousands of answers in a row would keep the runner waiting for a sign of life.
+beforeEach(() => new Promise((done) => setTimeout(done)));
 
 const wishesOf = (test: Test) => [...questionsOf(test), ...soughtOf(test).map(({ wish }) => wish)];
 
@@ -92,8 +103,10 @@ describe("every form of every test", () => {
 
   it.each(allForms)("$test.name asks $wish by $form and is answered", ({ test, wish, form }) => {
     const answer = solve(test, filled(test, wish, form));
-    // A number that a design has no room for is an answer of the core, too.
-    if ("error" in answer) expect(answer.error).toMatchObject({ kind: "no-solution" });
+    // A number that a design has no room for is an answer of the core, too; and of pairs that share no variable the
+    // correlation of 1 and 3 is not compared, so that it is not to be found.
+    if (wish === "power:r13" && form.includes("r34")) expect(answer).toHaveProperty("error.code", "condition-fails");
+    else if ("error" in answer) expect(answer.error).toMatchObject({ kind: "no-solution" });
     else expect(answer.question).toBe(wish.split(":")[0]);
   });
 
@@ -120,7 +133,7 @@ describe("every form of every test", () => {
       const solvable = solve(test, design);
       for (const { parameter, needed } of fieldsOf(test, design)) {
         if (needed || parameter.name === "alpha") continue;
-        const texts = parameter.kind === "flag" ? ["yes"] : textsFor(test, parameter);
+        const texts = parameter.kind === "flag" ? ["yes"] : textsFor(test, parameter, form);
         const words = parameter.kind === "choice" ? [parameter.choices?.at(-1) ?? ""] : texts;
         const answer = solve(test, { ...design, texts: { ...design.texts, [parameter.name]: words } });
         if (!("error" in answer) || "error" in solvable) continue;
@@ -226,7 +239,8 @@ describe("a test that the page has never heard of", () => {
   });
 
   it("has its forms, fields and address", () => {
-    expect(formsOf(strange, "sample-size").map(({ key }) => key)).toEqual(["level-of-zinc+scatter", "effect-z"]);
+    const keys = formsOf(strange, "sample-size").map(({ key }) => key);
+    expect(keys.filter((key) => !/margin|equivalence/.test(key))).toEqual(["level-of-zinc+scatter", "effect-z"]);
     const design = designOf(strange, { "level-of-zinc": ["4"], scatter: ["2"], power: ["0.9"] });
     expect(inputsOf(strange, design).inputs).toEqual({ "level-of-zinc": 4, scatter: 2, power: 0.9 });
     expect(writeDesign(strange, design)).toBe("zinc?level-of-zinc=4&scatter=2&power=0.9");

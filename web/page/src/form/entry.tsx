@@ -1,6 +1,7 @@
 // What all fields have: an entry, its help, and what is wrong with it.
 
 import type { Parameter } from "../contract";
+import type { Grid } from "./shape";
 
 export interface FieldProps {
   parameter: Parameter;
@@ -11,7 +12,13 @@ export interface FieldProps {
   prefix: string;
   /** Names of the groups, where the entries are theirs. */
   groupNames?: readonly string[] | undefined;
+  /** Rows and columns, where the entries are those of a table. */
+  grid?: Grid | undefined;
+  /** Whether the input has to be given. */
+  needed?: boolean;
   onChange: (entries: readonly string[]) => void;
+  /** Makes a table larger or smaller; with entries, they become the whole table. */
+  onResize?: (rows: number, columns: number, entries?: readonly string[]) => void;
   onLeave?: () => void;
 }
 

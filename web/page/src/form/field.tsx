@@ -3,6 +3,7 @@
 import { texts } from "../texts";
 import { Entry, type FieldProps, Help, idsOf, Problem } from "./entry";
 import { ListField, SpreadField } from "./list_field";
+import { TableField } from "./table_field";
 import { capital } from "./words";
 
 function NumberField(props: FieldProps) {
@@ -10,7 +11,7 @@ function NumberField(props: FieldProps) {
   const ids = idsOf(props);
   const isList = parameter.kind === "list";
   return (
-    <div class={`field ${error ? "wrong" : ""}`}>
+    <div class={`field ${error ? "wrong" : ""} ${isList ? "across" : ""}`}>
       <label for={ids.id}>{capital(parameter.label)}</label>
       <Entry
         id={ids.id}
@@ -47,12 +48,20 @@ function FlagField(props: FieldProps) {
   );
 }
 
+/** A choice with longer words has the whole width. */
+const longestInColumn = 22;
+
 function ChoiceField(props: FieldProps) {
   const { parameter, entries, help, error, onChange } = props;
   const ids = idsOf(props);
   const chosen = entries[0] || String(parameter.default ?? "");
+  const choices = (parameter.choices ?? []).map((choice) => ({
+    choice,
+    label: capital(parameter.wordings?.[choice] ?? choice),
+  }));
+  const isWide = choices.some(({ label }) => label.length > longestInColumn);
   return (
-    <div class={`field ${error ? "wrong" : ""}`}>
+    <div class={`field ${error ? "wrong" : ""} ${isWide ? "across" : ""}`}>
       <label for={ids.id}>{capital(parameter.label)}</label>
       <select
         id={ids.id}
@@ -61,10 +70,12 @@ function ChoiceField(props: FieldProps) {
         aria-describedby={ids.described}
         onChange={(event) => onChange([event.currentTarget.value])}
       >
-        {chosen === "" && <option value="">{texts.convert.choose}</option>}
-        {(parameter.choices ?? []).map((choice) => (
+        {parameter.default === undefined && (
+          <option value="">{props.needed === false ? texts.form.asUsual : texts.convert.choose}</option>
+        )}
+        {choices.map(({ choice, label }) => (
           <option key={choice} value={choice}>
-            {capital(parameter.wordings?.[choice] ?? choice)}
+            {label}
           </option>
         ))}
       </select>
@@ -75,9 +86,10 @@ function ChoiceField(props: FieldProps) {
 }
 
 export function Field(props: FieldProps & { count: number }) {
-  const { parameter } = props;
+  const { parameter, grid } = props;
   if (parameter.kind === "flag") return <FlagField {...props} />;
   if (parameter.kind === "choice") return <ChoiceField {...props} />;
+  if (grid && parameter.kind === "list") return <TableField {...props} grid={grid} />;
   if (parameter.spreads) return <SpreadField {...props} />;
   if (parameter.kind === "number" || (parameter.kind === "list" && !parameter.length))
     return <NumberField {...props} />;

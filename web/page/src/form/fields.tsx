@@ -6,10 +6,12 @@ import type { Failure, Parameter, Test } from "../contract";
 import { outcome, tellNow } from "../live";
 import { design, setTexts, show } from "../state";
 import { texts } from "../texts";
-import { type Design, entriesOf, type Field as DesignField, fieldsOf, groupsOf, mostEntries } from "./design";
 import { Converter } from "./converter";
+import type { Design } from "./design";
 import { Field } from "./field";
-import { addGroup, removeGroup } from "./groups";
+import { addGroup, removeGroup, resized } from "./groups";
+import { type Field as DesignField, shownFields } from "./parts";
+import { entriesOf, gridOf, groupsOf, groupsTeller, mostEntries } from "./shape";
 import { helpOf, inLabels, presetOf } from "./words";
 
 type Errors = ReadonlyMap<string, string>;
@@ -70,26 +72,33 @@ interface PartProps {
 }
 
 /** The list by whose entries the groups are counted, behind which groups are added and removed. */
-function countingList(test: Test, fields: readonly DesignField[]): string | undefined {
+function countingList(test: Test, now: Design, fields: readonly DesignField[]): string | undefined {
+  if (groupsTeller(test, now)?.kind !== "per-group") return undefined;
   const lists = fields.filter(({ parameter }) => parameter.kind === "per-group" && !parameter.spreads);
   return test.groups === "k" ? lists.at(-1)?.parameter.name : undefined;
 }
 
 function FieldsOf({ test, now, fields, errors }: PartProps) {
-  const counting = countingList(test, fields);
+  const counting = countingList(test, now, fields);
   return (
     <div class="fields">
-      {fields.map(({ parameter }) => (
+      {fields.map(({ parameter, needed }) => (
         <Fragment key={parameter.name}>
           <Field
             parameter={parameter}
             entries={entriesOf(test, now, parameter)}
+            needed={needed}
             count={groupsOf(test, now)}
+            grid={gridOf(test, now, parameter)}
             groupNames={test["group-names"]}
             help={isGiven(now, parameter) ? helpOf(test, parameter) : withPreset(test, parameter)}
             error={errors.get(parameter.name)}
             prefix="in"
             onChange={(entries) => setTexts(parameter.name, entries)}
+            onResize={(rows, columns, entries) => {
+              const next = resized(test, now, parameter, rows, columns);
+              show(entries ? { ...next, texts: { ...next.texts, [parameter.name]: entries } } : next, false);
+            }}
             onLeave={tellNow}
           />
           {parameter.name === counting && <GroupButtons test={test} now={now} />}
@@ -138,7 +147,7 @@ export function Fields({ test }: { test: Test }) {
   const now = design.value;
   const estimates = useComputed(() => /half-width/.test(design.value?.wish ?? "")).value;
   if (!now) return null;
-  const fields = fieldsOf(test, now);
+  const fields = shownFields(test, now);
   const part = (name: DesignField["part"]) => fields.filter((field) => field.part === name);
   const props = { test, now, errors: errorsOf(test, fields) };
   const study = part("study");

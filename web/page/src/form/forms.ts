@@ -10,7 +10,6 @@ export interface Form {
   routes: Route[];
   /** Flags that choose among the routes. */
   flags: string[];
-  label: string;
 }
 
 function isFlag(test: Test, name: string): boolean {
@@ -23,12 +22,20 @@ function effectNeeds(test: Test, route: Route): string[] {
 
 /** Whether one form is another with its list written as single numbers: proportion1 and proportion2 for proportions. */
 function isSpelledOut(form: Form, of: Form): boolean {
-  const [list] = of.needs;
-  return (
-    of.needs.length === 1 &&
-    form.needs.length > 1 &&
-    form.needs.every((name, i) => `${name}` === `${list?.replace(/s$/, "")}${i + 1}`)
-  );
+  const own = form.needs.filter((name) => !of.needs.includes(name));
+  const [list, ...rest] = of.needs.filter((name) => !form.needs.includes(name));
+  return rest.length === 0 && own.length > 1 && own.every((name, i) => name === `${list?.replace(/s$/, "")}${i + 1}`);
+}
+
+/** Flags of which each route of a form needs one, and no more: what it is that the test shows. */
+export function eitherOf(form: Form): string[] {
+  const together = (one: string, other: string) =>
+    one !== other && form.routes.some(({ needs }) => needs.includes(one) && needs.includes(other));
+  for (const flag of form.flags) {
+    const group = form.flags.filter((other) => !together(flag, other));
+    if (form.routes.every(({ needs }) => group.filter((one) => needs.includes(one)).length === 1)) return group;
+  }
+  return [];
 }
 
 function joinWords(words: string[]): string {
@@ -36,10 +43,17 @@ function joinWords(words: string[]): string {
   return words.length < 2 ? last : `${words.slice(0, -1).join(", ")} and ${last}`;
 }
 
-function labelOf(test: Test, needs: string[], shared: string[], sought: string | undefined): string {
-  const telling = needs.filter((name) => !shared.includes(name) && name !== sought);
-  const labels = telling.map((name) => parameterOf(test, name)?.label ?? name);
-  return labels.length > 0 ? joinWords(labels) : joinWords(needs.map((name) => parameterOf(test, name)?.label ?? name));
+/** Whether a table among the needs tells an input by its size. */
+function isTold(test: Test, needs: readonly string[], name: string): boolean {
+  return parametersOf(test, needs).some(({ rows, columns }) => rows === name || columns === name);
+}
+
+/** What tells a form from others, in the labels of its inputs. */
+export function labelOfForm(test: Test, wish: Wish, form: Form, others: readonly Form[]): string {
+  const sought = soughtBy(test, wish)?.name;
+  const needs = form.needs.filter((name) => !isTold(test, form.needs, name));
+  const telling = needs.filter((name) => name !== sought && !others.every((other) => other.needs.includes(name)));
+  return joinWords(parametersOf(test, telling.length > 0 ? telling : needs).map(({ label }) => label));
 }
 
 /** All forms that answer a wish, in the order of the description. */
@@ -54,18 +68,14 @@ export function formsOf(test: Test, wish: Wish): Form[] {
       known.routes.push(route);
       known.flags.push(...flags.filter((name) => !known.flags.includes(name)));
     } else {
-      forms.push({ key, needs, routes: [route], flags: [...flags], label: "" });
+      forms.push({ key, needs, routes: [route], flags: [...flags] });
     }
   }
-  const shared = (forms[0]?.needs ?? []).filter((name) => forms.every((form) => form.needs.includes(name)));
-  const sought = soughtBy(test, wish)?.name;
-  for (const form of forms) form.label = labelOf(test, form.needs, shared, sought);
   return forms;
 }
 
 /** The forms to choose from: without those that only spell out another one, unless one is chosen. */
-export function offeredForms(test: Test, wish: Wish, chosen: string): Form[] {
-  const forms = formsOf(test, wish);
+export function offeredOf(forms: readonly Form[], chosen: string): Form[] {
   return forms.filter((form) => form.key === chosen || !forms.some((other) => isSpelledOut(form, other)));
 }
 
@@ -76,11 +86,15 @@ export function formOf(test: Test, wish: Wish, key: string): Form {
   return form;
 }
 
+/** The form that is most like one with these needs. */
+export function nearestOf(forms: readonly Form[], needs: readonly string[]): Form | undefined {
+  const score = (form: Form) => 2 * form.needs.filter((name) => needs.includes(name)).length - form.needs.length;
+  return forms.reduce<Form | undefined>((best, form) => (best && score(best) >= score(form) ? best : form), undefined);
+}
+
 /** The form for another wish that is most like the one chosen. */
 export function nearestForm(test: Test, wish: Wish, needs: readonly string[]): Form {
-  const forms = formsOf(test, wish);
-  const score = (form: Form) => 2 * form.needs.filter((name) => needs.includes(name)).length - form.needs.length;
-  return forms.reduce((best, form) => (score(form) > score(best) ? form : best), formOf(test, wish, ""));
+  return nearestOf(formsOf(test, wish), needs) ?? formOf(test, wish, "");
 }
 
 /** The route of a form that needs exactly the flags that are set. */

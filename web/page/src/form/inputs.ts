@@ -2,7 +2,9 @@
 
 import type { Parameter, Test, Value } from "../contract";
 import { readNumber, splitList } from "../numbers";
-import { type Design, entriesOf, fieldsOf } from "./design";
+import type { Design } from "./design";
+import { fieldsOf } from "./parts";
+import { entriesOf } from "./shape";
 import { soughtBy } from "./wishes";
 
 export type Lack = { parameter: Parameter; unclear?: string };
@@ -26,7 +28,10 @@ export function valueOf(parameter: Parameter, entries: readonly string[]): Value
     if ("unclear" in reading) return { parameter, unclear: reading.unclear };
     return "value" in reading ? reading.value : reading.text;
   }
-  const texts = parameter.kind === "list" && !parameter.length ? splitList(entries[0] ?? "") : entries;
+  const texts =
+    parameter.kind === "list" && entries.length === 1
+      ? splitList(entries[0] ?? "", parameter.limits.whole === true)
+      : entries;
   return readList(parameter, texts);
 }
 

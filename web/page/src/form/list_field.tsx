@@ -3,6 +3,7 @@
 import { splitList } from "../numbers";
 import { texts } from "../texts";
 import { Entry, type FieldProps, Help, idsOf, Problem } from "./entry";
+import { TableField } from "./table_field";
 import { capital } from "./words";
 
 /** The name of an entry of a list: of a group where it is one. */
@@ -12,12 +13,13 @@ function entryName({ parameter, entries, groupNames }: FieldProps, index: number
 }
 
 export function ListField(props: FieldProps) {
-  const { parameter, entries, help, error, onChange, onLeave } = props;
+  const { parameter, entries, grid, help, error, onChange, onLeave } = props;
+  if (grid && entries.length > 1) return <TableField {...props} grid={grid} />;
   const ids = idsOf(props);
   const single = entries.length === 1;
   const set = (index: number, text: string) => onChange(entries.map((entry, i) => (i === index ? text : entry)));
   const paste = (index: number, text: string) => {
-    const parts = splitList(text);
+    const parts = splitList(text, parameter.limits.whole === true);
     if (parts.length < 2 || single) return false;
     onChange(entries.map((entry, i) => parts[i - index] ?? entry));
     return true;

@@ -6,7 +6,8 @@ import { design, show } from "../state";
 import { texts } from "../texts";
 import { carriedOver } from "./carry";
 import { Choice } from "./choice";
-import { formOf, nearestForm, offeredForms } from "./forms";
+import { type Aim, aimOf, aimsOf, formsBeside, withAim } from "./aims";
+import { formOf, labelOfForm, nearestForm, offeredOf } from "./forms";
 import type { Design } from "./design";
 import { nearestSought, questionsOf, soughtBy, soughtOf, type Wish } from "./wishes";
 import { capital, labelOf } from "./words";
@@ -85,23 +86,51 @@ export function QuestionChoice({ test }: { test: Test }) {
   );
 }
 
+/** What is to be shown, where a test can show more than that there is an effect. */
+export function AimChoice({ test }: { test: Test }) {
+  const now = design.value;
+  if (!now) return null;
+  const aims = aimsOf(test, now.wish);
+  if (aims.length < 2) return null;
+  const chosen = aimOf(test, now);
+  return (
+    <fieldset class="form" data-testid="aim">
+      <legend>{texts.test.aim}</legend>
+      <div class="choices small">
+        {aims.map((aim: Aim) => (
+          <Choice
+            key={aim.key}
+            group="aim"
+            value={aim.key}
+            chosen={aim.key === chosen?.key}
+            label={capital(aim.label)}
+            help={aim.help}
+            onChoose={() => turnTo(test, withAim(test, now, aim))}
+          />
+        ))}
+      </div>
+    </fieldset>
+  );
+}
+
 export function FormChoice({ test }: { test: Test }) {
   const now = design.value;
   if (!now) return null;
-  const forms = offeredForms(test, now.wish, now.form);
+  const beside = formsBeside(test, now.wish, formOf(test, now.wish, now.form));
+  const forms = offeredOf(beside, now.form);
   if (forms.length < 2) return null;
   return (
     <fieldset class="form" data-testid="form">
       <legend>{now.wish.includes("half-width") ? texts.test.formOfEstimate : texts.test.form}</legend>
       <div class="choices small">
-        {forms.map(({ key, label }) => (
+        {forms.map((form) => (
           <Choice
-            key={key}
+            key={form.key}
             group="form"
-            value={key}
-            chosen={key === now.form}
-            label={capital(label)}
-            onChoose={() => turnTo(test, { ...now, form: key })}
+            value={form.key}
+            chosen={form.key === now.form}
+            label={capital(labelOfForm(test, now.wish, form, beside))}
+            onChoose={() => turnTo(test, { ...now, form: form.key })}
           />
         ))}
       </div>

@@ -1,9 +1,11 @@
 // A design from inputs in the words of the program: of an address, an example or a file.
 
 import type { Parameter, Test, Unknown } from "../contract";
-import { type Design, emptyDesign } from "./design";
+import type { Design } from "./design";
 import { type Form, formsOf } from "./forms";
-import { parameterOf, questionsOf, soughtBy, type Wish } from "./wishes";
+import { emptyDesign } from "./parts";
+import { countOfTest } from "./shape";
+import { questionsOf, soughtBy, type Wish } from "./wishes";
 
 /** Whether a number is all that a route lacks which takes whatever else is given. */
 function isLeftOut(test: Test, given: ReadonlySet<string>, { name, target }: Unknown): boolean {
@@ -64,8 +66,8 @@ export function designOf(test: Test, words: Readonly<Record<string, readonly str
   if (formsOf(test, wish).length === 0) wish = test.routes[0]?.question ?? "power";
   for (const name of ["solve", "interval"]) delete texts[name];
   const listed = test.parameters.find(({ kind, name }) => kind === "per-group" && (texts[name]?.length ?? 0) > 1);
-  if (listed && !given.has("groups") && parameterOf(test, "groups"))
-    texts["groups"] = [String(texts[listed.name]?.length)];
+  const count = countOfTest(test);
+  if (listed && count && !given.has(count.name)) texts[count.name] = [String(texts[listed.name]?.length)];
   for (const { name, default: standard } of test.parameters) {
     if (typeof standard === "number" && !given.has(name)) texts[name] = [String(standard)];
   }

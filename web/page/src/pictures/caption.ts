@@ -11,7 +11,7 @@ export function shownValue(parameter: Parameter | undefined, value: Value, local
   if (typeof value === "boolean") return value ? texts.yes : texts.no;
   if (typeof value === "string") return parameter?.wordings?.[value] ?? value;
   if (typeof value === "number") return shown(value, locale, 6);
-  const isOne = value.length > 1 && value.every((entry) => entry === value[0]);
+  const isOne = parameter?.kind !== "list" && value.length > 1 && value.every((entry) => entry === value[0]);
   if (isOne) return `${shown(value[0]!, locale, 6)} ${texts.each}`;
   const separator = locale.startsWith("en") ? ", " : "; ";
   return value.map((entry) => shown(entry, locale, 6)).join(separator);
@@ -33,7 +33,11 @@ export function piece(test: Test, name: string, value: Value, quantity: Quantity
     return texts.confidence(shown(100 * (1 - value), locale, 6));
   }
   if (typeof value === "boolean") return value && name !== "interval" ? (parameter?.label ?? name) : "";
-  if (parameter?.kind === "choice") return shownValue(parameter, value, locale);
+  if (parameter?.kind === "choice") {
+    // A single word, such as a name, does not tell what it is of.
+    const words = shownValue(parameter, value, locale);
+    return words.includes(" ") ? words : `${parameter.label} ${words}`;
+  }
   return `${parameter?.label ?? name} ${shownValue(parameter, value, locale)}`;
 }
 
@@ -47,7 +51,7 @@ function inputsBehind(axis: string, inputs: Record<string, Value>): string[] {
 /** What a chart holds fixed, in pieces. */
 export function heldFixed(test: Test, chart: Chart, locale: string): string[] {
   const inputs = chart.curves[0]!.inputs;
-  const moving = new Set([...chart.axes.flatMap((axis) => inputsBehind(axis.name, inputs)), "groups", "solve"]);
+  const moving = new Set([...chart.axes.flatMap((axis) => inputsBehind(axis.name, inputs)), "solve"]);
   if (chart.varied) moving.add(chart.varied);
   if (chart.quantity !== "sample-size") for (const target of ["power", "half-width"]) moving.add(target);
   const pieces: string[] = [];

@@ -1,7 +1,7 @@
 /** Inputs that can have several values at once, a curve for each. */
 
 import { isNumbers } from "./model";
-import type { Chart, Limits, Test, Value } from "./model";
+import type { Chart, Limits, Parameter, Test, Value } from "./model";
 import { labelOf, parameterOf } from "./caption";
 
 export interface Comparable {
@@ -35,13 +35,23 @@ export function usualValues(name: string, value: number, limits: Limits | undefi
   return [...new Set(around)].filter((one) => allows(limits, one)).sort((a, b) => a - b);
 }
 
-/** A number, or a list whose entries are all the same. */
-function numberOf(value: Value): number | null {
+/** A number, or one that a list has for each group. */
+function numberOf(value: Value, parameter: Parameter | undefined): number | null {
   if (typeof value === "number") return value;
-  return isNumbers(value) && value.length > 0 && value.every((entry) => entry === value[0]) ? value[0]! : null;
+  const isSame = isNumbers(value) && value.length > 0 && value.every((entry) => entry === value[0]);
+  return isSame && parameter?.spreads ? value[0]! : null;
 }
 
-const neverVaried = ["power", "half-width", "solve", "interval", "groups", "coefficients", "pair", "ratios"];
+/** What is asked, as against what it is asked of. */
+const questionWords = ["power", "half-width", "solve", "interval"];
+
+/** Whether a flag may be set or not: a route that needs it has another beside it that is the same without. */
+function isFree(test: Test, flag: string): boolean {
+  const routes = test.routes ?? [];
+  const isBeside = (needs: readonly string[], others: readonly string[]) =>
+    others.length === needs.length - 1 && others.every((name) => name !== flag && needs.includes(name));
+  return routes.every(({ needs }) => !needs.includes(flag) || routes.some((other) => isBeside(needs, other.needs)));
+}
 
 /** What the curves of a chart can differ in: inputs of the design, and none of what is found for it. */
 export function comparables(test: Test, chart: Chart, design: Record<string, Value>): Comparable[] {
@@ -53,15 +63,16 @@ export function comparables(test: Test, chart: Chart, design: Record<string, Val
       name === axis ||
       (name === "n" && /^(n\d*|total|ratio)$/.test(axis)) ||
       axis.replace(/\d+$/, "") === name.replace(/s$/, "");
-    if (isMoving || !(name in design) || neverVaried.includes(name)) continue;
+    if (isMoving || !(name in design) || questionWords.includes(name)) continue;
     const parameter = parameterOf(test, name);
+    if (parameter?.role) continue;
     const label = labelOf(test, name);
-    const number = numberOf(value);
+    const number = numberOf(value, parameter);
     if (number !== null) {
       const usual = usualValues(name, number, parameter?.limits);
       if (usual.length > 1) found.push({ name, label, isNumber: true, usual });
     } else if (typeof value === "boolean") {
-      found.push({ name, label, isNumber: false, usual: [false, true] });
+      if (isFree(test, name)) found.push({ name, label, isNumber: false, usual: [false, true] });
     } else if (typeof value === "string" && (parameter?.choices?.length ?? 0) > 1) {
       found.push({ name, label, isNumber: false, usual: parameter!.choices!.slice(0, 6) });
     }

@@ -7,6 +7,7 @@ import { isFailure, isNumbers } from "./model";
 import type { Answer, Chart, Core, Densities, Design, Inputs, Question, Table, Test, Value } from "./model";
 import { attainedLevel, attainsLevel, designSizes, sizesAround, teethOf } from "./saw";
 import type { Tooth } from "./saw";
+import { valuesOf } from "./series";
 import { texts } from "./texts";
 
 export type Kind = "curve" | "densities" | "contour" | "saw" | "interval";
@@ -192,6 +193,9 @@ export async function load(
   const inputs = kind === "curve" ? withAlternatives(design.inputs, choice.compare, resolved) : design.inputs;
   const how = showsSizes ? { y: "n" } : {};
   const chart = await drawn(core, { ...design, inputs, chart: axis.name, ...how, ...ends(range, axis.name) }, signal);
+  // Some tests have an answer at equal sizes only.
+  const places = valuesOf(chart, chart.curves[0]!).filter((value) => value !== null);
+  if (places.length < 2) throw new NotDrawn(texts.singlePlace(axis.title));
   const lined = { ...plain, axis: titled(axis, chart), up: null, chart };
   if (kind === "saw") return { ...lined, teeth: await loadSaw(core, design, chart, axis.limits.minimum ?? 1, signal) };
   return { ...lined, densities: offer.answer?.densities ?? null };

@@ -88,6 +88,8 @@ function proportionsAsGiven(first: number, second: number, inputs: Resolved): Ch
 
 function movedProportions(axis: string, value: number, inputs: Resolved): Changes | null {
   const list = inputs.proportions;
+  // Those of more than two categories are entries of a list like any other.
+  if (isNumbers(list) && list.length !== 2) return null;
   const first = isNumbers(list) ? list[0] : inputs.proportion1;
   const second = isNumbers(list) ? list[1] : secondProportion(inputs);
   if (typeof first !== "number" || typeof second !== "number" || "correlation" in inputs) return null;

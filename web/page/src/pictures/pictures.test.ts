@@ -170,6 +170,12 @@ describe("the curve", () => {
       [40, 40],
     ]);
   });
+  it("is not drawn where there is a single value", async () => {
+    const inputs = { means: [10, 12, 15], sd: 6, n: 20 };
+    await expect(show("tukey", inputs, { kind: "curve", axis: "n1" })).rejects.toThrow(
+      "a single value of the size of group 1",
+    );
+  });
   it("tells where an exact test keeps a power, for it may lose it again", async () => {
     const inputs = { null: 0.5, proportion: 0.7, power: 0.8, exact: true };
     const { picture, loaded } = await show("proportion", inputs);

@@ -25,6 +25,7 @@ export const texts = {
   svg: "SVG",
   png: "PNG",
   csv: "CSV",
+  singlePlace: (axis: string) => `there is an answer at a single value of the ${axis}.`,
   notDrawn: "This picture cannot be drawn: ",
   unknownReason: "the reason is not known.",
   oneDesign: "Several designs are asked for at once. A picture of one design appears when each input has one value.",

@@ -28,7 +28,8 @@ const namings: readonly Naming[] = [
   { words: "relative risk|risk ratio|rr", inputs: ["risk-ratio"] },
   { words: "correlation|rho|r", inputs: ["r"] },
   { words: "drop-?out|loss", inputs: ["dropout"], after: true },
-  { words: "margin of error|margin|half-width|precision|plus or minus", inputs: ["half-width"] },
+  { words: "margin of error|half-width|precision|plus or minus", inputs: ["half-width"] },
+  { words: "margin", inputs: ["margin", "half-width"] },
   { words: "predictors", inputs: ["predictors"], after: true },
   { words: "sample size|n", inputs: ["n"] },
 ];

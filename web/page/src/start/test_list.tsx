@@ -2,11 +2,10 @@
 
 import type { Test } from "../contract";
 import { writeDesign } from "../address";
-import { emptyDesign } from "../form/design";
 import { show } from "../state";
 import { texts } from "../texts";
 import { givenBy } from "./given";
-import { type Guide, wishFor } from "./guide";
+import { designFor, type Guide } from "./guide";
 
 interface ListProps {
   guide: Guide;
@@ -16,7 +15,7 @@ interface ListProps {
 
 function TestLink({ test, guide, typed }: ListProps & { test: Test }) {
   const given = givenBy(test, typed);
-  const design = given?.design ?? emptyDesign(test, wishFor(test, guide.aim));
+  const design = given?.design ?? designFor(test, guide.aim);
   return (
     <li>
       <a
