@@ -40,6 +40,7 @@ test: ## build and pass all tests: of the libraries and the program, then of Pyt
 	@$(MAKE) --no-print-directory -j $(JOBS) --output-sync=target test-python test-r test-web
 
 test-native: build ## the tests of the libraries and of the program
+	@sh tools/install_packages.sh shells
 	@ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
 
 r: ## make the source package of R in build/r
