@@ -42,3 +42,7 @@ foreach(library IN LISTS libraries)
   configure_file(cmake/${library}.pc.in ${library}.pc @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/${library}.pc DESTINATION ${pkgConfigDir} COMPONENT development)
 endforeach()
+
+if(KELPOWER_DEBIAN)
+  include(KelDebian)
+endif()

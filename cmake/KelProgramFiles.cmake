@@ -4,8 +4,13 @@ if(CMAKE_CROSSCOMPILING)
 endif()
 
 set(manPages ${PROJECT_BINARY_DIR}/man/man1)
+set(gzip "")
+if(KELPOWER_DEBIAN)
+  find_program(GZIP_EXECUTABLE gzip REQUIRED)
+  set(gzip ${GZIP_EXECUTABLE})
+endif()
 add_custom_command(OUTPUT ${PROJECT_BINARY_DIR}/man/written
-  COMMAND ${CMAKE_COMMAND} -D PROGRAM=$<TARGET_FILE:kelpower_cli> -D FOLDER=${manPages}
+  COMMAND ${CMAKE_COMMAND} -D PROGRAM=$<TARGET_FILE:kelpower_cli> -D FOLDER=${manPages} -D "GZIP=${gzip}"
           -P ${PROJECT_SOURCE_DIR}/cmake/WriteManPages.cmake
   COMMAND ${CMAKE_COMMAND} -E touch ${PROJECT_BINARY_DIR}/man/written
   DEPENDS kelpower_cli ${PROJECT_SOURCE_DIR}/cmake/WriteManPages.cmake
@@ -17,6 +22,10 @@ install(DIRECTORY ${manPages}/ DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONEN
 set(completions ${PROJECT_SOURCE_DIR}/cli/completions)
 install(FILES ${completions}/kelpower.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
         RENAME kelpower COMPONENT program)
-install(FILES ${completions}/_kelpower DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions COMPONENT program)
+set(zshFunctions ${CMAKE_INSTALL_DATADIR}/zsh/site-functions)
+if(KELPOWER_DEBIAN)
+  set(zshFunctions ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)  # where Debian's zsh looks
+endif()
+install(FILES ${completions}/_kelpower DESTINATION ${zshFunctions} COMPONENT program)
 install(FILES ${completions}/kelpower.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d
         COMPONENT program)

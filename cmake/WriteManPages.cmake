@@ -1,4 +1,4 @@
-# Writes the manual pages of a PROGRAM into FOLDER.
+# Writes the manual pages of a PROGRAM into FOLDER, with GZIP, the name of that program, as compressed files.
 file(REMOVE_RECURSE ${FOLDER})
 file(MAKE_DIRECTORY ${FOLDER})
 
@@ -16,3 +16,7 @@ foreach(command IN LISTS commands)
   execute_process(COMMAND ${PROGRAM} --man ${command} OUTPUT_FILE ${FOLDER}/kelpower-${command}.1
                   COMMAND_ERROR_IS_FATAL ANY)
 endforeach()
+if(GZIP)
+  file(GLOB pages ${FOLDER}/*.1)
+  execute_process(COMMAND ${GZIP} -9n ${pages} COMMAND_ERROR_IS_FATAL ANY)
+endif()
