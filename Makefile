@@ -17,7 +17,7 @@ space := $() $()
 WASM_MODULE := build/wasm/web/core
 PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
 
-.PHONY: compared help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python r test-r bench-scipy site lint-docs
+.PHONY: compared help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python r test-r bench-scipy site lint-docs deb test-deb
 
 run: configure-$(PRESET) ## build the program and plan a real study
 	@echo "Building the program; the first time this takes a minute or two ..."
@@ -40,6 +40,7 @@ test: ## build and pass all tests: of the libraries and the program, then of Pyt
 	@$(MAKE) --no-print-directory -j $(JOBS) --output-sync=target test-python test-r test-web
 
 test-native: build ## the tests of the libraries and of the program
+	@sh tools/install_packages.sh shells
 	@ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
 
 r: ## make the source package of R in build/r
@@ -194,6 +195,13 @@ fuzz-seeds: fuzz-build ## write the first inputs of the export target anew, from
 valgrind: build ## look for leaks and stray reads in the vector tests
 	@sh tools/install_packages.sh valgrind
 	@sh tools/valgrind.sh $(BUILD)
+
+deb: ## make the Debian packages in build/debian/packages
+	@sh tools/install_packages.sh build deb
+	@sh tools/packages/make_deb.sh build/debian $(JOBS)
+
+test-deb: deb ## check the Debian packages with lintian, and install, use and remove them in a bare system; needs root
+	@sh tools/packages/test_deb.sh build/debian
 
 install: build ## install under PREFIX
 	cmake --install $(BUILD) --prefix $(PREFIX)

@@ -359,9 +359,19 @@ Request RequestOf(const CLI::App& app) {
   return request;
 }
 
+/// What the build and the shells ask, or nothing.
+std::optional<Request> HiddenRequest(const std::vector<std::string>& words) {
+  if (words.empty() || (words.front() != "--man" && words.front() != "--complete")) return std::nullopt;
+  Request request;
+  request.command = words.front() == "--man" ? Command::ManPage : Command::Complete;
+  request.words.assign(words.begin() + 1, words.end());
+  return request;
+}
+
 }  // namespace
 
 Request ParseArguments(int argc, const char* const* argv) {
+  if (const auto hidden = HiddenRequest({argv + std::min(argc, 1), argv + argc})) return *hidden;
   CLI::App app;
   app.set_help_flag();
   app.allow_extras();

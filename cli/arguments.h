@@ -10,7 +10,21 @@
 #include "picture.h"
 #include "solve/designs.h"
 
-enum class Command { Overview, Version, List, TestHelp, RunHelp, EffectHelp, Solve, Table, Chart, Run, Effect };
+enum class Command {
+  Overview,
+  Version,
+  List,
+  TestHelp,
+  RunHelp,
+  EffectHelp,
+  Solve,
+  Table,
+  Chart,
+  Run,
+  Effect,
+  ManPage,   // of the command in `words`
+  Complete,  // what the last of `words` may become
+};
 
 enum class Format { Text, Json, Csv, Markdown, Ndjson };
 
@@ -28,7 +42,8 @@ struct Request {
   std::string output;      // the file of a chart or of Run; empty for the standard output
   std::string save;        // the file that keeps the design of Solve or Table; empty for none
   std::optional<Format> formatGiven = {};
-  unsigned jobs = 0;  // threads of Table and Run; 0 for one on each core
+  std::vector<std::string> words = {};  // of ManPage and Complete
+  unsigned jobs = 0;                    // threads of Table and Run; 0 for one on each core
 };
 
 /// Reads the command line; throws a UsageError or a planner::InputError when it is wrong.

@@ -7,54 +7,18 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/effects.h"
 #include "help_charts.h"
+#include "help_inputs.h"
 #include "help_usage.h"
-#include "words/expand.h"
-#include "words/numbers.h"
-#include "words/parse.h"
-#include "words/problem.h"
 
 using namespace planner;
 
 namespace {
 
-std::string Option(Name name) { return OptionOf(name.Text()); }
-
 /// "--n, --group-sizes LIST"
 std::string OptionText(const Parameter& parameter) {
-  std::string text = Option(parameter.name);
-  for (const std::string& alias : parameter.aliases) {
-    // What answers call a target is understood as an option too.
-    if (alias != fmt::format("target-{}", parameter.name.Text())) text += ", --" + alias;
-  }
-  switch (parameter.kind) {
-    case Kind::Flag: return text;
-    case Kind::Number: return text + " NUMBER";
-    case Kind::Choice: return text + " WORD";
-    case Kind::List:
-    case Kind::PerGroup: return text + " LIST";
-  }
-  return text;
-}
-
-/// The meaning with the inputs in braces as options.
-std::string Meaning(const Parameter& parameter) {
-  return Expand(parameter.meaning, OptionOf, [](std::string_view) { return false; });
-}
-
-/// What the option takes; of two groups a list has two entries.
-std::string AllowedIn(const Test& test, Parameter parameter) {
-  if (parameter.kind == Kind::PerGroup && !parameter.spreads && test.groups == 2) {
-    parameter.kind = Kind::List;
-    parameter.length = 2;
-  }
-  return Allowed(parameter);
-}
-
-std::string Details(const Test& test, const Parameter& parameter) {
-  if (parameter.kind == Kind::Flag) return "";
-  std::string text = "  (" + AllowedIn(test, parameter);
-  if (parameter.fallback) text += "; default " + Shown(*parameter.fallback);
-  return text + ")";
+  std::string text;
+  for (const std::string& name : NamesOf(parameter)) text += (text.empty() ? "" : ", ") + OptionOf(name);
+  return parameter.kind == Kind::Flag ? text : fmt::format("{} {}", text, KindOfValue(parameter));
 }
 
 /// How the remaining number of a design is asked for.
@@ -64,14 +28,6 @@ std::string UnknownSection(const Test& test, const Highlights& highlights) {
       "{}Effect that a design detects{}\n  Give --n and --power, and leave the effect out; --solve NAME asks for another "
       "number.\n\n",
       highlights.heading, highlights.end);
-}
-
-/// The commonest call with two powers to reach.
-std::string CallOfTable(const Test& test) {
-  std::string call = FirstExample(test).arguments;
-  const std::string option = " --power ";
-  const std::size_t value = call.find(option) + option.size();
-  return call.replace(value, call.find(' ', value) - value, "0.8,0.9");
 }
 
 std::string TableSection(const Test& test, const Highlights& highlights) {
@@ -93,10 +49,9 @@ std::string InputLines(const Test& test, std::size_t width, bool areOffered = fa
   std::string text;
   for (const Parameter& parameter : test.parameters) {
     if (Contains(OfferedInputs(), parameter.name) != areOffered) continue;
-    const std::string unit = parameter.unit.empty() ? "" : ", in " + parameter.unit;
-    text += fmt::format("  {:<{}}  {}{}\n", OptionText(parameter), width, Meaning(parameter), unit);
-    if (const std::string details = Details(test, parameter); !details.empty()) {
-      text += fmt::format("  {:<{}}{}\n", "", width, details);
+    text += fmt::format("  {:<{}}  {}\n", OptionText(parameter), width, MeaningOf(parameter));
+    if (const std::string range = RangeOf(test, parameter); !range.empty()) {
+      text += fmt::format("  {:<{}}  ({})\n", "", width, range);
     }
   }
   return text;

@@ -6,9 +6,11 @@
 
 #include "arguments.h"
 #include "chart.h"
+#include "complete.h"
 #include "computation.h"
 #include "designs.h"
 #include "help.h"
+#include "man_page.h"
 #include "solve/solve.h"
 #include "terminal.h"
 #include "usage_error.h"
@@ -82,6 +84,8 @@ std::string Answer(const Request& request, const planner::Highlights& highlights
       return Rendered(planner::ConvertEffect(request.values, request.isExplained), request.format, highlights);
     case Command::Solve: return Rendered(Solved(request), request.format, highlights);
     case Command::Chart: return ChartAnswer(request);
+    case Command::ManPage: return ManPageOf(request.words.empty() ? "" : request.words.front());
+    case Command::Complete: return Completions(request.words);
     case Command::Table:
     case Command::Run: break;  // printed as they are computed
   }

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Installs the Debian packages of the named groups that are missing: build, clang, arm64, wasm, windows, lint, fuzz,
-# valgrind, python, r, site, web, peers, before.
+# valgrind, python, r, site, web, peers, before, shells, deb.
 # Says what it does, and is silent and quick when nothing is missing.
 set -eu
 
@@ -23,6 +23,8 @@ for group in "$@"; do
     web) packages="$packages chromium-headless-shell fonts-dejavu-core"
          command -v npm >/dev/null || packages="$packages npm" ;; # Other builds of Node bring it along.
     peers) packages="$packages r-base-core r-cran-pwr" ;;
+    shells) packages="$packages mandoc groff zsh fish" ;;
+    deb) packages="$packages python3-dev python3-numpy dpkg-dev gzip lintian debootstrap man-db" ;;
     *) echo "$0: unknown group '$group'" >&2; exit 2 ;;
   esac
 done

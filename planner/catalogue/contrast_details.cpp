@@ -25,10 +25,7 @@ Details OfHalfWidth(const AskedContrast& contrast, const Inputs& in) {
   return details;
 }
 
-}  // namespace
-
-Details DetailsOf(const AskedContrast& asked, Question question, const Inputs& in) {
-  if (!IsAboutPower(question)) return OfHalfWidth(asked, in);
+Details OfPower(const AskedContrast& asked, const Inputs& in) {
   const double total = TotalSize(in);
   const anova::WeightedContrast contrast(asked.coefficients, in.List("n"));
   const double noncentrality = contrast.Noncentrality(asked.effectSize, contrast.RelativeSize(total));
@@ -56,6 +53,12 @@ Details DetailsOf(const AskedContrast& asked, Question question, const Inputs& i
       "Maxwell and Delaney (2004), Designing Experiments and Analyzing Data, 2nd ed., chapters 4 and 5, "
       "with the noncentral F distribution, or t for one side";
   return details;
+}
+
+}  // namespace
+
+Details DetailsOf(const AskedContrast& asked, Question question, const Inputs& in) {
+  return IsAboutPower(question) ? OfPower(asked, in) : OfHalfWidth(asked, in);
 }
 
 Details DetailsOfContrast(Question question, const Inputs& in) {

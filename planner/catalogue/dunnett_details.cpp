@@ -41,13 +41,7 @@ Details OfOne(const comparisons::DunnettTest& test, const Inputs& in) {
   return details;
 }
 
-}  // namespace
-
-Details DetailsOfDunnett(Question question, const Inputs& in) {
-  const comparisons::DunnettTest test(in.List("n"), IsAboutPower(question) && IsOneSided(in), in.Alpha());
-  if (!test.IsValid()) return {};
-  if (!IsAboutPower(question)) return OfHalfWidth(test, in);
-  if (in.Has("group")) return OfOne(test, in);
+Details OfSeveral(const comparisons::DunnettTest& test, const Inputs& in) {
   const bool isAll = in.Flag("all-comparisons");
   const auto which = isAll ? comparisons::Comparisons::All : comparisons::Comparisons::Any;
   Details details;
@@ -60,6 +54,15 @@ Details DetailsOfDunnett(Question question, const Inputs& in) {
       "errors from its expectation and u^2 chi-square over its {df} degrees of freedom";
   details.source = source;
   return details;
+}
+
+}  // namespace
+
+Details DetailsOfDunnett(Question question, const Inputs& in) {
+  const comparisons::DunnettTest test(in.List("n"), IsAboutPower(question) && IsOneSided(in), in.Alpha());
+  if (!test.IsValid()) return {};
+  if (!IsAboutPower(question)) return OfHalfWidth(test, in);
+  return in.Has("group") ? OfOne(test, in) : OfSeveral(test, in);
 }
 
 }  // namespace planner

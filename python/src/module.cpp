@@ -7,7 +7,8 @@
 namespace {
 
 int Fill(PyObject* module) {
-  if (PyArray_ImportNumPyAPI() < 0 || PyUFunc_ImportUFuncAPI() < 0) return -1;
+  // The names that the headers of NumPy 1 have too.
+  if (_import_array() < 0 || _import_umath() < 0) return -1;
   using namespace kelpython;
   return AddDoors(module) && AddBatches(module) && AddUfuncs(module) && AddLib(module) ? 0 : -1;
 }

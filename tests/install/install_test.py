@@ -1,6 +1,7 @@
 """Installs the build and uses it as a stranger would: from another folder, by CMake and by pkg-config, without Boost."""
 
 import argparse
+import json
 import os
 import shutil
 import subprocess
@@ -112,6 +113,19 @@ def check_program(options):
         sys.exit(f"{program} does not load the library kelcommon beside it:\n{loaded}")
 
 
+def check_program_files(options):
+    """Manual pages of the program and of each test, and completion for three shells."""
+    program = options.prefix / "bin" / options.program
+    tests = [test["name"] for test in json.loads(run(program, "list", "--format", "json"))]
+    pages = {f"{options.program}-{name}.1" for name in (*tests, "run", "effect")} | {f"{options.program}.1"}
+    share = options.prefix / "share"
+    expect("the list of manual pages", sorted(page.name for page in (share / "man/man1").iterdir()), sorted(pages))
+    for name in ("bash-completion/completions/kelpower", "zsh/site-functions/_kelpower",
+                 "fish/vendor_completions.d/kelpower.fish"):
+        if "--complete" not in (share / name).read_text():
+            sys.exit(f"{share / name} does not ask the program")
+
+
 def parse():
     parser = argparse.ArgumentParser(description=__doc__)
     for name in ("cmake", "pkg-config", "compiler", "flags", "libdir", "soversion", "release"):
@@ -132,6 +146,7 @@ def main():
         check_consumer(options, C_CONSUMER, (in_c_with_cmake, in_c_with_pkg_config))
     if options.program:
         check_program(options)
+        check_program_files(options)
     print("an installation can be used by CMake and by pkg-config")
 
 
