@@ -21,6 +21,11 @@ struct MeasuredStudy {
   std::vector<double> means;  // a row for each group
   std::vector<double> sizes;
   double sd;
+  /// Of three measurements: how far the correlations are from equal ones. The variances of the linear and the quadratic
+  /// contrast are 1 + `inequality` and 1 - `inequality` times those of equal correlations.
+  double inequality = 0;
+  /// Not empty where one contrast of the measurements is tested in place of all their differences.
+  std::vector<double> coefficients = {};
 
   int Groups() const { return static_cast<int>(sizes.size()); }
 };
@@ -49,11 +54,15 @@ public:
     const double common = study_.sd * std::sqrt(study_.correlation);
     const double own = study_.sd * std::sqrt(1 - study_.correlation);
     const auto times = static_cast<std::size_t>(study_.measurements);
+    std::vector<double> rest(times);
     for (std::size_t subject = 0; subject < groupOf_.size(); ++subject) {
       const double ofSubject = common * normal(engine);
+      for (double& each : rest) each = own * normal(engine);
+      if (study_.inequality > 0) MakeUnequal(rest);
       double sum = 0;
-      for (std::size_t i = subject * times; i < (subject + 1) * times; ++i) {
-        y_[i] = expected_[i] + ofSubject + own * normal(engine);
+      for (std::size_t time = 0; time < times; ++time) {
+        const std::size_t i = subject * times + time;
+        y_[i] = expected_[i] + ofSubject + rest[time];
         sum += y_[i];
       }
       subjectMeans_[subject] = sum / study_.measurements;
@@ -78,6 +87,15 @@ private:
     for (const Column& indicator : Indicators(groupOf_, study_.Groups())) model_.Add(indicator, true);
   }
 
+  /// Stretches the linear contrast of three numbers and shrinks the quadratic one.
+  void MakeUnequal(std::vector<double>& of) const {
+    const double linear = (of[2] - of[0]) / 2 * (std::sqrt(1 + study_.inequality) - 1);
+    const double quadratic = (of[0] - 2 * of[1] + of[2]) / 6 * (std::sqrt(1 - study_.inequality) - 1);
+    of[0] += quadratic - linear;
+    of[1] -= 2 * quadratic;
+    of[2] += quadratic + linear;
+  }
+
   /// Subjects, measurements and their interaction with the groups.
   void ModelWithinSubjects() {
     for (int of = 0; of < static_cast<int>(groupOf_.size()); ++of) {
@@ -96,8 +114,23 @@ private:
   }
 
   void AddTimes(int which, bool isTested) {
-    model_.Add(Coded([this, which](int, int, int time) { return Deviation(time, which, study_.measurements); }),
-               isTested);
+    const bool hasContrast = !study_.coefficients.empty();
+    model_.Add(Coded([&](int, int, int time) { return BesideContrast(time, which); }), isTested && !hasContrast);
+    if (hasContrast && which == study_.measurements - 2) {
+      model_.Add(Coded([&](int, int, int time) { return study_.coefficients[static_cast<std::size_t>(time)]; }), true);
+    }
+  }
+
+  /// A column of the measurements, less what it has of the contrast that is tested.
+  double BesideContrast(int time, int which) const {
+    double along = 0;
+    double squares = 0;
+    for (std::size_t i = 0; i < study_.coefficients.size(); ++i) {
+      along += study_.coefficients[i] * Deviation(static_cast<int>(i), which, study_.measurements);
+      squares += study_.coefficients[i] * study_.coefficients[i];
+    }
+    const double column = Deviation(time, which, study_.measurements);
+    return squares > 0 ? column - along / squares * study_.coefficients[static_cast<std::size_t>(time)] : column;
   }
 
   void AddInteractions(int which, bool isTested) {
