@@ -24,11 +24,13 @@ OrderedGroups GroupsOf(const Design& design) {
 SimulatedShare Rejected(const Design& design, int studies) {
   constexpr double critical = 1.959963984540054;
   const Numbers second = Moved(design.first, design.oddsRatio);
+  const Categories ofFirst(design.first);
+  const Categories ofSecond(second);
   const std::size_t categories = second.size();
   Numbers counts(2 * categories);
   return Simulate(studies, 1, [&](auto& engine) {
-    DrawCounts(engine, design.n1, design.first, counts);
-    DrawCounts(engine, design.n2, second, counts, categories);
+    ofFirst.Draw(engine, design.n1, counts);
+    ofSecond.Draw(engine, design.n2, counts, categories);
     return std::fabs(RankZ(counts)) > critical;
   });
 }

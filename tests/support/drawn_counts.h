@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <random>
 #include <vector>
 
@@ -20,18 +21,51 @@ inline Numbers Scaled(Numbers values) {
   return values;
 }
 
-/// Fills `counts[from]` and those after it, one for each proportion.
+/// Draws subjects one by one, each of which falls into one of several categories.
+class Categories {
+public:
+  explicit Categories(const Numbers& proportions) {
+    constexpr double states = 18446744073709551616.0;  // of an engine of 64 bits
+    double below = 0;
+    for (std::size_t i = 0; i + 1 < proportions.size(); ++i) {
+      below += proportions[i];
+      ends_.push_back(below < 1 ? static_cast<std::uint64_t>(below * states) : ~std::uint64_t{0});
+    }
+  }
+
+  /// Fills `counts[from]` and those after it, one for each category.
+  template <typename Engine>
+  void Draw(Engine& engine, long n, Numbers& counts, std::size_t from = 0) const {
+    static_assert(Engine::min() == 0 && Engine::max() == ~std::uint64_t{0}, "an engine of 64 bits");
+    std::vector<long> above(ends_.size());  // how many are in later categories; counted without a branch
+    for (long subject = 0; subject < n; ++subject) {
+      const std::uint64_t drawn = engine();
+      for (std::size_t i = 0; i < above.size(); ++i) above[i] += drawn >= ends_[i] ? 1 : 0;
+    }
+    for (std::size_t i = 0; i < above.size(); ++i) {
+      counts[from + i] = static_cast<double>(n - above[i]);
+      n = above[i];
+    }
+    counts[from + above.size()] = static_cast<double>(n);
+  }
+
+private:
+  std::vector<std::uint64_t> ends_;
+};
+
+/// Draws the counts of many subjects at once. For counts expected to be about ten use `Categories`: the binomial
+/// distribution of GNU's standard library is off there, by 1 % of a probability.
 template <typename Engine>
-void DrawCounts(Engine& engine, long n, const Numbers& proportions, Numbers& counts, std::size_t from = 0) {
+void DrawCounts(Engine& engine, long n, const Numbers& proportions, Numbers& counts) {
   double rest = 1;
   for (std::size_t i = 0; i + 1 < proportions.size(); ++i) {
     const double share = std::fmin(proportions[i] / rest, 1.0);
     const long count = std::binomial_distribution<long>(n, share)(engine);
-    counts[from + i] = static_cast<double>(count);
+    counts[i] = static_cast<double>(count);
     n -= count;
     rest -= proportions[i];
   }
-  counts[from + proportions.size() - 1] = static_cast<double>(n);
+  counts.back() = static_cast<double>(n);
 }
 
 struct TableStatistics {

@@ -11,6 +11,7 @@ public:
   CountStudy(std::vector<CountedGroup> groups, Decision rejects)
       : groups_(std::move(groups)), rejects_(std::move(rejects)) {
     for (const CountedGroup& group : groups_) {
+      categories_.emplace_back(group.proportions);
       counts_.insert(counts_.end(), group.proportions.size(), 0);
       logSizes_.push_back(std::lgamma(static_cast<double>(group.n) + 1));
       for (std::size_t i = 0; i + 1 < group.proportions.size(); ++i) cells_ *= static_cast<double>(group.n) + 1;
@@ -23,9 +24,9 @@ public:
 
   bool Draw(Engine& engine) {
     std::size_t from = 0;
-    for (const CountedGroup& group : groups_) {
-      DrawCounts(engine, group.n, group.proportions, counts_, from);
-      from += group.proportions.size();
+    for (std::size_t group = 0; group < groups_.size(); ++group) {
+      categories_[group].Draw(engine, groups_[group].n, counts_, from);
+      from += groups_[group].proportions.size();
     }
     return Decided();
   }
@@ -87,6 +88,7 @@ private:
   }
 
   std::vector<CountedGroup> groups_;
+  std::vector<Categories> categories_;
   Decision rejects_;
   Numbers counts_;
   Numbers logSizes_;
