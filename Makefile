@@ -17,7 +17,7 @@ space := $() $()
 WASM_MODULE := build/wasm/web/core
 PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
 
-.PHONY: compared help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python r test-r bench-scipy site lint-docs deb test-deb
+.PHONY: compared help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python r test-r bench-scipy site lint-docs deb test-deb validate
 
 run: configure-$(PRESET) ## build the program and plan a real study
 	@echo "Building the program; the first time this takes a minute or two ..."
@@ -144,6 +144,10 @@ bench-python: configure-$(PRESET) ## measure the Python package beside the libra
 bench-web: web configure-$(PRESET) ## measure the planner page beside the native library and write it into docs/performance.md
 	@cmake --build $(BUILD) -j $(JOBS) --target kelplan_timing
 	@python3 -B tools/peers/web.py $(BUILD) web build/web/kelpower.html docs/performance.md
+
+validate: configure-$(PRESET) ## hold the power of every test against a million drawn studies a design, and write docs/validation.md
+	@cmake --build $(BUILD) -j $(JOBS) --target kelplan kelpower_validation
+	@sh tools/validation/run.sh $(BUILD) $(JOBS) docs/validation.md
 
 worst: build ## search the distributions for their largest errors and keep the worst points among the references
 	@python3 -m venv build/venv && build/venv/bin/pip install --quiet python-flint

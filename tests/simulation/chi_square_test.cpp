@@ -1,12 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <random>
-#include <vector>
 
 #include "chi_square/effect.h"
 #include "chi_square/power.h"
 #include "kelcommon/distributions.h"
+#include "support/drawn_counts.h"
 #include "support/share_of_studies.h"
 
 // Frequencies drawn and tested. The power is that of large samples: they are large, and one small design is counted out,
@@ -14,61 +13,8 @@
 namespace kelpower::chi_square {
 namespace {
 
-using Numbers = std::vector<double>;
-
 constexpr int studies = 1000000;
 constexpr double alpha = 0.05;
-
-Numbers Scaled(Numbers values) {
-  double sum = 0;
-  for (const double value : values) sum += value;
-  for (double& value : values) value /= sum;
-  return values;
-}
-
-template <typename Engine>
-void DrawCounts(Engine& engine, long n, const Numbers& proportions, Numbers& counts) {
-  double rest = 1;
-  for (std::size_t i = 0; i + 1 < proportions.size(); ++i) {
-    const double share = std::fmin(proportions[i] / rest, 1.0);
-    const long count = std::binomial_distribution<long>(n, share)(engine);
-    counts[i] = static_cast<double>(count);
-    n -= count;
-    rest -= proportions[i];
-  }
-  counts.back() = static_cast<double>(n);
-}
-
-double PearsonOfFit(const Numbers& counts, const Numbers& null, double n) {
-  double sum = 0;
-  for (std::size_t i = 0; i < counts.size(); ++i) {
-    const double miss = counts[i] - n * null[i];
-    sum += miss * miss / (n * null[i]);
-  }
-  return sum;
-}
-
-struct TableStatistics {
-  double pearson = 0;
-  double likelihoodRatio = 0;
-};
-
-TableStatistics OfTable(const Numbers& counts, std::size_t rows, double n) {
-  const std::size_t columns = counts.size() / rows;
-  Numbers rowSums(rows);
-  Numbers columnSums(columns);
-  for (std::size_t k = 0; k < counts.size(); ++k) {
-    rowSums[k / columns] += counts[k];
-    columnSums[k % columns] += counts[k];
-  }
-  TableStatistics sum;
-  for (std::size_t k = 0; k < counts.size(); ++k) {
-    const double expected = rowSums[k / columns] * columnSums[k % columns] / n;
-    sum.pearson += (counts[k] - expected) * (counts[k] - expected) / expected;
-    sum.likelihoodRatio += 2 * counts[k] * std::log(counts[k] / expected);
-  }
-  return sum;
-}
 
 void ExpectFit(const Numbers& null, const Numbers& expected, long n, unsigned seed) {
   const Numbers p0 = Scaled(null);
@@ -78,7 +24,7 @@ void ExpectFit(const Numbers& null, const Numbers& expected, long n, unsigned se
   Numbers counts(null.size());
   const auto share = Simulate(studies, seed, [&](auto& engine) {
     DrawCounts(engine, n, p1, counts);
-    return PearsonOfFit(counts, p0, static_cast<double>(n)) > critical;
+    return OfFit(counts, p0, static_cast<double>(n)).pearson > critical;
   });
   const double power = *Power(df, alpha, *EffectOfFit(null, expected, Statistic::Pearson), static_cast<double>(n));
   EXPECT_LT(share.StandardErrorsFrom(power), kMostStandardErrors) << share.share << ", " << power;

@@ -6,63 +6,25 @@
 
 #include "comparisons/dunnett.h"
 #include "comparisons/tukey.h"
+#include "support/drawn_groups.h"
 #include "support/share_of_studies.h"
 
 // Studies analysed by the multiple comparisons that are planned for.
 namespace {
 
 using namespace kelpower::comparisons;
-using kelpower::DrawNormal;
+using kelpower::DrawnGroups;
+using kelpower::GroupStudy;
 using kelpower::kMostStandardErrors;
-using kelpower::Moments;
 using kelpower::Simulate;
 
 constexpr int studies = 1000000;
 
-struct Study {
-  std::vector<double> means;  // in standard deviations
-  std::vector<int> sizes;
-};
-
-double Total(const Study& study) {
-  double total = 0;
-  for (int size : study.sizes) total += size;
-  return total;
-}
-
-std::vector<double> SizesOf(const Study& study) { return {study.sizes.begin(), study.sizes.end()}; }
-
-/// The t statistic of two groups with the pooled variance of all.
-class Sample {
-public:
-  template <typename Engine>
-  Sample(const Study& study, Engine& engine) : study_(study) {
-    double squares = 0;
-    for (std::size_t i = 0; i < study.sizes.size(); ++i) {
-      const Moments moments = DrawNormal(engine, study.sizes[i], study.means[i], 1);
-      means_.push_back(moments.mean);
-      squares += study.sizes[i] > 1 ? moments.variance * (study.sizes[i] - 1) : 0;
-    }
-    sd_ = std::sqrt(squares / (Total(study) - static_cast<double>(means_.size())));
-  }
-
-  double T(std::size_t i, std::size_t j) const {
-    return (means_[i] - means_[j]) / (sd_ * std::sqrt(1.0 / study_.sizes[i] + 1.0 / study_.sizes[j]));
-  }
-
-  std::size_t Groups() const { return means_.size(); }
-
-private:
-  const Study& study_;
-  std::vector<double> means_;
-  double sd_;
-};
-
-void ExpectTukey(const Study& study, unsigned seed) {
+void ExpectTukey(const GroupStudy& study, unsigned seed) {
   const int groups = static_cast<int>(study.means.size());
-  const double critical = TukeyTest(groups, Total(study) - groups, 0.05).CriticalT();
+  const double critical = TukeyTest(groups, study.Total() - groups, 0.05).CriticalT();
   const auto found = Simulate(studies, seed, [&](auto& engine) {
-    const Sample sample(study, engine);
+    const DrawnGroups sample(study, engine);
     for (std::size_t i = 0; i < sample.Groups(); ++i)
       for (std::size_t j = 0; j < i; ++j)
         if (std::fabs(sample.T(i, j)) > critical) return true;
@@ -78,17 +40,17 @@ TEST(SimulatedComparisons, TukeyFindsAnyPair) {
 }
 
 TEST(SimulatedComparisons, TukeyKramerFindsAPair) {
-  const Study study{{0, 0.4, 1.1}, {3, 5, 8}};
+  const GroupStudy study{{0, 0.4, 1.1}, {3, 5, 8}};
   const double critical = TukeyTest(3, 13, 0.05).CriticalT();
   const auto found =
-      Simulate(studies, 4, [&](auto& engine) { return std::fabs(Sample(study, engine).T(0, 2)) > critical; });
+      Simulate(studies, 4, [&](auto& engine) { return std::fabs(DrawnGroups(study, engine).T(0, 2)) > critical; });
   EXPECT_LT(found.StandardErrorsFrom(*PowerOfPair(1.1, 3, 8, 3, 16, 0.05)), kMostStandardErrors);
 }
 
-void ExpectDunnett(const Study& study, bool isOneSided, Comparisons which, unsigned seed) {
-  const DunnettTest test(SizesOf(study), isOneSided, 0.05);
+void ExpectDunnett(const GroupStudy& study, bool isOneSided, Comparisons which, unsigned seed) {
+  const DunnettTest test(study.sizes, isOneSided, 0.05);
   const auto found = Simulate(studies, seed, [&](auto& engine) {
-    const Sample sample(study, engine);
+    const DrawnGroups sample(study, engine);
     std::size_t significant = 0;
     for (std::size_t i = 1; i < sample.Groups(); ++i) {
       const double t = sample.T(i, 0);

@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <random>
 
 #include "correlation/dependent_correlations.h"
 #include "correlation/exact_pearson.h"
 #include "correlation/two_correlations.h"
 #include "support/drawn_correlation.h"
+#include "support/drawn_variables.h"
 #include "support/share_of_studies.h"
 
 // Studies drawn from normal distributions, with the test done as its users do it. The exact test has the power stated;
@@ -74,46 +74,6 @@ TEST(TwoCorrelations, RejectAboutAsOftenAsTheirPowerSays) {
   }
 }
 
-/// A sample of four variables, by the triangular factor of their correlations.
-class Variables {
-public:
-  explicit Variables(const SeparatePairs& c) {
-    const double r[4][4] = {
-        {1, c.r12, c.r13, c.r14}, {c.r12, 1, c.r23, c.r24}, {c.r13, c.r23, 1, c.r34}, {c.r14, c.r24, c.r34, 1}};
-    for (int i = 0; i < 4; ++i) {
-      for (int j = 0; j <= i; ++j) {
-        double rest = r[i][j];
-        for (int k = 0; k < j; ++k) rest -= factor_[i][k] * factor_[j][k];
-        factor_[i][j] = i == j ? std::sqrt(rest) : rest / factor_[j][j];
-      }
-    }
-  }
-
-  template <typename Engine>
-  SeparatePairs Draw(Engine& engine, int size) const {
-    std::normal_distribution<double> normal;
-    double sums[4] = {};
-    double products[4][4] = {};
-    for (int row = 0; row < size; ++row) {
-      double independent[4];
-      double x[4];
-      for (int i = 0; i < 4; ++i) {
-        independent[i] = normal(engine);
-        x[i] = 0;
-        for (int k = 0; k <= i; ++k) x[i] += factor_[i][k] * independent[k];
-        sums[i] += x[i];
-        for (int j = 0; j <= i; ++j) products[i][j] += x[i] * x[j];
-      }
-    }
-    const auto moment = [&](int i, int j) { return products[i][j] - sums[i] * sums[j] / size; };
-    const auto r = [&](int j, int i) { return moment(i, j) / std::sqrt(moment(i, i) * moment(j, j)); };
-    return {r(0, 1), r(2, 3), r(0, 2), r(0, 3), r(1, 2), r(1, 3)};
-  }
-
-private:
-  double factor_[4][4] = {};
-};
-
 /// Steiger's statistic of a sample: its standard error is that at the average of the correlations compared.
 template <typename Correlations>
 double Statistic(const Correlations& sample, int size) {
@@ -131,7 +91,7 @@ TEST(DependentCorrelations, RejectAboutAsOftenAsTheirPowerSays) {
     const Variables variables(c);
     int inCommon = 0;
     const SimulatedShare pairs = Simulate(studies / 8, seed++, [&](auto& engine) {
-      const SeparatePairs sample = variables.Draw(engine, size);
+      const SeparatePairs sample = variables.Draw<SeparatePairs>(engine, size);
       inCommon += std::fabs(Statistic(FirstThree(sample), size)) > level.critical ? 1 : 0;
       return std::fabs(Statistic(sample, size)) > level.critical;
     });

@@ -6,11 +6,10 @@
 #include <vector>
 
 #include "kelcommon/kel_dist_fun.h"
-#include "proportions/constrained_proportions.h"
 #include "proportions/independent_margins.h"
 #include "proportions/one_sample_margins.h"
-#include "proportions/score_region.h"
 #include "proportions/unconditional_margins.h"
+#include "support/observed_margins.h"
 #include "support/share_of_studies.h"
 
 namespace kelpower::proportions {
@@ -48,26 +47,6 @@ TEST(SimulatedMargins, OfOneProportionByTheExactTest) {
   }
 }
 
-/// The largest probability of the tables whose statistic is at least `statistic`, over proportions with a difference.
-double ExactPValue(const GroupSizes& sizes, double difference, double statistic) {
-  constexpr double tie = 1e-9;
-  double largest = 0;
-  for (int i = 0; i <= 400; ++i) {
-    const double p1 = std::fmax(0, -difference) + (1 - std::fabs(difference)) * i / 400;
-    const double p2 = std::fmin(1, std::fmax(0, p1 + difference));
-    double sum = 0;
-    for (std::int64_t x2 = 0; x2 <= sizes.n2; ++x2) {
-      std::int64_t most = -1;
-      while (most < sizes.n1 && ScoreStatistic(sizes, difference, most + 1, x2) >= statistic - tie) ++most;
-      long error = 0;
-      const double mass = KelDistFun::PdfBin(double(x2), double(sizes.n2), p2, error);
-      sum += mass * Below(double(most), double(sizes.n1), std::fmin(1, p1));
-    }
-    largest = std::fmax(largest, sum);
-  }
-  return largest;
-}
-
 TEST(SimulatedMargins, OfTwoProportionsByTheExactTest) {
   const struct {
     GroupSizes sizes;
@@ -75,12 +54,9 @@ TEST(SimulatedMargins, OfTwoProportionsByTheExactTest) {
   } designs[] = {{{20, 25}, -0.2, 0.05, 0.7, 0.75}, {{30, 18}, 0.0, 0.025, 0.2, 0.6}, {{15, 15}, 0.1, 0.1, 0.3, 0.7}};
   unsigned seed = 11;
   for (const auto& [sizes, margin, alpha, p1, p2] : designs) {
-    // The p-value of every table once, then a million studies that look it up.
-    std::vector<bool> rejects;
-    for (std::int64_t x1 = 0; x1 <= sizes.n1; ++x1) {
-      for (std::int64_t x2 = 0; x2 <= sizes.n2; ++x2)
-        rejects.push_back(ExactPValue(sizes, margin, ScoreStatistic(sizes, margin, x1, x2)) <= alpha);
-    }
+    // The decision for every table once, then a million studies that look it up.
+    const std::vector<bool> rejects =
+        RejectedByExactTest(static_cast<int>(sizes.n1), static_cast<int>(sizes.n2), margin, alpha);
     std::binomial_distribution<int> first(static_cast<int>(sizes.n1), p1);
     std::binomial_distribution<int> second(static_cast<int>(sizes.n2), p2);
     const std::int64_t columns = sizes.n2 + 1;
@@ -95,24 +71,12 @@ TEST(SimulatedMargins, OfTwoProportionsByTheExactTest) {
   }
 }
 
-/// Which test is done with the observed proportions.
-struct ObservedTest {
-  MarginMethod method;
-  Contrast contrast;
-  double limit;
-
-  double Statistic(double n1, double n2, double x1, double x2) const {
-    const TwoProportions observed{x1 / n1, x2 / n2};
-    const TwoProportions at =
-        method == MarginMethod::Wald ? observed : ConstrainedProportions(contrast, limit, observed, n2 / n1);
-    const double weight = contrast == Contrast::RiskRatio ? limit * limit : 1;
-    double variance = weight * at.p1 * (1 - at.p1) / n1 + at.p2 * (1 - at.p2) / n2;
-    if (method == MarginMethod::MiettinenNurminen) variance *= (n1 + n2) / (n1 + n2 - 1);
-    const double distance =
-        contrast == Contrast::RiskRatio ? observed.p2 - limit * observed.p1 : observed.p2 - observed.p1 - limit;
-    return variance > 0 ? distance / std::sqrt(variance) : std::copysign(1e9, distance);
-  }
-};
+ObservedTest TestOf(MarginMethod method, Contrast contrast, double limit) {
+  const auto scale = contrast == Contrast::Difference ? MarginScale::Difference : MarginScale::Ratio;
+  if (method == MarginMethod::Wald) return {MarginVariance::Observed, scale, limit};
+  const bool isUnbiased = method == MarginMethod::MiettinenNurminen;
+  return {isUnbiased ? MarginVariance::RestrictedUnbiased : MarginVariance::Restricted, scale, limit};
+}
 
 /// The probability that the test rejects, over all tables.
 double Enumerated(const ObservedTest& test, double alpha, int n1, int n2, double p1, double p2) {
@@ -148,7 +112,7 @@ TEST(SimulatedMargins, OfLargeSamplesAreNearThoseOfTheTests) {
       for (const int n2 : {row.n, 2 * row.n}) {
         const bool isRatio = row.contrast == Contrast::RiskRatio;
         const double reach = 2.8 * std::sqrt(p * (1 - p) * (1.0 / row.n + 1.0 / n2));
-        const ObservedTest test{row.method, row.contrast, isRatio ? 1 - reach / p : -reach};
+        const ObservedTest test = TestOf(row.method, row.contrast, isRatio ? 1 - reach / p : -reach);
         if ((isRatio && test.limit < 0.1) || p - reach < 0.02) continue;
         const double power =
             *IndependentMarginTest({{row.contrast, test.limit, infinity}, row.method, 0.025}, row.n, n2).Power({p, p});
@@ -161,7 +125,8 @@ TEST(SimulatedMargins, OfLargeSamplesAreNearThoseOfTheTests) {
 }
 
 TEST(SimulatedMargins, OfLargeSamplesAreWhatDrawnStudiesGive) {
-  const ObservedTest test{MarginMethod::FarringtonManning, Contrast::Difference, -0.02};
+  const auto method = MarginMethod::FarringtonManning;
+  const ObservedTest test = TestOf(method, Contrast::Difference, -0.02);
   constexpr int n = 8000;
   constexpr double p = 0.6;
   const double critical = -KelDistFun::IdfStdNorm(0.025);
@@ -172,7 +137,7 @@ TEST(SimulatedMargins, OfLargeSamplesAreWhatDrawnStudiesGive) {
     return test.Statistic(n, n, x1, drawn(engine)) >= critical;
   });
   const ContrastLimits limits{Contrast::Difference, test.limit, infinity};
-  const double power = *IndependentMarginTest({limits, test.method, 0.025}, n, n).Power({p, p});
+  const double power = *IndependentMarginTest({limits, method, 0.025}, n, n).Power({p, p});
   EXPECT_LT(share.StandardErrorsFrom(power), kMostStandardErrors) << power << ' ' << share.share;
 }
 

@@ -17,14 +17,6 @@ struct Design {
   int n;
 };
 
-/// The sum of the ranks of the positive values by their distance from 0.
-double SumOfPositiveRanks(std::vector<double>& values) {
-  std::sort(values.begin(), values.end(), [](double a, double b) { return std::fabs(a) < std::fabs(b); });
-  double sum = 0;
-  for (std::size_t i = 0; i < values.size(); ++i) sum += values[i] > 0 ? static_cast<double>(i + 1) : 0;
-  return sum;
-}
-
 SimulatedShare Rejected(const Design& design, int studies) {
   const double lowest = LargestRejected(MassesOfSignedRanks(design.n), 0.025);
   const double all = design.n * (design.n + 1) / 2.0;

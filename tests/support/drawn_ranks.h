@@ -1,6 +1,7 @@
 #ifndef KELPOWER_TESTS_SUPPORT_DRAWN_RANKS_H
 #define KELPOWER_TESTS_SUPPORT_DRAWN_RANKS_H
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 #include <vector>
@@ -42,6 +43,14 @@ inline double CountOfLarger(const std::vector<double>& first, const std::vector<
     larger += count;
   }
   return larger;
+}
+
+/// The sum of the ranks of the positive values by their distance from 0. The values are sorted.
+inline double SumOfPositiveRanks(std::vector<double>& values) {
+  std::sort(values.begin(), values.end(), [](double a, double b) { return std::fabs(a) < std::fabs(b); });
+  double sum = 0;
+  for (std::size_t i = 0; i < values.size(); ++i) sum += values[i] > 0 ? static_cast<double>(i + 1) : 0;
+  return sum;
 }
 
 /// Probabilities of the values 0, 1, ... of a statistic.
