@@ -3,6 +3,7 @@
 //
 // Run: make fuzz. New inputs are kept in the build folder; the committed ones in fuzz/corpus/kelcommon are its seeds.
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -13,6 +14,7 @@
 #include <limits>
 #include <string>
 
+#include "kelcommon/chi_integral.h"
 #include "kelcommon/distributions.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
@@ -62,6 +64,27 @@ Answer Call(const Arguments& a) {
 template <double (*function)(double, double, double) noexcept>
 Answer Call(const Arguments& a) {
   return {function(a[0], a[1], a[2]), 0};
+}
+
+double Bounded(double x) {
+  constexpr double most = std::numeric_limits<double>::max();
+  return std::isnan(x) ? x : std::min(std::max(x, -most), most);
+}
+
+// The mean of Phi(slope u - shift) up to a limit. Its own contract in terms of the others: without degrees of freedom it
+// is NaN where they are missing, and below a limit of 0 the function is not asked, whatever it is.
+Answer CallMeanOverChi(const Arguments& a) {
+  constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+  const double slope = Bounded(a[0]);
+  const double shift = Bounded(a[1]);
+  kelcommon::ChiRange range;
+  range.limit = a[3];
+  const double mean =
+      kelcommon::MeanOverChi([=](double u) { return KelDistFun::CdfStdNorm(slope * u - shift); }, a[2], range);
+  const bool hasNan = std::isnan(slope) || std::isnan(shift) || std::isnan(a[2]) || std::isnan(a[3]);
+  if (a[2] <= 0) return {hasNan || !std::isnan(mean) ? nan : KelMV::Missing(), 0};
+  if (a[3] <= 0) return {hasNan || mean != 0 ? nan : mean, 0};
+  return {mean, 0};
 }
 
 const Function functions[] = {
@@ -120,9 +143,15 @@ const Function functions[] = {
     {"CdfPoisson", 2, 0, 1, Call<kelcommon::CdfPoisson>},
     {"SfPoisson", 2, 0, 1, Call<kelcommon::SfPoisson>},
     {"IdfPoisson", 2, -1, infinity, Call<kelcommon::IdfPoisson>},
+    {"CdfStudentizedRange", 3, 0, 1, Call<kelcommon::CdfStudentizedRange>},
+    {"SfStudentizedRange", 3, 0, 1, Call<kelcommon::SfStudentizedRange>},
+    {"IdfStudentizedRange", 3, 0, infinity, Call<kelcommon::IdfStudentizedRange>},
+    {"IsfStudentizedRange", 3, 0, infinity, Call<kelcommon::IsfStudentizedRange>},
+    {"CdfBivariateNormal", 3, 0, 1, Call<kelcommon::CdfBivariateNormal>},
     {"CdfCorrelation", 3, 0, 1, Call<kelcommon::CdfCorrelation>},
     {"SfCorrelation", 3, 0, 1, Call<kelcommon::SfCorrelation>},
     {"IdfCorrelation", 3, -1, 1, Call<kelcommon::IdfCorrelation>},
+    {"MeanOverChi", 4, 0, 1 + 1e-13, CallMeanOverChi},
 };
 constexpr std::size_t functionCount = sizeof functions / sizeof functions[0];
 

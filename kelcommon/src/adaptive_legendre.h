@@ -56,7 +56,7 @@ public:
   }
 
 private:
-  static constexpr double leastTolerance = 1e-18;
+  static constexpr double leastTolerance = 1e-22;
   static constexpr int mostHalvings = 48;
   static constexpr int mostEvaluated = 500;
   static constexpr int mostFirstPieces = 32;

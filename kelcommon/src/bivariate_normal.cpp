@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "adaptive_legendre.h"
+#include "double_double.h"
 #include "kelcommon/distributions.h"
 #include "kelcommon/kel_mv.h"
 #include "normal.h"
@@ -49,7 +50,7 @@ public:
     const double peak = Peak();
     const double square = Square(peak) + fallOfSquare;
     const double from = Edge(-std::sqrt(square), square, -1) - origin_;
-    const double to = std::min(a_, Edge(std::sqrt(square), square, 1)) - origin_;
+    const double to = std::min(FromOrigin(a_), Edge(std::sqrt(square), square, 1) - origin_);
     const auto Density = [this](double s) {
       const double z = origin_ + s;
       const double distance = origin_ == 0 ? b_ - rho_ * z : -rho_ * s;
@@ -75,6 +76,13 @@ public:
   }
 
 private:
+  // z - origin, of which a correlation near 1 or -1 magnifies every error.
+  double FromOrigin(double z) const {
+    if (origin_ == 0) return z;
+    const KelMath::DoubleDouble product = KelMath::ExactProduct(rho_, z);
+    return ((product.hi - b_) + product.lo) / rho_;
+  }
+
   // The least square of the standardized distance of a point with X = z in the quadrant's strip.
   double Square(double z) const {
     if (rho_ * z <= b_) return z * z;

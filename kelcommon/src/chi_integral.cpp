@@ -18,9 +18,15 @@ namespace {
 
 constexpr double twoPi = 6.283185307179586477;
 
-// Of the highest coefficients. Where the density is far wider than what changes in it, they fall less fast.
-constexpr double usualTolerance = 5e-8;
-constexpr double strictTolerance = 1e-9;
+// The density is left where it has fallen by e^-40; where the function is so much larger there than at the mode that a
+// part of the mean of that size would be missed, by e^-70.
+constexpr double usualFall = 40;
+constexpr double longFall = 70;
+constexpr double negligible = 1e-16;
+
+// Of the highest coefficients. Where the density is far wider than what changes in it, they fall less fast than
+// geometrically, and the error is more than their square.
+constexpr double tolerance = 1e-9;
 
 // Degrees of freedom beyond which nothing changes, and the squares of small numbers would vanish.
 constexpr double leastDf = 1e-290;
@@ -53,19 +59,22 @@ double NextBreak(const ChiRange& range, double from, double to) {
 }  // namespace
 
 double MeanOverChi(ChiFunction g, double df, const ChiRange& range) noexcept {
-  if (!(df > 0) || std::isnan(range.limit) || !(range.fall > 0)) return std::numeric_limits<double>::quiet_NaN();
+  if (!(df > 0) || std::isnan(range.limit)) return std::numeric_limits<double>::quiet_NaN();
   if (range.limit <= 0) return 0;
   const double b = std::min(std::max(df, leastDf), mostDf) / 2;
   const double limit = std::log(range.limit);
-  const double to = std::min(RightEnd(range.fall / b), limit);
-  // Below the mode the density falls from its value at the limit.
-  const double from = LeftEnd(range.fall / b + (to < 0 ? KelMath::Expm1MinusArgument(2 * to) : 0));
-
   const double height = 2 * std::sqrt(b / twoPi) * std::exp(-KelMath::LogScaledGamma(b));
   const auto Integrand = [=](double v) {
     return height * std::exp(-b * KelMath::Expm1MinusArgument(2 * v)) * g(std::exp(v));
   };
-  KelMath::AdaptiveLegendre pieces(Integrand, df < 1 ? strictTolerance : usualTolerance);
+  // Below the mode the density falls from its value at the limit.
+  const double fallenAtLimit = limit < 0 ? KelMath::Expm1MinusArgument(2 * limit) : 0;
+  const double least = negligible * std::fabs(Integrand(std::min(limit, 0.0)));
+  double from = LeftEnd(usualFall / b + fallenAtLimit);
+  if (!(std::fabs(Integrand(from)) <= least)) from = LeftEnd(longFall / b + fallenAtLimit);
+  double to = std::min(RightEnd(usualFall / b), limit);
+  if (to < limit && !(std::fabs(Integrand(to)) <= least)) to = std::min(RightEnd(longFall / b), limit);
+  KelMath::AdaptiveLegendre pieces(Integrand, tolerance);
   for (double left = from; left < to;) {
     const double right = pieces.Count() + 1 < pieces.MostCount() ? NextBreak(range, left, to) : to;
     pieces.Add(left, right);

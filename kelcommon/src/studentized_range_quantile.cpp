@@ -30,9 +30,11 @@ double IncreasingRoot(const Function& f, double x, double slope, double low, dou
     if (value == 0) return x;
     (value < 0 ? low : high) = x;
     if (i > 0 && std::isfinite(valueBefore)) slope = (value - valueBefore) / (x - before);
+    // Before the bracket, of which x is an end: a step below its last digit is not out of it.
     double next = x - value / slope;
-    if (!(next > low && next < high)) next = low + (high - low) / 2;
     if (std::fabs(next - x) <= lastStep) return next;
+    if (!(next > low && next < high)) next = low + (high - low) / 2;
+    if (next == low || next == high) return next;
     before = x;
     valueBefore = value;
     x = next;

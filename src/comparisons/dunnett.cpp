@@ -105,7 +105,6 @@ DunnettTest::DunnettTest(const std::vector<double>& sizes, bool isOneSided, doub
   reach_ = std::sqrt(2 * (39 - std::log(alpha)));
   for (int i = 0; i * step_ <= reach_; ++i)
     weights_.push_back(step_ * densityAtZero * std::exp(-i * step_ * i * step_ / 2));
-  range_.fall = 40 - std::log(alpha);
   critical_ = CriticalValue(alpha);
   isValid_ = !std::isnan(critical_);
 }
@@ -180,7 +179,7 @@ double DunnettTest::Given(Comparisons which, const Kinds& kinds, double critical
 // Over u, the estimated standard deviation in units of the true one.
 double DunnettTest::Mean(Comparisons which, const Kinds& kinds, double critical) const {
   const auto given = [&](double u) { return Given(which, kinds, critical * u); };
-  return std::min(kelcommon::MeanOverChi(given, df_, range_), 1.0);
+  return std::min(kelcommon::MeanOverChi(given, df_), 1.0);
 }
 
 double DunnettTest::CriticalValue(double alpha) const {
@@ -215,7 +214,7 @@ double DunnettTest::ImprovedCritical(const Kinds& kinds, double alpha, double cr
   const auto excess = [&](double shift) {
     remembered.StartAgain();
     const auto moved = [&](double u) { return DensityRatio(u, shift, df_) * remembered(u); };
-    return std::log(kelcommon::MeanOverChi(moved, df_, range_) / alpha);
+    return std::log(kelcommon::MeanOverChi(moved, df_) / alpha);
   };
 
   double before = 0;

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "frame/answer.h"
-#include "kelcommon/chi_integral.h"
 
 // Dunnett's test of several groups against one control, which holds the level of the family of comparisons (Dunnett
 // 1955, "A multiple comparison procedure for comparing several treatments with a control", JASA 50; 1964, "New tables
@@ -76,7 +75,6 @@ private:
   double step_ = 1;
   double reach_ = 0;
   std::vector<double> weights_;  ///< of the nodes y = i step_, i from 0 on
-  kelcommon::ChiRange range_;
   double critical_ = 0;
   bool isValid_ = false;
 };

@@ -79,7 +79,7 @@ TEST(MeanOverChi, AsksSmoothFunctionsFewTimes) {
   for (double df : {2.0, 4.0, 10.0, 22.0, 124.0, 6998.0, 1e6}) {
     int calls = 0;
     (Equivalence{df, .05, 0.05, -0.5, 0.5, 1 / std::sqrt(df + 2)}.Power(&calls));
-    EXPECT_LE(calls, df < 10 ? 360 : 180) << df;
+    EXPECT_LE(calls, (df < 10 ? 360 : 180) + 3) << df;  // of the pieces, and at the mode and both ends
   }
 }
 

@@ -9,6 +9,7 @@
 #include <limits>
 #include <sstream>
 
+#include "kelcommon/chi_integral.h"
 #include "kelcommon/distributions.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
@@ -82,6 +83,21 @@ Outcome Call(const Arguments& a) {
 template <double (*function)(double, double, double) noexcept>
 Outcome Call(const Arguments& a) {
   return {function(a[0], a[1], a[2]), 0};
+}
+
+double Bounded(double x) {
+  constexpr double most = std::numeric_limits<double>::max();
+  return std::isnan(x) ? x : std::min(std::max(x, -most), most);
+}
+
+// The mean of a normal probability, Phi(slope u - shift) up to a limit: Owen's Q function. Two infinities would have no
+// difference.
+Outcome CallMeanOverChi(const Arguments& a) {
+  const double slope = Bounded(a[0]);
+  const double shift = Bounded(a[1]);
+  kelcommon::ChiRange range;
+  range.limit = a[3];
+  return {kelcommon::MeanOverChi([=](double u) { return KelDistFun::CdfStdNorm(slope * u - shift); }, a[2], range), 0};
 }
 
 bool AreSame(double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); }
@@ -165,9 +181,15 @@ const std::vector<Function>& Functions() {
       {"CdfPoisson", 2, Kind::probability, Call<kelcommon::CdfPoisson>},
       {"SfPoisson", 2, Kind::probability, Call<kelcommon::SfPoisson>},
       {"IdfPoisson", 2, Kind::count, Call<kelcommon::IdfPoisson>},
+      {"CdfStudentizedRange", 3, Kind::probability, Call<kelcommon::CdfStudentizedRange>},
+      {"SfStudentizedRange", 3, Kind::probability, Call<kelcommon::SfStudentizedRange>},
+      {"IdfStudentizedRange", 3, Kind::quantile, Call<kelcommon::IdfStudentizedRange>},
+      {"IsfStudentizedRange", 3, Kind::quantile, Call<kelcommon::IsfStudentizedRange>},
+      {"CdfBivariateNormal", 3, Kind::probability, Call<kelcommon::CdfBivariateNormal>},
       {"CdfCorrelation", 3, Kind::probability, Call<kelcommon::CdfCorrelation>},
       {"SfCorrelation", 3, Kind::probability, Call<kelcommon::SfCorrelation>},
       {"IdfCorrelation", 3, Kind::quantile, Call<kelcommon::IdfCorrelation>},
+      {"MeanOverChi", 4, Kind::probability, CallMeanOverChi},
   };
   return functions;
 }

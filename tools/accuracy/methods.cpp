@@ -108,6 +108,25 @@ const Method methods[] = {
      "The lower probability of the gamma distribution of shape x + 1.", "As `CdfGamma`."},
     {"IdfPoisson", "Largest count whose lower probability is at most p: `IdfPoisson(p, mean)`.",
      "As `IdfBin`, by `CdfPoisson`.", "As `IdfBin`."},
+    {"CdfStudentizedRange", "Lower probability of the studentized range: `CdfStudentizedRange(q, k, df)`.",
+     "The mean of the probability of the range over the logarithm of the estimated standard deviation, and that of the "
+     "range an integral over the largest variable, both by the trapezoidal rule, which converges geometrically. From 0.1 "
+     "on one minus the upper probability. Below one degree of freedom the mean as `MeanOverChi`.",
+     "H. Harter, Tables of Range and Studentized Range, Annals of Mathematical Statistics 31 (1960); L. Tippett, On the "
+     "Extreme Individuals and the Range of Samples, Biometrika 17 (1925)."},
+    {"SfStudentizedRange", "Upper probability of the studentized range: `SfStudentizedRange(q, k, df)`.",
+     "As `CdfStudentizedRange`, by itself up to 0.9: no terms cancel.", "As `CdfStudentizedRange`."},
+    {"IdfStudentizedRange", "Quantile of the studentized range: `IdfStudentizedRange(p, k, df)`.",
+     "The secant method for the logarithm of the smaller tail: as a function of the logarithm of q for the lower one, of "
+     "the logarithm of the tail of a single pair's t test for the upper one. Both are almost straight lines.",
+     "As `CdfStudentizedRange`. The start is Bonferroni's inequality."},
+    {"IsfStudentizedRange", "Quantile of the studentized range from above: `IsfStudentizedRange(p, k, df)`.",
+     "As `IdfStudentizedRange`.", "As `IdfStudentizedRange`."},
+    {"CdfBivariateNormal", "Lower probability of the bivariate normal distribution: `CdfBivariateNormal(a, b, rho)`.",
+     "The integral of the density of one variable times the conditional probability of the other, by pieces that adapt. "
+     "Nothing cancels. Positions are counted from where the conditional mean is b, to the last digit, so that "
+     "correlations near 1 and -1 lose none.",
+     "D. Owen, Tables for Computing Bivariate Normal Probabilities, Annals of Mathematical Statistics 27 (1956)."},
     {"CdfCorrelation", "Lower probability of a sample correlation: `CdfCorrelation(r, n, rho)`.",
      "Fisher's integral for the density of r, with the order of the integrals exchanged: the one over r is an incomplete "
      "beta function, and the other one is done by the trapezoidal rule, in a variable in which it converges "
@@ -122,6 +141,12 @@ const Method methods[] = {
      "correlation from the quantile of t.",
      "As `CdfCorrelation`; start: R. Fisher, On the Probable Error of a Coefficient of Correlation Deduced from a Small "
      "Sample, Metron 1 (1921)."},
+    {"MeanOverChi",
+     "The mean of a function of u, the square root of chi-square over its degrees of freedom, below a limit. Measured for "
+     "Phi(slope u - shift), which makes it Owen's Q function: slope, shift, degrees of freedom, limit.",
+     "The integral over the logarithm of u by the rule of Gauss and Legendre on pieces, each halved while the highest "
+     "coefficients of its expansion in Legendre polynomials are not small.",
+     "D. Owen, A Special Case of a Bivariate Non-central t-distribution, Biometrika 52 (1965)."},
 };
 
 }  // namespace

@@ -29,6 +29,10 @@ class Finding:
 
 OUTSIDE = Finding(-1)
 
+# For the probabilities of distributions.h the quantile that finds the place.
+QUANTILES = {"Cdf" + name: "Idf" + name for name in ("Gamma", "ChiSquare", "StudentizedRange", "Correlation")}
+QUANTILES.update({name.replace("Cdf", "Sf"): quantile for name, quantile in QUANTILES.items()})
+
 
 def bisect(is_low, low, high):
     for _ in range(50):
@@ -47,6 +51,12 @@ def invert(functions, name, p, rest):
         return math.exp(bisect(lambda v: call(math.exp(v), *rest) < p, -700, 700))
     if name == "NonCentralCdfT":
         return math.sinh(bisect(lambda v: call(math.sinh(v), *rest) < p, -300, 300))
+    if name in QUANTILES:
+        return functions[QUANTILES[name]].call(p, *rest)
+    if name in ("NonCentralCdfChiSquare", "NonCentralSfChiSquare"):
+        return math.exp(bisect(lambda v: functions["NonCentralCdfChiSquare"].call(math.exp(v), *rest) < p, -700, 700))
+    if name in ("PdfPoisson", "CdfPoisson", "SfPoisson"):
+        return math.floor(functions["IdfGamma"].call(p, rest[0] + 1))
     if name == "CdfBeta":
         return functions["IdfBeta"].call(p, *rest)
     if name in ("CdfBin", "PdfBin"):
@@ -74,6 +84,10 @@ def to_arguments(functions, region, point, whole):
         return (0.5 + first, *rest)
     if axis == "tail":
         return wrong_side(functions, first, *rest)
+    if "distance" in region.ranges:
+        return near_line(first, *rest)
+    if axis == "p" and region.function == "NonCentralityChiSquare":
+        return above_central(functions, first, *rest)
     if axis == "p":
         return (float(invert(functions, region.function, first, rest)), *rest)
     return (first, *rest)
@@ -85,6 +99,16 @@ def wrong_side(functions, tail, df, delta):
     x = invert(functions, "NonCentralCdfT", LEAST * (most / LEAST) ** (1 + math.log(2 * tail) / -math.log(2 * LEAST)),
                (df, abs(delta)))
     return (x if delta > 0 else -x, df, delta)
+
+
+def near_line(a, distance, rho):
+    """The bivariate normal distribution about where the conditional mean of Y is b."""
+    return (a, rho * a + distance * math.sqrt((1 - rho) * (1 + rho)), rho)
+
+
+def above_central(functions, p, level, df):
+    """A power above the level of a chi-square test, at its critical value."""
+    return (level + (1 - level) * p, functions["IsfChiSquare"].call(level, df), df)
 
 
 def score(function, region, got, reference, relative_bound=None):

@@ -15,7 +15,7 @@ FAR = 1e-290
 class Range:
     low: float
     high: float
-    scale: str = "log"  # log, linear, both tails, signed log
+    scale: str = "log"  # log, linear, both tails, signed log, near 1: the distance of its absolute value from 1
     may_be_whole: bool = True
 
     def at(self, u):
@@ -23,6 +23,9 @@ class Range:
             return self.low + (self.high - self.low) * u
         if self.scale == "both tails":
             return self.tails(u)
+        if self.scale == "near 1":
+            u, sign = (2 * u, -1.0) if u < 0.5 else (2 * u - 1, 1.0)
+            return sign * (1 - self.low * (self.high / self.low) ** u)
         if self.scale == "signed log":
             u, sign = (2 * u, -1.0) if u < 0.5 else (2 * u - 1, 1.0)
             return sign * self.low * (self.high / self.low) ** u
@@ -37,6 +40,8 @@ class Range:
     def __str__(self):
         if self.scale == "both tails":
             return f"{self.low:g} to 1-{self.low:g}"
+        if self.scale == "near 1":
+            return f"+-1-{self.high:g} to +-1-{self.low:g}"
         return f"{'+-' if self.scale == 'signed log' else ''}{self.low:g} to {self.high:g}"
 
 
@@ -170,6 +175,51 @@ def log_gamma():
     yield Region("orvadnlgam", "beyond planning: negative", {"x": Range(-50, -0.01, "linear", False)})
 
 
+def gammas():
+    for name, axis in (("Gamma", "shape"), ("ChiSquare", "df")):
+        for prefix in ("Cdf", "Sf", "Idf", "Isf"):
+            yield from product(prefix + name, tails(), **{axis: bands(0.5, 20, 1500, 1e5)})
+    for function in ("NonCentralCdfChiSquare", "NonCentralSfChiSquare"):
+        yield from product(function, tails(), df=bands(0.5, 20, 1000), noncentrality=bands(1e-6, 1, 100, 1e4, whole=False))
+    yield from product("NonCentralityChiSquare", Range(1e-6, 1 - 1e-6, "both tails", False),
+                       level=[Range(1e-6, 0.2, "log", False)], df=bands(1, 20, 1000))
+    for function in ("PdfPoisson", "CdfPoisson", "SfPoisson"):
+        yield from product(function, tails(), mean=bands(0.1, 20, 1e5, whole=False))
+
+
+def studentized_range():
+    for function in ("SfStudentizedRange", "CdfStudentizedRange", "IsfStudentizedRange", "IdfStudentizedRange"):
+        yield from product(function, tails(), k=bands(2, 12, 1000), df=bands(1, 4, 60, 1e9))
+        yield from beyond(product(function, tails(), k=[Range(2, 100)], df=bands(1e-3, 1)))
+        yield from beyond(product(function, tails(), k=[Range(1e3, 1e6)], df=[Range(1, 1e9)]))
+
+
+def bivariate_normal():
+    point = Range(-8, 8, "linear")
+    for rho in (Range(-0.9, 0.9, "linear", False), Range(1e-5, 0.1, "near 1", False), Range(1e-15, 1e-5, "near 1", False),
+                Range(1e-15, 0.01, "signed log", False)):
+        yield Region("CdfBivariateNormal", f"rho {rho}", {"a": point, "b": point, "rho": rho})
+        yield Region("CdfBivariateNormal", f"near the line; rho {rho}",
+                     {"a": point, "distance": Range(-8, 8, "linear", False), "rho": rho})
+    yield Region("CdfBivariateNormal", "beyond planning: far tails",
+                 {"a": Range(-38, 38, "linear"), "b": Range(-38, 38, "linear"), "rho": Range(-1, 1, "linear", False)})
+
+
+def correlations():
+    for function in ("CdfCorrelation", "SfCorrelation", "IdfCorrelation"):
+        yield from product(function, tails(1e-9), n=bands(3, 30, 1000, 1e6), rho=[Range(-0.99, 0.99, "linear", False)])
+        yield from product(function, tails(1e-9), n=[Range(3, 1e6)], rho=[Range(1e-9, 0.01, "near 1", False)])
+
+
+def means_over_chi():
+    slope, shift = Range(1e-3, 100, "signed log", False), Range(1e-3, 30, "signed log", False)
+    for df in bands(1, 4, 60, 1e9):
+        yield Region("MeanOverChi", f"df {df}",
+                     {"slope": slope, "shift": shift, "df": df, "limit": Range(0.1, 10, "log", False)})
+    yield Region("MeanOverChi", "df 0.001 to 1",
+                 {"slope": slope, "shift": shift, "df": Range(1e-3, 1), "limit": Range(1e-3, 1e3, "log", False)})
+
+
 def all_regions():
     yield from t_quantiles()
     yield from f_quantiles()
@@ -180,3 +230,8 @@ def all_regions():
     yield from binomials()
     yield from normal()
     yield from log_gamma()
+    yield from studentized_range()
+    yield from bivariate_normal()
+    yield from means_over_chi()
+    yield from gammas()
+    yield from correlations()

@@ -13,7 +13,7 @@ import pathlib
 from collections import defaultdict
 
 from hard_points import HARD, hard_points
-from library import MANGLED, PROOFS, REFERENCES, TUNING
+from library import PROOFS, REFERENCES, TUNING
 from search_regions import all_regions
 
 HEADER = ["function", "a1", "a2", "a3", "a4", "a5", "value", "err", "region"]
@@ -100,7 +100,7 @@ def main():
         found.read_stored(options.folder)
     for path in options.findings:
         found.read_findings(path, options.keep)
-    for function in MANGLED:
+    for function in REFERENCES:
         if function in found.points:
             write_points(options.folder, function, found.points[function])
     write_searched(options.folder, found)

@@ -33,20 +33,18 @@ struct ChiRange {
   /// at most.
   const double* breaks = nullptr;
   int breakCount = 0;
-  /// The density is followed until it has fallen by e^-fall. For a mean as small as p that comes from the tails of the
-  /// distribution, 40 - log(p) keeps its digits.
-  double fall = 40;
 };
 
 /// The mean E[g(U); U < limit] of a bounded function over U, the square root of a chi-square variable divided by its
 /// degrees of freedom: the estimate of a standard deviation in units of the true one.
 ///
 /// The error is below 1e-14 where g is made of normal probabilities, and smooth but for the breaks. Where g has one sign,
-/// small means keep their relative accuracy down to 1e-10 at least. g is asked some 60 times for a smooth one, and at
-/// most some 15,000 times whatever it is.
+/// means from 1e-12 on keep a relative accuracy of 1e-12. g is asked some 60 times for a smooth one, and at most some
+/// 15,000 times whatever it is. Method, source and measured accuracy stand in docs/accuracy.md.
 /// @param g finite for u >= 0; where it is NaN, so is the mean
-/// @param df degrees of freedom, above 0; infinity gives g(1). Otherwise, and for a NaN limit or a fall of 0 or less,
-/// the mean is NaN
+/// @param df degrees of freedom, above 0; infinity gives g(1). Otherwise, and for a NaN limit, the mean is NaN
+/// @param range the part that counts; with a limit of 0 or below the mean is 0, and g is not asked
+/// @return the mean; 1 may be exceeded in the last digits where g is 1
 KELCOMMON_API double MeanOverChi(ChiFunction g, double df, const ChiRange& range = {}) noexcept;
 
 }  // namespace kelcommon

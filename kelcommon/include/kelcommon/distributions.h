@@ -129,6 +129,7 @@ KELCOMMON_API double IsfStudentizedRange(double q, double k, double df) noexcept
 // Bivariate normal distribution.
 
 /// P(X <= a and Y <= b) of two standard normal variables.
+/// @param a,b any numbers; with minus infinity the probability is 0, with plus infinity that of the other one alone
 /// @param rho their correlation, -1 to 1
 KELCOMMON_API double CdfBivariateNormal(double a, double b, double rho) noexcept;
 
