@@ -95,7 +95,8 @@ inline TableStatistics OfTable(const Numbers& counts, std::size_t rows, double n
     columnSums[k % columns] += counts[k];
   }
   TableStatistics sum;
-  for (std::size_t k = 0; k < counts.size(); ++k) sum.Add(counts[k], rowSums[k / columns] * columnSums[k % columns] / n);
+  for (std::size_t k = 0; k < counts.size(); ++k)
+    sum.Add(counts[k], rowSums[k / columns] * columnSums[k % columns] / n);
   return sum;
 }
 

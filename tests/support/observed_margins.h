@@ -47,8 +47,7 @@ inline ObservedProportions MostLikely(MarginScale scale, double limit, double n1
   const auto score = [](double x, double n, double p) { return (x > 0 ? x / p : 0) - (x < n ? (n - x) / (1 - p) : 0); };
   for (int step = 0; step < 60; ++step) {
     const double p1 = (low + high) / 2;
-    const double slope =
-        score(x1, n1, p1) + SlopeAtLimit(scale, limit, p1) * score(x2, n2, AtLimit(scale, limit, p1));
+    const double slope = score(x1, n1, p1) + SlopeAtLimit(scale, limit, p1) * score(x2, n2, AtLimit(scale, limit, p1));
     (slope > 0 ? low : high) = p1;
   }
   const double p1 = (low + high) / 2;
