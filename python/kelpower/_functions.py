@@ -2028,7 +2028,7 @@ def two_proportions(
 
     Tests whether two independent groups have the same proportion.
 
-    Not for two measurements on the same subjects: see paired-proportions; more than two groups are not tested.
+    Not for two measurements on the same subjects: see paired-proportions; more than two groups: see contingency.
 
     What is left out is what is solved for: the power of a design, the sample size for a power, the half-width of the
     confidence interval of a design, the sample size for a half-width, or with the sizes and a target another number,
