@@ -1,6 +1,6 @@
 """The range and the studentized range in 38 digits, by the trapezoidal rule, which converges geometrically for analytic
 integrands over the whole line (Trefethen and Weideman, The exponentially convergent trapezoidal rule, SIAM Review 56,
-2014). Not proven: `halved` halves both steps, and the results must agree.
+2014). Not proven: with a `refinement` of 2 both steps are halved, and the results must agree.
 
 The range by its maximum x (Tippett 1925, On the extreme individuals and the range of samples, Biometrika 17); the
 studentized one as its mean over v = log u, u the estimated standard deviation in units of the true one.

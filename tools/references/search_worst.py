@@ -71,8 +71,11 @@ class Search:
         steps = [self.rng.gauss(0, size) if chosen in (None, i) else 0 for i in range(len(point))]
         return [min(max(u + step, 0.0), 1.0) for u, step in zip(point, steps)]
 
+    def count(self, usual):
+        return max(1, round(usual * self.region.share))
+
     def climb(self, finding, point, whole):
-        for _ in range(self.options.steps):
+        for _ in range(self.count(self.options.steps)):
             neighbour, _ = self.most_different(lambda: (self.neighbour(point), whole))
             found = self.measure(neighbour, whole)
             if found.score >= finding.score:
@@ -81,8 +84,9 @@ class Search:
 
     def run(self):
         """The worst findings, each of a climb of its own, worst first."""
-        starts = sorted((self.start() for _ in range(self.options.starts)), key=lambda s: -s[0].score)
-        found = [self.climb(*start) for start in starts[:self.options.climbs]]
+        count = self.count(self.options.starts)
+        starts = sorted((self.start() for _ in range(count)), key=lambda start: -start[0].score)
+        found = [self.climb(*start) for start in starts[:self.count(self.options.climbs)]]
         counted = {finding.arguments: finding for finding in found if finding.score >= 0}
         return sorted(counted.values(), key=lambda finding: -finding.score)
 
