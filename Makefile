@@ -150,7 +150,7 @@ worst: build ## search the distributions for their largest errors and keep the w
 	@build/venv/bin/python -B tools/references/search_worst.py $(BUILD)/kelcommon/libkelcommon.so --seed $(SEARCH_SEED) --output build/found.csv
 	@build/venv/bin/python -B tools/references/worst.py build/found.csv
 
-accuracy: build ## measure accuracy and write docs/accuracy.md
+accuracy: build ## measure accuracy and write docs/accuracy.md; fails where it promises more
 	$(BUILD)/tools/accuracy/kelpower_accuracy docs/accuracy.md
 
 lint: configure-dev ## check format and common mistakes
