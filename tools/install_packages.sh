@@ -22,7 +22,7 @@ for group in "$@"; do
     python) packages="$packages g++ python3 python3-dev python3-venv default-jre-headless" ;;
     web) packages="$packages chromium-headless-shell fonts-dejavu-core"
          command -v npm >/dev/null || packages="$packages npm" ;; # Other builds of Node bring it along.
-    peers) packages="$packages r-base-core r-cran-pwr" ;;
+    peers) packages="$packages r-base-core r-cran-pwr python3-venv" ;;
     *) echo "$0: unknown group '$group'" >&2; exit 2 ;;
   esac
 done
