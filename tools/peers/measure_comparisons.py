@@ -88,18 +88,18 @@ def section(ours: dict, calls: dict, versions: dict) -> str:
     programs = ", ".join(f"{name} {version}" for name, version in versions.items())
     text = page.paragraph(f"""
         The core's functions, with nothing kept from one call to the next, beside other programs in one run of
-        `make bench-peers` on one machine ({machine()}; {programs}). In parentheses how many times as long as kelpower. The run
-        fails where powers differ by more than 1e-8, a size by more than 0.00025 subjects, or a time exceeds the stated
-        one by more than {page.NOISE:.0%}, the noise of times.
+        `make bench-peers` on one machine ({machine()}; {programs}). In parentheses how many times as long as
+        kelpower. The run fails where powers differ by more than 1e-8, a size by more than 0.00025 subjects, or a time
+        exceeds the stated one by more than {page.NOISE:.0%}, the noise of times.
         """)
     others = page.paragraph("""
-        A dash stands where a program does not have the test in this form, or could not be had. pwr and statsmodels are
-        asked for the interaction as for a regression with the same degrees of freedom and noncentrality, and for the
-        non-inferiority of means as for a one-sided t test of the distance from the margin. None of the three has the exact
-        power of the equivalence of two means, exact unconditional tests, or the power of Tukey's and Dunnett's tests: base
-        R's `ptukey` is the distribution without differences between the means, and gives no power. R packages that have
-        more of these tests, such as PowerTOST, are not in Debian and are not measured; programs that draw samples are not
-        compared.
+        A dash stands where a program does not have the test in this form, or could not be had. pwr and statsmodels
+        are asked for the interaction as for a regression with the same degrees of freedom and noncentrality, and for
+        the non-inferiority of means as for a one-sided t test of the distance from the margin. None of the three has
+        the exact power of the equivalence of two means, exact unconditional tests, or the power of Tukey's and
+        Dunnett's tests: base R's `ptukey` is the distribution without differences between the means, and gives no
+        power. R packages that have more of these tests, such as PowerTOST, are not in Debian and are not measured;
+        programs that draw samples are not compared.
         """)
     head = ["Design", "Answer", "kelpower", "stated, at most", *PACKAGES, "Answers of the others"]
     return f"## Margins, several groups, frequencies, variances and ranks\n\n{text}\n{page.table(head, rows)}\n{others}\n"
