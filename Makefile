@@ -108,10 +108,12 @@ lint-docs: compared ## check the spelling of the documentation, and run its code
 bench: build ## measure speed
 	$(BUILD)/bench/kelpower_bench
 
-bench-peers: build ## measure speed beside pwr, base R and statsmodels and write docs/performance.md
+bench-peers: build ## measure speed beside pwr, base R, statsmodels and pystatpower and write docs/performance.md
 	@sh tools/install_packages.sh peers
 	@sh tools/peers/unpack_statsmodels.sh build/peers/statsmodels || echo "statsmodels is left out"
+	@python3 -m venv build/peers/pystatpower && build/peers/pystatpower/bin/pip install --quiet --disable-pip-version-check pystatpower || { rm -rf build/peers/pystatpower; echo "pystatpower is left out"; }
 	@python3 -B tools/peers/measure.py . $(BUILD) build/peers/statsmodels docs/performance.md
+	@python3 -B tools/peers/measure_comparisons.py $(BUILD) build/peers/statsmodels build/peers/pystatpower docs/performance.md
 	@$(MAKE) --no-print-directory r
 	@mkdir -p build/r/library && sh tools/r/compile.sh build/r $(JOBS) R CMD INSTALL --no-docs --library=build/r/library build/r/kelpower_*.tar.gz >build/r/install.log 2>&1
 	@python3 -B tools/peers/from_r.py build/r/library docs/performance.md
@@ -155,7 +157,7 @@ worst: build ## search the distributions for their largest errors and keep the w
 	@build/venv/bin/python -B tools/references/search_worst.py $(BUILD)/kelcommon/libkelcommon.so --seed $(SEARCH_SEED) --output build/found.csv
 	@build/venv/bin/python -B tools/references/worst.py build/found.csv
 
-accuracy: build ## measure accuracy and write docs/accuracy.md
+accuracy: build ## measure accuracy and write docs/accuracy.md; fails where it promises more
 	$(BUILD)/tools/accuracy/kelpower_accuracy docs/accuracy.md
 
 lint: configure-dev ## check format and common mistakes

@@ -22,7 +22,7 @@ for group in "$@"; do
     python) packages="$packages g++ python3 python3-dev python3-venv default-jre-headless" ;;
     web) packages="$packages chromium-headless-shell fonts-dejavu-core"
          command -v npm >/dev/null || packages="$packages npm" ;; # Other builds of Node bring it along.
-    peers) packages="$packages r-base-core r-cran-pwr" ;;
+    peers) packages="$packages r-base-core r-cran-pwr python3-venv" ;;
     shells) packages="$packages mandoc groff zsh fish" ;;
     deb) packages="$packages python3-dev python3-numpy dpkg-dev gzip lintian debootstrap man-db" ;;
     *) echo "$0: unknown group '$group'" >&2; exit 2 ;;

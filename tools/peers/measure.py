@@ -78,6 +78,7 @@ def main():
 
     calls, versions = page.read_calls(text)
     calls.update(page.our_calls(page.read_benchmarks(ours)))
+    page.check_stated(calls)
     context = {"machine": machine(), "version": (source / "VERSION").read_text().strip(),
                "compiler": json.loads(ours)["context"]["compiler"]}
     sources = {path.stem: path.read_text() for path in (source / "bench").glob("*.cpp")}
@@ -87,4 +88,7 @@ def main():
 
 
 if __name__ == "__main__":
-    main()
+    try:
+        main()
+    except (page.Disagreement, page.FallsShort) as error:
+        sys.exit(f"the page is not written: {error}")

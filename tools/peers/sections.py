@@ -3,7 +3,7 @@
 Each stands between two marks, so that it is replaced alone, and survives when the rest of the page is written anew.
 """
 
-NAMES = ("python", "r", "before", "webassembly", "web", "scipy")  # in the order of the page
+NAMES = ("tests", "python", "r", "before", "webassembly", "web", "scipy")  # in the order of the page
 FOLLOWING = "## All benchmarks\n"
 
 
