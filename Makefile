@@ -17,7 +17,7 @@ space := $() $()
 WASM_MODULE := build/wasm/web/core
 PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
 
-.PHONY: compared help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python r test-r bench-scipy site lint-docs deb test-deb validate
+.PHONY: compared help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python r test-r bench-scipy site lint-docs deb test-deb zip test-zip dist validate
 
 run: configure-$(PRESET) ## build the program and plan a real study
 	@echo "Building the program; the first time this takes a minute or two ..."
@@ -208,6 +208,17 @@ deb: ## make the Debian packages in build/debian/packages
 
 test-deb: deb ## check the Debian packages with lintian, and install, use and remove them in a bare system; needs root
 	@sh tools/packages/test_deb.sh build/debian
+
+zip: ## make the zip file for Windows in build/windows/packages
+	@sh tools/install_packages.sh build windows
+	@sh tools/packages/make_zip.sh build/windows $(JOBS)
+
+test-zip: zip ## unpack the zip file for Windows and use it under Wine
+	@sh tools/packages/test_zip.sh build/windows
+
+dist: ## make all that is given to others in build/dist, with checksums: packages of Debian, Python, R and npm, the zip file and the page
+	@. tools/packages/source_date.sh && $(MAKE) --no-print-directory deb zip wheel r web
+	@sh tools/packages/dist.sh build/dist
 
 install: build ## install under PREFIX
 	cmake --install $(BUILD) --prefix $(PREFIX)

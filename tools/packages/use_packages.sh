@@ -5,7 +5,7 @@ version=$1
 export DEBIAN_FRONTEND=noninteractive
 cd /packages
 
-add() { apt-get install -y -qq --no-install-recommends "$@" >/dev/null 2>/tmp/apt.log || { cat /tmp/apt.log; exit 1; }; }
+add() { apt-get install -y -qq --no-install-recommends "$@" >/dev/null 2>/test/apt.log || { cat /test/apt.log; exit 1; }; }
 fail() { echo "$*" >&2; exit 1; }
 # matches WHAT FILE: the standard input is the file.
 matches() { diff "$2" - || fail "$1 is not as expected"; }
@@ -17,9 +17,9 @@ add ./libkelcommon0_*.deb ./kelpower_*.deb
 [ "$(kelpower --version)" = "kelpower $version" ] || fail "the program has another version"
 kelpower anova --means 10,12,15 --sd 6 --power 0.9 | matches "the answer" /test/answer.out
 for page in kelpower kelpower-two-means kelpower-run; do
-  man --warnings -P cat "$page" >/tmp/page 2>/tmp/warnings || fail "there is no manual page $page"
-  grep -q '^EXIT STATUS' /tmp/page || fail "the manual page $page lacks its exit status"
-  [ ! -s /tmp/warnings ] || fail "$(cat /tmp/warnings)"
+  man --warnings -P cat "$page" >/test/page 2>/test/warnings || fail "there is no manual page $page"
+  grep -q '^EXIT STATUS' /test/page || fail "the manual page $page lacks its exit status"
+  [ ! -s /test/warnings ] || fail "$(cat /test/warnings)"
 done
 whatis kelpower-anova | grep -q 'One-way analysis of variance' || fail "whatis does not know kelpower-anova"
 for script in bash-completion/completions/kelpower zsh/vendor-completions/_kelpower \
