@@ -7,10 +7,13 @@
 
 #include "anova/covariance.h"
 #include "anova/one_effect.h"
+#include "anova/repeated.h"
 #include "chi_square/power.h"
 #include "comparisons/dunnett.h"
 #include "comparisons/tukey.h"
+#include "correlation/dependent_correlations.h"
 #include "correlation/exact_pearson.h"
+#include "correlation/two_correlations.h"
 #include "means/crossover.h"
 #include "means/equivalence.h"
 #include "means/margins.h"
@@ -18,6 +21,7 @@
 #include "proportions/one_sample_margins.h"
 #include "proportions/unconditional_margins.h"
 #include "ranks/mann_whitney.h"
+#include "ranks/ordinal.h"
 #include "ranks/signed_rank.h"
 #include "variances/one_variance.h"
 #include "variances/two_variances.h"
@@ -53,6 +57,21 @@ Answer Dunnett() {
 
 // The group means 400, 450 and 500, whose variance at given covariates is 9900.
 Answer Covariance() { return anova::CovarianceTest(3, 63, 1, 0.05).Power(21 * 5000 / 9900.0); }
+
+Answer DependentCorrelations() {
+  const correlation::SharedVariable correlations{0.5, 0.3, 0.4};
+  return correlation::Power({0.05, false}, correlations, correlation::NullCorrelations::First, 100);
+}
+
+Answer Repeated() {
+  const anova::RepeatedDesign design{anova::RepeatedEffect::Interaction, 2, 3, 0.5, 1};
+  return design.TestAt(28, 0.05).Power(design.NoncentralityOfF(0.25, anova::RepeatedF::Means, 28));
+}
+
+Answer Ordinal() {
+  constexpr double five[] = {0.1, 0.2, 0.4, 0.2, 0.1};
+  return ranks::Power({ranks::OrdinalMethod::LogOdds, ranks::Sides::Two, 0.05}, {five, nullptr, 2, 5}, 40, 60);
+}
 
 struct Call {
   const char* name;  // as in comparisons.py
@@ -103,6 +122,13 @@ const Call calls[] = {
      [] {
        return correlation::ExactPower({0.05, false}, 85, {0.3, 0});
      }},
+    {"two-correlations",
+     [] {
+       return correlation::PowerOfDifference({0.05, false}, 0.4, {100, 100});
+     }},
+    {"dependent-correlations", DependentCorrelations},
+    {"repeated-measures", Repeated},
+    {"ordinal", Ordinal},
 };
 
 void Time(benchmark::State& state, Answer (*call)()) {

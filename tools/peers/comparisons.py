@@ -54,4 +54,8 @@ COMPARISONS = [
     Comparison("mann-whitney", "Mann-Whitney, by moments, normal, d = 0.5, 40 and 60"),
     Comparison("signed-rank", "Signed ranks, by moments, normal, d = 0.5, n = 40"),
     Comparison("correlation-exact", "Correlation, exact, r = 0.3, n = 85"),
+    Comparison("two-correlations", "Two correlations, q = 0.4, 100 and 100"),
+    Comparison("dependent-correlations", "Two correlations with a variable in common, 0.5 and 0.3, n = 100"),
+    Comparison("repeated-measures", "Repeated measures, interaction of 2 groups and 3 measurements, f = 0.25, N = 28"),
+    Comparison("ordinal", "Ordered categories, log odds, odds ratio 2, 40 and 60"),
 ]
