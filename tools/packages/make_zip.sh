@@ -14,8 +14,6 @@ cmake --install "$build" --prefix "$folder" --strip >"$build/install.log" || { c
 cp packaging/windows/README.txt "$folder/README.txt"
 cp LICENSE "$folder/LICENSE.txt"
 cp packaging/debian/copyright "$folder/LICENSES.txt"
-date=$(TZ=UTC date -d "@$SOURCE_DATE_EPOCH" '+%Y-%m-%d %H:%M:%S UTC')
-(cd "$build/packages" && find "$name" -type f | LC_ALL=C sort >files &&
-  TZ=UTC cmake -E tar cf "$name.zip" --format=zip --mtime="$date" --files-from=files && rm files)
+python3 -B tools/packages/zip_folder.py "$folder" "$build/packages/$name.zip" "$SOURCE_DATE_EPOCH"
 rm -rf "$folder"
 ls "$build/packages"
