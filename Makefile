@@ -53,7 +53,7 @@ test-r: r ## check the source package of R as CRAN does, and run the R code of t
 
 test-core: configure-$(PRESET) ## the quick loop: build and pass the tests of the distributions, the core and the planner
 	@cmake --build $(BUILD) -j $(JOBS) --target $(CORE:%=tests_%)
-	@ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS) -LE '^long$$' -L '^($(subst $(space),|,$(CORE)))$$'
+	@ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS) -LE '^(long|patience)$$' -L '^($(subst $(space),|,$(CORE)))$$'
 
 wasm-module:
 	@sh tools/install_packages.sh build wasm web

@@ -5,9 +5,10 @@
 #   posix         needs fork, signals, terminals or dlopen
 #   replaces-new  needs that the operator new of a program serves its libraries too
 #   threads       needs threads
+#   patience      asks for millions of powers or studies, which tell of formulas and not of processors
 set(KEL_LABELS_LEFT_OUT "")
 if(CMAKE_CROSSCOMPILING)
-  list(APPEND KEL_LABELS_LEFT_OUT tools)
+  list(APPEND KEL_LABELS_LEFT_OUT tools patience)
 endif()
 if(WIN32)
   list(APPEND KEL_LABELS_LEFT_OUT posix replaces-new)
