@@ -57,7 +57,8 @@ run_rows <- function(test, inputs, varying, count, call) {
   fixed <- Map(function(value, name) if (is_list_kind(kinds[name])) matrix(value, 1) else value,
                answer$inputs, names(answer$inputs))
   given <- gathered(vapply(answer$columns, function(each) each$name, ""), columns$numbers)
-  given <- Map(function(value, name) if (is_list_kind(kinds[name])) spread(value, groups_of(test, given, fixed)) else value,
+  groups <- groups_of(test, given, fixed)
+  given <- Map(function(value, name) if (is_list_kind(kinds[name])) as_rows(value, kinds[[name]], groups) else value,
                given, names(given))
   names(given) <- as_targets(names(given))
   results <- gathered(vapply(answer$results, function(each) each$name, ""), reply$results,
@@ -65,10 +66,10 @@ run_rows <- function(test, inputs, varying, count, call) {
   list(question = answer$question, inputs = c(given, fixed), results = results, status = reply$rows)
 }
 
-# One number of a list stands for all groups.
-spread <- function(value, groups) {
+# A row for each design. One number stands for all groups.
+as_rows <- function(value, kind, groups) {
   if (!is.matrix(value)) value <- matrix(value)
-  if (ncol(value) > 1 || groups == 1) value else value[, rep(1L, groups), drop = FALSE]
+  if (kind != "per-group" || ncol(value) > 1 || groups == 1) value else value[, rep(1L, groups), drop = FALSE]
 }
 
 groups_of <- function(test, ...) {
