@@ -23,7 +23,8 @@ USUAL = {
 OF_PROPORTIONS = {"half_width": 0.1}
 OF_CORRELATIONS = {"half_width": 0.1, "null": 0}
 USUAL_OF = {
-    "proportion": {"half_width": 0.1, "null": 0.2}, "two-proportions": OF_PROPORTIONS, "paired-proportions": OF_PROPORTIONS,
+    "proportion": {"half_width": 0.1, "null": 0.2}, "two-proportions": OF_PROPORTIONS,
+    "paired-proportions": OF_PROPORTIONS,
     "pearson": OF_CORRELATIONS, "spearman": OF_CORRELATIONS, "partial": OF_CORRELATIONS,
 }  # fmt: skip
 # Limits on both sides of the usual effects, and margins that these are on the right side of.
