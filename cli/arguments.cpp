@@ -1,13 +1,12 @@
 #include "arguments.h"
 
-#include <fmt/format.h>
-
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <utility>
 
 #include "catalogue/catalogue.h"
 #include "catalogue/effects.h"
+#include "format/format.h"
 #include "hints.h"
 #include "nearest.h"
 #include "usage_error.h"
@@ -16,6 +15,7 @@
 
 namespace {
 
+using planner::Formatted;
 using planner::Kind;
 using planner::Parameter;
 using planner::Test;
@@ -42,7 +42,7 @@ CLI::App* AddCommand(CLI::App& app, const std::string& name) {
   return command;
 }
 
-std::string NameOf(const Parameter& parameter) { return fmt::format("--{}", parameter.name.Text()); }
+std::string NameOf(const Parameter& parameter) { return Formatted("--{}", parameter.name.Text()); }
 
 /// Options that have a use only with a chart.
 const std::vector<std::string> chartOptions{"from", "to", "step", "y", "title", "width", "height", "dpi", "output"};
@@ -85,14 +85,14 @@ void AddTest(CLI::App& app, const Test& test) {
 const std::string* TextOf(const CLI::App& command, const std::string& name) {
   const CLI::Option* option = command.get_option("--" + name);
   if (option->count() == 0) return nullptr;
-  if (option->count() > 1) throw UsageError(fmt::format("--{} is given more than once.", name));
+  if (option->count() > 1) throw UsageError(Formatted("--{} is given more than once.", name));
   return &option->results().front();
 }
 
 bool FlagOf(const CLI::App& command, const std::string& name) {
   const CLI::Option* option = command.get_option("--" + name);
   for (const std::string& text : option->results()) {
-    if (text != "true") throw UsageError(fmt::format("--{} takes no value.", name));
+    if (text != "true") throw UsageError(Formatted("--{} takes no value.", name));
   }
   return option->count() > 0;
 }
@@ -103,7 +103,7 @@ Format FormatOf(const CLI::App& command) {
   for (const auto& [word, format] : formats) {
     if (word == *text) return format;
   }
-  throw UsageError(fmt::format("--format is \"{}\", but must be text, json, csv, markdown or ndjson.", *text));
+  throw UsageError(Formatted("--format is \"{}\", but must be text, json, csv, markdown or ndjson.", *text));
 }
 
 /// All that is given for an option: several times, and several values at a time.
@@ -160,7 +160,7 @@ unsigned JobsOf(const CLI::App& command) {
 /// The file that an option names; empty without it.
 std::string FileOf(const CLI::App& command, const std::string& name) {
   const std::string* text = TextOf(command, name);
-  if (text && text->empty()) throw UsageError(fmt::format("--{} is empty, but must name a file.", name));
+  if (text && text->empty()) throw UsageError(Formatted("--{} is empty, but must name a file.", name));
   return text ? *text : "";
 }
 
@@ -175,7 +175,7 @@ planner::ChartRequest ChartOf(const CLI::App& command, const std::string& name) 
   if (const std::string* text = TextOf(command, "step"))
     chart.step = std::get<double>(planner::Parse(planner::Number("step", "", ""), *text));
   if (const std::string* text = TextOf(command, "y")) {
-    if (*text != "n") throw UsageError(fmt::format("--y is \"{}\", but must be n.", *text));
+    if (*text != "n") throw UsageError(Formatted("--y is \"{}\", but must be n.", *text));
     chart.showsSizes = true;
   }
   return chart;
@@ -186,7 +186,7 @@ std::optional<double> LengthOf(const CLI::App& command, const std::string& name,
   if (!text) return std::nullopt;
   double number = 0;
   if (planner::ParseNumber(*text, number) && number >= least && number <= most) return number;
-  throw UsageError(fmt::format("--{} is \"{}\", but must be a number from {} to {}.", name, *text, least, most));
+  throw UsageError(Formatted("--{} is \"{}\", but must be a number from {} to {}.", name, *text, least, most));
 }
 
 PictureOptions PictureOf(const CLI::App& command) {
@@ -200,7 +200,7 @@ PictureOptions PictureOf(const CLI::App& command) {
 
 void RejectChartOptions(const CLI::App& command) {
   for (const std::string& name : chartOptions) {
-    if (TextOf(command, name)) throw UsageError(fmt::format("--{} has a use only together with --chart.", name));
+    if (TextOf(command, name)) throw UsageError(Formatted("--{} has a use only together with --chart.", name));
   }
 }
 
@@ -222,24 +222,24 @@ const Test* InputsOf(const std::string& command) {
   const std::string option = extra.substr(0, extra.find('='));
   const planner::Test* test = InputsOf(command.get_name());
   if (const std::string known = test ? HintForOption(*test, option) : ""; !known.empty()) {
-    throw UsageError(fmt::format("\"{}\" is not an option of {}; {}.", option, command.get_name(), known));
+    throw UsageError(Formatted("\"{}\" is not an option of {}; {}.", option, command.get_name(), known));
   }
   const std::string nearest = Nearest(option, OptionNames(command));
-  const std::string hint = nearest.empty() ? fmt::format("\"kelpower {} --help\" names them", command.get_name())
-                                           : fmt::format("did you mean {}?", nearest);
+  const std::string hint = nearest.empty() ? Formatted("\"kelpower {} --help\" names them", command.get_name())
+                                           : Formatted("did you mean {}?", nearest);
   throw UsageError(
-      fmt::format("\"{}\" is not an option of {}; {}{}", option, command.get_name(), hint, nearest.empty() ? "." : ""));
+      Formatted("\"{}\" is not an option of {}; {}{}", option, command.get_name(), hint, nearest.empty() ? "." : ""));
 }
 
 [[noreturn]] void RejectCommand(const std::string& word) {
   if (const std::string known = HintForTest(word); !known.empty()) {
-    throw UsageError(fmt::format("\"{}\" is not a test; {}.", word, known));
+    throw UsageError(Formatted("\"{}\" is not a test; {}.", word, known));
   }
   std::vector<std::string> names{"list", "run", "effect"};
   for (const Test& test : planner::Tests()) names.push_back(test.name);
   const std::string nearest = Nearest(word, names);
-  if (!nearest.empty()) throw UsageError(fmt::format("\"{}\" is not a test; did you mean {}?", word, nearest));
-  throw UsageError(fmt::format("\"{}\" is not a test; \"kelpower list\" names them.", word));
+  if (!nearest.empty()) throw UsageError(Formatted("\"{}\" is not a test; did you mean {}?", word, nearest));
+  throw UsageError(Formatted("\"{}\" is not a test; \"kelpower list\" names them.", word));
 }
 
 /// The input of a chart that has several values, if any: each is a curve.
@@ -248,8 +248,8 @@ std::optional<planner::Alternatives> OfChart(const std::vector<planner::Alternat
   for (const planner::Alternatives& alternatives : all) {
     if (alternatives.values.size() < 2) continue;
     if (several) {
-      throw UsageError(fmt::format("{} and {} both have several values, but a chart varies one.",
-                                   NameOf(*several->parameter), NameOf(*alternatives.parameter)));
+      throw UsageError(Formatted("{} and {} both have several values, but a chart varies one.",
+                                 NameOf(*several->parameter), NameOf(*alternatives.parameter)));
     }
     several = alternatives;
   }
@@ -260,7 +260,7 @@ std::optional<planner::Alternatives> OfChart(const std::vector<planner::Alternat
 void RejectUnexplainable(const Request& request) {
   if (request.command == Command::Table && Varying(request.alternatives)) {
     throw UsageError(
-        fmt::format("{} has several values, but --explain is of one design.", NameOf(*Varying(request.alternatives))));
+        Formatted("{} has several values, but --explain is of one design.", NameOf(*Varying(request.alternatives))));
   }
   if (request.format == Format::Csv || request.format == Format::Ndjson) {
     throw UsageError("--explain does not go with --format csv or ndjson: text, json and markdown have room for it.");
@@ -307,7 +307,7 @@ void ReadEffect(const CLI::App& command, Request& request) {
   request.command = Command::Effect;
   const std::vector<planner::Alternatives> alternatives = AlternativesOf(command, planner::EffectSizes().inputs);
   if (const Parameter* varying = Varying(alternatives)) {
-    throw UsageError(fmt::format("{} has several values, but effect converts one study at a time.", NameOf(*varying)));
+    throw UsageError(Formatted("{} has several values, but effect converts one study at a time.", NameOf(*varying)));
   }
   request.values = ValuesOf(alternatives);
   request.isExplained = FlagOf(command, "explain");
@@ -386,7 +386,7 @@ Request ParseArguments(int argc, const char* const* argv) {
     app.parse(argc, argv);
   } catch (const CLI::ArgumentMismatch&) {
     // Every option takes one value, so only the last argument can be left without.
-    throw UsageError(fmt::format("{} is given without a value.", argv[argc - 1]));
+    throw UsageError(Formatted("{} is given without a value.", argv[argc - 1]));
   } catch (const CLI::ParseError& error) {
     throw UsageError(error.what());
   }

@@ -1,7 +1,5 @@
 #include "chart.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <cctype>
 #include <cerrno>
@@ -9,6 +7,7 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "format/format.h"
 #include "interrupts.h"
 #include "solve/chart.h"
 #include "usage_error.h"
@@ -17,6 +16,7 @@
 namespace {
 
 using planner::ChartData;
+using planner::Formatted;
 
 struct FileKind {
   const char* ending;
@@ -64,15 +64,14 @@ const FileKind& KindOf(const Request& request) {
   const FileKind* named = request.output.empty() ? nullptr : KindOfName(request.output);
   if (!request.formatGiven && !request.output.empty()) {
     if (named) return *named;
-    throw UsageError(
-        fmt::format("--output is \"{}\", but must end in .svg, .png, .pdf, .csv or .json.", request.output));
+    throw UsageError(Formatted("--output is \"{}\", but must end in .svg, .png, .pdf, .csv or .json.", request.output));
   }
   const FileKind* asked = KindOfFormat(request.format);
   if (named && named != asked) {
     throw UsageError(
-        fmt::format("--output is \"{}\", which is not of the --format asked for: leave out --format, or "
-                    "name another file.",
-                    request.output));
+        Formatted("--output is \"{}\", which is not of the --format asked for: leave out --format, or "
+                  "name another file.",
+                  request.output));
   }
   return *asked;
 }
@@ -87,10 +86,10 @@ void CheckPicture(const PictureOptions& options, const FileKind& kind) {
 void Write(const std::string& name, const std::string& content) {
   const InterruptsWait untilWritten;
   std::FILE* file = std::fopen(name.c_str(), "wb");
-  if (!file) throw std::runtime_error(fmt::format("\"{}\" cannot be written: {}.", name, std::strerror(errno)));
+  if (!file) throw std::runtime_error(Formatted("\"{}\" cannot be written: {}.", name, std::strerror(errno)));
   const bool written = std::fwrite(content.data(), 1, content.size(), file) == content.size();
   const bool closed = std::fclose(file) == 0;
-  if (!written || !closed) throw std::runtime_error(fmt::format("\"{}\" cannot be written whole.", name));
+  if (!written || !closed) throw std::runtime_error(Formatted("\"{}\" cannot be written whole.", name));
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "complete.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <optional>
 #include <string_view>
@@ -9,6 +7,7 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/effects.h"
 #include "fitting.h"
+#include "format/format.h"
 #include "help.h"
 #include "help_inputs.h"
 #include "solve/axes.h"
@@ -251,7 +250,7 @@ std::string Completions(const std::vector<std::string>& words) {
   std::string text;
   for (const Candidate& candidate : Candidates(words)) {
     text +=
-        candidate.meaning.empty() ? candidate.word + '\n' : fmt::format("{}\t{}\n", candidate.word, candidate.meaning);
+        candidate.meaning.empty() ? candidate.word + '\n' : Formatted("{}\t{}\n", candidate.word, candidate.meaning);
   }
   return text;
 }

@@ -1,10 +1,11 @@
 #include "computation.h"
 
-#include <fmt/format.h>
-
 #include <utility>
 
+#include "format/format.h"
 #include "interrupts.h"
+
+using planner::Formatted;
 
 namespace {
 
@@ -36,5 +37,5 @@ void Computation::LookAtTheClock() {
   if (now < nextLine_) return;
   nextLine_ = now + linePeriod;
   const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(now - start_).count();
-  line_.Show(fmt::format("Computing {}, {} s so far", what_, seconds));
+  line_.Show(Formatted("Computing {}, {} s so far", what_, seconds));
 }

@@ -1,7 +1,5 @@
 #include "designs_output.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
@@ -11,7 +9,10 @@
 #include <thread>
 #include <utility>
 
+#include "format/format.h"
 #include "terminal.h"
+
+using planner::Formatted;
 
 namespace {
 
@@ -54,8 +55,8 @@ void DesignsOutput::Put(const std::string& text) {
 }
 
 void DesignsOutput::Fail() const {
-  const std::string what = name_.empty() ? "The standard output" : fmt::format("\"{}\"", name_);
-  throw std::runtime_error(fmt::format("{} cannot be written: {}.", what, std::strerror(errno)));
+  const std::string what = name_.empty() ? "The standard output" : Formatted("\"{}\"", name_);
+  throw std::runtime_error(Formatted("{} cannot be written: {}.", what, std::strerror(errno)));
 }
 
 ProgressBar::ProgressBar(double total) : total_(total), start_(SecondsNow()) {}
@@ -65,10 +66,10 @@ void ProgressBar::Show(double done) {
   constexpr double width = 20;
   const double seconds = SecondsNow() - start_;
   if (!line_.IsShown() || seconds < patience) return;
-  if (total_ <= 0) return line_.Show(fmt::format("Answering designs, {:.0f} s so far", seconds));
+  if (total_ <= 0) return line_.Show(Formatted("Answering designs, {:.0f} s so far", seconds));
   const double share = std::min(done / total_, 1.0);
   const std::string bar(static_cast<std::size_t>(share * width), '#');
-  line_.Show(fmt::format("Designs [{:<20}] {:3.0f}%", bar, 100 * share));
+  line_.Show(Formatted("Designs [{:<20}] {:3.0f}%", bar, 100 * share));
 }
 
 unsigned ThreadCount(unsigned jobs) { return jobs > 0 ? jobs : std::max(1U, std::thread::hardware_concurrency()); }

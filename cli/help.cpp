@@ -1,11 +1,10 @@
 #include "help.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 
 #include "catalogue/catalogue.h"
 #include "catalogue/effects.h"
+#include "format/format.h"
 #include "help_charts.h"
 #include "help_inputs.h"
 #include "help_usage.h"
@@ -18,20 +17,20 @@ namespace {
 std::string OptionText(const Parameter& parameter) {
   std::string text;
   for (const std::string& name : NamesOf(parameter)) text += (text.empty() ? "" : ", ") + OptionOf(name);
-  return parameter.kind == Kind::Flag ? text : fmt::format("{} {}", text, KindOfValue(parameter));
+  return parameter.kind == Kind::Flag ? text : Formatted("{} {}", text, KindOfValue(parameter));
 }
 
 /// How the remaining number of a design is asked for.
 std::string UnknownSection(const Test& test, const Highlights& highlights) {
   if (test.unknowns.empty()) return "";
-  return fmt::format(
+  return Formatted(
       "{}Effect that a design detects{}\n  Give --n and --power, and leave the effect out; --solve NAME asks for another "
       "number.\n\n",
       highlights.heading, highlights.end);
 }
 
 std::string TableSection(const Test& test, const Highlights& highlights) {
-  return fmt::format(
+  return Formatted(
       "{}Many designs at once{}\n  Give an option several times, or a number as a list 0.8,0.9 or a range 20:100:20 (from, "
       "to, step):\n  all combinations are answered as one table. \"kelpower run FILE\" answers a file of designs.\n"
       "  kelpower {}\n\n",
@@ -49,9 +48,9 @@ std::string InputLines(const Test& test, std::size_t width, bool areOffered = fa
   std::string text;
   for (const Parameter& parameter : test.parameters) {
     if (Contains(OfferedInputs(), parameter.name) != areOffered) continue;
-    text += fmt::format("  {:<{}}  {}\n", OptionText(parameter), width, MeaningOf(parameter));
+    text += Formatted("  {:<{}}  {}\n", OptionText(parameter), width, MeaningOf(parameter));
     if (const std::string range = RangeOf(test, parameter); !range.empty()) {
-      text += fmt::format("  {:<{}}  ({})\n", "", width, range);
+      text += Formatted("  {:<{}}  ({})\n", "", width, range);
     }
   }
   return text;
@@ -60,33 +59,33 @@ std::string InputLines(const Test& test, std::size_t width, bool areOffered = fa
 std::string OptionLines(const Test& test) {
   const std::size_t width = OptionWidth(test);
   std::string text = InputLines(test, width);
-  text += fmt::format("  {:<{}}  also tell what is behind the answer, and how other programs are asked the same\n",
-                      "--explain", width);
-  text += fmt::format("  {:<{}}  text (default), json, csv, markdown or ndjson\n", "--format WORD", width);
-  text += fmt::format("  {:<{}}  keep the design for \"kelpower run\"\n", "--save FILE.json", width);
+  text += Formatted("  {:<{}}  also tell what is behind the answer, and how other programs are asked the same\n",
+                    "--explain", width);
+  text += Formatted("  {:<{}}  text (default), json, csv, markdown or ndjson\n", "--format WORD", width);
+  text += Formatted("  {:<{}}  keep the design for \"kelpower run\"\n", "--save FILE.json", width);
   text +=
-      fmt::format("  {:<{}}  threads for a table of many designs; default one on each core\n", "--jobs NUMBER", width);
-  text += fmt::format("  {:<{}}  this help\n", "--help", width);
+      Formatted("  {:<{}}  threads for a table of many designs; default one on each core\n", "--jobs NUMBER", width);
+  text += Formatted("  {:<{}}  this help\n", "--help", width);
   return text;
 }
 
 }  // namespace
 
-std::string OptionOf(std::string_view input) { return fmt::format("--{}", input); }
+std::string OptionOf(std::string_view input) { return Formatted("--{}", input); }
 
 std::string HelpOf(const Test& test, const Highlights& highlights) {
   const auto heading = [&](const char* words) {
-    return fmt::format("{}{}{}\n", highlights.heading, words, highlights.end);
+    return Formatted("{}{}{}\n", highlights.heading, words, highlights.end);
   };
   const Example& first = FirstExample(test);
   std::string text = heading(test.title.c_str());
-  text += fmt::format("{}\n{}\n\n", test.about, test.whenNot);
+  text += Formatted("{}\n{}\n\n", test.about, test.whenNot);
   text += heading("For example") + ExampleText(first) + "What you leave out is what is solved for.\n\n";
   text += UsageSection(test, highlights) + UnknownSection(test, highlights) + TableSection(test, highlights);
   text += heading("Options") + OptionLines(test) + '\n';
   text += heading("Before the study starts") + InputLines(test, OptionWidth(test), true);
   text += ChartSection(test, highlights);
-  text += fmt::format("\n{}", heading("More examples"));
+  text += Formatted("\n{}", heading("More examples"));
   for (const Example& example : test.examples) {
     if (&example != &first) text += ExampleText(example);
   }
@@ -97,9 +96,9 @@ std::string HelpOfEffects(const Highlights& highlights) {
   const Effects& effects = EffectSizes();
   const Test& test = effects.inputs;
   const auto heading = [&](const std::string& words) {
-    return fmt::format("{}{}{}\n", highlights.heading, words, highlights.end);
+    return Formatted("{}{}{}\n", highlights.heading, words, highlights.end);
   };
-  std::string text = heading(test.title) + fmt::format("{}\n{}\n\n", test.about, test.whenNot);
+  std::string text = heading(test.title) + Formatted("{}\n{}\n\n", test.about, test.whenNot);
   text += heading("For example") + ExampleText(test.examples.front());
   for (std::size_t i = 0; i < effects.conversions.size(); ++i) {
     const std::string& title = effects.conversions[i].title;
@@ -108,16 +107,16 @@ std::string HelpOfEffects(const Highlights& highlights) {
   }
   const std::size_t width = OptionWidth(test);
   text += '\n' + heading("Options") + InputLines(test, width);
-  text += fmt::format("  {:<{}}  also tell the formula and source of each effect size\n", "--explain", width);
-  text += fmt::format("  {:<{}}  text (default), json, csv or markdown\n", "--format WORD", width);
-  text += fmt::format("  {:<{}}  this help\n", "--help", width);
+  text += Formatted("  {:<{}}  also tell the formula and source of each effect size\n", "--explain", width);
+  text += Formatted("  {:<{}}  text (default), json, csv or markdown\n", "--format WORD", width);
+  text += Formatted("  {:<{}}  this help\n", "--help", width);
   text += '\n' + heading("More examples");
   for (std::size_t i = 1; i < test.examples.size(); ++i) text += ExampleText(test.examples[i]);
   return text;
 }
 
 std::string HelpOfRun(const Highlights& highlights) {
-  return fmt::format(
+  return Formatted(
       "{0}Answers a file of designs{1}\n"
       "Each row is a design and gets its answer, in the order of the file. What a row leaves out is what is solved for.\n\n"
       "  kelpower run FILE.csv|FILE.ndjson|FILE.json [--test NAME] [--format WORD] [--output FILE] [--jobs NUMBER]\n\n"
@@ -141,9 +140,9 @@ std::string ListOfTests(const Highlights& highlights) {
   for (const Test& test : Tests()) width = std::max(width, test.name.size());
   std::string text;
   for (const Test& test : Tests()) {
-    text += fmt::format("{}{:<{}}{}  {}\n", highlights.heading, test.name, width, highlights.end, test.title);
+    text += Formatted("{}{:<{}}{}  {}\n", highlights.heading, test.name, width, highlights.end, test.title);
   }
-  text += fmt::format("\n{}{:<{}}{}  No test: converts what a study reports into effect sizes\n", highlights.heading,
-                      EffectSizes().inputs.name, width, highlights.end);
+  text += Formatted("\n{}{:<{}}{}  No test: converts what a study reports into effect sizes\n", highlights.heading,
+                    EffectSizes().inputs.name, width, highlights.end);
   return text;
 }

@@ -1,7 +1,6 @@
 #include "help_inputs.h"
 
-#include <fmt/format.h>
-
+#include "format/format.h"
 #include "help.h"
 #include "help_usage.h"
 #include "words/expand.h"
@@ -27,7 +26,7 @@ std::vector<std::string> NamesOf(const Parameter& parameter) {
   std::vector<std::string> names{std::string(parameter.name.Text())};
   for (const std::string& alias : parameter.aliases) {
     // What answers call a target is understood as an option too.
-    if (alias != fmt::format("target-{}", parameter.name.Text())) names.push_back(alias);
+    if (alias != Formatted("target-{}", parameter.name.Text())) names.push_back(alias);
   }
   return names;
 }

@@ -1,11 +1,10 @@
 #include "help_usage.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <optional>
 #include <string_view>
 
+#include "format/format.h"
 #include "help.h"
 
 using namespace planner;
@@ -84,7 +83,7 @@ std::string MetavariableOf(const Test& test, Name name) {
   const bool isOfManyGroups = test.groups == groupsFromInputs && name == Name("means");
   if (isOfManyGroups) return " M1,M2,M3";
   for (const auto& [input, text] : metavariables) {
-    if (input == name.Text()) return fmt::format(" {}", text);
+    if (input == name.Text()) return Formatted(" {}", text);
   }
   return parameter.kind == Kind::Choice ? " WORD" : parameter.IsList() ? " X1,X2" : " X";
 }
@@ -98,7 +97,7 @@ std::string Usage(const Test& test, const Route& route) {
   for (Name need : route.needs) text += ' ' + given(need);
   if (asker) text += ' ' + given(*asker);
   for (Name input : route.accepts) {
-    if (input != asker && !Contains(OfferedInputs(), input)) text += fmt::format(" [{}]", given(input));
+    if (input != asker && !Contains(OfferedInputs(), input)) text += Formatted(" [{}]", given(input));
   }
   return text;
 }
@@ -124,7 +123,7 @@ const Example& FirstExample(const Test& test) {
 }
 
 std::string ExampleText(const Example& example) {
-  return fmt::format("  kelpower {}\n    {}\n", example.arguments, example.sentence);
+  return Formatted("  kelpower {}\n    {}\n", example.arguments, example.sentence);
 }
 
 std::string UsageSection(const Test& test, const Highlights& highlights) {
@@ -132,7 +131,7 @@ std::string UsageSection(const Test& test, const Highlights& highlights) {
   for (Question question :
        {Question::Power, Question::SampleSize, Question::HalfWidth, Question::SampleSizeForHalfWidth}) {
     if (!Answers(test, question)) continue;
-    text += fmt::format("{}{}{}\n", highlights.heading, HeadingOf(question), highlights.end);
+    text += Formatted("{}{}{}\n", highlights.heading, HeadingOf(question), highlights.end);
     for (const Route& route : test.routes) {
       if (route.question == question) text += "  " + Usage(test, route) + '\n';
     }

@@ -1,5 +1,3 @@
-#include <fmt/format.h>
-
 #include <cstdio>
 #include <exception>
 #include <string>
@@ -9,6 +7,7 @@
 #include "complete.h"
 #include "computation.h"
 #include "designs.h"
+#include "format/format.h"
 #include "help.h"
 #include "man_page.h"
 #include "solve/solve.h"
@@ -18,12 +17,14 @@
 #include "words/problem.h"
 #include "words/render.h"
 
+using planner::Formatted;
+
 namespace {
 
 enum Status { done = 0, failed = 1, wrongInput = 2, noSolution = 3, interrupted = 130 };
 
 std::string Overview(const planner::Highlights& highlights) {
-  return fmt::format(
+  return Formatted(
       "{0}kelpower{1} plans studies: power, sample size and precision of statistical tests.\n\n"
       "  kelpower TEST [options]         what you leave out is what is solved for\n"
       "  kelpower TEST --help            what a test takes and answers, with examples\n"
@@ -99,7 +100,7 @@ Status Print(const std::string& text) {
 }
 
 Status Complain(const std::string& sentence, Status status) {
-  std::fputs(fmt::format("kelpower: {}\n", sentence).c_str(), stderr);
+  std::fputs(Formatted("kelpower: {}\n", sentence).c_str(), stderr);
   return status;
 }
 

@@ -1,7 +1,5 @@
 #include "man_page.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <charconv>
 #include <chrono>
@@ -10,8 +8,10 @@
 
 #include "catalogue/catalogue.h"
 #include "catalogue/effects.h"
+#include "format/format.h"
 #include "help_usage.h"
 #include "usage_error.h"
+#include "words/numbers.h"
 
 using namespace planner;
 
@@ -25,15 +25,15 @@ std::chrono::sys_seconds Today() {
   long long seconds = -1;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
   if (error != std::errc() || end != text.data() + text.size() || seconds < 0 || seconds > last) {
-    throw UsageError(fmt::format("SOURCE_DATE_EPOCH is \"{}\", but must be a number of seconds since 1970.", text));
+    throw UsageError(Formatted("SOURCE_DATE_EPOCH is \"{}\", but must be a number of seconds since 1970.", text));
   }
   return std::chrono::sys_seconds(std::chrono::seconds(seconds));
 }
 
 std::string Date() {
   const std::chrono::year_month_day day(std::chrono::floor<std::chrono::days>(Today()));
-  return fmt::format("{:04}-{:02}-{:02}", static_cast<int>(day.year()), static_cast<unsigned>(day.month()),
-                     static_cast<unsigned>(day.day()));
+  return Formatted("{:04}-{:02}-{:02}", static_cast<int>(day.year()), static_cast<unsigned>(day.month()),
+                   static_cast<unsigned>(day.day()));
 }
 
 ManPage Begin(const std::string& name, const std::string& title) {
@@ -48,7 +48,7 @@ void AddSeeAlso(ManPage& page, const std::vector<std::string>& names) {
   page.Section("SEE ALSO");
   std::vector<std::string> references;
   for (const std::string& name : names) references.push_back(Bold(name) + "(1)");
-  page.Paragraph(fmt::format("{}", fmt::join(references, ",\n")));
+  page.Paragraph(Joined(references, ",\n", ",\n"));
 }
 
 /// The tests that the text names.
@@ -86,7 +86,7 @@ void AddFormulas(ManPage& page, const Effects& effects) {
     const auto& sizes = effects.sizes;
     const auto size =
         std::find_if(sizes.begin(), sizes.end(), [&](const EffectSize& it) { return it.name == formula.effect; });
-    page.Item(Prose(size->label), fmt::format("{}\n.br\n{}", Prose(formula.formula), Prose(formula.source)));
+    page.Item(Prose(size->label), Formatted("{}\n.br\n{}", Prose(formula.formula), Prose(formula.source)));
   }
 }
 
@@ -175,7 +175,7 @@ std::string OfProgram() {
   std::vector<std::string> calls;
   for (const char* arguments : {"TEST INPUTS [--explain] [--format WORD] [--chart AXIS]", "run FILE", "effect INPUTS",
                                 "list", "--help", "--version"}) {
-    calls.push_back(UsageInFonts(fmt::format("kelpower {}", arguments)));
+    calls.push_back(UsageInFonts(Formatted("kelpower {}", arguments)));
   }
   page.Lines(calls);
   page.Section("DESCRIPTION");
@@ -212,5 +212,5 @@ std::string ManPageOf(const std::string& command) {
   if (command == "run") return OfRun();
   if (command == "effect") return OfEffects();
   if (const Test* test = FindTest(command)) return OfTest(*test);
-  throw UsageError(fmt::format("\"{}\" has no manual page.", command));
+  throw UsageError(Formatted("\"{}\" has no manual page.", command));
 }

@@ -1,5 +1,3 @@
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <cctype>
 #include <iterator>
@@ -7,6 +5,7 @@
 #include <sstream>
 #include <vector>
 
+#include "format/format.h"
 #include "help.h"
 #include "help_inputs.h"
 #include "help_usage.h"
@@ -15,6 +14,7 @@
 #include "solve/solve.h"
 #include "words/example_inputs.h"
 #include "words/explain.h"
+#include "words/numbers.h"
 
 using namespace planner;
 
@@ -33,7 +33,7 @@ std::string WordInFonts(std::string word) {
 
 /// An option with what stands for its value.
 std::string TermOf(const std::string& names, std::string_view value) {
-  return value.empty() ? names : fmt::format("{} {}", names, WordInFonts(std::string(value)));
+  return value.empty() ? names : Formatted("{} {}", names, WordInFonts(std::string(value)));
 }
 
 void AddQuestions(ManPage& page, const Test& test) {
@@ -61,7 +61,7 @@ void AddQuestions(ManPage& page, const Test& test) {
 
 std::string RangeOfAxis(const Axis& axis) {
   if (axis.isOfSizes) return ", from the smallest";
-  return axis.usual ? fmt::format(", {} to {}", axis.usual->from, axis.usual->to) : "";
+  return axis.usual ? Formatted(", {} to {}", axis.usual->from, axis.usual->to) : "";
 }
 
 void AddCharts(ManPage& page, const Test& test) {
@@ -134,9 +134,9 @@ void AddInputs(ManPage& page, const Test& test, bool areOffered) {
     for (const std::string& name : NamesOf(parameter)) names.push_back(Bold(OptionOf(name)));
     std::string text = Prose(MeaningOf(parameter));
     if (const std::string range = RangeOf(test, parameter); !range.empty()) {
-      text += fmt::format("\n.br\n{}", Prose(fmt::format("({})", range)));
+      text += Formatted("\n.br\n{}", Prose(Formatted("({})", range)));
     }
-    page.Item(TermOf(fmt::format("{}", fmt::join(names, ", ")), KindOfValue(parameter)), text);
+    page.Item(TermOf(Joined(names, ", "), KindOfValue(parameter)), text);
   }
 }
 

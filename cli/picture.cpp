@@ -1,7 +1,6 @@
 #include "picture.h"
 
-#include <fmt/format.h>
-
+#include "format/format.h"
 #include "gnuplot.h"
 #include "pictures/gnuplot.h"
 #include "pictures/svg.h"
@@ -10,6 +9,7 @@
 namespace {
 
 using planner::ChartData;
+using planner::Formatted;
 
 constexpr const char* font = "DejaVu Sans";
 constexpr double usualWidth = 900;
@@ -41,8 +41,8 @@ std::string Drawn(const ChartData& chart, const PictureOptions& options, const s
 }  // namespace
 
 std::string SvgPicture(const ChartData& chart, const PictureOptions& options) {
-  const std::string terminal = fmt::format("svg noenhanced background rgb 'white' size {:.0f},{:.0f} font '{},{}'",
-                                           WidthOf(options), HeightOf(options), font, letterSize);
+  const std::string terminal = Formatted("svg noenhanced background rgb 'white' size {:.0f},{:.0f} font '{},{}'",
+                                         WidthOf(options), HeightOf(options), font, letterSize);
   const std::string title = options.title.empty() ? planner::FigureOf(chart).title : options.title;
   return planner::WithTitleAndDescription(Drawn(chart, options, terminal, letterSize), title,
                                           planner::DescriptionOf(chart));
@@ -51,7 +51,7 @@ std::string SvgPicture(const ChartData& chart, const PictureOptions& options) {
 std::string PngPicture(const ChartData& chart, const PictureOptions& options) {
   constexpr double points = letterSize / pixelsOfPoint;
   const double scale = options.dpi.value_or(usualDpi) / usualDpi;
-  const std::string terminal = fmt::format(
+  const std::string terminal = Formatted(
       "pngcairo noenhanced size {:.0f},{:.0f} font '{},{:.3g}' fontscale {:.4g} linewidth {:.4g} pointscale {:.4g}",
       scale * WidthOf(options), scale * HeightOf(options), font, points, scale, scale, scale);
   return Drawn(chart, options, terminal, points);
@@ -59,14 +59,14 @@ std::string PngPicture(const ChartData& chart, const PictureOptions& options) {
 
 std::string PdfPicture(const ChartData& chart, const PictureOptions& options) {
   constexpr double points = letterSize / pixelsOfPoint;
-  const std::string terminal = fmt::format("pdfcairo noenhanced size {:.4g}in,{:.4g}in font '{},{:.3g}' fontscale 1",
-                                           WidthOf(options) / usualDpi, HeightOf(options) / usualDpi, font, points);
+  const std::string terminal = Formatted("pdfcairo noenhanced size {:.4g}in,{:.4g}in font '{},{:.3g}' fontscale 1",
+                                         WidthOf(options) / usualDpi, HeightOf(options) / usualDpi, font, points);
   return Drawn(chart, options, terminal, points);
 }
 
 std::string PictureInCharacters(const ChartData& chart, const PictureOptions& options) {
   const TerminalSize size = SizeOf(stdout);
-  const std::string terminal = fmt::format("dumb {} {} noenhanced", size.columns, size.lines);
+  const std::string terminal = Formatted("dumb {} {} noenhanced", size.columns, size.lines);
   const auto columns = static_cast<std::size_t>(size.columns);
   const planner::Figure figure = planner::FigureOf(chart, options.title, columns > 4 ? columns - 4 : columns);
   const std::string drawn =

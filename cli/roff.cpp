@@ -1,8 +1,10 @@
 #include "roff.h"
 
-#include <fmt/format.h>
-
 #include <cctype>
+
+#include "format/format.h"
+
+using planner::Formatted;
 
 namespace {
 
@@ -31,15 +33,15 @@ std::string Escaped(char letter) {
 }  // namespace
 
 ManPage::ManPage(const std::string& name, const std::string& date, const std::string& version)
-    : text_(fmt::format(".TH {} 1 {} \"kelpower {}\" \"User Commands\"\n.ad l\n.nh\n", Literal(name), date, version)) {}
+    : text_(Formatted(".TH {} 1 {} \"kelpower {}\" \"User Commands\"\n.ad l\n.nh\n", Literal(name), date, version)) {}
 
 void ManPage::Section(std::string_view title) {
-  text_ += fmt::format(".SH {}\n", title);
+  text_ += Formatted(".SH {}\n", title);
   isBegun_ = true;
 }
 
 void ManPage::Subsection(const std::string& title) {
-  text_ += fmt::format(".SS {}\n", title);
+  text_ += Formatted(".SS {}\n", title);
   isBegun_ = true;
 }
 
@@ -99,5 +101,5 @@ std::string Literal(std::string_view text) {
   return roff;
 }
 
-std::string Bold(std::string_view literal) { return fmt::format("\\fB{}\\fR", Literal(literal)); }
-std::string Italic(std::string_view literal) { return fmt::format("\\fI{}\\fR", Literal(literal)); }
+std::string Bold(std::string_view literal) { return Formatted("\\fB{}\\fR", Literal(literal)); }
+std::string Italic(std::string_view literal) { return Formatted("\\fI{}\\fR", Literal(literal)); }

@@ -1,13 +1,12 @@
 #include "rows_input.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
 #include <system_error>
 
+#include "format/format.h"
 #include "terminal.h"
 #include "usage_error.h"
 #include "words/csv.h"
@@ -15,6 +14,7 @@
 namespace {
 
 using planner::DesignFormat;
+using planner::Formatted;
 
 constexpr std::size_t readAtOnce = 1 << 18;
 
@@ -33,7 +33,7 @@ DesignFormat FormatOfName(const std::string& name) {
   if (ending == ".csv") return DesignFormat::Csv;
   if (ending == ".ndjson" || ending == ".jsonl") return DesignFormat::Ndjson;
   if (ending == ".json") return DesignFormat::Json;
-  throw UsageError(fmt::format("The file is \"{}\", but must end in .csv, .ndjson or .json.", name));
+  throw UsageError(Formatted("The file is \"{}\", but must end in .csv, .ndjson or .json.", name));
 }
 
 DesignFormat FormatOfText(std::string_view text) {
@@ -50,11 +50,11 @@ RowsInput::RowsInput(const std::string& name) : name_(name), file_(stdin), forma
   if (isFile) {
     format_ = FormatOfName(name);
     std::error_code error;
-    if (std::filesystem::is_directory(name, error)) throw UsageError(fmt::format("\"{}\" is a folder.", name));
+    if (std::filesystem::is_directory(name, error)) throw UsageError(Formatted("\"{}\" is a folder.", name));
     const auto size = std::filesystem::file_size(name, error);
     if (!error) size_ = static_cast<double>(size);
     file_ = std::fopen(name.c_str(), "rb");
-    if (!file_) throw UsageError(fmt::format("\"{}\" cannot be read: {}.", name, std::strerror(errno)));
+    if (!file_) throw UsageError(Formatted("\"{}\" cannot be read: {}.", name, std::strerror(errno)));
   } else {
     PrepareStandardInput();
   }
@@ -81,7 +81,7 @@ std::string RowsInput::Take(std::size_t bytes) {
     } else if (end > at_) {
       break;
     } else if (Rest().size() > longestRow) {
-      throw UsageError(fmt::format("A row of \"{}\" is longer than {} bytes; is a quote missing?", name_, longestRow));
+      throw UsageError(Formatted("A row of \"{}\" is longer than {} bytes; is a quote missing?", name_, longestRow));
     } else if (!Fill()) {
       end = buffer_.size();
       break;
@@ -109,7 +109,7 @@ bool RowsInput::Fill() {
   const std::size_t read = std::fread(buffer_.data() + before, 1, readAtOnce, file_);
   buffer_.resize(before + read);
   if (read == 0 && std::ferror(file_) != 0) {
-    throw UsageError(fmt::format("\"{}\" cannot be read: {}.", name_, std::strerror(errno)));
+    throw UsageError(Formatted("\"{}\" cannot be read: {}.", name_, std::strerror(errno)));
   }
   return read > 0;
 }

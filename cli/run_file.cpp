@@ -1,5 +1,3 @@
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
@@ -11,6 +9,7 @@
 
 #include "designs.h"
 #include "designs_output.h"
+#include "format/format.h"
 #include "interrupts_stop.h"
 #include "ordered_work.h"
 #include "pace.h"
@@ -23,6 +22,7 @@ namespace {
 
 using planner::DesignFormat;
 using planner::FileOfDesigns;
+using planner::Formatted;
 
 DesignFormat AnswerFormat(const Request& request, DesignFormat input) {
   if (!request.formatGiven) return input;
@@ -40,7 +40,7 @@ void RejectSameFile(const Request& request) {
   if (request.output.empty() || request.input == "-") return;
   std::error_code error;
   if (std::filesystem::equivalent(request.input, request.output, error)) {
-    throw UsageError(fmt::format("--output is \"{}\", the file of the designs itself.", request.output));
+    throw UsageError(Formatted("--output is \"{}\", the file of the designs itself.", request.output));
   }
 }
 

@@ -1,5 +1,3 @@
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
@@ -10,6 +8,7 @@
 
 #include "designs.h"
 #include "designs_output.h"
+#include "format/format.h"
 #include "help.h"
 #include "interrupts.h"
 #include "interrupts_stop.h"

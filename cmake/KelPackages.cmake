@@ -41,7 +41,6 @@ function(kel_header_package package folder target)
 endfunction()
 
 kel_header_package(fmt fmt fmt::fmt)
-target_compile_definitions(fmt::fmt INTERFACE FMT_HEADER_ONLY)
 kel_header_package(nlohmann_json nlohmann nlohmann_json::nlohmann_json)
 kel_header_package(FastFloat fast_float FastFloat::fast_float)
 if(KELPOWER_BUILD_CLI)

@@ -29,7 +29,7 @@ std::optional<EffectValue> GivenRSquared(const Inputs& in) {
   return WithInterval<core::EtaSquared>(in.Number("r-squared"), in);
 }
 
-double Noncentrality(double fSquared, const Inputs& in) {
+double NoncentralityOfF(double fSquared, const Inputs& in) {
   const std::optional<core::FStatistic> test = FTestOf(in);
   return test ? fSquared * test->size : NAN;
 }
@@ -72,7 +72,7 @@ void AddEffectsFromFSquared(Effects& effects) {
   AddCorrectedShares(effects);
   formulas.push_back({.effect = "noncentrality",
                       .from = "f2",
-                      .map = Noncentrality,
+                      .map = NoncentralityOfF,
                       .formula = "noncentrality of F = N f2",
                       .source = "Smithson (2001), Educational and Psychological Measurement 61, 605-632"});
 }

@@ -32,16 +32,18 @@ std::optional<EffectValue> OfMean(const Inputs& in) {
   return AtSize((in.Number("mean") - in.Number("test-value")) / in.List("sd").front(), in);
 }
 
-std::optional<EffectValue> OfT(const Inputs& in) { return AtSize(in.Number("t") / std::sqrt(*SizeOf(in)), in); }
+std::optional<EffectValue> OfOneSampleT(const Inputs& in) {
+  return AtSize(in.Number("t") / std::sqrt(*SizeOf(in)), in);
+}
 
-std::optional<EffectValue> OfD(const Inputs& in) { return AtSize(in.Number("effect-d"), in); }
+std::optional<EffectValue> OfOneSampleD(const Inputs& in) { return AtSize(in.Number("effect-d"), in); }
 
-double Corrected(double d, const Inputs& in) {
+double CorrectedOneSample(double d, const Inputs& in) {
   const std::optional<double> size = SizeOf(in);
   return size ? d * core::HedgesFactor(*size - 1) : NAN;
 }
 
-double Noncentrality(double d, const Inputs& in) {
+double OneSampleNoncentrality(double d, const Inputs& in) {
   const std::optional<double> size = SizeOf(in);
   return size ? d * std::sqrt(*size) : NAN;
 }
@@ -70,17 +72,17 @@ void AddEffectsOfOneSample(Effects& effects) {
         .compute = OfMean,
         .formula = "dz = (mean - test value) / sd",
         .source = source},
-       {.effect = "dz", .needs = {"t"}, .compute = OfT, .formula = "dz = t / sqrt(n)", .source = source},
-       {.effect = "dz", .needs = {"effect-d"}, .compute = OfD, .formula = "dz as given", .source = source},
+       {.effect = "dz", .needs = {"t"}, .compute = OfOneSampleT, .formula = "dz = t / sqrt(n)", .source = source},
+       {.effect = "dz", .needs = {"effect-d"}, .compute = OfOneSampleD, .formula = "dz as given", .source = source},
        {.effect = "gz",
         .from = "dz",
-        .map = Corrected,
+        .map = CorrectedOneSample,
         .formula = "gz = J dz, J = Gamma(df / 2) / (sqrt(df / 2) Gamma((df - 1) / 2)), df = n - 1",
         .source = "Hedges (1981), Journal of Educational Statistics 6, 107-128",
         .note = "Hedges' gz is dz corrected for its bias in small samples."},
        {.effect = "noncentrality",
         .from = "dz",
-        .map = Noncentrality,
+        .map = OneSampleNoncentrality,
         .formula = "noncentrality of t = dz sqrt(n)",
         .source = "Cumming and Finch (2001), Educational and Psychological Measurement 61, 532-574"}});
 }

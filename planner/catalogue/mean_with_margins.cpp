@@ -11,7 +11,7 @@ MeanQuestion QuestionOf(const Inputs& in) {
   return {DifferenceOfMean(in), false, kelpower::means::SingleMean(in.Number("n"), in.Number("sd"))};
 }
 
-double Power(const Inputs& in) { return PowerOfMeans(in, QuestionOf(in)); }
+double PowerWithMargins(const Inputs& in) { return PowerOfMeans(in, QuestionOf(in)); }
 
 }  // namespace
 
@@ -19,7 +19,7 @@ std::string HypothesisOfMean(const Inputs& in) { return HypothesisOfMargins(in, 
 
 std::vector<Route> RoutesOfMeanWithMargins() {
   return WithMargins({
-      {.question = Question::Power, .needs = {"mean", "sd", "n"}, .accepts = {"test-value"}, .value = Power},
+      {.question = Question::Power, .needs = {"mean", "sd", "n"}, .accepts = {"test-value"}, .value = PowerWithMargins},
       {.question = Question::SampleSize, .needs = {"mean", "sd"}, .accepts = {"test-value"}},
   });
 }

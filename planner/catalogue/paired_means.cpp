@@ -38,10 +38,11 @@ kelpower::means::PairedSpread SpreadOfPairedMeans(const Inputs& in) {
   return {in.List("sds")[0], in.List("sds")[1], in.Number("correlation")};
 }
 
-double EffectSizeOfPairedMeans(const Inputs& in) {
-  return DifferenceOfPairedMeans(in) /
-         kelpower::means::DifferenceVariance::Of(SpreadOfPairedMeans(in)).StandardDeviation();
+double SdOfPairedDifferences(const Inputs& in) {
+  return kelpower::means::DifferenceVariance::Of(SpreadOfPairedMeans(in)).StandardDeviation();
 }
+
+double EffectSizeOfPairedMeans(const Inputs& in) { return DifferenceOfPairedMeans(in) / SdOfPairedDifferences(in); }
 
 double EffectOfPairedMeans(const Inputs& in) {
   return in.Has("effect-d") ? in.Number("effect-d") : EffectSizeOfPairedMeans(in);

@@ -14,6 +14,9 @@ namespace planner {
 /// The first mean less the second.
 double DifferenceOfPairedMeans(const Inputs& in);
 
+/// The standard deviation of the differences.
+double SdOfPairedDifferences(const Inputs& in);
+
 /// The mean of the differences over their standard deviation.
 double EffectSizeOfPairedMeans(const Inputs& in);
 

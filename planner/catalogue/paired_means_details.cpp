@@ -11,24 +11,12 @@ namespace {
 
 namespace means = kelpower::means;
 
-double SdOfDifferences(const Inputs& in) {
-  if (in.Has("sd-difference")) return in.Number("sd-difference");
-  const Numbers& sds = in.List("sds");
-  return means::DifferenceVariance::Of({sds[0], sds[1], in.Number("correlation")}).StandardDeviation();
-}
-
-double EffectSize(const Inputs& in) {
-  if (in.Has("effect-d")) return in.Number("effect-d");
-  const double difference = in.Has("means") ? in.List("means")[0] - in.List("means")[1] : in.Number("mean-difference");
-  return difference / SdOfDifferences(in);
-}
-
 Details OfHalfWidth(const Inputs& in) {
   const double n = in.Number("n");
   Details details;
-  details.Add("sd-of-differences", "standard deviation of the differences", SdOfDifferences(in));
+  details.Add("sd-of-differences", "standard deviation of the differences", SdOfPairedDifferences(in));
   AddIntervalT(details, in.Alpha(), n - 1);
-  details.value = means::HalfWidth(means::MeanInterval{SdOfDifferences(in), in.Alpha()}, n);
+  details.value = means::HalfWidth(means::MeanInterval{SdOfPairedDifferences(in), in.Alpha()}, n);
   details.formula = "half-width = t sd / sqrt(n) = {quantile-t} x {sd-of-differences} / sqrt({n})";
   details.source = "Hahn and Meeker (1991), Statistical Intervals, section 4.2, of the differences";
   details.equivalents = {{.program = "R", .call = "qt(1 - {alpha} / 2, {df}) * {sd-of-differences} / sqrt({n})"}};
@@ -55,10 +43,11 @@ void AddSas(Details& details, const Inputs& in) {
 Details DetailsOfPairedMeans(Question question, const Inputs& in) {
   if (!IsAboutPower(question)) return OfHalfWidth(in);
   if (HasMargins(in)) return DetailsOfPairedMeansWithMargins(in);
-  const double d = EffectSize(in);
+  const double d = EffectOfPairedMeans(in);
   const means::TTestOfAMean test = means::OneSampleTest(SidesOf(in), in.Number("n"), in.Alpha());
   Details details;
-  if (in.Has("sds")) details.Add("sd-of-differences", "standard deviation of the differences", SdOfDifferences(in));
+  if (in.Has("sds"))
+    details.Add("sd-of-differences", "standard deviation of the differences", SdOfPairedDifferences(in));
   details.Add("d", "mean difference over its standard deviation", IsOneSided(in) ? std::abs(d) : d);
   AddTTest(details, test.AtCriticalValue(), test.Noncentrality(d), IsOneSided(in),
            "noncentrality = sqrt(n) d = sqrt({n}) x {d}");

@@ -11,7 +11,7 @@ MeanQuestion QuestionOf(const Inputs& in) {
   return {DifferenceOfPairedMeans(in), false, means::SingleMean(in.Number("n"), sd)};
 }
 
-double Power(const Inputs& in) { return PowerOfMeans(in, QuestionOf(in)); }
+double PowerWithMargins(const Inputs& in) { return PowerOfMeans(in, QuestionOf(in)); }
 
 }  // namespace
 
@@ -21,8 +21,8 @@ std::string HypothesisOfPairedMeans(const Inputs& in) {
 
 std::vector<Route> RoutesOfPairedMeansWithMargins() {
   return WithMargins({
-      {.question = Question::Power, .needs = {"means", "sds", "correlation", "n"}, .value = Power},
-      {.question = Question::Power, .needs = {"mean-difference", "sd-difference", "n"}, .value = Power},
+      {.question = Question::Power, .needs = {"means", "sds", "correlation", "n"}, .value = PowerWithMargins},
+      {.question = Question::Power, .needs = {"mean-difference", "sd-difference", "n"}, .value = PowerWithMargins},
       {.question = Question::SampleSize, .needs = {"means", "sds", "correlation"}},
       {.question = Question::SampleSize, .needs = {"mean-difference", "sd-difference"}},
   });

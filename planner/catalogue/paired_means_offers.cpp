@@ -2,6 +2,7 @@
 #include "catalogue/expected.h"
 #include "catalogue/mean_parameters.h"
 #include "catalogue/offers.h"
+#include "catalogue/paired_means.h"
 #include "means/one_sample.h"
 #include "means/paired.h"
 
@@ -10,13 +11,9 @@ namespace {
 
 namespace assurance = kelpower::assurance;
 
-double SdOfDifferences(const Inputs& in) {
-  if (in.Has("sd-difference")) return in.Number("sd-difference");
-  const Numbers& sds = in.List("sds");
-  return kelpower::means::DifferenceVariance::Of({sds[0], sds[1], in.Number("correlation")}).StandardDeviation();
+assurance::MeanEstimate EstimateOf(const Inputs& in) {
+  return assurance::MeanEstimate::OfMean(SdOfPairedDifferences(in));
 }
-
-assurance::MeanEstimate EstimateOf(const Inputs& in) { return assurance::MeanEstimate::OfMean(SdOfDifferences(in)); }
 
 assurance::Wish WishOf(const Inputs& in) { return {in.Number("half-width"), in.Alpha()}; }
 
@@ -33,7 +30,7 @@ double EffectOf(const Inputs& in) {
 
 double ExpectedPower(const Inputs& in) {
   if (in.Number("n") <= 1) return OrNaN(kelpower::NoValue::Refused);
-  const double unit = in.Has("effect-d") ? 1 : SdOfDifferences(in);
+  const double unit = in.Has("effect-d") ? 1 : SdOfPairedDifferences(in);
   const auto test = kelpower::means::OneSampleTest(SidesOf(in), in.Number("n"), in.Alpha());
   return ExpectedPowerOfT(test, EffectOf(in) / unit, in.Number("effect-sd") / unit);
 }

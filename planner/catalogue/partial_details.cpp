@@ -6,12 +6,10 @@ namespace {
 
 namespace correlation = kelpower::correlation;
 
-double PartialledOut(const Inputs& in) { return in.Has("partialled-out") ? in.Number("partialled-out") : 0; }
-
 }  // namespace
 
 Details DetailsOfPartial(Question question, const Inputs& in) {
-  const double k = PartialledOut(in);
+  const double k = in.Has("partialled-out") ? in.Number("partialled-out") : 0;
   if (!IsAboutPower(question)) {
     return DetailsOfPearsonInterval({correlation::Confidence(in.Alpha()), in.Number("r"), k, false}, in);
   }

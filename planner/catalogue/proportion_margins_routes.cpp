@@ -12,12 +12,12 @@ double Power(const Inputs& in) {
       proportions::OneSampleMarginTest(OneSampleMarginDesignOf(in)).Power(in.Number("n"), in.Number("proportion")));
 }
 
-Numbers Size(const Inputs& in) {
+Numbers SizeWithMargin(const Inputs& in) {
   return RoundedUp(
       proportions::FirstSize(OneSampleMarginDesignOf(in), in.Number("proportion"), in.Number("power"), StopOf(in)));
 }
 
-double LastingSize(const Inputs& in) {
+double LastingSizeWithMargin(const Inputs& in) {
   return OrNaN(
       proportions::LastingSize(OneSampleMarginDesignOf(in), in.Number("proportion"), in.Number("power"), StopOf(in)));
 }
@@ -36,8 +36,8 @@ std::vector<Route> MarginRoutesOfProportion() {
       {.question = Question::SampleSize,
        .needs = {"proportion", "null", "exact"},
        .accepts = {"margin-scale"},
-       .lastingSize = LastingSize,
-       .sizes = Size},
+       .lastingSize = LastingSizeWithMargin,
+       .sizes = SizeWithMargin},
   });
 }
 

@@ -32,7 +32,7 @@ Numbers AssuredSize(const Inputs& in) {
       in, [&](const auto& wish) { return assurance::FirstSize(wish, wished, kelpower::largestCount, StopOf(in)); }));
 }
 
-Numbers LastingSize(const Inputs& in) {
+Numbers LastingAssuredSize(const Inputs& in) {
   const double wished = in.Number("assurance");
   return RoundedUp(WithWish(
       in, [&](const auto& wish) { return assurance::LastingSize(wish, wished, kelpower::largestCount, StopOf(in)); }));
@@ -44,7 +44,7 @@ Offers OffersOfProportion() {
   return {.population = FinitePopulation::EnlargesSample,
           .assurance = Assurance,
           .assuredSizes = AssuredSize,
-          .lastingAssuredSizes = LastingSize};
+          .lastingAssuredSizes = LastingAssuredSize};
 }
 
 }  // namespace planner

@@ -5,6 +5,7 @@
 
 #include "model/inputs.h"
 #include "model/test.h"
+#include "regression/test_of_predictors.h"
 
 // What the questions about predictors of a regression and their charts share.
 namespace planner {
@@ -23,6 +24,8 @@ inline bool Intercept(const Inputs& in) { return !in.Flag("no-intercept"); }
 
 /// The smallest number of cases that leaves something to estimate the error variance from.
 inline double SmallestSize(const Inputs& in) { return Predictors(in) + (Intercept(in) ? 2 : 1); }
+
+kelpower::regression::Effect EffectOfRegression(const Inputs& in);
 
 std::vector<Route> RoutesOfRegression();
 std::vector<Unknown> UnknownsOfRegression();

@@ -1,16 +1,11 @@
 #include "catalogue/details.h"
+#include "catalogue/regression.h"
 #include "regression/test_of_predictors.h"
 
 namespace planner {
 namespace {
 
 namespace regression = kelpower::regression;
-
-regression::Effect EffectOf(const Inputs& in) {
-  if (in.Has("effect-f2")) return regression::Effect::OfFSquared(in.Number("effect-f2"));
-  return regression::Effect::OfRSquared(in.Number("r-squared"),
-                                        in.Has("r-squared-reduced") ? in.Number("r-squared-reduced") : 0);
-}
 
 void AddRandom(Details& details) {
   details.formula =
@@ -58,7 +53,7 @@ Details DetailsOfRegression(Question, const Inputs& in) {
   const double tested = in.Has("tested") ? in.Number("tested") : predictors;
   const bool isRandom = in.Flag("random");
   const bool hasIntercept = !in.Flag("no-intercept");
-  const regression::Effect effect = EffectOf(in);
+  const regression::Effect effect = EffectOfRegression(in);
   const auto test =
       regression::RegressionTest::Checked({predictors, tested, isRandom, hasIntercept, in.Alpha()}, in.Number("n"));
   Details details;

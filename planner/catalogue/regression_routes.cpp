@@ -13,12 +13,7 @@ regression::Model ModelOf(const Inputs& in) {
   return {Predictors(in), TestedPredictors(in), in.Flag("random"), Intercept(in), in.Alpha()};
 }
 
-regression::Effect EffectOf(const Inputs& in) {
-  if (in.Has("effect-f2")) return regression::Effect::OfFSquared(in.Number("effect-f2"));
-  return regression::Effect::OfRSquared(in.Number("r-squared"), ReducedFit(in));
-}
-
-double Power(const Inputs& in) { return OrNaN(regression::Power(ModelOf(in), in.Number("n"), EffectOf(in))); }
+double Power(const Inputs& in) { return OrNaN(regression::Power(ModelOf(in), in.Number("n"), EffectOfRegression(in))); }
 
 /// Powers over many effects at the same size.
 class PowersOverEffects {
@@ -31,7 +26,7 @@ public:
                            model.alpha, size},
                           model, size)
                      .test;
-    return test ? test->PowerOfMany(EffectOf(in)) : OrNaN(kelpower::NoValue::Refused);
+    return test ? test->PowerOfMany(EffectOfRegression(in)) : OrNaN(kelpower::NoValue::Refused);
   }
 
 private:
@@ -44,10 +39,15 @@ private:
 };
 
 Numbers Size(const Inputs& in) {
-  return RoundedUp(regression::SizeForPower(ModelOf(in), EffectOf(in), in.Number("power")));
+  return RoundedUp(regression::SizeForPower(ModelOf(in), EffectOfRegression(in), in.Number("power")));
 }
 
 }  // namespace
+
+regression::Effect EffectOfRegression(const Inputs& in) {
+  if (in.Has("effect-f2")) return regression::Effect::OfFSquared(in.Number("effect-f2"));
+  return regression::Effect::OfRSquared(in.Number("r-squared"), ReducedFit(in));
+}
 
 std::vector<Route> RoutesOfRegression() {
   const Names ofFits{"r-squared-reduced", "tested", "random", "no-intercept"};

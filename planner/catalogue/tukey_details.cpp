@@ -50,7 +50,8 @@ Details OfPair(const comparisons::TukeyTest& test, const Inputs& in) {
        .call = "pt(qtukey(1 - {alpha}, {groups}, {df}) / sqrt(2), {df}, {noncentrality}, lower.tail = FALSE) + "
                "pt(-qtukey(1 - {alpha}, {groups}, {df}) / sqrt(2), {df}, {noncentrality})",
        .remark = "the formula, from the noncentrality on"}};
-  details.source = std::string(source) + "; with the noncentral t distribution";
+  details.source = source;
+  details.source += "; with the noncentral t distribution";
   return details;
 }
 

@@ -15,6 +15,9 @@ namespace planner {
 /// The standard deviations, of which equal ones select the pooled test. An effect size is a difference in their unit.
 kelpower::means::GroupSpreads SpreadsOfTwoMeans(const Inputs& in);
 
+/// Of a second group whose size follows from the ratio.
+constexpr double smallestSecondGroup = 2;
+
 std::vector<Route> RoutesOfTwoMeans();
 /// Those of a ratio, and those against margins.
 std::vector<Route> RoutesOfTwoMeansWithMargins();

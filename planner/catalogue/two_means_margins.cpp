@@ -8,7 +8,7 @@ namespace {
 
 namespace means = kelpower::means;
 
-double Power(const Inputs& in) { return PowerOfMeans(in, QuestionOfTwoMeans(in)); }
+double PowerWithMargins(const Inputs& in) { return PowerOfMeans(in, QuestionOfTwoMeans(in)); }
 
 Condition HasEffect(Name about, bool (*holds)(const Inputs&)) {
   return {.code = "no-effect",
@@ -34,12 +34,15 @@ MeanQuestion QuestionOfTwoMeans(const Inputs& in) {
 
 std::vector<Route> RoutesOfTwoMeansWithMargins() {
   std::vector<Route> routes = {
-      {.question = Question::Power, .needs = {"mean-ratio", "cv", "n"}, .accepts = {"one-sided"}, .value = Power},
+      {.question = Question::Power,
+       .needs = {"mean-ratio", "cv", "n"},
+       .accepts = {"one-sided"},
+       .value = PowerWithMargins},
       {.question = Question::SampleSize, .needs = {"mean-ratio", "cv"}, .accepts = {"ratio", "one-sided"}},
   };
   std::vector<Route> plain;
   for (const Names& effect : {Names{"means", "sd"}, Names{"mean-difference", "sd"}, Names{"mean-ratio", "cv"}}) {
-    plain.push_back({.question = Question::Power, .needs = {effect[0], effect[1], "n"}, .value = Power});
+    plain.push_back({.question = Question::Power, .needs = {effect[0], effect[1], "n"}, .value = PowerWithMargins});
     plain.push_back({.question = Question::SampleSize, .needs = effect, .accepts = {"ratio"}});
   }
   const std::vector<Route> withMargins = WithMargins(plain);

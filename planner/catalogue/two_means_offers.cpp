@@ -4,6 +4,7 @@
 #include "catalogue/mean_parameters.h"
 #include "catalogue/offers.h"
 #include "catalogue/two_groups.h"
+#include "catalogue/two_means.h"
 #include "means/independent.h"
 
 namespace planner {
@@ -11,8 +12,6 @@ namespace {
 
 namespace assurance = kelpower::assurance;
 namespace means = kelpower::means;
-
-constexpr double smallestSecond = 2;
 
 bool IsPooled(const Inputs& in) { return in.List("sd")[0] == in.List("sd")[1]; }
 
@@ -36,7 +35,7 @@ Numbers AssuredSizes(const Inputs& in) {
   const double wished = in.Number("assurance");
   const kelpower::Answer first = IsPooled(in) ? assurance::FirstSize(EstimateOf(in, ratio), WishOf(in), wished)
                                               : assurance::FirstSize(GroupsOf(in), WishOf(in), ratio, wished);
-  return RoundedUp(first, ratio, smallestSecond);
+  return RoundedUp(first, ratio, smallestSecondGroup);
 }
 
 double EffectOf(const Inputs& in) { return in.Has("effect-d") ? in.Number("effect-d") : DifferenceOfMeans(in); }

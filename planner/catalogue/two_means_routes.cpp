@@ -20,13 +20,11 @@ means::TwoSampleDesign DesignOf(const Inputs& in) {
   return {DifferenceOfMeans(in), SpreadsOfTwoMeans(in), SidesOf(in), in.Alpha()};
 }
 
-constexpr double smallestSecond = 2;
-
 double Power(const Inputs& in) { return OrNaN(means::Power(DesignOf(in), in.List("n")[0], in.List("n")[1])); }
 
 Numbers Sizes(const Inputs& in) {
   const double ratio = in.Number("ratio");
-  return RoundedUp(means::FirstSizeForPower(DesignOf(in), ratio, in.Number("power")), ratio, smallestSecond);
+  return RoundedUp(means::FirstSizeForPower(DesignOf(in), ratio, in.Number("power")), ratio, smallestSecondGroup);
 }
 
 double HalfWidth(const Inputs& in) {
@@ -40,7 +38,7 @@ Numbers SizesForHalfWidth(const Inputs& in) {
   const double ratio = in.Number("ratio");
   const means::TwoSampleInterval interval{SpreadsOf(sds[0] / unit, sds[1] / unit), in.Alpha()};
   return RoundedUp(means::FirstSizeForHalfWidth(interval, ratio, in.Number("half-width") / unit), ratio,
-                   smallestSecond);
+                   smallestSecondGroup);
 }
 
 }  // namespace

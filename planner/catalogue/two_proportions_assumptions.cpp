@@ -12,7 +12,7 @@ std::string StandardError(const Inputs& in) {
   return IsPooled(in) ? "pooled" : "unpooled";
 }
 
-std::string Tails(const Inputs& in) {
+std::string TailsInWords(const Inputs& in) {
   if (!IsConditional(in) || in.Flag("one-sided")) return "";
   return "at most half of the level in each tail";
 }
@@ -34,7 +34,7 @@ std::vector<Assumption> AssumptionsOfTwoProportions() {
       {.name = "tails",
        .label = "tails of the test",
        .needs = {"method", "one-sided"},
-       .call = Tails,
+       .call = TailsInWords,
        .wording = ", with <0>,"},
       {.name = "corrected",
        .label = "corrected for continuity by",

@@ -40,7 +40,7 @@ bool CanCount(const Inputs& in) {
   return std::max(n[0], n[1]) <= kelpower::proportions::UnconditionalMarginTest::largestGroup;
 }
 
-bool IsShortSearch(const Inputs& in) {
+bool IsShortMarginSearch(const Inputs& in) {
   if (!HasMargins(in) || !in.Flag("exact")) return true;
   const Numbers sizes = LargeSampleMarginSizes(in);
   return !sizes.empty() && std::max(sizes[0], sizes[1]) <= largestExactMarginSearch;
@@ -84,7 +84,7 @@ std::vector<Condition> MarginSizeExistsForTwoProportions() {
   std::vector<Condition> conditions = WithinMargins("power", "difference or ratio", IsWithin);
   conditions.push_back({.code = "long-margin-search",
                         .about = {"power"},
-                        .holds = IsShortSearch,
+                        .holds = IsShortMarginSearch,
                         .sentence = "Exact tests with a margin are searched up to about 300 observations in a group: "
                                     "use a large-sample test for more."});
   return conditions;

@@ -63,7 +63,7 @@ void AddLargeSample(Details& details, const Inputs& in) {
   details.value = OrNaN(test.Power(of));
 }
 
-void AddExact(Details& details, const Inputs& in) {
+void AddExactWithMargins(Details& details, const Inputs& in) {
   const Numbers& n = in.List("n");
   const proportions::UnconditionalMarginTest test(ContrastLimitsOf(in), in.Alpha(), n[0], n[1]);
   details.Add("attained-level", "significance level attained", OrNaN(test.AttainedLevel()));
@@ -81,7 +81,7 @@ Details MarginDetailsOfTwoProportions(const Inputs& in) {
   details.Add("p1", "first proportion", FirstProportion(in));
   details.Add("p2", "second proportion", SecondProportion(in));
   if (in.Flag("exact")) {
-    AddExact(details, in);
+    AddExactWithMargins(details, in);
   } else {
     AddLargeSample(details, in);
   }

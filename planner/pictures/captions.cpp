@@ -1,15 +1,14 @@
 #include "pictures/captions.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 
+#include "format/format.h"
 #include "model/test.h"
 
 namespace planner {
 namespace {
 
-std::string Shown(double number) { return fmt::format("{:.6g}", number); }
+std::string Shown(double number) { return Formatted("{:.6g}", number); }
 
 std::string Shown(const Numbers& numbers) {
   const bool isEqual = std::equal(numbers.begin() + 1, numbers.end(), numbers.begin());
@@ -73,7 +72,7 @@ std::string PieceOf(const ChartData& chart, const ChartCurve& curve, const Param
   const bool isInterval =
       chart.quantity == Quantity::HalfWidth || curve.route->question == Question::SampleSizeForHalfWidth;
   if (name == Name("alpha") && isInterval) {
-    return first.Alpha() == last.Alpha() ? fmt::format("confidence {:.6g}%", 100 * (1 - first.Alpha())) : "";
+    return first.Alpha() == last.Alpha() ? Formatted("confidence {:.6g}%", 100 * (1 - first.Alpha())) : "";
   }
   const Value value = first.ValueOf(parameter);
   if (value == last.ValueOf(parameter)) return Worded(parameter, value);
@@ -134,20 +133,21 @@ std::string NameOf(Quantity quantity) {
 std::string ValueTitle(const ChartData& chart) {
   if (chart.quantity != Quantity::Size) return NameOf(chart.quantity);
   const Test& test = *chart.test;
-  if (test.groups == 1) return fmt::format("sample size ({})", test.counted);
+  if (test.groups == 1) return Formatted("sample size ({})", test.counted);
   const Inputs& design = chart.curves.front().design;
   const Numbers weights = design.Has("ratio") ? Numbers{1, design.Number("ratio")} : design.Weights();
   const bool isEqual = std::equal(weights.begin() + 1, weights.end(), weights.begin());
-  return isEqual ? fmt::format("sample size per group ({})", test.counted) : "size of the first group";
+  return isEqual ? Formatted("sample size per group ({})", test.counted) : "size of the first group";
 }
 
 std::string MarkText(const ChartData& chart, const ChartCurve& curve) {
   std::string text;
   for (std::size_t i = 0; i < chart.axes.size(); ++i) {
-    text += fmt::format("{} = {:.6g}, ", chart.axes[i].symbol, curve.mark->at[i]);
+    text += Formatted("{} = {:.6g}, ", chart.axes[i].symbol, curve.mark->at[i]);
   }
-  const char* format = chart.quantity == Quantity::Power ? "{} {:.2f}" : "{} {:.4g}";
-  return text + fmt::format(fmt::runtime(format), NameOf(chart.quantity), curve.mark->value);
+  const double value = curve.mark->value;
+  const std::string shown = chart.quantity == Quantity::Power ? Formatted("{:.2f}", value) : Formatted("{:.4g}", value);
+  return text + Formatted("{} {}", NameOf(chart.quantity), shown);
 }
 
 std::vector<std::string> Lines(const std::vector<std::string>& pieces, const std::string& separator,

@@ -1,10 +1,9 @@
 #include "pictures/figure.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <cmath>
 
+#include "format/format.h"
 #include "model/test.h"
 #include "pictures/captions.h"
 #include "pictures/lasting.h"
@@ -48,7 +47,7 @@ Figure FigureOf(const ChartData& chart, const std::string& title, std::size_t ch
   for (const FigureMark& mark : figure.marks) figure.subtitles.push_back(mark.text);
   const Lasting lasting = LastingPower(chart);
   for (double power : drawnLevels) {
-    figure.levels.push_back({power, fmt::format("power {}", power), LevelLines(lasting.surface, power)});
+    figure.levels.push_back({power, Formatted("power {}", power), LevelLines(lasting.surface, power)});
   }
   if (lasting.isSmoothed) {
     figure.note = "the power jumps: beyond its line it stays at or above a level";
@@ -61,16 +60,16 @@ std::string DescriptionOf(const ChartData& chart) {
   const Series& series = chart.First();
   std::string text = NameOf(chart.quantity);
   text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
-  text += fmt::format(" over {} from {:.6g} to {:.6g}", chart.axes[0].title, series.x.front(), series.x.back());
+  text += Formatted(" over {} from {:.6g} to {:.6g}", chart.axes[0].title, series.x.front(), series.x.back());
   if (chart.IsSurface()) {
-    text += fmt::format(" and {} from {:.6g} to {:.6g}", chart.axes[1].title, series.y.front(), series.y.back());
+    text += Formatted(" and {} from {:.6g} to {:.6g}", chart.axes[1].title, series.y.front(), series.y.back());
   }
   for (const std::string& piece : HeldFixed(chart)) text += "; " + piece;
   text += ".";
   for (const ChartCurve& curve : chart.curves) {
     if (!curve.mark) continue;
-    text += curve.alternative ? fmt::format(" {}: {}.", LabelOf(chart, curve), MarkText(chart, curve))
-                              : fmt::format(" Design: {}.", MarkText(chart, curve));
+    text += curve.alternative ? Formatted(" {}: {}.", LabelOf(chart, curve), MarkText(chart, curve))
+                              : Formatted(" Design: {}.", MarkText(chart, curve));
   }
   return text;
 }

@@ -1,11 +1,10 @@
 #include "pictures/gnuplot.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <cmath>
 #include <iterator>
 
+#include "format/format.h"
 #include "pictures/captions.h"
 
 namespace planner {
@@ -21,7 +20,7 @@ constexpr const char* curveStyles[] = {"dt 1 lw 2.5 lc rgb '#0072b2'", "dt 2 lw 
 
 constexpr const char* markStyle = "pt 7 ps 1.2 lc rgb '#b03a2e'";
 
-std::string DataValue(double value) { return std::isnan(value) ? "NaN" : fmt::format("{:.9g}", value); }
+std::string DataValue(double value) { return std::isnan(value) ? "NaN" : Formatted("{:.9g}", value); }
 
 /// A text in double quotes. Lines stay apart, and what gnuplot would read as its own is put out of action.
 std::string Quoted(const std::string& text) {
@@ -41,9 +40,9 @@ std::string CurveData(const Figure& figure) {
   std::string text;
   for (std::size_t k = 0; k < figure.curves.size(); ++k) {
     const Series& series = *figure.curves[k].series;
-    text += fmt::format("$curve{} << END\n", k);
+    text += Formatted("$curve{} << END\n", k);
     for (std::size_t i = 0; i < series.x.size(); ++i) {
-      text += fmt::format("{} {}\n", DataValue(series.x[i]), DataValue(series.value[i]));
+      text += Formatted("{} {}\n", DataValue(series.x[i]), DataValue(series.value[i]));
     }
     text += "END\n";
   }
@@ -55,8 +54,8 @@ std::string SurfaceData(const Series& series) {
   std::string text = "$chart << END\n";
   for (std::size_t i = 0; i < series.x.size(); ++i) {
     for (std::size_t j = 0; j < series.y.size(); ++j) {
-      text += fmt::format("{} {} {}\n", DataValue(series.x[i]), DataValue(series.y[j]),
-                          DataValue(series.value[i * series.y.size() + j]));
+      text += Formatted("{} {} {}\n", DataValue(series.x[i]), DataValue(series.y[j]),
+                        DataValue(series.value[i * series.y.size() + j]));
     }
     text += '\n';
   }
@@ -65,7 +64,7 @@ std::string SurfaceData(const Series& series) {
 
 std::string MarkData(const Figure& figure) {
   std::string text = "$marks << END\n";
-  for (const FigureMark& mark : figure.marks) text += fmt::format("{:.9g} {:.9g}\n", mark.x, mark.y);
+  for (const FigureMark& mark : figure.marks) text += Formatted("{:.9g} {:.9g}\n", mark.x, mark.y);
   return text + "END\n";
 }
 
@@ -94,20 +93,20 @@ std::string Titles(const Figure& figure, const GnuplotTerminal& terminal) {
     return "set title " + Quoted(lines) + '\n';
   }
   const double below = static_cast<double>(figure.subtitles.size());
-  std::string text = fmt::format("set label 100 {} at graph 0.5,1 center offset 0,{:.2f} font ',{:.3g}' front\n",
-                                 Quoted(figure.title), 1.1 + lineOfSubtitle * below, 1.15 * terminal.fontSize);
+  std::string text = Formatted("set label 100 {} at graph 0.5,1 center offset 0,{:.2f} font ',{:.3g}' front\n",
+                               Quoted(figure.title), 1.1 + lineOfSubtitle * below, 1.15 * terminal.fontSize);
   for (std::size_t i = 0; i < figure.subtitles.size(); ++i) {
-    text += fmt::format(
+    text += Formatted(
         "set label {} {} at graph 0.5,1 center offset 0,{:.2f} font ',{:.3g}' textcolor rgb '#444444' front\n", 101 + i,
         Quoted(figure.subtitles[i]), 0.6 + lineOfSubtitle * (below - 1 - static_cast<double>(i)),
         0.85 * terminal.fontSize);
   }
-  return text + fmt::format("set tmargin {:.2f}\n", LinesAbove(figure));
+  return text + Formatted("set tmargin {:.2f}\n", LinesAbove(figure));
 }
 
 std::string Frame(const Figure& figure, const GnuplotTerminal& terminal) {
   std::string text = "set terminal " + terminal.name + "\nset encoding utf8\n" + Titles(figure, terminal);
-  text += fmt::format("set xlabel {}\n", Quoted(figure.axisTitles[0]));
+  text += Formatted("set xlabel {}\n", Quoted(figure.axisTitles[0]));
   if (!terminal.showsCharactersOnly) {
     text += "set border 3 lc rgb '#555555'\nset tics nomirror\nset grid lc rgb '#dddddd' lt 1\n";
   }
@@ -117,7 +116,7 @@ std::string Frame(const Figure& figure, const GnuplotTerminal& terminal) {
 /// An upright title has as much room as the drawing is high.
 std::string UprightTitle(const std::string& title, const GnuplotTerminal& terminal) {
   const std::size_t characters = std::max<std::size_t>(12, terminal.upright);
-  return fmt::format("set ylabel {}\n", Quoted(Wrapped(title, characters)));
+  return Formatted("set ylabel {}\n", Quoted(Wrapped(title, characters)));
 }
 
 std::string Key(const Figure& figure, const GnuplotTerminal& terminal) {
@@ -127,7 +126,7 @@ std::string Key(const Figure& figure, const GnuplotTerminal& terminal) {
   // Rows of the key below the title of the axis, which gnuplot would let it cover.
   const std::size_t entries = figure.curves.size() == 1 ? 1 : figure.curves.size() + 1;
   const std::size_t rows = (entries + 2) / 3;
-  return fmt::format(
+  return Formatted(
       "set bmargin {}\nset key at screen 0.5,character {:.3g} center center horizontal maxrows {} samplen 4 Left reverse\n",
       4 + 1.1 * static_cast<double>(rows), 0.2 + 0.55 * static_cast<double>(rows), rows);
 }
@@ -142,11 +141,11 @@ std::string CurvePlots(const Figure& figure, const GnuplotTerminal& terminal) {
     const std::string title = label.empty() ? "notitle" : "title " + Quoted(label);
     const std::string style =
         terminal.showsCharactersOnly ? std::string() : std::string(curveStyles[k % std::size(curveStyles)]) + " ";
-    plots += fmt::format("{}$curve{} using 1:2 with lines {}{}", k == 0 ? "" : ", ", k, style, title);
+    plots += Formatted("{}$curve{} using 1:2 with lines {}{}", k == 0 ? "" : ", ", k, style, title);
   }
   if (!figure.marks.empty()) {
-    plots += fmt::format(", $marks using 1:2 with points {} title {}",
-                         terminal.showsCharactersOnly ? "pt 1" : markStyle, Quoted(figure.marks.front().text));
+    plots += Formatted(", $marks using 1:2 with points {} title {}", terminal.showsCharactersOnly ? "pt 1" : markStyle,
+                       Quoted(figure.marks.front().text));
   }
   return plots;
 }
@@ -161,8 +160,7 @@ std::string CurveCommands(const Figure& figure, const GnuplotTerminal& terminal)
   text += figure.isOfPower ? "set yrange [0:1]\nset ytics 0.2\n" : "set yrange [0:*]\n";
   text += Key(figure, terminal);
   const Series& series = *figure.curves.front().series;
-  return text +
-         fmt::format("plot [{:.9g}:{:.9g}] {}\n", series.x.front(), series.x.back(), CurvePlots(figure, terminal));
+  return text + Formatted("plot [{:.9g}:{:.9g}] {}\n", series.x.front(), series.x.back(), CurvePlots(figure, terminal));
 }
 
 /// The lines of equal power as data, level by level, so that each can have its own style. Two blank lines separate lines:
@@ -170,10 +168,10 @@ std::string CurveCommands(const Figure& figure, const GnuplotTerminal& terminal)
 std::string LevelData(const Figure& figure) {
   std::string text;
   for (std::size_t i = 0; i < figure.levels.size(); ++i) {
-    text += fmt::format("$level{} << END\n", i);
+    text += Formatted("$level{} << END\n", i);
     if (figure.levels[i].lines.empty()) text += "NaN NaN\n";
     for (const Line& line : figure.levels[i].lines) {
-      for (std::size_t k = 0; k < line.x.size(); ++k) text += fmt::format("{:.9g} {:.9g}\n", line.x[k], line.y[k]);
+      for (std::size_t k = 0; k < line.x.size(); ++k) text += Formatted("{:.9g} {:.9g}\n", line.x[k], line.y[k]);
       text += "\n\n";
     }
     text += "END\n";
@@ -183,14 +181,14 @@ std::string LevelData(const Figure& figure) {
 
 /// The level in the key, where there is such a line.
 std::string TitleOf(const PowerLevel& level) {
-  return level.lines.empty() ? "notitle" : fmt::format("title {}", Quoted(level.label));
+  return level.lines.empty() ? "notitle" : Formatted("title {}", Quoted(level.label));
 }
 
 /// The lines of equal power alone, each level drawn with a character of its own.
 std::string LinesInCharacters(const Figure& figure) {
   std::string plot;
   for (std::size_t i = 0; i < figure.levels.size(); ++i) {
-    plot += fmt::format("{} $level{} using 1:2 with lines {}", i == 0 ? "" : ",", i, TitleOf(figure.levels[i]));
+    plot += Formatted("{} $level{} using 1:2 with lines {}", i == 0 ? "" : ",", i, TitleOf(figure.levels[i]));
   }
   if (!figure.marks.empty()) {
     plot += ", $marks using 1:2 with points pt 15 title \"design\"";
@@ -201,7 +199,7 @@ std::string LinesInCharacters(const Figure& figure) {
 /// Margins of a surface, for which gnuplot does not keep room by itself.
 std::string Margins(const Figure& figure, const GnuplotTerminal& terminal) {
   constexpr double linesBelow = 5.5;
-  return fmt::format(
+  return Formatted(
       "set lmargin at screen 0.12\nset rmargin at screen 0.86\nset tmargin at screen {:.4f}\n"
       "set bmargin at screen {:.4f}\n"
       "set key at screen 0.5,screen {:.4f} center center horizontal maxrows 1 samplen 3 Left reverse\n",
@@ -213,11 +211,11 @@ std::string Margins(const Figure& figure, const GnuplotTerminal& terminal) {
 std::string Shades(const Figure& figure, const GnuplotTerminal& terminal) {
   std::string lines;
   for (std::size_t i = 0; i < figure.levels.size(); ++i) {
-    lines += fmt::format(", $level{} using 1:2:(0) with lines {} lc rgb '#222222' {}", i,
-                         levelStyles[i % std::size(levelStyles)], TitleOf(figure.levels[i]));
+    lines += Formatted(", $level{} using 1:2:(0) with lines {} lc rgb '#222222' {}", i,
+                       levelStyles[i % std::size(levelStyles)], TitleOf(figure.levels[i]));
   }
   if (!figure.marks.empty()) {
-    lines += fmt::format(", $marks using 1:2:(0) with points {} title \"design\"", markStyle);
+    lines += Formatted(", $marks using 1:2:(0) with points {} title \"design\"", markStyle);
   }
   return LevelData(figure) + Margins(figure, terminal) +
          "set view map\nset pm3d map corners2color mean\nset cbrange [0:1]\nset cblabel \"power\"\n"
@@ -229,8 +227,8 @@ std::string Shades(const Figure& figure, const GnuplotTerminal& terminal) {
 std::string SurfaceCommands(const Figure& figure, const GnuplotTerminal& terminal) {
   const Series& series = *figure.curves.front().series;
   std::string text = SurfaceData(series) + MarkData(figure) + Frame(figure, terminal);
-  text += fmt::format("set xrange [{:.9g}:{:.9g}]\nset yrange [{:.9g}:{:.9g}]\n", series.x.front(), series.x.back(),
-                      series.y.front(), series.y.back());
+  text += Formatted("set xrange [{:.9g}:{:.9g}]\nset yrange [{:.9g}:{:.9g}]\n", series.x.front(), series.x.back(),
+                    series.y.front(), series.y.back());
   if (!terminal.showsCharactersOnly)
     return text + UprightTitle(figure.axisTitles[1], terminal) + Shades(figure, terminal);
   // An upright title does not fit beside a drawing in characters.

@@ -13,7 +13,7 @@ namespace {
 constexpr double mostPoints = 1e6;
 
 // Steps of an exact test take a few nanoseconds each.
-constexpr double mostSteps = 5e9;
+constexpr double mostStepsOfChart = 5e9;
 
 double PointsOf(const std::vector<AxisGrid>& grids) {
   double points = 1;
@@ -61,7 +61,7 @@ void CheckPoints(const Test& test, const std::vector<AxisGrid>& grids, const Inp
                       .inputs = anyWhole ? std::vector<std::string>{"from", "to"} : std::vector<std::string>{"step"},
                       .values = {mostPoints}});
   }
-  if (StepsOf(test, grids, design) > mostSteps) {
+  if (StepsOf(test, grids, design) > mostStepsOfChart) {
     throw InputError({.code = Code::ChartTooSlow, .inputs = {"step", "from", "to"}});
   }
 }

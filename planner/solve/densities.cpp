@@ -11,7 +11,7 @@ namespace {
 
 using Function = std::function<double(double)>;
 
-constexpr int points = 401;
+constexpr int pointsOfDensity = 401;
 constexpr double tail = 0.001;  // of each distribution beyond the picture
 
 /// A distribution function, and the values it has.
@@ -74,7 +74,7 @@ Span SpanOf(const TestStatistic& of, const Distribution& without, const Distribu
 
 /// A density that has no end at the start of its values begins a little above it.
 double PointOf(const Span& span, double start, int i) {
-  const double step = (span.to - span.from) / (points - 1);
+  const double step = (span.to - span.from) / (pointsOfDensity - 1);
   return i == 0 && span.from == start ? span.from + step / 8 : span.from + step * i;
 }
 
@@ -93,7 +93,7 @@ void AddPoints(Densities& densities, const TestStatistic& of, const Distribution
   const double widthWithout = WidthOf(without);
   const double widthWith = WidthOf(with);
   const bool isNormal = of.family == StatisticFamily::Normal;
-  for (int i = 0; i < points; ++i) {
+  for (int i = 0; i < pointsOfDensity; ++i) {
     const double x = PointOf(span, without.start, i);
     densities.x.push_back(x);
     densities.without.push_back(isNormal ? kelpower::NormalDensity(x, 0, 1)

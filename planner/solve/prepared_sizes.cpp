@@ -26,9 +26,9 @@ bool Reached(Question question, double value, double assurance, const Inputs& in
 
 /// Within what rounding does to sizes that cannot be counted.
 bool NearlyReached(Question question, double value, const Inputs& inputs) {
-  constexpr double rounding = 1e-6;
-  if (question == Question::SampleSize) return value >= inputs.Number("power") - rounding;
-  return value <= inputs.Number("half-width") * (1 + rounding);
+  constexpr double slack = 1e-6;
+  if (question == Question::SampleSize) return value >= inputs.Number("power") - slack;
+  return value <= inputs.Number("half-width") * (1 + slack);
 }
 
 }  // namespace

@@ -44,36 +44,36 @@ double Lowest(double from, double to, const ValueAlong& value) {
 /// Goes from the design towards one end of an axis until there is nothing more to see.
 class Walk {
 public:
-  Walk(const Course& course, const ValueAlong& value, double end)
-      : course_(course), value_(value), end_(end), start_(value(course.design)) {}
+  Walk(const RangeRequest& request, const ValueAlong& value, double end)
+      : request_(request), value_(value), end_(end), start_(value(request.design)) {}
 
   double End() {
     constexpr double first = 1e-5;
     constexpr double growth = 1.2;
     const double scale = Scale();
-    const double direction = end_ > course_.design ? 1 : -1;
-    Place last{course_.design, start_};
+    const double direction = end_ > request_.design ? 1 : -1;
+    Place last{request_.design, start_};
     Place lowest = last;
     double beforeLowest = last.at;
     double levelReached = 0;
     for (double offset = first * scale; offset < farthest * scale; offset *= growth) {
-      Place next{course_.design + direction * offset, 0};
+      Place next{request_.design + direction * offset, 0};
       const bool isLast = direction * (end_ - next.at) <= 0;
       if (isLast) next.at = end_;
       next.value = value_(next.at);
       if (std::isnan(next.value)) return LastValid(last.at, next.at);
-      if (course_.quantity != Quantity::Power) {
+      if (request_.quantity != Quantity::Power) {
         if (IsFar(next.value)) return next.at;
       } else {
         if (next.value > lowest.value + turn && lowest.value < start_ - turn) {
           return Lowest(beforeLowest, next.at, value_);
         }
-        if (next.value >= course_.high && last.value < course_.high) {
-          return Border(next.at, last.at, [&](double at) { return value_(at) >= course_.high; });
+        if (next.value >= request_.high && last.value < request_.high) {
+          return Border(next.at, last.at, [&](double at) { return value_(at) >= request_.high; });
         }
-        if (levelReached == 0 && next.value <= course_.alpha + nearLevel) levelReached = offset;
+        if (levelReached == 0 && next.value <= request_.alpha + nearLevel) levelReached = offset;
         // The null value may lie close by.
-        if (levelReached > 0 && offset > 1.8 * levelReached) return course_.design + direction * levelReached;
+        if (levelReached > 0 && offset > 1.8 * levelReached) return request_.design + direction * levelReached;
         if (next.value < lowest.value) {
           beforeLowest = lowest.at;
           lowest = next;
@@ -82,8 +82,8 @@ public:
       last = next;
       if (isLast) return end_;
     }
-    if (levelReached > 0) return course_.design + direction * levelReached;
-    return course_.design + direction * scale;
+    if (levelReached > 0) return request_.design + direction * levelReached;
+    return request_.design + direction * scale;
   }
 
 private:
@@ -93,8 +93,8 @@ private:
   };
 
   double Scale() const {
-    const double span = course_.allowed.to - course_.allowed.from;
-    if (course_.design != 0) return std::abs(course_.design);
+    const double span = request_.allowed.to - request_.allowed.from;
+    if (request_.design != 0) return std::abs(request_.design);
     return std::isfinite(span) && span < 1e3 ? span / 2 : 1;
   }
 
@@ -104,7 +104,7 @@ private:
     return Border(valid, beyond, [&](double at) { return !std::isnan(value_(at)); });
   }
 
-  const Course& course_;
+  const RangeRequest& request_;
   const ValueAlong& value_;
   double end_;
   double start_;
@@ -128,23 +128,23 @@ Range Rounded(const Range& range, const Range& allowed) {
 }
 
 /// From the smallest size with a power to that of a high one.
-Range RangeOfSizes(const Course& course, const ValueAlong& value) {
-  const double design = course.design;
+Range RangeOfSizes(const RangeRequest& request, const ValueAlong& value) {
+  const double design = request.design;
   const auto holds = [&](double at) { return !std::isnan(value(std::round(at))); };
-  double from = course.allowed.from;
+  double from = request.allowed.from;
   if (!holds(from)) from = std::ceil(Border(design, from, holds));
-  if (course.quantity == Quantity::HalfWidth) {
-    return {std::max(from, std::floor(design / manyTimes)), std::min(3 * design, course.allowed.to)};
+  if (request.quantity == Quantity::HalfWidth) {
+    return {std::max(from, std::floor(design / manyTimes)), std::min(3 * design, request.allowed.to)};
   }
-  const auto isHigh = [&](double at) { return value(std::round(at)) >= course.high; };
+  const auto isHigh = [&](double at) { return value(std::round(at)) >= request.high; };
   double low = design;
   double high = design;
   while (!isHigh(high)) {
     low = high;
     high *= 2;
-    if (high > std::min(course.allowed.to, largestUsual) || !holds(high)) {
+    if (high > std::min(request.allowed.to, largestUsual) || !holds(high)) {
       const bool isWorthIt = value(std::round(low)) >= goodPower;
-      return {from, std::min(std::max(isWorthIt ? low : 0, 2 * design), course.allowed.to)};
+      return {from, std::min(std::max(isWorthIt ? low : 0, 2 * design), request.allowed.to)};
     }
   }
   if (high > low) high = std::ceil(Border(high, low, isHigh));
@@ -162,21 +162,21 @@ Range AllowedOn(const Axis& axis, const Inputs& design) {
   return allowed;
 }
 
-Range UsualRange(const Course& course, const ValueAlong& value) {
-  const Axis& axis = *course.axis;
-  const double design = course.design;
+Range UsualRange(const RangeRequest& request, const ValueAlong& value) {
+  const Axis& axis = *request.axis;
+  const double design = request.design;
   if (axis.usual) return {std::min(axis.usual->from, design / 2), std::max(axis.usual->to, design)};
   if (axis.isOfSizes) {
-    const Range sizes = RangeOfSizes(course, value);
-    return axis.spacing == Spacing::Totals ? sizes : Rounded({sizes.from, sizes.to}, {sizes.from, course.allowed.to});
+    const Range sizes = RangeOfSizes(request, value);
+    return axis.spacing == Spacing::Totals ? sizes : Rounded({sizes.from, sizes.to}, {sizes.from, request.allowed.to});
   }
-  Range range{Walk(course, value, course.allowed.from).End(), Walk(course, value, course.allowed.to).End()};
+  Range range{Walk(request, value, request.allowed.from).End(), Walk(request, value, request.allowed.to).End()};
   if (axis.spacing == Spacing::Whole) {
     range = {std::floor(range.from), std::ceil(range.to)};
-    return {std::max(range.from, course.allowed.from), std::min(range.to, course.allowed.to)};
+    return {std::max(range.from, request.allowed.from), std::min(range.to, request.allowed.to)};
   }
   if (!(range.from < range.to) || !std::isfinite(range.to - range.from)) return {design, design};
-  return Rounded(range, course.allowed);
+  return Rounded(range, request.allowed);
 }
 
 }  // namespace planner

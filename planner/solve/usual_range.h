@@ -11,7 +11,7 @@ namespace planner {
 using ValueAlong = std::function<double(double at)>;
 
 /// What the usual range of an axis is to show.
-struct Course {
+struct RangeRequest {
   const Axis* axis;
   Range allowed;  // the ends of the axis for this design
   double design;  // its place
@@ -26,7 +26,7 @@ Range AllowedOn(const Axis& axis, const Inputs& design);
 /// From where the power is near the level to where it is near 1, with the design in between. An effect has its range on
 /// one side of the null value. Sizes and half-widths go to some times those of the design. The ends are round numbers.
 /// No length: there is no such range.
-Range UsualRange(const Course& course, const ValueAlong& value);
+Range UsualRange(const RangeRequest& request, const ValueAlong& value);
 
 }  // namespace planner
 

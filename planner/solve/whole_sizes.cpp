@@ -9,7 +9,7 @@ namespace {
 
 /// How far the sawtooth of an exact power reaches: its teeth are some square roots of the size long. Where the work of a
 /// power grows with the square of the size, large sizes are looked at less far.
-double Span(double number, bool isSlow) {
+double SpanToCheck(double number, bool isSlow) {
   const double span = 20 + 8 * std::sqrt(number);
   return std::ceil(isSlow ? std::min(span, 20 + 2e5 / number) : span);
 }
@@ -83,7 +83,7 @@ std::optional<double> FirstWhole(double start, double smallest, Reaches reaches)
 }
 
 UnevenSizes AroundUneven(double number, double smallest, bool isSlow, Reaches reaches) {
-  const double span = Span(number, isSlow);
+  const double span = SpanToCheck(number, isSlow);
   UnevenSizes sizes{number, number};
   for (double tried = std::max(smallest, number - span); tried < number; ++tried) {
     if (!reaches(tried)) continue;

@@ -22,13 +22,13 @@ struct Grammar {
 constexpr Grammar python = {"kelpower.", "=", "True", "False", "[", "]"};
 constexpr Grammar r = {"kp_", " = ", "TRUE", "FALSE", "c(", ")"};
 
-struct Given {
+struct GivenInput {
   std::string name;
   const Value& value;
 };
 
-std::vector<Given> GivenOf(const Test& test, const InputValues& values) {
-  std::vector<Given> given;
+std::vector<GivenInput> GivenOf(const Test& test, const InputValues& values) {
+  std::vector<GivenInput> given;
   for (const Parameter& parameter : test.parameters) {
     const auto value = values.find(std::string(parameter.name.Text()));
     if (value != values.end()) given.push_back({value->first, value->second});
@@ -39,7 +39,7 @@ std::vector<Given> GivenOf(const Test& test, const InputValues& values) {
 /// A negative zero needs its point, or it would be read as an integer, which has none.
 std::string Digits(double number) { return number == 0 && std::signbit(number) ? "-0.0" : Shortest(number); }
 
-std::string Listed(const Numbers& numbers, const std::string& separator) {
+std::string Entries(const Numbers& numbers, const std::string& separator) {
   std::vector<std::string> entries;
   for (double number : numbers) entries.push_back(Digits(number));
   return Joined(entries, separator, separator);
@@ -51,10 +51,10 @@ std::string Written(const Grammar& language, const Value& value) {
   if (const auto* word = std::get_if<std::string>(&value)) return '"' + *word + '"';
   const auto& numbers = std::get<Numbers>(value);
   if (numbers.size() == 1) return Digits(numbers.front());
-  return language.list + Listed(numbers, ", ") + language.endOfList;
+  return language.list + Entries(numbers, ", ") + language.endOfList;
 }
 
-std::string FunctionCall(const Grammar& language, const Test& test, const std::vector<Given>& given) {
+std::string FunctionCall(const Grammar& language, const Test& test, const std::vector<GivenInput>& given) {
   std::vector<std::string> arguments;
   for (const auto& [name, value] : given) {
     arguments.push_back(Spelt(name, NameStyle::Underscores) + language.equals + Written(language, value));
@@ -62,7 +62,7 @@ std::string FunctionCall(const Grammar& language, const Test& test, const std::v
   return language.function + Spelt(test.name, NameStyle::Underscores) + "(" + Joined(arguments, ", ") + ")";
 }
 
-std::string Command(const Test& test, const std::vector<Given>& given) {
+std::string Command(const Test& test, const std::vector<GivenInput>& given) {
   std::string command = "kelpower " + test.name;
   for (const auto& [name, value] : given) {
     if (const auto* flag = std::get_if<bool>(&value)) {
@@ -72,7 +72,7 @@ std::string Command(const Test& test, const std::vector<Given>& given) {
     command += " --" + name + ' ';
     if (const auto* number = std::get_if<double>(&value)) command += Digits(*number);
     if (const auto* word = std::get_if<std::string>(&value)) command += *word;
-    if (const auto* numbers = std::get_if<Numbers>(&value)) command += Listed(*numbers, ",");
+    if (const auto* numbers = std::get_if<Numbers>(&value)) command += Entries(*numbers, ",");
   }
   return command;
 }
@@ -80,7 +80,7 @@ std::string Command(const Test& test, const std::vector<Given>& given) {
 }  // namespace
 
 Calls CallsOf(const Test& test, const InputValues& values) {
-  const std::vector<Given> given = GivenOf(test, values);
+  const std::vector<GivenInput> given = GivenOf(test, values);
   return {Command(test, given), FunctionCall(python, test, given), FunctionCall(r, test, given)};
 }
 

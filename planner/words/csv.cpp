@@ -1,10 +1,9 @@
 #include "words/csv.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <cmath>
 
+#include "format/format.h"
 #include "words/numbers.h"
 #include "words/render.h"
 
@@ -19,7 +18,7 @@ std::string ColumnOf(const ChartData& chart, const ChartCurve& curve) {
                                : chart.quantity == Quantity::HalfWidth ? "half-width"
                                                                        : "sample size";
   if (!curve.alternative) return quantity;
-  return fmt::format("{} ({} {})", quantity, chart.varied->Text(), CsvValue(*curve.alternative));
+  return Formatted("{} ({} {})", quantity, chart.varied->Text(), CsvValue(*curve.alternative));
 }
 
 }  // namespace
@@ -57,8 +56,8 @@ std::string RenderCsv(const ChartData& chart) {
       text += '\n';
     }
     for (std::size_t j = 0; j < series.y.size(); ++j) {
-      text += fmt::format("{},{},{}\n", Shortest(series.x[i]), Shortest(series.y[j]),
-                          Cell(series.value[i * series.y.size() + j]));
+      text += Formatted("{},{},{}\n", Shortest(series.x[i]), Shortest(series.y[j]),
+                        Cell(series.value[i * series.y.size() + j]));
     }
   }
   return text;

@@ -14,6 +14,9 @@ namespace planner {
 /// A field of a CSV line, quoted where its content asks for it.
 std::string CsvField(std::string_view text);
 
+/// The text without blanks around it.
+std::string_view Trimmed(std::string_view text);
+
 /// A value with all its digits, lists separated by spaces.
 std::string CsvValue(const Value& value);
 

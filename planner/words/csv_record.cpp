@@ -20,6 +20,12 @@ std::string CsvValue(const Value& value) {
   return numbers ? ListedWithSpaces(*numbers) : Shown(value);
 }
 
+std::string_view Trimmed(std::string_view text) {
+  constexpr std::string_view blanks = " \t\r\n";
+  text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+  return text.substr(0, text.find_last_not_of(blanks) + 1);
+}
+
 std::size_t CsvRecordEnd(std::string_view text, std::size_t from) {
   const std::size_t line = text.find('\n', from);
   // Only a quote makes a line feed part of a field.

@@ -1,11 +1,10 @@
 #include "words/effect_report.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 
 #include "catalogue/catalogue.h"
 #include "catalogue/effects.h"
+#include "format/format.h"
 #include "solve/convert_effect.h"
 #include "words/expand.h"
 #include "words/numbers.h"
@@ -13,13 +12,13 @@
 namespace planner {
 namespace {
 
-std::string ForReading(double value) { return fmt::format("{:.4g}", value); }
+std::string FourDigits(double value) { return Formatted("{:.4g}", value); }
 
 std::string IntervalForReading(const ConfidenceLimits& limits) {
-  return fmt::format("{} to {}", ForReading(limits.lower), ForReading(limits.upper));
+  return Formatted("{} to {}", FourDigits(limits.lower), FourDigits(limits.upper));
 }
 
-std::string Percent(double confidence) { return fmt::format("{:.10g}%", 100 * confidence); }
+std::string Percent(double confidence) { return Formatted("{:.10g}%", 100 * confidence); }
 
 bool HasAnyInterval(const EffectAnswer& answer) {
   return std::any_of(answer.results.begin(), answer.results.end(),
@@ -58,12 +57,12 @@ void AddResult(const EffectResult& result, std::size_t width, std::vector<Entry>
   const EffectSize& size = *result.size;
   const double value = result.value.value;
   const std::optional<ConfidenceLimits>& limits = result.value.limits;
-  if (!limits) return entries.push_back({size.name, size.label, value, ForReading(value)});
-  entries.push_back({size.name, size.label, value,
-                     fmt::format("{:<{}}  ({})", ForReading(value), width, IntervalForReading(*limits))});
+  if (!limits) return entries.push_back({size.name, size.label, value, FourDigits(value)});
+  entries.push_back(
+      {size.name, size.label, value, Formatted("{:<{}}  ({})", FourDigits(value), width, IntervalForReading(*limits))});
   const auto addLimit = [&](const char* which, double limit) {
     const std::string suffix = std::string("-") + which;
-    entries.push_back({size.name + suffix, size.label, limit, ForReading(limit), false, true});
+    entries.push_back({size.name + suffix, size.label, limit, FourDigits(limit), false, true});
   };
   addLimit("lower", limits->lower);
   addLimit("upper", limits->upper);
@@ -72,7 +71,7 @@ void AddResult(const EffectResult& result, std::size_t width, std::vector<Entry>
 /// Four digits, or all where these are too few for the input.
 std::string ForInput(const Parameter& parameter, double value) {
   double rounded = 0;
-  const std::string digits = ForReading(value);
+  const std::string digits = FourDigits(value);
   const bool isAllowed = ParseNumber(digits, rounded) && parameter.limits.Allow(rounded);
   return isAllowed ? digits : Shortest(value);
 }
@@ -86,12 +85,12 @@ std::string UseOf(const EffectUse& use, const EffectAnswer& answer) {
     if (!result || !parameter.limits.Allow(result->value.value)) return "";
     values.push_back(ForInput(parameter, result->value.value));
   }
-  return fmt::format("{} --{} {}", use.test, use.input.Text(), Joined(values, ",", ","));
+  return Formatted("{} --{} {}", use.test, use.input.Text(), Joined(values, ",", ","));
 }
 
 std::vector<Entry> ResultEntries(const EffectAnswer& answer) {
   std::size_t width = 0;
-  for (const EffectResult& result : answer.results) width = std::max(width, ForReading(result.value.value).size());
+  for (const EffectResult& result : answer.results) width = std::max(width, FourDigits(result.value.value).size());
   std::vector<Entry> entries;
   for (const EffectResult& result : answer.results) AddResult(result, width, entries);
   std::vector<std::string> uses;
@@ -106,17 +105,17 @@ std::vector<Entry> ResultEntries(const EffectAnswer& answer) {
 std::string InGroups(const Inputs& in) {
   if (!in.Has("n")) return "";
   const Numbers& n = in.List("n");
-  return fmt::format(" in groups of {}{}", ListedInSentence(n), n.size() == 1 ? " each" : "");
+  return Formatted(" in groups of {}{}", ListedInSentence(n), n.size() == 1 ? " each" : "");
 }
 
 std::string LookUp(const EffectAnswer& answer, std::string_view name) {
   const Inputs& in = answer.inputs;
   if (name == "in-groups") return InGroups(in);
   if (name == "in-sample") return in.Has("n") ? " in a sample of " + Listed(in.List("n")) : "";
-  if (name == "in-pairs") return in.Has("n") ? fmt::format(" in {} pairs", Listed(in.List("n"))) : "";
+  if (name == "in-pairs") return in.Has("n") ? Formatted(" in {} pairs", Listed(in.List("n"))) : "";
   if (name == "with-predictors") {
     const double predictors = in.Number("predictors");
-    return fmt::format(" with {} predictor{}", Shortest(predictors), predictors == 1 ? "" : "s");
+    return Formatted(" with {} predictor{}", Shortest(predictors), predictors == 1 ? "" : "s");
   }
   if (name == "sds") {
     const Numbers& sds = in.List("sd");
@@ -136,11 +135,11 @@ std::string SentenceOf(const EffectAnswer& answer) {
   if (!told) told = &answer.results.front();
   const auto lookUp = [&](std::string_view name) { return LookUp(answer, name); };
   std::string text =
-      fmt::format("From {}, {} is {}", Expand(conversion.given, lookUp, [](std::string_view) { return false; }),
-                  told->size->wording.empty() ? told->size->label : told->size->wording, ForReading(told->value.value));
+      Formatted("From {}, {} is {}", Expand(conversion.given, lookUp, [](std::string_view) { return false; }),
+                told->size->wording.empty() ? told->size->label : told->size->wording, FourDigits(told->value.value));
   if (told->value.limits) {
-    text += fmt::format(" ({} confidence interval {})", Percent(answer.inputs.Number("confidence")),
-                        IntervalForReading(*told->value.limits));
+    text += Formatted(" ({} confidence interval {})", Percent(answer.inputs.Number("confidence")),
+                      IntervalForReading(*told->value.limits));
   }
   return text + '.';
 }
@@ -156,7 +155,7 @@ std::string OnIntervals(const EffectAnswer& answer) {
     if (!result.value.limits) without.push_back(result.size->label);
   }
   return without.empty() ? ""
-                         : fmt::format("No confidence interval can be computed here of {}.", Joined(without, " and "));
+                         : Formatted("No confidence interval can be computed here of {}.", Joined(without, " and "));
 }
 
 std::string NoteOf(const EffectAnswer& answer) {

@@ -1,11 +1,10 @@
 #include "words/explain.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <numeric>
 #include <utility>
 
+#include "format/format.h"
 #include "solve/adjusted_value.h"
 #include "words/expand.h"
 #include "words/numbers.h"
@@ -27,16 +26,16 @@ Inputs AtSizes(const Answer& answer) {
   return AtEffectiveSizes(std::move(inputs));
 }
 
-std::string ForReading(double number) {
+std::string SixDigits(double number) {
   const std::string all = Shortest(number);
-  const std::string few = fmt::format("{:.6g}", number);
+  const std::string few = Formatted("{:.6g}", number);
   return few.size() < all.size() ? few : all;
 }
 
 /// Fifteen digits, which hide the rounding of the last one: 0.3 x 1.5 is 0.45.
 std::string ForPrograms(double number) {
   const std::string all = Shortest(number);
-  const std::string few = fmt::format("{:.15g}", number);
+  const std::string few = Formatted("{:.15g}", number);
   return few.size() < all.size() ? few : all;
 }
 
@@ -46,7 +45,7 @@ public:
   Filled(const Answer& answer, const Inputs& inputs, const Details& details)
       : answer_(answer), inputs_(inputs), details_(details) {}
 
-  std::string Formula(const std::string& text) const { return Of(text, ForReading); }
+  std::string Formula(const std::string& text) const { return Of(text, SixDigits); }
   std::string Call(const std::string& text) const { return Of(text, ForPrograms); }
 
 private:
@@ -157,11 +156,11 @@ Explanation Explain(const Answer& answer) {
                           .programs = {}};
   bool programs = true;
   for (const auto& [name, label, value] : details.figures) {
-    explanation.figures.push_back({name, label, value, ForReading(value)});
+    explanation.figures.push_back({name, label, value, SixDigits(value)});
   }
   for (const PlanNote& note : NotesOnPlan(answer)) {
     for (const auto& [name, label, value] : note.figures) {
-      explanation.figures.push_back({name, label, value, ForReading(value)});
+      explanation.figures.push_back({name, label, value, SixDigits(value)});
     }
     explanation.formula += "; " + note.formula;
     explanation.source += "; " + note.source;
@@ -178,38 +177,38 @@ Explanation Explain(const Answer& answer) {
 std::string RenderText(const Explanation& explanation, const std::string& heading, const std::string& end) {
   std::size_t width = 0;
   for (const auto& figure : explanation.figures) width = std::max(width, figure.label.size());
-  std::string text = fmt::format("\n{}{}{}\n\n", heading, explanation.heading, end);
+  std::string text = Formatted("\n{}{}{}\n\n", heading, explanation.heading, end);
   for (const auto& figure : explanation.figures) {
-    text += fmt::format("  {:<{}}  {}\n", figure.label, width, figure.shown);
+    text += Formatted("  {:<{}}  {}\n", figure.label, width, figure.shown);
   }
   for (const ExplainedFormula& of : explanation.formulas) {
-    text += fmt::format("  {}: {}\n    Source: {}.\n", of.label, of.formula, of.source);
+    text += Formatted("  {}: {}\n    Source: {}.\n", of.label, of.formula, of.source);
   }
   if (!explanation.formulas.empty()) return text;
-  text += fmt::format("\n  {}\n  Source: {}.\n", explanation.formula, explanation.source);
+  text += Formatted("\n  {}\n  Source: {}.\n", explanation.formula, explanation.source);
   if (explanation.programs.empty()) return text;
-  text += fmt::format("\n{}Asked of other programs{}\n", heading, end);
+  text += Formatted("\n{}Asked of other programs{}\n", heading, end);
   for (const ProgramCall& program : explanation.programs) {
-    text += fmt::format("\n  {}: {}\n", program.program, program.call);
-    if (const std::string remark = RemarkOf(program); !remark.empty()) text += fmt::format("    {}\n", remark);
+    text += Formatted("\n  {}: {}\n", program.program, program.call);
+    if (const std::string remark = RemarkOf(program); !remark.empty()) text += Formatted("    {}\n", remark);
   }
   return text;
 }
 
 std::string RenderMarkdown(const Explanation& explanation) {
-  std::string text = fmt::format("\n**{}**\n\n", explanation.heading);
+  std::string text = Formatted("\n**{}**\n\n", explanation.heading);
   for (const ExplainedFormula& of : explanation.formulas) {
-    text += fmt::format("- {}: {}. Source: {}.\n", of.label, of.formula, of.source);
+    text += Formatted("- {}: {}. Source: {}.\n", of.label, of.formula, of.source);
   }
   if (!explanation.formulas.empty()) return text;
   text += "| | |\n|---|---|\n";
-  for (const auto& figure : explanation.figures) text += fmt::format("| {} | {} |\n", figure.label, figure.shown);
-  text += fmt::format("\n{}\n\nSource: {}.\n", explanation.formula, explanation.source);
+  for (const auto& figure : explanation.figures) text += Formatted("| {} | {} |\n", figure.label, figure.shown);
+  text += Formatted("\n{}\n\nSource: {}.\n", explanation.formula, explanation.source);
   if (explanation.programs.empty()) return text;
   text += "\n**Asked of other programs**\n\n";
   for (const ProgramCall& program : explanation.programs) {
     const std::string remark = RemarkOf(program);
-    text += fmt::format("- {}: `{}`{}{}\n", program.program, program.call, remark.empty() ? "" : " ", remark);
+    text += Formatted("- {}: `{}`{}{}\n", program.program, program.call, remark.empty() ? "" : " ", remark);
   }
   return text;
 }

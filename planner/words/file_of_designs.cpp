@@ -17,12 +17,6 @@ bool IsAmong(const std::vector<T>& all, const T& one) {
   return std::find(all.begin(), all.end(), one) != all.end();
 }
 
-std::string_view Trimmed(std::string_view text) {
-  while (text.starts_with(' ')) text.remove_prefix(1);
-  while (text.ends_with(' ')) text.remove_suffix(1);
-  return text;
-}
-
 /// Whether a design with no other inputs than these may take the route.
 bool IsPossible(const Route& route, const Names& names) {
   const auto isThere = [&](Name name) { return Contains(names, name); };

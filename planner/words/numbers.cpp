@@ -1,10 +1,11 @@
 #include "words/numbers.h"
 
 #include <fast_float/fast_float.h>
-#include <fmt/format.h>
 
 #include <cmath>
 #include <iterator>
+
+#include "format/format.h"
 
 namespace planner {
 namespace {
@@ -41,12 +42,11 @@ bool ParseNumber(std::string_view text, double& number) {
 
 void AppendShortest(std::string& text, double number) {
   constexpr double largestPlainWhole = 1e15;
-  const auto end = std::back_inserter(text);
   if (number == std::trunc(number) && std::abs(number) < largestPlainWhole) {
     if (number == 0 && std::signbit(number)) text += '-';
-    fmt::format_to(end, "{}", static_cast<long long>(number));
+    AppendDigits(text, static_cast<long long>(number));
   } else {
-    fmt::format_to(end, "{}", number);
+    AppendDigits(text, number);
   }
 }
 

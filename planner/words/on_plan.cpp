@@ -1,12 +1,11 @@
 #include "words/on_plan.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <cmath>
 #include <functional>
 #include <utility>
 
+#include "format/format.h"
 #include "solve/plan.h"
 #include "solve/results.h"
 #include "words/numbers.h"
@@ -15,7 +14,7 @@
 namespace planner {
 namespace {
 
-std::string Percentage(double share) { return fmt::format("{:.6g}%", 100 * share); }
+std::string Percentage(double share) { return Formatted("{:.6g}%", 100 * share); }
 
 bool IsOne(const Numbers& counts) { return counts.size() == 1; }
 
@@ -29,50 +28,50 @@ std::string PerGroup(const Numbers& counts, const std::string& counted = "") {
   if (IsOne(counts)) return ShownResult(Reading::Size, counts.front()) + shown;
   const std::string total = ShownResult(Reading::Size, TotalOf(counts));
   if (AreEqual(counts)) {
-    return fmt::format("{}{} in each group ({} in total)", ShownResult(Reading::Size, counts.front()), shown, total);
+    return Formatted("{}{} in each group ({} in total)", ShownResult(Reading::Size, counts.front()), shown, total);
   }
-  return fmt::format("{}{} in the groups ({} in total)", ListedInSentence(counts), shown, total);
+  return Formatted("{}{} in the groups ({} in total)", ListedInSentence(counts), shown, total);
 }
 
 std::string OnComparisons(const Inputs& inputs) {
-  return fmt::format(" The significance level of {:.4g} is divided among {} comparisons (Bonferroni).",
-                     inputs.Number("alpha"), Shortest(inputs.Number("comparisons")));
+  return Formatted(" The significance level of {:.4g} is divided among {} comparisons (Bonferroni).",
+                   inputs.Number("alpha"), Shortest(inputs.Number("comparisons")));
 }
 
 std::string OnClusters(const Answer& answer) {
   const Inputs& inputs = answer.inputs;
-  std::string text = fmt::format(" These are members of clusters of {}{} with an intracluster correlation of {}",
-                                 Shortest(inputs.Number("cluster-size")), inputs.Has("cluster-cv") ? " on average" : "",
-                                 Shortest(inputs.Number("icc")));
+  std::string text = Formatted(" These are members of clusters of {}{} with an intracluster correlation of {}",
+                               Shortest(inputs.Number("cluster-size")), inputs.Has("cluster-cv") ? " on average" : "",
+                               Shortest(inputs.Number("icc")));
   if (inputs.Has("cluster-cv")) {
-    text += fmt::format(" and sizes that vary by {}", Shortest(inputs.Number("cluster-cv")));
+    text += Formatted(" and sizes that vary by {}", Shortest(inputs.Number("cluster-cv")));
   }
-  text += fmt::format(": the design effect is {:.4g}", DesignEffect(inputs));
+  text += Formatted(": the design effect is {:.4g}", DesignEffect(inputs));
   if (inputs.Has("dropout")) return text + ".";
-  return text + fmt::format(", and there are {}.",
-                            PerGroup(PlannedSizes(Planned::Clusters, inputs, answer.sizes), "clusters"));
+  return text +
+         Formatted(", and there are {}.", PerGroup(PlannedSizes(Planned::Clusters, inputs, answer.sizes), "clusters"));
 }
 
 std::string OnDropout(const Answer& answer) {
   const Inputs& inputs = answer.inputs;
-  std::string text = fmt::format(" Enrol {}", PerGroup(PlannedSizes(Planned::Enrol, inputs, answer.sizes)));
+  std::string text = Formatted(" Enrol {}", PerGroup(PlannedSizes(Planned::Enrol, inputs, answer.sizes)));
   if (inputs.Has("cluster-size")) {
-    text += fmt::format(", {},", PerGroup(PlannedSizes(Planned::Clusters, inputs, answer.sizes), "clusters"));
+    text += Formatted(", {},", PerGroup(PlannedSizes(Planned::Clusters, inputs, answer.sizes), "clusters"));
   } else {
     text += ",";
   }
-  return text + fmt::format(" of whom {} may drop out.", Percentage(inputs.Number("dropout")));
+  return text + Formatted(" of whom {} may drop out.", Percentage(inputs.Number("dropout")));
 }
 
 std::string OnPopulation(const Inputs& inputs) {
-  return fmt::format(" The sample is drawn without replacement from a population of {}.",
-                     Shortest(inputs.Number("population")));
+  return Formatted(" The sample is drawn without replacement from a population of {}.",
+                   Shortest(inputs.Number("population")));
 }
 
 std::string OnUncertainty(const Answer& answer) {
   const double limit = *PlannedFigure(Planned::PowerLimit, *answer.test, answer.inputs);
   const std::string shown = limit > 0.9999 ? "1" : ShownResult(Reading::Power, limit);
-  return fmt::format(
+  return Formatted(
       " The expected power averages the power over a normal uncertainty about the effect with a standard deviation of "
       "{}, counts rejections in the direction of the effect, and stays below {} however large the study is.",
       Shortest(answer.inputs.Number("effect-sd")), shown);
@@ -94,10 +93,10 @@ std::string OnPlan(const Answer& answer) {
 std::string OnAssurance(const Answer& answer) {
   if (std::isnan(answer.assurance)) return "";
   const std::string text =
-      fmt::format(" The half-width of the data is at most {} with a probability of {}",
-                  Shortest(answer.inputs.Number("half-width")), ShownResult(Reading::Power, answer.assurance));
+      Formatted(" The half-width of the data is at most {} with a probability of {}",
+                Shortest(answer.inputs.Number("half-width")), ShownResult(Reading::Power, answer.assurance));
   if (!answer.SizesFound()) return text + ".";
-  return text + fmt::format("; at least {} was asked for.", Shortest(answer.inputs.Number("assurance")));
+  return text + Formatted("; at least {} was asked for.", Shortest(answer.inputs.Number("assurance")));
 }
 
 std::string InExpectation(const Answer& answer, std::string sentence) {

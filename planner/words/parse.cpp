@@ -1,12 +1,11 @@
 #include "words/parse.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <cmath>
 #include <optional>
 #include <utility>
 
+#include "format/format.h"
 #include "model/problem.h"
 #include "words/numbers.h"
 
@@ -62,10 +61,10 @@ std::string Text(const Limits& limits) {
   const bool hasLow = std::isfinite(low);
   const bool hasHigh = std::isfinite(high);
   if (hasLow && hasHigh && lowAllowed && highAllowed) {
-    return fmt::format("a {} from {} to {}", noun, Shortest(low), Shortest(high));
+    return Formatted("a {} from {} to {}", noun, Shortest(low), Shortest(high));
   }
   if (hasLow && hasHigh && !lowAllowed && !highAllowed) {
-    return fmt::format("a {} between {} and {}, neither included", noun, Shortest(low), Shortest(high));
+    return Formatted("a {} between {} and {}, neither included", noun, Shortest(low), Shortest(high));
   }
   std::string text = "a " + noun;
   if (hasLow) text += (lowAllowed ? " of at least " : " above ") + Shortest(low);
@@ -84,14 +83,14 @@ std::string Allowed(const Parameter& parameter) {
     case Kind::Number: return each;
     case Kind::List:
       if (parameter.length == 2) return "two numbers like 52,47" + (each == "a number" ? "" : ", each " + each);
-      if (parameter.length != 0) return fmt::format("{} numbers, each {}", parameter.length, each);
-      if (parameter.spreads) return fmt::format("{}, or a list of such", each);
+      if (parameter.length != 0) return Formatted("{} numbers, each {}", parameter.length, each);
+      if (parameter.spreads) return Formatted("{}, or a list of such", each);
       break;
     case Kind::PerGroup:
-      if (parameter.spreads) return fmt::format("{}, or a list of such, one for each group", each);
+      if (parameter.spreads) return Formatted("{}, or a list of such, one for each group", each);
       break;
   }
-  return fmt::format("a list like 1,2,3, each entry {}", each);
+  return Formatted("a list like 1,2,3, each entry {}", each);
 }
 
 namespace {

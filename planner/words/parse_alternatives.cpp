@@ -1,10 +1,9 @@
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <string>
 
+#include "format/format.h"
 #include "model/problem.h"
 #include "solve/designs.h"
 #include "words/numbers.h"
@@ -23,7 +22,7 @@ constexpr double rounding = 1e-9;
 
 /// The number without the last digit, which the sum of many steps rounds: 0.3 and not 0.30000000000000004.
 double Tidy(double number) {
-  ParseNumber(fmt::format("{:.15g}", number), number);
+  ParseNumber(Formatted("{:.15g}", number), number);
   return number;
 }
 

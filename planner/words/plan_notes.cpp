@@ -1,33 +1,32 @@
 #include "words/plan_notes.h"
 
-#include <fmt/format.h>
-
 #include <cmath>
 
+#include "format/format.h"
 #include "solve/plan.h"
 #include "words/numbers.h"
 
 namespace planner {
 namespace {
 
-PlanNote OnComparisons(const Inputs& in) {
+PlanNote NoteOnComparisons(const Inputs& in) {
   return {.figures = {{"level", "level of each comparison", in.Alpha()}},
-          .formula = fmt::format("level = {} / {} = {:.6g}", Shortest(in.Number("alpha")),
-                                 Shortest(in.Number("comparisons")), in.Alpha()),
+          .formula = Formatted("level = {} / {} = {:.6g}", Shortest(in.Number("alpha")),
+                               Shortest(in.Number("comparisons")), in.Alpha()),
           .source = "Bonferroni's inequality",
           .isKnownElsewhere = true};
 }
 
-PlanNote OnClusters(const Answer& answer) {
+PlanNote NoteOnClusters(const Answer& answer) {
   const Inputs& in = answer.inputs;
   const std::string m = Shortest(in.Number("cluster-size"));
   const std::string icc = Shortest(in.Number("icc"));
   const double variation = in.Has("cluster-cv") ? in.Number("cluster-cv") : 0;
   const double effect = DesignEffect(in);
-  PlanNote note{.figures = {{"design-effect", "design effect", effect}},
-                .formula = fmt::format("design effect = 1 + ((1 + {}^2) {} - 1) {} = {:.6g}", Shortest(variation), m,
-                                       icc, effect),
-                .source = "Eldridge, Ashby and Kerry 2006, International Journal of Epidemiology 35, 1292-1300"};
+  PlanNote note{
+      .figures = {{"design-effect", "design effect", effect}},
+      .formula = Formatted("design effect = 1 + ((1 + {}^2) {} - 1) {} = {:.6g}", Shortest(variation), m, icc, effect),
+      .source = "Eldridge, Ashby and Kerry 2006, International Journal of Epidemiology 35, 1292-1300"};
   for (std::size_t i = 0; i < answer.sizes.size(); ++i) {
     const std::string group = std::to_string(i + 1);
     note.figures.push_back({"effective-n" + group, "effective size of group " + group, answer.sizes[i] / effect});
@@ -35,34 +34,34 @@ PlanNote OnClusters(const Answer& answer) {
   return note;
 }
 
-PlanNote OnDropout(const Answer& answer) {
+PlanNote NoteOnDropout(const Answer& answer) {
   return {.figures = {},
-          .formula = fmt::format("to enrol = size / (1 - {})", Shortest(answer.inputs.Number("dropout"))),
+          .formula = Formatted("to enrol = size / (1 - {})", Shortest(answer.inputs.Number("dropout"))),
           .source = "the number expected to be left",
           .isKnownElsewhere = true};
 }
 
-PlanNote OnPopulation(const Answer& answer) {
+PlanNote NoteOnPopulation(const Answer& answer) {
   const std::string population = Shortest(answer.inputs.Number("population"));
   const std::string size = Shortest(answer.sizes.front());
   const bool narrows = answer.test->offers.population == FinitePopulation::NarrowsInterval;
   return {.figures = {},
-          .formula = narrows ? fmt::format("half-width in the population = half-width sqrt(({0} - {1}) / ({0} - 1))",
-                                           population, size)
-                             : fmt::format("of the size n = {1} ({0} - 1) / ({0} - {1})", population, size),
+          .formula = narrows ? Formatted("half-width in the population = half-width sqrt(({0} - {1}) / ({0} - 1))",
+                                         population, size)
+                             : Formatted("of the size n = {1} ({0} - 1) / ({0} - {1})", population, size),
           .source = "Cochran 1977, Sampling Techniques, sections 2.6 and 4.4"};
 }
 
-PlanNote OnAssurance(const Answer& answer) {
-  return {.figures = {{"assurance", "assurance", answer.assurance}},
-          .formula =
-              fmt::format("assurance = P(half-width of the data <= {})", Shortest(answer.inputs.Number("half-width"))),
-          .source = "Kupper and Hafner 1989, The American Statistician 43, 101-105"};
+PlanNote NoteOnAssurance(const Answer& answer) {
+  return {
+      .figures = {{"assurance", "assurance", answer.assurance}},
+      .formula = Formatted("assurance = P(half-width of the data <= {})", Shortest(answer.inputs.Number("half-width"))),
+      .source = "Kupper and Hafner 1989, The American Statistician 43, 101-105"};
 }
 
-PlanNote OnUncertainty(const Answer& answer) {
+PlanNote NoteOnUncertainty(const Answer& answer) {
   return {.figures = {{"expected-power", "expected power", answer.value}},
-          .formula = fmt::format(
+          .formula = Formatted(
               "expected power = integral of the power in the direction of the effect over a normal effect with a "
               "standard deviation of {}",
               Shortest(answer.inputs.Number("effect-sd"))),
@@ -74,12 +73,12 @@ PlanNote OnUncertainty(const Answer& answer) {
 std::vector<PlanNote> NotesOnPlan(const Answer& answer) {
   const Inputs& in = answer.inputs;
   std::vector<PlanNote> notes;
-  if (in.Has("comparisons")) notes.push_back(OnComparisons(in));
-  if (in.Has("cluster-size")) notes.push_back(OnClusters(answer));
-  if (in.Has("population")) notes.push_back(OnPopulation(answer));
-  if (!std::isnan(answer.assurance)) notes.push_back(OnAssurance(answer));
-  if (in.Has("effect-sd")) notes.push_back(OnUncertainty(answer));
-  if (in.Has("dropout")) notes.push_back(OnDropout(answer));
+  if (in.Has("comparisons")) notes.push_back(NoteOnComparisons(in));
+  if (in.Has("cluster-size")) notes.push_back(NoteOnClusters(answer));
+  if (in.Has("population")) notes.push_back(NoteOnPopulation(answer));
+  if (!std::isnan(answer.assurance)) notes.push_back(NoteOnAssurance(answer));
+  if (in.Has("effect-sd")) notes.push_back(NoteOnUncertainty(answer));
+  if (in.Has("dropout")) notes.push_back(NoteOnDropout(answer));
   return notes;
 }
 

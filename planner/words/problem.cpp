@@ -1,10 +1,9 @@
 #include "words/problem.h"
 
-#include <fmt/format.h>
-
 #include <cstddef>
 #include <vector>
 
+#include "format/format.h"
 #include "words/expand.h"
 #include "words/numbers.h"
 #include "words/parse.h"
@@ -13,17 +12,17 @@ namespace planner {
 namespace {
 
 /// A value as it was given: words and texts in quotes.
-std::string Given(const Value& value) {
-  if (const auto* text = std::get_if<std::string>(&value)) return fmt::format("\"{}\"", *text);
+std::string GivenAs(const Value& value) {
+  if (const auto* text = std::get_if<std::string>(&value)) return Formatted("\"{}\"", *text);
   const auto* numbers = std::get_if<Numbers>(&value);
   if (numbers && numbers->empty()) return "empty";
   return Shown(value);
 }
 
 /// Words a problem in the names that a front end gives the inputs. What the user typed is never taken for a name.
-class Words {
+class WordsOfProblem {
 public:
-  Words(const Problem& problem, const NameOfInput& name) : problem_(problem), name_(name) {}
+  WordsOfProblem(const Problem& problem, const NameOfInput& name) : problem_(problem), name_(name) {}
 
   std::string Sentence() const;
 
@@ -39,7 +38,7 @@ private:
   std::string Figure(std::size_t i) const { return Shown(problem_.values[i]); }
 
   /// To four digits.
-  std::string Rounded(std::size_t i) const { return fmt::format("{:.4g}", std::get<double>(problem_.values[i])); }
+  std::string Rounded(std::size_t i) const { return Formatted("{:.4g}", std::get<double>(problem_.values[i])); }
 
   /// "--sd and --n, or --effect-f and --n"
   std::string Ways(const std::string& last, const std::string& other) const {
@@ -75,75 +74,75 @@ private:
   const NameOfInput& name_;
 };
 
-std::string Words::Incomplete() const {
-  std::string text = fmt::format("Also give {} for {}", Ways(", or ", ", or "), Wording(*problem_.question));
+std::string WordsOfProblem::Incomplete() const {
+  std::string text = Formatted("Also give {} for {}", Ways(", or ", ", or "), Wording(*problem_.question));
   if (!problem_.inputs.empty()) {
-    text += fmt::format("; for the sample size, give {} in place of {}", Input(0), Input(1));
+    text += Formatted("; for the sample size, give {} in place of {}", Input(0), Input(1));
   }
   return text + ".";
 }
 
-std::string Words::GroupsDisagree() const {
-  return fmt::format("{} gives {} groups, but {} gives {}.", Input(0), Figure(0), Input(1), Figure(1));
+std::string WordsOfProblem::GroupsDisagree() const {
+  return Formatted("{} gives {} groups, but {} gives {}.", Input(0), Figure(0), Input(1), Figure(1));
 }
 
-std::string Words::WrongLength() const {
+std::string WordsOfProblem::WrongLength() const {
   const bool isOne = std::get<double>(problem_.values[0]) == 1;
-  return fmt::format("{} has {} {}, but there are {} groups.", Input(0), Figure(0), isOne ? "entry" : "entries",
-                     Figure(1));
+  return Formatted("{} has {} {}, but there are {} groups.", Input(0), Figure(0), isOne ? "entry" : "entries",
+                   Figure(1));
 }
 
-std::string Words::EndsCount() const {
+std::string WordsOfProblem::EndsCount() const {
   const bool isOne = std::get<double>(problem_.values[1]) == 1;
-  return fmt::format("{} is {}, but for {} {} must be {}.", Input(0), Figure(0), Input(1), problem_.words[0],
-                     isOne ? "a number" : "two numbers, one for each axis");
+  return Formatted("{} is {}, but for {} {} must be {}.", Input(0), Figure(0), Input(1), problem_.words[0],
+                   isOne ? "a number" : "two numbers, one for each axis");
 }
 
-std::string Words::EmptyChart() const {
+std::string WordsOfProblem::EmptyChart() const {
   std::vector<std::string> axes;
   for (std::size_t i = 0; i < problem_.words.size(); ++i) {
     axes.push_back(problem_.words[i] + " " + Text(problem_.limits[i]));
   }
-  return fmt::format("{} leave nothing to draw; allowed are: {}.", Joined(Inputs(), " and "), Joined(axes, " and "));
+  return Formatted("{} leave nothing to draw; allowed are: {}.", Joined(Inputs(), " and "), Joined(axes, " and "));
 }
 
-std::string Words::TooLarge() const {
+std::string WordsOfProblem::TooLarge() const {
   if (problem_.inputs.size() == 1) {
-    return fmt::format("The grid has more than {} points: give a larger {}.", Figure(0), Input(0));
+    return Formatted("The grid has more than {} points: give a larger {}.", Figure(0), Input(0));
   }
-  return fmt::format("The range has more than {} points: bring {} closer together.", Figure(0),
-                     Joined(Inputs(), " and "));
+  return Formatted("The range has more than {} points: bring {} closer together.", Figure(0),
+                   Joined(Inputs(), " and "));
 }
 
-std::string Words::SizesNotFound() const {
+std::string WordsOfProblem::SizesNotFound() const {
   const std::string end = problem_.values.size() > 1 ? " up to " + Figure(1) : "";
   const std::string how = problem_.words.empty() ? "" : problem_.words[0];
-  return fmt::format("No sample size{} was found that reaches a {} of {}{}.", end, problem_.inputs[0], Figure(0), how);
+  return Formatted("No sample size{} was found that reaches a {} of {}{}.", end, problem_.inputs[0], Figure(0), how);
 }
 
-std::string Words::NothingUnknown() const {
-  return fmt::format("{} and {} are given with all the rest, so nothing is left to solve for: leave one input out.",
-                     Input(0), Input(1));
+std::string WordsOfProblem::NothingUnknown() const {
+  return Formatted("{} and {} are given with all the rest, so nothing is left to solve for: leave one input out.",
+                   Input(0), Input(1));
 }
 
-std::string Words::TargetNotReached() const {
+std::string WordsOfProblem::TargetNotReached() const {
   const bool isPower = problem_.inputs[0] == "power";
-  return fmt::format("{} {} is not reached by any {}: {} is at {} {}, at {}.", Input(0), Figure(0), Input(1),
-                     isPower ? "the power" : "the half-width", isPower ? "most" : "least", Rounded(1), Rounded(2));
+  return Formatted("{} {} is not reached by any {}: {} is at {} {}, at {}.", Input(0), Figure(0), Input(1),
+                   isPower ? "the power" : "the half-width", isPower ? "most" : "least", Rounded(1), Rounded(2));
 }
 
-std::string Words::TooSlow() const {
-  return fmt::format(
+std::string WordsOfProblem::TooSlow() const {
+  return Formatted(
       "The chart of an exact test takes too long with so many points and sizes this large: give a larger {}, bring {} "
       "and {} closer together, or draw a large-sample test.",
       Input(0), Input(1), Input(2));
 }
 
 /// The sentence of a condition. "<0>" in it stands for the first value, and so on.
-std::string Words::OfCondition() const {
+std::string WordsOfProblem::OfCondition() const {
   std::string text = Expand(problem_.sentence, name_, [](std::string_view) { return false; });
   for (std::size_t i = 0; i < problem_.values.size(); ++i) {
-    const std::string mark = fmt::format("<{}>", i);
+    const std::string mark = Formatted("<{}>", i);
     for (std::size_t at = text.find(mark); at != std::string::npos; at = text.find(mark)) {
       text.replace(at, mark.size(), Figure(i));
     }
@@ -151,119 +150,115 @@ std::string Words::OfCondition() const {
   return text;
 }
 
-std::string Words::ChartSentence() const {
+std::string WordsOfProblem::ChartSentence() const {
   switch (problem_.code) {
     case Code::ChartUnknown:
-      return fmt::format("{} is {}, but must be {}, or two of them joined by a hyphen.", Input(0),
-                         Given(problem_.values[0]), Joined(problem_.words, " or "));
+      return Formatted("{} is {}, but must be {}, or two of them joined by a hyphen.", Input(0),
+                       GivenAs(problem_.values[0]), Joined(problem_.words, " or "));
     case Code::ChartSizesNeedTarget:
-      return fmt::format("{} n draws the sizes that reach a target: give {} in place of the sizes.", Input(0),
-                         Input(1));
+      return Formatted("{} n draws the sizes that reach a target: give {} in place of the sizes.", Input(0), Input(1));
     case Code::ChartOneAxis:
-      return fmt::format("{} {} has two axes, over which only a power is drawn: name one.", Input(0),
-                         problem_.words[0]);
+      return Formatted("{} {} has two axes, over which only a power is drawn: name one.", Input(0), problem_.words[0]);
     case Code::ChartOneDesign:
-      return fmt::format("{} has several values, but {} over two axes draws one design.", Input(0), Input(1));
+      return Formatted("{} has several values, but {} over two axes draws one design.", Input(0), Input(1));
     case Code::ChartVariesAlternatives:
-      return fmt::format("{} has several values, but {} varies it along an axis: give one.", Input(0), Input(1));
+      return Formatted("{} has several values, but {} varies it along an axis: give one.", Input(0), Input(1));
     case Code::ChartEndNotAllowed:
-      return fmt::format("{} is {}, but of {} must be {}.", Input(0), Figure(0), problem_.words[0],
-                         Text(problem_.limits[0]));
+      return Formatted("{} is {}, but of {} must be {}.", Input(0), Figure(0), problem_.words[0],
+                       Text(problem_.limits[0]));
     case Code::ChartEndsDescend:
-      return fmt::format("{} is {}, but must be below {}, which is {}.", Input(0), Figure(0), Input(1), Figure(1));
+      return Formatted("{} is {}, but must be below {}, which is {}.", Input(0), Figure(0), Input(1), Figure(1));
     case Code::ChartEndsCount: return EndsCount();
     case Code::ChartEndMissing: return Joined(Inputs(), " and ") + " go together: give both or neither.";
     case Code::ChartRangeUnknown:
-      return fmt::format("{} {} has no usual range for these inputs: also give {}.", Input(0), problem_.words[0],
-                         Joined(Inputs(1), " and "));
+      return Formatted("{} {} has no usual range for these inputs: also give {}.", Input(0), problem_.words[0],
+                       Joined(Inputs(1), " and "));
     case Code::ChartStepUseless:
-      return fmt::format("{} has no use with {} {}: whole numbers go by ones.", Input(0), Input(1), problem_.words[0]);
+      return Formatted("{} has no use with {} {}: whole numbers go by ones.", Input(0), Input(1), problem_.words[0]);
     case Code::ChartStepNotAllowed:
-      return fmt::format("{} is {}, but must be {}: a share of the range.", Input(0), Figure(0),
-                         Text(problem_.limits[0]));
+      return Formatted("{} is {}, but must be {}: a share of the range.", Input(0), Figure(0),
+                       Text(problem_.limits[0]));
     case Code::ChartStepTooLarge:
-      return fmt::format("{} is {}, but leaves fewer than two points to draw: give a smaller one.", Input(0),
-                         Figure(0));
+      return Formatted("{} is {}, but leaves fewer than two points to draw: give a smaller one.", Input(0), Figure(0));
     case Code::ChartTooLarge: return TooLarge();
     case Code::ChartTooSlow: return TooSlow();
     case Code::ChartEmpty: return EmptyChart();
     case Code::ChartWithoutPower:
-      return fmt::format("The test has no answer anywhere between {}.", Joined(Inputs(), " and "));
+      return Formatted("The test has no answer anywhere between {}.", Joined(Inputs(), " and "));
     default: return OfCondition();
   }
 }
 
-std::string Words::SentenceOnDesigns() const {
+std::string WordsOfProblem::SentenceOnDesigns() const {
   switch (problem_.code) {
     case Code::TestNowhere:
       return "No column \"test\" names the test of each design, and none is named for all of them.";
     case Code::TestMissing: return "The row names no test.";
-    case Code::TestUnknown: return fmt::format("\"{}\" is not a test.", problem_.words[0]);
+    case Code::TestUnknown: return Formatted("\"{}\" is not a test.", problem_.words[0]);
     case Code::ColumnUnknown:
-      return fmt::format("The column \"{}\" is not an input of {}.", problem_.words[0],
-                         problem_.words.size() > 1 ? problem_.words[1] : "any test");
-    case Code::ColumnRepeated: return fmt::format("The column \"{}\" is there more than once.", problem_.words[0]);
+      return Formatted("The column \"{}\" is not an input of {}.", problem_.words[0],
+                       problem_.words.size() > 1 ? problem_.words[1] : "any test");
+    case Code::ColumnRepeated: return Formatted("The column \"{}\" is there more than once.", problem_.words[0]);
     case Code::FieldsDisagree:
-      return fmt::format("The row has {} fields, but there are {} columns.", Figure(0), Figure(1));
+      return Formatted("The row has {} fields, but there are {} columns.", Figure(0), Figure(1));
     case Code::NotAnObject: return "The line is not an object of JSON that describes a design.";
     case Code::ColumnsMissing: return "There is no line that names the columns.";
     case Code::NotDesigns: return "This is not JSON of one design or an array of designs.";
     case Code::RangeUseless:
-      return fmt::format(
+      return Formatted(
           "{} is \"{}\", but a range must be three numbers from:to:step with a step that leads from the "
           "one end to the other.",
           Input(0), Figure(0));
     case Code::FieldLate:
-      return fmt::format("The field \"{}\" has no column here, since the first rows lack it.", problem_.words[0]);
+      return Formatted("The field \"{}\" has no column here, since the first rows lack it.", problem_.words[0]);
     case Code::ResultLate:
-      return fmt::format("The result \"{}\" has no column here, since the first rows are of other tests.",
-                         problem_.words[0]);
-    case Code::TooManyDesigns: return fmt::format("These are more than {} designs.", Figure(0));
+      return Formatted("The result \"{}\" has no column here, since the first rows are of other tests.",
+                       problem_.words[0]);
+    case Code::TooManyDesigns: return Formatted("These are more than {} designs.", Figure(0));
     default: return ChartSentence();
   }
 }
 
-std::string Words::Sentence() const {
+std::string WordsOfProblem::Sentence() const {
   switch (problem_.code) {
-    case Code::NotAnInput: return fmt::format("{} is no input of {}.", Input(0), problem_.words[0]);
+    case Code::NotAnInput: return Formatted("{} is no input of {}.", Input(0), problem_.words[0]);
     case Code::NotAllowed:
-      return fmt::format("{} is {}, but must be {}{}.", Input(0), Given(problem_.values[0]), Allowed(*problem_.allowed),
-                         problem_.words.empty() ? "" : ": write " + problem_.words[0]);
+      return Formatted("{} is {}, but must be {}{}.", Input(0), GivenAs(problem_.values[0]), Allowed(*problem_.allowed),
+                       problem_.words.empty() ? "" : ": write " + problem_.words[0]);
     case Code::UselessAlone:
-      return fmt::format("{} has a use only together with {}.", Input(0), Joined(Inputs(1), " or "));
+      return Formatted("{} has a use only together with {}.", Input(0), Joined(Inputs(1), " or "));
     case Code::AsksSomethingElse:
-      return fmt::format("{} asks for {}, so {} cannot be given as well.", Input(1), Wording(*problem_.question),
-                         Input(0));
+      return Formatted("{} asks for {}, so {} cannot be given as well.", Input(1), Wording(*problem_.question),
+                       Input(0));
     case Code::Exclusive: return Joined(Inputs(), " and ") + " exclude each other.";
     case Code::DoNotGoTogether: return Joined(Inputs(), " and ") + " do not go together.";
     case Code::TwoQuestions:
       return Joined(Inputs(), " and ") + " exclude each other: each asks for an answer of its own.";
     case Code::Incomplete: return Incomplete();
     case Code::GroupsDisagree: return GroupsDisagree();
-    case Code::GroupsUnknown: return fmt::format("The number of groups is not known: give {}.", Input(0));
-    case Code::TooFewGroups: return fmt::format("{} gives 1 group, but must give at least 2.", Input(0));
+    case Code::GroupsUnknown: return Formatted("The number of groups is not known: give {}.", Input(0));
+    case Code::TooFewGroups: return Formatted("{} gives 1 group, but must give at least 2.", Input(0));
     case Code::TooManyGroups:
-      return fmt::format("{} gives {} groups, but at most {} are allowed.", Input(0), Figure(0), Figure(1));
+      return Formatted("{} gives {} groups, but at most {} are allowed.", Input(0), Figure(0), Figure(1));
     case Code::WrongLength: return WrongLength();
-    case Code::SolvedForIsGiven: return fmt::format("{} is given, so {} cannot ask for it.", Input(0), Input(1));
-    case Code::NotSolvedFor: return fmt::format("{} cannot be solved for with {}.", Input(0), Input(1));
+    case Code::SolvedForIsGiven: return Formatted("{} is given, so {} cannot ask for it.", Input(0), Input(1));
+    case Code::NotSolvedFor: return Formatted("{} cannot be solved for with {}.", Input(0), Input(1));
     case Code::NothingUnknown: return NothingUnknown();
     case Code::SolvesWithoutTarget:
-      return fmt::format("{} has a use only where the power or half-width to reach is given besides the sizes.",
-                         Input(0));
+      return Formatted("{} has a use only where the power or half-width to reach is given besides the sizes.",
+                       Input(0));
     case Code::TargetNotReached: return TargetNotReached();
-    case Code::TargetReachedAlways:
-      return fmt::format("{} {} is reached whatever {} is.", Input(0), Figure(0), Input(1));
+    case Code::TargetReachedAlways: return Formatted("{} {} is reached whatever {} is.", Input(0), Figure(0), Input(1));
     case Code::BelongsToSizesFound:
-      return fmt::format("{} goes with sizes that are found, so {} cannot be given as well.", Input(0), Input(1));
+      return Formatted("{} goes with sizes that are found, so {} cannot be given as well.", Input(0), Input(1));
     case Code::BeyondPowerLimit:
-      return fmt::format(
+      return Formatted(
           "{} {} is not reached by any sample size: with {} {} the expected power stays below {}, the probability that "
           "the effect has the direction expected.",
           Input(0), Figure(0), Input(1), Figure(1), Rounded(2));
     case Code::SizesNotFound: return SizesNotFound();
     case Code::NotComputable:
-      return fmt::format("These inputs have no answer: {} cannot be computed.", Wording(*problem_.question));
+      return Formatted("These inputs have no answer: {} cannot be computed.", Wording(*problem_.question));
     case Code::Stopped: return "The computation was stopped; there is no answer.";
     default: return SentenceOnDesigns();
   }
@@ -272,10 +267,12 @@ std::string Words::Sentence() const {
 }  // namespace
 
 std::string SentenceTemplate(const Problem& problem) {
-  return Sentence(problem, [](std::string_view name) { return fmt::format("{{{}}}", name); });
+  return Sentence(problem, [](std::string_view name) { return Formatted("{{{}}}", name); });
 }
 
-std::string Sentence(const Problem& problem, const NameOfInput& name) { return Words(problem, name).Sentence(); }
+std::string Sentence(const Problem& problem, const NameOfInput& name) {
+  return WordsOfProblem(problem, name).Sentence();
+}
 
 std::string Wording(Question question) {
   switch (question) {

@@ -13,7 +13,7 @@ struct CodeWord {
   const char* word;
 };
 
-constexpr CodeWord words[] = {
+constexpr CodeWord codeWords[] = {
     {Code::NotAnInput, "not-an-input"},
     {Code::NotAllowed, "not-allowed"},
     {Code::UselessAlone, "useless-alone"},
@@ -82,7 +82,7 @@ std::string WithNamesSpelt(std::string text, const Problem& problem, NameStyle s
 }  // namespace
 
 const char* WordOf(Code code) {
-  for (const CodeWord& known : words) {
+  for (const CodeWord& known : codeWords) {
     if (known.code == code) return known.word;
   }
   return WordOfGroup(code);

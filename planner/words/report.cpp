@@ -1,13 +1,12 @@
 #include "words/report.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <cmath>
 #include <functional>
 #include <limits>
 #include <optional>
 
+#include "format/format.h"
 #include "words/expand.h"
 #include "words/numbers.h"
 #include "words/on_plan.h"
@@ -19,16 +18,16 @@ std::string ShownPower(double power) {
   if (power > 0.99995) return ">0.9999";
   if (power == 0) return "0";
   if (power < 0.00005) return "<0.0001";
-  return fmt::format("{:.4f}", power);
+  return Formatted("{:.4f}", power);
 }
 
-std::string ShownHalfWidth(double halfWidth) { return fmt::format("{:.4g}", halfWidth); }
+std::string ShownHalfWidth(double halfWidth) { return Formatted("{:.4g}", halfWidth); }
 
 /// The sizes in digits worth reading: all, or four where there are too many observations to count.
 Numbers Readable(Numbers sizes) {
   constexpr double largestCounted = 1e15;
   for (double& size : sizes) {
-    if (size >= largestCounted) ParseNumber(fmt::format("{:.4g}", size), size);
+    if (size >= largestCounted) ParseNumber(Formatted("{:.4g}", size), size);
   }
   return sizes;
 }
@@ -37,14 +36,14 @@ std::string Readable(double size) { return Shortest(Readable(Numbers{size}).fron
 
 /// "20 observations in each of 3 groups (60 in total)"
 std::string SizesInSentence(const Test& test, const Numbers& sizes) {
-  if (sizes.size() == 1) return fmt::format("{} {}", Readable(sizes.front()), test.counted);
+  if (sizes.size() == 1) return Formatted("{} {}", Readable(sizes.front()), test.counted);
   const bool equal = std::adjacent_find(sizes.begin(), sizes.end(), std::not_equal_to<>()) == sizes.end();
   if (equal) {
-    return fmt::format("{} {} in each of {} groups ({} in total)", Readable(sizes.front()), test.counted, sizes.size(),
-                       Readable(TotalOf(sizes)));
-  }
-  return fmt::format("{} {} in {} groups ({} in total)", ListedInSentence(Readable(sizes)), test.counted, sizes.size(),
+    return Formatted("{} {} in each of {} groups ({} in total)", Readable(sizes.front()), test.counted, sizes.size(),
                      Readable(TotalOf(sizes)));
+  }
+  return Formatted("{} {} in {} groups ({} in total)", ListedInSentence(Readable(sizes)), test.counted, sizes.size(),
+                   Readable(TotalOf(sizes)));
 }
 
 std::string ChoiceWording(const Parameter& parameter, const std::string& word) {
@@ -61,13 +60,13 @@ double NumberOf(const Answer& answer) {
 
 std::string Confidence(const Inputs& inputs) {
   // A level that is divided may have no end of digits.
-  return fmt::format("{:.{}g}%", 100 * (1 - inputs.Alpha()), inputs.Has("comparisons") ? 6 : 10);
+  return Formatted("{:.{}g}%", 100 * (1 - inputs.Alpha()), inputs.Has("comparisons") ? 6 : 10);
 }
 
 /// Gives the words of a sentence's braces.
-class Words {
+class WordsOfAnswer {
 public:
-  explicit Words(const Answer& answer) : test_(*answer.test), inputs_(answer.inputs), answer_(answer) {}
+  explicit WordsOfAnswer(const Answer& answer) : test_(*answer.test), inputs_(answer.inputs), answer_(answer) {}
 
   std::string Of(const std::string& text) const {
     return Expand(
@@ -84,7 +83,7 @@ private:
     if (name == "half-width") return ShownHalfWidth(answer_.value);
     if (name == "target-power") return Shortest(inputs_.Number("power"));
     if (name == "target-half-width") return Shortest(inputs_.Number("half-width"));
-    if (name == "alpha" && inputs_.Has("comparisons")) return fmt::format("{:.4g}", inputs_.Alpha());
+    if (name == "alpha" && inputs_.Has("comparisons")) return Formatted("{:.4g}", inputs_.Alpha());
     if (name == "confidence") return Confidence(inputs_);
     for (const Phrase& phrase : test_.phrases) {
       if (phrase.name == name) return OfPhrase(phrase);
@@ -99,7 +98,7 @@ private:
   /// The figure of that name, which a sentence may tell beside the inputs that it follows from.
   std::string OfDerived(std::string_view name) const {
     for (const auto& [derived, figure] : answer_.derived) {
-      if (derived->name == name) return fmt::format("{:.4g}", figure);
+      if (derived->name == name) return Formatted("{:.4g}", figure);
     }
     return "";
   }
@@ -127,7 +126,7 @@ private:
   std::string OfInput(std::string_view name) const {
     const Parameter* parameter = FindParameter(test_, name);
     if (!parameter || !inputs_.Has(parameter->name)) return "";
-    if (answer_.unknown && parameter->name == answer_.unknown->input) return fmt::format("{:.4g}", NumberOf(answer_));
+    if (answer_.unknown && parameter->name == answer_.unknown->input) return Formatted("{:.4g}", NumberOf(answer_));
     const Value value = inputs_.ValueOf(*parameter);
     if (const auto* word = std::get_if<std::string>(&value)) return ChoiceWording(*parameter, *word);
     if (const auto* numbers = std::get_if<Numbers>(&value)) return ListedInSentence(*numbers);
@@ -165,7 +164,7 @@ std::vector<Entry> AssumptionEntries(const Answer& answer) {
   std::vector<Entry> entries;
   for (const Assumption& assumption : answer.test->assumptions) {
     if (!IsTaken(answer, assumption.needs)) continue;
-    const std::string words = Words(answer).Of(assumption.call(answer.inputs));
+    const std::string words = WordsOfAnswer(answer).Of(assumption.call(answer.inputs));
     if (!words.empty()) entries.push_back({assumption.name, assumption.label, words, words});
   }
   if (!IsAboutPower(answer.Asked())) {
@@ -227,8 +226,8 @@ std::string SentenceOf(const Test& test, Question question) {
 std::string OnUnevenness(const Answer& answer) {
   if (answer.lastingSizes.empty()) return "";
   if (answer.lastingSizes == answer.sizes) return " All larger sample sizes reach it too.";
-  return fmt::format(" Some larger sample sizes do not reach it; all do from {} on.",
-                     SizesInSentence(*answer.test, answer.lastingSizes));
+  return Formatted(" Some larger sample sizes do not reach it; all do from {} on.",
+                   SizesInSentence(*answer.test, answer.lastingSizes));
 }
 
 }  // namespace
@@ -262,19 +261,19 @@ std::string ShownResult(Reading reading, double value) {
     case Reading::Sizes: return Readable(value);
     case Reading::Figure: break;
   }
-  return fmt::format("{:.4g}", value);
+  return Formatted("{:.4g}", value);
 }
 
 std::string ShownSizes(const Numbers& sizes) { return Listed(Readable(sizes)); }
 
 std::string NoteOn(Question question, const Inputs& inputs, double value) {
   constexpr double oddLevel = 0.5;
-  constexpr double rounding = 1e-9;
+  constexpr double slack = 1e-9;
   if (inputs.Alpha() >= oddLevel) {
-    return fmt::format("A significance level of {} rejects more often than not without any effect.",
-                       Shortest(inputs.Alpha()));
+    return Formatted("A significance level of {} rejects more often than not without any effect.",
+                     Shortest(inputs.Alpha()));
   }
-  const bool isLow = IsAboutPower(question) && value <= inputs.Alpha() * (1 + rounding);
+  const bool isLow = IsAboutPower(question) && value <= inputs.Alpha() * (1 + slack);
   if (!isLow) return "";
   // Against margins no effect may be what is to be shown.
   const bool hasMargins = inputs.Has("margin") || inputs.Has("equivalence");
@@ -295,7 +294,7 @@ Report MakeReport(const Answer& answer) {
           .inputs = InputEntries(answer),
           .assumptions = AssumptionEntries(answer),
           .results = ResultEntries(answer),
-          .sentence = Words(answer).Of(InExpectation(answer, SentenceOf(*answer.test, answer.Asked()))) +
+          .sentence = WordsOfAnswer(answer).Of(InExpectation(answer, SentenceOf(*answer.test, answer.Asked()))) +
                       OnAssurance(answer) + OnUnevenness(answer) + OnPlan(answer),
           .note = NoteOn(answer.Asked(), answer.inputs, answer.value)};
 }

@@ -22,13 +22,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr std::string_view blanks = " \t\r\n";
-
-std::string_view Trimmed(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
-  return text.substr(0, text.find_last_not_of(blanks) + 1);
-}
-
 /// The problem in the names of the columns, in one line whatever a field holds.
 std::string SentenceOf(const Problem& problem) {
   std::string sentence = Sentence(problem, [](std::string_view name) { return std::string(name); });

@@ -1,8 +1,7 @@
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <iterator>
 
+#include "format/format.h"
 #include "words/render.h"
 
 namespace planner {
@@ -32,32 +31,32 @@ std::size_t WidestLabel(const Report& report) {
 }
 
 std::string MarkdownRow(const Entry& entry, const std::string& mark) {
-  return fmt::format("| {0}{1}{0} | {0}{2}{0} |\n", mark, entry.label, entry.shown);
+  return Formatted("| {0}{1}{0} | {0}{2}{0} |\n", mark, entry.label, entry.shown);
 }
 
 }  // namespace
 
 std::string RenderText(const Report& report, const Highlights& highlights) {
-  std::string text = fmt::format("{}{}{}\n\n", highlights.heading, report.test->title, highlights.end);
+  std::string text = Formatted("{}{}{}\n\n", highlights.heading, report.test->title, highlights.end);
   const std::size_t width = WidestLabel(report);
   for (const Entry& entry : InputsForReading(report))
-    text += fmt::format("  {:<{}}  {}\n", entry.label, width, entry.shown);
+    text += Formatted("  {:<{}}  {}\n", entry.label, width, entry.shown);
   text += '\n';
   for (const Entry& entry : ResultsForReading(report)) {
-    text += fmt::format("  {}{:<{}}  {}{}\n", highlights.answer, entry.label, width, entry.shown, highlights.end);
+    text += Formatted("  {}{:<{}}  {}{}\n", highlights.answer, entry.label, width, entry.shown, highlights.end);
   }
-  text += fmt::format("\n{}\n", report.sentence);
-  if (!report.note.empty()) text += fmt::format("Note: {}\n", report.note);
+  text += Formatted("\n{}\n", report.sentence);
+  if (!report.note.empty()) text += Formatted("Note: {}\n", report.note);
   if (report.explanation) text += RenderText(*report.explanation, highlights.heading, highlights.end);
   return text;
 }
 
 std::string RenderMarkdown(const Report& report) {
-  std::string text = fmt::format("**{}**\n\n| | |\n|---|---|\n", report.test->title);
+  std::string text = Formatted("**{}**\n\n| | |\n|---|---|\n", report.test->title);
   for (const Entry& entry : InputsForReading(report)) text += MarkdownRow(entry, "");
   for (const Entry& entry : ResultsForReading(report)) text += MarkdownRow(entry, "**");
-  text += fmt::format("\n{}\n", report.sentence);
-  if (!report.note.empty()) text += fmt::format("\n{}\n", report.note);
+  text += Formatted("\n{}\n", report.sentence);
+  if (!report.note.empty()) text += Formatted("\n{}\n", report.note);
   if (report.explanation) text += RenderMarkdown(*report.explanation);
   return text;
 }

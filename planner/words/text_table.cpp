@@ -1,10 +1,10 @@
 #include "words/text_table.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <functional>
 #include <string_view>
+
+#include "format/format.h"
 
 namespace planner {
 namespace {
@@ -53,13 +53,13 @@ std::string RenderText(const TextTable& table, const Highlights& highlights) {
   const std::vector<std::size_t> widths = Widths(table);
   const std::size_t notes = table.heads.size() - 1;
   const std::size_t columns = ColumnCount(table);
-  std::string text = fmt::format("{}{}{}\n\n", highlights.heading, table.title, highlights.end);
+  std::string text = Formatted("{}{}{}\n\n", highlights.heading, table.title, highlights.end);
   const auto addRow = [&](const Cells& cells, bool isHead) {
     for (std::size_t i = 0; i < columns; ++i) {
       const bool isAnswer = i >= table.inputs && !isHead;
       text += "  ";
       if (isAnswer) text += highlights.answer;
-      text += i == notes ? std::string(cells[i]) : fmt::format("{:>{}}", cells[i], widths[i]);
+      text += i == notes ? std::string(cells[i]) : Formatted("{:>{}}", cells[i], widths[i]);
       if (isAnswer) text += highlights.end;
     }
     while (text.ends_with(' ')) text.pop_back();
@@ -67,23 +67,23 @@ std::string RenderText(const TextTable& table, const Highlights& highlights) {
   };
   addRow(Cells(table.heads.begin(), table.heads.end()), true);
   ForEachRow(table, [&](const Cells& cells) { addRow(cells, false); });
-  if (!table.below.empty()) text += fmt::format("\n{}\n", table.below);
+  if (!table.below.empty()) text += Formatted("\n{}\n", table.below);
   return text;
 }
 
 std::string RenderMarkdown(const TextTable& table) {
   const std::size_t columns = ColumnCount(table);
-  std::string text = fmt::format("**{}**\n\n|", table.title);
-  for (std::size_t i = 0; i < columns; ++i) text += fmt::format(" {} |", table.heads[i]);
+  std::string text = Formatted("**{}**\n\n|", table.title);
+  for (std::size_t i = 0; i < columns; ++i) text += Formatted(" {} |", table.heads[i]);
   text += "\n|";
   for (std::size_t i = 0; i < columns; ++i) text += i + 1 == table.heads.size() ? "---|" : "---:|";
   text += '\n';
   ForEachRow(table, [&](const Cells& cells) {
     text += '|';
-    for (std::size_t i = 0; i < columns; ++i) text += fmt::format(" {} |", cells[i]);
+    for (std::size_t i = 0; i < columns; ++i) text += Formatted(" {} |", cells[i]);
     text += '\n';
   });
-  if (!table.below.empty()) text += fmt::format("\n{}\n", table.below);
+  if (!table.below.empty()) text += Formatted("\n{}\n", table.below);
   return text;
 }
 

@@ -21,12 +21,6 @@ double ScaledVariance(PerGroup coefficients, PerGroup sizes, double scale) {
   return variance;
 }
 
-double LargestMagnitude(PerGroup values) {
-  double largest = 0;
-  for (const double value : values) largest = std::max(largest, std::fabs(value));
-  return largest;
-}
-
 }  // namespace
 
 double ContrastValue(PerGroup coefficients, PerGroup means) {

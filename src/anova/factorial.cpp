@@ -126,12 +126,6 @@ bool AreFinite(PerGroup values) {
   return std::all_of(values.begin(), values.end(), [](double value) { return std::isfinite(value); });
 }
 
-double LargestMagnitude(PerGroup values) {
-  double largest = 0;
-  for (const double value : values) largest = std::max(largest, std::fabs(value));
-  return largest;
-}
-
 }  // namespace
 
 std::optional<FactorialTerm> FactorialTerm::Of(const std::vector<double>& levels, const std::vector<double>& term) {

@@ -1,6 +1,8 @@
 #ifndef KELPOWER_ANOVA_GROUPS_H
 #define KELPOWER_ANOVA_GROUPS_H
 
+#include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace kelpower::anova {
@@ -27,6 +29,13 @@ inline double Sum(PerGroup values) {
   double sum = 0;
   for (const double value : values) sum += value;
   return sum;
+}
+
+/// The largest |value|, 0 without groups.
+inline double LargestMagnitude(PerGroup values) {
+  double largest = 0;
+  for (const double value : values) largest = std::max(largest, std::fabs(value));
+  return largest;
 }
 
 }  // namespace kelpower::anova

@@ -5,6 +5,7 @@
 #include <limits>
 #include <numeric>
 
+#include "comparisons/normal_means.h"
 #include "frame/bracketed_root.h"
 #include "frame/rejection.h"
 #include "kelcommon/chi_integral.h"
@@ -17,20 +18,11 @@ namespace {
 using KelMath::KelDistFun;
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double rootHalf = 0.70710678118654752440;
-constexpr double densityAtZero = 0.39894228040143267794;
 
 // The normal probability above x. From `reach` on it adds no digit.
 double NormalAbove(double x, double reach) {
   if (x > reach) return 0;
   return x < -8.5 ? 1 : std::erfc(x * rootHalf) / 2;
-}
-
-double WholePower(double x, int n) {
-  double power = 1;
-  for (; n > 0; n /= 2, x *= x)
-    if (n % 2 != 0) power *= x;
-  return power;
 }
 
 // Of n independent events, each of probability x, at least one. Small probabilities keep their digits.

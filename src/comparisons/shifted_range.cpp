@@ -4,25 +4,17 @@
 #include <cmath>
 #include <utility>
 
+#include "comparisons/normal_means.h"
+
 namespace kelpower::comparisons {
 
 namespace {
-
-constexpr double rootHalf = 0.70710678118654752440;
-constexpr double densityAtZero = 0.39894228040143267794;
 
 // Beyond, the density of the least variable is below the last digit.
 constexpr double reach = 9;
 constexpr double negligible = 1e-18;
 
 double NormalBelow(double z) { return std::erfc(-z * rootHalf) / 2; }
-
-double WholePower(double x, int n) {
-  double power = 1;
-  for (; n > 0; n /= 2, x *= x)
-    if (n % 2 != 0) power *= x;
-  return power;
-}
 
 }  // namespace
 

@@ -7,8 +7,6 @@ namespace kelpower::effects {
 
 namespace {
 
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-
 bool Rejects(const Correlation& correlation) { return !(std::fabs(correlation.r) < 1) || !(correlation.size > 3); }
 bool RejectsLevel(double alpha) { return !(alpha > 0 && alpha < 1); }
 bool RejectsShare(double share) { return !(share > 0 && share < 1); }
@@ -35,13 +33,13 @@ std::optional<Estimate> CohensQ(const Correlation& first, const Correlation& sec
 }
 
 double CorrelationOfCohensD(double d, double share) {
-  if (RejectsShare(share)) return nan;
+  if (RejectsShare(share)) return NAN;
   if (std::isinf(d)) return std::copysign(1.0, d);
   return d / std::hypot(d, 1 / std::sqrt(share * (1 - share)));
 }
 
 double CohensDOfCorrelation(double r, double share) {
-  if (RejectsShare(share)) return nan;
+  if (RejectsShare(share)) return NAN;
   return r / std::sqrt((1 - r) * (1 + r)) / std::sqrt(share * (1 - share));
 }
 

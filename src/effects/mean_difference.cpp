@@ -14,7 +14,6 @@ using KelMath::KelDistFun;
 
 namespace {
 
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double rootOfTwo = 1.4142135623730950488;
 constexpr double logisticSd = 1.8137993642342178506;  // pi / sqrt(3)
 
@@ -55,7 +54,7 @@ std::optional<Estimate> CohensDOfOneSampleT(double t, double size, double alpha)
 }
 
 double HedgesFactor(double df) {
-  if (!(df > 1)) return nan;
+  if (!(df > 1)) return NAN;
   return std::sqrt(1 - 1 / df) * GammaRatio((df - 1) / 2);
 }
 
@@ -68,7 +67,7 @@ std::optional<Estimate> HedgesG(const Estimate& d, double df) {
 double ProbabilityOfSuperiority(double d) { return KelDistFun::CdfStdNorm(d / rootOfTwo); }
 
 double CohensDOfSuperiority(double probability) {
-  if (!(probability >= 0 && probability <= 1)) return nan;
+  if (!(probability >= 0 && probability <= 1)) return NAN;
   return rootOfTwo * KelDistFun::IdfStdNorm(probability);
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 
+#include "frame/rejection.h"
 #include "kelcommon/kel_dist_fun.h"
 #include "kelcommon/kel_mv.h"
 
@@ -12,8 +13,6 @@ namespace {
 
 using KelCommon::KelMV;
 using KelMath::KelDistFun;
-
-constexpr double accuracy = 1e-12;
 
 double NaNIfMissing(double probability) {
   return KelMV::IsMissing(probability) ? std::numeric_limits<double>::quiet_NaN() : probability;
@@ -30,11 +29,11 @@ double NormalDensity(double x, double mean, double sd) {
 double NormalBelow(double x, double mean, double sd) { return KelDistFun::CdfStdNorm((x - mean) / sd); }
 
 double TBelow(double x, double df, double noncentrality) {
-  return NaNIfMissing(KelDistFun::NonCentralCdfT(x, df, noncentrality, accuracy));
+  return NaNIfMissing(KelDistFun::NonCentralCdfT(x, df, noncentrality, noncentralAccuracy));
 }
 
 double FBelow(double x, double df1, double df2, double noncentrality) {
-  return NaNIfMissing(KelDistFun::NonCentralCdfF(x, df1, df2, noncentrality, accuracy));
+  return NaNIfMissing(KelDistFun::NonCentralCdfF(x, df1, df2, noncentrality, noncentralAccuracy));
 }
 
 double BinomialMass(double count, double trials, double proportion) {

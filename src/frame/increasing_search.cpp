@@ -18,7 +18,7 @@ using KelMath::KelDistFun;
 namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double largest = std::numeric_limits<double>::max();
+constexpr double largestDouble = std::numeric_limits<double>::max();
 
 /// Most interpolation steps, of which six are usual. The bisection finishes the rest.
 constexpr int mostSteps = 16;
@@ -155,10 +155,10 @@ void Locator::Learn(double x, double value) {
 /// Steps up, a little beyond where the root should be, to a size that is not too small. False when none is found.
 bool Locator::FindUpperEnd() {
   double factor = 4;
-  for (int step = 0; step < mostSteps && std::isinf(above_.x) && below_.x < largest; ++step) {
+  for (int step = 0; step < mostSteps && std::isinf(above_.x) && below_.x < largestDouble; ++step) {
     const double guess = 1.05 * shape_.SizeAt(nearest_.CrossingOfLine());
-    const bool isUsable = guess > below_.x && guess <= largest;
-    Visit(isUsable ? guess : std::min(below_.x * factor, largest));
+    const bool isUsable = guess > below_.x && guess <= largestDouble;
+    Visit(isUsable ? guess : std::min(below_.x * factor, largestDouble));
     factor *= factor;
   }
   return !std::isinf(above_.x);

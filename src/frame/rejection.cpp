@@ -10,12 +10,10 @@ using KelMath::KelDistFun;
 
 namespace {
 
-constexpr double accuracy = 1e-12;
-
 double ZeroIfMissing(double probability) { return KelMV::IsMissing(probability) ? 0.0 : probability; }
 
 double LowerTailT(double x, double df, double noncentrality) {
-  return ZeroIfMissing(KelDistFun::NonCentralCdfT(x, df, noncentrality, accuracy));
+  return ZeroIfMissing(KelDistFun::NonCentralCdfT(x, df, noncentrality, noncentralAccuracy));
 }
 
 }  // namespace
@@ -41,7 +39,7 @@ double TTest::PowerUpperTail(double noncentrality) const { return 1 - LowerTailT
 double TTest::PowerBothTails(double noncentrality) const {
   constexpr double squareable = 1e150;
   if (critical > 0 && critical < squareable)
-    return FTest{1, df, critical * critical, accuracy}.Power(noncentrality * noncentrality);
+    return FTest{1, df, critical * critical, noncentralAccuracy}.Power(noncentrality * noncentrality);
   return 1 - LowerTailT(critical, df, noncentrality) + LowerTailT(-critical, df, noncentrality);
 }
 

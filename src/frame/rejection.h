@@ -3,6 +3,9 @@
 
 namespace kelpower {
 
+/// Wanted of noncentral probabilities.
+constexpr double noncentralAccuracy = 1e-12;
+
 /// An F test: rejects when F exceeds its critical value.
 ///
 /// At a given level the power never falls when the noncentrality grows, because the noncentral F has a monotone
@@ -15,7 +18,7 @@ struct FTest {
   double critical;  ///< value of F
   double eps;       ///< wanted accuracy of the noncentral probability
 
-  static FTest AtLevel(double alpha, double df1, double df2, double eps = 1e-12);
+  static FTest AtLevel(double alpha, double df1, double df2, double eps = noncentralAccuracy);
 
   /// The probability of rejection, P(F' > critical). A missing probability counts as 0, so the power is then 1.
   double Power(double noncentrality) const;

@@ -11,8 +11,6 @@ namespace kelpower {
 
 namespace {
 
-constexpr double infinity = std::numeric_limits<double>::infinity();
-
 /// The number that is tried first, where nothing is known.
 constexpr double firstTried = 64;
 
@@ -84,12 +82,12 @@ private:
   }
 
   double largest_;
-  double missed_;              // the largest number that misses the target
-  double reached_ = infinity;  // the smallest that reaches it
+  double missed_;                                             // the largest number that misses the target
+  double reached_ = std::numeric_limits<double>::infinity();  // the smallest that reaches it
   double target_;
   double targetQuantile_;
   Probe near_{};  // the two nearest to the target
-  Probe far_{0, infinity};
+  Probe far_{0, std::numeric_limits<double>::infinity()};
   double factor_ = 4;
   int steps_ = 0;
 };

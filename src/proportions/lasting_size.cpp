@@ -7,6 +7,7 @@
 
 #include "frame/counts.h"
 #include "kelcommon/kel_dist_fun.h"
+#include "proportions/binomial.h"
 #include "proportions/certain_size.h"
 #include "proportions/signs.h"
 
@@ -17,16 +18,6 @@ using KelMath::KelDistFun;
 namespace {
 
 constexpr double mostPairs = 100000;  // whose conditional powers are tabulated
-
-double Cdf(double count, double size, double p) {
-  long error = 0;
-  return KelDistFun::CdfBin(count, size, p, error);
-}
-
-double Mass(double count, double size, double p) {
-  long error = 0;
-  return KelDistFun::PdfBin(count, size, p, error);
-}
 
 /// The tail of a one-sample test that lies in the direction of the alternative, told in successes or in failures such
 /// that it is a lower one.
@@ -45,7 +36,7 @@ public:
   }
 
   /// What the power is at least, at every size from `from` to `to`.
-  double LeastPower(double from, double to) const { return Cdf(Count(from), to, Alternative()); }
+  double LeastPower(double from, double to) const { return BinomialCdf(Count(from), to, Alternative()); }
 
 private:
   TailLevel tail_;
@@ -79,7 +70,7 @@ std::vector<double> LeastSignPowers(const McNemarDesign& design, const Discordan
   SignRegions regions(TailLevel(design.TailLevel()), 1);
   for (double m = 1; m < pairs; ++m) {
     const SignRegion& region = regions.At(m);
-    powers[static_cast<std::size_t>(m)] = Cdf(isUpper ? region.upper : region.lower, m, rarer);
+    powers[static_cast<std::size_t>(m)] = BinomialCdf(isUpper ? region.upper : region.lower, m, rarer);
   }
   powers.back() = 1 - miss;
   for (std::size_t m = powers.size() - 1; m > 0; --m) powers[m - 1] = std::min(powers[m - 1], powers[m]);
@@ -89,9 +80,9 @@ std::vector<double> LeastSignPowers(const McNemarDesign& design, const Discordan
 /// The mean of the bound over the number of discordant pairs among `size`; it grows with the size.
 double MeanOf(const std::vector<double>& leastPowers, double size, double discordant) {
   const double last = static_cast<double>(leastPowers.size() - 1);
-  double mean = leastPowers.back() * (1 - Cdf(last - 1, size, discordant));
+  double mean = leastPowers.back() * (1 - BinomialCdf(last - 1, size, discordant));
   for (double m = 0; m < last && m <= size; ++m)
-    mean += leastPowers[static_cast<std::size_t>(m)] * Mass(m, size, discordant);
+    mean += leastPowers[static_cast<std::size_t>(m)] * BinomialMass(m, size, discordant);
   return mean;
 }
 

@@ -14,7 +14,7 @@ constexpr double halfPi = 1.57079632679489661923;
 // A peak below this share of the highest one on the grid is not the highest between its points.
 constexpr double shareOfPeaks = 0.9;
 
-constexpr double negligible = 1e-22;
+constexpr double negligibleMass = 1e-22;
 
 GroupSize SizeOf(std::int64_t n) { return GroupSize::Of(static_cast<double>(n)); }
 
@@ -63,8 +63,8 @@ LevelOverNuisance::Point LevelOverNuisance::PointAt(double angle) const {
   const BinomialMasses masses2 = BinomialMasses::Of(SizeOf(sizes_.n2), p2);
   std::int64_t first = masses2.first;
   std::int64_t last = masses2.Last();
-  while (first < last && masses2.At(first) < negligible) ++first;
-  while (last > first && masses2.At(last) < negligible) --last;
+  while (first < last && masses2.At(first) < negligibleMass) ++first;
+  while (last > first && masses2.At(last) < negligibleMass) --last;
   point.first2 = static_cast<std::size_t>(first);
   for (std::int64_t x = first; x <= last; ++x) point.masses2.push_back(masses2.At(x));
 

@@ -6,6 +6,7 @@
 #include "frame/checks.h"
 #include "frame/counts.h"
 #include "kelcommon/kel_dist_fun.h"
+#include "proportions/binomial.h"
 
 namespace kelpower::proportions {
 
@@ -15,20 +16,16 @@ namespace {
 
 bool RejectsLimit(double limit) { return limit <= 0 || limit >= 1; }
 
-double Cdf(double count, double size, double p) {
-  long error = 0;
-  return KelDistFun::CdfBin(count, size, p, error);
-}
-
 /// P(first <= X <= last). The smaller of the tails that end inside is taken, so that a small power keeps its digits.
 double ProbabilityOf(const CriticalRegion& region, double size, double p) {
   if (region.lower > region.upper) return 0;
   const double failures = size - region.lower;  // at most so many
-  if (region.upper >= size) return Cdf(failures, size, 1 - p);
-  if (region.lower <= 0) return Cdf(region.upper, size, p);
+  if (region.upper >= size) return BinomialCdf(failures, size, 1 - p);
+  if (region.lower <= 0) return BinomialCdf(region.upper, size, p);
   const bool isLow = region.upper < size * p;
-  const double probability = isLow ? Cdf(region.upper, size, p) - Cdf(region.lower - 1, size, p)
-                                   : Cdf(failures, size, 1 - p) - Cdf(size - region.upper - 1, size, 1 - p);
+  const double probability =
+      isLow ? BinomialCdf(region.upper, size, p) - BinomialCdf(region.lower - 1, size, p)
+            : BinomialCdf(failures, size, 1 - p) - BinomialCdf(size - region.upper - 1, size, 1 - p);
   return std::max(0.0, probability);
 }
 

@@ -12,7 +12,7 @@ using KelMath::KelDistFun;
 
 namespace {
 
-constexpr double waldCorrection = 1;  // over the size
+constexpr double pairedWaldCorrection = 1;  // over the size
 
 }  // namespace
 
@@ -30,7 +30,7 @@ double RelatedInterval::HalfWidth(double size) const {
     case RelatedMethod::Wald: break;
   }
   const double halfWidth = z_ * std::sqrt(Variance() / size);
-  return isCorrected_ ? halfWidth + waldCorrection / size : halfWidth;
+  return isCorrected_ ? halfWidth + pairedWaldCorrection / size : halfWidth;
 }
 
 double RelatedInterval::AdjustedHalfWidth(double size, double addedPairs) const {
@@ -42,7 +42,7 @@ double RelatedInterval::AdjustedHalfWidth(double size, double addedPairs) const 
 // The corrected size is that of |z|.
 Answer RelatedInterval::SizeFor(double halfWidth, Stop stop) const {
   if (method_ == RelatedMethod::Wald) {
-    return isCorrected_ ? CorrectedWaldSize(halfWidth, Variance(), std::fabs(z_), waldCorrection)
+    return isCorrected_ ? CorrectedWaldSize(halfWidth, Variance(), std::fabs(z_), pairedWaldCorrection)
                         : WaldSize(halfWidth, Variance(), z_);
   }
   return PairsForHalfWidth([this](double size) { return HalfWidth(size); }, halfWidth, stop);

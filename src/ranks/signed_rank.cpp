@@ -10,7 +10,7 @@ namespace kelpower::ranks {
 namespace {
 
 /// Where all values have the same sign.
-constexpr double largestExcess = 0.5;
+constexpr double largestShareExcess = 0.5;
 
 bool Rejects(const SignedRankTest& design, double n) {
   if (RejectsAlpha(design.alpha)) return true;
@@ -66,7 +66,7 @@ std::optional<NearlyNormal> ByMoments(const SignedRankTest& design, Parent paren
   const double variance = sum / n / (n + 1) / (n + 1) * 4;
   const double nullSd = std::sqrt((2 * n + 1) / n / (n + 1) / 6);
   const double threshold = NormalTest(design.sides, design.alpha).Critical() * nullSd;
-  if (threshold >= largestExcess) return std::nullopt;
+  if (threshold >= largestShareExcess) return std::nullopt;
   return NearlyNormal{effect, nullSd, threshold, std::sqrt(std::max(variance, 0.0))};
 }
 

@@ -30,7 +30,8 @@ TEST(ManPage, NamesEveryOptionAxisAndExample) {
     const std::vector<std::string> options = OptionsAtLines(help);
     EXPECT_GT(options.size(), test.parameters.size()) << "and those that are no inputs";
     for (const std::string& option : options) EXPECT_TRUE(Has(page, Bold(option))) << test.name << ' ' << option;
-    for (const auto& axis : planner::AllAxes(test)) EXPECT_TRUE(Has(page, "\n" + Bold(axis.name) + "\n")) << axis.name;
+    for (const auto& axis : planner::AllAxes(test))
+      EXPECT_TRUE(Has(page, std::string("\n").append(Bold(axis.name)).append("\n"))) << axis.name;
     for (const auto& example : test.examples) {
       EXPECT_TRUE(Has(page, Bold("kelpower " + example.arguments))) << example.arguments;
       EXPECT_TRUE(Has(page, Prose(example.sentence))) << example.arguments;

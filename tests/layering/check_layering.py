@@ -40,14 +40,15 @@ AROUND_TESTS = {"assurance", "expected_power"}
 
 # What each room of the planner may include besides itself: other rooms, and folders of the core.
 PLANNER_ROOMS = {
+    "format": set(),
     "model": set(),
     "catalogue": {"model", "frame"} | FAMILIES | AROUND_TESTS,
     "solve": {"model", "frame", "design_effect"},
-    "words": {"model", "solve", "catalogue"},
-    "pictures": {"model", "solve"},
+    "words": {"format", "model", "solve", "catalogue"},
+    "pictures": {"format", "model", "solve"},
 }
 # Packages that a room may include by angle brackets besides the standard library.
-PLANNER_PACKAGES = {"words": {"fast_float", "fmt", "nlohmann"}, "pictures": {"fmt"}}
+PLANNER_PACKAGES = {"format": {"fmt"}, "words": {"fast_float", "nlohmann"}}
 PACKAGES = {"CLI", "fast_float", "fmt", "nlohmann"}
 
 

@@ -58,6 +58,25 @@ def sources_of(project):
     return found
 
 
+def group_of(name, previous):
+    """What is compiled as one with others, as kel_compile_together in CMakeLists.txt has it: the files of a test or a
+    folder. None for a file that is compiled by itself."""
+    folder, _, file = name.rpartition("/")
+    if folder == "planner/catalogue":
+        stem = name.removesuffix(".cpp")
+        return previous if previous and stem.startswith(f"{previous}_") else stem
+    return folder if re.fullmatch(r"planner/\w+|src/(?!exports)\w+", folder) else None
+
+
+def groups_of(sources):
+    """The sources by the stem of the file that compiles them, in their order."""
+    groups, previous = {}, None
+    for name in sorted(sources):
+        previous = group_of(name, previous)
+        groups.setdefault(previous or name.removesuffix(".cpp"), []).append(name)
+    return groups
+
+
 def headers_of(project):
     """All headers of the library by their paths."""
     folders = ["include"] + ROOMS
@@ -95,6 +114,20 @@ def copy_library(project, package, sources):
         write(package / "src" / LIBRARY / name, with_version(project, text))
 
 
+def compile_together(package, sources):
+    """Writes the files that compile several sources as one. The stems of all that are compiled, below `src`."""
+    compiled = []
+    for stem, names in groups_of(sources).items():
+        if len(names) > 1:
+            stem += "_together"
+            text = "".join(f'#include "{LIBRARY}/{name}"\n' for name in names)
+            write(package / "src" / LIBRARY / f"{stem}.cpp", text)
+        else:
+            stem = names[0].removesuffix(".cpp")
+        compiled.append(f"{LIBRARY}/{stem}")
+    return compiled
+
+
 def with_version(project, text):
     """The release as a definition in the sources that say it, so that the others need no new compilation for it."""
     if "KELPOWER_VERSION" not in text:
@@ -115,12 +148,11 @@ def copy_others(package, include, sources):
         write(package / "inst/licenses" / f"{folder}.txt", (include / folder / "copyright").read_text())
 
 
-def write_makevars(project, package, sources):
-    defines = ["-DFMT_HEADER_ONLY"]
-    defines += [f"-D{name}=" for name in ("KELPOWER_API", "KELPLAN_EXPORT", "KELCOMMON_API")]
-    includes = [f"-I{LIBRARY}/{folder}" for folder in INCLUDE_FOLDERS] + [f"-I{OTHERS}"]
-    own = [path.name for path in sorted((package / "src").glob("*.c*"))]
-    objects = [re.sub(r"\.c(pp)?$", ".o", name) for name in own + [f"{LIBRARY}/{name}" for name in sources]]
+def write_makevars(package, compiled):
+    defines = [f"-D{name}=" for name in ("KELPOWER_API", "KELPLAN_EXPORT", "KELCOMMON_API")]
+    includes = ["-I."] + [f"-I{LIBRARY}/{folder}" for folder in INCLUDE_FOLDERS] + [f"-I{OTHERS}"]
+    own = [path.stem for path in sorted((package / "src").glob("*.c*"))]
+    objects = [f"{stem}.o" for stem in own + compiled]
     write(package / "src/Makevars", MAKEVARS.format(
         defines=" ".join(defines), includes=" ".join(includes), objects=" ".join(objects)))
 
@@ -148,7 +180,7 @@ def assemble(project, package, include):
     sources = sources_of(project)
     copy_library(project, package, sources)
     copy_others(package, include, sources)
-    write_makevars(project, package, sources)
+    write_makevars(package, compile_together(package, sources))
     check_paths(package)
 
 
