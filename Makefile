@@ -20,7 +20,7 @@ PLATFORMS := test-clang test-arm64 test-wasm test-windows test-fma
 .PHONY: compared help run test test-native test-core $(PLATFORMS) build bench bench-peers bench-before bench-wasm bench-web web wasm-module test-web lint-web lint format install accuracy worst fuzz fuzz-build fuzz-seeds asan tsan coverage mutants valgrind clean wheel test-python bench-python r test-r bench-scipy site lint-docs deb test-deb zip test-zip dist validate
 
 run: configure-$(PRESET) ## build the program and plan a real study
-	@echo "Building the program; the first time this takes a minute or two ..."
+	@echo "Building the program; the first time this takes a minute ..."
 	@cmake --build $(BUILD) -j $(JOBS) --target kelpower_cli
 	@sh tools/run_example.sh $(BUILD)/cli/kelpower
 

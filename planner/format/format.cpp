@@ -1,3 +1,4 @@
+// Here alone, so that this file has the code.
 #define FMT_HEADER_ONLY
 #include "format/format.h"
 

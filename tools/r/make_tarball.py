@@ -61,7 +61,7 @@ def sources_of(project):
 def group_of(name, previous):
     """What is compiled as one with others, as kel_compile_together in CMakeLists.txt has it: the files of a test or a
     folder. None for a file that is compiled by itself."""
-    folder, _, file = name.rpartition("/")
+    folder = name.rpartition("/")[0]
     if folder == "planner/catalogue":
         stem = name.removesuffix(".cpp")
         return previous if previous and stem.startswith(f"{previous}_") else stem
