@@ -15,7 +15,7 @@ for group in "$@"; do
     windows) packages="$packages g++-mingw-w64-x86-64-posix wine wine64 googletest" ;;
     lint) packages="$packages clang-format clang-tidy" ;;
     fuzz) packages="$packages clang libclang-rt-14-dev" ;;
-    r) packages="$packages python3 g++ ccache r-base-dev r-cran-testthat r-cran-knitr r-cran-rmarkdown r-cran-ggplot2 r-cran-generics pandoc" ;;
+    r) packages="$packages python3 g++ ccache qpdf r-base-dev r-cran-testthat r-cran-knitr r-cran-rmarkdown r-cran-ggplot2 r-cran-generics pandoc" ;;
     site) packages="$packages python3 python3-venv gnuplot-nox" ;;
     valgrind) packages="$packages valgrind" ;;
     before) packages="$packages libboost1.81-dev" ;;

@@ -32,18 +32,18 @@ double TotalSize(const PreparedQuestion& question, const ResultColumn& column) {
 }  // namespace
 
 double NumberOf(const PreparedQuestion& question, const ResultColumn& column, double value) {
-  constexpr double none = std::numeric_limits<double>::quiet_NaN();
+  constexpr double missing = std::numeric_limits<double>::quiet_NaN();
   if (const std::optional<double> figure = question.Figure(column.planned)) return *figure;
   switch (column.reading) {
     case Reading::Figure:
       if (!column.derived) return question.FoundUnknown();
-      return column.isTold ? column.derived->call(question.Design()) : none;
-    case Reading::Sizes: return none;
+      return column.isTold ? column.derived->call(question.Design()) : missing;
+    case Reading::Sizes: return missing;
     case Reading::Size: return TotalSize(question, column);
     case Reading::Power:
     case Reading::HalfWidth: return value;
   }
-  return none;
+  return missing;
 }
 
 }  // namespace planner

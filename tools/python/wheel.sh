@@ -27,7 +27,7 @@ environment venv python/tests/requirements.txt
 say "making the sdist"
 rm -rf "$folder/source" "$folder/dist"
 mkdir -p "$folder/source"
-git ls-files -z pyproject.toml CMakeLists.txt VERSION LICENSE README.md cmake kelcommon src include planner capi python \
+sh tools/sources.sh pyproject.toml CMakeLists.txt VERSION LICENSE README.md cmake kelcommon src include planner capi python \
   tools/third_party.sh | xargs -0 cp --parents -t "$folder/source"
 sh tools/third_party.sh "$folder/source/third_party"
 "$folder/tools/bin/python" -m build --no-isolation --sdist --outdir "$folder/dist" "$folder/source" >"$folder/sdist.log" ||
