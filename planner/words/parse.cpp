@@ -73,6 +73,16 @@ std::string Text(const Limits& limits) {
   return text;
 }
 
+namespace {
+
+/// Two numbers of their kind, for an example.
+const char* TwoLike(const Limits& limits) {
+  if (limits.high <= 1) return "0.3,0.5";
+  return limits.whole ? "1,2" : "52,47";
+}
+
+}  // namespace
+
 std::string Allowed(const Parameter& parameter) {
   const std::string each = Text(parameter.limits);
   std::vector<std::string> words;
@@ -82,7 +92,10 @@ std::string Allowed(const Parameter& parameter) {
     case Kind::Choice: return Joined(words, " or ");
     case Kind::Number: return each;
     case Kind::List:
-      if (parameter.length == 2) return "two numbers like 52,47" + (each == "a number" ? "" : ", each " + each);
+      if (parameter.length == 2) {
+        return Formatted("two numbers like {}{}", TwoLike(parameter.limits),
+                         each == "a number" ? "" : ", each " + each);
+      }
       if (parameter.length != 0) return Formatted("{} numbers, each {}", parameter.length, each);
       if (parameter.spreads) return Formatted("{}, or a list of such", each);
       break;
