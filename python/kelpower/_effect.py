@@ -113,14 +113,14 @@ def effect(
     r : float, optional
         Correlation; with `effect_q` the first of two. A number between -1 and 1, neither included.
     correlations : array_like, optional
-        Correlations in two independent groups. Two numbers like 52,47, each a number between -1 and 1, neither
+        Correlations in two independent groups. Two numbers like 0.3,0.5, each a number between -1 and 1, neither
         included.
     effect_q : float, optional
         Cohen's q: difference of two correlations as Fisher's z. A number.
     proportions : array_like, optional
-        Proportions in two groups. Two numbers like 52,47, each a number from 0 to 1.
+        Proportions in two groups. Two numbers like 0.3,0.5, each a number from 0 to 1.
     events : array_like, optional
-        Numbers of people in two groups who had the event. Two numbers like 52,47, each a whole number of at least 0.
+        Numbers of people in two groups who had the event. Two numbers like 1,2, each a whole number of at least 0.
     counts : array_like, optional
         a table of counts: with and without the event in the first group, then in the second. 4 numbers, each a whole
         number from 0 to 1000000000.

@@ -246,7 +246,7 @@ def pairwise(
     Parameters
     ----------
     pair : array_like, optional
-        Numbers of the two groups compared. Two numbers like 52,47, each a whole number from 1 to 10000.
+        Numbers of the two groups compared. Two numbers like 1,2, each a whole number from 1 to 10000.
     means : array_like, optional
         Mean expected in each group. A list like 1,2,3, each entry a number.
     sd : array_like of float, optional
@@ -346,7 +346,7 @@ def tukey(
     Parameters
     ----------
     pair : array_like, optional
-        Numbers of the two groups whose difference is to be found; without it, any two. Two numbers like 52,47, each a
+        Numbers of the two groups whose difference is to be found; without it, any two. Two numbers like 1,2, each a
         whole number from 1 to 10000.
     means : array_like, optional
         Mean expected in each group. A list like 1,2,3, each entry a number.
