@@ -7,8 +7,9 @@ namespace {
 
 namespace proportions = kelpower::proportions;
 
+bool IsExact(const Inputs& in) { return in.Flag("exact"); }
+
 double AttainedLevel(const Inputs& in) {
-  if (!in.Flag("exact")) return OrNaN(kelpower::NoValue::Refused);
   return OrNaN(proportions::McNemarTest(McNemarDesignOf(in)).AttainedLevel(in.Number("n"), DiscordantPairsOf(in)));
 }
 
@@ -19,11 +20,13 @@ std::vector<Derived> FiguresOfPairedProportions() {
       {.name = "attained-level",
        .label = "significance level attained",
        .needs = {"p12", "p21", "n", "exact"},
-       .call = AttainedLevel},
+       .call = AttainedLevel,
+       .isTold = IsExact},
       {.name = "attained-level",
        .label = "significance level attained",
        .needs = {"proportion1", "proportion2", "correlation", "n", "exact"},
-       .call = AttainedLevel},
+       .call = AttainedLevel,
+       .isTold = IsExact},
       {.name = "p12",
        .label = "first kind of discordant pairs",
        .needs = {"proportion1", "proportion2", "correlation"},

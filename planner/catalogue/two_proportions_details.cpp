@@ -67,8 +67,7 @@ Details DetailsOfTwoProportions(Question question, const Inputs& in) {
   if (HasMargins(in)) return MarginDetailsOfTwoProportions(in);
   const double n1 = in.List("n")[0];
   const double n2 = in.List("n")[1];
-  const proportions::IndependentDesign design{TestOf(in), IsExact(in),           in.Flag("one-sided"),
-                                              in.Alpha(), in.Flag("correction"), IsPooled(in)};
+  const proportions::IndependentDesign design = DesignOf(in);
   details.Add("p1", "first proportion", p1);
   details.Add("p2", "second proportion", p2);
   if (design.isExact) {

@@ -23,10 +23,7 @@ double CommonProportion(const Inputs& in) {
 }
 
 double AttainedLevelOfTwoProportions(const Inputs& in) {
-  if (HasMargins(in)) return OrNaN(kelpower::NoValue::Refused);  // that of a margin is a figure of its own
-  const proportions::IndependentDesign design{TestOf(in), IsExact(in),           in.Flag("one-sided"),
-                                              in.Alpha(), in.Flag("correction"), IsPooled(in)};
-  if (!design.isExact) return OrNaN(kelpower::NoValue::Refused);
+  const proportions::IndependentDesign design = DesignOf(in);
   const auto alternative = proportions::AlternativeOf(design, FirstProportion(in), SecondProportion(in));
   proportions::IndependentPower power(design, in.List("n")[0], in.List("n")[1]);
   return OrNaN(power.AttainedLevel(alternative, CommonProportion(in), StopOfTables(in)));
@@ -53,7 +50,9 @@ std::vector<Derived> FiguresOfTwoProportions() {
   figures.push_back({.name = "attained-level",
                      .label = "level attained at the common proportion",
                      .needs = {"n", "exact"},
-                     .call = AttainedLevelOfTwoProportions});
+                     .call = AttainedLevelOfTwoProportions,
+                     // That of a margin is a figure of its own.
+                     .isTold = [](const Inputs& in) { return IsExact(in) && !HasMargins(in); }});
   return figures;
 }
 

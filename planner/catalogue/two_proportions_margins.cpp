@@ -68,7 +68,8 @@ std::vector<Derived> MarginFiguresOfTwoProportions() {
     figures.push_back({.name = "attained-at-margin",
                        .label = "significance level attained",
                        .needs = {"n", "exact", way},
-                       .call = AttainedLevelOfMargins});
+                       .call = AttainedLevelOfMargins,
+                       .isTold = IsExact});
   }
   return figures;
 }

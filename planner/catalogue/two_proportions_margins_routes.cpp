@@ -49,7 +49,6 @@ Numbers LargeSampleMarginSizes(const Inputs& in) {
 }
 
 double AttainedLevelOfMargins(const Inputs& in) {
-  if (!in.Flag("exact")) return OrNaN(kelpower::NoValue::Refused);
   const Numbers& n = in.List("n");
   return OrNaN(proportions::UnconditionalMarginTest(ContrastLimitsOf(in), in.Alpha(), n[0], n[1]).AttainedLevel());
 }

@@ -25,12 +25,14 @@ struct Condition {
   std::string sentence;  // what is wrong when it fails, with inputs in braces
 };
 
-/// A figure reported besides the answer when its inputs are there, such as an effect size.
+/// A figure reported besides the answer when its inputs are there, such as an effect size. One that needs `n` is told at
+/// sizes that are found as well.
 struct Derived {
   std::string name;
   std::string label;
   Names needs;
   double (*call)(const Inputs&);
+  bool (*isTold)(const Inputs&) = nullptr;  // by the flags, words and shape of the inputs; null: always
 };
 
 /// What an answer takes for granted in words, such as "pooled". Shown when its inputs are asked for and it says

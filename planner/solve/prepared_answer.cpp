@@ -4,17 +4,18 @@
 
 #include "solve/checks.h"
 #include "solve/find_unknown.h"
+#include "solve/prepared_parts.h"
 #include "solve/prepared_question.h"
+#include "solve/results.h"
 
 namespace planner {
 namespace {
 
-std::vector<DerivedFigure> DerivedFigures(const Test& test, const Route& route, const Inputs& inputs) {
+std::vector<DerivedFigure> DerivedFigures(const PreparedQuestion& question) {
   std::vector<DerivedFigure> figures;
-  for (const Derived& derived : test.derived) {
-    const auto has = [&](Name name) { return inputs.Has(name) && route.Takes(name); };
-    if (!std::all_of(derived.needs.begin(), derived.needs.end(), has)) continue;
-    const double value = derived.call(inputs);
+  for (const Derived& derived : question.AskedTest().derived) {
+    if (!IsTold(question.ChosenRoute(), derived, question.Design())) continue;
+    const double value = question.FigureOf(derived);
     if (!std::isnan(value)) figures.push_back({&derived, value});
   }
   return figures;
@@ -37,9 +38,14 @@ Answer PreparedQuestion::Solve() {
   }
   if (answer.SizesFound()) answer.lastingSizes = lasting_;
   answer.assurance = assured_;
-  answer.derived = DerivedFigures(test_, route_, inputs_);
+  answer.derived = DerivedFigures(*this);
   if (IsStopped()) throw Stopped();
   return answer;
+}
+
+double PreparedQuestion::FigureOf(const Derived& figure) const {
+  const bool isAtSizesFound = AsksForSizes(route_.question) && IsOfSizes(figure);
+  return isAtSizesFound ? figure.call(AtSizes(inputs_, sizes_)) : figure.call(inputs_);
 }
 
 void PreparedQuestion::RejectUnanswered() {

@@ -81,6 +81,9 @@ public:
   /// The figure, of those that the circumstances of the study add and that is no number of people or clusters.
   std::optional<double> Figure(Planned planned) const;
 
+  /// The figure of the last answer; one of sizes at those that were found.
+  double FigureOf(const Derived& figure) const;
+
   /// What is solved for, or null; and its number in the last answer.
   const Unknown* SolvedFor() const { return unknown_; }
   double FoundUnknown() const { return found_; }

@@ -9,9 +9,19 @@ namespace planner {
 
 namespace {
 
+bool Finds(const Route& route, Name name) { return name == Name("n") && AsksForSizes(route.question); }
+
 void AddFigure(std::vector<ResultColumn>& columns, std::string name, std::string label, Planned planned,
                Reading reading = Reading::Figure) {
   columns.push_back({.name = std::move(name), .label = std::move(label), .reading = reading, .planned = planned});
+}
+
+void AddDerived(std::vector<ResultColumn>& columns, const Test& test, const Route& route, bool atSizesFound) {
+  for (const Derived& figure : test.derived) {
+    const bool isAtSizesFound = AsksForSizes(route.question) && IsOfSizes(figure);
+    if (!MayTell(route, figure) || isAtSizesFound != atSizesFound) continue;
+    columns.push_back({figure.name, figure.label, Reading::Figure, &figure});
+  }
 }
 
 /// What the circumstances of the study change besides the sizes.
@@ -51,11 +61,7 @@ std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, co
     const Parameter& parameter = *FindParameter(test, unknown->input);
     columns.push_back({std::string(parameter.name.Text()), parameter.label, Reading::Figure});
   }
-  for (const Derived& derived : test.derived) {
-    const auto takes = [&](Name name) { return route.Takes(name); };
-    if (!std::all_of(derived.needs.begin(), derived.needs.end(), takes)) continue;
-    columns.push_back({derived.name, derived.label, Reading::Figure, &derived});
-  }
+  AddDerived(columns, test, route, false);
   AddPlannedFigures(columns, offers);
   const bool findsSizes = AsksForSizes(route.question);
   const bool isGrouped = test.groups != 1;
@@ -66,6 +72,7 @@ std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, co
     columns.push_back({"lasting-n", "all larger sizes reach it from", sizes, nullptr, true});
   }
   AddPlannedSizes(columns, offers, isGrouped);
+  AddDerived(columns, test, route, true);
   const std::string suffix = findsSizes ? " at these sizes" : "";
   if (Contains(offers, "effect-sd")) {
     columns.push_back({"expected-power", "expected power" + suffix, Reading::Power});
@@ -80,6 +87,19 @@ std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, co
   }
   return columns;
 }
+
+bool MayTell(const Route& route, const Derived& figure) {
+  return std::all_of(figure.needs.begin(), figure.needs.end(),
+                     [&](Name need) { return Finds(route, need) || route.Takes(need); });
+}
+
+bool IsTold(const Route& route, const Derived& figure, const Inputs& design) {
+  const auto isGiven = [&](Name need) { return Finds(route, need) || design.Has(need); };
+  if (!MayTell(route, figure) || !std::all_of(figure.needs.begin(), figure.needs.end(), isGiven)) return false;
+  return !figure.isTold || figure.isTold(design);
+}
+
+bool IsOfSizes(const Derived& figure) { return Contains(figure.needs, "n"); }
 
 double TotalOf(const Numbers& sizes) { return std::accumulate(sizes.begin(), sizes.end(), 0.0); }
 

@@ -26,7 +26,6 @@ struct ResultColumn {
   const Derived* derived = nullptr;  // of a figure; null for the number that is solved for
   bool isLasting = false;            // of sizes: those from which on all reach the target
   Planned planned = Planned::None;   // what the circumstances of the study add
-  bool isTold = true;                // of a derived figure: whether the inputs of the design tell it
 };
 
 /// The results of the route's answers, in the order of a report. `unknown` is what is solved for with the route, or
@@ -34,6 +33,15 @@ struct ResultColumn {
 /// jumps with the size. Figures may be missing in an answer.
 std::vector<ResultColumn> ResultColumns(const Test& test, const Route& route, const Unknown* unknown,
                                         const Names& offers, bool isUneven);
+
+/// Whether answers of the route may tell the figure: it takes the inputs, or finds the sizes among them.
+bool MayTell(const Route& route, const Derived& figure);
+
+/// Whether the answer to a design tells the figure, because the inputs are given as well.
+bool IsTold(const Route& route, const Derived& figure, const Inputs& design);
+
+/// Whether the figure is one of sizes, and so is told at those that are found.
+bool IsOfSizes(const Derived& figure);
 
 /// Those of the offered inputs that the design gives.
 Names OffersOf(const Inputs& design);

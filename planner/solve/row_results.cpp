@@ -1,6 +1,5 @@
 #include "solve/row_results.h"
 
-#include <algorithm>
 #include <limits>
 #include <optional>
 
@@ -9,10 +8,9 @@ namespace planner {
 std::vector<ResultColumn> ResultColumnsOf(const PreparedQuestion& question) {
   std::vector<ResultColumn> columns = ResultColumns(question.AskedTest(), question.ChosenRoute(), question.SolvedFor(),
                                                     OffersOf(question.Design()), question.IsUneven());
-  const auto has = [&](Name name) { return question.Design().Has(name); };
-  for (ResultColumn& column : columns) {
-    column.isTold = !column.derived || std::all_of(column.derived->needs.begin(), column.derived->needs.end(), has);
-  }
+  std::erase_if(columns, [&](const ResultColumn& column) {
+    return column.derived && !IsTold(question.ChosenRoute(), *column.derived, question.Design());
+  });
   return columns;
 }
 
@@ -35,9 +33,7 @@ double NumberOf(const PreparedQuestion& question, const ResultColumn& column, do
   constexpr double missing = std::numeric_limits<double>::quiet_NaN();
   if (const std::optional<double> figure = question.Figure(column.planned)) return *figure;
   switch (column.reading) {
-    case Reading::Figure:
-      if (!column.derived) return question.FoundUnknown();
-      return column.isTold ? column.derived->call(question.Design()) : missing;
+    case Reading::Figure: return column.derived ? question.FigureOf(*column.derived) : question.FoundUnknown();
     case Reading::Sizes: return missing;
     case Reading::Size: return TotalSize(question, column);
     case Reading::Power:

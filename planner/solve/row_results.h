@@ -9,7 +9,7 @@
 // What a prepared question tells of its last answer, result by result.
 namespace planner {
 
-/// The results of a question, with figures that its inputs do not tell marked as such.
+/// The results of a question, without figures that its inputs do not tell.
 std::vector<ResultColumn> ResultColumnsOf(const PreparedQuestion& question);
 
 /// The sizes that the column is about, one for each group.

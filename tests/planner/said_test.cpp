@@ -83,6 +83,37 @@ TEST(Said, TheLevelThatAnExactTestAttains) {
   EXPECT_GT(ResultOf(pairs, "attained-level"), 0.01);
 }
 
+/// The size found, of each group.
+int SizeIn(const Report& report) {
+  for (const Entry& entry : report.results) {
+    if (entry.name != "n") continue;
+    const auto* sizes = std::get_if<Numbers>(&entry.value);
+    return static_cast<int>(sizes ? sizes->front() : std::get<double>(entry.value));
+  }
+  ADD_FAILURE() << "no size";
+  return 0;
+}
+
+TEST(Said, WhatAnExactTestDoesAtTheSizesFound) {
+  const std::set<std::string> ofSizes{"attained-level",  "attained-at-margin", "rejects-to", "rejects-from",
+                                      "equivalent-from", "equivalent-to",      "power"};
+  for (const std::string design :
+       {"proportion --proportion 0.15 --null 0.1 --exact", "two-proportions --proportions 0.3,0.5 --exact",
+        "two-proportions --proportions 0.3,0.5 --method conditional", "paired-proportions --p12 0.1 --p21 0.2 --exact",
+        "proportion --proportion 0.5 --null 0.5 --equivalence -0.1,0.1 --exact",
+        "two-proportions --proportions 0.3,0.32 --margin -0.1 --non-inferiority --exact"}) {
+    const Report found = Answered(design + " --power 0.8");
+    const Report given = Answered(design + " --n " + std::to_string(SizeIn(found)));
+    std::set<std::string> told;
+    for (const Entry& entry : given.results) {
+      if (ofSizes.count(entry.name) == 0) continue;
+      EXPECT_EQ(ResultOf(found, entry.name), std::get<double>(entry.value)) << design << ' ' << entry.name;
+      told.insert(entry.name);
+    }
+    EXPECT_GE(told.size(), 2u) << design;
+  }
+}
+
 TEST(Said, DiscordantPairsAndTheLevelOfAComparison) {
   const Report pairs = Answered("paired-proportions --proportion1 0.6 --proportion2 0.4 --correlation 0.3 --n 60");
   EXPECT_NEAR(ResultOf(pairs, "p12") - ResultOf(pairs, "p21"), 0.2, 1e-15);

@@ -5,7 +5,7 @@ import type { Axis } from "./axes";
 import { sizesOf } from "./caption";
 import { isFailure, isNumbers } from "./model";
 import type { Answer, Chart, Core, Densities, Design, Inputs, Question, Table, Test, Value } from "./model";
-import { attainedLevel, attainsLevel, designSizes, sizesAround, teethOf } from "./saw";
+import { attainsLevel, designSizes, sizesAround, teethOf } from "./saw";
 import type { Tooth } from "./saw";
 import { valuesOf } from "./series";
 import { texts } from "./texts";
@@ -56,17 +56,6 @@ function hasAlternatives(inputs: Inputs, test: Test): boolean {
   });
 }
 
-/** An exact test attains less than its level. Where sizes are asked for, that is a result of the power at these. */
-async function isExact(core: Core, design: Design, answer: Answer, test: Test, signal?: AbortSignal): Promise<boolean> {
-  if (attainsLevel(answer.results)) return true;
-  const attains = test.routes?.some(({ results }) => results.some(({ name }) => name === attainedLevel));
-  const sizes = sizesOf(answer.results);
-  if (!attains || !sizes || answer.question !== "sample-size") return false;
-  const found = await atSizesFound(core, design, sizes, signal);
-  const reply = await core.solve({ ...found, names: "dash" }, { signal });
-  return !isFailure(reply) && attainsLevel((reply as Answer).results);
-}
-
 export async function offerFor(
   core: Core,
   design: Design,
@@ -84,7 +73,8 @@ export async function offerFor(
   if (answer.densities) kinds.push("densities");
   const first = axes[0];
   if (isOfPower(question) && first && effectAxis(axes, first)) kinds.push("contour");
-  if (await isExact(core, design, answer, test, signal)) kinds.push("saw");
+  // An exact test attains less than its level.
+  if (attainsLevel(answer.results)) kinds.push("saw");
   return { axes, kinds, answer };
 }
 
