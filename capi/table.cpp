@@ -1,11 +1,11 @@
 #include "table.h"
 
-#include <algorithm>
-#include <optional>
+#include <vector>
 
 #include "model/problem.h"
 #include "solve/design_solver.h"
 #include "solve/row_results.h"
+#include "words/design_questions.h"
 #include "words/problem_json.h"
 #include "words/report.h"
 #include "words/report_json.h"
@@ -23,28 +23,13 @@ const planner::Alternatives* Given(const planner::Designs& designs, const planne
   return nullptr;
 }
 
-/// The first design that can be asked. The others ask the same question.
-planner::PreparedQuestion FirstQuestion(const planner::Designs& designs) {
-  std::optional<planner::InputError> first;
-  planner::DesignRow row;
-  for (std::size_t i = 0; i < designs.Count(); ++i) {
-    designs.Fill(i, row);
-    try {
-      return {designs.AskedTest(), row.Values()};
-    } catch (const planner::InputError& error) {
-      if (!first) first = error;
-    }
-  }
-  throw *first;
-}
-
 class Table {
 public:
   Table(Call& call, const planner::Designs& designs)
-      : designs_(designs), question_(FirstQuestion(designs)), json_(call), solver_(call.stop) {}
+      : designs_(designs), questions_(planner::QuestionsOf(designs)), json_(call), solver_(call.stop) {}
 
   void Write() {
-    const planner::Route& route = question_.ChosenRoute();
+    const planner::Route& route = questions_.front().ChosenRoute();
     json_.Text("test", designs_.AskedTest().name);
     json_.Text("question", planner::WordOf(route.question));
     WriteShared();
@@ -53,24 +38,24 @@ public:
     json_.OpenArray();
     for (std::size_t i = 0; i < designs_.Count(); ++i) WriteRow(i);
     json_.CloseArray();
-    json_.TextUnlessEmpty("export", route.ExportFor(question_.Design()));
+    json_.TextUnlessEmpty("export", route.ExportFor(questions_.front().Design()));
     json_.CloseObject();
   }
 
 private:
   std::string NameOf(const planner::Parameter& parameter) const {
-    return planner::NameInReports(parameter, question_.ChosenRoute(), question_.SolvedFor());
+    const planner::PreparedQuestion& first = questions_.front();
+    return planner::NameInReports(parameter, first.ChosenRoute(), first.SolvedFor());
   }
 
   void WriteShared() {
     json_.Key("inputs");
     json_.OpenObject();
-    for (const planner::Parameter* parameter : planner::ListedParameters(designs_.AskedTest(), question_.ChosenRoute(),
-                                                                         question_.SolvedFor(), question_.Design())) {
+    for (const auto& [parameter, question] : planner::InputsOf(questions_)) {
       const planner::Alternatives* given = Given(designs_, *parameter);
       if (given && given->values.size() > 1) continue;
       json_.KeyOfName(NameOf(*parameter));
-      json_.Of(given ? given->values.front() : question_.Design().ValueOf(*parameter));
+      json_.Of(given ? given->values.front() : question->Design().ValueOf(*parameter));
     }
     json_.CloseObject();
   }
@@ -78,7 +63,7 @@ private:
   void WriteColumns() {
     json_.Key("columns");
     json_.OpenArray();
-    for (const planner::ResultColumn& column : planner::ResultColumnsOf(question_)) {
+    for (const planner::ResultColumn& column : planner::ResultsOf(questions_)) {
       json_.OpenObject();
       json_.Key("name");
       json_.Name(column.name);
@@ -128,7 +113,7 @@ private:
   }
 
   const planner::Designs& designs_;
-  planner::PreparedQuestion question_;
+  std::vector<planner::PreparedQuestion> questions_;
   Reply json_;
   planner::DesignSolver solver_;
   planner::DesignRow row_;

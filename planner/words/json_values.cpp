@@ -50,11 +50,15 @@ std::string& OpenObject::Begin(std::string_view name) {
   return out_ += ':';
 }
 
-void AppendCsvResult(const DesignAnswer& answer, std::size_t column, std::string& out) {
-  if ((*answer.columns)[column].reading == Reading::Sizes) {
-    out += ListedWithSpaces(answer.SizesOf((*answer.columns)[column]));
-  } else if (!std::isnan(answer.values[column])) {
-    AppendShortest(out, answer.values[column]);
+void AppendCsvResults(const DesignAnswer& answer, const std::vector<std::size_t>& places, std::string& out) {
+  const std::vector<ResultColumn>& columns = *answer.columns;
+  for (std::size_t place : places) {
+    if (place < columns.size() && columns[place].reading == Reading::Sizes) {
+      out += ListedWithSpaces(answer.SizesOf(columns[place]));
+    } else if (place < columns.size() && !std::isnan(answer.values[place])) {
+      AppendShortest(out, answer.values[place]);
+    }
+    out += ',';
   }
 }
 

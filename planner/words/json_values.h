@@ -51,8 +51,8 @@ inline void AddResults(OpenObject& object, const DesignAnswer& answer) {
   AddResults(object, answer, [](const std::string& name) -> const std::string& { return name; });
 }
 
-/// A result as a field of CSV; empty where there is none.
-void AppendCsvResult(const DesignAnswer& answer, std::size_t column, std::string& out);
+/// The results at these places as fields of CSV, each with a comma behind it; empty where there is none.
+void AppendCsvResults(const DesignAnswer& answer, const std::vector<std::size_t>& places, std::string& out);
 
 }  // namespace planner
 

@@ -16,6 +16,7 @@
 #include "words/problem.h"
 #include "words/read_design.h"
 #include "words/report.h"
+#include "words/result_places.h"
 
 namespace planner {
 namespace {
@@ -47,7 +48,7 @@ std::string FieldOf(const Json& json) {
 
 class RowAnswers::Reader {
 public:
-  Reader(const FileOfDesigns& file, StopRequest* stop) : file_(file), solver_(stop) {}
+  Reader(const FileOfDesigns& file, StopRequest* stop) : file_(file), solver_(stop), places_(file.Results()) {}
 
   bool IsCsv() const { return file_.Format() == DesignFormat::Csv; }
 
@@ -151,10 +152,10 @@ private:
         out += ',';
       }
     }
-    if (answer && answer->shape != arrangedShape_) Arrange(*answer);
-    for (std::size_t i = 0; i < file_.Results().size(); ++i) {
-      if (answer && places_[i] < answer->columns->size()) AppendCsvResult(*answer, places_[i], out);
-      out += ',';
+    if (answer) {
+      AppendCsvResults(*answer, places_.In(*answer), out);
+    } else {
+      out.append(file_.Results().size(), ',');
     }
     if (answer) out += CsvField(NoteOf(*answer));
     out += ',';
@@ -165,7 +166,7 @@ private:
 
   std::string NoteOf(const DesignAnswer& answer) const {
     std::string note = planner::NoteOn(answer);
-    for (const std::string& result : late_) {
+    for (const std::string& result : places_.Left()) {
       if (!note.empty()) note += ' ';
       note += SentenceOf({.code = Code::ResultLate, .words = {result}});
     }
@@ -195,21 +196,6 @@ private:
       return CsvField(SentenceOf({.code = Code::FieldLate, .words = {name}}));
     }
     return "";
-  }
-
-  /// Finds where each result of the file is among those of the answer.
-  void Arrange(const DesignAnswer& answer) {
-    arrangedShape_ = answer.shape;
-    places_.clear();
-    for (const std::string& result : file_.Results()) {
-      const auto found = std::find_if(answer.columns->begin(), answer.columns->end(),
-                                      [&](const ResultColumn& column) { return column.name == result; });
-      places_.push_back(static_cast<std::size_t>(found - answer.columns->begin()));
-    }
-    late_.clear();
-    for (const ResultColumn& column : *answer.columns) {
-      if (std::count(file_.Results().begin(), file_.Results().end(), column.name) == 0) late_.push_back(column.name);
-    }
   }
 
   void WriteJson(const DesignAnswer* answer, const std::optional<Problem>& problem, std::string& out) {
@@ -281,9 +267,7 @@ private:
   Json object_;
   std::string_view line_;
   std::vector<const Parameter*> given_;
-  std::size_t arrangedShape_ = 0;
-  std::vector<std::size_t> places_;  // of each result of the file among the columns of an answer
-  std::vector<std::string> late_;    // results of the answer that the file has no column for
+  ResultPlaces places_;
 };
 
 RowAnswers::RowAnswers(const FileOfDesigns& file, StopRequest* stop) : reader_(std::make_unique<Reader>(file, stop)) {}

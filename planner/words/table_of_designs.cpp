@@ -3,51 +3,34 @@
 #include <algorithm>
 #include <cmath>
 #include <nlohmann/json.hpp>
-#include <optional>
 #include <utility>
 
 #include "solve/design_solver.h"
-#include "solve/prepared_question.h"
 #include "words/csv.h"
+#include "words/design_questions.h"
 #include "words/file_of_designs.h"
 #include "words/json_values.h"
 #include "words/numbers.h"
 #include "words/report.h"
+#include "words/result_places.h"
 #include "words/text_table.h"
 
 namespace planner {
 
 TableOfDesigns::TableOfDesigns(const Designs& designs, TableFormat format, NameOfInput name)
     : designs_(designs), format_(format), name_(std::move(name)) {
-  FindColumns();
+  const std::vector<PreparedQuestion> questions = QuestionsOf(designs);
+  ListInputs(questions);
+  results_ = ResultsOf(questions);
 }
 
-/// The columns are those of the first design that can be asked. The others ask the same question.
-void TableOfDesigns::FindColumns() {
-  DesignRow row;
-  std::optional<InputError> first;
-  for (std::size_t i = 0; i < designs_.Count(); ++i) {
-    designs_.Fill(i, row);
-    try {
-      const PreparedQuestion question(designs_.AskedTest(), row.Values());
-      results_ = ResultColumnsOf(question);
-      return ListInputs(question);
-    } catch (const InputError& error) {
-      if (!first) first = error;
-    }
-  }
-  throw *first;
-}
-
-void TableOfDesigns::ListInputs(const PreparedQuestion& question) {
+void TableOfDesigns::ListInputs(const std::vector<PreparedQuestion>& questions) {
   const auto& given = designs_.Inputs();
-  const Inputs& inputs = question.Design();
-  for (const Parameter* parameter :
-       ListedParameters(designs_.AskedTest(), question.ChosenRoute(), question.SolvedFor(), inputs)) {
+  for (const auto& [parameter, question] : InputsOf(questions)) {
     const auto found = std::find_if(given.begin(), given.end(),
                                     [&](const Alternatives& input) { return input.parameter == parameter; });
-    inputs_.push_back({parameter, NameInReports(*parameter, question.ChosenRoute(), question.SolvedFor()),
-                       static_cast<std::size_t>(found - given.begin()), inputs.ValueOf(*parameter)});
+    inputs_.push_back({parameter, NameInReports(*parameter, question->ChosenRoute(), question->SolvedFor()),
+                       static_cast<std::size_t>(found - given.begin()), question->Design().ValueOf(*parameter)});
   }
 }
 
@@ -93,7 +76,8 @@ std::string TableOfDesigns::Read(const std::string& rows, const Highlights& high
 /// Writes the rows of one thread.
 class TableOfDesigns::Rows::Writer {
 public:
-  Writer(const TableOfDesigns& table, StopRequest* stop) : table_(table), solver_(stop) {}
+  Writer(const TableOfDesigns& table, StopRequest* stop)
+      : table_(table), solver_(stop), places_(NamesOf(table.results_)) {}
 
   bool Append(std::size_t design, std::string& out) {
     table_.designs_.Fill(design, row_);
@@ -111,13 +95,20 @@ public:
   }
 
 private:
-  void AppendCells(std::size_t design, const DesignAnswer& answer, const std::string& note, std::string& out) const {
+  static std::vector<std::string> NamesOf(const std::vector<ResultColumn>& results) {
+    std::vector<std::string> names;
+    for (const ResultColumn& result : results) names.push_back(result.name);
+    return names;
+  }
+
+  void AppendCells(std::size_t design, const DesignAnswer& answer, const std::string& note, std::string& out) {
     for (const Input& input : table_.inputs_) {
       if (input.Varies(table_.designs_)) out += Shown(table_.ValueOf(input, design)) + TextTable::betweenCells;
     }
-    for (std::size_t i = 0; i < table_.results_.size(); ++i) {
-      if (answer.IsAnswered()) out += Shown(answer, i);
-      out += TextTable::betweenCells;
+    if (answer.IsAnswered()) {
+      for (std::size_t place : places_.In(answer)) out += Shown(answer, place) + TextTable::betweenCells;
+    } else {
+      for (std::size_t i = 0; i < table_.results_.size(); ++i) out += TextTable::betweenCells;
     }
     out += note + '\n';
   }
@@ -125,17 +116,19 @@ private:
   static std::string Shown(const Value& value) { return planner::Shown(value); }
 
   static std::string Shown(const DesignAnswer& answer, std::size_t i) {
+    if (i == answer.columns->size()) return "";
     const Reading reading = (*answer.columns)[i].reading;
     if (reading == Reading::Sizes) return ShownSizes(answer.SizesOf((*answer.columns)[i]));
     return std::isnan(answer.values[i]) ? "" : ShownResult(reading, answer.values[i]);
   }
 
-  void AppendCsv(std::size_t design, const DesignAnswer& answer, const std::string& note, std::string& out) const {
+  void AppendCsv(std::size_t design, const DesignAnswer& answer, const std::string& note, std::string& out) {
     out += CsvField(table_.designs_.AskedTest().name) + ',';
     for (const Input& input : table_.inputs_) out += CsvField(CsvValue(table_.ValueOf(input, design))) + ',';
-    for (std::size_t i = 0; i < table_.results_.size(); ++i) {
-      if (answer.IsAnswered()) AppendCsvResult(answer, i, out);
-      out += ',';
+    if (answer.IsAnswered()) {
+      AppendCsvResults(answer, places_.In(answer), out);
+    } else {
+      out.append(table_.results_.size(), ',');
     }
     out += CsvField(note) + '\n';
   }
@@ -152,6 +145,7 @@ private:
 
   const TableOfDesigns& table_;
   DesignSolver solver_;
+  ResultPlaces places_;
   DesignRow row_;
 };
 

@@ -58,8 +58,7 @@ private:
     bool Varies(const Designs& designs) const { return IsGiven(designs) && designs.Inputs()[index].values.size() > 1; }
   };
 
-  void FindColumns();
-  void ListInputs(const PreparedQuestion& question);
+  void ListInputs(const std::vector<PreparedQuestion>& questions);
   const Value& ValueOf(const Input& input, std::size_t design) const;
   std::string HeldFixed() const;
 

@@ -1,3 +1,5 @@
+#include <set>
+
 #include "catalogue/catalogue.h"
 #include "catalogue/effects.h"
 #include "report.h"
@@ -201,6 +203,19 @@ TEST(JsonDoor, AlternativesGiveATableWithErrorsInTheirRows) {
   EXPECT_EQ(reply.json["rows"][1]["inputs"], Json({{"effect-d", 0.2}, {"target-power", 0.9}}));
   EXPECT_EQ(reply.json["rows"][2]["error"]["code"], "no-effect");
   EXPECT_FALSE(reply.json["rows"][2].contains("results"));
+}
+
+TEST(JsonDoor, AlternativesOfWordsGiveTheResultsOfAll) {
+  const Json inputs{{"proportions", {{0.3, 0.5}}}, {"method", {"z", "conditional"}}, {"power", 0.8}};
+  const Reply reply = Solved({{"test", "two-proportions"}, {"inputs", inputs}});
+  ASSERT_EQ(reply.status, KELPLAN_OK) << reply.json;
+  std::set<std::string> names;
+  for (const Json& column : reply.json["columns"]) names.insert(column["name"]);
+  for (const Json& row : reply.json["rows"]) {
+    for (const auto& result : row["results"].items()) EXPECT_EQ(names.count(result.key()), 1u) << result.key();
+  }
+  EXPECT_FALSE(reply.json["rows"][0]["results"].contains("lasting-n"));
+  EXPECT_EQ(reply.json["rows"][1]["results"]["lasting-n"], Json({102, 102}));
 }
 
 TEST(JsonDoor, AListVariesAsAnArrayOfArrays) {

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <map>
 #include <sstream>
+#include <string>
 
 #include "solve/design_solver.h"
 #include "support.h"
@@ -235,6 +238,118 @@ TEST(TableOfDesigns, HasNoColumnOfNotesWithoutOne) {
             "            0.5  0.5645\n"
             "            0.6  0.7210\n\n"
             "Held fixed: sample size 20; significance level 0.05.\n");
+}
+
+std::vector<std::string> FieldsOf(const std::string& line) {
+  std::vector<std::string> fields;
+  std::istringstream text(line);
+  for (std::string field; std::getline(text, field, ',');) fields.push_back(field);
+  return fields;
+}
+
+using FieldsByColumn = std::map<std::string, std::string>;
+
+/// The rows of a table, without empty fields.
+std::vector<FieldsByColumn> RowsOf(const std::string& csv) {
+  std::istringstream text(csv);
+  std::string line;
+  std::getline(text, line);
+  const std::vector<std::string> heads = FieldsOf(line);
+  std::vector<FieldsByColumn> rows;
+  while (std::getline(text, line)) {
+    const std::vector<std::string> fields = FieldsOf(line);
+    FieldsByColumn row;
+    for (std::size_t i = 0; i < std::min(heads.size(), fields.size()); ++i) {
+      if (!fields[i].empty()) row[heads[i]] = fields[i];
+    }
+    rows.push_back(std::move(row));
+  }
+  return rows;
+}
+
+/// The values that the flag or the choice can have.
+std::vector<Value> WordsOf(const Parameter& parameter) {
+  if (parameter.kind == Kind::Flag) return {false, true};
+  std::vector<Value> words;
+  for (const Choice& choice : parameter.choices) words.emplace_back(choice.word);
+  return words;
+}
+
+Designs DesignsWith(const planner::Test& test, InputValues values, const Parameter& varied, std::vector<Value> words) {
+  values.erase(std::string(varied.name.Text()));
+  std::vector<Alternatives> inputs;
+  for (const auto& [name, value] : values) inputs.push_back({FindParameter(test, std::string_view(name)), {value}});
+  inputs.push_back({&varied, std::move(words)});
+  return {test, std::move(inputs)};
+}
+
+/// The table of one design, or no row where it cannot be asked.
+FieldsByColumn Alone(const Designs& design) {
+  try {
+    return RowsOf(TableIn(TableFormat::Csv, design)).front();
+  } catch (const InputError&) {
+    return {};
+  }
+}
+
+/// Holds each row of the table of all words against the design alone. Gives how many could be asked.
+std::ptrdiff_t CompareWithAlone(const planner::Test& test, const InputValues& values, const Parameter& varied) {
+  const std::vector<Value> words = WordsOf(varied);
+  std::vector<FieldsByColumn> alone;
+  for (const Value& word : words) alone.push_back(Alone(DesignsWith(test, values, varied, {word})));
+  const std::ptrdiff_t asked = std::ssize(alone) - std::count(alone.begin(), alone.end(), FieldsByColumn());
+  if (asked == 0) return 0;
+  std::vector<FieldsByColumn> rows = RowsOf(TableIn(TableFormat::Csv, DesignsWith(test, values, varied, words)));
+  EXPECT_EQ(rows.size(), alone.size());
+  for (std::size_t i = 0; i < std::min(rows.size(), alone.size()); ++i) {
+    for (const auto& [column, field] : alone[i]) {
+      EXPECT_EQ(rows[i][column], field) << test.name << ' ' << varied.name.Text() << ' ' << column;
+    }
+  }
+  return asked;
+}
+
+// An exact test has inputs and results that an approximate one lacks.
+TEST(TableOfDesigns, HasEachResultInItsColumnWhateverTheWords) {
+  std::ptrdiff_t compared = 0;
+  for (const planner::Test& test : Tests()) {
+    for (const Example& example : test.examples) {
+      for (const Parameter& parameter : test.parameters) {
+        const bool isOfWords = parameter.kind == Kind::Flag || parameter.kind == Kind::Choice;
+        if (isOfWords) compared += CompareWithAlone(test, ValuesOf(test, example), parameter);
+      }
+    }
+  }
+  EXPECT_GT(compared, 500);
+}
+
+TEST(TableOfDesigns, HasTheColumnsOfAllDesigns) {
+  for (const std::vector<Value>& methods :
+       {std::vector<Value>{"z", "conditional"}, std::vector<Value>{"conditional", "z"}}) {
+    const Designs designs(*FindTest("two-proportions"),
+                          {{&ParameterOf("two-proportions", "proportions"), {Numbers{0.3, 0.5}}},
+                           {&ParameterOf("two-proportions", "method"), methods},
+                           {&ParameterOf("two-proportions", "power"), {0.8}}});
+    for (FieldsByColumn& row : RowsOf(TableIn(TableFormat::Csv, designs))) {
+      const bool isExact = row["method"] == "conditional";
+      EXPECT_EQ(row["n"], isExact ? "102 102" : "93 93");
+      EXPECT_EQ(row["lasting-n"], isExact ? "102 102" : "");
+      EXPECT_EQ(row["attained-level"].substr(0, 6), isExact ? "0.0380" : "");
+    }
+  }
+}
+
+TEST(TableOfDesigns, ListsAnInputThatOnlySomeDesignsTake) {
+  const Designs designs(*FindTest("proportion"), {{&ParameterOf("proportion", "proportion"), {0.6}},
+                                                  {&ParameterOf("proportion", "null"), {0.5}},
+                                                  {&ParameterOf("proportion", "n"), {100.0}},
+                                                  {&ParameterOf("proportion", "exact"), {false, true}}});
+  std::vector<FieldsByColumn> rows = RowsOf(TableIn(TableFormat::Csv, designs));
+  ASSERT_EQ(rows.size(), 2u);
+  EXPECT_EQ(rows[0]["exact"], "no");
+  EXPECT_EQ(rows[0].count("rejects-from"), 0u);
+  EXPECT_EQ(rows[1]["exact"], "yes");
+  EXPECT_EQ(rows[1].count("rejects-from"), 1u);
 }
 
 TEST(TableOfDesigns, IsRefusedWhereNothingCanBeAsked) {
