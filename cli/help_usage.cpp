@@ -88,18 +88,74 @@ std::string MetavariableOf(const Test& test, Name name) {
   return parameter.kind == Kind::Choice ? " WORD" : parameter.IsList() ? " X1,X2" : " X";
 }
 
-}  // namespace
+/// Routes that differ in single inputs, as one line: what is needed, with the inputs that may stand there.
+struct Call {
+  const Route* route;
+  std::vector<Names> needs;
+};
 
-std::string Usage(const Test& test, const Route& route) {
+Call CallOf(const Route& route) {
+  Call call{&route, {}};
+  for (Name need : route.needs) call.needs.push_back({need});
+  return call;
+}
+
+/// The only place at which the calls differ, or null.
+Names* OnlyDifference(Call& call, const Call& other) {
+  if (call.needs.size() != other.needs.size() || call.route->accepts != other.route->accepts) return nullptr;
+  const auto [first, its] = std::mismatch(call.needs.begin(), call.needs.end(), other.needs.begin());
+  if (first == call.needs.end() || !std::equal(first + 1, call.needs.end(), its + 1)) return nullptr;
+  return &*first;
+}
+
+/// Joins the first two calls that can be joined. Gives whether there were any.
+bool JoinTwo(std::vector<Call>& calls) {
+  for (auto call = calls.begin(); call != calls.end(); ++call) {
+    for (auto other = call + 1; other != calls.end(); ++other) {
+      Names* place = OnlyDifference(*call, *other);
+      if (!place) continue;
+      const Names& more = other->needs[static_cast<std::size_t>(place - call->needs.data())];
+      place->insert(place->end(), more.begin(), more.end());
+      calls.erase(other);
+      return true;
+    }
+  }
+  return false;
+}
+
+std::string Given(const Test& test, Name name) { return OptionOf(name.Text()) + MetavariableOf(test, name); }
+
+std::string OneOf(const Test& test, const Names& inputs) {
+  std::string text;
+  for (Name input : inputs) text += (text.empty() ? "" : " | ") + Given(test, input);
+  return inputs.size() == 1 ? text : Formatted("({})", text);
+}
+
+std::string Line(const Test& test, const Call& call) {
   std::string text = "kelpower " + test.name;
-  const auto given = [&](Name name) { return OptionOf(name.Text()) + MetavariableOf(test, name); };
-  const std::optional<Name> asker = AskedBy(route.question);
-  for (Name need : route.needs) text += ' ' + given(need);
-  if (asker) text += ' ' + given(*asker);
-  for (Name input : route.accepts) {
-    if (input != asker && !Contains(OfferedInputs(), input)) text += Formatted(" [{}]", given(input));
+  const std::optional<Name> asker = AskedBy(call.route->question);
+  for (const Names& inputs : call.needs) text += ' ' + OneOf(test, inputs);
+  if (asker) text += ' ' + Given(test, *asker);
+  for (Name input : call.route->accepts) {
+    if (input != asker && !Contains(OfferedInputs(), input)) text += Formatted(" [{}]", Given(test, input));
   }
   return text;
+}
+
+}  // namespace
+
+std::string Usage(const Test& test, const Route& route) { return Line(test, CallOf(route)); }
+
+std::vector<std::string> Usages(const Test& test, Question question) {
+  std::vector<Call> calls;
+  for (const Route& route : test.routes) {
+    if (route.question == question) calls.push_back(CallOf(route));
+  }
+  while (JoinTwo(calls)) {
+  }
+  std::vector<std::string> lines;
+  for (const Call& call : calls) lines.push_back(Line(test, call));
+  return lines;
 }
 
 const char* HeadingOf(Question question) {
@@ -132,9 +188,7 @@ std::string UsageSection(const Test& test, const Highlights& highlights) {
        {Question::Power, Question::SampleSize, Question::HalfWidth, Question::SampleSizeForHalfWidth}) {
     if (!Answers(test, question)) continue;
     text += Formatted("{}{}{}\n", highlights.heading, HeadingOf(question), highlights.end);
-    for (const Route& route : test.routes) {
-      if (route.question == question) text += "  " + Usage(test, route) + '\n';
-    }
+    for (const std::string& usage : Usages(test, question)) text += Formatted("  {}\n", usage);
     text += '\n';
   }
   return text;

@@ -22,12 +22,16 @@ namespace {
 
 bool IsCapital(char letter) { return std::isupper(static_cast<unsigned char>(letter)) != 0; }
 
+/// Whether a value may follow the option.
+bool IsOpen(const std::string& option) { return option.back() != ']' && option.back() != ')'; }
+
 /// A word of a usage line: an option, a value that the user chooses, or to be typed.
 std::string WordInFonts(std::string word) {
   std::string opening;
   std::string closing;
-  if (word.front() == '[') opening = word.front(), word.erase(0, 1);
-  if (word.back() == ']') closing = word.back(), word.pop_back();
+  if (word == "|") return word;
+  if (word.front() == '[' || word.front() == '(') opening = word.front(), word.erase(0, 1);
+  if (word.back() == ']' || word.back() == ')') closing = word.back(), word.pop_back();
   return opening + (IsCapital(word.front()) ? Italic(word) : Bold(word)) + closing;
 }
 
@@ -44,9 +48,7 @@ void AddQuestions(ManPage& page, const Test& test) {
     if (!Answers(test, question)) continue;
     page.Subsection(HeadingOf(question));
     std::vector<std::string> calls;
-    for (const Route& route : test.routes) {
-      if (route.question == question) calls.push_back(UsageInFonts(Usage(test, route)));
-    }
+    for (const std::string& usage : Usages(test, question)) calls.push_back(UsageInFonts(usage));
     page.Lines(calls);
   }
   if (!test.unknowns.empty()) {
@@ -116,7 +118,7 @@ std::string UsageInFonts(const std::string& usage) {
   std::istringstream words(usage);
   std::string text;
   for (std::string word, before; words >> word; before = word) {
-    const bool isValue = before.find("--") <= 1 && before.back() != ']' && word.find("--") > 1;
+    const bool isValue = before.find("--") <= 1 && IsOpen(before) && word != "|" && word.find("--") > 1;
     if (!text.empty()) text += isValue ? "\\~" : " ";
     text += WordInFonts(word);
   }

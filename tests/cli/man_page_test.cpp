@@ -121,6 +121,9 @@ TEST(Roff, SetsUsageInFonts) {
   EXPECT_EQ(UsageInFonts("kelpower anova --n N [--one-sided] [--sd SD]"),
             "\\fBkelpower\\fR \\fBanova\\fR \\fB\\-\\-n\\fR\\~\\fIN\\fR [\\fB\\-\\-one\\-sided\\fR] "
             "[\\fB\\-\\-sd\\fR\\~\\fISD\\fR]");
+  EXPECT_EQ(UsageInFonts("kelpower mean (--non-inferiority | --margin MARGIN) --n N"),
+            "\\fBkelpower\\fR \\fBmean\\fR (\\fB\\-\\-non\\-inferiority\\fR | \\fB\\-\\-margin\\fR\\~\\fIMARGIN\\fR) "
+            "\\fB\\-\\-n\\fR\\~\\fIN\\fR");
 }
 
 }  // namespace
