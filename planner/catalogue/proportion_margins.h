@@ -13,7 +13,7 @@
 // Margins about a proportion, and what they share with those of two.
 namespace planner {
 
-/// What a margin of proportions is told in: their difference, their ratio or their odds ratio.
+/// How a margin compares proportions: by their difference, their ratio or their odds ratio.
 Parameter MarginScale();
 kelpower::proportions::Contrast MarginContrast(const Inputs& in);
 

@@ -46,7 +46,9 @@ void AddParametersOfUnknowns(Test& test) {
   const bool anyBelow = std::any_of(test.unknowns.begin(), test.unknowns.end(),
                                     [](const Unknown& unknown) { return unknown.pieceBelow != nullptr; });
   if (anyBelow) {
-    test.parameters.push_back(Flag("below", "effect below", "solve for an effect on the lower side of none"));
+    test.parameters.push_back(
+        Flag("below", "effect below",
+             "solve for an effect smaller than none, such as a negative difference or a ratio below 1"));
   }
 }
 

@@ -917,7 +917,7 @@ def mean(
     solve : {"effect_d", "mean", "sd", "test_value", "margin", "alpha", "assurance"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
 
     Returns
     -------
@@ -1048,7 +1048,7 @@ def paired_means(
     solve : {"effect_d", "mean_difference", "sd_difference", "correlation", "margin", "alpha", "assurance"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
 
     Returns
     -------
@@ -1194,7 +1194,7 @@ def two_means(
     solve : {"effect_d", "mean_difference", "sd", "ratio", "mean_ratio", "cv", "margin", "alpha", "assurance"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
 
     Returns
     -------
@@ -1332,7 +1332,7 @@ def crossover(
     solve : {"mean_difference", "mean_ratio", "sd", "cv", "margin", "alpha"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
 
     Returns
     -------
@@ -1437,7 +1437,7 @@ def mann_whitney(
     solve : {"effect_d", "superiority", "ratio", "alpha"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
 
     Returns
     -------
@@ -1533,7 +1533,7 @@ def signed_rank(
     solve : {"effect_d", "positive_average", "alpha"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
 
     Returns
     -------
@@ -1632,7 +1632,7 @@ def ordinal(
     solve : {"odds_ratio", "ratio", "alpha"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
 
     Returns
     -------
@@ -1720,7 +1720,7 @@ def variance(
     solve : {"variance_ratio", "sd", "alpha"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
 
     Returns
     -------
@@ -1806,7 +1806,7 @@ def two_variances(
     solve : {"variance_ratio", "alpha"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
 
     Returns
     -------
@@ -1910,7 +1910,7 @@ def proportion(
     equivalence : array_like, optional
         Lower and upper limit that the difference from the null proportion is to be between. Two numbers like 52,47.
     margin_scale : {"difference", "ratio", "odds-ratio"}, default 'difference'
-        What the margin or the limits of equivalence are told in. ``odds-ratio``: odds ratio.
+        Whether margin and limits of equivalence are a difference, a ratio or an odds ratio. ``odds-ratio``: odds ratio.
     standard_error : {"limit", "observed"}, default 'limit'
         Where a z test with a margin takes its standard error. ``limit``: at the limit; ``observed``: at the proportion
         observed.
@@ -1933,7 +1933,7 @@ def proportion(
     solve : {"proportion", "null", "margin", "alpha", "assurance"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
     stable : bool, default False
         Of an exact test: the size from which on all reach the power, in place of the first.
 
@@ -2078,7 +2078,7 @@ def two_proportions(
         Lower and upper limit that the difference or ratio of the proportions (second group to first) is to be between.
         Two numbers like 52,47.
     margin_scale : {"difference", "ratio", "odds-ratio"}, default 'difference'
-        What the margin or the limits of equivalence are told in. ``odds-ratio``: odds ratio.
+        Whether margin and limits of equivalence are a difference, a ratio or an odds ratio. ``odds-ratio``: odds ratio.
     margin_method : {"farrington-manning", "miettinen-nurminen", "wald", "pooled"}, default 'farrington-manning'
         Standard error of a test with a margin; pooled is for comparison only. ``farrington-manning``: Farrington-
         Manning score test; ``miettinen-nurminen``: Miettinen-Nurminen score test; ``wald``: Wald (unpooled) z test;
@@ -2104,7 +2104,7 @@ def two_proportions(
     solve : {"risk_difference", "risk_ratio", "odds_ratio", "ratio", "margin", "alpha"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
     stable : bool, default False
         Of an exact test: the size from which on all reach the power, in place of the first.
 
@@ -2243,7 +2243,7 @@ def paired_proportions(
     solve : {"p12", "p21", "proportion1", "proportion2", "correlation", "alpha"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
     stable : bool, default False
         Of an exact test: the size from which on all reach the power, in place of the first.
 
@@ -2547,7 +2547,7 @@ def pearson(
     solve : {"r", "null", "alpha", "assurance"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
 
     Returns
     -------
@@ -2651,7 +2651,7 @@ def spearman(
     solve : {"r", "null", "alpha"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
 
     Returns
     -------
@@ -2748,7 +2748,7 @@ def partial(
     solve : {"r", "null", "alpha", "assurance"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
 
     Returns
     -------
@@ -2938,7 +2938,7 @@ def dependent_correlations(
     solve : {"r34", "r13", "alpha"}, optional
         The number to solve for, where the sizes and the power or half-width are given.
     below : bool, default False
-        Solve for an effect on the lower side of none.
+        Solve for an effect smaller than none, such as a negative difference or a ratio below 1.
 
     Returns
     -------
