@@ -101,8 +101,7 @@ kelplan: headers, links, and files for CMake and pkg-config."
   DEPENDS kelcommon kelpower kelplan)
 kel_debian_package(program kelpower math
   "plan studies: power, sample size and precision"
-  "${about}" "This package has the program, with manual pages and completion for bash, zsh and fish."
-  DEPENDS kelcommon)
+  "${about}" "This package has the program, with manual pages and completion for bash, zsh and fish.")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "gnuplot-nox | gnuplot")
 include(KelDebianPython)
 include(CPack)

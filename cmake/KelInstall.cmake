@@ -4,10 +4,7 @@ include(CMakePackageConfigHelpers)
 
 set(packageDir ${CMAKE_INSTALL_LIBDIR}/cmake/kelpower)
 
-# The installed program finds the libraries, and the libraries each other, wherever the tree is moved.
-cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR BASE_DIRECTORY ${CMAKE_INSTALL_FULL_BINDIR} OUTPUT_VARIABLE libFromBin)
 if(TARGET kelpower_cli)
-  set_target_properties(kelpower_cli PROPERTIES INSTALL_RPATH "$ORIGIN/${libFromBin}")
   install(TARGETS kelpower_cli RUNTIME COMPONENT program)
   include(KelProgramFiles)
 endif()
@@ -18,6 +15,7 @@ if(TARGET kelplan)
   install(FILES capi/kelplan.h TYPE INCLUDE COMPONENT development)
   install(DIRECTORY capi/schema DESTINATION ${CMAKE_INSTALL_DATADIR}/kelpower COMPONENT development)
 endif()
+# The libraries find each other wherever the tree is moved.
 foreach(library IN LISTS libraries)
   set_target_properties(${library} PROPERTIES INSTALL_RPATH "$ORIGIN")
   install(TARGETS ${library} EXPORT kelpowerTargets

@@ -21,6 +21,8 @@ for file in "$folder"/bin/*; do
     while read -r other; do fail "$file asks for $other"; done
 done
 
+if x86_64-w64-mingw32-objdump -p "$folder/bin/kelpower.exe" | grep -q libkelcommon; then fail "the program does not stand alone"; fi
+
 # The header and the import library serve a program, which finds the libraries beside it.
 x86_64-w64-mingw32-gcc-posix -std=c99 -Wall -Wextra -Werror -I "$folder/include" tests/install/c_consumer/consumer.c \
   -L "$folder/lib" -lkelplan -o "$folder/bin/consumer.exe"

@@ -13,7 +13,7 @@ matches() { diff "$2" - || fail "$1 is not as expected"; }
 apt-get update -qq
 
 echo "the program"
-add ./libkelcommon0_*.deb ./kelpower_*.deb
+add ./kelpower_*.deb
 [ "$(kelpower --version)" = "kelpower $version" ] || fail "the program has another version"
 kelpower anova --means 10,12,15 --sd 6 --power 0.9 | matches "the answer" /test/answer.out
 for page in kelpower kelpower-two-means kelpower-run; do
@@ -28,7 +28,7 @@ for script in bash-completion/completions/kelpower zsh/vendor-completions/_kelpo
 done
 
 echo "the libraries"
-add ./libkelpower0_*.deb ./libkelplan0_*.deb ./libkelpower-dev_*.deb
+add ./libkelcommon0_*.deb ./libkelpower0_*.deb ./libkelplan0_*.deb ./libkelpower-dev_*.deb
 cd /test
 # shellcheck disable=SC2046 # lists of options
 g++ -std=c++17 -Wall -Wextra -Werror consumer.cpp $(pkg-config --cflags --libs kelpower) -o consumer
