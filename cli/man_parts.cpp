@@ -119,7 +119,7 @@ std::string UsageInFonts(const std::string& usage) {
   std::string text;
   for (std::string word, before; words >> word; before = word) {
     const bool isValue = before.find("--") <= 1 && IsOpen(before) && word != "|" && word.find("--") > 1;
-    if (!text.empty()) text += isValue ? "\\~" : " ";
+    if (!text.empty()) text += isValue || word == "|" ? "\\~" : " ";
     text += WordInFonts(word);
   }
   return text;

@@ -122,7 +122,7 @@ TEST(Roff, SetsUsageInFonts) {
             "\\fBkelpower\\fR \\fBanova\\fR \\fB\\-\\-n\\fR\\~\\fIN\\fR [\\fB\\-\\-one\\-sided\\fR] "
             "[\\fB\\-\\-sd\\fR\\~\\fISD\\fR]");
   EXPECT_EQ(UsageInFonts("kelpower mean (--non-inferiority | --margin MARGIN) --n N"),
-            "\\fBkelpower\\fR \\fBmean\\fR (\\fB\\-\\-non\\-inferiority\\fR | \\fB\\-\\-margin\\fR\\~\\fIMARGIN\\fR) "
+            "\\fBkelpower\\fR \\fBmean\\fR (\\fB\\-\\-non\\-inferiority\\fR\\~| \\fB\\-\\-margin\\fR\\~\\fIMARGIN\\fR) "
             "\\fB\\-\\-n\\fR\\~\\fIN\\fR");
 }
 
