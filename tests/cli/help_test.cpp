@@ -2,11 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <sstream>
+#include <string>
+#include <vector>
 
 #include "catalogue/catalogue.h"
 #include "catalogue/effects.h"
+#include "help_usage.h"
 #include "solve/axes.h"
 
 namespace {
@@ -76,6 +80,38 @@ TEST(Help, NamesEachInputOfAUsageLineOnceWithWhatStandsForItsValue) {
         EXPECT_FALSE(needsValue && isOption) << line;
       }
     }
+  }
+}
+
+/// The lines that "(a | b)" stands for.
+std::vector<std::string> Expanded(const std::string& line) {
+  const std::size_t open = line.find('(');
+  if (open == std::string::npos) return {line};
+  const std::size_t close = line.find(')', open);
+  std::vector<std::string> lines;
+  for (std::size_t from = open + 1; from < close;) {
+    const std::size_t to = std::min(line.find(" | ", from), close);
+    const std::string one = line.substr(0, open) + line.substr(from, to - from) + line.substr(close + 1);
+    for (const std::string& whole : Expanded(one)) lines.push_back(whole);
+    from = to + 3;
+  }
+  return lines;
+}
+
+TEST(Help, ShowsEachWayToAskAQuestionOnce) {
+  for (const planner::Test& test : planner::Tests()) {
+    std::multiset<std::string> shown;
+    std::multiset<std::string> ways;
+    for (const auto question : {planner::Question::Power, planner::Question::SampleSize, planner::Question::HalfWidth,
+                                planner::Question::SampleSizeForHalfWidth}) {
+      const std::vector<std::string> lines = Usages(test, question);
+      EXPECT_LE(lines.size(), 10u) << test.name;
+      for (const std::string& line : lines) {
+        for (const std::string& one : Expanded(line)) shown.insert(one);
+      }
+    }
+    for (const planner::Route& route : test.routes) ways.insert(Usage(test, route));
+    EXPECT_EQ(shown, ways);
   }
 }
 
