@@ -37,7 +37,8 @@ Details OfOne(const comparisons::DunnettTest& test, const Inputs& in) {
                                                  : "pt({critical-t}, {df}, {noncentrality}, lower.tail = FALSE) + "
                                                    "pt(-{critical-t}, {df}, {noncentrality})",
                           .remark = "the formula, from the noncentrality and the critical value on"}};
-  details.source = std::string(source) + "; with the noncentral t distribution";
+  details.source = source;
+  details.source += "; with the noncentral t distribution";
   return details;
 }
 

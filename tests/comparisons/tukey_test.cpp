@@ -18,7 +18,7 @@ constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 using Means = std::vector<double>;
 
 TEST(TukeyTest, HoldsItsLevelForAllPairs) {
-  for (std::size_t groups : {2, 3, 6, 20})
+  for (std::size_t groups : {2u, 3u, 6u, 20u})
     for (double size : {2.0, 5.0, 400.0})
       for (double alpha : {0.2, 0.05, 1e-4})
         EXPECT_NEAR(*PowerOfAnyPair(Means(groups, 7.5), size, alpha), alpha, 2e-15) << groups << " " << size;

@@ -14,15 +14,15 @@ namespace {
 struct Design {
   Parent parent;
   double shift;
-  int n1;
-  int n2;
+  double n1;
+  double n2;
 };
 
 SimulatedShare Rejected(const Design& design, int studies) {
-  const double lowest = LargestRejected(MassesOfPairs(design.n1, design.n2), 0.025);
+  std::vector<double> first(static_cast<std::size_t>(design.n1));
+  std::vector<double> second(static_cast<std::size_t>(design.n2));
+  const double lowest = LargestRejected(MassesOfPairs(first.size(), second.size()), 0.025);
   const double pairs = design.n1 * design.n2;
-  std::vector<double> first(design.n1);
-  std::vector<double> second(design.n2);
   return Simulate(studies, 1, [&](auto& engine) {
     Draw(design.parent, design.shift, first, engine);
     Draw(design.parent, 0, second, engine);

@@ -14,13 +14,13 @@ namespace {
 struct Design {
   Parent parent;
   double shift;
-  int n;
+  double n;
 };
 
 SimulatedShare Rejected(const Design& design, int studies) {
-  const double lowest = LargestRejected(MassesOfSignedRanks(design.n), 0.025);
-  const double all = design.n * (design.n + 1) / 2.0;
-  std::vector<double> values(design.n);
+  std::vector<double> values(static_cast<std::size_t>(design.n));
+  const double lowest = LargestRejected(MassesOfSignedRanks(values.size()), 0.025);
+  const double all = design.n * (design.n + 1) / 2;
   return Simulate(studies, 1, [&](auto& engine) {
     Draw(design.parent, design.shift, values, engine);
     const double positive = SumOfPositiveRanks(values);

@@ -70,17 +70,18 @@ inline double LargestRejected(const Masses& masses, double level) {
 
 /// Of the count of pairs in which the first of two equal groups is larger: a walk that adds the values of the first
 /// group by size (Mann and Whitney 1947, Annals of Mathematical Statistics 18, 50-60).
-inline Masses MassesOfPairs(int n1, int n2) {
+inline Masses MassesOfPairs(std::size_t n1, std::size_t n2) {
   std::vector<std::vector<Masses>> of(n1 + 1, std::vector<Masses>(n2 + 1));
-  for (int i = 0; i <= n1; ++i) {
-    for (int j = 0; j <= n2; ++j) {
+  for (std::size_t i = 0; i <= n1; ++i) {
+    for (std::size_t j = 0; j <= n2; ++j) {
       Masses& masses = of[i][j];
       masses.assign(i * j + 1, 0);
       if (i == 0 || j == 0) {
         masses[0] = 1;
         continue;
       }
-      const double share = static_cast<double>(i) / (i + j);  // that the largest of all is of the first group
+      const double share =
+          static_cast<double>(i) / static_cast<double>(i + j);  // that the largest of all is of the first group
       for (std::size_t k = 0; k < of[i - 1][j].size(); ++k) masses[k + j] += share * of[i - 1][j][k];
       for (std::size_t k = 0; k < of[i][j - 1].size(); ++k) masses[k] += (1 - share) * of[i][j - 1][k];
     }
@@ -89,9 +90,9 @@ inline Masses MassesOfPairs(int n1, int n2) {
 }
 
 /// Of the sum of the ranks of the positive differences of `n`: each rank counts or not.
-inline Masses MassesOfSignedRanks(int n) {
+inline Masses MassesOfSignedRanks(std::size_t n) {
   Masses masses{1};
-  for (int rank = 1; rank <= n; ++rank) {
+  for (std::size_t rank = 1; rank <= n; ++rank) {
     Masses next(masses.size() + rank, 0);
     for (std::size_t k = 0; k < masses.size(); ++k) {
       next[k] += masses[k] / 2;

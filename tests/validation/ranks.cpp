@@ -44,7 +44,7 @@ Study OfMannWhitney(Inputs& inputs) {
                                                  : inputs.Number("effect-d");
   const auto n1 = static_cast<std::size_t>(n[0]);
   const auto n2 = static_cast<std::size_t>(n[1]);
-  const Rejection rejects = ByMasses(inputs, ranks::MassesOfPairs(static_cast<int>(n1), static_cast<int>(n2)), shift);
+  const Rejection rejects = ByMasses(inputs, ranks::MassesOfPairs(n1, n2), shift);
   const auto first = std::make_shared<std::vector<double>>(n1);
   const auto second = std::make_shared<std::vector<double>>(n2);
   return {false, [=](Engine& engine) {
@@ -55,14 +55,14 @@ Study OfMannWhitney(Inputs& inputs) {
 }
 
 Study OfSignedRank(Inputs& inputs) {
-  const int n = inputs.Whole("n");
+  const auto n = static_cast<std::size_t>(inputs.Whole("n"));
   const Parent parent = ParentOf(inputs);
   inputs.Choice("method", "");
   const double shift = inputs.Has("positive-average")
                            ? QuantileOfNormal(inputs.Number("positive-average")) / std::sqrt(2.0)
                            : inputs.Number("effect-d");
   const Rejection rejects = ByMasses(inputs, ranks::MassesOfSignedRanks(n), shift);
-  const auto values = std::make_shared<std::vector<double>>(static_cast<std::size_t>(n));
+  const auto values = std::make_shared<std::vector<double>>(n);
   return {false, [=](Engine& engine) {
             ranks::Draw(parent, shift, *values, engine);
             return rejects(ranks::SumOfPositiveRanks(*values));

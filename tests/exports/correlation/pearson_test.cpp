@@ -16,7 +16,6 @@ using keltest::CountingStop;
 using KelCommon::KelMV;
 using KelMath::KelDistFun;
 
-constexpr double infinite = std::numeric_limits<double>::infinity();
 constexpr double quietNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr std::uint8_t bothFlags[] = {0, 1};
 
