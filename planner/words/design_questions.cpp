@@ -1,6 +1,7 @@
 #include "words/design_questions.h"
 
 #include <algorithm>
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -62,14 +63,15 @@ std::vector<PreparedQuestion> QuestionsOf(const Designs& designs) {
   return questions;
 }
 
-std::map<const Parameter*, const PreparedQuestion*> InputsOf(const std::vector<PreparedQuestion>& questions) {
-  std::map<const Parameter*, const PreparedQuestion*> inputs;  // those of a test stand one behind the other
+std::vector<AskedInput> InputsOf(const std::vector<PreparedQuestion>& questions) {
+  std::map<const Parameter*, const PreparedQuestion*> first;  // inputs of a test stand one behind the other
   for (const PreparedQuestion& question : questions) {
-    for (const Parameter* input :
-         ListedParameters(question.AskedTest(), question.ChosenRoute(), question.SolvedFor(), question.Design())) {
-      inputs.emplace(input, &question);
-    }
+    const std::vector<const Parameter*> listed =
+        ListedParameters(question.AskedTest(), question.ChosenRoute(), question.SolvedFor(), question.Design());
+    for (const Parameter* parameter : listed) first.emplace(parameter, &question);
   }
+  std::vector<AskedInput> inputs;
+  for (const auto& [parameter, question] : first) inputs.push_back({parameter, question});
   return inputs;
 }
 

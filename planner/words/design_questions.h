@@ -1,7 +1,6 @@
 #ifndef KELPOWER_PLANNER_WORDS_DESIGN_QUESTIONS_H
 #define KELPOWER_PLANNER_WORDS_DESIGN_QUESTIONS_H
 
-#include <map>
 #include <vector>
 
 #include "solve/designs.h"
@@ -15,9 +14,14 @@ namespace planner {
 /// inputs and results than the approximate one beside it. Throws the first InputError when none can be asked.
 std::vector<PreparedQuestion> QuestionsOf(const Designs& designs);
 
-/// The inputs that the questions are about, given or not, in the order of a report; each with the first question that is
-/// about it.
-std::map<const Parameter*, const PreparedQuestion*> InputsOf(const std::vector<PreparedQuestion>& questions);
+/// An input, and the first question that is about it.
+struct AskedInput {
+  const Parameter* parameter;
+  const PreparedQuestion* question;
+};
+
+/// The inputs that the questions are about, given or not, in the order of a report.
+std::vector<AskedInput> InputsOf(const std::vector<PreparedQuestion>& questions);
 
 /// The results that answers to any of the questions tell, in the order of a report.
 std::vector<ResultColumn> ResultsOf(const std::vector<PreparedQuestion>& questions);

@@ -26,11 +26,12 @@ TableOfDesigns::TableOfDesigns(const Designs& designs, TableFormat format, NameO
 
 void TableOfDesigns::ListInputs(const std::vector<PreparedQuestion>& questions) {
   const auto& given = designs_.Inputs();
-  for (const auto& [parameter, question] : InputsOf(questions)) {
+  for (const AskedInput& asked : InputsOf(questions)) {
+    const PreparedQuestion& question = *asked.question;
     const auto found = std::find_if(given.begin(), given.end(),
-                                    [&](const Alternatives& input) { return input.parameter == parameter; });
-    inputs_.push_back({parameter, NameInReports(*parameter, question->ChosenRoute(), question->SolvedFor()),
-                       static_cast<std::size_t>(found - given.begin()), question->Design().ValueOf(*parameter)});
+                                    [&](const Alternatives& input) { return input.parameter == asked.parameter; });
+    inputs_.push_back({asked.parameter, NameInReports(*asked.parameter, question.ChosenRoute(), question.SolvedFor()),
+                       static_cast<std::size_t>(found - given.begin()), question.Design().ValueOf(*asked.parameter)});
   }
 }
 
