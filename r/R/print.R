@@ -1,6 +1,7 @@
 # What an answer looks like in the console.
 
 INDENT <- "  "
+LABEL_WIDTH <- 30
 ROWS_SHOWN <- 20
 
 #' @export
@@ -10,17 +11,17 @@ format.kelpower <- function(x, digits = 4, ...) {
   shown <- x$inputs[setdiff(names(x$inputs), names(x$results))]
   flags <- vapply(shown, is.logical, NA)
   shown <- c(shown[!flags], shown[flags & vapply(shown, isTRUE, NA)])
-  c("", paste0(INDENT, x$method), "",
-    labelled(shown, labels, digits), "", labelled(x$results, labels, digits), "",
+  lines <- labelled(c(shown, x$results), labels, digits)
+  inputs <- seq_along(shown)
+  c("", paste0(INDENT, x$method), "", lines[inputs], "", lines[-inputs], "",
     paste0("NOTE: ", x$note), "", strwrap(x$sentence, getOption("width")))
 }
 
 labelled <- function(values, labels, digits) {
-  if (!length(values)) return(character())
   known <- names(values) %in% names(labels)
   names(values)[known] <- labels[names(values)[known]]
   texts <- vapply(values, format_value, "", digits = digits)
-  paste0(INDENT, formatC(names(values), width = -30), texts)
+  paste0(INDENT, formatC(names(values), width = -max(LABEL_WIDTH, nchar(names(values)) + 2)), texts)
 }
 
 format_value <- function(value, digits) {

@@ -43,6 +43,12 @@ test_that("answers look as they should", {
   expect_snapshot(kp_effect(t = 2.3, n = c(20, 20)))
 })
 
+test_that("values stand under each other, clear of their labels", {
+  lines <- format(kp_proportion(proportion = 0.6, null = 0.5, power = 0.8, exact = TRUE))
+  expect_true("  all larger sizes reach it from  210" %in% lines)
+  expect_true("  sample size                     199" %in% lines)
+})
+
 test_that("methods of other packages work where these are", {
   r <- kp_two_means(effect_d = c(0.2, 0.5), power = 0.9)
   if (requireNamespace("generics", quietly = TRUE)) {

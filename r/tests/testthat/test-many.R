@@ -16,6 +16,7 @@ test_that("rows with their own flags, words, lists and lengths of lists answer a
     list(kp_pairwise, pair = c(1, 2), groups = c(3, 4, 3), effect_d = 0.5, n = 30, adjust = c("none", "sidak", "none")),
     list(kp_mean, effect_d = 0.5, n = c(20, 30, 40), alpha = c(0.05, 0.01, 0.05)),
     list(kp_pearson, r = c(0.1, 0.3, 0.5), power = 0.8),
+    list(kp_two_proportions, proportion1 = 0.3, proportion2 = 0.5, method = c("z", "conditional", "t"), power = 0.8),
     list(kp_regression, r_squared = 0.1, predictors = c(2, 3, 5), n = 100),
     list(kp_anova, means = matrix(c(1, 2, 3, 2, 4, 6, 1, 1, 2), 3, byrow = TRUE), sd = 4, power = 0.8))
   for (design in designs) {
@@ -31,6 +32,12 @@ test_that("rows with their own flags, words, lists and lengths of lists answer a
       for (name in names(one)) expect_identical(together[[name]][i], one[[name]], label = name)
     }
   }
+})
+
+test_that("a flag stays what it was where only some designs have a use for it", {
+  r <- as.data.frame(kp_proportion(proportion = 0.6, null = 0.5, n = 100, exact = c(FALSE, TRUE)))
+  expect_identical(r$exact, c(FALSE, TRUE))
+  expect_identical(is.na(r$attained_level), c(TRUE, FALSE))
 })
 
 test_that("a design without an answer is NA and tells why", {
