@@ -128,13 +128,6 @@ function titled(axis: Axis, chart: Chart): Axis {
   return { ...axis, title, symbol: axis.name === "n" && /first group/.test(title) ? texts.ofFirstGroup : axis.symbol };
 }
 
-/** The design at the sizes found, as the power is asked of it. */
-async function atSizesFound(core: Core, design: Design, sizes: number[], signal?: AbortSignal): Promise<Design> {
-  const size = sizes[0]!;
-  const chart = await drawn(core, { ...design, chart: "n", from: [size], to: [size + 1] }, signal);
-  return { test: design.test, inputs: chart.curves[0]!.inputs };
-}
-
 async function loadSaw(
   core: Core,
   design: Design,
