@@ -4,8 +4,7 @@
 #include <map>
 #include <optional>
 #include <set>
-#include <string>
-#include <variant>
+#include <utility>
 
 #include "model/problem.h"
 #include "words/report.h"
@@ -13,21 +12,23 @@
 namespace planner {
 namespace {
 
-/// How many shapes designs can have by this input alone.
-std::size_t ShapesBy(const Alternatives& input) {
-  std::set<std::size_t> lengths;
-  for (const Value& value : input.values) {
-    const auto* numbers = std::get_if<Numbers>(&value);
-    const bool isNumber = numbers || std::holds_alternative<double>(value);
-    if (!isNumber || input.parameter->role == Role::Shape) return input.values.size();
-    lengths.insert(numbers ? numbers->size() : 1);
+bool IsOfWords(const Parameter& parameter) { return parameter.kind == Kind::Flag || parameter.kind == Kind::Choice; }
+
+/// The flags and words of the design, which decide what is asked.
+std::vector<const Value*> WordsOf(const Designs& designs, std::size_t design) {
+  std::vector<const Value*> words;
+  for (std::size_t i = 0; i < designs.Inputs().size(); ++i) {
+    if (IsOfWords(*designs.Inputs()[i].parameter)) words.push_back(&designs.ValueOf(i, design));
   }
-  return lengths.size();
+  return words;
 }
 
-std::size_t MostShapes(const Designs& designs) {
+/// How many combinations of flags and words there are.
+std::size_t MostQuestions(const Designs& designs) {
   std::size_t most = 1;
-  for (const Alternatives& input : designs.Inputs()) most *= ShapesBy(input);
+  for (const auto& [parameter, values] : designs.Inputs()) {
+    if (IsOfWords(*parameter)) most *= values.size();
+  }
   return most;
 }
 
@@ -44,17 +45,18 @@ void Merge(std::vector<ResultColumn>& all, const std::vector<ResultColumn>& some
 }  // namespace
 
 std::vector<PreparedQuestion> QuestionsOf(const Designs& designs) {
-  const std::size_t mostShapes = MostShapes(designs);
+  const std::size_t most = MostQuestions(designs);
   std::vector<PreparedQuestion> questions;
-  std::set<std::string> shapes;
+  std::set<std::vector<const Value*>> asked;
   std::optional<InputError> first;
   DesignRow row;
-  for (std::size_t i = 0; i < designs.Count() && questions.size() < mostShapes; ++i) {
+  for (std::size_t i = 0; i < designs.Count() && questions.size() < most; ++i) {
+    std::vector<const Value*> words = WordsOf(designs, i);
+    if (asked.count(words) > 0) continue;
     designs.Fill(i, row);
-    if (shapes.count(row.Shape()) > 0) continue;
     try {
       questions.emplace_back(designs.AskedTest(), row.Values());
-      shapes.insert(row.Shape());
+      asked.insert(std::move(words));
     } catch (const InputError& error) {
       if (!first) first = error;
     }

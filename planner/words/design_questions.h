@@ -10,8 +10,8 @@
 // What the answers to many designs have in common, known before any of them is computed.
 namespace planner {
 
-/// A question for each shape of designs that can be asked, in the order of the designs: an exact test may have other
-/// inputs and results than the approximate one beside it. Throws the first InputError when none can be asked.
+/// The first question of each combination of flags and words that can be asked: an exact test may have other inputs and
+/// results than the approximate one beside it. Throws the first InputError when none can be asked.
 std::vector<PreparedQuestion> QuestionsOf(const Designs& designs);
 
 /// An input, and the first question that is about it.
