@@ -100,22 +100,26 @@ Call CallOf(const Route& route) {
   return call;
 }
 
-/// The only place at which the calls differ, or null.
-Names* OnlyDifference(Call& call, const Call& other) {
-  if (call.needs.size() != other.needs.size() || call.route->accepts != other.route->accepts) return nullptr;
-  const auto [first, its] = std::mismatch(call.needs.begin(), call.needs.end(), other.needs.begin());
-  if (first == call.needs.end() || !std::equal(first + 1, call.needs.end(), its + 1)) return nullptr;
-  return &*first;
+/// The only place at which what the calls need differs, if there is one.
+std::optional<std::size_t> OnlyDifference(const Call& call, const Call& other) {
+  if (call.needs.size() != other.needs.size() || call.route->accepts != other.route->accepts) return std::nullopt;
+  std::optional<std::size_t> place;
+  for (std::size_t i = 0; i < call.needs.size(); ++i) {
+    if (call.needs[i] == other.needs[i]) continue;
+    if (place) return std::nullopt;
+    place = i;
+  }
+  return place;
 }
 
 /// Joins the first two calls that can be joined. Gives whether there were any.
 bool JoinTwo(std::vector<Call>& calls) {
   for (auto call = calls.begin(); call != calls.end(); ++call) {
     for (auto other = call + 1; other != calls.end(); ++other) {
-      Names* place = OnlyDifference(*call, *other);
+      const std::optional<std::size_t> place = OnlyDifference(*call, *other);
       if (!place) continue;
-      const Names& more = other->needs[static_cast<std::size_t>(place - call->needs.data())];
-      place->insert(place->end(), more.begin(), more.end());
+      Names& inputs = call->needs[*place];
+      inputs.insert(inputs.end(), other->needs[*place].begin(), other->needs[*place].end());
       calls.erase(other);
       return true;
     }

@@ -22,7 +22,8 @@ constexpr int observed = 1;
 }  // namespace
 
 Parameter MarginScale() {
-  return OneOf("margin-scale", "scale of the margin", "whether margin and limits of equivalence are a difference, a ratio or an odds ratio",
+  return OneOf("margin-scale", "scale of the margin",
+               "whether margin and limits of equivalence are a difference, a ratio or an odds ratio",
                {{"difference", CodeOf(Contrast::Difference), "difference"},
                 {"ratio", CodeOf(Contrast::RiskRatio), "ratio"},
                 {"odds-ratio", CodeOf(Contrast::OddsRatio), "odds ratio"}})

@@ -25,8 +25,8 @@ struct Condition {
   std::string sentence;  // what is wrong when it fails, with inputs in braces
 };
 
-/// A figure reported besides the answer when its inputs are there, such as an effect size. One that needs `n` is told at
-/// sizes that are found as well.
+/// A figure reported besides the answer when its inputs are there, such as an effect size. One that needs `n` is also told
+/// at sizes that are found.
 struct Derived {
   std::string name;
   std::string label;

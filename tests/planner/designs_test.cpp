@@ -10,6 +10,7 @@
 
 #include "solve/design_solver.h"
 #include "support.h"
+#include "words/csv.h"
 #include "words/parse.h"
 #include "words/table_of_designs.h"
 
@@ -240,29 +241,23 @@ TEST(TableOfDesigns, HasNoColumnOfNotesWithoutOne) {
             "Held fixed: sample size 20; significance level 0.05.\n");
 }
 
-std::vector<std::string> FieldsOf(const std::string& line) {
-  std::vector<std::string> fields;
-  std::istringstream text(line);
-  for (std::string field; std::getline(text, field, ',');) fields.push_back(field);
-  return fields;
-}
-
 using FieldsByColumn = std::map<std::string, std::string>;
 
 /// The rows of a table, without empty fields.
 std::vector<FieldsByColumn> RowsOf(const std::string& csv) {
-  std::istringstream text(csv);
-  std::string line;
-  std::getline(text, line);
-  const std::vector<std::string> heads = FieldsOf(line);
+  CsvRecord heads;
+  CsvRecord record;
+  heads.Split(std::string_view(csv).substr(0, csv.find('\n')));
   std::vector<FieldsByColumn> rows;
-  while (std::getline(text, line)) {
-    const std::vector<std::string> fields = FieldsOf(line);
-    FieldsByColumn row;
-    for (std::size_t i = 0; i < std::min(heads.size(), fields.size()); ++i) {
-      if (!fields[i].empty()) row[heads[i]] = fields[i];
+  for (std::size_t from = csv.find('\n') + 1; from < csv.size();) {
+    const std::size_t end = CsvRecordEnd(csv, from);
+    record.Split(std::string_view(csv).substr(from, end - from));
+    EXPECT_EQ(record.Count(), heads.Count()) << csv;
+    FieldsByColumn& row = rows.emplace_back();
+    for (std::size_t i = 0; i < std::min(heads.Count(), record.Count()); ++i) {
+      if (!record.Fields()[i].empty()) row[std::string(heads.Fields()[i])] = record.Fields()[i];
     }
-    rows.push_back(std::move(row));
+    from = end;
   }
   return rows;
 }

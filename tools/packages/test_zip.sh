@@ -15,6 +15,8 @@ for file in README.txt LICENSE.txt LICENSES.txt bin/kelpower.exe bin/libkelplan.
   lib/libkelplan.dll.a lib/libkelpower.dll.a lib/libkelcommon.dll.a include/kelplan.h include/kelpower.h; do
   [ -f "$folder/$file" ] || fail "$file is missing"
 done
+[ "$(tr -cd '\r' <"$folder/README.txt" | wc -c)" = "$(wc -l <"$folder/README.txt")" ] ||
+  fail "the lines of README.txt do not end as those of Windows do"
 # Nothing but Windows is asked for.
 for file in "$folder"/bin/*; do
   x86_64-w64-mingw32-objdump -p "$file" | sed -n 's/.*DLL Name: //p' | grep -vixE 'kernel32.dll|msvcrt.dll|libkelcommon.dll' |
